@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "history/RecordedScan.h"
+#include "probe/ProcessContext.h"
+
+namespace Loadwick {
+
+/// Owns the history file. Keeps no list between calls: each one reads the file afresh. Reports no
+/// error: an unreadable history is an empty one, and a failed write leaves the old file.
+/// Belongs to the interface thread; two programs writing at once overwrite each other, but whole.
+class ScanHistoryStore
+{
+public:
+    static constexpr std::int64_t schemaVersion = 1;
+    static constexpr std::size_t maximumScans = 200;
+    static constexpr std::size_t maximumBytes = std::size_t{256} << 20; ///< read of a file
+    static constexpr std::string_view fileName = "scan-history.json";
+    static constexpr std::string_view directoryName = "Loadwick";
+
+    /// Creates nothing on disk.
+    explicit ScanHistoryStore(std::filesystem::path directory);
+
+    /// Where the platform keeps a program's data: $XDG_DATA_HOME/Loadwick, or
+    /// ~/.local/share/Loadwick when that is unset or relative (~/Library/Application Support/
+    /// Loadwick on macOS).
+    [[nodiscard]] static std::filesystem::path defaultDirectory(const Environment &environment);
+
+    [[nodiscard]] const std::filesystem::path &directory() const noexcept { return m_directory; }
+    [[nodiscard]] const std::filesystem::path &fileURL() const noexcept { return m_fileURL; }
+
+    /// The recorded scans, oldest first (by date, then repository name, then as they stood).
+    [[nodiscard]] std::vector<RecordedScan> load() const;
+
+    /// Adds a scan, keeps the newest `maximumScans`, writes the file and gives the list as it was
+    /// meant to be written, whether or not writing succeeded.
+    [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan);
+
+    /// Deletes the file. Never fails, and never removes a folder.
+    void clear();
+
+private:
+    std::filesystem::path m_directory;
+    std::filesystem::path m_fileURL;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "history/RecordedScan.h"
+#include "history/ScanHistoryStore.h"
+#include "model/Published.h"
+#include "model/RepoSelection.h"
+#include "model/ScanState.h"
+#include "model/TaskDispatcher.h"
+#include "probe/ProbeRunning.h"
+#include "report/InstructionFileScanning.h"
+
+namespace Loadwick {
+
+/// Drives one scan at a time from a chosen folder to a recorded report, and owns the history.
+/// Belongs to the interface thread; only the blocking work of its collaborators runs elsewhere, and
+/// outcomes that arrive after the model has gone are dropped.
+class ScanModel
+{
+public:
+    /// What a scan costs.
+    static const std::string_view allowanceDisclosure;
+
+    struct Collaborators
+    {
+        std::shared_ptr<ProbeRunning> probeRunner;
+        std::shared_ptr<InstructionFileScanning> instructionScanner;
+        std::unique_ptr<ScanHistoryStore> historyStore; ///< none: nothing is recorded
+        std::shared_ptr<TaskDispatcher> dispatcher;
+        std::function<std::chrono::sys_seconds()> now; ///< the clock that dates recorded scans
+    };
+
+    /// Loads the history.
+    explicit ScanModel(Collaborators collaborators);
+    ~ScanModel();
+
+    ScanModel(const ScanModel &) = delete;
+    ScanModel &operator=(const ScanModel &) = delete;
+
+    [[nodiscard]] Published<ScanState> &state() noexcept;
+    [[nodiscard]] Published<std::optional<RepoSelection>> &selection() noexcept;
+    [[nodiscard]] Published<std::vector<RecordedScan>> &history() noexcept; ///< oldest first
+
+    /// A folder is chosen and no scan runs.
+    [[nodiscard]] bool canScan() const noexcept;
+
+    /// There is a store and something in it.
+    [[nodiscard]] bool canClearHistory() const noexcept;
+
+    /// Chooses a folder and goes back to idle; ignored while a scan runs.
+    void select(const RepoSelection &selection);
+
+    /// Starts one scan and returns; its outcome shows in `state` and `history`. Does nothing
+    /// without a selection or while a scan runs.
+    void scan();
+
+    /// Forgets every recorded scan, also when the file cannot be deleted.
+    void clearHistory();
+
+private:
+    struct Internals;
+    std::shared_ptr<Internals> m_internals;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <exception>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <utility>
+
+namespace Loadwick {
+
+/// Runs `call` on a thread of its own and waits for its value at most `limit` seconds. Nothing when
+/// the limit came first: the call then goes on alone, so it must own all that it touches. An
+/// exception of the call, or of starting the thread, reaches the caller.
+template<typename Call>
+[[nodiscard]] auto callWithin(std::chrono::duration<double> limit, Call call)
+    -> std::optional<decltype(call())>
+{
+    using Value = decltype(call());
+    struct Outcome
+    {
+        std::mutex mutex;
+        std::condition_variable arrived;
+        std::optional<Value> value;
+        std::exception_ptr error;
+    };
+    const auto outcome = std::make_shared<Outcome>();
+    std::thread([outcome, call = std::move(call)]() mutable {
+        std::optional<Value> value;
+        std::exception_ptr error;
+        try {
+            value.emplace(call());
+        } catch (...) {
+            error = std::current_exception();
+        }
+        const std::lock_guard lock(outcome->mutex);
+        outcome->value = std::move(value);
+        outcome->error = error;
+        outcome->arrived.notify_all();
+    }).detach();
+
+    std::unique_lock lock(outcome->mutex);
+    outcome->arrived.wait_for(lock, limit, [&] { return outcome->value || outcome->error; });
+    if (outcome->error)
+        std::rethrow_exception(outcome->error);
+    return std::move(outcome->value);
+}
+
+} // namespace Loadwick

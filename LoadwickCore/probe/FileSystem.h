@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+
+namespace Loadwick {
+
+/// The one question that the transcript search asks of a disk.
+class FileSystem
+{
+public:
+    enum class EntryKind
+    {
+        file,
+        folder,
+        other
+    };
+    enum class Walk
+    {
+        goOn,
+        stop
+    };
+
+    /// `name` is the entry's last component, in bytes. Return `stop` to end the listing.
+    using Visitor = std::function<Walk(const std::string &name, EntryKind kind)>;
+
+    virtual ~FileSystem() = default;
+
+    /// Visits the entries of `folder` in the disk's own order, "." and ".." left out. A link counts
+    /// as what it leads to when that is a file, and as `other` when it leads to a folder. A folder
+    /// that cannot be listed has no entries.
+    virtual void list(const std::filesystem::path &folder, const Visitor &visit) const = 0;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+
+#include "probe/ProbeError.h"
+
+/// Asks whether a folder can be listed, before a session is spent on it.
+namespace Loadwick::FolderAccess {
+
+/// `repositoryUnreadable` when listing fails for any reason, else nothing. Blocks for as long as
+/// the disk does.
+[[nodiscard]] std::optional<ProbeError> checkSynchronously(const std::filesystem::path &repository);
+
+/// The same within a limit: a disk that has not answered by then counts as unreadable. Blocking:
+/// call it off the interface thread.
+[[nodiscard]] std::optional<ProbeError>
+preflight(const std::filesystem::path &repository,
+          std::chrono::duration<double> limit = std::chrono::seconds(30));
+
+} // namespace Loadwick::FolderAccess

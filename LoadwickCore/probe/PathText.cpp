@@ -1,0 +1,20 @@
+#include "probe/PathText.h"
+
+#include "probe/UnicodeText.h"
+
+namespace Loadwick {
+
+std::string pathText(const std::filesystem::path &path)
+{
+    return repairedUtf8(path.native());
+}
+
+std::filesystem::path standardizedPath(const std::filesystem::path &path)
+{
+    std::filesystem::path standard = path.lexically_normal();
+    if (!standard.has_filename() && standard.has_relative_path())
+        standard = standard.parent_path();
+    return standard;
+}
+
+} // namespace Loadwick

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "probe/ClaudeCLILocator.h"
+#include "probe/Execution.h"
+#include "probe/FileSystem.h"
+#include "probe/ProbeRunning.h"
+#include "probe/ProbeUsage.h"
+#include "probe/ProcessContext.h"
+#include "probe/Shutdown.h"
+
+namespace Loadwick {
+
+/// Measures a repository with exactly one headless session. Holds settings only: runs are
+/// independent of each other, and a failed one leaves nothing behind.
+class ProbeRunner final : public ProbeRunning
+{
+public:
+    static constexpr double defaultTimeoutSeconds = 300.0;
+    static constexpr double defaultKillGraceSeconds = 5.0;
+    static constexpr double defaultReaderGraceSeconds = 5.0;
+    static constexpr std::size_t defaultCaptureLimit = std::size_t{1} << 30;
+
+    /// The session's prompt.
+    static const std::string_view probePrompt;
+
+    struct Settings
+    {
+        std::optional<std::string> cliOverride;
+        std::string home;
+        std::filesystem::path projectsRoot;
+        Environment environment;                ///< what the child's environment is made from
+        std::filesystem::path workingDirectory; ///< against which its relative folders stand
+        ClaudeCLILocator::Lookup lookup;
+        std::shared_ptr<const FileSystem> fileSystem;
+        std::shared_ptr<Shutdown> shutdown;
+        int transcriptRetries = 12;            ///< attempts; fewer than 1 count as 1
+        double transcriptRetryDelay = 0.4;     ///< seconds before every attempt but the first
+        double transcriptSearchSeconds = 30.0; ///< then there is no transcript
+        double timeoutSeconds = defaultTimeoutSeconds;
+        double killGraceSeconds = defaultKillGraceSeconds;
+        double readerGraceSeconds = defaultReaderGraceSeconds;
+        std::size_t captureLimit = defaultCaptureLimit; ///< bytes kept of each stream
+    };
+
+    /// The settings of the running program: the user's own home, environment, disk and login shell.
+    [[nodiscard]] static Settings userSettings(const Environment &environment,
+                                               std::shared_ptr<Shutdown> shutdown);
+
+    explicit ProbeRunner(Settings settings);
+
+    [[nodiscard]] ProbeResult run(const std::filesystem::path &repository) override;
+
+    /// The child's arguments after the executable.
+    [[nodiscard]] static std::vector<std::string> arguments();
+
+    /// One child process to run.
+    struct Launch
+    {
+        std::string cli;
+        std::filesystem::path repository; ///< its working folder
+        double timeoutSeconds = defaultTimeoutSeconds;
+        double killGraceSeconds = defaultKillGraceSeconds;     ///< between SIGTERM and SIGKILL
+        double readerGraceSeconds = defaultReaderGraceSeconds; ///< for the streams, after its end
+        Environment environment;                               ///< the child's own, complete
+        std::vector<std::string> arguments = ProbeRunner::arguments();
+        std::size_t captureLimit = defaultCaptureLimit; ///< bytes kept of each stream
+        std::shared_ptr<Shutdown> shutdown;
+    };
+
+    /// Starts the child in a session of its own, captures both its streams and returns when it has
+    /// ended and both are drained, or when the time-out and its graces say to stop waiting.
+    /// Blocking. Throws `unreadableOutput` when the child cannot be started.
+    [[nodiscard]] static Execution execute(const Launch &launch);
+
+    /// "num_turns" of the result record, when there is one and it is an exact integer.
+    [[nodiscard]] static std::optional<std::int64_t> reportedTurns(std::string_view standardOutput);
+
+private:
+    [[nodiscard]] std::optional<ProbeUsage> transcriptUsage(const std::string &sessionID) const;
+
+    Settings m_settings;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace Loadwick {
+
+/// The program's end, as its background work sees it: a latch that wakes every wait, and the list
+/// of child process groups that must not outlive the program. Shared by all threads.
+class Shutdown
+{
+public:
+    /// Wakes every `waitFor`, now and later. Cannot be taken back.
+    void request();
+    [[nodiscard]] bool isRequested() const;
+
+    /// Sleeps until `duration` has passed or the end was requested; true for the latter.
+    bool waitFor(std::chrono::duration<double> duration);
+
+    /// Enters a process group whose leader is our child. False, and nothing entered, once the end
+    /// was requested: the caller then stops the child itself.
+    [[nodiscard]] bool add(pid_t group);
+
+    /// Takes a group off the list. Call it before the leader is reaped: from then on the number may
+    /// belong to somebody else.
+    void remove(pid_t group);
+
+    /// Requests the end, sends every listed group SIGTERM and, to those still listed after `grace`,
+    /// SIGKILL. Returns as soon as no group is listed, at the latest after `grace`.
+    void stopChildren(std::chrono::duration<double> grace);
+
+private:
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<pid_t> m_groups;
+    bool m_isRequested = false;
+};
+
+} // namespace Loadwick

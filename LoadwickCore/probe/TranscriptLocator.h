@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "probe/FileSystem.h"
+#include "probe/ProcessContext.h"
+
+/// Finds the transcript file of a session.
+namespace Loadwick::TranscriptLocator {
+
+inline constexpr std::string_view configDirEnvironmentKey = "CLAUDE_CONFIG_DIR";
+
+/// The folder under which transcripts are written: "projects" in the configuration folder, which
+/// is the environment's CLAUDE_CONFIG_DIR (normalised) or else `home` + "/.claude".
+[[nodiscard]] std::filesystem::path defaultProjectsRoot(const std::string &home,
+                                                        const Environment &environment);
+
+/// A configuration folder as given by a user, made absolute: trimmed, "~" at its head expanded to
+/// the user's home folder, a relative value joined to `workingDirectory`, "." and ".." removed.
+/// Nothing when only white space was given.
+[[nodiscard]] std::optional<std::string>
+normalizedConfigDir(std::string_view value, const std::filesystem::path &workingDirectory);
+
+/// The first file named `sessionID` + ".jsonl" at any depth under `root`, in the disk's order.
+/// Hidden files and folders are skipped, links to folders not followed. An identifier that is no
+/// plain file name (empty, with "/" or NUL, or a leading ".") finds nothing.
+[[nodiscard]] std::optional<std::filesystem::path>
+find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem);
+
+} // namespace Loadwick::TranscriptLocator

@@ -1,0 +1,168 @@
+#include "probe/UnicodeText.h"
+
+#include <memory>
+
+#include <unicode/brkiter.h>
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/uchar.h>
+#include <unicode/utext.h>
+#include <unicode/utf8.h>
+
+#include "probe/Fatal.h"
+
+namespace Loadwick {
+
+namespace {
+
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+
+struct CodePoint
+{
+    UChar32 value; // negative when ill-formed
+    std::size_t end;
+};
+
+/// Decodes the code point that begins at `start`; the ICU macro consumes a maximal ill-formed part.
+CodePoint codePointAt(std::string_view text, std::size_t start) noexcept
+{
+    UChar32 value = 0;
+    std::size_t index = start;
+    U8_NEXT(reinterpret_cast<const std::uint8_t *>(text.data()), index, text.size(), value);
+    return {value, index};
+}
+
+template<typename Keep>
+std::string filtered(std::string_view text, Keep keep)
+{
+    std::string kept;
+    kept.reserve(text.size());
+    for (std::size_t index = 0; index < text.size();) {
+        const CodePoint point = codePointAt(text, index);
+        if (point.value >= 0 && keep(point.value))
+            kept.append(text.substr(index, point.end - index));
+        index = point.end;
+    }
+    return kept;
+}
+
+bool isLetterMarkOrNumber(UChar32 value)
+{
+    return (U_GET_GC_MASK(value) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+}
+
+/// Index of the first byte of the code point that ends before `end`.
+std::size_t previousStart(std::string_view text, std::size_t end) noexcept
+{
+    const std::size_t lowest = end >= 4 ? end - 4 : 0;
+    for (std::size_t start = end; start-- > lowest;) {
+        const CodePoint point = codePointAt(text, start);
+        if (point.end == end && point.value >= 0)
+            return start;
+    }
+    return end - 1;
+}
+
+} // namespace
+
+bool isUtf8(std::string_view bytes) noexcept
+{
+    for (std::size_t index = 0; index < bytes.size();) {
+        if (static_cast<unsigned char>(bytes[index]) < 0x80) {
+            ++index;
+            continue;
+        }
+        const CodePoint point = codePointAt(bytes, index);
+        if (point.value < 0)
+            return false;
+        index = point.end;
+    }
+    return true;
+}
+
+std::string repairedUtf8(std::string_view bytes)
+{
+    std::string repaired;
+    repaired.reserve(bytes.size());
+    for (std::size_t index = 0; index < bytes.size();) {
+        const CodePoint point = codePointAt(bytes, index);
+        const std::string_view piece = bytes.substr(index, point.end - index);
+        repaired.append(point.value >= 0 ? piece : replacementCharacter);
+        index = point.end;
+    }
+    return repaired;
+}
+
+bool isWhiteSpace(char32_t codePoint) noexcept
+{
+    return u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_WHITE_SPACE) != 0;
+}
+
+std::string_view trimmed(std::string_view text) noexcept
+{
+    const auto isSpace = [](UChar32 value) {
+        return value >= 0 && isWhiteSpace(static_cast<char32_t>(value));
+    };
+    while (!text.empty()) {
+        const CodePoint point = codePointAt(text, 0);
+        if (!isSpace(point.value))
+            break;
+        text.remove_prefix(point.end);
+    }
+    while (!text.empty()) {
+        const std::size_t start = previousStart(text, text.size());
+        if (!isSpace(codePointAt(text, start).value))
+            break;
+        text.remove_suffix(text.size() - start);
+    }
+    return text;
+}
+
+std::string_view trimmedBlanks(std::string_view text) noexcept
+{
+    const std::size_t first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos)
+        return text.substr(text.size());
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+std::string lowercased(std::string_view text)
+{
+    std::string lower;
+    icu::StringByteSink<std::string> sink(&lower, static_cast<std::int32_t>(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<int>(text.size())),
+                              sink, nullptr, status);
+    if (U_FAILURE(status))
+        fatalError("ICU could not lower-case a text");
+    return lower;
+}
+
+std::string lettersAndNumbers(std::string_view text)
+{
+    return filtered(text, isLetterMarkOrNumber);
+}
+
+std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    UText source = UTEXT_INITIALIZER;
+    utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
+    const std::unique_ptr<icu::BreakIterator> boundaries(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    if (U_SUCCESS(status))
+        boundaries->setText(&source, status);
+    if (U_FAILURE(status))
+        fatalError("ICU offers no character boundaries");
+    std::int32_t end = 0;
+    for (std::size_t count = 0; count < limit; ++count) {
+        const std::int32_t next = boundaries->next();
+        if (next == icu::BreakIterator::DONE)
+            break;
+        end = next;
+    }
+    utext_close(&source);
+    return static_cast<std::size_t>(end);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Questions about UTF-8 text that need Unicode tables. Bytes that are not UTF-8 never fail:
+/// each maximal ill-formed part counts as one U+FFFD.
+namespace Loadwick {
+
+/// Whether `bytes` is well-formed UTF-8 (no surrogates, no overlong forms). The empty text is.
+[[nodiscard]] bool isUtf8(std::string_view bytes) noexcept;
+
+/// `bytes` with U+FFFD in the place of every ill-formed part.
+[[nodiscard]] std::string repairedUtf8(std::string_view bytes);
+
+/// Whether a code point is Unicode white space or a line break (U+0085, U+2028, U+2029 included).
+[[nodiscard]] bool isWhiteSpace(char32_t codePoint) noexcept;
+
+/// `text` without white space and line breaks at both ends. A view into `text`.
+[[nodiscard]] std::string_view trimmed(std::string_view text) noexcept;
+
+/// `text` without blanks and tabs at both ends; line breaks stay. A view into `text`.
+[[nodiscard]] std::string_view trimmedBlanks(std::string_view text) noexcept;
+
+/// `text` in lower case by the full Unicode mapping, independent of any locale.
+[[nodiscard]] std::string lowercased(std::string_view text);
+
+/// The letters, their marks and the numeric characters of `text` (Unicode categories L, M and N),
+/// in order. Ill-formed bytes are dropped.
+[[nodiscard]] std::string lettersAndNumbers(std::string_view text);
+
+/// Bytes of the first `limit` user-perceived characters (extended grapheme clusters, UAX #29)
+/// of `text`; `text.size()` when it has no more than that. Reads no further than it must.
+[[nodiscard]] std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit);
+
+} // namespace Loadwick

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+/// Finds the "@path" imports in the text of an instruction file.
+namespace Loadwick::InstructionImports {
+
+/// The import tokens of a whole text, line by line; lines inside a closed code fence (three
+/// backticks or tildes) hold none. Views into `text`.
+[[nodiscard]] std::vector<std::string_view> tokensIn(std::string_view text);
+
+/// The import tokens of one line: what follows an "@" at its start or behind white space, without
+/// closing punctuation; web addresses and doubled "@" are none. Views into `line`.
+[[nodiscard]] std::vector<std::string_view> tokensInLine(std::string_view line);
+
+} // namespace Loadwick::InstructionImports

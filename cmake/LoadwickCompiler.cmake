@@ -1,0 +1,27 @@
+# Language level, warnings and sanitizers of every target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(LOADWICK_CCACHE ccache)
+if(LOADWICK_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${LOADWICK_CCACHE}")
+endif()
+
+if(LOADWICK_SANITIZE)
+    add_compile_options(-fsanitize=${LOADWICK_SANITIZE} -fno-omit-frame-pointer
+                        -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${LOADWICK_SANITIZE})
+endif()
+
+# Our own code only: generated code and headers of others are not held to these.
+function(loadwick_warnings target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                                             -Wsign-conversion)
+    if(LOADWICK_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+endfunction()

@@ -1,0 +1,25 @@
+# Declares the tests of one folder: every <Type>Test.cpp in it goes into one program, and each file
+# is one CTest test, "<folder>/<Type>", labelled with the folder's name. A file <Type>SlowTest.cpp
+# carries the label "slow" too.
+function(loadwick_core_tests folder)
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*Test.cpp")
+    if(NOT sources)
+        return()
+    endif()
+    set(program "${folder}_tests")
+    add_executable(${program} ${sources})
+    loadwick_warnings(${program})
+    target_link_libraries(${program} PRIVATE LoadwickTestSupport GTest::gtest_main)
+    target_compile_definitions(${program} PRIVATE LOADWICK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    foreach(source IN LISTS sources)
+        get_filename_component(suite "${source}" NAME_WE)
+        string(REGEX REPLACE "Test$" "" type "${suite}")
+        add_test(NAME "${folder}/${type}"
+                 COMMAND ${program} "--gtest_filter=${suite}.*:${suite}/*:*/${suite}.*")
+        set(labels "${folder}")
+        if(type MATCHES "Slow$")
+            list(APPEND labels slow)
+        endif()
+        set_tests_properties("${folder}/${type}" PROPERTIES LABELS "${labels}" TIMEOUT 300)
+    endforeach()
+endfunction()

@@ -1,0 +1,28 @@
+#include "support/TemporaryFolder.h"
+
+#include <optional>
+
+#include <gtest/gtest.h>
+
+namespace Loadwick {
+
+TEST(TemporaryFolderTest, removesEverythingAtTheEnd)
+{
+    std::optional<TemporaryFolder> folder(std::in_place);
+    const std::filesystem::path path = folder->path();
+    const std::filesystem::path inner = folder->write("a/b/c.txt", "content");
+    EXPECT_EQ(contentOf(inner), "content");
+    std::filesystem::permissions(path / "a/b", std::filesystem::perms::none);
+    folder.reset();
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(TemporaryFolderTest, writesScriptsThatCanBeExecuted)
+{
+    const TemporaryFolder folder;
+    const std::filesystem::path script = folder.writeScript("run", "#!/bin/sh\nexit 3\n");
+    EXPECT_NE(std::filesystem::status(script).permissions() & std::filesystem::perms::owner_exec,
+              std::filesystem::perms::none);
+}
+
+} // namespace Loadwick
