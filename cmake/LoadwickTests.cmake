@@ -1,3 +1,24 @@
+# Declares one CTest test: its name, its labels and its command. Under sanitizers the name gets the
+# build's prefix, the options that make a finding fail, and tests whose name ends in "Slow" are left
+# out; in an ordinary build those carry the label "slow".
+function(loadwick_test name labels)
+    if(LOADWICK_SANITIZE AND name MATCHES "Slow$")
+        return()
+    endif()
+    set(name "${LOADWICK_TEST_PREFIX}${name}")
+    if(name MATCHES "Slow$")
+        list(APPEND labels slow)
+    endif()
+    add_test(NAME "${name}" COMMAND ${ARGN})
+    set(environment
+        "ASAN_OPTIONS=detect_stack_use_after_return=1"
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks.supp:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1"
+        "TSAN_OPTIONS=halt_on_error=1")
+    set_tests_properties("${name}" PROPERTIES LABELS "${labels}" TIMEOUT 300
+                                              ENVIRONMENT "${environment}")
+endfunction()
+
 # Declares the tests of one folder: every <Type>Test.cpp in it goes into one program, and each file
 # is one CTest test, "<folder>/<Type>", labelled with the folder's name. A file <Type>SlowTest.cpp
 # carries the label "slow" too.
@@ -14,12 +35,7 @@ function(loadwick_core_tests folder)
     foreach(source IN LISTS sources)
         get_filename_component(suite "${source}" NAME_WE)
         string(REGEX REPLACE "Test$" "" type "${suite}")
-        add_test(NAME "${folder}/${type}"
-                 COMMAND ${program} "--gtest_filter=${suite}.*:${suite}/*:*/${suite}.*")
-        set(labels "${folder}")
-        if(type MATCHES "Slow$")
-            list(APPEND labels slow)
-        endif()
-        set_tests_properties("${folder}/${type}" PROPERTIES LABELS "${labels}" TIMEOUT 300)
+        loadwick_test("${folder}/${type}" "${folder}" $<TARGET_FILE:${program}>
+                      "--gtest_filter=${suite}.*:${suite}/*:*/${suite}.*")
     endforeach()
 endfunction()

@@ -12,7 +12,8 @@ namespace {
 
 std::filesystem::path newFolder()
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "loadwick-test-XXXXXX").string();
+    std::string pattern =
+        (std::filesystem::temp_directory_path() / "loadwick-test-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr)
         fatalError("no temporary folder for a test");
     return std::filesystem::canonical(pattern);
@@ -30,9 +31,7 @@ void makeFoldersAccessible(const std::filesystem::path &root)
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder()
-    : m_path(newFolder())
-{}
+TemporaryFolder::TemporaryFolder() : m_path(newFolder()) {}
 
 TemporaryFolder::~TemporaryFolder()
 {

@@ -20,7 +20,8 @@ public:
     [[nodiscard]] const std::filesystem::path &path() const noexcept { return m_path; }
 
     /// Writes a file below the folder, with the folders above it; gives its path.
-    std::filesystem::path write(const std::filesystem::path &relative, std::string_view bytes) const;
+    std::filesystem::path write(const std::filesystem::path &relative,
+                                std::string_view bytes) const;
 
     /// Writes an executable file below the folder.
     std::filesystem::path writeScript(const std::filesystem::path &relative,

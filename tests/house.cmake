@@ -1,0 +1,14 @@
+# The checks of the house, each one command that a hand can run too. They look at the sources, so one
+# build runs them for all.
+if(LOADWICK_SANITIZE)
+    return()
+endif()
+
+foreach(check IN ITEMS layers format documented-paths shell)
+    add_test(NAME "house/${check}" COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/${check}")
+    set_tests_properties("house/${check}" PROPERTIES LABELS house TIMEOUT 120)
+endforeach()
+
+add_test(NAME house/tidy
+         COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/tidy" "${PROJECT_BINARY_DIR}")
+set_tests_properties(house/tidy PROPERTIES LABELS "house;slow" TIMEOUT 1200 PROCESSORS 2)
