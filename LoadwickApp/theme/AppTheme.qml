@@ -1,0 +1,6 @@
+pragma Singleton
+import QtQuick
+
+QtObject {
+    readonly property int hairline: 1
+}

@@ -1,0 +1,12 @@
+# Qt for all folders that build with it, found once, so that each of them sees the same targets.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Gui Qml Quick QuickControls2 Svg)
+if(LOADWICK_BUILD_TESTS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test QuickTest)
+endif()
+set(QT_QML_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml")
+
+# Qt code says which of its texts are text: no silent conversion from and to bytes.
+function(loadwick_qt_strictness target)
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                                 QT_NO_KEYWORDS)
+endfunction()

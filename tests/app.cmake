@@ -1,0 +1,59 @@
+# Tests of the window. Qt Test: tests/app/<folder>/<Type>Test.cpp, CTest "app/<folder>/<Type>".
+# Qt Quick Test: tests/qml/tst_<Component>.qml, CTest "app/qml/<Component>". All are labelled "app".
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+# Declares one CTest test of the window: off screen, drawn in software, in a home of its own, with
+# the locale, the time zone and all folders of the person who runs it taken away.
+function(loadwick_app_test name)
+    set(home "${CMAKE_BINARY_DIR}/tests/home")
+    file(MAKE_DIRECTORY "${home}")
+    add_test(NAME "app/${name}" COMMAND ${ARGN})
+    set(environment
+        QT_QPA_PLATFORM=set:offscreen QT_QUICK_BACKEND=set:software QT_SCALE_FACTOR=unset:
+        QT_QUICK_CONTROLS_STYLE=unset: QT_QPA_PLATFORMTHEME=unset: LC_ALL=set:C.UTF-8
+        LANG=unset: LANGUAGE=unset: TZ=set:UTC "HOME=set:${home}" CLAUDE_CONFIG_DIR=unset:
+        XDG_CONFIG_HOME=unset: XDG_DATA_HOME=unset: XDG_CACHE_HOME=unset: XDG_STATE_HOME=unset:
+        DBUS_SESSION_BUS_ADDRESS=unset:)
+    set_tests_properties("app/${name}" PROPERTIES LABELS app TIMEOUT 120
+                                                  ENVIRONMENT_MODIFICATION "${environment}")
+endfunction()
+
+# One program holds all Qt Test classes, so that the module is linked once.
+function(loadwick_qt_tests)
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/app/*/*.cpp"
+                                        "${CMAKE_CURRENT_SOURCE_DIR}/app/*/*.h")
+    qt_add_executable(app_tests ${sources})
+    loadwick_warnings(app_tests)
+    loadwick_qt_strictness(app_tests)
+    target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
+    target_compile_definitions(app_tests PRIVATE LOADWICK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    target_link_libraries(app_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
+                                            Qt6::Test)
+    set_target_properties(app_tests PROPERTIES AUTOMOC ON)
+    file(GLOB tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/app"
+                                      "${CMAKE_CURRENT_SOURCE_DIR}/app/*/*Test.cpp")
+    foreach(test IN LISTS tests)
+        string(REGEX REPLACE "Test\\.cpp$" "" test "${test}")
+        get_filename_component(type "${test}" NAME)
+        loadwick_app_test("${test}" app_tests "${type}")
+    endforeach()
+endfunction()
+
+function(loadwick_quick_tests)
+    file(GLOB support CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/qml/support/*.cpp"
+                                        "${CMAKE_CURRENT_SOURCE_DIR}/qml/support/*.h")
+    qt_add_executable(qml_tests ${support})
+    loadwick_warnings(qml_tests)
+    loadwick_qt_strictness(qml_tests)
+    target_link_libraries(qml_tests PRIVATE LoadwickUi LoadwickUiplugin Qt6::QuickTest)
+    set_target_properties(qml_tests PROPERTIES AUTOMOC ON)
+    file(GLOB tests CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/qml/tst_*.qml")
+    foreach(test IN LISTS tests)
+        get_filename_component(component "${test}" NAME_WE)
+        string(REPLACE "tst_" "" component "${component}")
+        loadwick_app_test("qml/${component}" qml_tests -input "${test}")
+    endforeach()
+endfunction()
+
+loadwick_qt_tests()
+loadwick_quick_tests()

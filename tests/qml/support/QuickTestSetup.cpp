@@ -1,0 +1,21 @@
+#include "QuickTestSetup.h"
+
+#include "theme/ApplicationStyle.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+
+namespace Loadwick {
+
+void QuickTestSetup::applicationAvailable()
+{
+    ApplicationStyle::prepare();
+    ApplicationStyle::applyFont(*qGuiApp);
+}
+
+void QuickTestSetup::qmlEngineAvailable(QQmlEngine *engine)
+{
+    ApplicationStyle::addModulePath(*engine);
+}
+
+} // namespace Loadwick
