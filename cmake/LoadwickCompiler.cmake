@@ -17,11 +17,17 @@ if(LOADWICK_SANITIZE)
     add_link_options(-fsanitize=${LOADWICK_SANITIZE})
 endif()
 
+set(LOADWICK_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion)
+if(LOADWICK_WARNINGS_AS_ERRORS)
+    list(APPEND LOADWICK_WARNINGS -Werror)
+endif()
+
 # Our own code only: generated code and headers of others are not held to these.
 function(loadwick_warnings target)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-                                             -Wsign-conversion)
-    if(LOADWICK_WARNINGS_AS_ERRORS)
-        target_compile_options(${target} PRIVATE -Werror)
-    endif()
+    target_compile_options(${target} PRIVATE ${LOADWICK_WARNINGS})
+endfunction()
+
+# The same for a target that also compiles what Qt generates from QML.
+function(loadwick_source_warnings)
+    set_property(SOURCE ${ARGN} APPEND PROPERTY COMPILE_OPTIONS ${LOADWICK_WARNINGS})
 endfunction()
