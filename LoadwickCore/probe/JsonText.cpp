@@ -1,0 +1,39 @@
+#include "probe/JsonText.h"
+
+#include <limits>
+#include <string>
+
+#include "probe/JsonReader.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick {
+
+std::optional<nlohmann::json> jsonObject(std::string_view text,
+                                         std::initializer_list<std::string_view> keptPaths)
+{
+    const std::string_view document = trimmed(text);
+    if (!isUtf8(document))
+        return std::nullopt;
+    const JsonSelection selection = JsonSelection::ofPaths(keptPaths);
+    return JsonReader(document, selection).readObject();
+}
+
+const nlohmann::json *member(const nlohmann::json &object, std::string_view key)
+{
+    if (!object.is_object())
+        return nullptr;
+    const auto found = object.find(key);
+    return found == object.end() ? nullptr : &*found;
+}
+
+std::optional<std::int64_t> exactInteger(const nlohmann::json *value)
+{
+    constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+    if (value == nullptr || !value->is_number_integer())
+        return std::nullopt;
+    if (value->is_number_unsigned() && value->get<std::uint64_t>() > largest)
+        return std::nullopt;
+    return value->get<std::int64_t>();
+}
+
+} // namespace Loadwick
