@@ -1,0 +1,84 @@
+#include "history/AtomicFile.h"
+
+#include <optional>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "history/TemporaryFile.h"
+#include "probe/FileDescriptor.h"
+
+namespace Loadwick::AtomicFile {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int linkLimit = 40; // as many as Linux itself follows
+
+fs::file_type typeOf(const fs::path &path)
+{
+    std::error_code unknown;
+    return fs::symlink_status(path, unknown).type();
+}
+
+/// Where a chain of links ends, without asking that something is there. Nothing for a chain that
+/// has no end or cannot be read.
+std::optional<fs::path> linkTarget(fs::path path)
+{
+    for (int count = 0; count < linkLimit; ++count) {
+        if (typeOf(path) != fs::file_type::symlink)
+            return path;
+        std::error_code failure;
+        const fs::path next = fs::read_symlink(path, failure);
+        if (failure)
+            return std::nullopt;
+        // Not normalized: ".." behind a link to a folder means that folder's parent.
+        path = path.parent_path() / next;
+    }
+    return std::nullopt;
+}
+
+/// Makes a rename or an unlink in the folder of `path` outlive a power cut, where the file system
+/// can.
+void syncFolderOf(const fs::path &path)
+{
+    const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.isOpen())
+        fsync(descriptor.number());
+}
+
+} // namespace
+
+bool replace(const fs::path &path, std::string_view bytes)
+{
+    const std::optional<fs::path> target = linkTarget(path);
+    if (!target)
+        return false;
+    TemporaryFile::removeAbandoned(*target);
+    const fs::file_type type = typeOf(*target);
+    if (type != fs::file_type::regular && type != fs::file_type::not_found)
+        return false;
+    std::optional<TemporaryFile> file = TemporaryFile::createFor(*target);
+    if (!file || !file->write(bytes) || !file->replace(*target))
+        return false;
+    syncFolderOf(*target);
+    return true;
+}
+
+void remove(const fs::path &path)
+{
+    const std::optional<fs::path> target = linkTarget(path);
+    if (!target)
+        return;
+    const bool isBehindLink = *target != path;
+    const fs::file_type type = typeOf(*target);
+    if (type == fs::file_type::regular ||
+        (!isBehindLink && type != fs::file_type::directory && type != fs::file_type::not_found))
+        unlink(target->c_str());
+    TemporaryFile::removeAbandoned(*target);
+    syncFolderOf(*target);
+}
+
+} // namespace Loadwick::AtomicFile
