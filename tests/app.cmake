@@ -4,18 +4,18 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
 # Declares one CTest test of the window: off screen, drawn in software, in a home of its own, with
 # the locale, the time zone and all folders of the person who runs it taken away.
-function(loadwick_app_test name)
+function(loadwick_app_test name program)
     set(home "${CMAKE_BINARY_DIR}/tests/home")
     file(MAKE_DIRECTORY "${home}")
-    add_test(NAME "app/${name}" COMMAND ${ARGN})
+    loadwick_test("app/${name}" app $<TARGET_FILE:${program}> ${ARGN})
     set(environment
         QT_QPA_PLATFORM=set:offscreen QT_QUICK_BACKEND=set:software QT_SCALE_FACTOR=unset:
         QT_QUICK_CONTROLS_STYLE=unset: QT_QPA_PLATFORMTHEME=unset: LC_ALL=set:C.UTF-8
         LANG=unset: LANGUAGE=unset: TZ=set:UTC "HOME=set:${home}" CLAUDE_CONFIG_DIR=unset:
         XDG_CONFIG_HOME=unset: XDG_DATA_HOME=unset: XDG_CACHE_HOME=unset: XDG_STATE_HOME=unset:
         DBUS_SESSION_BUS_ADDRESS=unset:)
-    set_tests_properties("app/${name}" PROPERTIES LABELS app TIMEOUT 120
-                                                  ENVIRONMENT_MODIFICATION "${environment}")
+    set_tests_properties("${LOADWICK_TEST_PREFIX}app/${name}" PROPERTIES
+                         TIMEOUT 120 ENVIRONMENT_MODIFICATION "${environment}")
 endfunction()
 
 # One program holds all Qt Test classes, so that the module is linked once.

@@ -12,3 +12,9 @@ endforeach()
 add_test(NAME house/tidy
          COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/tidy" "${PROJECT_BINARY_DIR}")
 set_tests_properties(house/tidy PROPERTIES LABELS "house;slow" TIMEOUT 1200 PROCESSORS 2)
+
+if(LOADWICK_BUILD_APP)
+    add_test(NAME house/qmllint
+             COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
+    set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 300)
+endif()
