@@ -1,6 +1,78 @@
 pragma Singleton
 import QtQuick
+import Loadwick
 
+// Every colour, font, measure and duration of the window, by role.
 QtObject {
+    readonly property bool dark: Appearance.dark
+    readonly property bool reduceMotion: Appearance.reduceMotion
+
+    // Grounds, from the back to the front.
+    readonly property color window: dark ? "#1B1B1E" : "#F4F4F6"
+    readonly property color sidebar: dark ? "#232327" : "#EBEBEF"
+    readonly property color surface: dark ? "#29292E" : "#FFFFFF"
+    readonly property color separator: dark ? "#3B3B42" : "#DCDCE2"
+
+    readonly property color text: dark ? "#F1F1F4" : "#1B1B1F"
+    readonly property color secondaryText: dark ? "#ACADB7" : "#5A5B64"
+    readonly property color accent: dark ? "#7AA7FF" : "#2460D8"
+    // Words on a ground filled with the accent.
+    readonly property color accentText: dark ? "#14161C" : "#FFFFFF"
+
+    // A band has two shades of one colour: one that glows as a shape, one that can be read as text.
+    readonly property color bandLean: dark ? "#46BF78" : "#2B9A57"
+    readonly property color bandHeavy: dark ? "#F0A036" : "#D97F00"
+    readonly property color bandExcessive: dark ? "#FA6A5E" : "#D63A2E"
+    readonly property color bandLeanText: dark ? "#5FD08C" : "#1B7340"
+    readonly property color bandHeavyText: dark ? "#F5AE4E" : "#8F5200"
+    readonly property color bandExcessiveText: dark ? "#FF8075" : "#BE2A20"
+
+    // Blue, teal, purple, orange, gray: series and slices take them by position, wrapping around.
+    readonly property list<color> chartColors: dark
+        ? ["#6295F5", "#38B6C3", "#AC82EE", "#EE9440", "#9B9EA8"]
+        : ["#2F6FED", "#12899A", "#8549D6", "#D97706", "#767983"]
+
+    // What lies over a ground while the pointer is on it, while it is pressed, and for good.
+    readonly property color hoverFill: Qt.alpha(text, 0.06)
+    readonly property color pressedFill: Qt.alpha(text, 0.10)
+    readonly property color quietFill: Qt.alpha(text, 0.06)
+    readonly property color selectionFill: Qt.alpha(accent, dark ? 0.18 : 0.12)
+    readonly property real tintOpacity: 0.12
+    readonly property real disabledOpacity: 0.4
+
+    // The family is the application's own; its figures are all equally wide.
+    readonly property font heroMetricFont: Qt.font({ pixelSize: 46, weight: Font.DemiBold, letterSpacing: -0.5 })
+    readonly property font largeTitleFont: Qt.font({ pixelSize: 28, weight: Font.DemiBold, letterSpacing: -0.3 })
+    readonly property font title2Font: Qt.font({ pixelSize: 20, weight: Font.DemiBold })
+    readonly property font title3Font: Qt.font({ pixelSize: 17 })
+    readonly property font title3StrongFont: Qt.font({ pixelSize: 17, weight: Font.DemiBold })
+    readonly property font headlineFont: Qt.font({ pixelSize: 17, weight: Font.DemiBold })
+    readonly property font emphasisFont: Qt.font({ pixelSize: 15, weight: Font.DemiBold })
+    readonly property font bodyFont: Qt.font({ pixelSize: 13 })
+    readonly property font bodyStrongFont: Qt.font({ pixelSize: 13, weight: Font.DemiBold })
+    readonly property font subheadlineFont: Qt.font({ pixelSize: 13 })
+    readonly property font subheadlineStrongFont: Qt.font({ pixelSize: 13, weight: Font.DemiBold })
+    readonly property font captionFont: Qt.font({ pixelSize: 12 })
+    readonly property font captionStrongFont: Qt.font({ pixelSize: 12, weight: Font.DemiBold })
+
     readonly property int hairline: 1
+    readonly property int tightSpace: 4
+    readonly property int smallSpace: 8
+    readonly property int mediumSpace: 12
+    readonly property int cardSpace: 16
+    readonly property int pageMargin: 24
+    readonly property int wideSpace: 32
+    readonly property int cardPadding: 16
+    readonly property int contentWidth: 1040
+    readonly property int stateWidth: 420
+    readonly property int controlHeight: 32
+    readonly property int iconSize: 16
+
+    readonly property int cardRadius: 14
+    readonly property int controlRadius: 8
+
+    // Milliseconds; what is to move multiplies nothing by itself, it asks for these.
+    readonly property int hoverDuration: reduceMotion ? 0 : 180
+    readonly property int pageDuration: reduceMotion ? 0 : 320
+    readonly property int turnDuration: 1000
 }

@@ -1,0 +1,36 @@
+import QtQuick
+import Loadwick
+
+// The symbol and the words of a button, in the middle of it.
+Item {
+    id: face
+
+    required property string title
+    required property string symbol
+    required property color color
+    required property font font
+
+    implicitWidth: line.implicitWidth
+    implicitHeight: line.implicitHeight
+
+    Row {
+        id: line
+        anchors.centerIn: parent
+        spacing: 6
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: face.symbol
+            tint: face.color
+            visible: face.symbol.length > 0
+        }
+        PlainLabel {
+            anchors.verticalCenter: parent.verticalCenter
+            text: face.title
+            font: face.font
+            color: face.color
+            // The button itself says its name.
+            Accessible.ignored: true
+        }
+    }
+}

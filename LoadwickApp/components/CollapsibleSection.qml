@@ -1,0 +1,69 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Loadwick
+
+// A section that opens and closes; its header can be pressed over its whole width.
+ColumnLayout {
+    id: section
+
+    required property string title
+    property string detail: ""
+    property bool isExpanded: false
+    default property alias content: body.data
+
+    spacing: 0
+
+    AbstractButton {
+        id: head
+
+        Layout.fillWidth: true
+        implicitHeight: Math.max(implicitContentHeight, AppTheme.controlHeight)
+        focusPolicy: Qt.StrongFocus
+        Accessible.role: Accessible.Button
+        Accessible.name: section.title
+        Accessible.description: section.isExpanded ? "Expanded" : "Collapsed"
+        Keys.onReturnPressed: head.clicked()
+        Keys.onEnterPressed: head.clicked()
+        onClicked: section.isExpanded = !section.isExpanded
+
+        contentItem: RowLayout {
+            spacing: AppTheme.smallSpace
+
+            Symbol {
+                name: "chevron.right"
+                tint: AppTheme.secondaryText
+                rotation: section.isExpanded ? 90 : 0
+
+                Behavior on rotation {
+                    enabled: !AppTheme.reduceMotion
+                    NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
+                }
+            }
+            SectionHeader {
+                Layout.fillWidth: true
+                title: section.title
+                detail: section.detail
+            }
+        }
+
+        background: Rectangle {
+            anchors { fill: parent; margins: -AppTheme.tightSpace }
+            radius: AppTheme.controlRadius
+            color: head.down ? AppTheme.pressedFill : head.hovered ? AppTheme.hoverFill : "transparent"
+
+            FocusRing { shown: head.visualFocus }
+        }
+
+        HoverHandler { cursorShape: Qt.PointingHandCursor }
+    }
+
+    ColumnLayout {
+        id: body
+
+        Layout.fillWidth: true
+        Layout.topMargin: AppTheme.cardSpace
+        spacing: AppTheme.smallSpace
+        visible: section.isExpanded
+    }
+}

@@ -1,0 +1,25 @@
+import QtQuick
+import QtQuick.Controls
+import Loadwick
+
+// A tool tip in plain text. It names its words `words`: the control's own text takes markup.
+ToolTip {
+    id: control
+
+    required property string words
+
+    delay: 600
+    padding: AppTheme.smallSpace
+    contentItem: PlainLabel {
+        text: control.words
+        font: AppTheme.captionFont
+        wrapMode: Text.Wrap
+    }
+    // Never wider than a comfortable line.
+    implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, 320)
+    background: Rectangle {
+        color: AppTheme.surface
+        radius: AppTheme.controlRadius
+        border { width: AppTheme.hairline; color: AppTheme.separator }
+    }
+}

@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Controls
+import Loadwick
+
+// The one button of the window: a symbol and words. The words are `title`, not the control's own
+// text, which would take markup.
+AbstractButton {
+    id: control
+
+    required property string title
+    property string symbol: ""
+    property string toolTip: ""
+    // Filled with the accent while it can be pressed: the one thing to do next.
+    property bool prominent: false
+    // Edged with a line at rest, for a button that stands alone on a card.
+    property bool outlined: false
+    readonly property bool filled: prominent && enabled
+    readonly property color wordColor: filled ? AppTheme.accentText : AppTheme.text
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: AppTheme.controlHeight
+    leftPadding: symbol.length > 0 ? 10 : AppTheme.mediumSpace
+    rightPadding: AppTheme.mediumSpace
+    focusPolicy: Qt.StrongFocus
+    opacity: enabled ? 1 : AppTheme.disabledOpacity
+
+    Accessible.role: Accessible.Button
+    Accessible.name: title
+    Accessible.description: toolTip
+    Keys.onReturnPressed: control.clicked()
+    Keys.onEnterPressed: control.clicked()
+
+    contentItem: ButtonFace {
+        title: control.title
+        symbol: control.symbol
+        color: control.wordColor
+        font: control.filled ? AppTheme.bodyStrongFont : AppTheme.bodyFont
+    }
+
+    background: Rectangle {
+        radius: AppTheme.controlRadius
+        color: control.filled ? AppTheme.accent : "transparent"
+        border {
+            width: control.outlined && !control.filled ? AppTheme.hairline : 0
+            color: AppTheme.separator
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: Qt.alpha(control.wordColor, control.down ? 0.10 : control.hovered ? 0.06 : 0)
+        }
+    }
+
+    HoverHandler {
+        enabled: control.enabled
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    FocusRing { shown: control.visualFocus }
+
+    PlainToolTip {
+        words: control.toolTip
+        visible: control.toolTip.length > 0 && (control.hovered || control.visualFocus)
+    }
+}

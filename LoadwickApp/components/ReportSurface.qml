@@ -1,0 +1,61 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The card that holds every section of every page; its children stand in one column.
+Item {
+    id: card
+
+    default property alias content: column.data
+    property alias spacing: column.spacing
+    readonly property bool isHovering: pointer.hovered
+
+    implicitWidth: column.implicitWidth + 2 * AppTheme.cardPadding
+    implicitHeight: column.implicitHeight + 2 * AppTheme.cardPadding
+
+    // Black at 0.16, blurred over 16, a third of that lower. The blur itself never changes: only
+    // its strength does, which costs nothing in any renderer.
+    BorderImage {
+        anchors { fill: parent; margins: -24; topMargin: -24 + 16 / 3; bottomMargin: -24 - 16 / 3 }
+        border { left: 50; top: 50; right: 50; bottom: 50 }
+        source: "qrc:/qt/qml/Loadwick/components/card-shadow.png"
+        opacity: card.isHovering ? 0.16 : 0
+        visible: opacity > 0
+
+        Behavior on opacity {
+            enabled: !AppTheme.reduceMotion
+            NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: AppTheme.cardRadius
+        // The wash of the text colour, 0.05 at the top to nothing, already mixed with the ground.
+        gradient: Gradient {
+            GradientStop { position: 0; color: Qt.tint(AppTheme.surface, Qt.alpha(AppTheme.text, 0.05)) }
+            GradientStop { position: 1; color: AppTheme.surface }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: AppTheme.cardRadius
+        color: "transparent"
+        border { width: AppTheme.hairline; color: AppTheme.separator }
+        opacity: card.isHovering ? 1 : 0.6
+
+        Behavior on opacity {
+            enabled: !AppTheme.reduceMotion
+            NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
+        }
+    }
+
+    HoverHandler { id: pointer }
+
+    ColumnLayout {
+        id: column
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: AppTheme.cardPadding }
+        spacing: AppTheme.mediumSpace
+    }
+}

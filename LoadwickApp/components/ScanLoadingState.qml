@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// A scan is on its way.
+StatePlaceholder {
+    id: placeholder
+
+    symbol: "arrow.triangle.2.circlepath"
+    tint: AppTheme.accent
+    title: "Scanning repository"
+    turning: true
+
+    PlainLabel {
+        Layout.fillWidth: true
+        text: "Running one real Claude Code session and measuring local instruction files."
+        secondary: true
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// Names a section and, where there is more to say, says it in one quieter line.
+ColumnLayout {
+    id: header
+
+    required property string title
+    property string detail: ""
+
+    spacing: 2
+
+    PlainLabel {
+        Layout.fillWidth: true
+        text: header.title
+        font: AppTheme.headlineFont
+        wrapMode: Text.Wrap
+    }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: header.detail
+        font: AppTheme.subheadlineFont
+        secondary: true
+        wrapMode: Text.Wrap
+        visible: header.detail.length > 0
+    }
+}

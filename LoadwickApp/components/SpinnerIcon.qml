@@ -1,0 +1,21 @@
+import QtQuick
+import Loadwick
+
+// A symbol that can turn, once a second, to show that time passes; it stands still where motion is
+// unwanted.
+Symbol {
+    id: icon
+
+    property bool turning: false
+    readonly property bool moving: turning && visible && !AppTheme.reduceMotion
+
+    onMovingChanged: if (!moving) rotation = 0
+
+    RotationAnimation on rotation {
+        running: icon.moving
+        from: 0
+        to: 360
+        duration: AppTheme.turnDuration
+        loops: Animation.Infinite
+    }
+}

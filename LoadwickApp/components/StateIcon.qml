@@ -1,0 +1,26 @@
+import QtQuick
+import Loadwick
+
+// The large round mark over the words of a state.
+Rectangle {
+    id: mark
+
+    required property string symbol
+    required property color tint
+    property bool turning: false
+
+    implicitWidth: 64
+    implicitHeight: 64
+    radius: 32
+    color: Qt.alpha(tint, AppTheme.tintOpacity)
+    Accessible.ignored: true
+
+    SpinnerIcon {
+        anchors.centerIn: parent
+        width: 28
+        height: 28
+        name: mark.symbol
+        tint: mark.tint
+        turning: mark.turning
+    }
+}

@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// What stands in place of a page's content: a mark, a title, and below them what the state has to
+// say. The group stands a little above the middle, where the eye expects the middle.
+Item {
+    id: place
+
+    required property string symbol
+    required property color tint
+    required property string title
+    property bool turning: false
+    default property alias content: column.data
+    readonly property real availableHeight: height - 2 * AppTheme.pageMargin
+
+    implicitWidth: AppTheme.stateWidth + 2 * AppTheme.pageMargin
+    implicitHeight: column.implicitHeight + 2 * AppTheme.pageMargin
+
+    ColumnLayout {
+        id: column
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.round(Math.max(AppTheme.pageMargin, place.height * 0.45 - height / 2))
+        width: Math.min(AppTheme.stateWidth, place.width - 2 * AppTheme.pageMargin)
+        spacing: AppTheme.smallSpace
+
+        StateIcon {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.bottomMargin: AppTheme.smallSpace
+            symbol: place.symbol
+            tint: place.tint
+            turning: place.turning
+        }
+        PlainLabel {
+            Layout.fillWidth: true
+            text: place.title
+            font: AppTheme.headlineFont
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+    }
+}
