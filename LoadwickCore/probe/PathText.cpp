@@ -12,9 +12,12 @@ std::string pathText(const std::filesystem::path &path)
 std::filesystem::path standardizedPath(const std::filesystem::path &path)
 {
     std::filesystem::path standard = path.lexically_normal();
-    if (!standard.has_filename() && standard.has_relative_path())
-        standard = standard.parent_path();
-    return standard;
+    if (standard.has_filename())
+        return standard;
+    // The root may be spelled with several slashes.
+    if (!standard.has_relative_path())
+        return standard.root_directory().empty() ? standard : "/";
+    return standard.parent_path();
 }
 
 } // namespace Loadwick

@@ -24,9 +24,10 @@ inline constexpr std::string_view configDirEnvironmentKey = "CLAUDE_CONFIG_DIR";
 [[nodiscard]] std::optional<std::string>
 normalizedConfigDir(std::string_view value, const std::filesystem::path &workingDirectory);
 
-/// The first file named `sessionID` + ".jsonl" at any depth under `root`, in the disk's order.
-/// Hidden files and folders are skipped, links to folders not followed. An identifier that is no
-/// plain file name (empty, with "/" or NUL, or a leading ".") finds nothing.
+/// A file named `sessionID` + ".jsonl" at any depth under `root`; only where there is none, another
+/// entry of that name. Which of several is not specified. Hidden files and folders are skipped,
+/// links to folders not followed, folders that cannot be listed count as empty. An identifier that
+/// is no plain file name (empty, with "/" or NUL, or a leading ".") finds nothing.
 [[nodiscard]] std::optional<std::filesystem::path>
 find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem);
 

@@ -6,35 +6,10 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include "support/EnvironmentSwap.h"
 #include "support/TemporaryFolder.h"
 
 namespace Loadwick {
-
-namespace {
-
-/// Puts another environment in this one's place for one test.
-class EnvironmentSwap
-{
-public:
-    explicit EnvironmentSwap(std::vector<std::string> entries)
-        : m_entries(std::move(entries)), m_before(environ)
-    {
-        for (std::string &entry : m_entries)
-            m_pointers.push_back(entry.data());
-        m_pointers.push_back(nullptr);
-        environ = m_pointers.data();
-    }
-    ~EnvironmentSwap() { environ = m_before; }
-    EnvironmentSwap(const EnvironmentSwap &) = delete;
-    EnvironmentSwap &operator=(const EnvironmentSwap &) = delete;
-
-private:
-    std::vector<std::string> m_entries;
-    std::vector<char *> m_pointers;
-    char **m_before;
-};
-
-} // namespace
 
 TEST(ProcessContextTest, readsTheEnvironmentAsBytes)
 {

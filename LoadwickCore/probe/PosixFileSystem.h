@@ -1,0 +1,15 @@
+#pragma once
+
+#include "probe/FileSystem.h"
+
+namespace Loadwick {
+
+/// The machine's own disks. Kinds are taken from the folder's listing; an entry is looked at only
+/// where the listing does not tell, and where it is a link.
+class PosixFileSystem : public FileSystem
+{
+public:
+    void list(const std::filesystem::path &folder, const Visitor &visit) const override;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,101 @@
+#include "probe/ProbeOutputParser.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "probe/JsonText.h"
+#include "probe/ProbeError.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick::ProbeOutputParser {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> signInComplaints{
+    "failed to authenticate", "oauth session expired", "please run /login", "invalid api key"};
+
+/// An answer may be a gigabyte long: it is searched in pieces. Two neighbours share more bytes than
+/// any complaint can have, even spelled with letters of four bytes.
+constexpr std::size_t pieceSize = 65536;
+constexpr std::size_t sharedSize = 128;
+
+bool holdsComplaint(std::string_view piece)
+{
+    const std::string lower = lowercased(piece);
+    return std::any_of(signInComplaints.begin(), signInComplaints.end(),
+                       [&](auto complaint) { return lower.find(complaint) != std::string::npos; });
+}
+
+ProbeError unreadable(std::string_view text)
+{
+    return ProbeError::unreadableOutput(ProbeError::bounded(text, ProbeError::detailLimit));
+}
+
+/// Why standard output is no JSON object.
+ProbeError failureWithoutObject(std::string_view standardOutput, std::string_view standardError,
+                                std::int32_t exitCode)
+{
+    if (exitCode != 0 && (indicatesAuthenticationFailure(standardError) ||
+                          indicatesAuthenticationFailure(standardOutput)))
+        return ProbeError::notAuthenticated();
+    return unreadable(trimmed(standardOutput).empty() ? standardError : standardOutput);
+}
+
+ProbeError failureReportedAs(std::string result)
+{
+    if (indicatesAuthenticationFailure(result))
+        return ProbeError::notAuthenticated();
+    if (result.empty())
+        return ProbeError::sessionFailed("The session reported is_error.");
+    return ProbeError::sessionFailed(std::move(result));
+}
+
+/// Moves the text of a member out of `object`; empty when it is absent or no text.
+std::string takeText(nlohmann::json &object, const char *key)
+{
+    const auto found = object.find(key);
+    if (found == object.end() || !found->is_string())
+        return {};
+    return std::move(found->get_ref<std::string &>());
+}
+
+bool reportsError(const nlohmann::json &object)
+{
+    const nlohmann::json *const isError = member(object, "is_error");
+    return isError != nullptr && isError->is_boolean() && isError->get<bool>();
+}
+
+} // namespace
+
+ProbeOutput parse(std::string_view standardOutput, std::string_view standardError,
+                  std::int32_t exitCode)
+{
+    auto object = jsonObject(standardOutput, {"session_id", "result", "is_error", "usage"});
+    if (!object)
+        throw failureWithoutObject(standardOutput, standardError, exitCode);
+    std::string result = takeText(*object, "result");
+    if (reportsError(*object))
+        throw failureReportedAs(std::move(result));
+    std::string sessionID = takeText(*object, "session_id");
+    if (sessionID.empty())
+        throw unreadable(standardOutput);
+    const nlohmann::json *const usage = member(*object, "usage");
+    return {.sessionID = std::move(sessionID),
+            .result = std::move(result),
+            .usage = usage != nullptr ? ProbeUsage::from(*usage) : std::nullopt};
+}
+
+bool indicatesAuthenticationFailure(std::string_view text)
+{
+    while (text.size() > pieceSize) {
+        if (holdsComplaint(text.substr(0, pieceSize)))
+            return true;
+        text.remove_prefix(pieceSize - sharedSize);
+    }
+    return holdsComplaint(text);
+}
+
+} // namespace Loadwick::ProbeOutputParser

@@ -1,0 +1,53 @@
+#include "probe/TextLines.h"
+
+#include <cstddef>
+
+namespace Loadwick {
+
+namespace {
+
+constexpr std::string_view nextLine = "\xC2\x85";
+constexpr std::string_view separatorHead = "\xE2\x80"; // U+2028 and U+2029 end in A8 and A9
+
+/// Bytes of the line break at `index`; 0 when there is none.
+std::size_t breakLength(std::string_view text, std::size_t index) noexcept
+{
+    const std::string_view rest = text.substr(index);
+    switch (rest.front()) {
+    case '\n':
+    case '\v':
+    case '\f':
+        return 1;
+    case '\r':
+        return rest.starts_with("\r\n") ? 2 : 1;
+    case '\xC2':
+        return rest.starts_with(nextLine) ? nextLine.size() : 0;
+    case '\xE2':
+        return rest.starts_with(separatorHead) && rest.size() > 2 &&
+                       (rest[2] == '\xA8' || rest[2] == '\xA9')
+                   ? 3
+                   : 0;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+std::optional<std::string_view> takeLine(std::string_view &rest) noexcept
+{
+    if (rest.empty())
+        return std::nullopt;
+    for (std::size_t end = 0; end < rest.size(); ++end) {
+        if (const std::size_t length = breakLength(rest, end)) {
+            const std::string_view line = rest.substr(0, end);
+            rest.remove_prefix(end + length);
+            return line;
+        }
+    }
+    const std::string_view line = rest;
+    rest.remove_prefix(rest.size());
+    return line;
+}
+
+} // namespace Loadwick

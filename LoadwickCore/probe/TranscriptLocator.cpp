@@ -1,0 +1,101 @@
+#include "probe/TranscriptLocator.h"
+
+#include <vector>
+
+#include "probe/PathText.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick::TranscriptLocator {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using EntryKind = FileSystem::EntryKind;
+using Walk = FileSystem::Walk;
+
+bool isPlainFileName(std::string_view name) noexcept
+{
+    constexpr std::string_view separators("/\0", 2);
+    return !name.empty() && name.front() != '.' &&
+           name.find_first_of(separators) == std::string_view::npos;
+}
+
+/// A walk through the folders below a root. The folders still to be listed are kept in a list of
+/// their own, so that no depth is too great.
+class Search
+{
+public:
+    Search(std::string wantedName, const fs::path &root)
+        : m_wantedName(std::move(wantedName)), m_pending{root}
+    {}
+
+    /// A file of the wanted name, else another entry of that name, else nothing.
+    std::optional<fs::path> run(const FileSystem &fileSystem)
+    {
+        while (!m_file && !m_pending.empty()) {
+            const fs::path folder = std::move(m_pending.back());
+            m_pending.pop_back();
+            fileSystem.list(folder, [&](const std::string &name, EntryKind kind) {
+                return visit(folder, name, kind);
+            });
+        }
+        return m_file ? m_file : m_otherEntry;
+    }
+
+private:
+    Walk visit(const fs::path &folder, const std::string &name, EntryKind kind)
+    {
+        if (name.starts_with('.'))
+            return Walk::goOn;
+        if (kind == EntryKind::folder)
+            m_pending.push_back(folder / name);
+        if (name != m_wantedName)
+            return Walk::goOn;
+        if (kind == EntryKind::file) {
+            m_file = folder / name;
+            return Walk::stop;
+        }
+        if (!m_otherEntry)
+            m_otherEntry = folder / name;
+        return Walk::goOn;
+    }
+
+    std::string m_wantedName;
+    std::vector<fs::path> m_pending;
+    std::optional<fs::path> m_file;
+    std::optional<fs::path> m_otherEntry;
+};
+
+} // namespace
+
+std::filesystem::path defaultProjectsRoot(const std::string &home, const Environment &environment)
+{
+    const auto given = environment.find(std::string(configDirEnvironmentKey));
+    const auto configured = given == environment.end()
+                                ? std::nullopt
+                                : normalizedConfigDir(given->second, currentFolder());
+    return fs::path(configured.value_or(home + "/.claude")) / "projects";
+}
+
+std::optional<std::string> normalizedConfigDir(std::string_view value,
+                                               const std::filesystem::path &workingDirectory)
+{
+    const std::string_view given = trimmed(value);
+    if (given.empty())
+        return std::nullopt;
+    std::string folder(given);
+    if (given == "~" || given.starts_with("~/"))
+        folder = homeFolder(currentEnvironment()) + std::string(given.substr(1));
+    return standardizedPath(workingDirectory / folder).native();
+}
+
+std::optional<std::filesystem::path>
+find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem)
+{
+    if (!isPlainFileName(sessionID))
+        return std::nullopt;
+    return Search(std::string(sessionID) + ".jsonl", root).run(fileSystem);
+}
+
+} // namespace Loadwick::TranscriptLocator

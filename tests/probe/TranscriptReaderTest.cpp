@@ -1,0 +1,205 @@
+#include "probe/TranscriptReader.h"
+
+#include <chrono>
+#include <fstream>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string userLine = R"({"type":"user","message":{"role":"user","content":"hi"}})";
+
+std::string assistantLine(std::int64_t inputTokens)
+{
+    return R"({"message":{"id":"m","usage":{"input_tokens":)" + std::to_string(inputTokens) +
+           R"(,"output_tokens":1}},"uuid":"u","type":"assistant"})";
+}
+
+/// A line that counts as nothing, `size` bytes long with its line feed.
+std::string fillerOf(std::size_t size)
+{
+    const std::string head = R"({"type":"attachment","x":")";
+    return head + std::string(size - head.size() - 3, 'x') + "\"}\n";
+}
+
+std::optional<ProbeUsage> usageOfFile(std::string_view content)
+{
+    const TemporaryFolder folder;
+    return TranscriptReader::firstAssistantUsageAtPath(folder.write("t.jsonl", content));
+}
+
+/// What both forms say to `text`.
+std::optional<ProbeUsage> usageOf(std::string_view text)
+{
+    const auto usage = TranscriptReader::firstAssistantUsageIn(text);
+    EXPECT_EQ(usageOfFile(text), usage) << text;
+    return usage;
+}
+
+ProbeUsage inputOf(std::int64_t tokens)
+{
+    return {.inputTokens = tokens,
+            .cacheCreationInputTokens = 0,
+            .cacheReadInputTokens = 0,
+            .outputTokens = 1};
+}
+
+} // namespace
+
+TEST(TranscriptReaderTest, takesTheUsageOfTheFirstAssistantMessage)
+{
+    EXPECT_EQ(usageOf(userLine + "\n" + assistantLine(7) + "\n" + assistantLine(8) + "\n"),
+              inputOf(7));
+}
+
+TEST(TranscriptReaderTest, readsAllFourCounts)
+{
+    EXPECT_EQ(usageOf(R"({"type":"assistant","message":{"usage":{"input_tokens":1,
+"cache_read_input_tokens":2}}})"),
+              std::nullopt);
+    EXPECT_EQ(usageOf(R"({"type":"assistant","message":{"usage":{"input_tokens":1,)"
+                      R"("cache_creation_input_tokens":2,"cache_read_input_tokens":3,)"
+                      R"("output_tokens":4}}})"),
+              (ProbeUsage{1, 2, 3, 4}));
+}
+
+TEST(TranscriptReaderTest, goesOnPastUsageOfOutputTokensAlone)
+{
+    EXPECT_EQ(usageOf(R"({"type":"assistant","message":{"usage":{"output_tokens":5}}})"
+                      "\n" +
+                      assistantLine(9)),
+              inputOf(9));
+}
+
+TEST(TranscriptReaderTest, readsALastLineWithoutLineFeed)
+{
+    EXPECT_EQ(usageOf(userLine + "\n" + assistantLine(4)), inputOf(4));
+}
+
+TEST(TranscriptReaderTest, skipsLinesThatAreMalformed)
+{
+    EXPECT_EQ(usageOf("\n   \n{\n[]\nnull\n{\"type\":\"assistant\"\n\xFF\n" + assistantLine(3) +
+                      "}\n\xEF\xBB\xBF" + assistantLine(4) + "\n" + assistantLine(5) + "\n"),
+              inputOf(5));
+}
+
+TEST(TranscriptReaderTest, skipsLinesOfOtherShape)
+{
+    for (const char *line : {R"({"type":"assistant"})", R"({"type":"assistant","message":[]})",
+                             R"({"type":"assistant","message":{"usage":[1]}})",
+                             R"({"type":"Assistant","message":{"usage":{"input_tokens":1}}})",
+                             R"({"type":1,"message":{"usage":{"input_tokens":1}}})",
+                             R"({"message":{"usage":{"input_tokens":1}}})",
+                             R"({"type":"assistant","usage":{"input_tokens":1}})",
+                             R"({"type":"assistant","message.usage":{"input_tokens":1}})"})
+        EXPECT_EQ(usageOf(std::string(line) + "\n" + assistantLine(2)), inputOf(2)) << line;
+}
+
+TEST(TranscriptReaderTest, isNothingWithoutAssistantMessage)
+{
+    EXPECT_FALSE(usageOf(""));
+    EXPECT_FALSE(usageOf("\n\n"));
+    EXPECT_FALSE(usageOf(userLine + "\n" + userLine));
+}
+
+TEST(TranscriptReaderTest, trimsALine)
+{
+    EXPECT_EQ(usageOf("  \t" + assistantLine(6) + "  \r\n"), inputOf(6));
+}
+
+TEST(TranscriptReaderTest, isNothingForAFileThatCannotBeRead)
+{
+    const TemporaryFolder folder;
+    EXPECT_FALSE(TranscriptReader::firstAssistantUsageAtPath(folder.path() / "missing"));
+    EXPECT_FALSE(TranscriptReader::firstAssistantUsageAtPath(folder.path()));
+    ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
+    EXPECT_FALSE(TranscriptReader::firstAssistantUsageAtPath(folder.path() / "fifo"));
+}
+
+TEST(TranscriptReaderTest, reassemblesALineSplitAcrossTwoReads)
+{
+    const std::string line = assistantLine(11);
+    for (std::size_t cut = 0; cut <= line.size() + 1; ++cut)
+        ASSERT_EQ(usageOfFile(fillerOf(65536 - cut) + line + "\n" + userLine + "\n"), inputOf(11))
+            << cut;
+}
+
+TEST(TranscriptReaderTest, reassemblesALineOfManyReads)
+{
+    std::string line = assistantLine(12);
+    line.insert(1, "\"x\":\"" + std::string(1'000'000, 'y') + "\",");
+    EXPECT_EQ(usageOfFile(userLine + "\n" + line + "\n"), inputOf(12));
+    EXPECT_EQ(usageOfFile(userLine + "\n" + line), inputOf(12));
+}
+
+TEST(TranscriptReaderTest, endsALineOfAFileAtALineFeedOnly)
+{
+    std::string line = assistantLine(13);
+    line.insert(1, "\"x\":\"a\u2028b\u2029c\u0085d\",");
+    EXPECT_EQ(usageOfFile(line + "\n"), inputOf(13));
+    EXPECT_FALSE(usageOfFile(userLine + "\r" + assistantLine(13)));
+}
+
+TEST(TranscriptReaderTest, endsALineOfATextAtEveryLineBreak)
+{
+    for (const char *lineBreak : {"\n", "\r\n", "\r", "\u0085", "\u2028", "\u2029"})
+        EXPECT_EQ(TranscriptReader::firstAssistantUsageIn(userLine + lineBreak + assistantLine(14)),
+                  inputOf(14));
+}
+
+TEST(TranscriptReaderTest, readsNoFurtherThanTheFirstUsage)
+{
+    const TemporaryFolder folder;
+    const fs::path path = folder.write("t.jsonl", assistantLine(15) + "\n");
+    // A hole of a terabyte costs nothing to make and hours to read.
+    fs::resize_file(path, 1ULL << 40);
+    EXPECT_EQ(TranscriptReader::firstAssistantUsageAtPath(path), inputOf(15));
+}
+
+TEST(TranscriptReaderTest, skipsALineThatIsTooLong)
+{
+    const TemporaryFolder folder;
+    const fs::path path = folder.write("t.jsonl", userLine + "\n");
+    fs::resize_file(path, 70U << 20);
+    std::ofstream(path, std::ios::binary | std::ios::app) << "\n" << assistantLine(16);
+    EXPECT_EQ(TranscriptReader::firstAssistantUsageAtPath(path), inputOf(16));
+}
+
+TEST(TranscriptReaderTest, keepsALineOfSixtyFourMebibytes)
+{
+    constexpr std::size_t longest = 64U << 20;
+    const std::string line = assistantLine(17);
+    EXPECT_EQ(usageOfFile(std::string(longest - line.size(), ' ') + line + "\n"), inputOf(17));
+    EXPECT_FALSE(usageOfFile(std::string(longest - line.size() + 1, ' ') + line + "\n"));
+}
+
+TEST(TranscriptReaderTest, readsManyShortLines)
+{
+    std::string text;
+    while (text.size() < (8U << 20))
+        text += "{}\n";
+    EXPECT_EQ(usageOfFile(text + assistantLine(18)), inputOf(18));
+}
+
+TEST(TranscriptReaderTest, searchesEachByteOfALongLineOnce)
+{
+    const auto secondsFor = [](std::size_t size) {
+        const TemporaryFolder folder;
+        const fs::path path = folder.write("t.jsonl", "");
+        fs::resize_file(path, size);
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_FALSE(TranscriptReader::firstAssistantUsageAtPath(path));
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    };
+    // Searching the whole line after each read would take 1000 reads times 32 MiB.
+    EXPECT_LT(secondsFor(60U << 20), 5.0);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "probe/FileSystem.h"
+
+namespace Loadwick {
+
+/// A tree of names that a test writes down. Folders are listed in the order in which their entries
+/// were added, and every listing is noted.
+class InMemoryFileSystem : public FileSystem
+{
+public:
+    /// Adds an entry to the listing of its parent folder.
+    void add(const std::filesystem::path &path, EntryKind kind);
+
+    void list(const std::filesystem::path &folder, const Visitor &visit) const override;
+
+    /// The folders that were listed, in order.
+    [[nodiscard]] const std::vector<std::filesystem::path> &listed() const { return m_listed; }
+
+private:
+    std::map<std::filesystem::path, std::vector<std::pair<std::string, EntryKind>>> m_entries;
+    mutable std::vector<std::filesystem::path> m_listed;
+};
+
+} // namespace Loadwick
