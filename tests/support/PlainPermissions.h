@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Loadwick {
+
+/// While it lives, this thread, and the threads that it starts, read only what the permissions of
+/// files and folders allow, even as root. Make and end it on one thread.
+class PlainPermissions
+{
+public:
+    PlainPermissions();
+    ~PlainPermissions();
+
+    PlainPermissions(const PlainPermissions &) = delete;
+    PlainPermissions &operator=(const PlainPermissions &) = delete;
+
+private:
+    std::uint32_t m_effectiveBefore; ///< the first 32 capabilities of this thread
+};
+
+} // namespace Loadwick
