@@ -1,0 +1,137 @@
+#include "report/SlabAttributor.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+#include "probe/CheckedSum.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick::SlabAttributor {
+
+namespace {
+
+/// A local estimate on its way through an attribution.
+struct Local
+{
+    const LocalCategoryEstimate *estimate;
+    std::unordered_set<std::string> keys; ///< normalised names that it answers to
+    std::int64_t budget;                  ///< tokens that no self-reported slab has drawn yet
+};
+
+std::vector<Local> localsOf(std::span<const LocalCategoryEstimate> estimates)
+{
+    std::vector<Local> locals;
+    for (const LocalCategoryEstimate &estimate : estimates) {
+        if (estimate.tokens < 1)
+            continue;
+        Local local{&estimate, {normalize(estimate.name)}, estimate.tokens};
+        for (const std::string &term : estimate.matchTerms)
+            local.keys.insert(normalize(term));
+        locals.push_back(std::move(local));
+    }
+    return locals;
+}
+
+void addRow(std::vector<SlabAttribution> &rows, std::string name, std::int64_t tokens,
+            Provenance provenance)
+{
+    rows.push_back({.name = std::move(name),
+                    .tokens = tokens,
+                    .provenance = provenance,
+                    .ordinal = static_cast<std::int64_t>(rows.size())});
+}
+
+/// A slab that no local estimate stands for is a row; of any other only what exceeds the budgets.
+void addSelfReported(std::vector<SlabAttribution> &rows, const SelfReportedSlab &slab,
+                     std::vector<Local> &locals)
+{
+    const std::string key = normalize(slab.name);
+    std::int64_t left = std::max<std::int64_t>(slab.tokens, 0);
+    bool isMatched = false;
+    for (Local &local : locals) {
+        if (!local.keys.contains(key))
+            continue;
+        isMatched = true;
+        const std::int64_t drawn = std::min(local.budget, left);
+        local.budget -= drawn;
+        left -= drawn;
+    }
+    if (!isMatched)
+        addRow(rows, slab.name, slab.tokens, Provenance::selfReported);
+    else if (left >= 1)
+        addRow(rows, slab.name + std::string(beyondLocalEstimateSuffix), left,
+               Provenance::selfReported);
+}
+
+std::vector<SlabAttribution> attributedRows(std::span<const SelfReportedSlab> selfReported,
+                                            std::span<const LocalCategoryEstimate> localEstimates)
+{
+    std::vector<SlabAttribution> rows;
+    std::vector<Local> locals = localsOf(localEstimates);
+    for (const SelfReportedSlab &slab : merged(selfReported))
+        addSelfReported(rows, slab, locals);
+    for (const Local &local : locals)
+        addRow(rows, local.estimate->name, local.estimate->tokens, Provenance::localEstimate);
+    return rows;
+}
+
+std::vector<SlabAttribution> unreportedRows(std::int64_t total)
+{
+    std::vector<SlabAttribution> rows;
+    addRow(rows, std::string(unreportedCategoriesLabel), std::max<std::int64_t>(total, 0),
+           Provenance::claudeReported);
+    return rows;
+}
+
+std::int64_t tokensOf(const std::vector<SlabAttribution> &rows)
+{
+    std::int64_t tokens = 0;
+    for (const SlabAttribution &row : rows)
+        tokens = checkedSum(tokens, row.tokens);
+    return tokens;
+}
+
+bool standsBefore(const SlabAttribution &left, const SlabAttribution &right)
+{
+    return left.tokens != right.tokens ? left.tokens > right.tokens : left.name < right.name;
+}
+
+} // namespace
+
+AttributionOutcome attribute(std::int64_t total, std::span<const SelfReportedSlab> selfReported,
+                             std::span<const LocalCategoryEstimate> localEstimates)
+{
+    std::vector<SlabAttribution> rows =
+        selfReported.empty() ? unreportedRows(total) : attributedRows(selfReported, localEstimates);
+    const std::int64_t difference = checkedDifference(total, tokensOf(rows));
+    if (difference >= 1)
+        addRow(rows, std::string(remainderLabel), difference, Provenance::remainder);
+    std::stable_sort(rows.begin(), rows.end(), standsBefore);
+    return {.rows = std::move(rows),
+            .remainder = std::max<std::int64_t>(difference, 0),
+            .overAttributed = difference < 0,
+            .categoriesSelfReported = !selfReported.empty()};
+}
+
+std::string normalize(std::string_view name)
+{
+    return lettersAndNumbers(lowercased(name));
+}
+
+std::vector<SelfReportedSlab> merged(std::span<const SelfReportedSlab> slabs)
+{
+    std::vector<SelfReportedSlab> result;
+    std::unordered_map<std::string, std::size_t> places;
+    for (const SelfReportedSlab &slab : slabs) {
+        const auto [place, isNew] = places.emplace(normalize(slab.name), result.size());
+        if (isNew)
+            result.push_back(slab);
+        else
+            result[place->second].tokens = checkedSum(result[place->second].tokens, slab.tokens);
+    }
+    return result;
+}
+
+} // namespace Loadwick::SlabAttributor
