@@ -1,0 +1,134 @@
+#include "report/ScanReport.h"
+
+#include <algorithm>
+
+#include "probe/CheckedSum.h"
+#include "report/NumberText.h"
+
+namespace Loadwick {
+
+namespace {
+
+std::int64_t tokensFrom(Provenance provenance, const std::vector<SlabAttribution> &rows)
+{
+    std::int64_t tokens = 0;
+    for (const SlabAttribution &row : rows)
+        if (row.provenance == provenance)
+            tokens = checkedSum(tokens, row.tokens);
+    return tokens;
+}
+
+std::string overAttributionSentence(OverAttributionSource source)
+{
+    switch (source) {
+    case OverAttributionSource::selfReported:
+        return "The session's self-reported categories alone add up to more than its measured "
+               "total.";
+    case OverAttributionSource::localEstimate:
+        return "The local file estimates alone add up to more than the measured total.";
+    case OverAttributionSource::combined:
+        break;
+    }
+    return "The attributed rows — the session's self-reported categories plus this app's local "
+           "file estimates — add up to more than the measured total.";
+}
+
+std::string line(std::string_view label, std::string_view text)
+{
+    return std::string(label).append(text);
+}
+
+} // namespace
+
+const std::string_view ScanReport::measurementNote =
+    "Measured: one headless `claude -p` session (model sonnet) started in this folder; the number "
+    "includes the probe prompt.";
+
+const std::string_view ScanReport::splitsEstimateNote =
+    "The category and file splits below are estimates derived locally; only the total above is "
+    "authoritative.";
+
+std::vector<InstructionFileEstimate> ScanReport::files() const
+{
+    return fileSet.allFiles();
+}
+
+const std::vector<std::string> &ScanReport::unreadablePaths() const noexcept
+{
+    return fileSet.unreadablePaths;
+}
+
+double ScanReport::categoryShare(const SlabAttribution &row) const noexcept
+{
+    if (total < 1)
+        return 0.0;
+    return std::clamp(static_cast<double>(row.tokens) / static_cast<double>(total), 0.0, 1.0);
+}
+
+std::string ScanReport::totalSourceLine() const
+{
+    return line("Total: authoritative — reported by Claude (source: ", totalSource.label())
+        .append(").");
+}
+
+std::vector<std::string> ScanReport::summaryLines(const TextLocale &locale) const
+{
+    return {line("Repository: ", repositoryName),
+            line("Total: ", NumberText::grouped(total, locale))
+                .append(" tokens — authoritative, reported by Claude (")
+                .append(totalSource.label())
+                .append(")."),
+            line("Band: ", band.title()).append(" (this app's opinion)."),
+            "Category and file splits are local estimates; only the total is authoritative.",
+            line("Session: ", sessionID)
+                .append(" · ")
+                .append(NumberText::oneDecimal(duration))
+                .append(" seconds."),
+            line("Claude executable: ", resolvedCLIPath)};
+}
+
+std::optional<std::string> ScanReport::unreadableFilesNote() const
+{
+    const std::size_t count = unreadablePaths().size();
+    if (count == 0)
+        return std::nullopt;
+    const std::string subject =
+        count == 1 ? "1 instruction file" : std::to_string(count) + " instruction files";
+    return subject +
+           " could not be read, so the category and file estimates are lower "
+           "than what is really loaded. The measured total is unaffected — it is reported "
+           "by Claude. macOS may be blocking access: allow Loadwick under System "
+           "Settings → Privacy & Security → Files & Folders, then scan again.";
+}
+
+OverAttributionSource ScanReport::overAttributionSource() const
+{
+    const bool selfReportedExceeds = tokensFrom(Provenance::selfReported, rows) > total;
+    const bool localExceeds = tokensFrom(Provenance::localEstimate, rows) > total;
+    if (selfReportedExceeds == localExceeds)
+        return OverAttributionSource::combined;
+    return selfReportedExceeds ? OverAttributionSource::selfReported
+                               : OverAttributionSource::localEstimate;
+}
+
+std::optional<std::string> ScanReport::overAttributionNote(const TextLocale &locale) const
+{
+    if (!overAttributed)
+        return std::nullopt;
+    return overAttributionSentence(overAttributionSource()) +
+           " The bar's segments therefore exceed the measured total of " +
+           NumberText::grouped(total, locale) +
+           " tokens, and there is no hidden remainder to show.";
+}
+
+std::optional<std::string> ScanReport::unreportedCategoryFilesNote() const
+{
+    if (categoriesSelfReported || files().empty())
+        return std::nullopt;
+    return "Claude did not self-report categories for this session, so the \"Startup context "
+           "(categories not self-reported)\" row already carries the whole measured total. The "
+           "instruction files below are local estimates of what makes up that total, not "
+           "additional tokens on top of it.";
+}
+
+} // namespace Loadwick

@@ -1,0 +1,96 @@
+#include "report/InstructionFileSet.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "report/ScanReport.h"
+
+namespace Loadwick {
+
+namespace {
+
+InstructionFileEstimate fileOf(const char *path, std::int64_t byteCount)
+{
+    return InstructionFileEstimate::fromPath(path, byteCount);
+}
+
+InstructionFileSet sampleSet()
+{
+    return {.repositoryFiles = {fileOf("/r/CLAUDE.md", 400), fileOf("/r/AGENTS.md", 5)},
+            .inheritedFiles = {fileOf("/CLAUDE.md", 40)},
+            .personalFiles = {fileOf("/h/.claude/CLAUDE.md", 8)},
+            .unreadablePaths = {}};
+}
+
+} // namespace
+
+TEST(InstructionFileSetTest, isEmptyInAllFourLists)
+{
+    EXPECT_EQ(InstructionFileSet::empty, (InstructionFileSet{{}, {}, {}, {}}));
+}
+
+TEST(InstructionFileSetTest, givesTheFilesOfATier)
+{
+    const InstructionFileSet set = sampleSet();
+    EXPECT_EQ(&set.files(InstructionFileTier::repository), &set.repositoryFiles);
+    EXPECT_EQ(&set.files(InstructionFileTier::inherited), &set.inheritedFiles);
+    EXPECT_EQ(&set.files(InstructionFileTier::personal), &set.personalFiles);
+}
+
+TEST(InstructionFileSetTest, joinsTheTiersInOrder)
+{
+    const std::vector<InstructionFileEstimate> expected{
+        fileOf("/r/CLAUDE.md", 400), fileOf("/r/AGENTS.md", 5), fileOf("/CLAUDE.md", 40),
+        fileOf("/h/.claude/CLAUDE.md", 8)};
+    EXPECT_EQ(sampleSet().allFiles(), expected);
+}
+
+TEST(InstructionFileSetTest, namesTheCategoriesOfTheReport)
+{
+    EXPECT_EQ(InstructionFileSet::categoryName(InstructionFileTier::repository),
+              "Repository instructions");
+    EXPECT_EQ(InstructionFileSet::categoryName(InstructionFileTier::inherited),
+              "Inherited project instructions");
+    EXPECT_EQ(InstructionFileSet::categoryName(InstructionFileTier::personal),
+              "Personal instructions");
+    EXPECT_EQ(InstructionFileSet::categoryName(InstructionFileTier::personal),
+              ScanReport::personalCategoryName);
+}
+
+TEST(InstructionFileSetTest, estimatesEachTierUnderItsMatchTerms)
+{
+    const std::vector<LocalCategoryEstimate> expected{
+        {"Repository instructions",
+         102,
+         {"memoryfiles", "claudemd", "projectinstructions", "repoinstructions", "projectmemory"}},
+        {"Inherited project instructions",
+         10,
+         {"memoryfiles", "claudemd", "projectinstructions", "repoinstructions", "projectmemory",
+          "inheritedinstructions", "ancestormemory", "parentinstructions"}},
+        {"Personal instructions",
+         2,
+         {"memoryfiles", "claudemd", "userinstructions", "usermemory", "globalinstructions",
+          "personalmemory"}}};
+    EXPECT_EQ(sampleSet().localCategories(), expected);
+}
+
+TEST(InstructionFileSetTest, estimatesNoTierWithoutTokens)
+{
+    InstructionFileSet set = sampleSet();
+    set.repositoryFiles = {fileOf("/r/CLAUDE.md", 0)};
+    set.personalFiles.clear();
+    const std::vector<LocalCategoryEstimate> categories = set.localCategories();
+    ASSERT_EQ(categories.size(), 1U);
+    EXPECT_EQ(categories[0].name, "Inherited project instructions");
+    EXPECT_TRUE(InstructionFileSet::empty.localCategories().empty());
+}
+
+TEST(InstructionFileSetTest, endsTheProgramWhenASumOverflows)
+{
+    InstructionFileSet set;
+    set.personalFiles = {{"/a", 0, std::numeric_limits<std::int64_t>::max()}, {"/b", 0, 1}};
+    EXPECT_DEATH((void)set.localCategories(), "does not fit 64 bits");
+}
+
+} // namespace Loadwick
