@@ -1,0 +1,119 @@
+#include "report/InstructionFileWalk.h"
+
+#include <map>
+#include <random>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+constexpr int fileCount = 12;
+using Graph = std::map<int, std::vector<int>>;
+
+std::string fileName(int number)
+{
+    return number == 0 ? "CLAUDE.md" : "f" + std::to_string(number) + ".md";
+}
+
+Graph randomGraph(std::mt19937 &random)
+{
+    Graph graph;
+    std::uniform_int_distribution<int> file(0, fileCount - 1);
+    for (int edge = 0; edge < 18; ++edge)
+        graph[file(random)].push_back(file(random));
+    return graph;
+}
+
+void write(const Graph &graph, const TemporaryFolder &folder)
+{
+    for (int number = 0; number < fileCount; ++number) {
+        std::string text;
+        const auto imports = graph.find(number);
+        if (imports != graph.end())
+            for (const int target : imports->second)
+                text += "@" + fileName(target) + "\n";
+        folder.write("repository/" + fileName(number), text);
+    }
+}
+
+/// The files that the first one reaches in at most `maxDepth` steps, whatever the road.
+std::set<int> reachable(const Graph &graph, int maxDepth)
+{
+    std::set<int> reached{0};
+    for (int depth = 0; depth < maxDepth; ++depth) {
+        const std::set<int> before = reached;
+        for (const int number : before)
+            if (const auto imports = graph.find(number); imports != graph.end())
+                reached.insert(imports->second.begin(), imports->second.end());
+    }
+    return reached;
+}
+
+InstructionFileSet walked(const TemporaryFolder &folder, int maxDepth)
+{
+    const auto findings = std::make_shared<InstructionFileFindings>();
+    const InstructionFileScanner::Settings settings{.home = folder.path() / "home",
+                                                    .maxImportDepth = maxDepth};
+    InstructionFileWalk(settings, folder.path() / "repository", findings).run();
+    return findings->set();
+}
+
+} // namespace
+
+TEST(InstructionFileWalkTest, findsEveryFileWithinReachOfTheDepthOnce)
+{
+    std::mt19937 random(1);
+    for (int round = 0; round < 60; ++round) {
+        const TemporaryFolder folder;
+        const Graph graph = randomGraph(random);
+        write(graph, folder);
+        const int maxDepth = round % 6;
+        std::multiset<std::string> expected;
+        for (const int number : reachable(graph, maxDepth))
+            expected.insert(folder.path() / "repository" / fileName(number));
+        std::multiset<std::string> found;
+        for (const InstructionFileEstimate &file : walked(folder, maxDepth).repositoryFiles)
+            found.insert(file.path);
+        ASSERT_EQ(found, expected) << "round " << round;
+    }
+}
+
+TEST(InstructionFileWalkTest, findsNothingOnceItIsStopped)
+{
+    const TemporaryFolder folder;
+    folder.write("CLAUDE.md", "@a.md");
+    const auto findings = std::make_shared<InstructionFileFindings>();
+    findings->stop();
+    InstructionFileWalk({.home = folder.path()}, folder.path(), findings).run();
+    EXPECT_EQ(findings->set(), InstructionFileSet::empty);
+}
+
+TEST(InstructionFileWalkTest, admitsNothingBelowADepthOfZero)
+{
+    const TemporaryFolder folder;
+    folder.write("repository/CLAUDE.md", "");
+    EXPECT_EQ(walked(folder, -1), InstructionFileSet::empty);
+    EXPECT_EQ(walked(folder, 0).repositoryFiles.size(), 1U);
+}
+
+TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
+{
+    const TemporaryFolder folder;
+    // The link is the shorter road to shared.md, and "near.md" stands beside the link alone.
+    folder.write("repository/CLAUDE.md", "@a.md @link/shared.md");
+    folder.write("repository/a.md", "@deep/shared.md");
+    folder.write("repository/deep/shared.md", "@near.md");
+    folder.write("repository/link/near.md", "");
+    std::filesystem::create_symlink("../deep/shared.md",
+                                    folder.path() / "repository/link/shared.md");
+    const InstructionFileSet set = walked(folder, 5);
+    ASSERT_EQ(set.repositoryFiles.size(), 4U);
+    EXPECT_EQ(set.repositoryFiles[3].path, folder.path() / "repository/link/near.md");
+}
+
+} // namespace Loadwick
