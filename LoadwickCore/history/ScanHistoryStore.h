@@ -13,6 +13,7 @@ namespace Loadwick {
 
 /// Owns the history file. Keeps no list between calls: each one reads the file afresh. Reports no
 /// error: an unreadable history is an empty one, and a failed write leaves the old file.
+/// A history file that is a link is read and written through it.
 /// Belongs to the interface thread; two programs writing at once overwrite each other, but whole.
 class ScanHistoryStore
 {
@@ -41,10 +42,13 @@ public:
     /// meant to be written, whether or not writing succeeded.
     [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan);
 
-    /// Deletes the file. Never fails, and never removes a folder.
+    /// Deletes the file; when that is a link, what it leads to, so that nothing recorded is left
+    /// and the next scan is recorded there again. Never fails, and never removes a folder.
     void clear();
 
 private:
+    void write(const std::vector<RecordedScan> &scans) const;
+
     std::filesystem::path m_directory;
     std::filesystem::path m_fileURL;
 };

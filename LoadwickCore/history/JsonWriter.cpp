@@ -1,0 +1,87 @@
+#include "history/JsonWriter.h"
+
+#include "probe/UnicodeText.h"
+
+namespace Loadwick {
+
+namespace {
+
+void appendEscaped(std::string &text, char character)
+{
+    constexpr std::string_view named = "\"\\\b\f\n\r\t";
+    constexpr std::string_view letters = "\"\\bfnrt";
+    constexpr std::string_view hexadecimal = "0123456789abcdef";
+    const std::size_t place = named.find(character);
+    if (place != std::string_view::npos) {
+        text += '\\';
+        text += letters[place];
+    } else if (const auto code = static_cast<unsigned char>(character); code < 0x20) {
+        text += "\\u00";
+        text += hexadecimal[code >> 4U];
+        text += hexadecimal[code & 0x0FU];
+    } else {
+        text += character;
+    }
+}
+
+void appendLiteral(std::string &text, std::string_view content)
+{
+    text += '"';
+    for (const char character : content)
+        appendEscaped(text, character);
+    text += '"';
+}
+
+} // namespace
+
+void JsonWriter::open(char bracket)
+{
+    m_text += bracket;
+    ++m_depth;
+    m_isEmpty = true;
+}
+
+void JsonWriter::close(char bracket)
+{
+    --m_depth;
+    if (!m_isEmpty)
+        startLine();
+    m_text += bracket;
+    m_isEmpty = false;
+}
+
+void JsonWriter::key(std::string_view name)
+{
+    element();
+    value(name);
+    m_text += " : ";
+}
+
+void JsonWriter::element()
+{
+    if (!m_isEmpty)
+        m_text += ',';
+    m_isEmpty = false;
+    startLine();
+}
+
+void JsonWriter::value(std::int64_t number)
+{
+    m_text += std::to_string(number);
+}
+
+void JsonWriter::value(std::string_view text)
+{
+    if (isUtf8(text))
+        appendLiteral(m_text, text);
+    else
+        appendLiteral(m_text, repairedUtf8(text));
+}
+
+void JsonWriter::startLine()
+{
+    m_text += '\n';
+    m_text.append(2 * m_depth, ' ');
+}
+
+} // namespace Loadwick

@@ -1,0 +1,140 @@
+#include "history/ScanHistoryStore.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <exception>
+#include <optional>
+#include <string>
+#include <thread>
+#include <tuple>
+#include <utility>
+
+#include "history/AtomicFile.h"
+#include "history/ScanHistoryFile.h"
+#include "probe/RegularFile.h"
+
+namespace Loadwick {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int attempts = 4;
+constexpr std::chrono::milliseconds pause(1);
+
+bool isPassing(int errorNumber)
+{
+    constexpr std::array passing = {EINTR, EAGAIN, EMFILE, ENFILE, ENOMEM};
+    return std::find(passing.begin(), passing.end(), errorNumber) != passing.end();
+}
+
+/// One byte more than the store takes, so that a file too long shows as one.
+std::optional<std::string> bytesOf(const fs::path &path, RegularFile::Failure &failure)
+{
+    std::optional<RegularFile> file = RegularFile::open(path, &failure);
+    if (!file)
+        return std::nullopt;
+    return file->readUpTo(ScanHistoryStore::maximumBytes + 1, &failure);
+}
+
+/// A history that cannot be read is overwritten by the next scan; a fault that passes must not cost
+/// the user the history.
+std::optional<std::string> patientlyReadBytesOf(const fs::path &path)
+{
+    for (int attempt = 1;; ++attempt) {
+        RegularFile::Failure failure;
+        std::optional<std::string> bytes = bytesOf(path, failure);
+        if (bytes || attempt == attempts || !isPassing(failure.errorNumber))
+            return bytes;
+        std::this_thread::sleep_for(pause);
+    }
+}
+
+std::vector<RecordedScan> scansIn(const fs::path &path)
+{
+    const std::optional<std::string> bytes = patientlyReadBytesOf(path);
+    if (!bytes || bytes->size() > ScanHistoryStore::maximumBytes)
+        return {};
+    std::optional<ScanHistoryFile> file = ScanHistoryFile::decoded(*bytes);
+    if (!file || file->version != ScanHistoryStore::schemaVersion)
+        return {};
+    return std::move(file->scans);
+}
+
+void order(std::vector<RecordedScan> &scans)
+{
+    const auto key = [](const RecordedScan &scan) {
+        return std::tie(scan.date, scan.repositoryName);
+    };
+    std::stable_sort(scans.begin(), scans.end(),
+                     [key](const RecordedScan &left, const RecordedScan &right) {
+                         return key(left) < key(right);
+                     });
+}
+
+void keepNewest(std::vector<RecordedScan> &scans)
+{
+    if (scans.size() > ScanHistoryStore::maximumScans)
+        scans.erase(scans.begin(),
+                    scans.end() - static_cast<std::ptrdiff_t>(ScanHistoryStore::maximumScans));
+}
+
+} // namespace
+
+ScanHistoryStore::ScanHistoryStore(fs::path directory)
+    : m_directory(std::move(directory)), m_fileURL(m_directory / fileName)
+{}
+
+fs::path ScanHistoryStore::defaultDirectory(const Environment &environment)
+{
+#if defined(__APPLE__)
+    return fs::path(homeFolder(environment)) / "Library/Application Support" / directoryName;
+#else
+    const auto found = environment.find("XDG_DATA_HOME");
+    if (found != environment.end() && fs::path(found->second).is_absolute())
+        return fs::path(found->second) / directoryName;
+    return fs::path(homeFolder(environment)) / ".local/share" / directoryName;
+#endif
+}
+
+std::vector<RecordedScan> ScanHistoryStore::load() const
+{
+    try {
+        std::vector<RecordedScan> scans = scansIn(m_fileURL);
+        order(scans);
+        return scans;
+    } catch (const std::exception &) {
+        return {}; // a file too large for the memory at hand counts as unreadable
+    }
+}
+
+std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan)
+{
+    std::vector<RecordedScan> scans = load();
+    scans.push_back(scan);
+    order(scans);
+    keepNewest(scans);
+    write(scans);
+    return scans;
+}
+
+void ScanHistoryStore::write(const std::vector<RecordedScan> &scans) const
+{
+    try {
+        std::error_code ignored; // without the folder, writing the file fails
+        fs::create_directories(m_directory, ignored);
+        const ScanHistoryFile file = {.version = schemaVersion, .scans = scans};
+        static_cast<void>(AtomicFile::replace(m_fileURL, file.encoded()));
+    } catch (const std::exception &) {
+        // no memory for it: like every failed write, it leaves the old file
+    }
+}
+
+void ScanHistoryStore::clear()
+{
+    AtomicFile::remove(m_fileURL);
+}
+
+} // namespace Loadwick

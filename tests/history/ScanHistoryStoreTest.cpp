@@ -1,0 +1,311 @@
+#include "history/ScanHistoryStore.h"
+
+#include <chrono>
+#include <string>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "history/ScanHistoryFile.h"
+#include "probe/FileDescriptor.h"
+#include "support/RecordedScanBuilder.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Scans = std::vector<RecordedScan>;
+
+RecordedScan scanAt(std::int64_t second, const std::string &name = "webshop")
+{
+    return RecordedScanBuilder().at(second).named(name).build();
+}
+
+void write(const ScanHistoryStore &store, const ScanHistoryFile &file)
+{
+    fs::create_directories(store.directory());
+    const TemporaryFolder elsewhere;
+    fs::copy_file(elsewhere.write("file", file.encoded()), store.fileURL(),
+                  fs::copy_options::overwrite_existing);
+}
+
+Scans scansAt(std::int64_t first, std::int64_t count)
+{
+    Scans scans;
+    for (std::int64_t second = first; second < first + count; ++second)
+        scans.push_back(scanAt(second));
+    return scans;
+}
+
+Scans recordedIn(const fs::path &path)
+{
+    return ScanHistoryFile::decoded(contentOf(path)).value().scans;
+}
+
+} // namespace
+
+TEST(ScanHistoryStoreTest, keepsItsFileInTheUsersDataFolder)
+{
+    using Store = ScanHistoryStore;
+    EXPECT_EQ(Store::defaultDirectory({{"HOME", "/home/a"}}), "/home/a/.local/share/Loadwick");
+    EXPECT_EQ(Store::defaultDirectory({{"HOME", "/home/a"}, {"XDG_DATA_HOME", "/data"}}),
+              "/data/Loadwick");
+    for (const std::string unusable : {"", "relative/data", "~/data"})
+        EXPECT_EQ(Store::defaultDirectory({{"HOME", "/home/a"}, {"XDG_DATA_HOME", unusable}}),
+                  "/home/a/.local/share/Loadwick");
+    EXPECT_EQ(Store("/data/Loadwick").fileURL(), "/data/Loadwick/scan-history.json");
+}
+
+TEST(ScanHistoryStoreTest, createsNothingByItself)
+{
+    const TemporaryFolder folder;
+    const ScanHistoryStore store(folder.path() / "a/b");
+    EXPECT_TRUE(store.load().empty());
+    EXPECT_FALSE(fs::exists(folder.path() / "a"));
+}
+
+TEST(ScanHistoryStoreTest, createsTheFolderAndTheFileAtTheFirstAppend)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path() / "a/b");
+    const RecordedScan scan = scanAt(1);
+    EXPECT_EQ(store.append(scan), Scans{scan});
+    EXPECT_EQ(ScanHistoryFile::decoded(contentOf(store.fileURL())),
+              (ScanHistoryFile{.version = 1, .scans = {scan}}));
+    EXPECT_EQ(static_cast<unsigned>(fs::status(store.fileURL()).permissions()), 0600U);
+    EXPECT_EQ(store.load(), Scans{scan});
+}
+
+TEST(ScanHistoryStoreTest, readsTheFileAfreshEveryTime)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    const RecordedScan own = scanAt(1);
+    const RecordedScan foreign = scanAt(2);
+    EXPECT_EQ(store.append(own).size(), 1U);
+    EXPECT_EQ(ScanHistoryStore(folder.path()).append(foreign).size(), 2U);
+    EXPECT_EQ(store.load(), (Scans{own, foreign}));
+}
+
+TEST(ScanHistoryStoreTest, countsAnotherVersionAsEmptyAndOverwritesIt)
+{
+    for (const std::int64_t version : {0, 2, -1}) {
+        const TemporaryFolder folder;
+        ScanHistoryStore store(folder.path());
+        write(store, {.version = version, .scans = {scanAt(1)}});
+        EXPECT_TRUE(store.load().empty());
+        const RecordedScan scan = scanAt(2);
+        EXPECT_EQ(store.append(scan), Scans{scan});
+        EXPECT_EQ(ScanHistoryFile::decoded(contentOf(store.fileURL())),
+                  (ScanHistoryFile{.version = 1, .scans = {scan}}));
+    }
+}
+
+TEST(ScanHistoryStoreTest, countsAFileInWhichOneScanLacksItsTotalAsEmpty)
+{
+    const TemporaryFolder folder;
+    const ScanHistoryStore store(folder.path());
+    std::string json = ScanHistoryFile{.version = 1, .scans = scansAt(1, 3)}.encoded();
+    json.replace(json.rfind("\"total\""), 7, "\"tota1\"");
+    folder.write("scan-history.json", json);
+    EXPECT_TRUE(store.load().empty());
+}
+
+TEST(ScanHistoryStoreTest, countsWhatIsNotJsonAsEmptyAndOverwritesIt)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    folder.write("scan-history.json", "{\"scans\" : [");
+    EXPECT_TRUE(store.load().empty());
+    EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
+    EXPECT_EQ(store.load().size(), 1U);
+}
+
+TEST(ScanHistoryStoreTest, keepsTheNewestTwoHundredScans)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    const Scans before = scansAt(1, 200);
+    write(store, {.version = 1, .scans = before});
+    const RecordedScan added = scanAt(1'000);
+    const Scans after = store.append(added);
+    ASSERT_EQ(after.size(), 200U);
+    EXPECT_EQ(after.front(), before[1]);
+    EXPECT_EQ(after.back(), added);
+    EXPECT_EQ(store.load(), after);
+}
+
+TEST(ScanHistoryStoreTest, dropsAScanThatIsOlderThanTwoHundredOthers)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    const Scans before = scansAt(1, 200);
+    write(store, {.version = 1, .scans = before});
+    EXPECT_EQ(store.append(scanAt(0)), before);
+}
+
+TEST(ScanHistoryStoreTest, trimsALongerFileAtTheNextAppendOnly)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    write(store, {.version = 1, .scans = scansAt(1, 250)});
+    EXPECT_EQ(store.load().size(), 250U);
+    EXPECT_EQ(store.append(scanAt(1'000)).size(), 200U);
+}
+
+TEST(ScanHistoryStoreTest, ordersScansByDateThenByRepositoryName)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    const RecordedScan late = scanAt(9, "a");
+    const RecordedScan laterName = scanAt(5, "b");
+    const RecordedScan earlierName = scanAt(5, "B");
+    write(store, {.version = 1, .scans = {late, laterName, earlierName}});
+    EXPECT_EQ(store.load(), (Scans{earlierName, laterName, late}));
+}
+
+TEST(ScanHistoryStoreTest, keepsTheOrderOfScansThatAreEqualInBoth)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    const Scans equals = {scanAt(5), scanAt(5), scanAt(5)};
+    write(store, {.version = 1, .scans = {equals[0], equals[1]}});
+    EXPECT_EQ(store.append(equals[2]), equals);
+    EXPECT_EQ(store.load(), equals);
+}
+
+TEST(ScanHistoryStoreTest, givesTheListThatItMeantToWriteWhenItCannot)
+{
+    const TemporaryFolder folder;
+    folder.write("file", "in the way");
+    ScanHistoryStore store(folder.path() / "file");
+    const RecordedScan scan = scanAt(1);
+    EXPECT_EQ(store.append(scan), Scans{scan});
+    EXPECT_TRUE(store.load().empty());
+    store.clear();
+    EXPECT_EQ(contentOf(folder.path() / "file"), "in the way");
+}
+
+TEST(ScanHistoryStoreTest, clearsAMissingFileWithoutAWord)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path() / "missing");
+    store.clear();
+    EXPECT_FALSE(fs::exists(folder.path() / "missing"));
+}
+
+TEST(ScanHistoryStoreTest, clearsWhatItRecorded)
+{
+    const TemporaryFolder folder;
+    folder.write("neighbour", "kept");
+    ScanHistoryStore store(folder.path());
+    static_cast<void>(store.append(scanAt(1)));
+    store.clear();
+    EXPECT_FALSE(fs::exists(store.fileURL()));
+    EXPECT_TRUE(store.load().empty());
+    EXPECT_TRUE(fs::exists(folder.path() / "neighbour"));
+}
+
+TEST(ScanHistoryStoreTest, leavesAFolderInThePlaceOfTheFileAlone)
+{
+    const TemporaryFolder folder;
+    folder.write("scan-history.json/inner", "kept");
+    ScanHistoryStore store(folder.path());
+    EXPECT_TRUE(store.load().empty());
+    EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
+    store.clear();
+    EXPECT_EQ(contentOf(folder.path() / "scan-history.json/inner"), "kept");
+}
+
+TEST(ScanHistoryStoreTest, neverWaitsForAFifoInThePlaceOfTheFile)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    ASSERT_EQ(mkfifo(store.fileURL().c_str(), 0600), 0);
+    EXPECT_TRUE(store.load().empty());
+    EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
+    EXPECT_TRUE(fs::is_fifo(store.fileURL()));
+    store.clear();
+    EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
+    EXPECT_TRUE(fs::is_regular_file(store.fileURL()));
+}
+
+TEST(ScanHistoryStoreTest, readsWritesAndClearsThroughALink)
+{
+    const TemporaryFolder folder;
+    const fs::path target = folder.path() / "synced/history.json";
+    fs::create_directories(target.parent_path());
+    fs::create_directories(folder.path() / "data");
+    ScanHistoryStore store(folder.path() / "data");
+    fs::create_symlink("../synced/history.json", store.fileURL());
+    const RecordedScan scan = scanAt(1);
+    EXPECT_TRUE(store.load().empty());
+    EXPECT_EQ(store.append(scan), Scans{scan});
+    EXPECT_EQ(recordedIn(target), Scans{scan});
+    EXPECT_TRUE(fs::is_symlink(store.fileURL()));
+    EXPECT_EQ(store.load(), Scans{scan});
+    store.clear();
+    EXPECT_FALSE(fs::exists(target));
+    EXPECT_TRUE(fs::is_symlink(store.fileURL()));
+}
+
+TEST(ScanHistoryStoreTest, overwritesAFileThatNobodyMayRead)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    static_cast<void>(store.append(scanAt(1)));
+    fs::permissions(store.fileURL(), fs::perms::none);
+    const bool isReadableAnyway = access(store.fileURL().c_str(), R_OK) == 0; // as root
+    const Scans after = store.append(scanAt(2));
+    EXPECT_EQ(after.size(), isReadableAnyway ? 2U : 1U);
+    EXPECT_EQ(recordedIn(store.fileURL()), after);
+}
+
+TEST(ScanHistoryStoreTest, removesATemporaryFileThatACrashLeft)
+{
+    const TemporaryFolder folder;
+    folder.write(".scan-history.json.a1B2c3", "half");
+    ScanHistoryStore store(folder.path());
+    static_cast<void>(store.append(scanAt(1)));
+    EXPECT_FALSE(fs::exists(folder.path() / ".scan-history.json.a1B2c3"));
+}
+
+TEST(ScanHistoryStoreTest, countsAFileBeyondItsLimitAsEmpty)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    write(store, {.version = 1, .scans = {scanAt(1)}});
+    EXPECT_EQ(store.load().size(), 1U);
+    fs::resize_file(store.fileURL(), ScanHistoryStore::maximumBytes + 1); // sparse
+    EXPECT_TRUE(store.load().empty());
+}
+
+TEST(ScanHistoryStoreTest, outlastsAMomentWithoutFreeDescriptors)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    static_cast<void>(store.append(scanAt(1)));
+    rlimit before = {};
+    getrlimit(RLIMIT_NOFILE, &before);
+    FileDescriptor next(dup(0));
+    rlimit tight = before;
+    tight.rlim_cur = static_cast<rlim_t>(next.number());
+    next.reset();
+    // At this limit nothing can be opened any more, until the other thread lifts it.
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
+    std::thread relief([&before] {
+        std::this_thread::sleep_for(std::chrono::microseconds(500));
+        setrlimit(RLIMIT_NOFILE, &before);
+    });
+    const Scans loaded = store.load();
+    relief.join();
+    EXPECT_EQ(loaded.size(), 1U);
+}
+
+} // namespace Loadwick
