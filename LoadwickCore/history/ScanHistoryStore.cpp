@@ -30,11 +30,11 @@ bool isPassing(int errorNumber)
     return std::find(passing.begin(), passing.end(), errorNumber) != passing.end();
 }
 
-/// One byte more than the store takes, so that a file too long shows as one.
+/// At most one byte more than the store takes, so that a file that grew too long shows as one.
 std::optional<std::string> bytesOf(const fs::path &path, RegularFile::Failure &failure)
 {
     std::optional<RegularFile> file = RegularFile::open(path, &failure);
-    if (!file)
+    if (!file || file->size() > static_cast<std::int64_t>(ScanHistoryStore::maximumBytes))
         return std::nullopt;
     return file->readUpTo(ScanHistoryStore::maximumBytes + 1, &failure);
 }
