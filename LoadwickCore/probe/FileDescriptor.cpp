@@ -2,6 +2,7 @@
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace Loadwick {
@@ -13,6 +14,11 @@ FileDescriptor &FileDescriptor::operator=(FileDescriptor &&other) noexcept
         m_number = std::exchange(other.m_number, -1);
     }
     return *this;
+}
+
+FileDescriptor FileDescriptor::duplicate() const noexcept
+{
+    return FileDescriptor(fcntl(m_number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
 void FileDescriptor::reset() noexcept

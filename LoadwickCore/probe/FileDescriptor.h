@@ -8,6 +8,8 @@ namespace Loadwick {
 class FileDescriptor
 {
 public:
+    static constexpr int none = -1;
+
     FileDescriptor() noexcept = default;
 
     /// Takes over `number`; -1, as a failed call gives it, is none.
@@ -23,6 +25,10 @@ public:
 
     /// -1 when there is none.
     [[nodiscard]] int number() const noexcept { return m_number; }
+
+    /// A second descriptor, closed on exec and above the three standard ones, for what this one has
+    /// open; none, and `errno` set, when there is none to be had.
+    [[nodiscard]] FileDescriptor duplicate() const noexcept;
 
     /// Closes it now. `errno` stays as it was.
     void reset() noexcept;

@@ -1,0 +1,87 @@
+#include "probe/ChildProcess.h"
+
+#include <cerrno>
+#include <csignal>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include <sys/wait.h>
+
+#include "probe/ProcessSpawn.h"
+
+namespace Loadwick {
+
+ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams &streams,
+                                 std::shared_ptr<Shutdown> shutdown)
+{
+    const auto refuse = [] { throw std::system_error(ECANCELED, std::generic_category()); };
+    ShutdownEntry entry(std::move(shutdown));
+    if (!entry.isAnnounced())
+        refuse();
+    ChildProcess child(spawnSessionLeader(command, streams), std::move(entry));
+    if (!child.m_entry.enter(child.m_processID))
+        refuse();
+    return child;
+}
+
+ChildProcess::ChildProcess(pid_t processID, ShutdownEntry entry) noexcept
+    : m_processID(processID), m_exit(processID), m_entry(std::move(entry))
+{}
+
+ChildProcess::ChildProcess(ChildProcess &&other) noexcept
+    : m_processID(std::exchange(other.m_processID, 0)),
+      m_exit(std::move(other.m_exit)),
+      m_entry(std::move(other.m_entry))
+{}
+
+ChildProcess::~ChildProcess()
+{
+    if (m_processID == 0)
+        return;
+    signalGroup(SIGKILL);
+    if (waitUntil(deadlineAfter(survivalSeconds)))
+        reap();
+    else
+        abandon(std::move(*this));
+}
+
+void ChildProcess::signal(int number) const noexcept
+{
+    if (m_processID > 0)
+        kill(m_processID, number);
+}
+
+void ChildProcess::signalGroup(int number) const noexcept
+{
+    if (m_processID > 1)
+        kill(-m_processID, number);
+}
+
+ChildProcess::Ending ChildProcess::reap()
+{
+    siginfo_t found{};
+    m_entry.leave();
+    while (waitid(P_PID, static_cast<id_t>(m_processID), &found, WEXITED) != 0 && errno == EINTR) {
+    }
+    m_processID = 0;
+    return {found.si_status, found.si_code == CLD_KILLED || found.si_code == CLD_DUMPED};
+}
+
+// The number travels alone: a thread that cannot be started must not leave an owner behind whose
+// destructor would wait once more. The list of children goes without it, since the kill was sent.
+void ChildProcess::abandon(ChildProcess child) noexcept
+{
+    const pid_t processID = std::exchange(child.m_processID, 0);
+    try {
+        child.m_entry.leave();
+        std::thread([processID] {
+            while (waitpid(processID, nullptr, 0) < 0 && errno == EINTR) {
+            }
+        }).detach();
+    } catch (const std::system_error &) {
+        return;
+    }
+}
+
+} // namespace Loadwick
