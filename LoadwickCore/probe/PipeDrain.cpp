@@ -69,7 +69,8 @@ bool run(FileDescriptor descriptor, const ReaderDeadline &deadline, const Sink &
         const Readiness readiness = waitForInput(input.number(), deadline);
         if (readiness == Readiness::failed)
             return false;
-        if (readiness == Readiness::readable && readOnce(input.number(), buffer, sink) == Step::stop)
+        if (readiness == Readiness::readable &&
+            readOnce(input.number(), buffer, sink) == Step::stop)
             return false;
     }
     return true;

@@ -85,6 +85,8 @@ public:
     [[nodiscard]] static std::optional<std::int64_t> reportedTurns(std::string_view standardOutput);
 
 private:
+    [[nodiscard]] Launch launch(const std::string &cli,
+                                const std::filesystem::path &repository) const;
     [[nodiscard]] std::optional<ProbeUsage> transcriptUsage(const std::string &sessionID) const;
 
     Settings m_settings;

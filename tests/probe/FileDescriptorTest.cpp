@@ -67,4 +67,19 @@ TEST(FileDescriptorTest, closesOnceAndKeepsTheErrorOfTheCallBefore)
     EXPECT_FALSE(owner.isOpen());
 }
 
+TEST(FileDescriptorTest, duplicatesClosedOnExecAndAboveTheStandardStreams)
+{
+    const FileDescriptor descriptor(openNumber());
+    const FileDescriptor duplicate = descriptor.duplicate();
+    ASSERT_TRUE(duplicate.isOpen());
+    EXPECT_NE(duplicate.number(), descriptor.number());
+    EXPECT_GT(duplicate.number(), STDERR_FILENO);
+    EXPECT_EQ(fcntl(duplicate.number(), F_GETFD), FD_CLOEXEC);
+}
+
+TEST(FileDescriptorTest, duplicatesNothingToNone)
+{
+    EXPECT_FALSE(FileDescriptor().duplicate().isOpen());
+}
+
 } // namespace Loadwick

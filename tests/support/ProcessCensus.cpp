@@ -1,0 +1,72 @@
+#include "support/ProcessCensus.h"
+
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+#include <string>
+#include <thread>
+
+#include <unistd.h>
+
+namespace Loadwick {
+
+namespace {
+
+std::size_t entryCount(const char *folder)
+{
+    std::size_t count = 0;
+    std::error_code ignored;
+    for (std::filesystem::directory_iterator entry(folder, ignored), end; entry != end;
+         entry.increment(ignored))
+        ++count;
+    return count;
+}
+
+// The fields after the name, which stands in brackets and may hold anything.
+bool isZombieChild(const std::filesystem::path &process)
+{
+    std::ifstream file(process / "stat");
+    std::string line;
+    std::getline(file, line);
+    const std::size_t nameEnd = line.rfind(") ");
+    if (nameEnd == std::string::npos)
+        return false;
+    const std::string ours = "Z " + std::to_string(getpid()) + " ";
+    return line.compare(nameEnd + 2, ours.size(), ours) == 0;
+}
+
+std::size_t zombieChildren()
+{
+    std::size_t count = 0;
+    std::error_code ignored;
+    for (std::filesystem::directory_iterator entry("/proc", ignored), end; entry != end;
+         entry.increment(ignored))
+        count += isZombieChild(entry->path()) ? 1U : 0U;
+    return count;
+}
+
+} // namespace
+
+ProcessCensus ProcessCensus::now()
+{
+    return {entryCount("/proc/self/fd"), entryCount("/proc/self/task"), zombieChildren()};
+}
+
+void PrintTo(const ProcessCensus &census, std::ostream *stream)
+{
+    *stream << census.descriptors << " descriptors, " << census.threads << " threads, "
+            << census.zombies << " zombies";
+}
+
+bool eventually(const std::function<bool()> &holds, std::chrono::milliseconds limit)
+{
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (!holds()) {
+        if (std::chrono::steady_clock::now() >= end)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return true;
+}
+
+} // namespace Loadwick

@@ -1,0 +1,269 @@
+// A child process that behaves badly on request: its first argument says how. No child outlives
+// half a minute, whatever it does.
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/ptrace.h>
+#include <unistd.h>
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+void writeAll(int descriptor, std::string_view text)
+{
+    while (!text.empty()) {
+        const ssize_t count = write(descriptor, text.data(), text.size());
+        if (count < 0 && errno != EINTR)
+            _exit(9);
+        text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    }
+}
+
+void say(const std::string &line)
+{
+    writeAll(STDOUT_FILENO, line + "\n");
+}
+
+[[noreturn]] void liveOn()
+{
+    while (true)
+        pause();
+}
+
+void sleepMilliseconds(const std::string &text)
+{
+    usleep(static_cast<useconds_t>(std::stoul(text)) * 1000U);
+}
+
+int print(const Arguments &arguments)
+{
+    writeAll(STDOUT_FILENO, arguments.at(0));
+    writeAll(STDERR_FILENO, arguments.at(1));
+    return std::stoi(arguments.at(2));
+}
+
+int flood(const Arguments &arguments)
+{
+    const std::string chunk(64 * 1024, 'x');
+    for (std::size_t left = std::stoul(arguments.at(0)); left > 0;) {
+        const std::size_t count = std::min(left, chunk.size());
+        writeAll(STDOUT_FILENO, std::string_view(chunk).substr(0, count));
+        writeAll(STDERR_FILENO, std::string_view(chunk).substr(0, count));
+        left -= count;
+    }
+    return 0;
+}
+
+int ignoreTermination(const Arguments &)
+{
+    std::signal(SIGTERM, SIG_IGN);
+    say("ready");
+    liveOn();
+}
+
+int trapTermination(const Arguments &arguments)
+{
+    static int status = 0;
+    status = std::stoi(arguments.at(0));
+    std::signal(SIGTERM, [](int) { _exit(status); });
+    say("ready");
+    liveOn();
+}
+
+// Leaves a process behind that holds both streams and prints once more before it ends.
+int leaveGrandchild(const Arguments &arguments)
+{
+    say("early");
+    if (fork() == 0) {
+        alarm(30);
+        sleepMilliseconds(arguments.at(0));
+        say("late");
+        _exit(0);
+    }
+    return 0;
+}
+
+int leaveDaemon(const Arguments &arguments)
+{
+    if (fork() == 0) {
+        setsid();
+        if (fork() == 0) {
+            alarm(30);
+            sleepMilliseconds(arguments.at(0));
+            _exit(0);
+        }
+        _exit(0);
+    }
+    say("gone");
+    return 0;
+}
+
+// Leaves a process behind in its group that holds no stream, and makes a file if it may live on.
+int leaveQuietGrandchild(const Arguments &arguments)
+{
+    if (fork() == 0) {
+        alarm(30);
+        close(STDOUT_FILENO);
+        close(STDERR_FILENO);
+        sleepMilliseconds(arguments.at(0));
+        close(open(arguments.at(1).c_str(), O_CREAT | O_WRONLY, 0600));
+        _exit(0);
+    }
+    if (arguments.size() > 2)
+        liveOn();
+    return 0;
+}
+
+int stopItself(const Arguments &)
+{
+    raise(SIGSTOP);
+    return 0;
+}
+
+int printHalfACharacter(const Arguments &)
+{
+    writeAll(STDOUT_FILENO, "half \xE2\x82");
+    writeAll(STDERR_FILENO, "whole \xE2\x82\xAC");
+    return 0;
+}
+
+int closeOutput(const Arguments &)
+{
+    writeAll(STDOUT_FILENO, "last words");
+    close(STDOUT_FILENO);
+    close(STDERR_FILENO);
+    liveOn();
+}
+
+// Has a tracer that holds it in the middle of its death, so that even SIGKILL does not end it.
+int surviveKill(const Arguments &arguments)
+{
+    int attached[2];
+    if (pipe(attached) != 0)
+        return 9;
+    const pid_t victim = getpid();
+    const pid_t tracer = fork();
+    if (tracer == 0) {
+        setsid();
+        alarm(30);
+        close(STDOUT_FILENO);
+        close(STDERR_FILENO);
+        if (ptrace(PTRACE_SEIZE, victim, nullptr, PTRACE_O_TRACEEXIT) == 0)
+            writeAll(attached[1], "y");
+        close(attached[1]);
+        sleepMilliseconds(arguments.at(0));
+        _exit(0);
+    }
+    close(attached[1]);
+    char answer = 'n';
+    if (read(attached[0], &answer, 1) != 1)
+        return 9;
+    say("ready");
+    liveOn();
+}
+
+std::string openDescriptors()
+{
+    std::string numbers;
+    DIR *const folder = opendir("/proc/self/fd");
+    while (const dirent *const entry = readdir(folder))
+        if (entry->d_name[0] != '.' && std::stoi(entry->d_name) != dirfd(folder))
+            numbers += std::string(" ") + entry->d_name;
+    closedir(folder);
+    return numbers;
+}
+
+std::string signalsThat(const std::function<bool(int)> &holds)
+{
+    std::string numbers;
+    for (int number = 1; number < NSIG; ++number)
+        if (holds(number))
+            numbers += " " + std::to_string(number);
+    return numbers;
+}
+
+bool isBlocked(int number)
+{
+    sigset_t blocked;
+    sigprocmask(SIG_BLOCK, nullptr, &blocked);
+    return sigismember(&blocked, number) == 1;
+}
+
+bool hasOwnDisposition(int number)
+{
+    struct sigaction action
+    {};
+    return sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_DFL;
+}
+
+int describe(const Arguments &)
+{
+    const bool leads = getsid(0) == getpid() && getpgrp() == getpid();
+    const bool hasTerminal = open("/dev/tty", O_RDWR) >= 0;
+    char byte = 0;
+    char folder[4096];
+    say(std::string("leads session and group: ") + (leads ? "yes" : "no"));
+    say(std::string("terminal: ") + (hasTerminal ? "yes" : "no"));
+    say("descriptors:" + openDescriptors());
+    say("blocked:" + signalsThat(isBlocked));
+    say("dispositions:" + signalsThat(hasOwnDisposition));
+    say("input bytes: " + std::to_string(read(STDIN_FILENO, &byte, 1)));
+    say(std::string("folder: ") + getcwd(folder, sizeof folder));
+    return 0;
+}
+
+int printEnvironment(const Arguments &)
+{
+    for (char **entry = environ; *entry != nullptr; ++entry)
+        say(*entry);
+    return 0;
+}
+
+int printArguments(const Arguments &arguments)
+{
+    for (const std::string &argument : arguments)
+        say(argument);
+    return 0;
+}
+
+const std::map<std::string, int (*)(const Arguments &)> verbs{
+    {"arguments", printArguments},
+    {"close-output", closeOutput},
+    {"daemon", leaveDaemon},
+    {"describe", describe},
+    {"environment", printEnvironment},
+    {"flood", flood},
+    {"grandchild", leaveGrandchild},
+    {"half", printHalfACharacter},
+    {"ignore-term", ignoreTermination},
+    {"print", print},
+    {"quiet-grandchild", leaveQuietGrandchild},
+    {"stop", stopItself},
+    {"survive-kill", surviveKill},
+    {"trap-term", trapTermination},
+};
+
+} // namespace
+
+int main(int count, char **texts)
+{
+    const Arguments all(texts, texts + count);
+    if (all.size() < 2 || verbs.find(all[1]) == verbs.end())
+        return 2;
+    alarm(30);
+    return verbs.at(all[1])(Arguments(all.begin() + 2, all.end()));
+}
