@@ -20,7 +20,8 @@ namespace Loadwick {
 
 /// Drives one scan at a time from a chosen folder to a recorded report, and owns the history.
 /// Belongs to the interface thread; only the blocking work of its collaborators runs elsewhere, and
-/// outcomes that arrive after the model has gone are dropped.
+/// outcomes that arrive after the model has gone are dropped. An observer of its values may call
+/// it, but not end its life.
 class ScanModel
 {
 public:
@@ -33,10 +34,13 @@ public:
         std::shared_ptr<InstructionFileScanning> instructionScanner;
         std::unique_ptr<ScanHistoryStore> historyStore; ///< none: nothing is recorded
         std::shared_ptr<TaskDispatcher> dispatcher;
-        std::function<std::chrono::sys_seconds()> now; ///< the clock that dates recorded scans
+        /// The clock that dates recorded scans.
+        std::function<std::chrono::sys_seconds()> now = [] {
+            return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+        };
     };
 
-    /// Loads the history.
+    /// Loads the history. All collaborators but the store are required.
     explicit ScanModel(Collaborators collaborators);
     ~ScanModel();
 
@@ -64,8 +68,8 @@ public:
     void clearHistory();
 
 private:
-    struct Internals;
-    std::shared_ptr<Internals> m_internals;
+    class Internals;
+    std::shared_ptr<Internals> m_internals; ///< shared so that late outcomes can see it gone
 };
 
 } // namespace Loadwick

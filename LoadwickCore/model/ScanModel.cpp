@@ -1,0 +1,195 @@
+#include "model/ScanModel.h"
+
+#include <utility>
+#include <variant>
+
+#include "model/ScanOutcome.h"
+#include "probe/Fatal.h"
+#include "probe/FolderAccess.h"
+#include "report/ScanReportBuilder.h"
+
+namespace Loadwick {
+
+const std::string_view ScanModel::allowanceDisclosure =
+    "Scanning starts one real Claude Code session in this folder and uses a small part of your "
+    "Claude allowance.";
+
+/// The values and the stages of a scan. A stage runs in the background on copies and shared
+/// collaborators alone; its outcome comes back as a value, to whoever is still there.
+class ScanModel::Internals : public std::enable_shared_from_this<Internals>
+{
+public:
+    explicit Internals(Collaborators collaborators);
+
+    [[nodiscard]] bool isScanning() const noexcept;
+    void begin();
+    void clearHistory();
+
+    Published<ScanState> state{ScanState::idle()};
+    Published<std::optional<RepoSelection>> selection{std::nullopt};
+    Published<std::vector<RecordedScan>> history{{}};
+    const std::unique_ptr<ScanHistoryStore> historyStore;
+
+private:
+    void checkFolder(const RepoSelection &chosen);
+    void runProbe(const RepoSelection &chosen);
+    void makeReport(const RepoSelection &chosen, const ProbeResult &probe);
+
+    void succeed(const ScanReport &report);
+    void end(ScanState outcome);
+
+    template<typename Stage, typename Next>
+    void run(Stage stage, Next next);
+
+    const std::shared_ptr<ProbeRunning> m_probeRunner;
+    const std::shared_ptr<InstructionFileScanning> m_instructionScanner;
+    const std::shared_ptr<TaskDispatcher> m_dispatcher;
+    const std::function<std::chrono::sys_seconds()> m_now;
+    /// A scan runs. It is true a little earlier than the state says so, while that is announced.
+    bool m_isUnderway = false;
+};
+
+ScanModel::Internals::Internals(Collaborators collaborators)
+    : historyStore(std::move(collaborators.historyStore)),
+      m_probeRunner(std::move(collaborators.probeRunner)),
+      m_instructionScanner(std::move(collaborators.instructionScanner)),
+      m_dispatcher(std::move(collaborators.dispatcher)),
+      m_now(std::move(collaborators.now))
+{
+    if (!m_probeRunner || !m_instructionScanner || !m_dispatcher || !m_now)
+        fatalError("a scan model lacks a collaborator");
+    if (historyStore)
+        history.set(historyStore->load());
+}
+
+bool ScanModel::Internals::isScanning() const noexcept
+{
+    return m_isUnderway || state.get().isScanning();
+}
+
+void ScanModel::Internals::begin()
+{
+    const RepoSelection chosen = selection.get().value();
+    m_isUnderway = true;
+    state.set(ScanState::scanning());
+    checkFolder(chosen);
+}
+
+void ScanModel::Internals::checkFolder(const RepoSelection &chosen)
+{
+    const auto stage = [url = chosen.url]() -> std::monostate {
+        if (const std::optional<ProbeError> error = FolderAccess::preflight(url))
+            throw ProbeError(*error);
+        return {};
+    };
+    run(stage, [chosen](Internals &self, std::monostate) { self.runProbe(chosen); });
+}
+
+void ScanModel::Internals::runProbe(const RepoSelection &chosen)
+{
+    const auto stage = [runner = m_probeRunner, url = chosen.url] { return runner->run(url); };
+    run(stage,
+        [chosen](Internals &self, const ProbeResult &probe) { self.makeReport(chosen, probe); });
+}
+
+void ScanModel::Internals::makeReport(const RepoSelection &chosen, const ProbeResult &probe)
+{
+    const auto stage = [scanner = m_instructionScanner, chosen, probe] {
+        return ScanReportBuilder::build(chosen, probe, scanner->scan(chosen.url));
+    };
+    run(stage, [](Internals &self, const ScanReport &report) { self.succeed(report); });
+}
+
+void ScanModel::Internals::succeed(const ScanReport &report)
+{
+    end(ScanState::result(report));
+    if (historyStore)
+        history.set(
+            historyStore->append(RecordedScan::fromReport(report, m_now(), Uuid::random())));
+}
+
+void ScanModel::Internals::end(ScanState outcome)
+{
+    m_isUnderway = false;
+    state.set(std::move(outcome));
+}
+
+template<typename Stage, typename Next>
+void ScanModel::Internals::run(Stage stage, Next next)
+{
+    auto task = [stage, next, dispatcher = m_dispatcher, weak = weak_from_this()]() mutable {
+        dispatcher->postToInterface([weak, next, outcome = scanOutcomeOf(stage)] {
+            const std::shared_ptr<Internals> self = weak.lock();
+            if (!self)
+                return;
+            if (const auto *error = std::get_if<ProbeError>(&outcome))
+                self->end(ScanState::failed(*error));
+            else
+                next(*self, std::get<0>(outcome));
+        });
+    };
+    try {
+        m_dispatcher->runInBackground(std::move(task));
+    } catch (const std::exception &error) {
+        end(ScanState::failed(probeErrorFrom(error)));
+    }
+}
+
+void ScanModel::Internals::clearHistory()
+{
+    if (historyStore)
+        historyStore->clear();
+    history.set({});
+}
+
+ScanModel::ScanModel(Collaborators collaborators)
+    : m_internals(std::make_shared<Internals>(std::move(collaborators)))
+{}
+
+ScanModel::~ScanModel() = default;
+
+Published<ScanState> &ScanModel::state() noexcept
+{
+    return m_internals->state;
+}
+
+Published<std::optional<RepoSelection>> &ScanModel::selection() noexcept
+{
+    return m_internals->selection;
+}
+
+Published<std::vector<RecordedScan>> &ScanModel::history() noexcept
+{
+    return m_internals->history;
+}
+
+bool ScanModel::canScan() const noexcept
+{
+    return m_internals->selection.get().has_value() && !m_internals->isScanning();
+}
+
+bool ScanModel::canClearHistory() const noexcept
+{
+    return m_internals->historyStore && !m_internals->history.get().empty();
+}
+
+void ScanModel::select(const RepoSelection &selection)
+{
+    if (m_internals->isScanning())
+        return;
+    m_internals->selection.set(selection);
+    m_internals->state.set(ScanState::idle());
+}
+
+void ScanModel::scan()
+{
+    if (canScan())
+        m_internals->begin();
+}
+
+void ScanModel::clearHistory()
+{
+    m_internals->clearHistory();
+}
+
+} // namespace Loadwick

@@ -1,0 +1,361 @@
+#include "model/ScanModel.h"
+
+#include <new>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "report/ScanReportBuilder.h"
+#include "support/RecordedScanBuilder.h"
+#include "support/SampleReport.h"
+#include "support/ScanModelHarness.h"
+
+namespace Loadwick {
+
+namespace {
+
+using Harness = ScanModelHarness;
+using History = std::vector<RecordedScan>;
+
+constexpr Harness::Stage everyRunningStage[] = {Harness::folderCheck, Harness::probing,
+                                                Harness::reporting};
+
+class ScanModelTest : public testing::Test
+{
+protected:
+    [[nodiscard]] ScanReport expectedReport() const
+    {
+        return ScanReportBuilder::build(harness.repository(), sampleProbeResult(),
+                                        InstructionFileSet());
+    }
+
+    Harness harness;
+};
+
+} // namespace
+
+TEST_F(ScanModelTest, statesWhatAScanCosts)
+{
+    EXPECT_EQ(ScanModel::allowanceDisclosure,
+              "Scanning starts one real Claude Code session in this folder and uses a small part "
+              "of your Claude allowance.");
+}
+
+TEST_F(ScanModelTest, isIdleWithoutAFolderAtFirst)
+{
+    ScanModel model(harness.collaborators());
+    EXPECT_EQ(model.state().get(), ScanState::idle());
+    EXPECT_FALSE(model.selection().get());
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_FALSE(model.canScan());
+    EXPECT_FALSE(model.canClearHistory());
+    EXPECT_FALSE(std::filesystem::exists(harness.historyFolder()));
+}
+
+TEST_F(ScanModelTest, loadsTheHistoryOldestFirst)
+{
+    ScanHistoryStore store(harness.historyFolder());
+    const RecordedScan late = RecordedScanBuilder().at(2).build();
+    const RecordedScan early = RecordedScanBuilder().at(1).build();
+    static_cast<void>(store.append(late));
+    static_cast<void>(store.append(early));
+    ScanModel model(harness.collaborators());
+    EXPECT_EQ(model.history().get(), (History{early, late}));
+    EXPECT_TRUE(model.canClearHistory());
+}
+
+TEST_F(ScanModelTest, doesNothingWithoutASelection)
+{
+    ScanModel model(harness.collaborators());
+    model.scan();
+    EXPECT_EQ(model.state().get(), ScanState::idle());
+    EXPECT_EQ(harness.dispatcher->backgroundCount(), 0U);
+    EXPECT_TRUE(harness.recorded().empty());
+}
+
+TEST_F(ScanModelTest, scansTheChosenFolder)
+{
+    ScanModel model(harness.collaborators());
+    model.select(harness.repository());
+    EXPECT_TRUE(model.canScan());
+    model.scan();
+    EXPECT_EQ(model.state().get(), ScanState::scanning());
+    EXPECT_FALSE(model.canScan());
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_TRUE(model.canScan());
+    EXPECT_EQ(harness.probe->runs(), std::vector{harness.repository().url});
+    EXPECT_EQ(harness.scanner->scans(), std::vector{harness.repository().url});
+}
+
+TEST_F(ScanModelTest, keepsTheChosenNameAndTheFilesInTheReport)
+{
+    ScanModel model(harness.collaborators());
+    InstructionFileSet files;
+    files.repositoryFiles = {InstructionFileEstimate::fromPath("/a/CLAUDE.md", 400)};
+    files.unreadablePaths = {"/a/AGENTS.md"};
+    harness.scanner->answer = [files] { return files; };
+    RepoSelection selection = harness.repository();
+    selection.displayName = "My shop";
+    model.select(selection);
+    model.scan();
+    harness.dispatcher->runAll();
+    const auto &report = std::get<ScanState::Result>(model.state().get().value()).report;
+    EXPECT_EQ(report.repositoryName, "My shop");
+    EXPECT_EQ(report.repositoryPath, selection.path());
+    EXPECT_EQ(report.fileSet, files);
+}
+
+TEST_F(ScanModelTest, recordsASuccessfulScan)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    ASSERT_EQ(model.history().get().size(), 1U);
+    const RecordedScan &recorded = model.history().get().front();
+    EXPECT_EQ(recorded, RecordedScan::fromReport(expectedReport(), Harness::now, recorded.id));
+    EXPECT_EQ(harness.recorded(), model.history().get());
+    EXPECT_TRUE(model.canClearHistory());
+}
+
+TEST_F(ScanModelTest, givesEveryRecordItsOwnIdentifier)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    harness.scanOnce(model);
+    ASSERT_EQ(model.history().get().size(), 2U);
+    EXPECT_NE(model.history().get()[0].id, model.history().get()[1].id);
+}
+
+TEST_F(ScanModelTest, runsTheProbeOnceForTwoScansStartedBackToBack)
+{
+    ScanModel model(harness.collaborators());
+    model.select(harness.repository());
+    model.scan();
+    model.scan();
+    EXPECT_EQ(harness.dispatcher->backgroundCount(), 1U);
+    harness.dispatcher->runAll();
+    EXPECT_EQ(harness.probe->runs().size(), 1U);
+    EXPECT_EQ(model.history().get().size(), 1U);
+}
+
+TEST_F(ScanModelTest, startsNoSecondScanInAnyStageOfTheFirst)
+{
+    for (const Harness::Stage stage : everyRunningStage) {
+        ScanModel model(harness.collaboratorsWithoutStore());
+        harness.beginScan(model, stage);
+        model.scan();
+        EXPECT_EQ(harness.dispatcher->backgroundCount(), 1U) << stage;
+        harness.dispatcher->runBackground();
+        model.scan(); // between the end of a stage and the news of it
+        harness.dispatcher->runAll();
+        EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    }
+    EXPECT_EQ(harness.probe->runs().size(), 3U);
+}
+
+TEST_F(ScanModelTest, ignoresAChoiceInEveryStageOfAScan)
+{
+    for (const Harness::Stage stage : everyRunningStage) {
+        ScanModel model(harness.collaboratorsWithoutStore());
+        harness.beginScan(model, stage);
+        model.select(harness.otherRepository());
+        EXPECT_EQ(model.selection().get(), harness.repository()) << stage;
+        EXPECT_EQ(model.state().get(), ScanState::scanning()) << stage;
+        harness.dispatcher->runAll();
+        EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+        model.select(harness.otherRepository());
+        EXPECT_EQ(model.selection().get(), harness.otherRepository());
+        EXPECT_EQ(model.state().get(), ScanState::idle());
+    }
+}
+
+TEST_F(ScanModelTest, goesBackToIdleWhenTheSameFolderIsChosenAfterAResult)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    model.select(harness.repository());
+    EXPECT_EQ(model.state().get(), ScanState::idle());
+    EXPECT_EQ(model.history().get().size(), 1U);
+}
+
+TEST_F(ScanModelTest, goesBackToIdleWhenAFolderIsChosenAfterAFailure)
+{
+    ScanModel model(harness.collaborators());
+    harness.probe->answer = []() -> ProbeResult { throw ProbeError::timedOut(); };
+    harness.scanOnce(model);
+    model.select(harness.otherRepository());
+    EXPECT_EQ(model.state().get(), ScanState::idle());
+}
+
+TEST_F(ScanModelTest, neverReachesTheProbeWhenTheFolderCannotBeListed)
+{
+    ScanModel model(harness.collaborators());
+    const std::filesystem::path missing = harness.historyFolder() / "missing";
+    model.select(RepoSelection::fromUrl(missing));
+    model.scan();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.state().get(),
+              ScanState::failed(ProbeError::repositoryUnreadable(missing.string())));
+    EXPECT_TRUE(harness.probe->runs().empty());
+    EXPECT_TRUE(harness.scanner->scans().empty());
+    EXPECT_TRUE(harness.recorded().empty());
+    EXPECT_TRUE(model.canScan());
+}
+
+TEST_F(ScanModelTest, showsAProbeErrorAsItIs)
+{
+    for (const ProbeError &error :
+         {ProbeError::cliNotFound({"/a", "/b"}), ProbeError::notAuthenticated(),
+          ProbeError::sessionFailed("limit"), ProbeError::multiTurnUsageOnly(3)}) {
+        ScanModel model(harness.collaborators());
+        harness.probe->answer = [error]() -> ProbeResult { throw ProbeError(error); };
+        harness.beginScan(model, Harness::reporting);
+        EXPECT_EQ(model.state().get(), ScanState::failed(error));
+        EXPECT_EQ(harness.dispatcher->backgroundCount(), 0U);
+    }
+    EXPECT_TRUE(harness.scanner->scans().empty());
+    EXPECT_TRUE(harness.recorded().empty());
+}
+
+TEST_F(ScanModelTest, showsAnotherErrorOfTheProbeAsUnreadableOutputWithItsDescription)
+{
+    ScanModel model(harness.collaborators());
+    harness.probe->answer = []() -> ProbeResult { throw std::runtime_error("the pipe broke"); };
+    harness.beginScan(model, Harness::reporting);
+    EXPECT_EQ(model.state().get(),
+              ScanState::failed(ProbeError::unreadableOutput("the pipe broke")));
+    harness.probe->answer = []() -> ProbeResult { throw 7; };
+    harness.beginScan(model, Harness::reporting);
+    EXPECT_EQ(model.state().get(),
+              ScanState::failed(ProbeError::unreadableOutput("unknown error")));
+    EXPECT_TRUE(harness.recorded().empty());
+}
+
+TEST_F(ScanModelTest, failsWhenTheFileScanRunsOutOfMemory)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanner->answer = []() -> InstructionFileSet { throw std::bad_alloc(); };
+    harness.scanOnce(model);
+    EXPECT_EQ(model.state().get(),
+              ScanState::failed(ProbeError::unreadableOutput(std::bad_alloc().what())));
+    EXPECT_TRUE(model.canScan());
+    EXPECT_TRUE(model.history().get().empty());
+}
+
+TEST_F(ScanModelTest, neverStaysScanningWhenAStageCannotBeStarted)
+{
+    for (const Harness::Stage stage : everyRunningStage) {
+        const Harness fresh;
+        ScanModel model(fresh.collaborators());
+        if (stage == Harness::folderCheck)
+            fresh.dispatcher->refuseBackground();
+        fresh.beginScan(model, Harness::folderCheck);
+        for (int step = 1; step <= stage; ++step) {
+            if (step == stage)
+                fresh.dispatcher->refuseBackground();
+            fresh.dispatcher->step();
+        }
+        const auto *failure = std::get_if<ScanState::Failed>(&model.state().get().value());
+        ASSERT_NE(failure, nullptr) << stage;
+        EXPECT_EQ(failure->error.headline(), ProbeError::unreadableOutput("").headline());
+        EXPECT_NE(failure->error.detail(), "(no output)");
+        EXPECT_TRUE(model.canScan());
+        EXPECT_TRUE(fresh.recorded().empty());
+    }
+}
+
+TEST_F(ScanModelTest, scansAgainFromAResultAndFromAFailure)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    harness.probe->answer = []() -> ProbeResult { throw ProbeError::timedOut(); };
+    model.scan();
+    EXPECT_EQ(model.state().get(), ScanState::scanning());
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.state().get(), ScanState::failed(ProbeError::timedOut()));
+    EXPECT_EQ(model.history().get().size(), 1U);
+    harness.probe->answer = sampleProbeResult;
+    model.scan();
+    EXPECT_EQ(model.state().get(), ScanState::scanning());
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_EQ(model.history().get().size(), 2U);
+}
+
+TEST_F(ScanModelTest, recordsNothingWithoutAStore)
+{
+    ScanModel model(harness.collaboratorsWithoutStore());
+    harness.scanOnce(model);
+    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_FALSE(model.canClearHistory());
+    model.clearHistory();
+    EXPECT_TRUE(model.history().get().empty());
+}
+
+TEST_F(ScanModelTest, publishesTwoHundredScansWhenTwoHundredWereRecorded)
+{
+    ScanHistoryStore store(harness.historyFolder());
+    for (int second = 1; second <= 200; ++second)
+        static_cast<void>(store.append(RecordedScanBuilder().at(second).build()));
+    ScanModel model(harness.collaborators());
+    const History before = model.history().get();
+    ASSERT_EQ(before.size(), 200U);
+    harness.scanOnce(model);
+    const History &after = model.history().get();
+    ASSERT_EQ(after.size(), 200U);
+    EXPECT_EQ(after.front(), before[1]);
+    EXPECT_EQ(after.back().date, Harness::now);
+}
+
+TEST_F(ScanModelTest, publishesTheListThatItMeantToWriteWhenWritingFails)
+{
+    const TemporaryFolder folder;
+    folder.write("scan-history.json/in the way", "");
+    ScanModel::Collaborators collaborators = harness.collaborators();
+    collaborators.historyStore = std::make_unique<ScanHistoryStore>(folder.path());
+    ScanModel model(std::move(collaborators));
+    harness.scanOnce(model);
+    EXPECT_EQ(model.history().get().size(), 1U);
+}
+
+TEST_F(ScanModelTest, forgetsTheHistory)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    model.clearHistory();
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_FALSE(model.canClearHistory());
+    EXPECT_TRUE(harness.recorded().empty());
+    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+}
+
+TEST_F(ScanModelTest, forgetsTheHistoryEvenIfTheFileCannotBeDeleted)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    const std::filesystem::path file = harness.historyFolder() / ScanHistoryStore::fileName;
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file); // a folder is never removed
+    model.clearHistory();
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_TRUE(std::filesystem::exists(file));
+}
+
+TEST_F(ScanModelTest, recordsAScanAfterTheHistoryWasForgottenMeanwhile)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    harness.beginScan(model, Harness::probing);
+    model.clearHistory();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.history().get().size(), 1U);
+    EXPECT_EQ(harness.recorded().size(), 1U);
+}
+
+TEST_F(ScanModelTest, endsTheProgramWithoutACollaborator)
+{
+    EXPECT_DEATH(ScanModel(ScanModel::Collaborators()), "lacks a collaborator");
+}
+
+} // namespace Loadwick

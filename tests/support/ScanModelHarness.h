@@ -1,0 +1,63 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+#include "model/ScanModel.h"
+#include "support/FakeInstructionScanner.h"
+#include "support/FakeProbe.h"
+#include "support/SteppingDispatcher.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+/// A scan model over fakes, stepped by hand, with a real folder to choose and a real history file.
+/// Its clock stands still.
+class ScanModelHarness
+{
+public:
+    /// With a history store in a folder of its own.
+    ScanModelHarness();
+
+    /// The stages of a scan in which a test can interfere, and how many steps come before them.
+    enum Stage
+    {
+        folderCheck = 0,
+        probing = 1,
+        reporting = 2
+    };
+
+    /// What a model is made of; several may be made.
+    [[nodiscard]] ScanModel::Collaborators collaborators() const;
+
+    /// The same without a store.
+    [[nodiscard]] ScanModel::Collaborators collaboratorsWithoutStore() const;
+
+    /// A folder that can be listed, as a selection.
+    [[nodiscard]] RepoSelection repository() const;
+
+    /// A second one.
+    [[nodiscard]] RepoSelection otherRepository() const;
+
+    [[nodiscard]] std::filesystem::path historyFolder() const;
+    [[nodiscard]] std::vector<RecordedScan> recorded() const;
+
+    /// Chooses the repository, starts a scan and steps up to `stage`.
+    void beginScan(ScanModel &model, Stage stage) const;
+
+    /// One whole scan of the repository, however it ends.
+    void scanOnce(ScanModel &model) const;
+
+    static constexpr std::chrono::sys_seconds now{std::chrono::seconds(1'772'615'727)};
+
+    const std::shared_ptr<FakeProbe> probe = std::make_shared<FakeProbe>();
+    const std::shared_ptr<FakeInstructionScanner> scanner =
+        std::make_shared<FakeInstructionScanner>();
+    const std::shared_ptr<SteppingDispatcher> dispatcher = std::make_shared<SteppingDispatcher>();
+
+private:
+    TemporaryFolder m_folder;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,61 @@
+#include "support/SteppingDispatcher.h"
+
+#include <system_error>
+#include <utility>
+
+#include "probe/Fatal.h"
+
+namespace Loadwick {
+
+namespace {
+
+void runFirst(std::deque<TaskDispatcher::Task> &tasks)
+{
+    if (tasks.empty())
+        fatalError("a test wants to run a task that is not there");
+    const TaskDispatcher::Task task = std::move(tasks.front());
+    tasks.pop_front();
+    task();
+}
+
+} // namespace
+
+void SteppingDispatcher::runInBackground(Task task)
+{
+    if (m_refusesBackground)
+        throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
+    m_background.push_back(std::move(task));
+}
+
+void SteppingDispatcher::postToInterface(Task task)
+{
+    m_posted.push_back(std::move(task));
+}
+
+void SteppingDispatcher::runBackground()
+{
+    runFirst(m_background);
+}
+
+void SteppingDispatcher::runPosted()
+{
+    runFirst(m_posted);
+}
+
+void SteppingDispatcher::step()
+{
+    runBackground();
+    runPosted();
+}
+
+void SteppingDispatcher::runAll()
+{
+    while (!m_background.empty() || !m_posted.empty()) {
+        if (m_posted.empty())
+            runBackground();
+        else
+            runPosted();
+    }
+}
+
+} // namespace Loadwick
