@@ -83,14 +83,10 @@ TEST(ScanReportTest, givesItsFilesByTierAndItsUnreadablePaths)
     EXPECT_EQ(report.unreadablePaths(), std::vector<std::string>{"/u"});
 }
 
-TEST(ScanReportTest, sharesTheTotalAmongRows)
+TEST(ScanReportTest, clampsTheShareOfARow)
 {
     EXPECT_DOUBLE_EQ(shareOf(250, 1'000), 0.25);
     EXPECT_EQ(shareOf(1'000, 1'000), 1.0);
-}
-
-TEST(ScanReportTest, clampsTheShareOfARow)
-{
     EXPECT_EQ(shareOf(1'001, 1'000), 1.0);
     EXPECT_EQ(shareOf(0, 1'000), 0.0);
     EXPECT_EQ(shareOf(-5, 1'000), 0.0);
