@@ -242,9 +242,6 @@ TEST(ScanReportTest, isEqualOnlyInEveryField)
 {
     EXPECT_EQ(sampleReport(), sampleReport());
     ScanReport other = sampleReport();
-    other.duration = 12.05;
-    EXPECT_NE(sampleReport(), other);
-    other = sampleReport();
     other.fileSet.unreadablePaths = {"/x"};
     EXPECT_NE(sampleReport(), other);
 }
