@@ -1,0 +1,45 @@
+#include "probe/ProbeOutputParser.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "probe/ProbeError.h"
+#include "probe/SlabParser.h"
+#include "support/PeakMemory.h"
+
+namespace Loadwick {
+
+namespace {
+
+constexpr std::size_t size = 48U << 20;
+
+} // namespace
+
+TEST(ProbeOutputParserSlowTest, copiesAHugeAnswerOnce)
+{
+    const std::string text = R"({"session_id":"s","result":")" + std::string(size, 'x') + "\"}";
+    const PeakMemory memory;
+    const auto read = ProbeOutputParser::parse(text, "", 0);
+    EXPECT_EQ(read.result.size(), size);
+    EXPECT_TRUE(SlabParser::parse(read.result).empty());
+    EXPECT_LT(memory.growthInBytes(), size + size / 20);
+}
+
+TEST(ProbeOutputParserSlowTest, copiesAHugeComplaintOnce)
+{
+    const std::string text = R"({"is_error":true,"result":")" + std::string(size, 'x') + "\"}";
+    const PeakMemory memory;
+    EXPECT_THROW((void)ProbeOutputParser::parse(text, "", 1), ProbeError);
+    EXPECT_LT(memory.growthInBytes(), size + size / 20);
+}
+
+TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeOutputThatIsNoRecord)
+{
+    const std::string text(size, 'x');
+    const PeakMemory memory;
+    EXPECT_THROW((void)ProbeOutputParser::parse(text, text, 1), ProbeError);
+    EXPECT_LT(memory.growthInBytes(), size / 20);
+}
+
+} // namespace Loadwick
