@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+
+namespace Loadwick {
+
+/// A repository with instruction files at all three tiers, as a small team might keep them.
+namespace SampleRepository {
+
+/// Writes the repository, the files that it inherits and the personal ones below `home`; gives the
+/// repository's folder.
+std::filesystem::path writeInto(const std::filesystem::path &home);
+
+} // namespace SampleRepository
+} // namespace Loadwick
