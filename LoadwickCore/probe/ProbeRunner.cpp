@@ -45,15 +45,17 @@ std::string decoded(std::optional<std::string> bytes)
     return bytes && isUtf8(*bytes) ? std::move(*bytes) : std::string();
 }
 
-// What a session that was cut short printed says nothing about why; a complete record does.
+// Streams that did not end may lack anything. A session that was asked to stop may still have ended
+// with a complete record, and what that says passes through; a partial one says nothing.
 ProbeOutput parsed(const Execution &execution)
 {
     try {
         return ProbeOutputParser::parse(execution.standardOutput, execution.standardError,
                                         execution.exitCode);
     } catch (const ProbeError &error) {
-        const bool isPartial = execution.readersTimedOut || execution.terminationRequested;
-        if (isPartial && std::holds_alternative<ProbeError::UnreadableOutput>(error.value()))
+        const bool isPartial = execution.terminationRequested &&
+                               std::holds_alternative<ProbeError::UnreadableOutput>(error.value());
+        if (execution.readersTimedOut || isPartial)
             throw ProbeError::timedOut();
         throw;
     }

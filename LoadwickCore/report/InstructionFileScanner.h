@@ -27,7 +27,7 @@ public:
 
     explicit InstructionFileScanner(Settings settings);
 
-    /// `scanSynchronously` within the limit.
+    /// `scanSynchronously` within the limit. Throws when there is no thread or no memory to be had.
     [[nodiscard]] InstructionFileSet scan(const std::filesystem::path &repository) override;
 
     /// Blocks for as long as the disk does.
