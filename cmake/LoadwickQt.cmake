@@ -10,12 +10,3 @@ function(loadwick_qt_strictness target)
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                                  QT_NO_KEYWORDS)
 endfunction()
-
-# As loadwick_warnings, for the sources of a target that also compiles generated code.
-function(loadwick_source_warnings)
-    set(flags -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion)
-    if(LOADWICK_WARNINGS_AS_ERRORS)
-        list(APPEND flags -Werror)
-    endif()
-    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "${flags}")
-endfunction()

@@ -28,7 +28,7 @@ function(loadwick_qt_tests)
     target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
     target_compile_definitions(app_tests PRIVATE LOADWICK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(app_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
-                                            Qt6::Test)
+                                            Qt6::Svg Qt6::Test)
     set_target_properties(app_tests PROPERTIES AUTOMOC ON)
     file(GLOB tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/app"
                                       "${CMAKE_CURRENT_SOURCE_DIR}/app/*/*Test.cpp")
@@ -57,3 +57,15 @@ endfunction()
 
 loadwick_qt_tests()
 loadwick_quick_tests()
+
+# Looks at the sources, so one build runs it for all.
+if(NOT LOADWICK_SANITIZE)
+    set(check "${PROJECT_SOURCE_DIR}/tools/checks/plain-text")
+    add_test(NAME app/lint-plain-text COMMAND "${check}")
+    add_test(NAME app/lint-plain-text-finds-markup
+             COMMAND "${check}" "${CMAKE_CURRENT_SOURCE_DIR}/fixtures/markup")
+    set_tests_properties(app/lint-plain-text app/lint-plain-text-finds-markup
+                         PROPERTIES LABELS app TIMEOUT 60)
+    set_tests_properties(app/lint-plain-text-finds-markup PROPERTIES PASS_REGULAR_EXPRESSION
+        ":5: [^\n]*Button[^\n]*\n[^\n]*:6: [^\n]*MenuItem[^\n]*\n[^\n]*:7: Label[^\n]*\n[^\n]*:8: Text [^\n]*\n[^\n]*:9: [^\n]*PlainToolTip")
+endif()

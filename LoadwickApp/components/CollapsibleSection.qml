@@ -20,6 +20,7 @@ ColumnLayout {
         Layout.fillWidth: true
         implicitHeight: Math.max(implicitContentHeight, AppTheme.controlHeight)
         focusPolicy: Qt.StrongFocus
+        hoverEnabled: true
         Accessible.role: Accessible.Button
         Accessible.name: section.title
         Accessible.description: section.isExpanded ? "Expanded" : "Collapsed"
@@ -33,9 +34,12 @@ ColumnLayout {
             Symbol {
                 name: "chevron.right"
                 tint: AppTheme.secondaryText
-                rotation: section.isExpanded ? 90 : 0
+                angle: section.isExpanded ? 90 : 0
+                // Beside the title, not beside the middle of title and detail.
+                Layout.alignment: section.detail.length > 0 ? Qt.AlignTop : Qt.AlignVCenter
+                Layout.topMargin: section.detail.length > 0 ? AppTheme.tightSpace : 0
 
-                Behavior on rotation {
+                Behavior on angle {
                     enabled: !AppTheme.reduceMotion
                     NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
                 }

@@ -22,6 +22,7 @@ AbstractButton {
     leftPadding: symbol.length > 0 ? 10 : AppTheme.mediumSpace
     rightPadding: AppTheme.mediumSpace
     focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
     opacity: enabled ? 1 : AppTheme.disabledOpacity
 
     Accessible.role: Accessible.Button

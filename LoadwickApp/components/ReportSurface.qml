@@ -16,6 +16,7 @@ Item {
     // Black at 0.16, blurred over 16, a third of that lower. The blur itself never changes: only
     // its strength does, which costs nothing in any renderer.
     BorderImage {
+        objectName: "shadow"
         anchors { fill: parent; margins: -24; topMargin: -24 + 16 / 3; bottomMargin: -24 - 16 / 3 }
         border { left: 50; top: 50; right: 50; bottom: 50 }
         source: "qrc:/qt/qml/Loadwick/components/card-shadow.png"
@@ -39,6 +40,7 @@ Item {
     }
 
     Rectangle {
+        objectName: "border"
         anchors.fill: parent
         radius: AppTheme.cardRadius
         color: "transparent"

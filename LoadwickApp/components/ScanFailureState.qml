@@ -15,22 +15,28 @@ StatePlaceholder {
     tint: AppTheme.bandExcessiveText
     title: headline
 
-    ScrollView {
+    Flickable {
         id: scroller
 
+        // What the mark and the headline leave, in whole lines.
+        readonly property int room: Math.max(3, Math.floor((placeholder.availableHeight - 160) / words.lineSpacing))
+
         Layout.fillWidth: true
-        Layout.preferredHeight: words.implicitHeight
-        // What the mark and the headline leave.
-        Layout.maximumHeight: Math.max(60, placeholder.availableHeight - 160)
-        contentWidth: availableWidth
-        ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
+        Layout.preferredHeight: Math.min(words.implicitHeight, Math.ceil(room * words.lineSpacing))
+        contentHeight: words.implicitHeight
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        ScrollBar.vertical: ThinScrollBar { }
 
         SelectableText {
             id: words
-            width: scroller.availableWidth
+            // Room on both sides for the scroll bar, so that the words stay in the middle.
+            x: AppTheme.mediumSpace
+            width: scroller.width - 2 * AppTheme.mediumSpace
             text: placeholder.detail
             secondary: true
-            horizontalAlignment: Text.AlignHCenter
+            horizontalAlignment: TextEdit.AlignHCenter
             ground: AppTheme.window
         }
     }

@@ -15,10 +15,11 @@ Item {
     property int maximumLineCount: 0
     // The ground it stands on, for the dots that end a text cut short.
     property color ground: AppTheme.surface
+    readonly property real lineSpacing: edit.contentHeight / Math.max(1, edit.lineCount)
     readonly property bool truncated: maximumLineCount > 0 && edit.lineCount > maximumLineCount
 
     implicitWidth: edit.implicitWidth
-    implicitHeight: truncated ? Math.ceil(edit.contentHeight / edit.lineCount * maximumLineCount)
+    implicitHeight: truncated ? Math.ceil(lineSpacing * maximumLineCount)
                               : Math.ceil(edit.contentHeight)
 
     Item {
@@ -34,7 +35,8 @@ Item {
             readOnly: true
             selectByMouse: true
             activeFocusOnTab: true
-            wrapMode: TextEdit.Wrap
+            // A text cut short is a path: broken anywhere, its last line is full up to the dots.
+            wrapMode: control.maximumLineCount > 0 ? TextEdit.WrapAnywhere : TextEdit.Wrap
             horizontalAlignment: control.horizontalAlignment
             font: control.font
             color: control.color

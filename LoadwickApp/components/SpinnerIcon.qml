@@ -9,9 +9,9 @@ Symbol {
     property bool turning: false
     readonly property bool moving: turning && visible && !AppTheme.reduceMotion
 
-    onMovingChanged: if (!moving) rotation = 0
+    onMovingChanged: if (!moving) angle = 0
 
-    RotationAnimation on rotation {
+    NumberAnimation on angle {
         running: icon.moving
         from: 0
         to: 360

@@ -15,7 +15,8 @@ Item {
     readonly property real availableHeight: height - 2 * AppTheme.pageMargin
 
     implicitWidth: AppTheme.stateWidth + 2 * AppTheme.pageMargin
-    implicitHeight: column.implicitHeight + 2 * AppTheme.pageMargin
+    // The page decides how high it is; what the state says never does.
+    implicitHeight: 320
 
     ColumnLayout {
         id: column

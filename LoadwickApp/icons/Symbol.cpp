@@ -14,20 +14,6 @@ namespace {
 
 constexpr qreal naturalSize = 16;
 
-// A drawing is black on nothing; the tint takes the place of the black. Drawn at the size in device
-// pixels and coloured as a whole, overlapping strokes of a translucent tint leave no seams.
-QImage tinted(const QString &file, const QColor &tint, int side)
-{
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QSvgRenderer(file).render(&painter, QRectF(0, 0, side, side));
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), tint);
-    return image;
-}
-
 } // namespace
 
 Symbol::Symbol(QQuickItem *parent) : QQuickPaintedItem(parent)
@@ -36,13 +22,16 @@ Symbol::Symbol(QQuickItem *parent) : QQuickPaintedItem(parent)
     setAntialiasing(true);
 }
 
+Symbol::~Symbol() = default;
+
 void Symbol::setName(const QString &name)
 {
     if (m_name == name)
         return;
     m_name = name;
-    m_file = SymbolCatalog::file(name);
-    if (m_file.isEmpty() && !name.isEmpty())
+    const QString file = SymbolCatalog::file(name);
+    m_drawing = file.isEmpty() ? nullptr : std::make_unique<QSvgRenderer>(file);
+    if (file.isEmpty() && !name.isEmpty())
         qWarning() << "No drawing for the symbol" << name;
     Q_EMIT nameChanged();
     update();
@@ -57,15 +46,40 @@ void Symbol::setTint(const QColor &tint)
     update();
 }
 
+void Symbol::setAngle(qreal angle)
+{
+    if (qFuzzyCompare(1 + m_angle, 1 + angle))
+        return;
+    m_angle = angle;
+    Q_EMIT angleChanged();
+    update();
+}
+
 void Symbol::paint(QPainter *painter)
 {
     const qreal side = std::min(width(), height());
-    const QTransform toDevice = painter->deviceTransform();
-    const int pixels = qRound(side * toDevice.m11());
-    if (m_file.isEmpty() || pixels <= 0)
+    const int pixels = qRound(side * painter->deviceTransform().m11());
+    if (!m_drawing || pixels <= 0)
         return;
     const QRectF square((width() - side) / 2, (height() - side) / 2, side, side);
-    painter->drawImage(square, tinted(m_file, m_tint, pixels));
+    painter->drawImage(square, drawn(pixels));
+}
+
+// A drawing is black on nothing; the tint takes the place of the black. Drawn at the size in device
+// pixels and coloured as a whole, overlapping strokes of a translucent tint leave no seams.
+QImage Symbol::drawn(int side) const
+{
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(side / 2.0, side / 2.0);
+    painter.rotate(m_angle);
+    m_drawing->render(&painter, QRectF(-side / 2.0, -side / 2.0, side, side));
+    painter.resetTransform();
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), m_tint);
+    return image;
 }
 
 } // namespace Loadwick

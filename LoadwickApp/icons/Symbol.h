@@ -3,6 +3,10 @@
 #include <QColor>
 #include <QQuickPaintedItem>
 
+#include <memory>
+
+class QSvgRenderer;
+
 namespace Loadwick {
 
 /// One of our own drawings in one colour, crisp at any size and scale. It keeps its proportions
@@ -15,25 +19,35 @@ class Symbol : public QQuickPaintedItem
     /// silence.
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(QColor tint READ tint WRITE setTint NOTIFY tintChanged)
+    /// Degrees clockwise. Turning the drawing keeps its edges smooth in every renderer; turning the
+    /// item would not.
+    Q_PROPERTY(qreal angle READ angle WRITE setAngle NOTIFY angleChanged)
 
 public:
     explicit Symbol(QQuickItem *parent = nullptr);
+    ~Symbol() override;
 
     [[nodiscard]] QString name() const { return m_name; }
     void setName(const QString &name);
     [[nodiscard]] QColor tint() const { return m_tint; }
     void setTint(const QColor &tint);
+    [[nodiscard]] qreal angle() const { return m_angle; }
+    void setAngle(qreal angle);
 
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
     void nameChanged();
     void tintChanged();
+    void angleChanged();
 
 private:
+    [[nodiscard]] QImage drawn(int side) const;
+
     QString m_name;
-    QString m_file;
+    std::unique_ptr<QSvgRenderer> m_drawing;
     QColor m_tint = Qt::black;
+    qreal m_angle = 0;
 };
 
 } // namespace Loadwick

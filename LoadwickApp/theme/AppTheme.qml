@@ -15,7 +15,7 @@ QtObject {
 
     readonly property color text: dark ? "#F1F1F4" : "#1B1B1F"
     readonly property color secondaryText: dark ? "#ACADB7" : "#5A5B64"
-    readonly property color accent: dark ? "#7AA7FF" : "#2460D8"
+    readonly property color accent: dark ? "#7AA7FF" : "#2157C5"
     // Words on a ground filled with the accent.
     readonly property color accentText: dark ? "#14161C" : "#FFFFFF"
 
@@ -23,9 +23,9 @@ QtObject {
     readonly property color bandLean: dark ? "#46BF78" : "#2B9A57"
     readonly property color bandHeavy: dark ? "#F0A036" : "#D97F00"
     readonly property color bandExcessive: dark ? "#FA6A5E" : "#D63A2E"
-    readonly property color bandLeanText: dark ? "#5FD08C" : "#1B7340"
-    readonly property color bandHeavyText: dark ? "#F5AE4E" : "#8F5200"
-    readonly property color bandExcessiveText: dark ? "#FF8075" : "#BE2A20"
+    readonly property color bandLeanText: dark ? "#5FD08C" : "#196B3C"
+    readonly property color bandHeavyText: dark ? "#F5AE4E" : "#8B5000"
+    readonly property color bandExcessiveText: dark ? "#FF8075" : "#B1271E"
 
     // Blue, teal, purple, orange, gray: series and slices take them by position, wrapping around.
     readonly property list<color> chartColors: dark

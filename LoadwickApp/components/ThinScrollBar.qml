@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Controls
+import Loadwick
+
+// A scroll bar that is there whenever there is more to see, and no louder than that.
+ScrollBar {
+    id: bar
+
+    policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+    minimumSize: 0.08
+    padding: 2
+    hoverEnabled: true
+
+    contentItem: Rectangle {
+        implicitWidth: 6
+        implicitHeight: 6
+        radius: 3
+        color: Qt.alpha(AppTheme.text, bar.pressed ? 0.45 : bar.hovered ? 0.35 : 0.22)
+    }
+    background: Item { }
+}

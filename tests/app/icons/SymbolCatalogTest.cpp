@@ -1,0 +1,83 @@
+#include "icons/SymbolCatalog.h"
+
+#include "support/TestRegistry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSvgRenderer>
+#include <QTest>
+
+namespace Loadwick {
+
+class SymbolCatalogTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyNameHasADrawing_data();
+    void everyNameHasADrawing();
+    void everyDrawingHasAName();
+    void drawingsShareOneGridAndOneStroke_data() { everyNameHasADrawing_data(); }
+    void drawingsShareOneGridAndOneStroke();
+    void aRoleNameFindsTheSameDrawing();
+    void anUnknownNameHasNone();
+    void aNameCannotLeaveTheFolder();
+};
+
+void SymbolCatalogTest::everyNameHasADrawing_data()
+{
+    QTest::addColumn<QString>("name");
+    const QStringList names = SymbolCatalog::systemNames();
+    for (const QString &name : names)
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void SymbolCatalogTest::everyNameHasADrawing()
+{
+    QFETCH(QString, name);
+    QVERIFY(QSvgRenderer(SymbolCatalog::file(name)).isValid());
+}
+
+void SymbolCatalogTest::everyDrawingHasAName()
+{
+    QStringList drawings =
+        QDir(QStringLiteral(":/qt/qml/Loadwick/icons")).entryList({QStringLiteral("*.svg")});
+    drawings.replaceInStrings(QStringLiteral(".svg"), QString());
+    drawings.sort();
+    QCOMPARE(drawings, SymbolCatalog::roles());
+}
+
+void SymbolCatalogTest::drawingsShareOneGridAndOneStroke()
+{
+    QFETCH(QString, name);
+    QFile file(SymbolCatalog::file(name));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray drawing = file.readAll();
+    QVERIFY(drawing.contains("viewBox=\"2 2 20 20\""));
+    QCOMPARE(drawing.count("stroke-width"), 1);
+    QVERIFY(drawing.contains(
+        "stroke-width=\"1.75\" stroke-linecap=\"round\" stroke-linejoin=\"round\""));
+}
+
+void SymbolCatalogTest::aRoleNameFindsTheSameDrawing()
+{
+    QCOMPARE(SymbolCatalog::file(QStringLiteral("repository")),
+             SymbolCatalog::file(QStringLiteral("folder.fill")));
+}
+
+void SymbolCatalogTest::anUnknownNameHasNone()
+{
+    QCOMPARE(SymbolCatalog::file(QStringLiteral("unicorn")), QString());
+    QCOMPARE(SymbolCatalog::file(QString()), QString());
+}
+
+void SymbolCatalogTest::aNameCannotLeaveTheFolder()
+{
+    QCOMPARE(SymbolCatalog::file(QStringLiteral("../icons/repository")), QString());
+}
+
+const RegisteredTest<SymbolCatalogTest> registered("SymbolCatalog");
+
+} // namespace Loadwick
+
+#include "SymbolCatalogTest.moc"

@@ -1,0 +1,164 @@
+#include "icons/Symbol.h"
+
+#include "support/TestRegistry.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace Loadwick {
+namespace {
+
+QImage painted(Symbol &symbol, qreal scale = 1)
+{
+    QImage image((symbol.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    symbol.paint(&painter);
+    return image;
+}
+
+bool isEmpty(const QImage &image)
+{
+    QImage nothing = image;
+    nothing.fill(Qt::transparent);
+    return image == nothing;
+}
+
+// Pixels that are neither quite empty nor quite full: the edge of what is drawn.
+int softPixels(const QImage &image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += qAlpha(image.pixel(x, y)) > 0 && qAlpha(image.pixel(x, y)) < 255 ? 1 : 0;
+    return count;
+}
+
+} // namespace
+
+class SymbolTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isSixteenPixelsWideByItself();
+    void paintsInItsTintOnly();
+    void aTranslucentTintIsEvenlyTranslucent();
+    void anUnknownNamePaintsNothingAndWarns();
+    void anEmptyNamePaintsNothingInSilence();
+    void isDrawnAtTheResolutionOfTheScreen();
+    void standsInTheMiddleOfAnOblongItem();
+    void turnsWithItsAngle();
+    void saysWhatChanged();
+};
+
+void SymbolTest::isSixteenPixelsWideByItself()
+{
+    const Symbol symbol;
+    QCOMPARE(symbol.implicitWidth(), 16.0);
+    QCOMPARE(symbol.implicitHeight(), 16.0);
+}
+
+void SymbolTest::paintsInItsTintOnly()
+{
+    Symbol symbol;
+    symbol.setSize({48, 48});
+    symbol.setName(QStringLiteral("folder.fill"));
+    symbol.setTint(QColor(36, 96, 216));
+    const QImage image = painted(symbol);
+    QCOMPARE(image.pixelColor(24, 28), QColor(36, 96, 216));
+    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+}
+
+void SymbolTest::aTranslucentTintIsEvenlyTranslucent()
+{
+    Symbol symbol;
+    symbol.setSize({48, 48});
+    symbol.setName(QStringLiteral("folder.fill"));
+    symbol.setTint(QColor(0, 0, 0, 100));
+    const QImage image = painted(symbol);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            QVERIFY(qAlpha(image.pixel(x, y)) <= 100);
+    QCOMPARE(qAlpha(image.pixel(24, 28)), 100);
+}
+
+void SymbolTest::anUnknownNamePaintsNothingAndWarns()
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("symbol \"unicorn\"")));
+    Symbol symbol;
+    symbol.setSize({16, 16});
+    symbol.setName(QStringLiteral("unicorn"));
+    QVERIFY(isEmpty(painted(symbol)));
+}
+
+void SymbolTest::anEmptyNamePaintsNothingInSilence()
+{
+    Symbol symbol;
+    symbol.setSize({16, 16});
+    symbol.setName(QStringLiteral("circle"));
+    symbol.setName(QString());
+    QVERIFY(isEmpty(painted(symbol)));
+}
+
+void SymbolTest::isDrawnAtTheResolutionOfTheScreen()
+{
+    Symbol small;
+    small.setSize({24, 24});
+    small.setName(QStringLiteral("square.grid.2x2"));
+    Symbol large;
+    large.setSize({72, 72});
+    large.setName(QStringLiteral("square.grid.2x2"));
+    QImage scaled = painted(small, 3);
+    scaled.setDevicePixelRatio(1);
+    QCOMPARE(scaled, painted(large));
+}
+
+void SymbolTest::standsInTheMiddleOfAnOblongItem()
+{
+    Symbol symbol;
+    symbol.setSize({64, 16});
+    symbol.setName(QStringLiteral("checkmark.circle.fill"));
+    const QImage image = painted(symbol);
+    QVERIFY(isEmpty(image.copy(0, 0, 24, 16)));
+    QVERIFY(isEmpty(image.copy(40, 0, 24, 16)));
+    QVERIFY(!isEmpty(image.copy(24, 0, 16, 16)));
+}
+
+void SymbolTest::turnsWithItsAngle()
+{
+    Symbol right;
+    right.setSize({40, 40});
+    right.setName(QStringLiteral("chevron.right"));
+    const QImage before = painted(right);
+    right.setAngle(90);
+    QVERIFY(painted(right) != before);
+    right.setAngle(45);
+    QVERIFY2(softPixels(painted(right)) > 20, "a turned edge is smooth");
+}
+
+void SymbolTest::saysWhatChanged()
+{
+    Symbol symbol;
+    const QSignalSpy names(&symbol, &Symbol::nameChanged);
+    const QSignalSpy tints(&symbol, &Symbol::tintChanged);
+    const QSignalSpy angles(&symbol, &Symbol::angleChanged);
+    for (int time = 0; time < 2; ++time) {
+        symbol.setName(QStringLiteral("circle"));
+        symbol.setTint(Qt::red);
+        symbol.setAngle(10);
+    }
+    QCOMPARE(names.size(), 1);
+    QCOMPARE(tints.size(), 1);
+    QCOMPARE(angles.size(), 1);
+}
+
+const RegisteredTest<SymbolTest> registered("Symbol");
+
+} // namespace Loadwick
+
+#include "SymbolTest.moc"

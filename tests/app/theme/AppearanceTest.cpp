@@ -1,0 +1,93 @@
+#include "theme/Appearance.h"
+
+#include "support/FakeAppearanceSource.h"
+#include "support/TestRegistry.h"
+
+#include <QQmlEngine>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace Loadwick {
+
+class AppearanceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void asksTheDesktop();
+    void followsTheDesktop();
+    void aWishOfItsOwnWins();
+    void returnsToTheDesktop();
+    void saysOnceWhatIsWished();
+    void theEngineHandsInTheSource();
+};
+
+void AppearanceTest::asksTheDesktop()
+{
+    FakeAppearanceSource desktop;
+    const Appearance appearance(desktop);
+    QVERIFY(!appearance.dark());
+    QVERIFY(!appearance.reduceMotion());
+}
+
+void AppearanceTest::followsTheDesktop()
+{
+    FakeAppearanceSource desktop;
+    const Appearance appearance(desktop);
+    const QSignalSpy changes(&appearance, &Appearance::changed);
+    desktop.prefer(true, true);
+    QVERIFY(appearance.dark());
+    QVERIFY(appearance.reduceMotion());
+    QCOMPARE(changes.size(), 1);
+}
+
+void AppearanceTest::aWishOfItsOwnWins()
+{
+    FakeAppearanceSource desktop;
+    desktop.prefer(true, true);
+    Appearance appearance(desktop);
+    appearance.setScheme(Appearance::Light);
+    appearance.setMotion(Appearance::Full);
+    QVERIFY(!appearance.dark());
+    QVERIFY(!appearance.reduceMotion());
+}
+
+void AppearanceTest::returnsToTheDesktop()
+{
+    FakeAppearanceSource desktop;
+    desktop.prefer(true, true);
+    Appearance appearance(desktop);
+    appearance.setScheme(Appearance::Light);
+    appearance.setMotion(Appearance::Full);
+    appearance.setScheme(Appearance::DesktopScheme);
+    appearance.setMotion(Appearance::DesktopMotion);
+    QVERIFY(appearance.dark());
+    QVERIFY(appearance.reduceMotion());
+}
+
+void AppearanceTest::saysOnceWhatIsWished()
+{
+    FakeAppearanceSource desktop;
+    Appearance appearance(desktop);
+    const QSignalSpy changes(&appearance, &Appearance::changed);
+    appearance.setScheme(Appearance::Dark);
+    appearance.setScheme(Appearance::Dark);
+    appearance.setMotion(Appearance::Reduced);
+    appearance.setMotion(Appearance::Reduced);
+    QCOMPARE(changes.size(), 2);
+}
+
+void AppearanceTest::theEngineHandsInTheSource()
+{
+    QQmlEngine engine;
+    auto *desktop = new FakeAppearanceSource(&engine);
+    desktop->prefer(true, false);
+    const std::unique_ptr<Appearance> appearance(Appearance::create(&engine, &engine));
+    QVERIFY(appearance->dark());
+}
+
+const RegisteredTest<AppearanceTest> registered("Appearance");
+
+} // namespace Loadwick
+
+#include "AppearanceTest.moc"

@@ -1,0 +1,70 @@
+import QtQuick
+import QtTest
+import Loadwick
+
+Item {
+    id: scene
+    width: 400
+    height: 300
+
+    ReportSurface {
+        id: card
+        x: 40
+        y: 40
+        width: 200
+
+        Rectangle { id: content; implicitWidth: 50; implicitHeight: 60 }
+    }
+
+    TestCase {
+        name: "ReportSurface"
+        when: windowShown
+
+        function init() {
+            mouseMove(scene, 390, 290);
+            tryVerify(function () { return !card.isHovering; });
+            tryCompare(findChild(card, "shadow"), "visible", false);
+        }
+
+        function cleanup() {
+            Appearance.motion = Appearance.DesktopMotion;
+        }
+
+        function test_padsItsContentBySixteen() {
+            const place = content.mapToItem(card, 0, 0);
+            compare(place.x, 16);
+            compare(place.y, 16);
+            compare(card.implicitHeight, 60 + 32);
+        }
+
+        function test_restsWithAFaintBorderAndNoShadow() {
+            Appearance.motion = Appearance.Reduced;
+            tryCompare(findChild(card, "border"), "opacity", 0.6);
+            compare(findChild(card, "border").radius, 14);
+            tryCompare(findChild(card, "shadow"), "visible", false);
+        }
+
+        function test_animatesBorderAndShadowWhenHovered() {
+            Appearance.motion = Appearance.Full;
+            mouseMove(card, 20, 20);
+            tryVerify(function () { return card.isHovering; });
+            verify(findChild(card, "border").opacity < 1);
+            tryCompare(findChild(card, "border"), "opacity", 1);
+            tryCompare(findChild(card, "shadow"), "opacity", 0.16);
+        }
+
+        function test_withReduceMotionHoveringChangesBorderAndShadowAtOnce() {
+            Appearance.motion = Appearance.Reduced;
+            mouseMove(card, 20, 20);
+            tryVerify(function () { return card.isHovering; });
+            compare(findChild(card, "border").opacity, 1);
+            compare(findChild(card, "shadow").opacity, 0.16);
+        }
+
+        function test_theShadowLiesAThirdOfItsRadiusLower() {
+            const shadow = findChild(card, "shadow");
+            fuzzyCompare(shadow.y + shadow.height / 2 - card.height / 2, 16 / 3, 0.01);
+            compare(shadow.status, BorderImage.Ready);
+        }
+    }
+}

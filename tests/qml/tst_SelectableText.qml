@@ -1,0 +1,57 @@
+import QtQuick
+import QtTest
+import Loadwick
+
+Item {
+    id: scene
+    width: 400
+    height: 300
+
+    SelectableText { id: plain; width: 200; text: "<b>a</b> path" }
+    SelectableText { id: path; y: 60; width: 120; text: "/home/somebody/" + "folder/".repeat(20); maximumLineCount: 2 }
+
+    TestCase {
+        name: "SelectableText"
+        when: windowShown
+
+        function edit(item) {
+            return item.children[0].children[0];
+        }
+
+        function test_showsMarkupLetterByLetter() {
+            compare(edit(plain).textFormat, TextEdit.PlainText);
+            compare(edit(plain).getText(0, 99), "<b>a</b> path");
+        }
+
+        function test_cannotBeChanged() {
+            edit(plain).forceActiveFocus();
+            keyClick(Qt.Key_X);
+            compare(edit(plain).text, "<b>a</b> path");
+        }
+
+        function test_isCutAfterItsLastLineButCopiedWhole() {
+            verify(path.truncated);
+            compare(path.implicitHeight, Math.ceil(path.lineSpacing * 2));
+            edit(path).forceActiveFocus();
+            edit(path).selectAll();
+            compare(edit(path).selectedText, path.text);
+        }
+
+        function test_isNotCutWhereItFits() {
+            verify(!plain.truncated);
+        }
+
+        function test_theTabulatorReachesItAndLeavesNoSelection() {
+            edit(plain).forceActiveFocus(Qt.TabFocusReason);
+            edit(plain).selectAll();
+            keyClick(Qt.Key_Tab);
+            verify(edit(path).activeFocus);
+            compare(edit(plain).selectedText, "");
+        }
+
+        function test_isSelectedWithThePointer() {
+            mouseDoubleClickSequence(edit(plain), 10, 8);
+            verify(edit(plain).selectedText.length > 0);
+        }
+    }
+}
