@@ -1,0 +1,107 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+#include <QObject>
+#include <QTimer>
+#include <QtQml/qqmlregistration.h>
+
+#include "model/ScanModel.h"
+#include "overview/ReportTexts.h"
+#include "report/TextLocale.h"
+#include "shell/TextRows.h"
+
+namespace Loadwick {
+
+/// What the Overview shows of the current or the last scan. Belongs to the interface thread; the
+/// model outlives it, and changes no more once it is gone.
+class OverviewPresenter final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window.")
+    Q_PROPERTY(State state READ state NOTIFY changed)
+    Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
+    Q_PROPERTY(QString headline READ headline NOTIFY changed)
+    Q_PROPERTY(QString detail READ detail NOTIFY changed)
+    Q_PROPERTY(Band band READ band NOTIFY changed)
+    Q_PROPERTY(QString repositoryPath READ repositoryPath NOTIFY changed)
+    Q_PROPERTY(QString bandTitle READ bandTitle NOTIFY changed)
+    Q_PROPERTY(QString bandSentence READ bandSentence NOTIFY changed)
+    Q_PROPERTY(QString total READ total NOTIFY changed)
+    Q_PROPERTY(QString summary READ summary NOTIFY changed)
+    Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
+    Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
+
+public:
+    enum class State
+    {
+        Empty,
+        Loading,
+        Failure,
+        Report
+    };
+    Q_ENUM(State)
+
+    enum class Band
+    {
+        Lean,
+        Heavy,
+        Excessive
+    };
+    Q_ENUM(Band)
+
+    using Clock = std::function<std::chrono::steady_clock::time_point()>;
+
+    OverviewPresenter(ScanModel &model, TextLocale locale,
+                      Clock clock = &std::chrono::steady_clock::now);
+
+    [[nodiscard]] State state() const noexcept { return m_state; }
+
+    /// How long the running scan has taken, in minutes and seconds.
+    [[nodiscard]] QString elapsed() const;
+
+    /// The words of the last failure.
+    [[nodiscard]] QString headline() const { return m_headline; }
+    [[nodiscard]] QString detail() const { return m_detail; }
+
+    /// The words and figures of the last report; they mean something only in the state Report.
+    [[nodiscard]] Band band() const noexcept;
+    [[nodiscard]] QString repositoryPath() const { return m_texts.repositoryPath; }
+    [[nodiscard]] QString bandTitle() const { return m_texts.bandTitle; }
+    [[nodiscard]] QString bandSentence() const { return m_texts.bandSentence; }
+    [[nodiscard]] QString total() const { return m_texts.total; }
+    [[nodiscard]] QString summary() const { return m_texts.summary; }
+    [[nodiscard]] QStringList notes() const { return m_texts.notes; }
+
+    /// One row per detail, "label" and "value".
+    [[nodiscard]] QAbstractItemModel *sessionDetails() { return &m_details; }
+
+    /// Puts the summary on the clipboard.
+    Q_INVOKABLE void copySummary() const;
+
+Q_SIGNALS:
+    void changed();
+    void elapsedChanged();
+
+private:
+    void show(const ScanState::Idle &);
+    void show(const ScanState::Scanning &);
+    void show(const ScanState::Failed &failed);
+    void show(const ScanState::Result &result);
+    void showCurrentState();
+
+    ScanModel &m_model;
+    TextLocale m_locale;
+    Clock m_clock;
+    QTimer m_tick;
+    std::chrono::steady_clock::time_point m_start;
+    State m_state = State::Empty;
+    QString m_headline;
+    QString m_detail;
+    ReportTexts m_texts;
+    TextRows m_details;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,49 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The report of one scan.
+PageColumn {
+    id: page
+
+    required property OverviewPresenter overview
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: AppTheme.cardSpace
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: AppTheme.smallSpace
+
+            PageHeader {
+                Layout.fillWidth: true
+                title: "Overview"
+                detail: "Everything this Claude Code startup-context scan measured."
+            }
+            SelectableText {
+                Layout.fillWidth: true
+                text: page.overview.repositoryPath
+                font: AppTheme.captionFont
+                secondary: true
+                wrapMode: TextEdit.WrapAnywhere
+                ground: AppTheme.window
+            }
+        }
+        StatusPill {
+            Layout.alignment: Qt.AlignTop
+            Layout.topMargin: AppTheme.smallSpace
+            title: "Scan complete"
+            symbol: "checkmark.circle.fill"
+            tint: AppTheme.bandLeanText
+        }
+    }
+    BandCard {
+        Layout.fillWidth: true
+        overview: page.overview
+    }
+    ReportSection {
+        Layout.fillWidth: true
+        overview: page.overview
+    }
+}

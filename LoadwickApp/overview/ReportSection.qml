@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The scan's particulars, and its summary to take away.
+ReportSurface {
+    id: section
+
+    required property OverviewPresenter overview
+
+    PushButton {
+        Layout.alignment: Qt.AlignRight
+        title: "Copy Summary"
+        symbol: "doc.on.doc"
+        outlined: true
+        onClicked: section.overview.copySummary()
+    }
+    CollapsibleSection {
+        Layout.fillWidth: true
+        title: "Session details"
+
+        SessionDetails {
+            Layout.fillWidth: true
+            overview: section.overview
+        }
+    }
+    Hairline { Layout.fillWidth: true }
+    CollapsibleSection {
+        Layout.fillWidth: true
+        title: "Full report"
+        detail: "A factual, copyable summary of this one Claude Code startup-context scan."
+
+        SelectableText {
+            Layout.fillWidth: true
+            text: section.overview.summary
+        }
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The number that everything else is about, and who measured it.
+ColumnLayout {
+    id: metric
+
+    required property OverviewPresenter overview
+
+    spacing: 0
+
+    RowLayout {
+        spacing: AppTheme.smallSpace
+
+        PlainLabel {
+            Layout.alignment: Qt.AlignBaseline
+            text: metric.overview.total
+            font: AppTheme.heroMetricFont
+        }
+        PlainLabel {
+            Layout.alignment: Qt.AlignBaseline
+            text: "tokens"
+            font: AppTheme.title3Font
+            secondary: true
+        }
+    }
+    PlainLabel {
+        text: "Authoritative · measured by Claude"
+        font: AppTheme.subheadlineFont
+        secondary: true
+    }
+}

@@ -1,0 +1,81 @@
+#include "shell/AccessiblePress.h"
+
+#include <QAccessible>
+#include <QtQuick/private/qaccessiblequickitem_p.h>
+#include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
+#include <QtQuickTemplates2/private/qquickaction_p.h>
+
+namespace Loadwick::AccessiblePress {
+namespace {
+
+void toggleIfCheckable(QQuickAbstractButton &button)
+{
+    const bool isTheChosenOneOfAGroup = button.autoExclusive() && button.isChecked();
+    if (button.isCheckable() && !isTheChosenOneOfAGroup)
+        button.toggle();
+}
+
+void press(QQuickAbstractButton &button)
+{
+    if (!button.isEnabled())
+        return;
+    toggleIfCheckable(button);
+    if (QQuickAction *action = button.action())
+        action->trigger(&button);
+    Q_EMIT button.clicked();
+}
+
+class AccessibleButton final : public QAccessibleQuickItem
+{
+public:
+    explicit AccessibleButton(QQuickAbstractButton &button)
+        : QAccessibleQuickItem(&button), m_button(button)
+    {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleQuickItem::state();
+        if (!m_button.isEnabled()) {
+            state.disabled = true;
+            state.focusable = false;
+        }
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleQuickItem::actionNames();
+        names.removeAll(pressAction());
+        names.prepend(pressAction());
+        names.removeDuplicates();
+        return names;
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction() || name == toggleAction())
+            press(m_button);
+        else
+            QAccessibleQuickItem::doAction(name);
+    }
+
+private:
+    QQuickAbstractButton &m_button;
+};
+
+QAccessibleInterface *accessibleButton(const QString &className, QObject *object)
+{
+    if (className != QLatin1String("QQuickAbstractButton"))
+        return nullptr;
+    auto *button = qobject_cast<QQuickAbstractButton *>(object);
+    return button != nullptr ? new AccessibleButton(*button) : nullptr;
+}
+
+} // namespace
+
+void install()
+{
+    QAccessible::installFactory(accessibleButton);
+}
+
+} // namespace Loadwick::AccessiblePress

@@ -1,0 +1,150 @@
+#include "shell/ContentPresenter.h"
+
+#include <variant>
+
+#include "shell/QtText.h"
+
+namespace Loadwick {
+namespace {
+
+using Status = ContentPresenter::Status;
+
+struct StatusOf
+{
+    Status operator()(const ScanState::Idle &) const { return Status::Idle; }
+    Status operator()(const ScanState::Scanning &) const { return Status::Scanning; }
+    Status operator()(const ScanState::Result &) const { return Status::Complete; }
+    Status operator()(const ScanState::Failed &) const { return Status::Failed; }
+};
+
+QList<QStringList> pageRows()
+{
+    QList<QStringList> rows;
+    for (const AppPage page : AppPage::all)
+        rows.append({qtText(page.title()), qtText(page.symbol())});
+    return rows;
+}
+
+} // namespace
+
+ContentPresenter::ContentPresenter(ScanModel &model, FolderChooser &chooser)
+    : m_model(model), m_chooser(chooser), m_pages({"title", "symbol"})
+{
+    m_pages.setRows(pageRows());
+    m_model.selection().observe({.didChange = [this] {
+        Q_EMIT selectionChanged();
+        Q_EMIT commandsChanged();
+    }});
+    m_model.state().observe({.didChange = [this] {
+        Q_EMIT stateChanged();
+        Q_EMIT commandsChanged();
+    }});
+}
+
+bool ContentPresenter::hasRepository() const
+{
+    return m_model.selection().get().has_value();
+}
+
+QString ContentPresenter::repositoryName() const
+{
+    const auto &selection = m_model.selection().get();
+    return selection ? qtText(selection->displayName) : QStringLiteral("No repository selected");
+}
+
+QString ContentPresenter::repositoryDetail() const
+{
+    const auto &selection = m_model.selection().get();
+    return selection ? qtText(selection->path())
+                     : QStringLiteral("Choose a local repository to begin one scan.");
+}
+
+ContentPresenter::Status ContentPresenter::status() const
+{
+    return std::visit(StatusOf{}, m_model.state().get().value());
+}
+
+QString ContentPresenter::statusTitle() const
+{
+    switch (status()) {
+    case Status::Idle:
+        return QStringLiteral("Ready to scan");
+    case Status::Scanning:
+        return QStringLiteral("Scanning");
+    case Status::Failed:
+        return QStringLiteral("Scan failed");
+    case Status::Complete:
+        return QStringLiteral("Scan complete");
+    }
+    return {};
+}
+
+QString ContentPresenter::statusSymbol() const
+{
+    switch (status()) {
+    case Status::Idle:
+        return QStringLiteral("circle");
+    case Status::Scanning:
+        return QStringLiteral("arrow.triangle.2.circlepath");
+    case Status::Failed:
+        return QStringLiteral("exclamationmark.triangle.fill");
+    case Status::Complete:
+        return QStringLiteral("checkmark.circle.fill");
+    }
+    return {};
+}
+
+bool ContentPresenter::canChoose() const
+{
+    return !m_model.state().get().isScanning();
+}
+
+bool ContentPresenter::canScan() const
+{
+    return m_model.canScan();
+}
+
+QString ContentPresenter::scanTitle() const
+{
+    if (m_model.state().get().isScanning())
+        return QStringLiteral("Scanning…");
+    return hasRepository() ? QStringLiteral("Scan Again") : QStringLiteral("Scan");
+}
+
+QString ContentPresenter::allowanceDisclosure() const
+{
+    return qtText(ScanModel::allowanceDisclosure);
+}
+
+void ContentPresenter::setPageIndex(int index)
+{
+    const bool isPage = index >= 0 && index < static_cast<int>(AppPage::all.size());
+    showPage(AppPage::all[isPage ? static_cast<std::size_t>(index) : 0]);
+}
+
+void ContentPresenter::chooseFolder()
+{
+    if (canChoose())
+        m_chooser.open([this](const std::filesystem::path &folder) { select(folder); });
+}
+
+void ContentPresenter::scan()
+{
+    m_model.scan();
+}
+
+void ContentPresenter::select(const std::filesystem::path &folder)
+{
+    m_model.select(RepoSelection::fromUrl(folder));
+    showPage(AppPage::overview);
+}
+
+void ContentPresenter::showPage(AppPage page)
+{
+    if (m_page == page)
+        return;
+    m_page = page;
+    Q_EMIT pageIndexChanged();
+}
+
+} // namespace Loadwick

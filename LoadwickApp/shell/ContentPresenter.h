@@ -1,0 +1,90 @@
+#pragma once
+
+#include <filesystem>
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "model/ScanModel.h"
+#include "shell/AppPage.h"
+#include "shell/FolderChooser.h"
+#include "shell/TextRows.h"
+
+namespace Loadwick {
+
+/// What the frame of the window shows, and its two commands. Belongs to the interface thread; model
+/// and chooser outlive it, and the model changes no more once it is gone.
+class ContentPresenter final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window.")
+    Q_PROPERTY(bool hasRepository READ hasRepository NOTIFY selectionChanged)
+    Q_PROPERTY(QString repositoryName READ repositoryName NOTIFY selectionChanged)
+    Q_PROPERTY(QString repositoryDetail READ repositoryDetail NOTIFY selectionChanged)
+    Q_PROPERTY(Status status READ status NOTIFY stateChanged)
+    Q_PROPERTY(QString statusTitle READ statusTitle NOTIFY stateChanged)
+    Q_PROPERTY(QString statusSymbol READ statusSymbol NOTIFY stateChanged)
+    Q_PROPERTY(bool canChoose READ canChoose NOTIFY stateChanged)
+    Q_PROPERTY(bool canScan READ canScan NOTIFY commandsChanged)
+    Q_PROPERTY(QString scanTitle READ scanTitle NOTIFY commandsChanged)
+    Q_PROPERTY(QString allowanceDisclosure READ allowanceDisclosure CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *pages READ pages CONSTANT)
+    Q_PROPERTY(int pageIndex READ pageIndex WRITE setPageIndex NOTIFY pageIndexChanged)
+
+public:
+    enum class Status
+    {
+        Idle,
+        Scanning,
+        Failed,
+        Complete
+    };
+    Q_ENUM(Status)
+
+    ContentPresenter(ScanModel &model, FolderChooser &chooser);
+
+    [[nodiscard]] bool hasRepository() const;
+    [[nodiscard]] QString repositoryName() const;
+    /// The folder's whole path, or what to do while none is chosen.
+    [[nodiscard]] QString repositoryDetail() const;
+
+    [[nodiscard]] Status status() const;
+    [[nodiscard]] QString statusTitle() const;
+    [[nodiscard]] QString statusSymbol() const;
+
+    [[nodiscard]] bool canChoose() const;
+    [[nodiscard]] bool canScan() const;
+    [[nodiscard]] QString scanTitle() const;
+    [[nodiscard]] QString allowanceDisclosure() const;
+
+    /// One row per page, "title" and "symbol", in the order of the sidebar.
+    [[nodiscard]] QAbstractItemModel *pages() { return &m_pages; }
+
+    /// The place of the page in that order. An index that is none of them means the first page.
+    [[nodiscard]] int pageIndex() const noexcept { return static_cast<int>(m_page); }
+    void setPageIndex(int index);
+
+    /// Lets the user choose a folder and then shows the Overview; nothing while a scan runs.
+    Q_INVOKABLE void chooseFolder();
+
+    Q_INVOKABLE void scan();
+
+Q_SIGNALS:
+    void selectionChanged();
+    void stateChanged();
+    void commandsChanged();
+    void pageIndexChanged();
+
+private:
+    void select(const std::filesystem::path &folder);
+    void showPage(AppPage page);
+
+    ScanModel &m_model;
+    FolderChooser &m_chooser;
+    TextRows m_pages;
+    AppPage::Value m_page = AppPage::overview;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,56 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Loadwick
+
+// The window's two columns: the sidebar, and the toolbar over the chosen page.
+SplitView {
+    id: view
+
+    required property ContentPresenter content
+    required property OverviewPresenter overview
+
+    orientation: Qt.Horizontal
+
+    handle: Rectangle {
+        id: divider
+
+        implicitWidth: AppTheme.hairline
+        color: AppTheme.separator
+
+        // Wider than it looks, so that it can be caught.
+        containmentMask: Item {
+            x: -AppTheme.tightSpace
+            width: 2 * AppTheme.tightSpace + AppTheme.hairline
+            height: divider.height
+        }
+    }
+
+    Sidebar {
+        SplitView.preferredWidth: 250
+        SplitView.minimumWidth: 220
+        content: view.content
+    }
+
+    ColumnLayout {
+        SplitView.fillWidth: true
+        SplitView.minimumWidth: 480
+        spacing: 0
+
+        CommandBar {
+            Layout.fillWidth: true
+            content: view.content
+        }
+        Hairline { Layout.fillWidth: true }
+        StackLayout {
+            currentIndex: view.content.pageIndex
+
+            OverviewView {
+                overview: view.overview
+                disclosure: view.content.allowanceDisclosure
+            }
+            TrendsView {}
+            CompareView {}
+        }
+    }
+}

@@ -1,0 +1,16 @@
+import QtQuick
+import QtQuick.Dialogs
+import Loadwick
+
+FolderDialog {
+    id: dialog
+
+    required property DialogFolderChooser chooser
+
+    title: "Choose a local repository to scan."
+    acceptLabel: "Choose"
+    modality: Qt.WindowModal
+
+    onAccepted: dialog.chooser.accept(dialog.selectedFolder)
+    onRejected: dialog.chooser.reject()
+}

@@ -1,0 +1,37 @@
+#include "shell/LoadwickApp.h"
+
+#include <QGuiApplication>
+
+#include "shell/ApplicationSetup.h"
+#include "shell/ProgramEnd.h"
+#include "shell/ProgramSignals.h"
+
+namespace Loadwick::LoadwickApp {
+namespace {
+
+int runWindow(int argc, char **argv, const MakeCollaborators &make,
+              const std::shared_ptr<Shutdown> &shutdown)
+{
+    QGuiApplication application(argc, argv);
+    ApplicationSetup::apply(application);
+    LoadwickWindow loadwick(make(shutdown));
+    loadwick.window().show();
+    loadwick.window().requestActivate();
+    const int status = QGuiApplication::exec();
+    // What follows tidies up (a copied summary goes to the desktop's clipboard) and may hang.
+    ProgramEnd::begin(shutdown, status);
+    return status;
+}
+
+} // namespace
+
+void run(int argc, char **argv, const MakeCollaborators &make)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    ProgramSignals::install(shutdown);
+    ApplicationSetup::prepare();
+    const int status = runWindow(argc, argv, make, shutdown);
+    ProgramEnd::leave(*shutdown, status);
+}
+
+} // namespace Loadwick::LoadwickApp

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "probe/Shutdown.h"
+#include "shell/LoadwickWindow.h"
+
+/// The application from its first line to its last.
+namespace Loadwick::LoadwickApp {
+
+using MakeCollaborators =
+    std::function<LoadwickWindow::Collaborators(std::shared_ptr<Shutdown> shutdown)>;
+
+/// Opens the window, runs until it is closed or a signal comes, and ends the program. Child
+/// processes that `make`'s collaborators start must be entered in the `shutdown` it is given.
+[[noreturn]] void run(int argc, char **argv, const MakeCollaborators &make);
+
+} // namespace Loadwick::LoadwickApp

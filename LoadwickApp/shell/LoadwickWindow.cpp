@@ -1,0 +1,91 @@
+#include "shell/LoadwickWindow.h"
+
+#include <utility>
+
+#include <QDir>
+#include <QQmlComponent>
+
+#include "probe/Fatal.h"
+#include "probe/ProbeRunner.h"
+#include "probe/ProcessContext.h"
+#include "report/InstructionFileScanner.h"
+#include "shell/DialogFolderChooser.h"
+#include "shell/QtTaskDispatcher.h"
+#include "theme/ApplicationStyle.h"
+
+namespace Loadwick {
+namespace {
+
+std::chrono::sys_seconds systemNow()
+{
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
+std::unique_ptr<FolderChooser> platformDialog()
+{
+    return std::make_unique<DialogFolderChooser>(QUrl::fromLocalFile(QDir::homePath()));
+}
+
+} // namespace
+
+LoadwickWindow::Collaborators
+LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
+{
+    const Environment environment = currentEnvironment();
+    return {
+        .probeRunner = std::make_shared<ProbeRunner>(
+            ProbeRunner::userSettings(environment, std::move(shutdown))),
+        .instructionScanner = std::make_shared<InstructionFileScanner>(
+            InstructionFileScanner::Settings{.home = homeFolder(environment)}),
+        .historyStore =
+            std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
+        .locale = TextLocale::fromEnvironment(environment),
+    };
+}
+
+LoadwickWindow::LoadwickWindow(Collaborators collaborators)
+    : m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
+                                            : platformDialog())
+{
+    const TextLocale locale = collaborators.locale;
+    makeModel(std::move(collaborators));
+    m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
+    m_overview = std::make_unique<OverviewPresenter>(*m_model, locale);
+    makeWindow();
+    attachChooser();
+}
+
+void LoadwickWindow::makeModel(Collaborators collaborators)
+{
+    if (!collaborators.dispatcher)
+        collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
+    if (!collaborators.now)
+        collaborators.now = systemNow;
+    m_model = std::make_unique<ScanModel>(ScanModel::Collaborators{
+        .probeRunner = std::move(collaborators.probeRunner),
+        .instructionScanner = std::move(collaborators.instructionScanner),
+        .historyStore = std::move(collaborators.historyStore),
+        .dispatcher = std::move(collaborators.dispatcher),
+        .now = std::move(collaborators.now),
+    });
+}
+
+void LoadwickWindow::makeWindow()
+{
+    ApplicationStyle::addModulePath(m_engine);
+    QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml")));
+    std::unique_ptr<QObject> made(component.createWithInitialProperties(
+        {{QStringLiteral("content"), QVariant::fromValue(m_content.get())},
+         {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())}}));
+    if (qobject_cast<QQuickWindow *>(made.get()) == nullptr)
+        fatalError(component.errorString().toStdString());
+    m_window.reset(static_cast<QQuickWindow *>(made.release()));
+}
+
+void LoadwickWindow::attachChooser()
+{
+    if (auto *dialog = dynamic_cast<DialogFolderChooser *>(m_chooser.get()))
+        dialog->attach(m_engine, *m_window);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+
+#include "model/ScanModel.h"
+#include "overview/OverviewPresenter.h"
+#include "probe/Shutdown.h"
+#include "report/TextLocale.h"
+#include "shell/ContentPresenter.h"
+#include "shell/FolderChooser.h"
+
+namespace Loadwick {
+
+/// The program's one window with the model behind it. Make it after the application object, on its
+/// thread. Destroying it waits for no background work: late outcomes are dropped.
+class LoadwickWindow
+{
+public:
+    /// What stands between the window and the outside world.
+    struct Collaborators
+    {
+        std::shared_ptr<ProbeRunning> probeRunner;
+        std::shared_ptr<InstructionFileScanning> instructionScanner;
+        std::unique_ptr<ScanHistoryStore> historyStore = {}; ///< none: nothing is recorded
+        std::unique_ptr<FolderChooser> folderChooser = {};   ///< none: the platform's dialog
+        std::shared_ptr<TaskDispatcher> dispatcher = {};     ///< none: threads of their own
+        std::function<std::chrono::sys_seconds()> now = {};  ///< none: the system's clock
+        TextLocale locale = {};
+
+        /// Those of the running program: the user's own home, environment and disk.
+        [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);
+    };
+
+    explicit LoadwickWindow(Collaborators collaborators);
+    ~LoadwickWindow() = default;
+
+    LoadwickWindow(const LoadwickWindow &) = delete;
+    LoadwickWindow &operator=(const LoadwickWindow &) = delete;
+
+    [[nodiscard]] ScanModel &model() noexcept { return *m_model; }
+    [[nodiscard]] ContentPresenter &content() noexcept { return *m_content; }
+    [[nodiscard]] OverviewPresenter &overview() noexcept { return *m_overview; }
+    [[nodiscard]] QQuickWindow &window() noexcept { return *m_window; }
+
+private:
+    void makeModel(Collaborators collaborators);
+    void makeWindow();
+    void attachChooser();
+
+    // Destroyed from the last to the first: what shows before what is shown.
+    QObject m_interface; ///< what background work posts to
+    std::unique_ptr<ScanModel> m_model;
+    std::unique_ptr<ContentPresenter> m_content;
+    std::unique_ptr<OverviewPresenter> m_overview;
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    std::unique_ptr<FolderChooser> m_chooser;
+};
+
+} // namespace Loadwick

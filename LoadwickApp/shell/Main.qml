@@ -1,0 +1,23 @@
+import QtQuick
+import QtQuick.Controls
+import Loadwick
+
+ApplicationWindow {
+    id: window
+
+    required property ContentPresenter content
+    required property OverviewPresenter overview
+
+    title: "Loadwick"
+    width: 1180
+    height: 780
+    minimumWidth: 960
+    minimumHeight: 640
+    color: AppTheme.window
+
+    ContentView {
+        anchors.fill: parent
+        content: window.content
+        overview: window.overview
+    }
+}

@@ -1,0 +1,29 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Loadwick
+
+// One page as a scrolling column of cards, no wider than can be read.
+PageAppear {
+    id: page
+
+    default property alias cards: column.data
+
+    ScrollView {
+        id: scroller
+
+        anchors.fill: parent
+        contentWidth: availableWidth
+        contentHeight: column.implicitHeight + 2 * AppTheme.pageMargin
+        ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
+
+        ColumnLayout {
+            id: column
+
+            x: Math.round((scroller.availableWidth - width) / 2)
+            y: AppTheme.pageMargin
+            width: Math.min(AppTheme.contentWidth, scroller.availableWidth - 2 * AppTheme.pageMargin)
+            spacing: AppTheme.cardSpace
+        }
+    }
+}

@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Controls
+import Loadwick
+
+// A page to go to.
+AbstractButton {
+    id: row
+
+    required property int index
+    required property string title
+    required property string symbol
+    property bool selected: false
+    // Whether the keyboard is here.
+    property bool ringed: false
+    readonly property color wordColor: selected ? AppTheme.accent : AppTheme.text
+
+    implicitHeight: AppTheme.controlHeight
+    leftPadding: AppTheme.smallSpace
+    rightPadding: AppTheme.smallSpace
+    focusPolicy: Qt.NoFocus
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.selectable: true
+    Accessible.selected: selected
+
+    contentItem: Item {
+        Symbol {
+            id: picture
+            anchors.verticalCenter: parent.verticalCenter
+            name: row.symbol
+            tint: row.wordColor
+        }
+        PlainLabel {
+            anchors { left: picture.right; leftMargin: AppTheme.smallSpace; verticalCenter: parent.verticalCenter }
+            text: row.title
+            font: row.selected ? AppTheme.bodyStrongFont : AppTheme.bodyFont
+            color: row.wordColor
+            Accessible.ignored: true
+        }
+    }
+
+    background: Rectangle {
+        radius: AppTheme.controlRadius
+        color: row.selected ? AppTheme.selectionFill
+             : row.down ? AppTheme.pressedFill
+             : row.hovered ? AppTheme.hoverFill : "transparent"
+        border { width: row.ringed ? 2 : 0; color: AppTheme.accent }
+    }
+
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+}
