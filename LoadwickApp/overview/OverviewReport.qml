@@ -26,7 +26,6 @@ PageColumn {
                 text: page.overview.repositoryPath
                 font: AppTheme.captionFont
                 secondary: true
-                wrapMode: TextEdit.WrapAnywhere
                 ground: AppTheme.window
             }
         }

@@ -34,9 +34,12 @@ Item {
         detail: page.overview.detail
         visible: page.overview.state === OverviewPresenter.Failure
     }
+    // Made anew for each report, so that each one arrives.
     Loader {
+        id: report
+
         anchors.fill: parent
         active: page.overview.state === OverviewPresenter.Report
-        sourceComponent: OverviewReport { overview: page.overview }
+        Component.onCompleted: report.setSource("OverviewReport.qml", { overview: page.overview })
     }
 }

@@ -46,12 +46,14 @@ bool DialogFolderChooser::makeDialog()
         return m_dialog != nullptr;
     QQmlComponent component(m_engine,
                             QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/FolderChooserDialog.qml")));
+    if (!component.isReady()) {
+        qWarning("%s", qPrintable(component.errorString()));
+        return false;
+    }
     m_dialog.reset(component.createWithInitialProperties(
         {{QStringLiteral("chooser"), QVariant::fromValue(this)},
          {QStringLiteral("parentWindow"), QVariant::fromValue(m_window.data())},
          {QStringLiteral("currentFolder"), m_startFolder}}));
-    if (!m_dialog)
-        qWarning("%s", qPrintable(component.errorString()));
     return m_dialog != nullptr;
 }
 

@@ -74,12 +74,14 @@ void LoadwickWindow::makeWindow()
 {
     ApplicationStyle::addModulePath(m_engine);
     QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml")));
+    if (!component.isReady())
+        fatalError(component.errorString().toStdString());
     std::unique_ptr<QObject> made(component.createWithInitialProperties(
         {{QStringLiteral("content"), QVariant::fromValue(m_content.get())},
          {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())}}));
-    if (qobject_cast<QQuickWindow *>(made.get()) == nullptr)
-        fatalError(component.errorString().toStdString());
-    m_window.reset(static_cast<QQuickWindow *>(made.release()));
+    m_window.reset(qobject_cast<QQuickWindow *>(made.release()));
+    if (!m_window)
+        fatalError("Main.qml makes no window.");
 }
 
 void LoadwickWindow::attachChooser()

@@ -8,7 +8,6 @@ ListView {
     required property ContentPresenter content
 
     model: content.pages
-    currentIndex: content.pageIndex
     interactive: false
     keyNavigationEnabled: true
     activeFocusOnTab: true
@@ -18,10 +17,15 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: "Pages"
 
+    // Unlike a plain binding, it survives what the arrow keys and the rows write.
+    Binding on currentIndex { value: list.content.pageIndex }
+
     delegate: SidebarRow {
-        width: list.width
+        id: row
+
+        width: ListView.view.width
         selected: ListView.isCurrentItem
-        ringed: ListView.isCurrentItem && list.activeFocus
-        onClicked: list.content.pageIndex = index
+        ringed: ListView.isCurrentItem && ListView.view.activeFocus
+        onClicked: row.ListView.view.currentIndex = row.index
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import Loadwick
 
 // A page to go to.
@@ -23,15 +24,15 @@ AbstractButton {
     Accessible.selectable: true
     Accessible.selected: selected
 
-    contentItem: Item {
+    contentItem: RowLayout {
+        spacing: AppTheme.smallSpace
+
         Symbol {
-            id: picture
-            anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
             tint: row.wordColor
         }
         PlainLabel {
-            anchors { left: picture.right; leftMargin: AppTheme.smallSpace; verticalCenter: parent.verticalCenter }
+            Layout.fillWidth: true
             text: row.title
             font: row.selected ? AppTheme.bodyStrongFont : AppTheme.bodyFont
             color: row.wordColor

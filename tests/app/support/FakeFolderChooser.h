@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include "shell/FolderChooser.h"
+
+namespace Loadwick {
+
+/// Asks nobody: answers at once with the folder that a test has laid out, or not at all.
+class FakeFolderChooser final : public FolderChooser
+{
+public:
+    /// None: the user thinks better of it.
+    std::optional<std::filesystem::path> answer;
+    int openCount = 0;
+
+    void open(Chosen chosen) override;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include "model/ScanModel.h"
+#include "support/FakeInstructionScanner.h"
+#include "support/FakeProbe.h"
+#include "support/SteppingDispatcher.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+/// A scan model over fakes, with an empty folder to scan. Its scans go on when a test says so.
+struct ScanningModel
+{
+    ScanningModel();
+
+    std::shared_ptr<FakeProbe> probe = std::make_shared<FakeProbe>();
+    std::shared_ptr<FakeInstructionScanner> scanner = std::make_shared<FakeInstructionScanner>();
+    std::shared_ptr<SteppingDispatcher> dispatcher = std::make_shared<SteppingDispatcher>();
+    TemporaryFolder folder;
+    ScanModel model;
+
+    void choose();
+    /// Runs the scan that was started to its end.
+    void finish() { dispatcher->runAll(); }
+    /// One whole scan of the folder.
+    void scan();
+};
+
+} // namespace Loadwick
