@@ -1,6 +1,8 @@
-// Runs the Qt Test class named by the first argument; the rest goes to Qt Test.
+// Runs the Qt Test class named by the first argument; the rest goes to Qt Test. A stand-in program
+// may be named in its place.
+#include "shell/ApplicationSetup.h"
+#include "support/StandInProgram.h"
 #include "support/TestRegistry.h"
-#include "theme/ApplicationStyle.h"
 
 #include <QGuiApplication>
 #include <QTest>
@@ -11,9 +13,12 @@ int main(int argc, char *argv[])
 {
     using namespace Loadwick;
 
-    ApplicationStyle::prepare();
+    const auto program = StandInProgram::find(QString::fromLocal8Bit(argc > 1 ? argv[1] : ""));
+    if (program != nullptr)
+        return program(argc, argv);
+    ApplicationSetup::prepare();
     QGuiApplication application(argc, argv);
-    ApplicationStyle::applyFont(application);
+    ApplicationSetup::apply(application);
     QStringList arguments = QGuiApplication::arguments();
     const QString type = arguments.size() > 1 ? arguments.takeAt(1) : QString();
     const auto test = TestRegistry::make(type);

@@ -1,0 +1,208 @@
+#include "shell/LoadwickWindow.h"
+
+#include <string>
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "support/TestRegistry.h"
+#include "support/WindowUnderTest.h"
+
+namespace Loadwick {
+
+class LoadwickWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_window = std::make_unique<WindowUnderTest>(); }
+    void cleanup() { m_window.reset(); }
+
+    void hasItsTitleAndSizes()
+    {
+        QQuickWindow &window = m_window->loadwick().window();
+        QCOMPARE(window.title(), QStringLiteral("Loadwick"));
+        QCOMPARE(window.size(), QSize(1180, 780));
+        QCOMPARE(window.minimumSize(), QSize(960, 640));
+    }
+
+    void withoutARepositoryItAsksForOneAndCannotScan()
+    {
+        QVERIFY(shows("No repository selected"));
+        QVERIFY(shows("Choose a local repository to begin one scan."));
+        QVERIFY(shows("Ready to scan"));
+        QVERIFY(shows("Start a context scan"));
+        QVERIFY(shows("Choose a local repository, then run one Claude Code probe."));
+        QVERIFY(m_window->isPressable(QStringLiteral("Choose Repository…")));
+        QVERIFY(shows("Scan"));
+        QVERIFY(!m_window->isPressable(QStringLiteral("Scan")));
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->finishScan();
+        QVERIFY(m_window->probe().runs().empty());
+    }
+
+    void theCostOfAScanIsSaidBeforeTheFirstOne()
+    {
+        const QString disclosure = m_window->loadwick().content().allowanceDisclosure();
+        QVERIFY(m_window->shows(disclosure));
+        QAccessibleInterface *scan = m_window->find(QStringLiteral("Scan"));
+        QVERIFY(scan != nullptr);
+        QCOMPARE(scan->text(QAccessible::Description), disclosure);
+    }
+
+    void controlOChoosesAndControlRScans()
+    {
+        m_window->choose(m_window->folder().path());
+        QVERIFY(m_window->isPressable(QStringLiteral("Scan Again")));
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(shows("Scanning"));
+        m_window->finishScan();
+        QCOMPARE(m_window->probe().runs().size(), std::size_t(1));
+        QTRY_VERIFY(shows("27,654"));
+        QVERIFY(shows("tokens"));
+        QVERIFY(shows("Lean startup context"));
+        QVERIFY(shows("Authoritative · measured by Claude"));
+        QVERIFY(shows("Scan complete"));
+    }
+
+    void whileScanningControlODoesNothing()
+    {
+        m_window->choose(m_window->folder().path());
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->press(Qt::Key_O, Qt::ControlModifier);
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(m_window->chooser().openCount, 1);
+        QVERIFY(shows("Scanning…"));
+        QVERIFY(!m_window->isPressable(QStringLiteral("Scanning…")));
+        QVERIFY(!m_window->isPressable(QStringLiteral("Choose Repository…")));
+        QVERIFY(shows("Scanning repository"));
+        QVERIFY(shows("0:00"));
+    }
+
+    void aFailedScanShowsHeadlineAndDetail()
+    {
+        m_window->probe().answer = []() -> ProbeResult {
+            throw ProbeError::sessionFailed("<b>Credit balance</b> is too low");
+        };
+        scan(m_window->folder().path());
+        QTRY_VERIFY(shows("Scan failed"));
+        QVERIFY(shows("The probe session reported an error."));
+        QVERIFY(shows("<b>Credit balance</b> is too low"));
+    }
+
+    void thePagesStayNavigableWhileScanning()
+    {
+        m_window->choose(m_window->folder().path());
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        pressAccessibly("Trends");
+        QVERIFY(shows("Startup context over time, against the Lean, Heavy and Excessive bands."));
+        pressAccessibly("Compare");
+        QVERIFY(shows("No recorded scans yet"));
+        pressAccessibly("Overview");
+        QVERIFY(shows("Scanning repository"));
+    }
+
+    void choosingOnAnotherPageSwitchesToTheOverview()
+    {
+        for (const char *page : {"Trends", "Compare"}) {
+            pressAccessibly(page);
+            QVERIFY(!shows("Start a context scan"));
+            m_window->choose(m_window->folder().path());
+            QVERIFY(shows("Start a context scan"));
+        }
+    }
+
+    void theArrowKeysMoveThroughThePages()
+    {
+        m_window->press(Qt::Key_Tab);
+        m_window->press(Qt::Key_Down);
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 1);
+        m_window->press(Qt::Key_Down);
+        m_window->press(Qt::Key_Down);
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 2);
+        m_window->press(Qt::Key_Up);
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 1);
+        m_window->choose(m_window->folder().path());
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
+    }
+
+    void anyFolderNameCanBeScannedAndRecorded_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("markup") << QByteArray("<img src=x>");
+        QTest::newRow("line feed") << QByteArray("two\nlines");
+        QTest::newRow("not UTF-8") << QByteArray("caf\xE9");
+        QTest::newRow("255 bytes") << QByteArray(255, 'n');
+    }
+
+    void anyFolderNameCanBeScannedAndRecorded()
+    {
+        QFETCH(const QByteArray, name);
+        const auto folder = m_window->folder().path() / name.toStdString();
+        std::filesystem::create_directory(folder);
+        scan(folder);
+        QTRY_VERIFY(shows("Scan complete"));
+        QVERIFY(m_window->probe().runs().front() == folder);
+        QCOMPARE(m_window->loadwick().model().history().get().size(), std::size_t(1));
+        QVERIFY(m_window->shows(QString::fromUtf8(name)));
+        QVERIFY(!m_window->loadwick().window().grabWindow().isNull());
+    }
+
+    void copySummaryIsAButton()
+    {
+        scan(m_window->folder().path());
+        QTRY_VERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
+        pressAccessibly("Copy Summary");
+        QVERIFY(m_window->loadwick().overview().summary().startsWith(QStringLiteral("Repository")));
+    }
+
+    void theSessionDetailsOpen()
+    {
+        scan(m_window->folder().path());
+        QTRY_VERIFY(shows("Session details"));
+        QVERIFY(!shows("12.5 seconds"));
+        pressAccessibly("Session details");
+        QTRY_VERIFY(shows("12.5 seconds"));
+        QVERIFY(shows("Claude executable"));
+        QVERIFY(shows("Total: authoritative — reported by Claude (source: session transcript: "
+                      "first assistant message usage)."));
+    }
+
+    void closingDuringAScanDropsItsOutcome()
+    {
+        m_window->choose(m_window->folder().path());
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->loadwick().window().close();
+        m_window->destroy();
+        m_window->finishScan();
+    }
+
+private:
+    [[nodiscard]] bool shows(const char *name) const
+    {
+        return m_window->shows(QString::fromUtf8(name));
+    }
+
+    void scan(const std::filesystem::path &folder)
+    {
+        m_window->choose(folder);
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->finishScan();
+    }
+
+    void pressAccessibly(const char *name)
+    {
+        QAccessibleInterface *button = m_window->find(QString::fromUtf8(name));
+        QVERIFY2(button != nullptr && button->actionInterface() != nullptr, name);
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+
+    std::unique_ptr<WindowUnderTest> m_window;
+};
+
+const RegisteredTest<LoadwickWindowTest> registered("LoadwickWindow");
+
+} // namespace Loadwick
+
+#include "LoadwickWindowTest.moc"

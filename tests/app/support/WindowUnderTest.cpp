@@ -1,0 +1,66 @@
+#include "support/WindowUnderTest.h"
+
+#include <utility>
+
+#include <QAccessible>
+#include <QTest>
+
+namespace Loadwick {
+namespace {
+
+QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &name)
+{
+    for (int index = 0; parent != nullptr && index < parent->childCount(); ++index) {
+        QAccessibleInterface *child = parent->child(index);
+        if (child == nullptr || child->state().invisible)
+            continue;
+        if (child->text(QAccessible::Name) == name)
+            return child;
+        if (QAccessibleInterface *found = findBelow(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+WindowUnderTest::WindowUnderTest()
+{
+    auto chooser = std::make_unique<FakeFolderChooser>();
+    m_chooser = chooser.get();
+    m_loadwick = std::make_unique<LoadwickWindow>(LoadwickWindow::Collaborators{
+        .probeRunner = m_probe,
+        .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+        .historyStore = std::make_unique<ScanHistoryStore>(m_folder.path() / "history"),
+        .folderChooser = std::move(chooser),
+        .dispatcher = m_dispatcher,
+    });
+    m_loadwick->window().show();
+    m_loadwick->window().requestActivate();
+    if (!QTest::qWaitForWindowActive(&m_loadwick->window()))
+        qFatal("The window does not become active.");
+}
+
+void WindowUnderTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(&m_loadwick->window(), key, modifiers);
+}
+
+void WindowUnderTest::choose(const std::filesystem::path &folder)
+{
+    m_chooser->answer = folder;
+    press(Qt::Key_O, Qt::ControlModifier);
+}
+
+QAccessibleInterface *WindowUnderTest::find(const QString &name) const
+{
+    return findBelow(QAccessible::queryAccessibleInterface(&m_loadwick->window()), name);
+}
+
+bool WindowUnderTest::isPressable(const QString &name) const
+{
+    QAccessibleInterface *found = find(name);
+    return found != nullptr && !found->state().disabled;
+}
+
+} // namespace Loadwick

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+
+#include <QString>
+
+#include "shell/LoadwickWindow.h"
+#include "support/FakeFolderChooser.h"
+#include "support/FakeInstructionScanner.h"
+#include "support/FakeProbe.h"
+#include "support/SteppingDispatcher.h"
+#include "support/TemporaryFolder.h"
+
+class QAccessibleInterface;
+
+namespace Loadwick {
+
+/// The real window over fakes, shown and ready for keys. Its scans go on when a test says so.
+class WindowUnderTest
+{
+public:
+    WindowUnderTest();
+
+    [[nodiscard]] LoadwickWindow &loadwick() noexcept { return *m_loadwick; }
+    [[nodiscard]] FakeProbe &probe() noexcept { return *m_probe; }
+    [[nodiscard]] FakeFolderChooser &chooser() noexcept { return *m_chooser; }
+    [[nodiscard]] const TemporaryFolder &folder() const noexcept { return m_folder; }
+
+    /// Closes and destroys the window.
+    void destroy() { m_loadwick.reset(); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Ctrl+O with `folder` as the answer.
+    void choose(const std::filesystem::path &folder);
+    void finishScan() { m_dispatcher->runAll(); }
+
+    /// What assistive technology finds under that name and can see; null when there is none.
+    [[nodiscard]] QAccessibleInterface *find(const QString &name) const;
+    [[nodiscard]] bool shows(const QString &name) const { return find(name) != nullptr; }
+    [[nodiscard]] bool isPressable(const QString &name) const;
+
+private:
+    std::shared_ptr<FakeProbe> m_probe = std::make_shared<FakeProbe>();
+    std::shared_ptr<SteppingDispatcher> m_dispatcher = std::make_shared<SteppingDispatcher>();
+    FakeFolderChooser *m_chooser = nullptr;
+    TemporaryFolder m_folder;
+    std::unique_ptr<LoadwickWindow> m_loadwick;
+};
+
+} // namespace Loadwick
