@@ -1,12 +1,19 @@
 #include "history/JsonWriter.h"
 
+#include <algorithm>
+
 #include "probe/UnicodeText.h"
 
 namespace Loadwick {
 
 namespace {
 
-void appendEscaped(std::string &text, char character)
+bool needsEscape(char character)
+{
+    return static_cast<unsigned char>(character) < 0x20 || character == '"' || character == '\\';
+}
+
+void appendEscape(std::string &text, char character)
 {
     constexpr std::string_view named = "\"\\\b\f\n\r\t";
     constexpr std::string_view letters = "\"\\bfnrt";
@@ -15,20 +22,24 @@ void appendEscaped(std::string &text, char character)
     if (place != std::string_view::npos) {
         text += '\\';
         text += letters[place];
-    } else if (const auto code = static_cast<unsigned char>(character); code < 0x20) {
+    } else {
+        const auto code = static_cast<unsigned char>(character);
         text += "\\u00";
         text += hexadecimal[code >> 4U];
         text += hexadecimal[code & 0x0FU];
-    } else {
-        text += character;
     }
 }
 
 void appendLiteral(std::string &text, std::string_view content)
 {
     text += '"';
-    for (const char character : content)
-        appendEscaped(text, character);
+    for (auto rest = content.begin(); rest != content.end();) {
+        const auto special = std::find_if(rest, content.end(), needsEscape);
+        text.append(rest, special);
+        rest = special;
+        if (rest != content.end())
+            appendEscape(text, *rest++);
+    }
     text += '"';
 }
 

@@ -1,6 +1,8 @@
 #include "probe/JsonReader.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
 #include <utility>
 
 #include "probe/JsonString.h"
@@ -15,8 +17,29 @@ constexpr std::size_t longestSelectedKey = 4096;
 /// A longer number is none that anybody counts with; it is kept as null.
 constexpr std::size_t longestNumber = 4096;
 
+constexpr bool isJsonSpace(char character) noexcept
+{
+    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+}
+
+/// An integer that fits, as nearly every number is. The library's own parser, set up for each
+/// number, took a quarter of the time of reading a history.
+std::optional<nlohmann::json> plainIntegerOf(std::string_view digits)
+{
+    std::int64_t integer = 0;
+    const char *const last = digits.data() + digits.size();
+    const auto [end, error] = std::from_chars(digits.data(), last, integer);
+    if (error != std::errc() || end != last)
+        return std::nullopt;
+    if (integer < 0)
+        return integer;
+    return static_cast<std::uint64_t>(integer); // as the library's parser types it
+}
+
 nlohmann::json numberOf(std::string_view digits)
 {
+    if (auto integer = plainIntegerOf(digits))
+        return std::move(*integer);
     if (digits.size() > longestNumber)
         return nullptr;
     nlohmann::json number =
@@ -211,7 +234,9 @@ bool JsonReader::takeDigits() noexcept
 
 void JsonReader::skipSpace() noexcept
 {
-    m_index = std::min(m_text.find_first_not_of(" \t\n\r", m_index), m_text.size());
+    // A plain loop: find_first_not_of calls memchr for each byte, a seventh of a whole reading.
+    while (m_index < m_text.size() && isJsonSpace(m_text[m_index]))
+        ++m_index;
 }
 
 } // namespace Loadwick
