@@ -52,6 +52,11 @@ ProcessCensus ProcessCensus::now()
     return {entryCount("/proc/self/fd"), entryCount("/proc/self/task"), zombieChildren()};
 }
 
+bool ProcessCensus::isWithin(const ProcessCensus &limit) const noexcept
+{
+    return descriptors <= limit.descriptors && threads <= limit.threads && zombies <= limit.zombies;
+}
+
 void PrintTo(const ProcessCensus &census, std::ostream *stream)
 {
     *stream << census.descriptors << " descriptors, " << census.threads << " threads, "

@@ -16,6 +16,10 @@ struct ProcessCensus
 
     [[nodiscard]] static ProcessCensus now();
 
+    /// No more of anything than `limit`. A thread that was just ending when the limit was taken
+    /// makes equality too strict.
+    [[nodiscard]] bool isWithin(const ProcessCensus &limit) const noexcept;
+
     friend bool operator==(const ProcessCensus &, const ProcessCensus &) = default;
 };
 

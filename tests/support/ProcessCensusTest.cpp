@@ -45,6 +45,16 @@ TEST(ProcessCensusTest, countsChildrenThatEndedAndWereNotReaped)
     EXPECT_EQ(ProcessCensus::now().zombies, before.zombies);
 }
 
+TEST(ProcessCensusTest, comparesEveryCountWithALimit)
+{
+    const ProcessCensus limit{5, 2, 0};
+    EXPECT_TRUE((ProcessCensus{5, 2, 0}.isWithin(limit)));
+    EXPECT_TRUE((ProcessCensus{3, 1, 0}.isWithin(limit)));
+    EXPECT_FALSE((ProcessCensus{6, 2, 0}.isWithin(limit)));
+    EXPECT_FALSE((ProcessCensus{5, 3, 0}.isWithin(limit)));
+    EXPECT_FALSE((ProcessCensus{5, 2, 1}.isWithin(limit)));
+}
+
 TEST(ProcessCensusTest, looksUntilSomethingHolds)
 {
     int looks = 0;

@@ -1,0 +1,250 @@
+#include <csignal>
+
+#include <gtest/gtest.h>
+
+#include "probe/ProbeError.h"
+#include "probe/ProbeRunner.h"
+#include "support/HostileChild.h"
+#include "support/ProcessCensus.h"
+#include "support/Stopwatch.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+Execution executeInTime(const ProbeRunner::Launch &launch)
+{
+    const Stopwatch watch;
+    Execution execution = ProbeRunner::execute(launch);
+    EXPECT_LT(watch.seconds(), longestSeconds(launch));
+    return execution;
+}
+
+// For children that end by themselves: the time-out must not come first on a slow machine.
+ProbeRunner::Launch patientLaunch(std::vector<std::string> arguments)
+{
+    ProbeRunner::Launch launch = hostileLaunch(std::move(arguments));
+    launch.timeoutSeconds = 30;
+    return launch;
+}
+
+std::string startFailure(const ProbeRunner::Launch &launch)
+{
+    try {
+        (void)ProbeRunner::execute(launch);
+    } catch (const ProbeError &error) {
+        if (const auto *text = std::get_if<ProbeError::UnreadableOutput>(&error.value()))
+            return text->text;
+    }
+    return "no failure to start";
+}
+
+} // namespace
+
+TEST(ProbeExecutionTest, capturesNothingFromAChildThatExitsAtOnce)
+{
+    const Execution execution = executeInTime(patientLaunch({"print", "", "", "0"}));
+    EXPECT_EQ(execution, Execution{});
+}
+
+TEST(ProbeExecutionTest, capturesBothStreamsAndTheExitStatus)
+{
+    const Execution execution = executeInTime(patientLaunch({"print", "out é", "error", "3"}));
+    EXPECT_EQ(execution,
+              (Execution{.exitCode = 3, .standardOutput = "out é", .standardError = "error"}));
+}
+
+TEST(ProbeExecutionTest, capturesMoreThanAPipeHoldsWhileBothStreamsFlood)
+{
+    const Execution execution = executeInTime(patientLaunch({"flood", "3000000"}));
+    EXPECT_EQ(execution.standardOutput.size(), 3'000'000U);
+    EXPECT_EQ(execution.standardError.size(), 3'000'000U);
+    EXPECT_EQ(execution.exitCode, 0);
+}
+
+TEST(ProbeExecutionTest, keepsAStreamOfExactlyTheCaptureLimit)
+{
+    ProbeRunner::Launch launch = patientLaunch({"flood", "8388608"});
+    launch.captureLimit = 8'388'608;
+    const Execution execution = executeInTime(launch);
+    EXPECT_EQ(execution.standardOutput.size(), launch.captureLimit);
+    EXPECT_EQ(execution.standardError.size(), launch.captureLimit);
+}
+
+TEST(ProbeExecutionTest, drainsAStreamBeyondTheCaptureLimitAndTakesItForUndecodable)
+{
+    ProbeRunner::Launch launch = patientLaunch({"flood", "12000000"});
+    launch.captureLimit = 8'388'608;
+    EXPECT_EQ(executeInTime(launch), Execution{});
+}
+
+TEST(ProbeExecutionTest, decodesEachStreamByItself)
+{
+    const Execution execution = executeInTime(patientLaunch({"half"}));
+    EXPECT_EQ(execution.standardOutput, "");
+    EXPECT_EQ(execution.standardError, "whole €");
+}
+
+TEST(ProbeExecutionTest, stopsAChildAtTheTimeout)
+{
+    const Stopwatch watch;
+    const Execution execution = executeInTime(hostileLaunch({"close-output"}));
+    EXPECT_GE(watch.seconds(), 0.3);
+    EXPECT_TRUE(execution.timedOut);
+    EXPECT_TRUE(execution.terminationRequested);
+    EXPECT_FALSE(execution.readersTimedOut);
+    EXPECT_EQ(execution.exitCode, SIGTERM);
+}
+
+TEST(ProbeExecutionTest, keepsWhatAChildPrintedBeforeItClosedItsOutputAndLivedOn)
+{
+    EXPECT_EQ(executeInTime(hostileLaunch({"close-output"})).standardOutput, "last words");
+}
+
+TEST(ProbeExecutionTest, killsAChildThatIgnoresTheRequestAfterTheKillGrace)
+{
+    const Stopwatch watch;
+    const Execution execution = executeInTime(hostileLaunch({"ignore-term"}));
+    EXPECT_GE(watch.seconds(), 0.3 + 0.2);
+    EXPECT_TRUE(execution.timedOut);
+    EXPECT_EQ(execution.exitCode, SIGKILL);
+    EXPECT_EQ(execution.standardOutput, "ready\n");
+}
+
+TEST(ProbeExecutionTest, killsAChildThatStoppedItself)
+{
+    const Execution execution = executeInTime(hostileLaunch({"stop"}));
+    EXPECT_TRUE(execution.timedOut);
+    EXPECT_EQ(execution.exitCode, SIGKILL);
+}
+
+TEST(ProbeExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfterTheTimeout)
+{
+    ProbeRunner::Launch launch = hostileLaunch({"trap-term", "143"});
+    launch.killGraceSeconds = 5;
+    const Execution execution = executeInTime(launch);
+    EXPECT_FALSE(execution.timedOut);
+    EXPECT_TRUE(execution.terminationRequested);
+    EXPECT_EQ(execution.exitCode, 143);
+}
+
+TEST(ProbeExecutionTest, countsNoSignalAsTimeoutThatCameFromElsewhere)
+{
+    const TemporaryFolder folder;
+    ProbeRunner::Launch launch = patientLaunch({});
+    launch.cli = folder.writeScript("claude", "#!/bin/sh\nkill -TERM $$\n").string();
+    Execution expected;
+    expected.exitCode = SIGTERM;
+    EXPECT_EQ(executeInTime(launch), expected);
+}
+
+TEST(ProbeExecutionTest, stopsReadingWhenABackgroundProcessKeepsTheOutputOpen)
+{
+    const Stopwatch watch;
+    const Execution execution = executeInTime(patientLaunch({"grandchild", "5000"}));
+    EXPECT_GE(watch.seconds(), 0.2);
+    EXPECT_LT(watch.seconds(), 4.5);
+    EXPECT_TRUE(execution.readersTimedOut);
+    EXPECT_FALSE(execution.timedOut);
+    EXPECT_EQ(execution.exitCode, 0);
+    EXPECT_EQ(execution.standardOutput, "early\n");
+}
+
+TEST(ProbeExecutionTest, waitsForABackgroundProcessThatEndsWithinTheReaderGrace)
+{
+    ProbeRunner::Launch launch = patientLaunch({"grandchild", "50"});
+    launch.readerGraceSeconds = 20;
+    const Execution execution = executeInTime(launch);
+    EXPECT_FALSE(execution.readersTimedOut);
+    EXPECT_EQ(execution.standardOutput, "early\nlate\n");
+}
+
+TEST(ProbeExecutionTest, stopsReadingWhenADaemonKeepsTheOutputOpen)
+{
+    const Stopwatch watch;
+    const Execution execution = executeInTime(patientLaunch({"daemon", "5000"}));
+    EXPECT_LT(watch.seconds(), 4.5);
+    EXPECT_TRUE(execution.readersTimedOut);
+    EXPECT_EQ(execution.standardOutput, "gone\n");
+}
+
+TEST(ProbeExecutionTest, signalsNothingAfterANormalEnd)
+{
+    const TemporaryFolder folder;
+    const std::filesystem::path mark = folder.path() / "lived-on";
+    EXPECT_EQ(executeInTime(patientLaunch({"quiet-grandchild", "300", mark.string()})),
+              Execution{});
+    EXPECT_FALSE(std::filesystem::exists(mark));
+    EXPECT_TRUE(eventually([&] { return std::filesystem::exists(mark); }));
+}
+
+TEST(ProbeExecutionTest, sweepsTheGroupAfterATimeout)
+{
+    const TemporaryFolder folder;
+    const std::filesystem::path mark = folder.path() / "lived-on";
+    ProbeRunner::Launch launch = hostileLaunch({"quiet-grandchild", "1500", mark.string(), "stay"});
+    EXPECT_TRUE(executeInTime(launch).timedOut);
+    EXPECT_FALSE(
+        eventually([&] { return std::filesystem::exists(mark); }, std::chrono::milliseconds(1700)));
+}
+
+TEST(ProbeExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
+{
+    const TemporaryFolder folder;
+    ProbeRunner::Launch launch = hostileLaunch({});
+    const std::string inner = "'" + hostileChildPath() + "' ignore-term";
+    launch.cli = folder.writeScript("claude", "#!/bin/sh\n" + inner + "\necho never\n").string();
+    const ProcessCensus before = ProcessCensus::now();
+    const Execution execution = executeInTime(launch);
+    EXPECT_TRUE(execution.timedOut);
+    EXPECT_TRUE(execution.readersTimedOut);
+    EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
+}
+
+TEST(ProbeExecutionTest, saysWhatCouldNotBeStartedAndWhy)
+{
+    const TemporaryFolder folder;
+    ProbeRunner::Launch launch = hostileLaunch({});
+    launch.cli = "/nowhere/claude";
+    EXPECT_EQ(startFailure(launch), "Could not start /nowhere/claude: No such file or directory");
+    launch.cli = folder.write("cl\xFF", "text").string();
+    EXPECT_EQ(startFailure(launch),
+              "Could not start " + folder.path().string() + "/cl\xEF\xBF\xBD: Permission denied");
+}
+
+TEST(ProbeExecutionTest, saysSoWhenTheFolderIsGone)
+{
+    ProbeRunner::Launch launch = hostileLaunch({"describe"});
+    launch.repository = "/nowhere";
+    EXPECT_EQ(startFailure(launch),
+              "Could not start " + hostileChildPath() + ": No such file or directory");
+}
+
+TEST(ProbeExecutionTest, startsInAFolderWhoseNameIsNotUtf8)
+{
+    const TemporaryFolder folder;
+    ProbeRunner::Launch launch = patientLaunch({"print", "here", "", "0"});
+    launch.repository = folder.path() / "odd\xFF";
+    std::filesystem::create_directory(launch.repository);
+    EXPECT_EQ(executeInTime(launch).standardOutput, "here");
+}
+
+TEST(ProbeExecutionTest, startsNothingOnceTheProgramEnds)
+{
+    ProbeRunner::Launch launch = hostileLaunch({"close-output"});
+    launch.shutdown = std::make_shared<Shutdown>();
+    launch.shutdown->request();
+    EXPECT_EQ(startFailure(launch),
+              "Could not start " + hostileChildPath() + ": Operation canceled");
+}
+
+TEST(ProbeExecutionTest, givesEverythingBack)
+{
+    const ProcessCensus before = ProcessCensus::now();
+    for (const std::string verb : {"half", "close-output", "stop", "ignore-term"})
+        (void)executeInTime(hostileLaunch({verb}));
+    EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
+}
+
+} // namespace Loadwick

@@ -1,0 +1,132 @@
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "probe/PosixFileSystem.h"
+#include "probe/ProbeError.h"
+#include "probe/ProbeRunner.h"
+#include "support/Stopwatch.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+constexpr const char *complete = R"({"session_id":"abc","result":"","usage":{"input_tokens":5},)"
+                                 R"("num_turns":1})";
+constexpr const char *failed = R"({"session_id":"abc","result":"no","is_error":true})";
+
+// Keeps a stopped session's shell from dying of the signal, so that it exits by itself.
+constexpr const char *exitsWith143 = "trap 'exit 143' TERM\n"
+                                     "while :; do sleep 0.02; done\n";
+
+// A disk that never answers within the life of a test.
+class StuckFileSystem final : public FileSystem
+{
+public:
+    void list(const std::filesystem::path &, const Visitor &) const override
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(800));
+    }
+};
+
+struct Run
+{
+    std::string script;
+    double timeoutSeconds = 30;
+    std::shared_ptr<const FileSystem> fileSystem = std::make_shared<PosixFileSystem>();
+    double transcriptSearchSeconds = 30;
+    double transcriptRetryDelay = 0.01;
+    std::shared_ptr<Shutdown> shutdown = std::make_shared<Shutdown>();
+};
+
+std::optional<ProbeError> errorOf(const Run &run)
+{
+    const TemporaryFolder folder;
+    folder.writeScript(".local/bin/claude", "#!/bin/sh\n" + run.script);
+    ProbeRunner::Settings settings;
+    settings.home = folder.path().string();
+    settings.projectsRoot = folder.path() / "projects";
+    settings.environment = {{"PATH", "/usr/bin:/bin"}};
+    settings.workingDirectory = folder.path();
+    settings.lookup = {ClaudeCLILocator::isExecutableFile, [] { return std::nullopt; }};
+    settings.fileSystem = run.fileSystem;
+    settings.shutdown = run.shutdown;
+    settings.transcriptRetries = 2;
+    settings.transcriptRetryDelay = run.transcriptRetryDelay;
+    settings.transcriptSearchSeconds = run.transcriptSearchSeconds;
+    settings.timeoutSeconds = run.timeoutSeconds;
+    settings.killGraceSeconds = 10;
+    settings.readerGraceSeconds = 0.2;
+    try {
+        (void)ProbeRunner(settings).run(folder.path());
+    } catch (const ProbeError &error) {
+        return error;
+    }
+    return std::nullopt;
+}
+
+std::string printing(const char *text)
+{
+    return "echo '" + std::string(text) + "'\n";
+}
+
+} // namespace
+
+TEST(ProbeRunnerDeadlineTest, takesASessionKilledAtTheTimeoutForTimedOutWhateverItPrinted)
+{
+    for (const char *const text : {"{\"session_id\":", complete, failed})
+        EXPECT_EQ(errorOf({.script = printing(text) + "exec sleep 30\n", .timeoutSeconds = 0.3}),
+                  ProbeError::timedOut())
+            << text;
+}
+
+TEST(ProbeRunnerDeadlineTest, takesAStoppedSessionThatExitsByItselfForTimedOut)
+{
+    EXPECT_EQ(errorOf({.script = exitsWith143, .timeoutSeconds = 0.5}), ProbeError::timedOut());
+}
+
+TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedSessionThatExitsByItself)
+{
+    EXPECT_EQ(errorOf({.script = printing(complete) + exitsWith143, .timeoutSeconds = 0.5}),
+              std::nullopt);
+    EXPECT_EQ(errorOf({.script = printing(failed) + exitsWith143, .timeoutSeconds = 0.5}),
+              ProbeError::sessionFailed("no"));
+}
+
+TEST(ProbeRunnerDeadlineTest, takesPartialOutputOfAReaderThatHadToStopForTimedOut)
+{
+    EXPECT_EQ(errorOf({.script = "echo '{\"session_id\":'\nsleep 3 &\n"}), ProbeError::timedOut());
+}
+
+TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAReaderThatHadToStop)
+{
+    EXPECT_EQ(errorOf({.script = printing(complete) + "sleep 3 &\n"}), std::nullopt);
+}
+
+TEST(ProbeRunnerDeadlineTest, goesOnWithoutTranscriptWhenTheDiskDoesNotAnswer)
+{
+    const Stopwatch watch;
+    EXPECT_EQ(errorOf({.script = printing(complete),
+                       .fileSystem = std::make_shared<StuckFileSystem>(),
+                       .transcriptSearchSeconds = 0.05}),
+              std::nullopt);
+    EXPECT_GE(watch.seconds(), 0.05);
+    // The search goes on alone; it must be over before the program is, for the leak checker.
+    std::this_thread::sleep_for(std::chrono::milliseconds(1900));
+}
+
+TEST(ProbeRunnerDeadlineTest, endsItsTranscriptSearchWithTheProgram)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    std::thread quitting([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        shutdown->request();
+    });
+    const Stopwatch watch;
+    (void)errorOf({.script = printing(complete), .transcriptRetryDelay = 25, .shutdown = shutdown});
+    EXPECT_LT(watch.seconds(), 20);
+    quitting.join();
+}
+
+} // namespace Loadwick
