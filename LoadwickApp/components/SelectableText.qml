@@ -11,6 +11,8 @@ Item {
     property font font: AppTheme.bodyFont
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
     property int horizontalAlignment: TextEdit.AlignLeft
+    // A path is to be broken anywhere: it has no blanks, and its dots then follow its last letter.
+    property bool breaksAnywhere: false
     // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
     property int maximumLineCount: 0
     // The ground it stands on, for the dots that end a text cut short.

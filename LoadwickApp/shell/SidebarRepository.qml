@@ -32,6 +32,7 @@ ColumnLayout {
         font: AppTheme.captionFont
         secondary: true
         maximumLineCount: 2
+        breaksAnywhere: true
         ground: AppTheme.sidebar
         visible: repository.content.hasRepository
 
