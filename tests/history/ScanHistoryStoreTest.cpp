@@ -1,5 +1,6 @@
 #include "history/ScanHistoryStore.h"
 
+#include <atomic>
 #include <chrono>
 #include <string>
 #include <thread>
@@ -297,12 +298,17 @@ TEST(ScanHistoryStoreTest, outlastsAMomentWithoutFreeDescriptors)
     rlimit tight = before;
     tight.rlim_cur = static_cast<rlim_t>(next.number());
     next.reset();
-    // At this limit nothing can be opened any more, until the other thread lifts it.
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
-    std::thread relief([&before] {
+    // Started before the limit: under the sanitizers, starting a thread needs descriptors itself.
+    std::atomic<bool> isTight = false;
+    std::thread relief([&] {
+        isTight.wait(false);
         std::this_thread::sleep_for(std::chrono::microseconds(500));
         setrlimit(RLIMIT_NOFILE, &before);
     });
+    // At this limit nothing can be opened any more, until the other thread lifts it.
+    EXPECT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
+    isTight = true;
+    isTight.notify_one();
     const Scans loaded = store.load();
     relief.join();
     EXPECT_EQ(loaded.size(), 1U);

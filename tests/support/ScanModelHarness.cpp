@@ -8,6 +8,11 @@ ScanModelHarness::ScanModelHarness()
     std::filesystem::create_directory(m_folder.path() / "other");
 }
 
+ScanModelHarness::~ScanModelHarness()
+{
+    dispatcher->discardAll();
+}
+
 ScanModel::Collaborators ScanModelHarness::collaborators() const
 {
     ScanModel::Collaborators all = collaboratorsWithoutStore();

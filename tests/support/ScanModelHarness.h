@@ -20,6 +20,12 @@ public:
     /// With a history store in a folder of its own.
     ScanModelHarness();
 
+    /// Drops the stages that were not stepped through.
+    ~ScanModelHarness();
+
+    ScanModelHarness(const ScanModelHarness &) = delete;
+    ScanModelHarness &operator=(const ScanModelHarness &) = delete;
+
     /// The stages of a scan in which a test can interfere, and how many steps come before them.
     enum Stage
     {

@@ -58,4 +58,10 @@ void SteppingDispatcher::runAll()
     }
 }
 
+void SteppingDispatcher::discardAll()
+{
+    m_background.clear();
+    m_posted.clear();
+}
+
 } // namespace Loadwick

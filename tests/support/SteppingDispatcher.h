@@ -31,6 +31,10 @@ public:
     /// Steps until nothing is left.
     void runAll();
 
+    /// Ends the life of all tasks unrun. Tasks own this dispatcher, so one that is left in it keeps
+    /// both alive for ever.
+    void discardAll();
+
 private:
     std::deque<Task> m_background;
     std::deque<Task> m_posted;

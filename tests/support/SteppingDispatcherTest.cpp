@@ -51,6 +51,17 @@ TEST(SteppingDispatcherTest, endsTheLifeOfATaskThatHasRun)
     EXPECT_EQ(witness.use_count(), 1);
 }
 
+TEST(SteppingDispatcherTest, discardsTasksUnrun)
+{
+    SteppingDispatcher dispatcher;
+    const auto witness = std::make_shared<int>(0);
+    dispatcher.runInBackground([witness] { ++*witness; });
+    dispatcher.postToInterface([witness] { ++*witness; });
+    dispatcher.discardAll();
+    EXPECT_EQ(witness.use_count(), 1);
+    EXPECT_EQ(*witness, 0);
+}
+
 TEST(SteppingDispatcherTest, refusesBackgroundTasksWhenTold)
 {
     SteppingDispatcher dispatcher;
