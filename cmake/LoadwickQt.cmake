@@ -10,3 +10,12 @@ function(loadwick_qt_strictness target)
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                                  QT_NO_KEYWORDS)
 endfunction()
+
+# A newly globbed file does not by itself make CMake 3.25 run moc again; a list that changes with the
+# files does.
+function(loadwick_moc_follows target)
+    set(list "${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt")
+    list(JOIN ARGN "\n" names)
+    file(CONFIGURE OUTPUT "${list}" CONTENT "${names}\n")
+    set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS "${list}")
+endfunction()
