@@ -1,13 +1,12 @@
 #include "history/ScanHistoryStore.h"
 
-#include <atomic>
-#include <chrono>
+#include <csignal>
 #include <string>
-#include <thread>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include "history/ScanHistoryFile.h"
@@ -42,6 +41,13 @@ Scans scansAt(std::int64_t first, std::int64_t count)
     for (std::int64_t second = first; second < first + count; ++second)
         scans.push_back(scanAt(second));
     return scans;
+}
+
+rlimit generousLimit = {};
+
+void liftLimit(int)
+{
+    setrlimit(RLIMIT_NOFILE, &generousLimit);
 }
 
 Scans recordedIn(const fs::path &path)
@@ -292,25 +298,21 @@ TEST(ScanHistoryStoreTest, outlastsAMomentWithoutFreeDescriptors)
     const TemporaryFolder folder;
     ScanHistoryStore store(folder.path());
     static_cast<void>(store.append(scanAt(1)));
-    rlimit before = {};
-    getrlimit(RLIMIT_NOFILE, &before);
-    FileDescriptor next(dup(0));
-    rlimit tight = before;
-    tight.rlim_cur = static_cast<rlim_t>(next.number());
-    next.reset();
-    // Started before the limit: under the sanitizers, starting a thread needs descriptors itself.
-    std::atomic<bool> isTight = false;
-    std::thread relief([&] {
-        isTight.wait(false);
-        std::this_thread::sleep_for(std::chrono::microseconds(500));
-        setrlimit(RLIMIT_NOFILE, &before);
-    });
-    // At this limit nothing can be opened any more, until the other thread lifts it.
-    EXPECT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
-    isTight = true;
-    isTight.notify_one();
+    getrlimit(RLIMIT_NOFILE, &generousLimit);
+    // At a limit of the next free number nothing can be opened any more.
+    rlimit tight = generousLimit;
+    tight.rlim_cur = static_cast<rlim_t>(FileDescriptor(dup(0)).number());
+    // A timer's signal lifts it in the first pause: unlike a thread, it comes in time on a busy
+    // machine too.
+    const auto before = std::signal(SIGALRM, liftLimit);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
+    const itimerval soon = {.it_interval = {}, .it_value = {.tv_sec = 0, .tv_usec = 500}};
+    setitimer(ITIMER_REAL, &soon, nullptr);
     const Scans loaded = store.load();
-    relief.join();
+    liftLimit(SIGALRM);
+    const itimerval never = {};
+    setitimer(ITIMER_REAL, &never, nullptr);
+    std::signal(SIGALRM, before);
     EXPECT_EQ(loaded.size(), 1U);
 }
 

@@ -355,7 +355,7 @@ TEST_F(ScanModelTest, recordsAScanAfterTheHistoryWasForgottenMeanwhile)
 
 TEST_F(ScanModelTest, endsTheProgramWithoutACollaborator)
 {
-    EXPECT_DEATH(ScanModel(ScanModel::Collaborators()), "lacks a collaborator");
+    EXPECT_DEATH(ScanModel{ScanModel::Collaborators{}}, "lacks a collaborator");
 }
 
 } // namespace Loadwick
