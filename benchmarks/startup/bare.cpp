@@ -1,0 +1,28 @@
+#include "FirstFrame.h"
+
+#include <memory>
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+
+#include "shell/ApplicationSetup.h"
+
+int main(int argc, char **argv)
+{
+    Loadwick::ApplicationSetup::prepare();
+    QGuiApplication application(argc, argv);
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\nimport QtQuick.Controls\n"
+                      "ApplicationWindow { width: 1180; height: 780; visible: true\n"
+                      "Label { anchors.centerIn: parent; text: \"Hello\" } }",
+                      QUrl());
+    const std::unique_ptr<QObject> root(component.create());
+    auto *const window = qobject_cast<QQuickWindow *>(root.get());
+    if (window == nullptr)
+        return 1;
+    Loadwick::reportFirstFrame(*window);
+    return QGuiApplication::exec();
+}
