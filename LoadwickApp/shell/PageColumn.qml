@@ -16,6 +16,11 @@ PageAppear {
         contentWidth: availableWidth
         contentHeight: column.implicitHeight + 2 * AppTheme.pageMargin
         ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
+        ScrollBar.vertical: ThinScrollBar {
+            parent: scroller
+            x: scroller.width - width
+            height: scroller.height
+        }
 
         ColumnLayout {
             id: column

@@ -11,14 +11,23 @@
 namespace Loadwick {
 
 /// A scan model over fakes, with an empty folder to scan. Its scans go on when a test says so.
-struct ScanningModel
+class ScanningModel
 {
+    /// What a scan left waiting holds the dispatcher that holds it: at the end, it is let run.
+    struct Rest
+    {
+        std::shared_ptr<SteppingDispatcher> dispatcher;
+        ~Rest() { dispatcher->runAll(); }
+    };
+
+public:
     ScanningModel();
 
     std::shared_ptr<FakeProbe> probe = std::make_shared<FakeProbe>();
     std::shared_ptr<FakeInstructionScanner> scanner = std::make_shared<FakeInstructionScanner>();
     std::shared_ptr<SteppingDispatcher> dispatcher = std::make_shared<SteppingDispatcher>();
     TemporaryFolder folder;
+    Rest rest{dispatcher}; ///< goes after the model, which then hears of nothing
     ScanModel model;
 
     void choose();

@@ -41,6 +41,13 @@ WindowUnderTest::WindowUnderTest()
         qFatal("The window does not become active.");
 }
 
+// What a scan left waiting holds the dispatcher that holds it.
+WindowUnderTest::~WindowUnderTest()
+{
+    destroy();
+    m_dispatcher->runAll();
+}
+
 void WindowUnderTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(&m_loadwick->window(), key, modifiers);

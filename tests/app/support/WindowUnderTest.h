@@ -20,6 +20,10 @@ class WindowUnderTest
 {
 public:
     WindowUnderTest();
+    ~WindowUnderTest();
+
+    WindowUnderTest(const WindowUnderTest &) = delete;
+    WindowUnderTest &operator=(const WindowUnderTest &) = delete;
 
     [[nodiscard]] LoadwickWindow &loadwick() noexcept { return *m_loadwick; }
     [[nodiscard]] FakeProbe &probe() noexcept { return *m_probe; }
