@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "support/TestRegistry.h"
-#include "support/WindowUnderTest.h"
+#include "support/WindowFixture.h"
 
 namespace Loadwick {
 
@@ -16,7 +16,7 @@ class LoadwickWindowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_window = std::make_unique<WindowUnderTest>(); }
+    void init() { m_window = std::make_unique<WindowFixture>(); }
     void cleanup() { m_window.reset(); }
 
     void hasItsTitleAndSizes()
@@ -198,7 +198,7 @@ private:
         button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
 
-    std::unique_ptr<WindowUnderTest> m_window;
+    std::unique_ptr<WindowFixture> m_window;
 };
 
 const RegisteredTest<LoadwickWindowTest> registered("LoadwickWindow");

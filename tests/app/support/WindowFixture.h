@@ -16,14 +16,14 @@ class QAccessibleInterface;
 namespace Loadwick {
 
 /// The real window over fakes, shown and ready for keys. Its scans go on when a test says so.
-class WindowUnderTest
+class WindowFixture
 {
 public:
-    WindowUnderTest();
-    ~WindowUnderTest();
+    WindowFixture();
+    ~WindowFixture();
 
-    WindowUnderTest(const WindowUnderTest &) = delete;
-    WindowUnderTest &operator=(const WindowUnderTest &) = delete;
+    WindowFixture(const WindowFixture &) = delete;
+    WindowFixture &operator=(const WindowFixture &) = delete;
 
     [[nodiscard]] LoadwickWindow &loadwick() noexcept { return *m_loadwick; }
     [[nodiscard]] FakeProbe &probe() noexcept { return *m_probe; }

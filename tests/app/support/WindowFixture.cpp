@@ -1,4 +1,4 @@
-#include "support/WindowUnderTest.h"
+#include "support/WindowFixture.h"
 
 #include <utility>
 
@@ -24,7 +24,7 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
 
 } // namespace
 
-WindowUnderTest::WindowUnderTest()
+WindowFixture::WindowFixture()
 {
     auto chooser = std::make_unique<FakeFolderChooser>();
     m_chooser = chooser.get();
@@ -42,29 +42,29 @@ WindowUnderTest::WindowUnderTest()
 }
 
 // What a scan left waiting holds the dispatcher that holds it.
-WindowUnderTest::~WindowUnderTest()
+WindowFixture::~WindowFixture()
 {
     destroy();
     m_dispatcher->runAll();
 }
 
-void WindowUnderTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+void WindowFixture::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(&m_loadwick->window(), key, modifiers);
 }
 
-void WindowUnderTest::choose(const std::filesystem::path &folder)
+void WindowFixture::choose(const std::filesystem::path &folder)
 {
     m_chooser->answer = folder;
     press(Qt::Key_O, Qt::ControlModifier);
 }
 
-QAccessibleInterface *WindowUnderTest::find(const QString &name) const
+QAccessibleInterface *WindowFixture::find(const QString &name) const
 {
     return findBelow(QAccessible::queryAccessibleInterface(&m_loadwick->window()), name);
 }
 
-bool WindowUnderTest::isPressable(const QString &name) const
+bool WindowFixture::isPressable(const QString &name) const
 {
     QAccessibleInterface *found = find(name);
     return found != nullptr && !found->state().disabled;
