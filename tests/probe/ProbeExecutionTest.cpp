@@ -186,7 +186,7 @@ TEST(ProbeExecutionTest, sweepsTheGroupAfterATimeout)
     ProbeRunner::Launch launch = hostileLaunch({"quiet-grandchild", "1500", mark.string(), "stay"});
     EXPECT_TRUE(executeInTime(launch).timedOut);
     EXPECT_FALSE(
-        eventually([&] { return std::filesystem::exists(mark); }, std::chrono::milliseconds(1700)));
+        eventually([&] { return std::filesystem::exists(mark); }, std::chrono::milliseconds(1200)));
 }
 
 TEST(ProbeExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
