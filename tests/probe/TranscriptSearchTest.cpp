@@ -43,6 +43,11 @@ TranscriptSearch searchIn(const TemporaryFolder &folder, int attempts, double de
         attempts,  delaySeconds};
 }
 
+TranscriptSearch searchIn(const TemporaryFolder &folder, int attempts, double delaySeconds)
+{
+    return searchUnder(folder.path(), attempts, delaySeconds);
+}
+
 int attemptsMade(int attempts)
 {
     const TemporaryFolder folder;
@@ -118,11 +123,11 @@ TEST(TranscriptSearchTest, endsBetweenTwoAttemptsWhenTheProgramDoes)
 TEST(TranscriptSearchTest, endsTheProgramOnADelayThatIsNoDuration)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const TemporaryFolder folder;
-    EXPECT_DEATH((void)searchIn(folder, 2, -0.1).run(), "is no duration");
-    EXPECT_DEATH((void)searchIn(folder, 2, std::nan("")).run(), "is no duration");
+    // No folder of its own: a program that dies leaves it behind.
+    EXPECT_DEATH((void)searchUnder("/nowhere", 2, -0.1).run(), "is no duration");
+    EXPECT_DEATH((void)searchUnder("/nowhere", 2, std::nan("")).run(), "is no duration");
     const double infinity = std::numeric_limits<double>::infinity();
-    EXPECT_DEATH((void)searchIn(folder, 2, infinity).run(), "is no duration");
+    EXPECT_DEATH((void)searchUnder("/nowhere", 2, infinity).run(), "is no duration");
 }
 
 } // namespace Loadwick
