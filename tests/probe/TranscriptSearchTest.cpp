@@ -36,10 +36,10 @@ private:
     std::function<void()> m_listing;
 };
 
-TranscriptSearch searchIn(const TemporaryFolder &folder, int attempts, double delaySeconds)
+TranscriptSearch searchUnder(const std::filesystem::path &root, int attempts, double delaySeconds)
 {
     return {
-        "session", folder.path(), std::make_shared<PosixFileSystem>(), std::make_shared<Shutdown>(),
+        "session", root,        std::make_shared<PosixFileSystem>(), std::make_shared<Shutdown>(),
         attempts,  delaySeconds};
 }
 
