@@ -1,0 +1,24 @@
+#include "demo/window/ConfinedWindow.h"
+
+#include <utility>
+
+#include "history/ScanHistoryStore.h"
+#include "report/InstructionFileScanner.h"
+
+namespace Loadwick::ConfinedWindow {
+
+LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home,
+                                            ProbeRunner::Settings settings)
+{
+    const Environment environment = settings.environment;
+    return {
+        .probeRunner = std::make_shared<ProbeRunner>(std::move(settings)),
+        .instructionScanner = std::make_shared<InstructionFileScanner>(
+            InstructionFileScanner::Settings{.home = home.string()}),
+        .historyStore =
+            std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
+        .locale = TextLocale::fromEnvironment(environment),
+    };
+}
+
+} // namespace Loadwick::ConfinedWindow
