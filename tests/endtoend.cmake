@@ -1,0 +1,24 @@
+# Tests that drive a real window from another process: tests/endtoend/<what>_test.py, each with an X
+# server and a session bus of its own. CTest "endtoend/<what>", labelled "endtoend" and "app".
+# The system's own interpreter: the accessibility bindings are packages of that one.
+find_program(LOADWICK_SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
+
+function(loadwick_endtoend_program name source)
+    qt_add_executable(${name} "endtoend/${source}")
+    loadwick_warnings(${name})
+    loadwick_qt_strictness(${name})
+    target_link_libraries(${name} PRIVATE ${ARGN})
+endfunction()
+
+loadwick_endtoend_program(loadwick-endtoend main.cpp LoadwickDemoWindow)
+loadwick_endtoend_program(loadwick-clipboard clipboard.cpp Qt6::Gui)
+
+file(GLOB scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/endtoend"
+                                    "${CMAKE_CURRENT_SOURCE_DIR}/endtoend/*_test.py")
+foreach(script IN LISTS scripts)
+    string(REGEX REPLACE "_test\\.py$" "" what "${script}")
+    loadwick_test("endtoend/${what}" "endtoend;app"
+                  "${LOADWICK_SYSTEM_PYTHON}" -B
+                  "${CMAKE_CURRENT_SOURCE_DIR}/endtoend/${script}"
+                  "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+endforeach()

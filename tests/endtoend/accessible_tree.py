@@ -1,0 +1,154 @@
+"""A window as assistive technology sees and presses it, from another process."""
+
+from __future__ import annotations
+
+import subprocess
+from typing import Any, Callable, Iterator, Optional, TypeVar
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+from processes import is_running  # noqa: E402
+from waiting import LIMIT_SECONDS, WaitedInVain, until  # noqa: E402
+
+Found = TypeVar("Found")
+
+
+def unless_gone(look: Callable[[], Found], otherwise: Found) -> Found:
+    """What `look` gives, or `otherwise` when the object has left the tree meanwhile."""
+    try:
+        return look()
+    except GLib.Error:
+        return otherwise
+
+
+class AccessibleTree:
+    """What a running program, known by its process id, offers on the accessibility bus."""
+
+    def __init__(self, process: int) -> None:
+        self._process = process
+        self._root = self._until("the program's accessible tree", self._find_root)
+
+    def _until(self, what: str, look: Callable[[], Optional[Found]]) -> Found:
+        """`until` that ends early with the program and tells what the window showed instead."""
+
+        def look_while_running() -> Optional[Found]:
+            if not is_running(self._process):
+                raise WaitedInVain(f"the program ended while {what} was waited for")
+            return unless_gone(look, None)
+
+        try:
+            return until(what, look_while_running)
+        except WaitedInVain as failure:
+            raise WaitedInVain(f"{failure}\n{self._outline()}") from None
+
+    def _outline(self) -> str:
+        if not hasattr(self, "_root"):
+            return "  (nothing)"
+        return "\n".join(
+            f"  [{unless_gone(item.get_role_name, '?')}] {unless_gone(lambda: text_of(item), '')!r}"
+            for item in self.items()
+        )
+
+    def _find_root(self) -> Optional[Any]:
+        desktop = Atspi.get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            child = desktop.get_child_at_index(index)
+            if child is None or child.get_process_id() != self._process:
+                continue
+            if child.get_child_count() > 0:
+                return child
+        return None
+
+    def _below(self, item: Any) -> Iterator[Any]:
+        yield item
+        for index in range(unless_gone(item.get_child_count, 0)):
+            child = unless_gone(lambda: item.get_child_at_index(index), None)
+            if child is not None:
+                yield from self._below(child)
+
+    def items(self) -> Iterator[Any]:
+        """All accessible objects that show, in tree order, as they are now."""
+        self._root.clear_cache()
+        for item in self._below(self._root):
+            if unless_gone(lambda: is_showing(item), False):
+                yield item
+
+    def find(self, name: str, role: str = "") -> Optional[Any]:
+        """The first object that shows with this name and, if given, this role."""
+        for item in self.items():
+            if unless_gone(lambda: text_of(item) == name or item.get_name() == name, False):
+                if not role or unless_gone(item.get_role_name, "") == role:
+                    return item
+        return None
+
+    def wait_for(self, name: str, role: str = "") -> Any:
+        """The object of this name, once it shows."""
+        return self._until(
+            f"{role or 'something'} that says {name!r}", lambda: self.find(name, role)
+        )
+
+    def wait_until_gone(self, name: str) -> None:
+        """Returns once nothing that shows has this name."""
+        self._until(f"the end of {name!r}", lambda: self.find(name) is None)
+
+    def texts(self) -> list[str]:
+        """The words of everything that shows."""
+        return [unless_gone(lambda: text_of(item), "") for item in self.items()]
+
+    def press(self, name: str) -> None:
+        """Presses the button of this name, once it can be pressed."""
+        button = self._until(f"the button {name!r} that can be pressed", lambda: self._pressable(name))
+        if not Atspi.Action.do_action(button, press_index(button)):
+            raise AssertionError(f"the button {name!r} refused to be pressed")
+
+    def _pressable(self, name: str) -> Optional[Any]:
+        button = self.find(name, "push button")
+        return button if button and is_enabled(button) and press_index(button) >= 0 else None
+
+    def is_enabled(self, name: str) -> bool:
+        """Whether the button of this name can be pressed."""
+        return is_enabled(self.wait_for(name, "push button"))
+
+    def key(self, keys: str) -> None:
+        """Types real keys, such as "ctrl+o", into the program's window, once that is active."""
+        self._until("the active window", self._is_active)
+        subprocess.run(["xdotool", "key", keys], check=True, timeout=LIMIT_SECONDS)
+
+    def _is_active(self) -> bool:
+        active = Atspi.StateType.ACTIVE
+        return any(
+            unless_gone(lambda: item.get_state_set().contains(active), False)
+            for item in self.items()
+            if unless_gone(item.get_role_name, "") in ("frame", "window")
+        )
+
+
+def is_showing(item: Any) -> bool:
+    """Whether the object is on the screen."""
+    states = item.get_state_set()
+    return states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)
+
+
+def is_enabled(item: Any) -> bool:
+    """Whether the object reacts to the user."""
+    return unless_gone(lambda: item.get_state_set().contains(Atspi.StateType.ENABLED), False)
+
+
+def press_index(item: Any) -> int:
+    """The place of the action "Press" among the object's actions; -1 when it has none."""
+    for index in range(unless_gone(lambda: Atspi.Action.get_n_actions(item), 0)):
+        if Atspi.Action.get_action_name(item, index).lower() == "press":
+            return index
+    return -1
+
+
+def text_of(item: Any) -> str:
+    """The object's whole text when it has one, else its name."""
+    if "Text" in item.get_interfaces():
+        text = Atspi.Text.get_text(item, 0, Atspi.Text.get_character_count(item))
+        if text:
+            return str(text).replace("\N{PARAGRAPH SEPARATOR}", "\n")  # the toolkit's line end
+    return str(item.get_name() or "")

@@ -1,0 +1,69 @@
+"""An X server for the tests alone."""
+
+from __future__ import annotations
+
+import os
+import subprocess
+
+from processes import end_with_parent
+from waiting import LIMIT_SECONDS, WaitedInVain, until
+
+
+class Display:
+    """An X server of one's own with a window manager, so that windows become active."""
+
+    def __init__(self) -> None:
+        self._processes: list[subprocess.Popen[bytes]] = []
+
+    def __enter__(self) -> "Display":
+        try:
+            os.environ["DISPLAY"] = self._start_server()
+            os.environ.pop("WAYLAND_DISPLAY", None)
+            self._start_window_manager()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_: object) -> None:
+        for process in reversed(self._processes):
+            process.terminate()
+            process.wait(LIMIT_SECONDS)
+
+    def _start(self, command: list[str], descriptors: tuple[int, ...] = ()) -> None:
+        nobody = {"HOME": "/nonexistent", "XDG_CONFIG_HOME": "/nonexistent"}
+        self._processes.append(
+            subprocess.Popen(
+                command,
+                env=os.environ | nobody,
+                pass_fds=descriptors,
+                preexec_fn=end_with_parent,
+                stdout=subprocess.DEVNULL,
+                stderr=subprocess.DEVNULL,
+            )
+        )
+
+    def _start_server(self) -> str:
+        reader, writer = os.pipe()
+        # Without -noreset the server starts anew, and drops whoever is just coming, each time when
+        # its last client goes.
+        screen = ["-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"]
+        self._start(["Xvfb", "-displayfd", str(writer), *screen], (writer,))
+        os.close(writer)
+        with os.fdopen(reader) as answers:
+            number = answers.readline().strip()
+        if not number:
+            raise WaitedInVain("Xvfb ended before it was ready")
+        return f":{number}"
+
+    def _start_window_manager(self) -> None:
+        self._start(["openbox"])
+        until("the window manager", self._has_window_manager)
+
+    def _has_window_manager(self) -> bool:
+        if self._processes[-1].poll() is not None:
+            raise WaitedInVain("openbox ended before it was ready")
+        answer = subprocess.run(
+            ["xdotool", "get_num_desktops"], capture_output=True, check=False
+        )
+        return answer.returncode == 0

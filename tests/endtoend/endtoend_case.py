@@ -1,0 +1,65 @@
+"""What the end-to-end tests share: one display per script, one home and one program per test."""
+
+from __future__ import annotations
+
+import os
+import sys
+import unittest
+from pathlib import Path
+
+from display import Display
+from own_session import run_again_in_own_session
+from program import Program, environment_for
+from throw_away_home import ThrowAwayHome
+from waiting import until
+
+CHOOSE = "Choose Repository…"
+SCAN = "Scan Again"  # as soon as any repository is chosen
+
+
+def programs() -> Path:
+    """The folder that holds the built programs: the script's first argument."""
+    return Path(os.environ["LOADWICK_PROGRAMS"])
+
+
+class EndToEndCase(unittest.TestCase):
+    """A test with a throw-away home and the means to open the window on it."""
+
+    maxDiff = None
+    display: Display
+
+    @classmethod
+    def setUpClass(cls) -> None:
+        cls.display = Display()
+        cls.display.__enter__()
+        cls.addClassCleanup(cls.display.__exit__)
+
+    def setUp(self) -> None:
+        self.home = self.enterContext(ThrowAwayHome())
+
+    def open(self, *options: str) -> Program:
+        """Opens the window; it is closed at the end of the test."""
+        command = [str(programs() / "loadwick-endtoend"), *options]
+        program = Program(command, environment_for(self.home.path))
+        self.addCleanup(program.kill)
+        program.window.wait_for(CHOOSE, "push button")
+        return program
+
+    def choose(self, program: Program, folder: bytes) -> None:
+        """Chooses a folder and waits until the window has taken it."""
+        self.home.will_choose(folder)
+        program.window.press(CHOOSE)
+        program.window.wait_for(SCAN, "push button")
+
+    def wait_for_session(self, count: int = 1) -> int:
+        """The process id of the session last started, once there are `count`."""
+        until(f"session number {count}", lambda: len(self.home.runs()) >= count)
+        return self.home.runs()[-1]
+
+
+def main() -> None:
+    """Runs the tests of the calling script; the first failure does not stop the others."""
+    run_again_in_own_session()
+    if len(sys.argv) > 1 and not sys.argv[1].startswith("-"):
+        os.environ["LOADWICK_PROGRAMS"] = sys.argv.pop(1)
+    unittest.main(verbosity=2, warnings="ignore")  # libatspi marks its own getters

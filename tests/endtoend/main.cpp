@@ -1,0 +1,82 @@
+// The program's window over the home that HOME names, for the end-to-end tests: the stand-in for
+// `claude` is the only command it can start, its waits are short, and the folder dialog's twin
+// answers with the bytes of the file "folder-to-choose" in that home.
+//   --platform-dialog   the real folder dialog instead of its twin
+//   --timeout SECONDS   how long a session may take (default 60)
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "demo/Confinement.h"
+#include "demo/window/ConfinedWindow.h"
+#include "demo/window/GivenFolderChooser.h"
+#include "shell/LoadwickApp.h"
+
+namespace {
+
+using namespace Loadwick;
+
+struct Options
+{
+    bool usesPlatformDialog = false;
+    double timeoutSeconds = 60.0;
+};
+
+Options parsed(int argc, char **argv)
+{
+    Options options;
+    for (int index = 1; index < argc; ++index) {
+        const std::string_view argument = argv[index];
+        if (argument == "--platform-dialog")
+            options.usesPlatformDialog = true;
+        else if (argument == "--timeout" && index + 1 < argc)
+            options.timeoutSeconds = std::atof(argv[++index]);
+    }
+    return options;
+}
+
+std::filesystem::path folderToChoose(const std::filesystem::path &home)
+{
+    std::ifstream file(home / "folder-to-choose", std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+ProbeRunner::Settings runnerSettings(const std::filesystem::path &home, const Options &options,
+                                     std::shared_ptr<Shutdown> shutdown)
+{
+    ProbeRunner::Settings settings = Confinement::runnerSettings(home, std::move(shutdown));
+    settings.timeoutSeconds = options.timeoutSeconds;
+    settings.killGraceSeconds = 0.2;
+    settings.readerGraceSeconds = 0.5;
+    settings.transcriptRetries = 2;
+    settings.transcriptRetryDelay = 0.05;
+    return settings;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const char *home = std::getenv("HOME");
+    if (home == nullptr || !std::filesystem::exists(std::filesystem::path(home) / "throw-away")) {
+        std::cerr << "HOME is no throw-away home\n";
+        return 2;
+    }
+    Confinement::pinEnvironment(home);
+    const std::filesystem::path folder = home;
+    const Options options = parsed(argc, argv);
+    LoadwickApp::run(argc, argv, [&](std::shared_ptr<Shutdown> shutdown) {
+        auto made = ConfinedWindow::collaborators(
+            folder, runnerSettings(folder, options, std::move(shutdown)));
+        if (!options.usesPlatformDialog)
+            made.folderChooser =
+                std::make_unique<GivenFolderChooser>([folder] { return folderToChoose(folder); });
+        return made;
+    });
+}

@@ -1,0 +1,29 @@
+"""What the system says about processes, and how they are tied together."""
+
+from __future__ import annotations
+
+import ctypes
+import signal
+from pathlib import Path
+
+SET_PARENT_DEATH_SIGNAL = 1  # of prctl
+
+
+def end_with_parent() -> None:
+    """From now on this process is killed when its parent ends, however that comes about."""
+    ctypes.CDLL(None).prctl(SET_PARENT_DEATH_SIGNAL, signal.SIGKILL)
+
+
+def is_running(process: int) -> bool:
+    """Whether a process of this id still does something (one that only waits to be reaped not)."""
+    try:
+        status = Path(f"/proc/{process}/stat").read_text(encoding="ascii", errors="replace")
+    except (FileNotFoundError, ProcessLookupError):
+        return False
+    return status.rpartition(")")[2].split()[0] not in "ZX"
+
+
+def child_of(process: int) -> int:
+    """The process id of a process's first child; 0 while it has none."""
+    children = Path(f"/proc/{process}/task/{process}/children").read_text().split()
+    return int(children[0]) if children else 0

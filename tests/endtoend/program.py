@@ -1,0 +1,60 @@
+"""Starting and ending a program under test."""
+
+from __future__ import annotations
+
+import os
+import signal
+import subprocess
+import time
+from pathlib import Path
+
+from accessible_tree import AccessibleTree
+from processes import end_with_parent
+from waiting import LIMIT_SECONDS
+
+
+class Program:
+    """A started program and its window."""
+
+    def __init__(self, command: list[str], environment: dict[str, str]) -> None:
+        self.process = subprocess.Popen(
+            command, env=environment, preexec_fn=end_with_parent
+        )
+        try:
+            self.window = AccessibleTree(self.process.pid)
+        except BaseException:
+            self.kill()
+            raise
+
+    def kill(self) -> None:
+        """Ends the program without asking it, if it still runs."""
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait(LIMIT_SECONDS)
+
+    def close(self) -> int:
+        """Closes the window as the user does; gives the exit status."""
+        self.window.key("alt+F4")
+        return self.process.wait(LIMIT_SECONDS)
+
+    def ask_to_end(self) -> float:
+        """Sends SIGTERM; gives the seconds until the program was gone."""
+        start = time.monotonic()
+        self.process.send_signal(signal.SIGTERM)
+        self.process.wait(LIMIT_SECONDS)
+        return time.monotonic() - start
+
+
+def environment_for(home: Path) -> dict[str, str]:
+    """The environment of a program under test: its own home, fixed locale, accessibility on."""
+    dropped = ("XDG_", "QT_", "CLAUDE", "ANTHROPIC", "LC_", "LANG")
+    kept = {key: value for key, value in os.environ.items() if not key.startswith(dropped)}
+    return kept | {
+        "HOME": str(home),
+        "XDG_RUNTIME_DIR": str(home / ".runtime"),
+        "LC_ALL": "C.UTF-8",
+        "TZ": "UTC",
+        "QT_QPA_PLATFORM": "xcb",
+        "QT_QUICK_BACKEND": "software",
+        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+    }
