@@ -33,6 +33,7 @@ function(loadwick_qt_tests)
     loadwick_moc_follows(app_tests ${sources})
     file(GLOB tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/app"
                                       "${CMAKE_CURRENT_SOURCE_DIR}/app/*/*Test.cpp")
+    list(FILTER tests EXCLUDE REGEX "^support/")
     foreach(test IN LISTS tests)
         string(REGEX REPLACE "Test\\.cpp$" "" test "${test}")
         get_filename_component(type "${test}" NAME)

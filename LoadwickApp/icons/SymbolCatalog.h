@@ -3,10 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-namespace Loadwick {
-
 /// The one place that knows which drawing stands for which name.
-namespace SymbolCatalog {
+namespace Loadwick::SymbolCatalog {
 
 /// The drawing of a system image name ("folder.fill") or of one of our own role names
 /// ("repository"), as a path into the resources; empty for a name without a drawing.
@@ -18,5 +16,4 @@ namespace SymbolCatalog {
 /// All role names, in alphabetical order.
 [[nodiscard]] QStringList roles();
 
-} // namespace SymbolCatalog
-} // namespace Loadwick
+} // namespace Loadwick::SymbolCatalog

@@ -3,11 +3,9 @@
 class QGuiApplication;
 class QQmlEngine;
 
-namespace Loadwick {
-
 /// What every program that shows our QML sets up in the same way: the window, the gallery, the
 /// tests and the makers of pictures. Without it a program would run with another style and font.
-namespace ApplicationStyle {
+namespace Loadwick::ApplicationStyle {
 
 /// Chooses the control style, the text renderer and, on machines without a graphics device, the
 /// software renderer. To be called before the first window.
@@ -20,5 +18,4 @@ void applyFont(QGuiApplication &application);
 /// Lets the engine find the module that is compiled into the program.
 void addModulePath(QQmlEngine &engine);
 
-} // namespace ApplicationStyle
-} // namespace Loadwick
+} // namespace Loadwick::ApplicationStyle

@@ -7,7 +7,7 @@ namespace Loadwick {
 
 namespace {
 
-constexpr std::size_t smallestBlock = 64 * 1024;
+constexpr std::size_t smallestBlock = std::size_t{64} * 1024;
 
 } // namespace
 

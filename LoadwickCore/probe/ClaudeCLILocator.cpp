@@ -14,8 +14,8 @@ namespace Loadwick::ClaudeCLILocator {
 
 namespace {
 
-constexpr std::size_t answerLimit = 64 * 1024; ///< bytes
-constexpr double answerGraceSeconds = 1.0;     ///< for the answer, after the shell's end
+constexpr std::size_t answerLimit = std::size_t{64} * 1024; ///< bytes
+constexpr double answerGraceSeconds = 1.0; ///< for the answer, after the shell's end
 
 std::optional<ChildSupervision::Outcome> askShell(const std::string &shell, double timeoutSeconds,
                                                   const std::shared_ptr<Shutdown> &shutdown)
@@ -45,8 +45,8 @@ std::vector<std::string> candidates(const std::optional<std::string> &cliOverrid
     if (cliOverride && !trimmedBlanks(*cliOverride).empty())
         paths.push_back(*cliOverride);
     paths.push_back(home + "/.local/bin/claude");
-    paths.push_back("/opt/homebrew/bin/claude");
-    paths.push_back("/usr/local/bin/claude");
+    paths.emplace_back("/opt/homebrew/bin/claude");
+    paths.emplace_back("/usr/local/bin/claude");
     return paths;
 }
 
@@ -59,7 +59,7 @@ std::string resolve(const std::optional<std::string> &cliOverride, const std::st
             return path;
 
     if (const std::optional<std::string> answer = lookup.loginShellLookup()) {
-        const std::string path(trimmed(*answer));
+        std::string path(trimmed(*answer));
         if (!path.empty() && lookup.isExecutable(path))
             return path;
     }

@@ -1,5 +1,6 @@
 #include "probe/Pipe.h"
 
+#include <array>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -29,9 +30,9 @@ FileDescriptor aboveStandardStreams(FileDescriptor descriptor)
 
 constexpr int usualCapacity = 64 * 1024;
 
-bool openEnds(int (&ends)[2]) noexcept
+bool openEnds(std::array<int, 2> &ends) noexcept
 {
-    return pipe2(ends, O_CLOEXEC) == 0;
+    return pipe2(ends.data(), O_CLOEXEC) == 0;
 }
 
 int permittedCapacity()
@@ -57,9 +58,9 @@ int capacityOf(int descriptor) noexcept
 
 #else
 
-bool openEnds(int (&ends)[2]) noexcept
+bool openEnds(std::array<int, 2> &ends) noexcept
 {
-    if (pipe(ends) != 0)
+    if (pipe(ends.data()) != 0)
         return false;
     for (const int end : ends)
         fcntl(end, F_SETFD, FD_CLOEXEC);
@@ -79,7 +80,7 @@ int capacityOf(int) noexcept
 
 Pipe Pipe::open()
 {
-    int ends[2];
+    std::array<int, 2> ends{};
     if (!openEnds(ends))
         throw std::system_error(errno, std::generic_category());
     Pipe pipe{FileDescriptor(ends[0]), FileDescriptor(ends[1])};

@@ -126,14 +126,16 @@ std::vector<std::string> argumentTexts(const ChildCommand &command)
 std::vector<std::string> environmentTexts(const Environment &environment)
 {
     std::vector<std::string> texts;
+    texts.reserve(environment.size());
     for (const auto &[name, value] : environment)
-        texts.push_back(name + "=" + value);
+        texts.emplace_back(name).append("=").append(value);
     return texts;
 }
 
 std::vector<char *> pointersTo(std::vector<std::string> &texts)
 {
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string &text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
