@@ -4,7 +4,8 @@ import QtQuick.Layouts
 import Loadwick
 
 // A scan has failed, and what is known about it. It has no words of its own. The detail can be
-// selected, and scrolls where it is longer than the page is high.
+// selected, and scrolls where it is longer than the page is high. One of several lines, which may be
+// a list, is not centred.
 StatePlaceholder {
     id: placeholder
 
@@ -36,7 +37,7 @@ StatePlaceholder {
             width: scroller.width - 2 * AppTheme.mediumSpace
             text: placeholder.detail
             secondary: true
-            horizontalAlignment: TextEdit.AlignHCenter
+            horizontalAlignment: placeholder.detail.includes("\n") ? TextEdit.AlignLeft : TextEdit.AlignHCenter
             ground: AppTheme.window
         }
     }

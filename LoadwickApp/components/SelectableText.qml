@@ -11,8 +11,6 @@ Item {
     property font font: AppTheme.bodyFont
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
     property int horizontalAlignment: TextEdit.AlignLeft
-    // A path is to be broken anywhere: it has no blanks, and its dots then follow its last letter.
-    property bool breaksAnywhere: false
     // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
     property int maximumLineCount: 0
     // The ground it stands on, for the dots that end a text cut short.
@@ -37,8 +35,8 @@ Item {
             readOnly: true
             selectByMouse: true
             activeFocusOnTab: true
-            // A text cut short is a path: broken anywhere, its last line is full up to the dots.
-            wrapMode: control.maximumLineCount > 0 ? TextEdit.WrapAnywhere : TextEdit.Wrap
+            // A text cut short is broken anywhere: its last line is then full up to the dots.
+            wrapMode: whole.fits ? TextEdit.Wrap : TextEdit.WrapAnywhere
             horizontalAlignment: control.horizontalAlignment
             font: control.font
             color: control.color
@@ -70,6 +68,20 @@ Item {
                 Accessible.ignored: true
             }
         }
+    }
+
+    // The text as it would stand with its words, or the folders of a path, left whole.
+    PlainLabel {
+        id: whole
+
+        readonly property bool fits: control.maximumLineCount === 0 || whole.lineCount <= control.maximumLineCount
+
+        width: control.width
+        text: control.maximumLineCount > 0 ? control.text : ""
+        font: control.font
+        wrapMode: Text.Wrap
+        visible: false
+        Accessible.ignored: true
     }
 
     FocusRing {

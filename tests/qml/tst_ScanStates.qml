@@ -73,6 +73,24 @@ Item {
             verify(group.width <= 420);
         }
 
+        function detailOf(item) {
+            if (item.lineSpacing !== undefined)
+                return item;
+            for (let i = 0; i < item.children.length; ++i) {
+                const found = detailOf(item.children[i]);
+                if (found !== null)
+                    return found;
+            }
+            return null;
+        }
+
+        function test_aDetailOfSeveralLinesIsNotCentred() {
+            failure.visible = true;
+            compare(detailOf(failure).horizontalAlignment, TextEdit.AlignHCenter);
+            failure.detail = "Looked in:\n  • /usr/bin/claude";
+            compare(detailOf(failure).horizontalAlignment, TextEdit.AlignLeft);
+        }
+
         function test_aLongDetailScrollsInsideThePage() {
             failure.visible = true;
             failure.detail = "A long story. ".repeat(400);

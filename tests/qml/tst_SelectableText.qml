@@ -10,6 +10,8 @@ Item {
     SelectableText { id: plain; width: 200; text: "<b>a</b> path" }
     SelectableText { id: path; y: 60; width: 120; text: "/home/somebody/" + "folder/".repeat(20); maximumLineCount: 2 }
 
+    SelectableText { id: twoFolders; y: 120; width: 150; text: "/home/somebody/Projects/harbor"; maximumLineCount: 2 }
+
     TestCase {
         name: "SelectableText"
         when: windowShown
@@ -35,6 +37,23 @@ Item {
             edit(path).forceActiveFocus();
             edit(path).selectAll();
             compare(edit(path).selectedText, path.text);
+        }
+
+        function lineOf(item, word) {
+            return edit(item).positionToRectangle(item.text.indexOf(word)).y;
+        }
+
+        function test_breaksAPathBetweenItsFoldersWhereItFits() {
+            compare(edit(twoFolders).lineCount, 2);
+            verify(!twoFolders.truncated);
+            compare(lineOf(twoFolders, "Projects"), lineOf(twoFolders, "rojects"));
+            compare(lineOf(twoFolders, "harbor"), lineOf(twoFolders, "arbor"));
+            compare(lineOf(twoFolders, "somebody"), 0);
+            verify(lineOf(twoFolders, "harbor") > 0);
+        }
+
+        function test_fillsItsLinesWhereItIsCut() {
+            compare(edit(path).wrapMode, TextEdit.WrapAnywhere);
         }
 
         function test_isNotCutWhereItFits() {
