@@ -24,7 +24,7 @@ Item {
             title: bar.content.scanTitle
             symbol: "waveform.path.ecg"
             toolTip: bar.content.allowanceDisclosure
-            prominent: true
+            prominent: bar.content.scanIsNextStep
             enabled: bar.content.canScan
             onClicked: bar.content.scan()
         }

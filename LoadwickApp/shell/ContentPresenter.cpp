@@ -104,6 +104,11 @@ bool ContentPresenter::canScan() const
     return m_model.canScan();
 }
 
+bool ContentPresenter::scanIsNextStep() const
+{
+    return canScan() && status() != Status::Complete;
+}
+
 QString ContentPresenter::scanTitle() const
 {
     if (m_model.state().get().isScanning())

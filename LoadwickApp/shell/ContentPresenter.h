@@ -28,6 +28,7 @@ class ContentPresenter final : public QObject
     Q_PROPERTY(QString statusSymbol READ statusSymbol NOTIFY stateChanged)
     Q_PROPERTY(bool canChoose READ canChoose NOTIFY stateChanged)
     Q_PROPERTY(bool canScan READ canScan NOTIFY commandsChanged)
+    Q_PROPERTY(bool scanIsNextStep READ scanIsNextStep NOTIFY commandsChanged)
     Q_PROPERTY(QString scanTitle READ scanTitle NOTIFY commandsChanged)
     Q_PROPERTY(QString allowanceDisclosure READ allowanceDisclosure CONSTANT)
     Q_PROPERTY(QAbstractItemModel *pages READ pages CONSTANT)
@@ -56,6 +57,8 @@ public:
 
     [[nodiscard]] bool canChoose() const;
     [[nodiscard]] bool canScan() const;
+    /// A scan can be started, and the selection has no result yet that it would compete with.
+    [[nodiscard]] bool scanIsNextStep() const;
     [[nodiscard]] QString scanTitle() const;
     [[nodiscard]] QString allowanceDisclosure() const;
 

@@ -9,6 +9,8 @@ SplitView {
 
     required property ContentPresenter content
     required property OverviewPresenter overview
+    required property TrendsPresenter trends
+    required property ComparePresenter compare
 
     orientation: Qt.Horizontal
 
@@ -49,8 +51,8 @@ SplitView {
                 overview: view.overview
                 disclosure: view.content.allowanceDisclosure
             }
-            TrendsView {}
-            CompareView {}
+            TrendsView { trends: view.trends }
+            CompareView { compare: view.compare }
         }
     }
 }

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QWindow>
 
 #include "shell/FolderUrl.h"
+#include "shell/QmlObject.h"
 
 namespace Loadwick {
 
@@ -44,16 +44,15 @@ bool DialogFolderChooser::makeDialog()
 {
     if (m_dialog || !m_engine || !m_window)
         return m_dialog != nullptr;
-    QQmlComponent component(m_engine,
-                            QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/FolderChooserDialog.qml")));
-    if (!component.isReady()) {
-        qWarning("%s", qPrintable(component.errorString()));
-        return false;
-    }
-    m_dialog.reset(component.createWithInitialProperties(
-        {{QStringLiteral("chooser"), QVariant::fromValue(this)},
-         {QStringLiteral("parentWindow"), QVariant::fromValue(m_window.data())},
-         {QStringLiteral("currentFolder"), m_startFolder}}));
+    QString failure;
+    m_dialog =
+        qmlObject(*m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/FolderChooserDialog.qml")),
+                  {{QStringLiteral("chooser"), QVariant::fromValue(this)},
+                   {QStringLiteral("parentWindow"), QVariant::fromValue(m_window.data())},
+                   {QStringLiteral("currentFolder"), m_startFolder}},
+                  failure);
+    if (!m_dialog)
+        qWarning("%s", qPrintable(failure));
     return m_dialog != nullptr;
 }
 

@@ -3,13 +3,14 @@
 #include <utility>
 
 #include <QDir>
-#include <QQmlComponent>
+#include <QUrl>
 
 #include "probe/Fatal.h"
 #include "probe/ProbeRunner.h"
 #include "probe/ProcessContext.h"
 #include "report/InstructionFileScanner.h"
 #include "shell/DialogFolderChooser.h"
+#include "shell/QmlObject.h"
 #include "shell/QtTaskDispatcher.h"
 #include "theme/ApplicationStyle.h"
 
@@ -51,6 +52,8 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     makeModel(std::move(collaborators));
     m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
     m_overview = std::make_unique<OverviewPresenter>(*m_model, locale);
+    m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
+    m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
     makeWindow();
     attachChooser();
 }
@@ -73,12 +76,16 @@ void LoadwickWindow::makeModel(Collaborators collaborators)
 void LoadwickWindow::makeWindow()
 {
     ApplicationStyle::addModulePath(m_engine);
-    QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml")));
-    if (!component.isReady())
-        fatalError(component.errorString().toStdString());
-    std::unique_ptr<QObject> made(component.createWithInitialProperties(
-        {{QStringLiteral("content"), QVariant::fromValue(m_content.get())},
-         {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())}}));
+    QString failure;
+    std::unique_ptr<QObject> made =
+        qmlObject(m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml")),
+                  {{QStringLiteral("content"), QVariant::fromValue(m_content.get())},
+                   {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())},
+                   {QStringLiteral("trends"), QVariant::fromValue(m_trends.get())},
+                   {QStringLiteral("compare"), QVariant::fromValue(m_compare.get())}},
+                  failure);
+    if (!made)
+        fatalError(failure.toStdString());
     m_window.reset(qobject_cast<QQuickWindow *>(made.release()));
     if (!m_window)
         fatalError("Main.qml makes no window.");

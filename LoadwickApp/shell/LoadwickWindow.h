@@ -7,12 +7,14 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 
+#include "compare/ComparePresenter.h"
 #include "model/ScanModel.h"
 #include "overview/OverviewPresenter.h"
 #include "probe/Shutdown.h"
 #include "report/TextLocale.h"
 #include "shell/ContentPresenter.h"
 #include "shell/FolderChooser.h"
+#include "trends/TrendsPresenter.h"
 
 namespace Loadwick {
 
@@ -57,6 +59,8 @@ private:
     std::unique_ptr<ScanModel> m_model;
     std::unique_ptr<ContentPresenter> m_content;
     std::unique_ptr<OverviewPresenter> m_overview;
+    std::unique_ptr<TrendsPresenter> m_trends;
+    std::unique_ptr<ComparePresenter> m_compare;
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     std::unique_ptr<FolderChooser> m_chooser;

@@ -7,6 +7,8 @@ ApplicationWindow {
 
     required property ContentPresenter content
     required property OverviewPresenter overview
+    required property TrendsPresenter trends
+    required property ComparePresenter compare
 
     title: "Loadwick"
     width: 1180
@@ -19,5 +21,7 @@ ApplicationWindow {
         anchors.fill: parent
         content: window.content
         overview: window.overview
+        trends: window.trends
+        compare: window.compare
     }
 }

@@ -2,19 +2,32 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The recorded totals over time.
+// The recorded totals of one repository over time.
 PageColumn {
+    id: page
+
+    required property TrendsPresenter trends
+
     PageHeader {
         Layout.fillWidth: true
         title: "Trends"
-        detail: "Startup context over time, against the Lean, Heavy and Excessive bands."
+        detail: page.trends.detail
     }
     ReportSurface {
         Layout.fillWidth: true
+        spacing: AppTheme.tightSpace
+        visible: page.trends.emptyText.length > 0
 
         PlainLabel {
             Layout.fillWidth: true
-            text: "Scans are recorded locally as you run them. Run one scan, then another, and the trend appears here."
+            text: page.trends.emptyTitle
+            font: AppTheme.headlineFont
+            wrapMode: Text.Wrap
+            visible: page.trends.emptyTitle.length > 0
+        }
+        PlainLabel {
+            Layout.fillWidth: true
+            text: page.trends.emptyText
             secondary: true
             wrapMode: Text.Wrap
         }

@@ -119,6 +119,27 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
     }
 
+    void aScanIsTheNextStepUntilThereIsAResult()
+    {
+        QVERIFY(!m_content->scanIsNextStep());
+        m_scanning->choose();
+        QVERIFY(m_content->scanIsNextStep());
+        m_content->scan();
+        QVERIFY(!m_content->scanIsNextStep());
+        m_scanning->finish();
+        QVERIFY(m_content->canScan());
+        QVERIFY(!m_content->scanIsNextStep());
+        m_scanning->choose();
+        QVERIFY(m_content->scanIsNextStep());
+    }
+
+    void afterAFailureAScanIsTheNextStep()
+    {
+        m_scanning->probe->answer = []() -> ProbeResult { throw ProbeError::timedOut(); };
+        m_scanning->scan();
+        QVERIFY(m_content->scanIsNextStep());
+    }
+
     void tellsOfEveryChangeOfTheCommands()
     {
         QSignalSpy changed(m_content.get(), &ContentPresenter::commandsChanged);

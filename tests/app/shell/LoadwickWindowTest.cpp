@@ -157,6 +157,33 @@ private Q_SLOTS:
         QVERIFY(m_window->loadwick().overview().summary().startsWith(QStringLiteral("Repository")));
     }
 
+    void theScanButtonIsQuietBesideAResult()
+    {
+        m_window->choose(m_window->folder().path());
+        QVERIFY(
+            m_window->find(QStringLiteral("Scan Again"))->object()->property("filled").toBool());
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->finishScan();
+        QTRY_VERIFY(shows("Scan complete"));
+        QAccessibleInterface *scan = m_window->find(QStringLiteral("Scan Again"));
+        QVERIFY(!scan->object()->property("filled").toBool());
+        QVERIFY(m_window->isPressable(QStringLiteral("Scan Again")));
+    }
+
+    void theOtherPagesKnowOfARecordedScan()
+    {
+        scan(m_window->folder().path());
+        QTRY_VERIFY(shows("Scan complete"));
+        pressAccessibly("Trends");
+        QVERIFY(shows("One scan recorded"));
+        pressAccessibly("Compare");
+        QVERIFY(shows("Only one repository recorded"));
+        scan(m_window->folder().path());
+        pressAccessibly("Trends");
+        QVERIFY(shows("Trends"));
+        QVERIFY(!shows("One scan recorded"));
+    }
+
     void theSessionDetailsOpen()
     {
         scan(m_window->folder().path());
