@@ -22,6 +22,9 @@ public:
     /// then on.
     void append(std::span<const char> chunk) noexcept;
 
+    /// Whether `join` would throw, since memory ran out on the way.
+    [[nodiscard]] bool ranOutOfMemory() const noexcept { return m_state == State::outOfMemory; }
+
     /// Everything, in order; nothing when there was more than the limit. Frees the pieces. Throws
     /// `std::bad_alloc`, also when memory had run out on the way.
     [[nodiscard]] std::optional<std::string> join() &&;

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <exception>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -79,7 +80,7 @@ void ChildProcess::abandon(ChildProcess child) noexcept
             while (waitpid(processID, nullptr, 0) < 0 && errno == EINTR) {
             }
         }).detach();
-    } catch (const std::system_error &) {
+    } catch (const std::exception &) { // no thread, or no memory for one
         return;
     }
 }

@@ -1,6 +1,8 @@
 #include "probe/ChildSupervision.h"
 
+#include <algorithm>
 #include <csignal>
+#include <new>
 #include <utility>
 
 #include "probe/Pipe.h"
@@ -10,6 +12,8 @@
 namespace Loadwick::ChildSupervision {
 
 namespace {
+
+constexpr double memoryCheckSeconds = 0.1;
 
 struct StartedChild
 {
@@ -44,11 +48,24 @@ void startReaders(StreamReaders &readers, const StartedChild &child)
         readers.start(child.standardError, OutputBox::Stream::standardError);
 }
 
+// True when the child ended before `timeout`. Once its output is lost there is nothing left to wait
+// for.
+bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &box)
+{
+    while (!child.waitUntil(std::min(timeout, deadlineAfter(memoryCheckSeconds)))) {
+        if (box.ranOutOfMemory())
+            throw std::bad_alloc();
+        if (std::chrono::steady_clock::now() >= timeout)
+            return false;
+    }
+    return true;
+}
+
 // True when the time-out found the child running. Without a limit on the wait for its death, one
 // that is stuck inside the system would hold the scan for ever.
-bool stopAtTimeout(const ChildProcess &child, const Request &request)
+bool stopAtTimeout(const ChildProcess &child, const Request &request, const OutputBox &box)
 {
-    if (child.waitUntil(deadlineAfter(request.timeoutSeconds)))
+    if (endsBefore(deadlineAfter(request.timeoutSeconds), child, box))
         return false;
     ProcessTermination::terminateThenKill(child, request.killGraceSeconds);
     (void)child.waitUntil(deadlineAfter(ChildProcess::survivalSeconds));
@@ -72,7 +89,7 @@ Outcome run(const Request &request)
     startReaders(readers, child);
 
     Outcome outcome;
-    outcome.terminationRequested = stopAtTimeout(child.process, request);
+    outcome.terminationRequested = stopAtTimeout(child.process, request, readers.box());
     outcome.readersTimedOut = !readers.finish(request.readerGraceSeconds);
     if (outcome.terminationRequested)
         ProcessTermination::sweepGroup(child.process);

@@ -48,8 +48,8 @@ public:
 
 /// Blocking, for at most all durations of `request`, a second for the readers,
 /// `ChildProcess::survivalSeconds` and `ProcessTermination::sweepGraceSeconds` together. Throws
-/// `StartFailed`, and `std::system_error` or `std::bad_alloc` when threads or memory run out; no
-/// child is left then.
+/// `StartFailed`, and `std::system_error` or `std::bad_alloc` when threads or memory run out; the
+/// child is then killed at once.
 [[nodiscard]] Outcome run(const Request &request);
 
 } // namespace Loadwick::ChildSupervision

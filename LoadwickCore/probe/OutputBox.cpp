@@ -21,6 +21,12 @@ std::optional<std::string> OutputBox::take(Stream stream)
     return std::move(taken).join();
 }
 
+bool OutputBox::ranOutOfMemory() const
+{
+    const std::lock_guard lock(m_lock);
+    return m_outData.ranOutOfMemory() || m_errData.ranOutOfMemory();
+}
+
 void OutputBox::noteReaderTimeOut()
 {
     const std::lock_guard lock(m_lock);

@@ -29,6 +29,9 @@ public:
     /// Throws `std::bad_alloc`.
     [[nodiscard]] std::optional<std::string> take(Stream stream);
 
+    /// There was no memory for a stream, all of which is lost: `take` of it would throw.
+    [[nodiscard]] bool ranOutOfMemory() const;
+
     /// A reader had to stop before its stream ended.
     void noteReaderTimeOut();
     [[nodiscard]] bool readersDidTimeOut() const;
