@@ -13,9 +13,9 @@ namespace Loadwick {
 /// What a child process is started with. Its standard input is always the null device.
 struct ChildCommand
 {
-    std::string executable;                             ///< a path; also the child's argument 0
-    std::vector<std::string> arguments;                 ///< after argument 0
-    Environment environment;                            ///< complete
+    std::string executable;             ///< a path, from this process's folder; argument 0 too
+    std::vector<std::string> arguments; ///< after argument 0
+    Environment environment;            ///< complete
     std::optional<std::filesystem::path> workingFolder; ///< this process's own when absent
 };
 

@@ -159,8 +159,10 @@ pid_t spawnSessionLeader(const ChildCommand &command, const ChildStreams &stream
 
     std::vector<std::string> arguments = argumentTexts(command);
     std::vector<std::string> environment = environmentTexts(command.environment);
+    // The child enters its folder first: a relative path must not lead to a file there.
+    const std::filesystem::path executable = currentFolder() / command.executable;
     pid_t child = 0;
-    check(posix_spawn(&child, command.executable.c_str(), actions.get(), attributes.get(),
+    check(posix_spawn(&child, executable.c_str(), actions.get(), attributes.get(),
                       pointersTo(arguments).data(), pointersTo(environment).data()));
     return child;
 }

@@ -75,6 +75,14 @@ TEST(ProcessSpawnTest, startsTheChildInItsFolder)
     EXPECT_EQ(lineOf(described(launch), "folder"), "folder: /usr/bin");
 }
 
+TEST(ProcessSpawnTest, looksForARelativeExecutableInItsOwnFolderNotInTheChilds)
+{
+    ProbeRunner::Launch launch = hostileLaunch({"describe"});
+    launch.cli = std::filesystem::relative(hostileChildPath()).string();
+    launch.repository = "/usr/bin";
+    EXPECT_EQ(lineOf(described(launch), "folder"), "folder: /usr/bin");
+}
+
 TEST(ProcessSpawnTest, passesArgumentsOnAsTheyAre)
 {
     EXPECT_EQ(described(hostileLaunch({"arguments", "", "two words", "*\n\xFF"})), "");
