@@ -63,6 +63,8 @@ std::string resolve(const std::optional<std::string> &cliOverride, const std::st
         if (!path.empty() && lookup.isExecutable(path))
             return path;
     }
+    for (std::string &path : searched)
+        path = repairedUtf8(path);
     searched.emplace_back(loginShellProbeLabel);
     throw ProbeError::cliNotFound(std::move(searched));
 }

@@ -30,7 +30,7 @@ struct Lookup
 };
 
 /// The first candidate that is executable, else the login shell's answer when that is.
-/// Throws `cliNotFound` with everything tried, `loginShellProbeLabel` last.
+/// Throws `cliNotFound` with everything tried, as text, `loginShellProbeLabel` last.
 [[nodiscard]] std::string resolve(const std::optional<std::string> &cliOverride,
                                   const std::string &home, const Lookup &lookup);
 

@@ -115,6 +115,11 @@ TEST(ClaudeCLILocatorTest, namesEverythingItTriedWhenThereIsNone)
     EXPECT_EQ(searchedWhenNotFound("/mine", {}).size(), 5U);
 }
 
+TEST(ClaudeCLILocatorTest, namesPathsThatAreNotUtf8Repaired)
+{
+    EXPECT_EQ(searchedWhenNotFound("/odd\xFF/claude", {}).front(), "/odd\xEF\xBF\xBD/claude");
+}
+
 TEST(ClaudeCLILocatorTest, takesARegularExecutableFileForExecutable)
 {
     const TemporaryFolder folder;
