@@ -177,9 +177,10 @@ JsonReader::Place JsonReader::placeOfMember(std::string_view keyLiteral)
         return {};
     // The member takes the place of an earlier one of its name, whatever it holds.
     container.slot->erase(key);
-    if (selected->isWhole())
+    const bool isContainer = next() == '{' || next() == '[';
+    if (selected->isWhole() && !(selected->isScalar() && isContainer))
         return {&(*container.slot)[key], nullptr};
-    if (next() != '{')
+    if (selected->isWhole() || next() != '{')
         return {};
     return {&(*container.slot)[key], selected};
 }

@@ -2,11 +2,11 @@
 
 namespace Loadwick {
 
-JsonSelection JsonSelection::ofPaths(std::initializer_list<std::string_view> paths)
+JsonSelection JsonSelection::ofPaths(std::initializer_list<std::string_view> paths, Values values)
 {
     JsonSelection selection;
     for (const std::string_view path : paths)
-        selection.add(path);
+        selection.add(path, values);
     return selection;
 }
 
@@ -16,14 +16,14 @@ const JsonSelection *JsonSelection::member(std::string_view key) const
     return found == m_members.end() ? nullptr : &found->second;
 }
 
-void JsonSelection::add(std::string_view path)
+void JsonSelection::add(std::string_view path, Values values)
 {
     const std::size_t dot = path.find('.');
     JsonSelection &next = m_members[std::string(path.substr(0, dot))];
-    if (dot == std::string_view::npos)
-        next.m_isWhole = true;
-    else
-        next.add(path.substr(dot + 1));
+    if (dot != std::string_view::npos)
+        return next.add(path.substr(dot + 1), values);
+    next.m_isWhole = true;
+    next.m_isScalar = values == Values::scalars;
 }
 
 } // namespace Loadwick

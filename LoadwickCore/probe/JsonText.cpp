@@ -8,14 +8,28 @@
 
 namespace Loadwick {
 
-std::optional<nlohmann::json> jsonObject(std::string_view text,
-                                         std::initializer_list<std::string_view> keptPaths)
+namespace {
+
+std::optional<nlohmann::json> selectedPartsOf(std::string_view text, const JsonSelection &selection)
 {
     const std::string_view document = trimmed(text);
     if (!isUtf8(document))
         return std::nullopt;
-    const JsonSelection selection = JsonSelection::ofPaths(keptPaths);
     return JsonReader(document, selection).readObject();
+}
+
+} // namespace
+
+std::optional<nlohmann::json> jsonObject(std::string_view text,
+                                         std::initializer_list<std::string_view> keptPaths)
+{
+    return selectedPartsOf(text, JsonSelection::ofPaths(keptPaths));
+}
+
+std::optional<nlohmann::json> jsonObjectOfScalars(std::string_view text,
+                                                  std::initializer_list<std::string_view> keptPaths)
+{
+    return selectedPartsOf(text, JsonSelection::ofPaths(keptPaths, JsonSelection::Values::scalars));
 }
 
 const nlohmann::json *member(const nlohmann::json &object, std::string_view key)

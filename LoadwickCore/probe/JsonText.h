@@ -17,6 +17,11 @@ namespace Loadwick {
 [[nodiscard]] std::optional<nlohmann::json>
 jsonObject(std::string_view text, std::initializer_list<std::string_view> keptPaths);
 
+/// The same for paths at which texts, numbers and Booleans are looked for: an array or object that
+/// stands there counts as absent, so that the memory used does not grow with it either.
+[[nodiscard]] std::optional<nlohmann::json>
+jsonObjectOfScalars(std::string_view text, std::initializer_list<std::string_view> keptPaths);
+
 /// The member of an object, or null when `object` is no object or has no such key.
 [[nodiscard]] const nlohmann::json *member(const nlohmann::json &object, std::string_view key);
 

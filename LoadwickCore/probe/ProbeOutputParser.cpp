@@ -22,6 +22,14 @@ constexpr std::array<std::string_view, 4> signInComplaints{
 constexpr std::size_t pieceSize = 65536;
 constexpr std::size_t sharedSize = 128;
 
+std::optional<nlohmann::json> recordIn(std::string_view standardOutput)
+{
+    return jsonObjectOfScalars(standardOutput,
+                               {"session_id", "result", "is_error", "usage.input_tokens",
+                                "usage.cache_creation_input_tokens",
+                                "usage.cache_read_input_tokens", "usage.output_tokens"});
+}
+
 bool holdsComplaint(std::string_view piece)
 {
     const std::string lower = lowercased(piece);
@@ -73,7 +81,7 @@ bool reportsError(const nlohmann::json &object)
 ProbeOutput parse(std::string_view standardOutput, std::string_view standardError,
                   std::int32_t exitCode)
 {
-    auto object = jsonObject(standardOutput, {"session_id", "result", "is_error", "usage"});
+    auto object = recordIn(standardOutput);
     if (!object)
         throw failureWithoutObject(standardOutput, standardError, exitCode);
     std::string result = takeText(*object, "result");

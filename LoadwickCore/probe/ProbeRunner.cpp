@@ -151,7 +151,7 @@ Execution ProbeRunner::execute(const Launch &launch)
 
 std::optional<std::int64_t> ProbeRunner::reportedTurns(std::string_view standardOutput)
 {
-    const auto record = jsonObject(trimmed(standardOutput), {"num_turns"});
+    const auto record = jsonObjectOfScalars(standardOutput, {"num_turns"});
     return record ? exactInteger(member(*record, "num_turns")) : std::nullopt;
 }
 

@@ -17,7 +17,9 @@ constexpr std::size_t longestLine = 64U << 20;
 
 std::optional<ProbeUsage> usageInLine(std::string_view line)
 {
-    const auto record = jsonObject(line, {"type", "message.usage"});
+    const auto record = jsonObjectOfScalars(
+        line, {"type", "message.usage.input_tokens", "message.usage.cache_creation_input_tokens",
+               "message.usage.cache_read_input_tokens", "message.usage.output_tokens"});
     if (!record)
         return std::nullopt;
     const nlohmann::json *const type = member(*record, "type");

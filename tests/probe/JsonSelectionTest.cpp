@@ -30,6 +30,15 @@ TEST(JsonSelectionTest, wantsAMemberWholeThatIsNamedWithAPartOfIt)
     EXPECT_TRUE(JsonSelection::ofPaths({"a.b", "a"}).member("a")->isWhole());
 }
 
+TEST(JsonSelectionTest, wantsScalarsOnlyAtTheEndsOfPaths)
+{
+    const auto scalars = JsonSelection::ofPaths({"a", "b.c"}, JsonSelection::Values::scalars);
+    EXPECT_TRUE(scalars.member("a")->isScalar());
+    EXPECT_FALSE(scalars.member("b")->isScalar());
+    EXPECT_TRUE(scalars.member("b")->member("c")->isScalar());
+    EXPECT_FALSE(JsonSelection::ofPaths({"a"}).member("a")->isScalar());
+}
+
 TEST(JsonSelectionTest, wantsNothingWithoutPaths)
 {
     EXPECT_EQ(JsonSelection::ofPaths({}).member(""), nullptr);

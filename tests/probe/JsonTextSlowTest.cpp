@@ -46,6 +46,14 @@ TEST(JsonTextSlowTest, needsNoMemoryForWhatIsSkipped)
     }
 }
 
+TEST(JsonTextSlowTest, needsNoMemoryForWhatStandsInThePlaceOfAScalar)
+{
+    const std::string text = documentOf(R"({"result":[)", "0,", "0]}");
+    const PeakMemory memory;
+    EXPECT_TRUE(jsonObjectOfScalars(text, {"result"}));
+    EXPECT_LT(memory.growthInBytes(), size / 20);
+}
+
 TEST(JsonTextSlowTest, needsOneBitForALevelOfNesting)
 {
     const std::string text = documentOf(R"({"other":)", "[", "");

@@ -33,6 +33,17 @@ TEST(JsonTextTest, keepsPartsOfAMember)
               json::parse(R"({"message":{"usage":{"n":[1,2]}},"type":"assistant"})"));
 }
 
+TEST(JsonTextTest, keepsScalarsOnlyWhereTheyAreAskedFor)
+{
+    const std::string_view text =
+        R"({"a":[1],"b":{"c":{},"d":2},"e":"x","f":true,"g":null,"h":[]})";
+    const auto object = jsonObjectOfScalars(text, {"a", "b.c", "b.d", "e", "f", "g", "h.i"});
+    EXPECT_EQ(object, nlohmann::json::parse(R"({"b":{"d":2},"e":"x","f":true,"g":null})"));
+    EXPECT_EQ(jsonObjectOfScalars(R"({"a":1,"a":[2]})", {"a"}), nlohmann::json::object());
+    EXPECT_EQ(jsonObjectOfScalars(R"({"a":[2],"a":1})", {"a"}), nlohmann::json({{"a", 1}}));
+    EXPECT_FALSE(jsonObjectOfScalars(R"({"a":[1,}]})", {"a"}));
+}
+
 TEST(JsonTextTest, takesADottedKeyForNoPath)
 {
     EXPECT_EQ(jsonObject(R"({"message.usage":1})", {"message.usage"}), json::object());

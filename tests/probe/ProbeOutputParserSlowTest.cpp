@@ -34,6 +34,20 @@ TEST(ProbeOutputParserSlowTest, copiesAHugeComplaintOnce)
     EXPECT_LT(memory.growthInBytes(), size + size / 20);
 }
 
+TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeArraysInThePlaceOfTextsAndCounts)
+{
+    std::string zeros = "0";
+    for (zeros.reserve(size); zeros.size() < size;)
+        zeros += ",0";
+    const std::string text = R"({"session_id":"s","result":[)" + zeros +
+                             R"(],"usage":{"input_tokens":[)" + zeros + "]}}";
+    const PeakMemory memory;
+    const auto read = ProbeOutputParser::parse(text, "", 0);
+    EXPECT_EQ(read.result, "");
+    EXPECT_FALSE(read.usage);
+    EXPECT_LT(memory.growthInBytes(), size / 20);
+}
+
 TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeOutputThatIsNoRecord)
 {
     const std::string text(size, 'x');
