@@ -118,12 +118,12 @@ template<typename Stage, typename Next>
 void ScanModel::Internals::run(Stage stage, Next next)
 {
     auto task = [stage, next, dispatcher = m_dispatcher, weak = weak_from_this()]() mutable {
-        dispatcher->postToInterface([weak, next, outcome = scanOutcomeOf(stage)] {
+        dispatcher->postToInterface([weak, next, outcome = scanOutcomeOf(stage)]() mutable {
             const std::shared_ptr<Internals> self = weak.lock();
             if (!self)
                 return;
-            if (const auto *error = std::get_if<ProbeError>(&outcome))
-                self->end(ScanState::failed(*error));
+            if (auto *error = std::get_if<ProbeError>(&outcome))
+                self->end(ScanState::failed(std::move(*error)));
             else
                 next(*self, std::get<0>(outcome));
         });

@@ -26,8 +26,8 @@ template<typename Stage>
 {
     try {
         return stage();
-    } catch (const ProbeError &error) {
-        return error;
+    } catch (ProbeError &error) {
+        return std::move(error); // its text may be a gigabyte long
     } catch (const std::exception &error) {
         return probeErrorFrom(error);
     } catch (...) {

@@ -30,6 +30,21 @@ TEST(ScanOutcomeTest, passesAProbeErrorOn)
     EXPECT_EQ(outcomeOfThrowing(ProbeError::timedOut()), ScanOutcome<int>(ProbeError::timedOut()));
 }
 
+TEST(ScanOutcomeTest, passesTheTextOfAProbeErrorOnWithoutACopy)
+{
+    const auto textOf = [](const ProbeError &error) {
+        return std::get<ProbeError::SessionFailed>(error.value()).text.data();
+    };
+    const char *thrown = nullptr;
+    const auto stage = [&]() -> int {
+        ProbeError error = ProbeError::sessionFailed(std::string(1000, 'x'));
+        thrown = textOf(error);
+        throw error;
+    };
+    const auto outcome = scanOutcomeOf(stage);
+    EXPECT_EQ(textOf(std::get<ProbeError>(outcome)), thrown);
+}
+
 TEST(ScanOutcomeTest, takesAnotherExceptionForUnreadableOutput)
 {
     EXPECT_EQ(outcomeOfThrowing(std::runtime_error("the pipe broke")),
