@@ -9,7 +9,7 @@
 
 namespace Loadwick {
 
-/// The path of a program that behaves badly on request; `hostile_child.cpp` lists its verbs.
+/// The path of a program that behaves badly on request; `hostile/main.cpp` lists its verbs.
 [[nodiscard]] std::string hostileChildPath();
 
 /// Launches that program in "/", without an environment, with a time-out and graces that let a

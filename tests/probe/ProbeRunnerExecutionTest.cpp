@@ -42,20 +42,20 @@ std::string startFailure(const ProbeRunner::Launch &launch)
 
 } // namespace
 
-TEST(ProbeExecutionTest, capturesNothingFromAChildThatExitsAtOnce)
+TEST(ProbeRunnerExecutionTest, capturesNothingFromAChildThatExitsAtOnce)
 {
     const Execution execution = executeInTime(patientLaunch({"print", "", "", "0"}));
     EXPECT_EQ(execution, Execution{});
 }
 
-TEST(ProbeExecutionTest, capturesBothStreamsAndTheExitStatus)
+TEST(ProbeRunnerExecutionTest, capturesBothStreamsAndTheExitStatus)
 {
     const Execution execution = executeInTime(patientLaunch({"print", "out é", "error", "3"}));
     EXPECT_EQ(execution,
               (Execution{.exitCode = 3, .standardOutput = "out é", .standardError = "error"}));
 }
 
-TEST(ProbeExecutionTest, capturesMoreThanAPipeHoldsWhileBothStreamsFlood)
+TEST(ProbeRunnerExecutionTest, capturesMoreThanAPipeHoldsWhileBothStreamsFlood)
 {
     const Execution execution = executeInTime(patientLaunch({"flood", "3000000"}));
     EXPECT_EQ(execution.standardOutput.size(), 3'000'000U);
@@ -63,7 +63,7 @@ TEST(ProbeExecutionTest, capturesMoreThanAPipeHoldsWhileBothStreamsFlood)
     EXPECT_EQ(execution.exitCode, 0);
 }
 
-TEST(ProbeExecutionTest, keepsAStreamOfExactlyTheCaptureLimit)
+TEST(ProbeRunnerExecutionTest, keepsAStreamOfExactlyTheCaptureLimit)
 {
     ProbeRunner::Launch launch = patientLaunch({"flood", "8388608"});
     launch.captureLimit = 8'388'608;
@@ -72,21 +72,21 @@ TEST(ProbeExecutionTest, keepsAStreamOfExactlyTheCaptureLimit)
     EXPECT_EQ(execution.standardError.size(), launch.captureLimit);
 }
 
-TEST(ProbeExecutionTest, drainsAStreamBeyondTheCaptureLimitAndTakesItForUndecodable)
+TEST(ProbeRunnerExecutionTest, drainsAStreamBeyondTheCaptureLimitAndTakesItForUndecodable)
 {
     ProbeRunner::Launch launch = patientLaunch({"flood", "12000000"});
     launch.captureLimit = 8'388'608;
     EXPECT_EQ(executeInTime(launch), Execution{});
 }
 
-TEST(ProbeExecutionTest, decodesEachStreamByItself)
+TEST(ProbeRunnerExecutionTest, decodesEachStreamByItself)
 {
     const Execution execution = executeInTime(patientLaunch({"half"}));
     EXPECT_EQ(execution.standardOutput, "");
     EXPECT_EQ(execution.standardError, "whole €");
 }
 
-TEST(ProbeExecutionTest, stopsAChildAtTheTimeout)
+TEST(ProbeRunnerExecutionTest, stopsAChildAtTheTimeout)
 {
     const Stopwatch watch;
     const Execution execution = executeInTime(hostileLaunch({"close-output"}));
@@ -97,12 +97,12 @@ TEST(ProbeExecutionTest, stopsAChildAtTheTimeout)
     EXPECT_EQ(execution.exitCode, SIGTERM);
 }
 
-TEST(ProbeExecutionTest, keepsWhatAChildPrintedBeforeItClosedItsOutputAndLivedOn)
+TEST(ProbeRunnerExecutionTest, keepsWhatAChildPrintedBeforeItClosedItsOutputAndLivedOn)
 {
     EXPECT_EQ(executeInTime(hostileLaunch({"close-output"})).standardOutput, "last words");
 }
 
-TEST(ProbeExecutionTest, killsAChildThatIgnoresTheRequestAfterTheKillGrace)
+TEST(ProbeRunnerExecutionTest, killsAChildThatIgnoresTheRequestAfterTheKillGrace)
 {
     const Stopwatch watch;
     const Execution execution = executeInTime(hostileLaunch({"ignore-term"}));
@@ -112,14 +112,14 @@ TEST(ProbeExecutionTest, killsAChildThatIgnoresTheRequestAfterTheKillGrace)
     EXPECT_EQ(execution.standardOutput, "ready\n");
 }
 
-TEST(ProbeExecutionTest, killsAChildThatStoppedItself)
+TEST(ProbeRunnerExecutionTest, killsAChildThatStoppedItself)
 {
     const Execution execution = executeInTime(hostileLaunch({"stop"}));
     EXPECT_TRUE(execution.timedOut);
     EXPECT_EQ(execution.exitCode, SIGKILL);
 }
 
-TEST(ProbeExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfterTheTimeout)
+TEST(ProbeRunnerExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfterTheTimeout)
 {
     ProbeRunner::Launch launch = hostileLaunch({"trap-term", "143"});
     launch.killGraceSeconds = 5;
@@ -129,7 +129,7 @@ TEST(ProbeExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfterTheTi
     EXPECT_EQ(execution.exitCode, 143);
 }
 
-TEST(ProbeExecutionTest, countsNoSignalAsTimeoutThatCameFromElsewhere)
+TEST(ProbeRunnerExecutionTest, countsNoSignalAsTimeoutThatCameFromElsewhere)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = patientLaunch({});
@@ -139,7 +139,7 @@ TEST(ProbeExecutionTest, countsNoSignalAsTimeoutThatCameFromElsewhere)
     EXPECT_EQ(executeInTime(launch), expected);
 }
 
-TEST(ProbeExecutionTest, stopsReadingWhenABackgroundProcessKeepsTheOutputOpen)
+TEST(ProbeRunnerExecutionTest, stopsReadingWhenABackgroundProcessKeepsTheOutputOpen)
 {
     const Stopwatch watch;
     const Execution execution = executeInTime(patientLaunch({"grandchild", "5000"}));
@@ -151,7 +151,7 @@ TEST(ProbeExecutionTest, stopsReadingWhenABackgroundProcessKeepsTheOutputOpen)
     EXPECT_EQ(execution.standardOutput, "early\n");
 }
 
-TEST(ProbeExecutionTest, waitsForABackgroundProcessThatEndsWithinTheReaderGrace)
+TEST(ProbeRunnerExecutionTest, waitsForABackgroundProcessThatEndsWithinTheReaderGrace)
 {
     ProbeRunner::Launch launch = patientLaunch({"grandchild", "50"});
     launch.readerGraceSeconds = 20;
@@ -160,7 +160,7 @@ TEST(ProbeExecutionTest, waitsForABackgroundProcessThatEndsWithinTheReaderGrace)
     EXPECT_EQ(execution.standardOutput, "early\nlate\n");
 }
 
-TEST(ProbeExecutionTest, stopsReadingWhenADaemonKeepsTheOutputOpen)
+TEST(ProbeRunnerExecutionTest, stopsReadingWhenADaemonKeepsTheOutputOpen)
 {
     const Stopwatch watch;
     const Execution execution = executeInTime(patientLaunch({"daemon", "5000"}));
@@ -169,7 +169,7 @@ TEST(ProbeExecutionTest, stopsReadingWhenADaemonKeepsTheOutputOpen)
     EXPECT_EQ(execution.standardOutput, "gone\n");
 }
 
-TEST(ProbeExecutionTest, signalsNothingAfterANormalEnd)
+TEST(ProbeRunnerExecutionTest, signalsNothingAfterANormalEnd)
 {
     const TemporaryFolder folder;
     const std::filesystem::path mark = folder.path() / "lived-on";
@@ -179,7 +179,7 @@ TEST(ProbeExecutionTest, signalsNothingAfterANormalEnd)
     EXPECT_TRUE(eventually([&] { return std::filesystem::exists(mark); }));
 }
 
-TEST(ProbeExecutionTest, sweepsTheGroupAfterATimeout)
+TEST(ProbeRunnerExecutionTest, sweepsTheGroupAfterATimeout)
 {
     const TemporaryFolder folder;
     const std::filesystem::path mark = folder.path() / "lived-on";
@@ -189,7 +189,7 @@ TEST(ProbeExecutionTest, sweepsTheGroupAfterATimeout)
         eventually([&] { return std::filesystem::exists(mark); }, std::chrono::milliseconds(1200)));
 }
 
-TEST(ProbeExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
+TEST(ProbeRunnerExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = hostileLaunch({});
@@ -202,7 +202,7 @@ TEST(ProbeExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
     EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
 }
 
-TEST(ProbeExecutionTest, saysWhatCouldNotBeStartedAndWhy)
+TEST(ProbeRunnerExecutionTest, saysWhatCouldNotBeStartedAndWhy)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = hostileLaunch({});
@@ -213,7 +213,7 @@ TEST(ProbeExecutionTest, saysWhatCouldNotBeStartedAndWhy)
               "Could not start " + folder.path().string() + "/cl\xEF\xBF\xBD: Permission denied");
 }
 
-TEST(ProbeExecutionTest, saysSoWhenTheFolderIsGone)
+TEST(ProbeRunnerExecutionTest, saysSoWhenTheFolderIsGone)
 {
     ProbeRunner::Launch launch = hostileLaunch({"describe"});
     launch.repository = "/nowhere";
@@ -221,7 +221,7 @@ TEST(ProbeExecutionTest, saysSoWhenTheFolderIsGone)
               "Could not start " + hostileChildPath() + ": No such file or directory");
 }
 
-TEST(ProbeExecutionTest, startsInAFolderWhoseNameIsNotUtf8)
+TEST(ProbeRunnerExecutionTest, startsInAFolderWhoseNameIsNotUtf8)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = patientLaunch({"print", "here", "", "0"});
@@ -230,7 +230,7 @@ TEST(ProbeExecutionTest, startsInAFolderWhoseNameIsNotUtf8)
     EXPECT_EQ(executeInTime(launch).standardOutput, "here");
 }
 
-TEST(ProbeExecutionTest, startsNothingOnceTheProgramEnds)
+TEST(ProbeRunnerExecutionTest, startsNothingOnceTheProgramEnds)
 {
     ProbeRunner::Launch launch = hostileLaunch({"close-output"});
     launch.shutdown = std::make_shared<Shutdown>();
@@ -239,7 +239,7 @@ TEST(ProbeExecutionTest, startsNothingOnceTheProgramEnds)
               "Could not start " + hostileChildPath() + ": Operation canceled");
 }
 
-TEST(ProbeExecutionTest, givesEverythingBack)
+TEST(ProbeRunnerExecutionTest, givesEverythingBack)
 {
     const ProcessCensus before = ProcessCensus::now();
     for (const std::string verb : {"half", "close-output", "stop", "ignore-term"})

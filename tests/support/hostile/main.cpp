@@ -2,41 +2,23 @@
 // half a minute, whatever it does.
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/ptrace.h>
 #include <unistd.h>
 
+#include "support/hostile/ChildSpeech.h"
+#include "support/hostile/SelfPortrait.h"
+
+namespace Hostile {
+
 namespace {
-
-using Arguments = std::vector<std::string>;
-
-void writeAll(int descriptor, std::string_view text)
-{
-    while (!text.empty()) {
-        const ssize_t count = write(descriptor, text.data(), text.size());
-        if (count < 0 && errno != EINTR)
-            _exit(9);
-        text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    }
-}
-
-void say(const std::string &line)
-{
-    writeAll(STDOUT_FILENO, line + "\n");
-}
 
 [[noreturn]] void liveOn()
 {
@@ -156,6 +138,7 @@ int surviveKill(const Arguments &arguments)
     if (pipe(attached) != 0)
         return 9;
     const pid_t victim = getpid();
+    prctl(PR_SET_PTRACER, PR_SET_PTRACER_ANY, 0, 0, 0); // else a plain user's child may not
     const pid_t tracer = fork();
     if (tracer == 0) {
         setsid();
@@ -174,70 +157,6 @@ int surviveKill(const Arguments &arguments)
         return 9;
     say("ready");
     liveOn();
-}
-
-std::string openDescriptors()
-{
-    std::string numbers;
-    DIR *const folder = opendir("/proc/self/fd");
-    while (const dirent *const entry = readdir(folder))
-        if (entry->d_name[0] != '.' && std::stoi(entry->d_name) != dirfd(folder))
-            numbers += std::string(" ") + entry->d_name;
-    closedir(folder);
-    return numbers;
-}
-
-std::string signalsThat(const std::function<bool(int)> &holds)
-{
-    std::string numbers;
-    for (int number = 1; number < NSIG; ++number)
-        if (holds(number))
-            numbers += " " + std::to_string(number);
-    return numbers;
-}
-
-bool isBlocked(int number)
-{
-    sigset_t blocked;
-    sigprocmask(SIG_BLOCK, nullptr, &blocked);
-    return sigismember(&blocked, number) == 1;
-}
-
-bool hasOwnDisposition(int number)
-{
-    struct sigaction action
-    {};
-    return sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_DFL;
-}
-
-int describe(const Arguments &)
-{
-    const bool leads = getsid(0) == getpid() && getpgrp() == getpid();
-    const bool hasTerminal = open("/dev/tty", O_RDWR) >= 0;
-    char byte = 0;
-    char folder[4096];
-    say(std::string("leads session and group: ") + (leads ? "yes" : "no"));
-    say(std::string("terminal: ") + (hasTerminal ? "yes" : "no"));
-    say("descriptors:" + openDescriptors());
-    say("blocked:" + signalsThat(isBlocked));
-    say("dispositions:" + signalsThat(hasOwnDisposition));
-    say("input bytes: " + std::to_string(read(STDIN_FILENO, &byte, 1)));
-    say(std::string("folder: ") + getcwd(folder, sizeof folder));
-    return 0;
-}
-
-int printEnvironment(const Arguments &)
-{
-    for (char **entry = environ; *entry != nullptr; ++entry)
-        say(*entry);
-    return 0;
-}
-
-int printArguments(const Arguments &arguments)
-{
-    for (const std::string &argument : arguments)
-        say(argument);
-    return 0;
 }
 
 const std::map<std::string, int (*)(const Arguments &)> verbs{
@@ -259,11 +178,13 @@ const std::map<std::string, int (*)(const Arguments &)> verbs{
 
 } // namespace
 
+} // namespace Hostile
+
 int main(int count, char **texts)
 {
-    const Arguments all(texts, texts + count);
-    if (all.size() < 2 || verbs.find(all[1]) == verbs.end())
+    const Hostile::Arguments all(texts, texts + count);
+    if (all.size() < 2 || Hostile::verbs.find(all[1]) == Hostile::verbs.end())
         return 2;
     alarm(30);
-    return verbs.at(all[1])(Arguments(all.begin() + 2, all.end()));
+    return Hostile::verbs.at(all[1])(Hostile::Arguments(all.begin() + 2, all.end()));
 }

@@ -54,7 +54,7 @@ void runEveryQuickKind()
 
 } // namespace
 
-TEST(ProbeExecutionSlowTest, capturesOneGibibyteOfBothStreams)
+TEST(ProbeRunnerExecutionSlowTest, capturesOneGibibyteOfBothStreams)
 {
     if (isSanitized || availableMemory() < 5 * gibibyte)
         GTEST_SKIP() << "needs 5 GiB of memory and no sanitizer";
@@ -66,7 +66,7 @@ TEST(ProbeExecutionSlowTest, capturesOneGibibyteOfBothStreams)
     EXPECT_EQ(execution.exitCode, 0);
 }
 
-TEST(ProbeExecutionSlowTest, endsInTimeWhileAFloodStillComes)
+TEST(ProbeRunnerExecutionSlowTest, endsInTimeWhileAFloodStillComes)
 {
     if (isSanitized)
         GTEST_SKIP() << "needs no sanitizer";
@@ -79,7 +79,7 @@ TEST(ProbeExecutionSlowTest, endsInTimeWhileAFloodStillComes)
     EXPECT_EQ(execution.standardOutput, "");
 }
 
-TEST(ProbeExecutionSlowTest, givesEverythingBackAfterAThousandRuns)
+TEST(ProbeRunnerExecutionSlowTest, givesEverythingBackAfterAThousandRuns)
 {
     const ProcessCensus before = ProcessCensus::now();
     std::vector<std::thread> threads;
@@ -95,7 +95,7 @@ TEST(ProbeExecutionSlowTest, givesEverythingBackAfterAThousandRuns)
         << testing::PrintToString(before);
 }
 
-TEST(ProbeExecutionSlowTest, abandonsAChildThatSurvivesItsKillAndReapsItLater)
+TEST(ProbeRunnerExecutionSlowTest, abandonsAChildThatSurvivesItsKillAndReapsItLater)
 {
     const ProcessCensus before = ProcessCensus::now();
     const Stopwatch watch;
@@ -111,7 +111,7 @@ TEST(ProbeExecutionSlowTest, abandonsAChildThatSurvivesItsKillAndReapsItLater)
                            std::chrono::seconds(20)));
 }
 
-TEST(ProbeExecutionSlowTest, takesLittleMoreMemoryThanWhatItCaptures)
+TEST(ProbeRunnerExecutionSlowTest, takesLittleMoreMemoryThanWhatItCaptures)
 {
     if (isSanitized)
         GTEST_SKIP() << "a sanitizer's own memory counts too";

@@ -1,0 +1,134 @@
+#include "model/ScanModel.h"
+
+#include <gtest/gtest.h>
+
+#include "report/ScanReportBuilder.h"
+#include "support/RecordedScanBuilder.h"
+#include "support/SampleReport.h"
+#include "support/ScanModelHarness.h"
+
+namespace Loadwick {
+
+namespace {
+
+using Harness = ScanModelHarness;
+using History = std::vector<RecordedScan>;
+
+class ScanModelHistoryTest : public testing::Test
+{
+protected:
+    [[nodiscard]] ScanReport expectedReport() const
+    {
+        return ScanReportBuilder::build(harness.repository(), sampleProbeResult(),
+                                        InstructionFileSet());
+    }
+
+    Harness harness;
+};
+
+} // namespace
+
+TEST_F(ScanModelHistoryTest, loadsTheHistoryOldestFirst)
+{
+    ScanHistoryStore store(harness.historyFolder());
+    const RecordedScan late = RecordedScanBuilder().at(2).build();
+    const RecordedScan early = RecordedScanBuilder().at(1).build();
+    static_cast<void>(store.append(late));
+    static_cast<void>(store.append(early));
+    ScanModel model(harness.collaborators());
+    EXPECT_EQ(model.history().get(), (History{early, late}));
+    EXPECT_TRUE(model.canClearHistory());
+}
+
+TEST_F(ScanModelHistoryTest, recordsASuccessfulScan)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    ASSERT_EQ(model.history().get().size(), 1U);
+    const RecordedScan &recorded = model.history().get().front();
+    EXPECT_EQ(recorded, RecordedScan::fromReport(expectedReport(), Harness::now, recorded.id));
+    EXPECT_EQ(harness.recorded(), model.history().get());
+    EXPECT_TRUE(model.canClearHistory());
+}
+
+TEST_F(ScanModelHistoryTest, givesEveryRecordItsOwnIdentifier)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    harness.scanOnce(model);
+    ASSERT_EQ(model.history().get().size(), 2U);
+    EXPECT_NE(model.history().get()[0].id, model.history().get()[1].id);
+}
+
+TEST_F(ScanModelHistoryTest, recordsNothingWithoutAStore)
+{
+    ScanModel model(harness.collaboratorsWithoutStore());
+    harness.scanOnce(model);
+    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_FALSE(model.canClearHistory());
+    model.clearHistory();
+    EXPECT_TRUE(model.history().get().empty());
+}
+
+TEST_F(ScanModelHistoryTest, publishesTwoHundredScansWhenTwoHundredWereRecorded)
+{
+    ScanHistoryStore store(harness.historyFolder());
+    for (int second = 1; second <= 200; ++second)
+        static_cast<void>(store.append(RecordedScanBuilder().at(second).build()));
+    ScanModel model(harness.collaborators());
+    const History before = model.history().get();
+    ASSERT_EQ(before.size(), 200U);
+    harness.scanOnce(model);
+    const History &after = model.history().get();
+    ASSERT_EQ(after.size(), 200U);
+    EXPECT_EQ(after.front(), before[1]);
+    EXPECT_EQ(after.back().date, Harness::now);
+}
+
+TEST_F(ScanModelHistoryTest, publishesTheListThatItMeantToWriteWhenWritingFails)
+{
+    const TemporaryFolder folder;
+    folder.write("scan-history.json/in the way", "");
+    ScanModel::Collaborators collaborators = harness.collaborators();
+    collaborators.historyStore = std::make_unique<ScanHistoryStore>(folder.path());
+    ScanModel model(std::move(collaborators));
+    harness.scanOnce(model);
+    EXPECT_EQ(model.history().get().size(), 1U);
+}
+
+TEST_F(ScanModelHistoryTest, forgetsTheHistory)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    model.clearHistory();
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_FALSE(model.canClearHistory());
+    EXPECT_TRUE(harness.recorded().empty());
+    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+}
+
+TEST_F(ScanModelHistoryTest, forgetsTheHistoryEvenIfTheFileCannotBeDeleted)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    const std::filesystem::path file = harness.historyFolder() / ScanHistoryStore::fileName;
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file); // a folder is never removed
+    model.clearHistory();
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_TRUE(std::filesystem::exists(file));
+}
+
+TEST_F(ScanModelHistoryTest, recordsAScanAfterTheHistoryWasForgottenMeanwhile)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    harness.beginScan(model, Harness::probing);
+    model.clearHistory();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.history().get().size(), 1U);
+    EXPECT_EQ(harness.recorded().size(), 1U);
+}
+
+} // namespace Loadwick
