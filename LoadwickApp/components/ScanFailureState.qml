@@ -32,9 +32,9 @@ StatePlaceholder {
 
         SelectableText {
             id: words
-            // Room on both sides for the scroll bar, so that the words stay in the middle.
-            x: AppTheme.mediumSpace
-            width: scroller.width - 2 * AppTheme.mediumSpace
+            // In the middle as a whole, with room on both sides for the scroll bar.
+            x: Math.round((scroller.width - width) / 2)
+            width: Math.min(Math.ceil(words.implicitWidth), scroller.width - 2 * AppTheme.mediumSpace)
             text: placeholder.detail
             secondary: true
             horizontalAlignment: placeholder.detail.includes("\n") ? TextEdit.AlignLeft : TextEdit.AlignHCenter

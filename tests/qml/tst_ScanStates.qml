@@ -89,6 +89,11 @@ Item {
             compare(detailOf(failure).horizontalAlignment, TextEdit.AlignHCenter);
             failure.detail = "Looked in:\n  • /usr/bin/claude";
             compare(detailOf(failure).horizontalAlignment, TextEdit.AlignLeft);
+            waitForRendering(failure);
+            const list = detailOf(failure);
+            const middle = list.mapToItem(failure, list.width / 2, 0).x;
+            verify(list.width < 300);
+            verify(Math.abs(middle - failure.width / 2) <= 1);
         }
 
         function test_aLongDetailScrollsInsideThePage() {
