@@ -1,7 +1,10 @@
 #include "model/ScanModel.h"
 
+#include <fstream>
+
 #include <gtest/gtest.h>
 
+#include "history/ScanHistoryFile.h"
 #include "report/ScanReportBuilder.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/SampleReport.h"
@@ -73,9 +76,11 @@ TEST_F(ScanModelHistoryTest, recordsNothingWithoutAStore)
 
 TEST_F(ScanModelHistoryTest, publishesTwoHundredScansWhenTwoHundredWereRecorded)
 {
-    ScanHistoryStore store(harness.historyFolder());
+    ScanHistoryFile file{.version = ScanHistoryStore::schemaVersion, .scans = {}};
     for (int second = 1; second <= 200; ++second)
-        static_cast<void>(store.append(RecordedScanBuilder().at(second).build()));
+        file.scans.push_back(RecordedScanBuilder().at(second).build());
+    std::filesystem::create_directories(harness.historyFolder());
+    std::ofstream(harness.historyFolder() / ScanHistoryStore::fileName) << file.encoded();
     ScanModel model(harness.collaborators());
     const History before = model.history().get();
     ASSERT_EQ(before.size(), 200U);
