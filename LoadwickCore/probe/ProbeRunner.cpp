@@ -34,6 +34,14 @@ struct Total
     TotalSource source;
 };
 
+// A home folder may lie on a disk that does not answer: nothing can be started from it then.
+bool isExecutableWithinLimit(const std::string &path)
+{
+    constexpr std::chrono::seconds limit(30);
+    return callWithin(limit, [path] { return ClaudeCLILocator::isExecutableFile(path); })
+        .value_or(false);
+}
+
 ProbeError couldNotStart(const std::string &cli, const std::error_code &reason)
 {
     return ProbeError::unreadableOutput("Could not start " + repairedUtf8(cli) + ": " +
@@ -86,7 +94,7 @@ ProbeRunner::Settings ProbeRunner::userSettings(const Environment &environment,
     settings.projectsRoot = TranscriptLocator::defaultProjectsRoot(settings.home, environment);
     settings.environment = environment;
     settings.workingDirectory = currentFolder();
-    settings.lookup.isExecutable = ClaudeCLILocator::isExecutableFile;
+    settings.lookup.isExecutable = isExecutableWithinLimit;
     settings.lookup.loginShellLookup = [shutdown] {
         return ClaudeCLILocator::loginShellPath(std::string(ClaudeCLILocator::loginShell),
                                                 ClaudeCLILocator::loginShellTimeoutSeconds,
@@ -179,7 +187,8 @@ std::optional<ProbeUsage> ProbeRunner::transcriptUsage(const std::string &sessio
                                   .fileSystem = m_settings.fileSystem,
                                   .shutdown = m_settings.shutdown,
                                   .attempts = m_settings.transcriptRetries,
-                                  .delaySeconds = m_settings.transcriptRetryDelay};
+                                  .delaySeconds = m_settings.transcriptRetryDelay,
+                                  .deadline = deadlineAfter(m_settings.transcriptSearchSeconds)};
     const std::chrono::duration<double> limit(m_settings.transcriptSearchSeconds);
     return callWithin(limit, [search] { return search.run(); }).value_or(std::nullopt);
 }

@@ -31,7 +31,8 @@ std::optional<ProbeUsage> TranscriptSearch::run() const
 {
     std::optional<ProbeUsage> usage = attempt(*this);
     for (int made = 1; !usage && made < attempts; ++made) {
-        if (shutdown->waitFor(checkedDelay(delaySeconds)))
+        if (shutdown->waitFor(checkedDelay(delaySeconds)) ||
+            std::chrono::steady_clock::now() >= deadline)
             return std::nullopt;
         usage = attempt(*this);
     }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "probe/Deadline.h"
 #include "probe/FileSystem.h"
 #include "probe/ProbeUsage.h"
 #include "probe/Shutdown.h"
@@ -22,6 +23,7 @@ struct TranscriptSearch
     std::shared_ptr<Shutdown> shutdown; ///< its request ends the search between two attempts
     int attempts;                       ///< fewer than 1 count as 1
     double delaySeconds; ///< before every attempt but the first; negative or not finite is fatal
+    Deadline deadline = Deadline::max(); ///< no attempt begins once nobody waits any more
 
     /// The usage of the session's first assistant message, from the first attempt that yields one.
     /// Blocking.

@@ -173,6 +173,14 @@ TEST(ProbeRunnerTest, findsNoCommandWhereThereIsNone)
     EXPECT_EQ(searched.front(), setting.settings.home + "/.local/bin/claude");
 }
 
+TEST(ProbeRunnerTest, asksTheUsersDiskWhatIsExecutable)
+{
+    const Setting setting;
+    const auto user = ProbeRunner::userSettings(setting.settings.environment, nullptr);
+    EXPECT_TRUE(user.lookup.isExecutable(setting.folder.writeScript("claude", "").string()));
+    EXPECT_FALSE(user.lookup.isExecutable(setting.folder.write("plain", "").string()));
+}
+
 TEST(ProbeRunnerTest, runsTheOverrideWhenThereIsOne)
 {
     Setting setting;

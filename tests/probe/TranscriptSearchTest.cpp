@@ -38,9 +38,13 @@ private:
 
 TranscriptSearch searchUnder(const std::filesystem::path &root, int attempts, double delaySeconds)
 {
-    return {
-        "session", root,        std::make_shared<PosixFileSystem>(), std::make_shared<Shutdown>(),
-        attempts,  delaySeconds};
+    return {"session",
+            root,
+            std::make_shared<PosixFileSystem>(),
+            std::make_shared<Shutdown>(),
+            attempts,
+            delaySeconds,
+            Deadline::max()};
 }
 
 TranscriptSearch searchIn(const TemporaryFolder &folder, int attempts, double delaySeconds)
@@ -118,6 +122,17 @@ TEST(TranscriptSearchTest, endsBetweenTwoAttemptsWhenTheProgramDoes)
     EXPECT_EQ(search.run(), std::nullopt);
     EXPECT_LT(watch.seconds(), 30);
     quitting.join();
+}
+
+TEST(TranscriptSearchTest, beginsNoAttemptAfterItsDeadline)
+{
+    const TemporaryFolder folder;
+    int made = 0;
+    TranscriptSearch search = searchIn(folder, 1'000'000, 0.01);
+    search.fileSystem = std::make_shared<ObservedFileSystem>([&] { ++made; });
+    search.deadline = deadlineAfter(0);
+    EXPECT_EQ(search.run(), std::nullopt);
+    EXPECT_EQ(made, 1);
 }
 
 TEST(TranscriptSearchTest, endsTheProgramOnADelayThatIsNoDuration)
