@@ -20,12 +20,12 @@ void ComparePresenter::showHistory()
     const auto latest = ScanHistory::latestPerRepository(m_model.history().get());
     m_emptyTitle.clear();
     m_emptyText.clear();
+    if (latest.size() == 1)
+        showOneRepository(latest.front());
     if (latest.empty()) {
         m_emptyTitle = QStringLiteral("No recorded scans yet");
         m_emptyText = QStringLiteral(
             "Scan two repositories and their latest results appear here side by side.");
-    } else if (latest.size() == 1) {
-        showOneRepository(latest.front());
     }
     Q_EMIT changed();
 }

@@ -34,6 +34,7 @@ std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scan
             kept->second = &scan;
     }
     std::vector<RecordedScan> result;
+    result.reserve(latest.size());
     for (const auto &[path, scan] : latest)
         result.push_back(*scan);
     std::sort(result.begin(), result.end(),
