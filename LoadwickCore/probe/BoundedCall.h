@@ -12,8 +12,8 @@
 namespace Loadwick {
 
 /// Runs `call` on a thread of its own and waits for its value at most `limit` seconds. Nothing when
-/// the limit came first: the call then goes on alone, so it must own all that it touches. An
-/// exception of the call, or of starting the thread, reaches the caller.
+/// the limit came first, and always when it is 0 or less: the call then goes on alone, so it must
+/// own all that it touches. An exception of the call, or of starting the thread, reaches the caller.
 template<typename Call>
 [[nodiscard]] auto callWithin(std::chrono::duration<double> limit, Call call)
     -> std::optional<decltype(call())>
@@ -42,7 +42,9 @@ template<typename Call>
     }).detach();
 
     std::unique_lock lock(outcome->mutex);
-    outcome->arrived.wait_for(lock, limit, [&] { return outcome->value || outcome->error; });
+    const auto hasArrived = [&outcome] { return outcome->value || outcome->error; };
+    if (limit.count() <= 0 || !outcome->arrived.wait_for(lock, limit, hasArrived))
+        return std::nullopt;
     if (outcome->error)
         std::rethrow_exception(outcome->error);
     return std::move(outcome->value);

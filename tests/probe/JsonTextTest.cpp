@@ -150,10 +150,10 @@ TEST(JsonTextTest, refusesNulBytes)
     EXPECT_FALSE(isObject("{\"a\":\"\0\"}"s));
 }
 
-TEST(JsonTextTest, readsNestingOfAMillionLevels)
+TEST(JsonTextTest, readsNestingOfAHundredThousandLevels)
 {
-    const std::string open(1'000'000, '[');
-    const std::string close(1'000'000, ']');
+    const std::string open(100'000, '[');
+    const std::string close(100'000, ']');
     EXPECT_EQ(jsonObject("{\"deep\":" + open + close + ",\"a\":1}", {"a"}),
               json::parse(R"({"a":1})"));
     EXPECT_FALSE(isObject("{\"deep\":" + open));

