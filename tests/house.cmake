@@ -6,10 +6,6 @@ foreach(check IN ITEMS layers format documented-paths shell)
     set_tests_properties("house/${check}" PROPERTIES LABELS house TIMEOUT 120)
 endforeach()
 
-add_test(NAME house/tidy
-         COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/tidy" "${PROJECT_BINARY_DIR}")
-set_tests_properties(house/tidy PROPERTIES LABELS "house;slow" TIMEOUT 1200 PROCESSORS 2)
-
 add_test(NAME house/qmllint
          COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
 set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 300)
