@@ -54,13 +54,16 @@ TEST(PipeTest, saysWhyThereIsNone)
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
     const rlimit none{0, before.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    std::error_code reason;
     try {
         (void)Pipe::open();
-        ADD_FAILURE() << "a pipe beyond the limit";
     } catch (const std::system_error &error) {
-        EXPECT_EQ(error.code(), std::errc::too_many_files_open);
+        // A sanitizer that checks the error's type needs descriptors of its own.
+        setrlimit(RLIMIT_NOFILE, &before);
+        reason = error.code();
     }
     setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(reason, std::errc::too_many_files_open);
 }
 
 } // namespace Loadwick
