@@ -40,7 +40,8 @@ TEST(ProbeEnvironmentTest, keepsEverythingElseUnchanged)
 TEST(ProbeEnvironmentTest, makesARelativeConfigurationFolderAbsolute)
 {
     const Environment parent{{"CLAUDE_CONFIG_DIR", " ./settings/../claude "}};
-    EXPECT_EQ(childEnvironment(parent, "/work/here").at("CLAUDE_CONFIG_DIR"), "/work/here/claude");
+    EXPECT_EQ(childEnvironment(parent, "/elsewhere/here").at("CLAUDE_CONFIG_DIR"),
+              "/elsewhere/here/claude");
 }
 
 TEST(ProbeEnvironmentTest, leavesABlankConfigurationFolderAsItWas)

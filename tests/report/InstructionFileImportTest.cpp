@@ -87,15 +87,15 @@ TEST_F(InstructionFileImportTest, resolvesAnAbsolutePath)
 
 TEST_F(InstructionFileImportTest, sortsImportsIntoTiersByPlaceAndOrigin)
 {
-    writeOwn("CLAUDE.md", "@../../shared.md");
+    writeOwn("CLAUDE.md", "@../../common.md");
     writeOwn("own.md", "");
-    folder.write("home/shared.md", "");
+    folder.write("home/common.md", "");
     folder.write("home/.claude/CLAUDE.md", "@style.md @~/code/shop/own.md");
     folder.write("home/.claude/style.md", "");
     const InstructionFileSet set = scanned();
     EXPECT_EQ(pathsOf(set.repositoryFiles),
               (Paths{"home/code/shop/CLAUDE.md", "home/code/shop/own.md"}));
-    EXPECT_EQ(pathsOf(set.inheritedFiles), Paths{"home/shared.md"});
+    EXPECT_EQ(pathsOf(set.inheritedFiles), Paths{"home/common.md"});
     EXPECT_EQ(pathsOf(set.personalFiles),
               (Paths{"home/.claude/CLAUDE.md", "home/.claude/style.md"}));
 }
