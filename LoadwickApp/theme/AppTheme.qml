@@ -26,6 +26,9 @@ QtObject {
     readonly property color bandLeanText: dark ? "#5FD08C" : "#196B3C"
     readonly property color bandHeavyText: dark ? "#F5AE4E" : "#8B5000"
     readonly property color bandExcessiveText: dark ? "#FF8075" : "#B1271E"
+    // Both by the place of the band in its order: lean, heavy, excessive.
+    readonly property list<color> bandShapes: [bandLean, bandHeavy, bandExcessive]
+    readonly property list<color> bandTexts: [bandLeanText, bandHeavyText, bandExcessiveText]
 
     // Blue, teal, purple, orange, gray: series and slices take them by position, wrapping around.
     readonly property list<color> chartColors: dark

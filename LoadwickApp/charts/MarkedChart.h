@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+namespace Loadwick {
+
+/// A painted chart made of marks (slices, tiles, points), of which one may be current: the one
+/// under the pointer or the one that the arrow keys chose while the chart has the focus, whichever
+/// came last. Whatever is shown of a mark under the pointer is thereby shown for the keyboard too.
+///
+/// Arrow keys go to the next or the previous mark and stop at the ends, Home and End go there, and
+/// Escape lets go. The first key chooses the first mark, or the last one when it goes backwards.
+class MarkedChart : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    /// The place of the current mark, -1 while there is none.
+    Q_PROPERTY(int currentMark READ currentMark NOTIFY currentMarkChanged)
+
+public:
+    explicit MarkedChart(QQuickItem *parent = nullptr);
+
+    [[nodiscard]] int currentMark() const noexcept;
+
+Q_SIGNALS:
+    void currentMarkChanged();
+
+protected:
+    [[nodiscard]] virtual int markCount() const = 0;
+    /// The mark at a point of the item, -1 where there is none.
+    [[nodiscard]] virtual int markAt(const QPointF &point) const = 0;
+
+    /// To be called when the marks are others than before: no mark is current then.
+    void forgetMarks();
+
+    void hoverEnterEvent(QHoverEvent *event) override;
+    void hoverMoveEvent(QHoverEvent *event) override;
+    void hoverLeaveEvent(QHoverEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void setPointed(int mark);
+    void setChosen(int mark);
+    void setMarks(int pointed, int chosen);
+
+    int m_pointed = -1;
+    int m_chosen = -1;
+};
+
+} // namespace Loadwick
