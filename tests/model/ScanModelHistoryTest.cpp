@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "history/ScanHistoryFile.h"
-#include "report/ScanReportBuilder.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/SampleReport.h"
 #include "support/ScanModelHarness.h"
 
 namespace Loadwick {
@@ -20,12 +18,6 @@ using History = std::vector<RecordedScan>;
 class ScanModelHistoryTest : public testing::Test
 {
 protected:
-    [[nodiscard]] ScanReport expectedReport() const
-    {
-        return ScanReportBuilder::build(harness.repository(), sampleProbeResult(),
-                                        InstructionFileSet());
-    }
-
     Harness harness;
 };
 
@@ -49,7 +41,7 @@ TEST_F(ScanModelHistoryTest, recordsASuccessfulScan)
     harness.scanOnce(model);
     ASSERT_EQ(model.history().get().size(), 1U);
     const RecordedScan &recorded = model.history().get().front();
-    EXPECT_EQ(recorded, RecordedScan::fromReport(expectedReport(), Harness::now, recorded.id));
+    EXPECT_EQ(recorded, RecordedScan::fromReport(harness.expectedReport(), Harness::now, recorded.id));
     EXPECT_EQ(harness.recorded(), model.history().get());
     EXPECT_TRUE(model.canClearHistory());
 }
@@ -67,7 +59,7 @@ TEST_F(ScanModelHistoryTest, recordsNothingWithoutAStore)
 {
     ScanModel model(harness.collaboratorsWithoutStore());
     harness.scanOnce(model);
-    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
     EXPECT_TRUE(model.history().get().empty());
     EXPECT_FALSE(model.canClearHistory());
     model.clearHistory();
@@ -110,7 +102,7 @@ TEST_F(ScanModelHistoryTest, forgetsTheHistory)
     EXPECT_TRUE(model.history().get().empty());
     EXPECT_FALSE(model.canClearHistory());
     EXPECT_TRUE(harness.recorded().empty());
-    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
 }
 
 TEST_F(ScanModelHistoryTest, forgetsTheHistoryEvenIfTheFileCannotBeDeleted)

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "report/ScanReportBuilder.h"
 #include "support/SampleReport.h"
 #include "support/ScanModelHarness.h"
 
@@ -21,12 +20,6 @@ constexpr Harness::Stage everyRunningStage[] = {Harness::folderCheck, Harness::p
 class ScanModelTest : public testing::Test
 {
 protected:
-    [[nodiscard]] ScanReport expectedReport() const
-    {
-        return ScanReportBuilder::build(harness.repository(), sampleProbeResult(),
-                                        InstructionFileSet());
-    }
-
     Harness harness;
 };
 
@@ -68,7 +61,7 @@ TEST_F(ScanModelTest, scansTheChosenFolder)
     EXPECT_EQ(model.state().get(), ScanState::scanning());
     EXPECT_FALSE(model.canScan());
     harness.dispatcher->runAll();
-    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
     EXPECT_TRUE(model.canScan());
     EXPECT_EQ(harness.probe->runs(), std::vector{harness.repository().url});
     EXPECT_EQ(harness.scanner->scans(), std::vector{harness.repository().url});
@@ -114,7 +107,7 @@ TEST_F(ScanModelTest, startsNoSecondScanInAnyStageOfTheFirst)
         harness.dispatcher->runBackground();
         model.scan(); // between the end of a stage and the news of it
         harness.dispatcher->runAll();
-        EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+        EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
     }
     EXPECT_EQ(harness.probe->runs().size(), 3U);
 }
@@ -128,7 +121,7 @@ TEST_F(ScanModelTest, ignoresAChoiceInEveryStageOfAScan)
         EXPECT_EQ(model.selection().get(), harness.repository()) << stage;
         EXPECT_EQ(model.state().get(), ScanState::scanning()) << stage;
         harness.dispatcher->runAll();
-        EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+        EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
         model.select(harness.otherRepository());
         EXPECT_EQ(model.selection().get(), harness.otherRepository());
         EXPECT_EQ(model.state().get(), ScanState::idle());
@@ -244,7 +237,7 @@ TEST_F(ScanModelTest, scansAgainFromAResultAndFromAFailure)
     model.scan();
     EXPECT_EQ(model.state().get(), ScanState::scanning());
     harness.dispatcher->runAll();
-    EXPECT_EQ(model.state().get(), ScanState::result(expectedReport()));
+    EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
     EXPECT_EQ(model.history().get().size(), 2U);
 }
 

@@ -1,5 +1,8 @@
 #include "support/ScanModelHarness.h"
 
+#include "report/ScanReportBuilder.h"
+#include "support/SampleReport.h"
+
 namespace Loadwick {
 
 ScanModelHarness::ScanModelHarness()
@@ -47,6 +50,11 @@ std::filesystem::path ScanModelHarness::historyFolder() const
 std::vector<RecordedScan> ScanModelHarness::recorded() const
 {
     return ScanHistoryStore(historyFolder()).load();
+}
+
+ScanReport ScanModelHarness::expectedReport() const
+{
+    return ScanReportBuilder::build(repository(), sampleProbeResult(), InstructionFileSet());
 }
 
 void ScanModelHarness::beginScan(ScanModel &model, Stage stage) const

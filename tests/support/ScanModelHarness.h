@@ -49,6 +49,9 @@ public:
     [[nodiscard]] std::filesystem::path historyFolder() const;
     [[nodiscard]] std::vector<RecordedScan> recorded() const;
 
+    /// What a scan of the repository reports when no collaborator was told otherwise.
+    [[nodiscard]] ScanReport expectedReport() const;
+
     /// Chooses the repository, starts a scan and steps up to `stage`.
     void beginScan(ScanModel &model, Stage stage) const;
 
