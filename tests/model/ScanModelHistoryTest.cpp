@@ -41,7 +41,8 @@ TEST_F(ScanModelHistoryTest, recordsASuccessfulScan)
     harness.scanOnce(model);
     ASSERT_EQ(model.history().get().size(), 1U);
     const RecordedScan &recorded = model.history().get().front();
-    EXPECT_EQ(recorded, RecordedScan::fromReport(harness.expectedReport(), Harness::now, recorded.id));
+    EXPECT_EQ(recorded,
+              RecordedScan::fromReport(harness.expectedReport(), Harness::now, recorded.id));
     EXPECT_EQ(harness.recorded(), model.history().get());
     EXPECT_TRUE(model.canClearHistory());
 }
