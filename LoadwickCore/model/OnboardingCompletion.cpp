@@ -1,0 +1,16 @@
+#include "model/OnboardingCompletion.h"
+
+#include <utility>
+
+#include "probe/Fatal.h"
+
+namespace Loadwick {
+
+OnboardingCompletion::OnboardingCompletion(std::shared_ptr<OnboardingCompletionStore> store)
+    : m_store(std::move(store))
+{
+    if (!m_store)
+        fatalError("The walk-through needs a store for its completion.");
+}
+
+} // namespace Loadwick
