@@ -6,11 +6,10 @@
 
 #include <QImage>
 #include <QSize>
-#include <QtQml/qqml.h>
 
 #include "demo/window/EventWait.h"
+#include "demo/window/WindowAppearance.h"
 #include "probe/Fatal.h"
-#include "theme/Appearance.h"
 
 namespace Loadwick {
 
@@ -19,16 +18,6 @@ namespace {
 constexpr std::array<QSize, 2> sizes{QSize(1180, 780), QSize(960, 640)};
 constexpr std::array<std::pair<Appearance::Scheme, const char *>, 2> schemes{
     {{Appearance::Light, "light"}, {Appearance::Dark, "dark"}}};
-
-Appearance &appearanceOf(QQuickWindow &window)
-{
-    QQmlEngine *engine = qmlEngine(&window);
-    const int type = qmlTypeId("Loadwick", 1, 0, "Appearance");
-    auto *appearance = engine == nullptr ? nullptr : engine->singletonInstance<Appearance *>(type);
-    if (appearance == nullptr)
-        fatalError("the window has no appearance");
-    return *appearance;
-}
 
 std::string sizeText(const QSize &size)
 {

@@ -1,0 +1,87 @@
+#include "support/SampleHistories.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include <gtest/gtest.h>
+
+namespace Loadwick {
+
+namespace {
+
+std::size_t repositoryCount(const std::vector<RecordedScan> &scans)
+{
+    std::set<std::string> paths;
+    for (const RecordedScan &scan : scans)
+        paths.insert(scan.repositoryPath);
+    return paths.size();
+}
+
+std::int64_t sumOfCategories(const RecordedScan &scan)
+{
+    std::int64_t sum = 0;
+    for (const RecordedCategory &category : scan.categories)
+        sum += category.tokens;
+    return sum;
+}
+
+} // namespace
+
+TEST(SampleHistoriesTest, haveTheScansAndRepositoriesTheirNamesSay)
+{
+    std::map<std::string, std::pair<std::size_t, std::size_t>> sizes;
+    for (const SampleHistory &history : SampleHistories::all())
+        sizes[history.name] = {history.scans.size(), repositoryCount(history.scans)};
+    EXPECT_EQ(sizes, (decltype(sizes){{"none", {0, 0}},
+                                      {"one-scan", {1, 1}},
+                                      {"two-equal-scans", {2, 1}},
+                                      {"two-repositories", {7, 2}},
+                                      {"30-scans", {30, 1}},
+                                      {"5-repositories", {31, 5}},
+                                      {"30-repositories", {200, 30}}}));
+}
+
+TEST(SampleHistoriesTest, runFromTheOldestToTheNewest)
+{
+    for (const SampleHistory &history : SampleHistories::all())
+        EXPECT_TRUE(std::is_sorted(
+            history.scans.begin(), history.scans.end(),
+            [](const RecordedScan &a, const RecordedScan &b) { return a.date < b.date; }))
+            << history.name;
+}
+
+TEST(SampleHistoriesTest, coverAllBands)
+{
+    std::set<OpinionBand::Value> bands;
+    for (const RecordedScan &scan : SampleHistories::ofSize(200, 30, 1))
+        bands.insert(scan.band());
+    EXPECT_EQ(bands.size(), 3U);
+}
+
+TEST(SampleHistoriesTest, splitNoMoreThanTheTotal)
+{
+    for (const RecordedScan &scan : SampleHistories::ofSize(200, 200, 50)) {
+        EXPECT_EQ(scan.categories.size(), 50U);
+        EXPECT_LE(sumOfCategories(scan), scan.total);
+        EXPECT_GE(scan.total, 14'000);
+    }
+}
+
+TEST(SampleHistoriesTest, nameEachCategoryOfAScanOnce)
+{
+    std::set<std::string> names;
+    const std::vector<RecordedScan> scans = SampleHistories::ofSize(1, 1, 50);
+    for (const RecordedCategory &category : scans.front().categories)
+        names.insert(category.name);
+    EXPECT_EQ(names.size(), 50U);
+}
+
+TEST(SampleHistoriesTest, keepTwoEqualScansEqual)
+{
+    const SampleHistory history = SampleHistories::all().at(2);
+    EXPECT_EQ(history.scans.front().total, history.scans.back().total);
+    EXPECT_LT(history.scans.front().date, history.scans.back().date);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "pictures/Scene.h"
+#include "shell/LoadwickWindow.h"
+
+namespace Loadwick {
+
+/// The program's own window, into whose model scenes are put as if they had just been scanned.
+/// Nothing is run, read or written for it.
+class Stage
+{
+public:
+    Stage();
+
+    [[nodiscard]] QQuickWindow &window() { return m_loadwick.window(); }
+
+    void show(const Scene &scene);
+
+private:
+    LoadwickWindow m_loadwick;
+};
+
+} // namespace Loadwick
