@@ -8,6 +8,8 @@ PageAppear {
     id: page
 
     default property alias cards: column.data
+    // What scrolls, for lists that show no more of themselves than it does.
+    readonly property Flickable viewport: scroller.contentItem as Flickable
 
     ScrollView {
         id: scroller

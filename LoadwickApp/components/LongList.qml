@@ -1,0 +1,131 @@
+import QtQuick
+import Loadwick
+
+// Rows of one height inside a scrolling page, as many as there are: only those exist that the page
+// shows, except in a short list, which a screen reader is to find whole. The delegate is `rowHeight`
+// high and names itself for assistive technology.
+FocusScope {
+    id: list
+
+    property alias model: rows.model
+    property alias delegate: rows.delegate
+    readonly property int count: rows.count
+    required property real rowHeight
+    // What scrolls the page.
+    required property Flickable viewport
+    // The row that the keys have reached, -1 before they were used.
+    property int currentIndex: -1
+    readonly property int shortCount: 60
+
+    signal copyRequested(int index)
+
+    // Where the list begins on the page.
+    property real pageTop: 0
+    readonly property bool isShort: rows.count <= list.shortCount
+    // The rows that the page shows, or all of a short list. The number does not lean on the first
+    // row: the two change one after the other, and in between the list would be as high as the jump.
+    readonly property int firstRow: list.isShort ? 0 : list.rowAt(list.viewport.contentY)
+    readonly property int shownRows: list.isShort
+        ? rows.count
+        : Math.min(rows.count, list.rowAt(list.viewport.contentY + list.viewport.height) + 1)
+            - list.rowAt(list.viewport.contentY)
+
+    function rowAt(pageY) {
+        return Math.max(0, Math.min(rows.count, Math.floor((pageY - list.pageTop) / list.rowHeight)));
+    }
+
+    function findTop() {
+        list.pageTop = list.mapToItem(list.viewport.contentItem, 0, 0).y;
+    }
+
+    // The list moves when anything that holds it does.
+    function followHolders() {
+        for (let item = list as Item; item && item !== list.viewport.contentItem; item = item.parent)
+            item.yChanged.connect(list.findTop);
+        list.findTop();
+    }
+
+    function goTo(index) {
+        list.currentIndex = Math.max(0, Math.min(rows.count - 1, index));
+        list.scrollTo(list.currentIndex);
+        list.focusRow();
+    }
+
+    function scrollTo(index) {
+        const start = list.pageTop + index * list.rowHeight - AppTheme.smallSpace;
+        const end = start + list.rowHeight + 2 * AppTheme.smallSpace;
+        const highest = Math.max(0, list.viewport.contentHeight - list.viewport.height);
+        const atTop = Math.min(list.viewport.contentY, start);
+        list.viewport.contentY = Math.max(0, Math.min(highest, Math.max(atTop, end - list.viewport.height)));
+    }
+
+    // With the focus on the row itself a screen reader reads the row. A row that scrolls away gives
+    // the focus back to the list.
+    function focusRow() {
+        rows.forceLayout();
+        const row = rows.itemAtIndex(list.currentIndex);
+        if (row)
+            row.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function indexAfterKey(key) {
+        const page = Math.max(1, Math.floor(list.viewport.height / list.rowHeight) - 1);
+        switch (key) {
+        case Qt.Key_Up: return list.currentIndex - 1;
+        case Qt.Key_Down: return list.currentIndex + 1;
+        case Qt.Key_PageUp: return list.currentIndex - page;
+        case Qt.Key_PageDown: return list.currentIndex + page;
+        case Qt.Key_Home: return 0;
+        case Qt.Key_End: return rows.count - 1;
+        default: return NaN;
+        }
+    }
+
+    implicitHeight: rows.count * list.rowHeight
+    activeFocusOnTab: rows.count > 0
+    Accessible.role: Accessible.List
+    Accessible.focusable: list.activeFocusOnTab
+
+    Component.onCompleted: list.followHolders()
+    onActiveFocusChanged: if (list.activeFocus && rows.count > 0) list.goTo(list.currentIndex)
+
+    Keys.onPressed: event => {
+        const index = list.indexAfterKey(event.key);
+        event.accepted = rows.count > 0 && (!isNaN(index) || event.matches(StandardKey.Copy));
+        if (!event.accepted)
+            return;
+        if (isNaN(index))
+            list.copyRequested(list.currentIndex);
+        else
+            list.goTo(index);
+    }
+    // From the row, the stop before would be the list that holds it.
+    Keys.onBacktabPressed: list.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+    ListView {
+        id: rows
+
+        objectName: "rows"
+        width: parent.width
+        y: list.firstRow * list.rowHeight
+        height: list.shownRows * list.rowHeight
+        contentY: y
+        interactive: false
+        keyNavigationEnabled: false
+        currentIndex: -1
+        cacheBuffer: 0
+        reuseItems: true
+        onCountChanged: if (list.currentIndex >= rows.count) list.currentIndex = rows.count - 1
+    }
+
+    Item {
+        y: list.currentIndex * list.rowHeight + 4
+        width: parent.width
+        height: list.rowHeight - 8
+
+        FocusRing {
+            objectName: "ring"
+            shown: list.activeFocus && list.currentIndex >= 0
+        }
+    }
+}
