@@ -22,3 +22,6 @@ foreach(script IN LISTS scripts)
                   "${CMAKE_CURRENT_SOURCE_DIR}/endtoend/${script}"
                   "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 endforeach()
+
+# It watches for ten seconds.
+set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/idle" APPEND PROPERTY LABELS slow)

@@ -94,6 +94,11 @@ class AccessibleTree:
         """Returns once nothing that shows has this name."""
         self._until(f"the end of {name!r}", lambda: self.find(name) is None)
 
+    def focused(self) -> Optional[Any]:
+        """The object that has the keyboard: the innermost, where several say so."""
+        found = [item for item in self.items() if unless_gone(lambda: is_focused(item), False)]
+        return found[-1] if found else None
+
     def texts(self) -> list[str]:
         """The words of everything that shows."""
         return [unless_gone(lambda: text_of(item), "") for item in self.items()]
@@ -130,6 +135,11 @@ def is_showing(item: Any) -> bool:
     """Whether the object is on the screen."""
     states = item.get_state_set()
     return states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)
+
+
+def is_focused(item: Any) -> bool:
+    """Whether keys go to the object."""
+    return bool(item.get_state_set().contains(Atspi.StateType.FOCUSED))
 
 
 def is_enabled(item: Any) -> bool:

@@ -27,3 +27,13 @@ def child_of(process: int) -> int:
     """The process id of a process's first child; 0 while it has none."""
     children = Path(f"/proc/{process}/task/{process}/children").read_text().split()
     return int(children[0]) if children else 0
+
+
+def wakes_of(process: int) -> int:
+    """How often the threads of a process have gone to sleep of themselves, and so were woken."""
+    count = 0
+    for status in Path(f"/proc/{process}/task").glob("*/status"):
+        for line in status.read_text().splitlines():
+            if line.startswith("voluntary_ctxt_switches:"):
+                count += int(line.split()[1])
+    return count

@@ -7,6 +7,7 @@ import signal
 import subprocess
 import time
 from pathlib import Path
+from typing import Optional
 
 from accessible_tree import AccessibleTree
 from processes import end_with_parent
@@ -16,10 +17,16 @@ from waiting import LIMIT_SECONDS
 class Program:
     """A started program and its window."""
 
-    def __init__(self, command: list[str], environment: dict[str, str]) -> None:
-        self.process = subprocess.Popen(
-            command, env=environment, preexec_fn=end_with_parent
-        )
+    def __init__(
+        self, command: list[str], environment: dict[str, str], log: Optional[Path] = None
+    ) -> None:
+        with open(log or os.devnull, "ab") as file:
+            self.process = subprocess.Popen(
+                command,
+                env=environment,
+                preexec_fn=end_with_parent,
+                stderr=file if log else None,
+            )
         try:
             self.window = AccessibleTree(self.process.pid)
         except BaseException:

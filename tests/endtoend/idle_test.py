@@ -1,0 +1,110 @@
+"""A window that nothing happens to: it draws nothing, and the system may let it sleep."""
+
+from __future__ import annotations
+
+import time
+from pathlib import Path
+
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from processes import wakes_of
+from program import Program, environment_for
+from waiting import until
+
+IDLE_SECONDS = 10.0
+MOST_WAKES = 2
+REST_SECONDS = 2.0  # between two looks at a window that comes to rest
+FRAME = b"renderloop"  # in each line that the toolkit logs for a frame
+
+
+class WatchedProgram(Program):
+    """A program that says of each frame that it draws one."""
+
+    def __init__(self, home: Path, name: str) -> None:
+        self.name = name
+        self._log = home / f"{name}.log"
+        self._log.touch()
+        rules = {"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop=true"}
+        command = [str(programs() / "loadwick-endtoend")]
+        super().__init__(command, environment_for(home) | rules, self._log)
+
+    def frames(self) -> int:
+        """How many frames it has drawn."""
+        return self._log.read_bytes().count(FRAME)
+
+    def wakes(self) -> int:
+        """How often it has been woken."""
+        return wakes_of(self.process.pid)
+
+    def is_at_rest(self) -> bool:
+        """Whether nothing happens for a while."""
+        frames, wakes = self.frames(), self.wakes()
+        time.sleep(REST_SECONDS)
+        return frames == self.frames() and self.wakes() - wakes <= MOST_WAKES
+
+
+class IdleTest(EndToEndCase):
+    """Each state of the window, left alone. All of them are watched during the same ten seconds."""
+
+    def open_watched(self, name: str) -> WatchedProgram:
+        """Opens one more window; it is closed at the end of the test."""
+        program = WatchedProgram(self.home.path, name)
+        self.addCleanup(program.kill)
+        program.window.wait_for(CHOOSE, "push button")
+        return program
+
+    def open_scanned(self, name: str, outcome: str, sign: str) -> WatchedProgram:
+        """Opens a window and scans with the given outcome, until it shows the sign of it."""
+        self.home.play(outcome)
+        program = self.open_watched(name)
+        self.choose(program, self.repository)
+        program.window.press(SCAN)
+        program.window.wait_for(sign)
+        return program
+
+    def assert_sleeps(self, programs_at_rest: list[WatchedProgram]) -> None:
+        """Watches them for ten seconds."""
+        for program in programs_at_rest:
+            until(f"the rest of {program.name}", program.is_at_rest)
+        before = [(program.frames(), program.wakes()) for program in programs_at_rest]
+        time.sleep(IDLE_SECONDS)
+        for program, (frames, wakes) in zip(programs_at_rest, before):
+            with self.subTest(program.name):
+                self.assertGreater(frames, 0, "frames are not counted")
+                self.assertEqual(program.frames() - frames, 0)
+                self.assertLessEqual(program.wakes() - wakes, MOST_WAKES)
+
+    def open_read(self) -> WatchedProgram:
+        """Opens a window with a result and puts the keyboard into one of its texts."""
+        program = self.open_scanned("a text with the keyboard", "transcript", "Scan complete")
+        program.window.key("Tab")
+        until("the keyboard in a text", lambda: self.focused_role(program) == "text")
+        return program
+
+    def focused_role(self, program: WatchedProgram) -> str:
+        """What kind of object has the keyboard."""
+        focused = program.window.focused()
+        return str(focused.get_role_name()) if focused else ""
+
+    def test_an_idle_window_draws_no_frame_and_sleeps(self) -> None:
+        self.repository = self.home.make_repository("webshop")
+        self.assert_sleeps(
+            [
+                self.open_watched("empty"),
+                self.open_scanned("result", "transcript", "Scan complete"),
+                self.open_scanned("failure", "signed-out", "Scan failed"),
+                self.open_read(),
+            ]
+        )
+
+    def test_a_scan_is_seen_to_draw(self) -> None:
+        self.home.hold()
+        self.addCleanup(self.home.release)
+        self.repository = self.home.make_repository("webshop")
+        program = self.open_scanned("scanning", "transcript", "Scanning")
+        frames, wakes = program.frames(), program.wakes()
+        until("frames", lambda: program.frames() > frames)
+        self.assertGreater(program.wakes(), wakes)
+
+
+if __name__ == "__main__":
+    main()
