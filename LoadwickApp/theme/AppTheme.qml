@@ -43,7 +43,8 @@ QtObject {
     readonly property real tintOpacity: 0.12
     readonly property real disabledOpacity: 0.4
 
-    // The family is the application's own; its figures are all equally wide.
+    // The family is the application's own; its figures are all equally wide, which makes it the font
+    // of numbers too. It has no medium weight: what should be medium is semibold.
     readonly property font heroMetricFont: Qt.font({ pixelSize: 46, weight: Font.DemiBold, letterSpacing: -0.5 })
     readonly property font largeTitleFont: Qt.font({ pixelSize: 28, weight: Font.DemiBold, letterSpacing: -0.3 })
     readonly property font title2Font: Qt.font({ pixelSize: 20, weight: Font.DemiBold })
@@ -70,6 +71,8 @@ QtObject {
     readonly property int stateWidth: 420
     readonly property int controlHeight: 32
     readonly property int iconSize: 16
+    // The column of trend pills: wide enough for a change of six figures.
+    readonly property int trendWidth: 104
 
     readonly property int cardRadius: 14
     readonly property int controlRadius: 8

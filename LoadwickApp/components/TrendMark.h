@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include <QString>
+
+#include "components/TrendKind.h"
+#include "history/TrendDirection.h"
+#include "report/TextLocale.h"
+
+namespace Loadwick {
+
+/// The change of a repository's total between its two most recent scans, as a TrendPill shows it.
+struct TrendMark
+{
+    TrendKind::Value kind = TrendKind::FirstScan;
+    QString title;
+    QString symbol; ///< empty for a first scan
+
+    /// A direction without a difference, or a difference without a direction, is a first scan.
+    [[nodiscard]] static TrendMark of(std::optional<TrendDirection> trend,
+                                      std::optional<std::int64_t> delta, const TextLocale &locale);
+
+    friend bool operator==(const TrendMark &, const TrendMark &) = default;
+};
+
+} // namespace Loadwick
