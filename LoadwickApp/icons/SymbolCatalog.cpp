@@ -26,6 +26,8 @@ const QMap<QString, QString> &rolesBySystemName()
         {QStringLiteral("equal"), QStringLiteral("unchanged")},
         {QStringLiteral("trash"), QStringLiteral("clear")},
         {QStringLiteral("scalemass"), QStringLiteral("weight")},
+        {QStringLiteral("gauge"), QStringLiteral("measure")},
+        {QStringLiteral("arrow.up"), QStringLiteral("pointer")},
         {QStringLiteral("chevron.right"), QStringLiteral("closed")},
         {QStringLiteral("chevron.down"), QStringLiteral("open")},
     };

@@ -14,6 +14,7 @@ class SymbolCatalogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void knowsEveryNameThatTheWindowUses();
     void everyNameHasADrawing_data();
     void everyNameHasADrawing();
     void everyDrawingHasAName();
@@ -23,6 +24,29 @@ private Q_SLOTS:
     void anUnknownNameHasNone();
     void aNameCannotLeaveTheFolder();
 };
+
+void SymbolCatalogTest::knowsEveryNameThatTheWindowUses()
+{
+    const QStringList pages = {QStringLiteral("square.grid.2x2"),
+                               QStringLiteral("chart.line.uptrend.xyaxis"),
+                               QStringLiteral("rectangle.split.2x1")};
+    const QStringList states = {QStringLiteral("circle"),
+                                QStringLiteral("arrow.triangle.2.circlepath"),
+                                QStringLiteral("exclamationmark.triangle"),
+                                QStringLiteral("exclamationmark.triangle.fill"),
+                                QStringLiteral("checkmark.circle.fill"),
+                                QStringLiteral("magnifyingglass")};
+    const QStringList commands = {QStringLiteral("folder"), QStringLiteral("folder.fill"),
+                                  QStringLiteral("waveform.path.ecg"), QStringLiteral("doc.on.doc"),
+                                  QStringLiteral("trash")};
+    const QStringList marks = {QStringLiteral("arrow.up.right"), QStringLiteral("arrow.down.right"),
+                               QStringLiteral("equal"),          QStringLiteral("scalemass"),
+                               QStringLiteral("chevron.right"),  QStringLiteral("chevron.down"),
+                               QStringLiteral("gauge"),          QStringLiteral("arrow.up")};
+    QStringList names = pages + states + commands + marks;
+    names.sort();
+    QCOMPARE(SymbolCatalog::systemNames(), names);
+}
 
 void SymbolCatalogTest::everyNameHasADrawing_data()
 {
