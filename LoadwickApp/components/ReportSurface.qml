@@ -8,7 +8,7 @@ Item {
 
     default property alias content: column.data
     property alias spacing: column.spacing
-    readonly property bool isHovering: pointer.hovered
+    property bool isHovering: pointer.hovered
 
     implicitWidth: column.implicitWidth + 2 * AppTheme.cardPadding
     implicitHeight: column.implicitHeight + 2 * AppTheme.cardPadding

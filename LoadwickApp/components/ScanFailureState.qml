@@ -13,7 +13,7 @@ StatePlaceholder {
     required property string detail
 
     symbol: "exclamationmark.triangle"
-    tint: AppTheme.bandExcessiveText
+    tint: AppTheme.bandExcessive
     title: headline
 
     Flickable {

@@ -33,7 +33,7 @@ Rectangle {
         PlainLabel {
             anchors.verticalCenter: parent.verticalCenter
             text: pill.title
-            font: AppTheme.captionStrongFont
+            font: AppTheme.subheadlineStrongFont
             color: pill.tint
         }
     }

@@ -61,7 +61,7 @@ Item {
         function test_iconsHaveTheirTints() {
             compare(empty.tint, AppTheme.secondaryText);
             compare(loading.tint, AppTheme.accent);
-            compare(failure.tint, AppTheme.bandExcessiveText);
+            compare(failure.tint, AppTheme.bandExcessive);
         }
 
         function test_theGroupStandsALittleAboveTheMiddle() {

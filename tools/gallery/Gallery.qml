@@ -1,31 +1,40 @@
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
+// Every component in every state, in one scheme, on one long page.
 Rectangle {
     id: gallery
 
-    implicitWidth: 900
-    implicitHeight: 1420
+    implicitWidth: 1180
+    implicitHeight: column.implicitHeight + 2 * AppTheme.pageMargin
     color: AppTheme.window
 
-    Rectangle {
-        width: 250
-        height: parent.height
-        color: AppTheme.sidebar
+    Flickable {
+        id: scroller
 
-        GallerySidebar {
-            anchors { fill: parent; margins: AppTheme.cardSpace }
+        anchors.fill: parent
+        contentHeight: gallery.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: ThinScrollBar { }
+
+        ColumnLayout {
+            id: column
+
+            x: AppTheme.pageMargin
+            y: AppTheme.pageMargin
+            width: scroller.width - 2 * AppTheme.pageMargin
+            spacing: AppTheme.wideSpace
+
+            PlainLabel { text: "Gallery"; font: AppTheme.largeTitleFont }
+            GallerySection { title: "Type and colour"; GalleryType { Layout.fillWidth: true } }
+            GallerySection { title: "Buttons"; GalleryButtons { Layout.fillWidth: true } }
+            GallerySection { title: "Marks"; GalleryMarks { Layout.fillWidth: true } }
+            GallerySection { title: "Rows"; GalleryRows { Layout.fillWidth: true } }
+            GallerySection { title: "Cards and sections"; GalleryCards { Layout.fillWidth: true } }
+            GallerySection { title: "States of a page"; GalleryStates { Layout.fillWidth: true } }
+            GallerySection { title: "Symbols"; GallerySymbols { Layout.fillWidth: true } }
         }
-    }
-
-    ColumnLayout {
-        anchors { fill: parent; leftMargin: 250 + AppTheme.pageMargin; rightMargin: AppTheme.pageMargin; topMargin: AppTheme.cardSpace; bottomMargin: AppTheme.pageMargin }
-        spacing: AppTheme.cardSpace
-
-        GalleryButtons { Layout.fillWidth: true }
-        Hairline { Layout.fillWidth: true }
-        GalleryCards { Layout.fillWidth: true }
-        GalleryStates { Layout.fillWidth: true; Layout.fillHeight: true }
     }
 }

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Loadwick
 
 ColumnLayout {
-    spacing: AppTheme.mediumSpace
+    spacing: AppTheme.cardSpace
 
     GalleryGroup {
         title: "At rest, prominent, outlined, disabled"

@@ -7,7 +7,7 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
-        Layout.fillHeight: true
+        Layout.preferredHeight: 320
         spacing: AppTheme.cardSpace
 
         ScanEmptyState {
@@ -22,7 +22,7 @@ ColumnLayout {
     }
     RowLayout {
         Layout.fillWidth: true
-        Layout.fillHeight: true
+        Layout.preferredHeight: 320
         spacing: AppTheme.cardSpace
 
         ScanFailureState {

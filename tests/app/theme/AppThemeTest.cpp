@@ -33,6 +33,8 @@ private Q_SLOTS:
     void textCanBeReadOnEveryGround();
     void aPillsWordCanBeReadOnItsCapsule_data() { textCanBeReadOnEveryGround_data(); }
     void aPillsWordCanBeReadOnItsCapsule();
+    void theMarkOfAStateStandsOutFromItsCircle_data() { schemes(); }
+    void theMarkOfAStateStandsOutFromItsCircle();
     void aProvenanceMarkCanBeRead_data() { schemes(); }
     void aProvenanceMarkCanBeRead();
     void theProminentButtonCanBeRead_data() { schemes(); }
@@ -139,6 +141,19 @@ void AppThemeTest::aPillsWordCanBeReadOnItsCapsule()
     QColor capsule = color(role);
     capsule.setAlphaF(value(QStringLiteral("tintOpacity")).toFloat());
     QVERIFY(contrast(color(role), blended(capsule, color(ground))) >= leastForText);
+}
+
+void AppThemeTest::theMarkOfAStateStandsOutFromItsCircle()
+{
+    QFETCH(int, scheme);
+    use(scheme);
+    for (const QString &role : {QStringLiteral("secondaryText"), QStringLiteral("accent"),
+                                QStringLiteral("bandExcessive")}) {
+        QColor circle = color(role);
+        circle.setAlphaF(value(QStringLiteral("tintOpacity")).toFloat());
+        const QColor ground = blended(circle, color(QStringLiteral("window")));
+        QVERIFY2(contrast(color(role), ground) >= leastForShapes, qPrintable(role));
+    }
 }
 
 void AppThemeTest::aProvenanceMarkCanBeRead()

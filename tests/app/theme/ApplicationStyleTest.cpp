@@ -18,17 +18,50 @@ class ApplicationStyleTest : public QObject
 private Q_SLOTS:
     void usesTheBasicControls() { QCOMPARE(QQuickStyle::name(), QStringLiteral("Basic")); }
 
+    void figuresOfTheFontAreEquallyWide_data()
+    {
+        QTest::addColumn<int>("pixelSize");
+        QTest::addColumn<int>("weight");
+        for (const int size : {12, 13, 15, 17, 20, 28, 46}) {
+            QTest::addRow("%d regular", size) << size << int(QFont::Normal);
+            QTest::addRow("%d semibold", size) << size << int(QFont::DemiBold);
+        }
+    }
+
     void figuresOfTheFontAreEquallyWide()
     {
-        QFont hero = QGuiApplication::font();
-        hero.setPixelSize(46);
-        hero.setWeight(QFont::DemiBold);
-        const QFontMetricsF metrics(hero);
+        QFETCH(const int, pixelSize);
+        QFETCH(const int, weight);
+        QFont font = QGuiApplication::font();
+        font.setPixelSize(pixelSize);
+        font.setWeight(QFont::Weight(weight));
+        const QFontMetricsF metrics(font);
         const qreal width = metrics.horizontalAdvance(QStringLiteral("00000"));
         for (char figure = '1'; figure <= '9'; ++figure) {
             const QString repeated(5, QLatin1Char(figure));
             QCOMPARE(metrics.horizontalAdvance(repeated), width);
         }
+    }
+
+    void noPairOfFiguresMovesTogether()
+    {
+        const QFontMetricsF metrics(QGuiApplication::font());
+        const qreal width = metrics.horizontalAdvance(QStringLiteral("00"));
+        for (char first = '0'; first <= '9'; ++first) {
+            for (char second = '0'; second <= '9'; ++second) {
+                const QString pair = QString(QLatin1Char(first)) + QLatin1Char(second);
+                QCOMPARE(metrics.horizontalAdvance(pair), width);
+            }
+        }
+    }
+
+    void semiboldIsAWeightOfTheFontsOwn()
+    {
+        QFont semibold = QGuiApplication::font();
+        semibold.setWeight(QFont::DemiBold);
+        QCOMPARE(QFontInfo(semibold).weight(), int(QFont::DemiBold));
+        QVERIFY(QFontMetricsF(semibold).horizontalAdvance(QStringLiteral("tokens")) >
+                QFontMetricsF(QGuiApplication::font()).horizontalAdvance(QStringLiteral("tokens")));
     }
 
     void theFontIsInstalled() { QVERIFY(QFontInfo(QGuiApplication::font()).exactMatch()); }
