@@ -18,6 +18,8 @@ void runEvents()
 {
     QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents,
                                     stepMilliseconds);
+    // Outside a running loop these would stay, and with them every page that was left.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace

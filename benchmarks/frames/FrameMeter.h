@@ -1,0 +1,50 @@
+#pragma once
+
+#include <chrono>
+#include <vector>
+
+#include <QObject>
+#include <QQuickWindow>
+
+namespace Loadwick {
+
+/// Measures what each frame of a window costs: the processor time of the interface thread from the
+/// end of one frame to the end of the next, so animations, bindings, layout and drawing together.
+/// Other programs on the machine do not count. Meant for a renderer that draws on that thread.
+class FrameMeter
+{
+public:
+    using Milliseconds = std::chrono::duration<double, std::milli>;
+
+    /// The window outlives this object.
+    explicit FrameMeter(QQuickWindow &window);
+    ~FrameMeter();
+
+    FrameMeter(const FrameMeter &) = delete;
+    FrameMeter &operator=(const FrameMeter &) = delete;
+
+    /// Forgets all frames; the next one begins now.
+    void restart();
+
+    /// Those since the last restart, in their order.
+    [[nodiscard]] const std::vector<Milliseconds> &frames() const noexcept { return m_frames; }
+
+    /// Lets the events run until there is a frame.
+    void waitForFrame() const;
+    /// Lets the events run for that long.
+    static void run(Milliseconds time);
+
+private:
+    void endFrame();
+
+    QQuickWindow &m_window;
+    QMetaObject::Connection m_connection;
+    std::vector<Milliseconds> m_frames;
+    Milliseconds m_lastEnd{};
+};
+
+/// The value that this part of all values, in [0, 1], does not exceed; 0 without values.
+[[nodiscard]] FrameMeter::Milliseconds percentile(std::vector<FrameMeter::Milliseconds> values,
+                                                  double part);
+
+} // namespace Loadwick
