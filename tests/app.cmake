@@ -26,7 +26,6 @@ function(loadwick_qt_tests)
     loadwick_warnings(app_tests)
     loadwick_qt_strictness(app_tests)
     target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
-    target_compile_definitions(app_tests PRIVATE LOADWICK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     target_link_libraries(app_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
                                             Qt6::Svg Qt6::Test)
     set_target_properties(app_tests PROPERTIES AUTOMOC ON)
