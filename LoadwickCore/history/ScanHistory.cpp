@@ -2,10 +2,117 @@
 
 #include <algorithm>
 #include <iterator>
-#include <map>
 #include <tuple>
+#include <unordered_map>
+#include <utility>
+
+#include "probe/CheckedSum.h"
 
 namespace Loadwick::ScanHistory {
+
+namespace {
+
+/// Place in time; identifiers of equal dates sort as their texts do, which are fixed in length and
+/// whose digits stand in the order of the bytes.
+auto placeInTime(const RecordedScan &scan)
+{
+    return std::tie(scan.date, scan.id);
+}
+
+auto placeByName(const RecordedScan &scan)
+{
+    return std::tie(scan.repositoryName, scan.repositoryPath);
+}
+
+/// What the leaderboard knows of one repository while it walks the scans.
+struct Standing
+{
+    const RecordedScan *latest = nullptr;
+    const RecordedScan *previous = nullptr;
+    std::int64_t scanCount = 0;
+
+    void take(const RecordedScan &scan)
+    {
+        ++scanCount;
+        if (latest == nullptr || placeInTime(scan) >= placeInTime(*latest))
+            previous = std::exchange(latest, &scan);
+        else if (previous == nullptr || placeInTime(scan) >= placeInTime(*previous))
+            previous = &scan;
+    }
+
+    LeaderboardEntry entry() const
+    {
+        return {.latest = *latest,
+                .previousTotal =
+                    previous != nullptr ? std::optional(previous->total) : std::nullopt,
+                .scanCount = scanCount};
+    }
+};
+
+bool isHeavier(const Standing &left, const Standing &right)
+{
+    if (left.latest->total != right.latest->total)
+        return left.latest->total > right.latest->total;
+    return placeByName(*left.latest) < placeByName(*right.latest);
+}
+
+std::vector<RecordedScan> copies(const std::vector<const RecordedScan *> &scans)
+{
+    std::vector<RecordedScan> result;
+    result.reserve(scans.size());
+    for (const RecordedScan *scan : scans)
+        result.push_back(*scan);
+    return result;
+}
+
+} // namespace
+
+std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans)
+{
+    std::vector<const RecordedScan *> order;
+    order.reserve(scans.size());
+    for (const RecordedScan &scan : scans)
+        order.push_back(&scan);
+    std::stable_sort(order.begin(), order.end(), [](const auto *left, const auto *right) {
+        return placeInTime(*left) > placeInTime(*right);
+    });
+    return copies(order);
+}
+
+std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scans)
+{
+    std::unordered_map<std::string_view, const RecordedScan *> latest;
+    for (const RecordedScan &scan : scans) {
+        const auto [kept, isNew] = latest.emplace(scan.repositoryPath, &scan);
+        if (!isNew && scan.date > kept->second->date)
+            kept->second = &scan;
+    }
+    std::vector<const RecordedScan *> order;
+    order.reserve(latest.size());
+    for (const auto &[path, scan] : latest)
+        order.push_back(scan);
+    std::sort(order.begin(), order.end(), [](const auto *left, const auto *right) {
+        return placeByName(*left) < placeByName(*right);
+    });
+    return copies(order);
+}
+
+std::vector<LeaderboardEntry> leaderboard(std::span<const RecordedScan> scans)
+{
+    std::unordered_map<std::string_view, Standing> repositories;
+    for (const RecordedScan &scan : scans)
+        repositories[scan.repositoryPath].take(scan);
+    std::vector<Standing> standings;
+    standings.reserve(repositories.size());
+    for (const auto &[path, standing] : repositories)
+        standings.push_back(standing);
+    std::sort(standings.begin(), standings.end(), isHeavier);
+    std::vector<LeaderboardEntry> result;
+    result.reserve(standings.size());
+    for (const Standing &standing : standings)
+        result.push_back(standing.entry());
+    return result;
+}
 
 std::vector<RecordedScan> scans(std::span<const RecordedScan> scans,
                                 std::string_view repositoryPath)
@@ -25,24 +132,23 @@ std::optional<std::string> mostRecentRepositoryPath(std::span<const RecordedScan
     return scans.back().repositoryPath;
 }
 
-std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scans)
+std::vector<std::string> categoryAxis(std::span<const RecordedScan> scans)
 {
-    std::map<std::string_view, const RecordedScan *> latest;
-    for (const RecordedScan &scan : scans) {
-        const auto [kept, isNew] = latest.emplace(scan.repositoryPath, &scan);
-        if (!isNew && scan.date > kept->second->date)
-            kept->second = &scan;
-    }
-    std::vector<RecordedScan> result;
-    result.reserve(latest.size());
-    for (const auto &[path, scan] : latest)
-        result.push_back(*scan);
-    std::sort(result.begin(), result.end(),
-              [](const RecordedScan &left, const RecordedScan &right) {
-                  return std::tie(left.repositoryName, left.repositoryPath) <
-                         std::tie(right.repositoryName, right.repositoryPath);
-              });
-    return result;
+    std::unordered_map<std::string_view, std::int64_t> sums;
+    for (const RecordedScan &scan : scans)
+        for (const RecordedCategory &category : scan.categories) {
+            std::int64_t &sum = sums[category.name];
+            sum = checkedSum(sum, category.tokens);
+        }
+    std::vector<std::pair<std::string_view, std::int64_t>> order(sums.begin(), sums.end());
+    std::sort(order.begin(), order.end(), [](const auto &left, const auto &right) {
+        return std::tie(right.second, left.first) < std::tie(left.second, right.first);
+    });
+    std::vector<std::string> names;
+    names.reserve(order.size());
+    for (const auto &[name, sum] : order)
+        names.emplace_back(name);
+    return names;
 }
 
 } // namespace Loadwick::ScanHistory

@@ -6,10 +6,22 @@
 #include <string_view>
 #include <vector>
 
+#include "history/LeaderboardEntry.h"
 #include "history/RecordedScan.h"
 
-/// Questions to a list of recorded scans. A repository is told apart by its path alone.
+/// Questions to a list of recorded scans, in any order unless said otherwise. A repository is told
+/// apart by its path alone; names and paths are compared byte by byte. Every order is total.
 namespace Loadwick::ScanHistory {
+
+/// All scans, by date and, where dates are equal, by the text of their identifier; descending.
+[[nodiscard]] std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans);
+
+/// The latest scan of each repository, by name and then by path; of equal dates the first met.
+[[nodiscard]] std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scans);
+
+/// One entry per repository, the heaviest latest total first, then by name and path. Of equal dates
+/// the scan whose identifier's text sorts last is the latest.
+[[nodiscard]] std::vector<LeaderboardEntry> leaderboard(std::span<const RecordedScan> scans);
 
 /// The scans of one repository, in the order of the list.
 [[nodiscard]] std::vector<RecordedScan> scans(std::span<const RecordedScan> scans,
@@ -19,7 +31,8 @@ namespace Loadwick::ScanHistory {
 [[nodiscard]] std::optional<std::string>
 mostRecentRepositoryPath(std::span<const RecordedScan> scans);
 
-/// The latest scan of each repository, by name and then by path; of equal dates the first met.
-[[nodiscard]] std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scans);
+/// Every category name once, by the tokens of all its occurrences, the heaviest first, then by
+/// name: the order in which charts and legends list categories. Overflow of a sum ends the program.
+[[nodiscard]] std::vector<std::string> categoryAxis(std::span<const RecordedScan> scans);
 
 } // namespace Loadwick::ScanHistory
