@@ -102,6 +102,11 @@ RegularFile::~RegularFile()
         ::close(m_descriptor);
 }
 
+bool RegularFile::skipTo(std::int64_t offset) noexcept
+{
+    return offset >= 0 && ::lseek(m_descriptor, offset, SEEK_SET) == offset;
+}
+
 std::optional<std::size_t> RegularFile::read(std::span<char> buffer, Failure *failure)
 {
     const ssize_t count =

@@ -46,6 +46,9 @@ public:
     };
     [[nodiscard]] Identity identity() const noexcept { return m_identity; }
 
+    /// Reads on from `offset` bytes behind the beginning; false when that is impossible.
+    [[nodiscard]] bool skipTo(std::int64_t offset) noexcept;
+
     /// Reads into `buffer`; bytes read, 0 at the end, nothing on an error (interrupted reads are
     /// taken up again).
     [[nodiscard]] std::optional<std::size_t> read(std::span<char> buffer,

@@ -32,6 +32,17 @@ std::size_t breakLength(std::string_view text, std::size_t index) noexcept
     }
 }
 
+/// Bytes of the line break that `text` ends with; 0 when there is none.
+std::size_t lastBreakLength(std::string_view text) noexcept
+{
+    if (text.ends_with("\r\n"))
+        return 2;
+    for (const std::size_t length : {std::size_t{1}, nextLine.size(), separatorHead.size() + 1})
+        if (text.size() >= length && breakLength(text, text.size() - length) == length)
+            return length;
+    return 0;
+}
+
 } // namespace
 
 std::optional<std::string_view> takeLine(std::string_view &rest) noexcept
@@ -47,6 +58,19 @@ std::optional<std::string_view> takeLine(std::string_view &rest) noexcept
     }
     const std::string_view line = rest;
     rest.remove_prefix(rest.size());
+    return line;
+}
+
+std::optional<std::string_view> takeLastLine(std::string_view &rest) noexcept
+{
+    if (rest.empty())
+        return std::nullopt;
+    rest.remove_suffix(lastBreakLength(rest));
+    std::size_t start = rest.size();
+    while (start > 0 && lastBreakLength(rest.substr(0, start)) == 0)
+        --start;
+    const std::string_view line = rest.substr(start);
+    rest.remove_suffix(line.size());
     return line;
 }
 

@@ -45,6 +45,11 @@ std::string grouped(std::int64_t number, const TextLocale &locale)
     return text;
 }
 
+std::string groupedChange(std::int64_t change, const TextLocale &locale)
+{
+    return (change < 0 ? "" : "+") + grouped(change, locale);
+}
+
 std::string oneDecimal(double number)
 {
     // Sign, every digit before the point of the largest double, the point and one digit.

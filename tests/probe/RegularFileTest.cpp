@@ -55,6 +55,20 @@ TEST(RegularFileTest, readsNoFurtherThanTheLimit)
     EXPECT_EQ(file->readUpTo(4), "ef");
 }
 
+TEST(RegularFileTest, readsOnFromWhereItIsSent)
+{
+    const TemporaryFolder folder;
+    auto file = RegularFile::open(folder.write("a", "abcdef"));
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->skipTo(4));
+    EXPECT_EQ(file->readUpTo(9), "ef");
+    EXPECT_TRUE(file->skipTo(0));
+    EXPECT_EQ(file->readUpTo(2), "ab");
+    EXPECT_TRUE(file->skipTo(99));
+    EXPECT_EQ(file->readUpTo(9), "");
+    EXPECT_FALSE(file->skipTo(-1));
+}
+
 TEST(RegularFileTest, readsIntoABuffer)
 {
     const TemporaryFolder folder;

@@ -1,5 +1,6 @@
 #include "probe/TextLines.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,14 @@ Lines linesOf(std::string_view text)
 {
     Lines lines;
     while (const auto line = takeLine(text))
+        lines.push_back(*line);
+    return lines;
+}
+
+Lines linesFromTheEndOf(std::string_view text)
+{
+    Lines lines;
+    while (const auto line = takeLastLine(text))
         lines.push_back(*line);
     return lines;
 }
@@ -54,6 +63,18 @@ TEST(TextLinesTest, leavesHalfABreakAtTheEndAlone)
     EXPECT_EQ(linesOf("a\xE2\x80"), (Lines{"a\xE2\x80"}));
     EXPECT_EQ(linesOf("a\xE2"), (Lines{"a\xE2"}));
     EXPECT_EQ(linesOf("a\xC2"), (Lines{"a\xC2"}));
+}
+
+TEST(TextLinesTest, givesTheSameLinesFromTheEnd)
+{
+    for (const std::string_view text :
+         {"", "a", "\n", "a\n", "\na", "\n\na\n\n", "a\r\nb\n\rc\r\n", "\r\n", "\r", "\r\r\n",
+          "a\nb\vc\fd\re\u0085f\u2028g\u2029h", "a\u2028", "a\u0084b\u0086c\u2027d\u202A",
+          "a\xE2\x80", "\x85", "\x80\xA8", "\xC2", "a\xE2\x80\n\xA8"}) {
+        Lines lines = linesFromTheEndOf(text);
+        std::reverse(lines.begin(), lines.end());
+        EXPECT_EQ(lines, linesOf(text)) << text;
+    }
 }
 
 } // namespace Loadwick

@@ -43,6 +43,15 @@ TEST(NumberTextTest, groupsFourDigitsWhereTheLocaleDoes)
     EXPECT_EQ(groupedIn("es_ES", 1'234), "1234");
 }
 
+TEST(NumberTextTest, signsAChangeAlsoWhereNothingChanged)
+{
+    EXPECT_EQ(NumberText::groupedChange(1'234, {}), "+1,234");
+    EXPECT_EQ(NumberText::groupedChange(0, {}), "+0");
+    EXPECT_EQ(NumberText::groupedChange(-2'500, {}), "-2,500");
+    EXPECT_EQ(NumberText::groupedChange(-2'500, {.numbers = "de_DE"}), "-2.500");
+    EXPECT_EQ(NumberText::groupedChange(1'234'567, {.numbers = "hi_IN"}), "+12,34,567");
+}
+
 TEST(NumberTextTest, writesTheLocalesMinusSign)
 {
     EXPECT_EQ(groupedIn("en_US", -5), "-5");

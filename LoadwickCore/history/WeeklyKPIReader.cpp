@@ -1,0 +1,94 @@
+#include "history/WeeklyKPIReader.h"
+
+#include <limits>
+
+#include "probe/JsonText.h"
+#include "probe/RegularFile.h"
+#include "probe/TextLines.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick::WeeklyKPIReader {
+
+namespace {
+
+std::string wordsOf(const nlohmann::json &object, std::string_view key)
+{
+    const nlohmann::json *const value = member(object, key);
+    return value != nullptr && value->is_string() ? value->get<std::string>() : "unknown";
+}
+
+/// A figure that can be compared with `target`: an integer so far below zero that the difference
+/// does not fit 64 bits counts as none.
+std::optional<std::int64_t> comparedFigure(const nlohmann::json &object, std::string_view key,
+                                           std::int64_t target)
+{
+    const auto figure = exactInteger(member(object, key));
+    if (figure && *figure < std::numeric_limits<std::int64_t>::min() + target)
+        return std::nullopt;
+    return figure;
+}
+
+std::optional<WeeklyKPILine> parseLine(std::string_view line)
+{
+    const auto object =
+        jsonObjectOfScalars(line, {"median_tokens_per_session", "tokens_per_pr", "total_tokens",
+                                   "merged_prs", "window.start", "window.end", "timestamp"});
+    if (!object)
+        return std::nullopt;
+    const auto median =
+        comparedFigure(*object, "median_tokens_per_session", medianTokensPerSessionTarget);
+    const auto tokensPerPR = comparedFigure(*object, "tokens_per_pr", tokensPerPRTarget);
+    if (!median || !tokensPerPR)
+        return std::nullopt;
+    const nlohmann::json *const window = member(*object, "window");
+    const nlohmann::json none;
+    return WeeklyKPILine{.medianTokensPerSession = *median,
+                         .tokensPerPR = *tokensPerPR,
+                         .totalTokens = exactInteger(member(*object, "total_tokens")),
+                         .mergedPRs = exactInteger(member(*object, "merged_prs")),
+                         .windowStart = wordsOf(window != nullptr ? *window : none, "start"),
+                         .windowEnd = wordsOf(window != nullptr ? *window : none, "end"),
+                         .timestamp = wordsOf(*object, "timestamp")};
+}
+
+/// The end of the file, from its first line feed on; nothing when it has none or fails to be read.
+std::optional<std::string> readEnd(RegularFile &file, std::size_t byteLimit)
+{
+    if (!file.skipTo(file.size() - static_cast<std::int64_t>(byteLimit)))
+        return std::nullopt;
+    auto end = file.readUpTo(byteLimit);
+    const std::size_t lineFeed = end ? end->find('\n') : std::string::npos;
+    if (lineFeed == std::string::npos)
+        return std::nullopt;
+    end->erase(0, lineFeed + 1);
+    return end;
+}
+
+} // namespace
+
+std::string defaultPath(std::string_view home)
+{
+    return std::string(home).append("/Library/Logs/token-kpi/weekly.jsonl");
+}
+
+std::optional<WeeklyKPILine> read(const std::filesystem::path &path, std::size_t byteLimit)
+{
+    auto file = RegularFile::open(path);
+    if (!file)
+        return std::nullopt;
+    const bool isLong = file->size() > static_cast<std::int64_t>(byteLimit);
+    const auto text = isLong ? readEnd(*file, byteLimit) : file->readUpTo(byteLimit);
+    if (!text || !isUtf8(*text))
+        return std::nullopt;
+    return parseLatest(*text);
+}
+
+std::optional<WeeklyKPILine> parseLatest(std::string_view text)
+{
+    while (const auto line = takeLastLine(text))
+        if (auto found = parseLine(*line))
+            return found;
+    return std::nullopt;
+}
+
+} // namespace Loadwick::WeeklyKPIReader
