@@ -30,6 +30,9 @@ std::optional<std::int64_t> comparedFigure(const nlohmann::json &object, std::st
 
 std::optional<WeeklyKPILine> parseLine(std::string_view line)
 {
+    // A log may hold millions of blank lines: each of them is to cost less than a JSON reader.
+    if (!trimmed(line).starts_with('{'))
+        return std::nullopt;
     const auto object =
         jsonObjectOfScalars(line, {"median_tokens_per_session", "tokens_per_pr", "total_tokens",
                                    "merged_prs", "window.start", "window.end", "timestamp"});

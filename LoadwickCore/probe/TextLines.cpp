@@ -35,12 +35,21 @@ std::size_t breakLength(std::string_view text, std::size_t index) noexcept
 /// Bytes of the line break that `text` ends with; 0 when there is none.
 std::size_t lastBreakLength(std::string_view text) noexcept
 {
-    if (text.ends_with("\r\n"))
-        return 2;
-    for (const std::size_t length : {std::size_t{1}, nextLine.size(), separatorHead.size() + 1})
-        if (text.size() >= length && breakLength(text, text.size() - length) == length)
-            return length;
-    return 0;
+    switch (text.empty() ? '\0' : text.back()) {
+    case '\n':
+        return text.ends_with("\r\n") ? 2 : 1;
+    case '\v':
+    case '\f':
+    case '\r':
+        return 1;
+    case '\x85':
+        return text.ends_with(nextLine) ? nextLine.size() : 0;
+    case '\xA8':
+    case '\xA9':
+        return text.substr(0, text.size() - 1).ends_with(separatorHead) ? 3 : 0;
+    default:
+        return 0;
+    }
 }
 
 } // namespace
