@@ -16,7 +16,8 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_locale(std::move(locale)),
       m_clock(std::move(clock)),
       m_start(m_clock()),
-      m_details({"label", "value"})
+      m_details({"label", "value"}),
+      m_weekly(m_locale)
 {
     m_tick.setInterval(std::chrono::seconds(1));
     connect(&m_tick, &QTimer::timeout, this, &OverviewPresenter::elapsedChanged);

@@ -9,6 +9,7 @@
 
 #include "model/ScanModel.h"
 #include "overview/ReportTexts.h"
+#include "overview/WeeklyPresenter.h"
 #include "report/TextLocale.h"
 #include "shell/TextRows.h"
 
@@ -33,6 +34,7 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
+    Q_PROPERTY(Loadwick::WeeklyPresenter *weekly READ weekly CONSTANT)
 
 public:
     enum class State
@@ -78,6 +80,8 @@ public:
     /// One row per detail, "label" and "value".
     [[nodiscard]] QAbstractItemModel *sessionDetails() { return &m_details; }
 
+    [[nodiscard]] WeeklyPresenter *weekly() { return &m_weekly; }
+
     /// Puts the summary on the clipboard.
     Q_INVOKABLE void copySummary() const;
 
@@ -102,6 +106,7 @@ private:
     QString m_detail;
     ReportTexts m_texts;
     TextRows m_details;
+    WeeklyPresenter m_weekly;
 };
 
 } // namespace Loadwick

@@ -41,6 +41,10 @@ PageColumn {
         Layout.fillWidth: true
         overview: page.overview
     }
+    WeeklyCard {
+        Layout.fillWidth: true
+        weekly: page.overview.weekly
+    }
     ReportSection {
         Layout.fillWidth: true
         overview: page.overview

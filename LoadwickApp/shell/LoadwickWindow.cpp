@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QUrl>
 
+#include "history/WeeklyKPIReader.h"
 #include "probe/Fatal.h"
 #include "probe/ProbeRunner.h"
 #include "probe/ProcessContext.h"
@@ -41,6 +42,7 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
         .historyStore =
             std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
         .locale = TextLocale::fromEnvironment(environment),
+        .weeklyLog = WeeklyKPIReader::defaultPath(homeFolder(environment)),
     };
 }
 
@@ -48,20 +50,21 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     : m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
                                             : platformDialog())
 {
+    if (!collaborators.dispatcher)
+        collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
+    const std::shared_ptr<TaskDispatcher> dispatcher = collaborators.dispatcher;
+    const std::filesystem::path weeklyLog = collaborators.weeklyLog;
     const TextLocale locale = collaborators.locale;
     makeModel(std::move(collaborators));
-    m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
-    m_overview = std::make_unique<OverviewPresenter>(*m_model, locale);
-    m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
-    m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
+    makePresenters(locale);
     makeWindow();
     attachChooser();
+    if (!weeklyLog.empty())
+        m_overview->weekly()->load(weeklyLog, dispatcher);
 }
 
 void LoadwickWindow::makeModel(Collaborators collaborators)
 {
-    if (!collaborators.dispatcher)
-        collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
     if (!collaborators.now)
         collaborators.now = systemNow;
     m_model = std::make_unique<ScanModel>(ScanModel::Collaborators{
@@ -71,6 +74,14 @@ void LoadwickWindow::makeModel(Collaborators collaborators)
         .dispatcher = std::move(collaborators.dispatcher),
         .now = std::move(collaborators.now),
     });
+}
+
+void LoadwickWindow::makePresenters(const TextLocale &locale)
+{
+    m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
+    m_overview = std::make_unique<OverviewPresenter>(*m_model, locale);
+    m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
+    m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
 }
 
 void LoadwickWindow::makeWindow()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -33,6 +34,7 @@ public:
         std::shared_ptr<TaskDispatcher> dispatcher = {};     ///< none: threads of their own
         std::function<std::chrono::sys_seconds()> now = {};  ///< none: the system's clock
         TextLocale locale = {};
+        std::filesystem::path weeklyLog = {}; ///< empty: none is read
 
         /// Those of the running program: the user's own home, environment and disk.
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);
@@ -51,6 +53,7 @@ public:
 
 private:
     void makeModel(Collaborators collaborators);
+    void makePresenters(const TextLocale &locale);
     void makeWindow();
     void attachChooser();
 

@@ -13,10 +13,23 @@ LoadwickWindow::Collaborators collaborators()
             .instructionScanner = std::make_shared<FakeInstructionScanner>()};
 }
 
+/// A week a little over one target and under the other.
+WeeklyKPILine sampleWeek()
+{
+    return {.medianTokensPerSession = 28'104'250,
+            .tokensPerPR = 35'912'004,
+            .totalTokens = 1'508'304'168,
+            .mergedPRs = 42,
+            .windowStart = "2026-03-02",
+            .windowEnd = "2026-03-08",
+            .timestamp = "2026-03-09T06:00:00Z"};
+}
+
 } // namespace
 
 Stage::Stage() : m_loadwick(collaborators())
 {
+    m_loadwick.overview().weekly()->show(sampleWeek());
     window().show();
 }
 

@@ -184,6 +184,26 @@ private Q_SLOTS:
         QVERIFY(!shows("One scan recorded"));
     }
 
+    void theWeeklyCardStaysWithoutALog()
+    {
+        scan(m_window->folder().path());
+        QTRY_VERIFY(shows("Weekly usage"));
+        QVERIFY(shows("No weekly KPI line is available locally."));
+        QVERIFY(!shows("Tokens/PR"));
+    }
+
+    void theWeeklyLogIsReadAtTheStart()
+    {
+        m_window->folder().write("weekly.jsonl", "{\"median_tokens_per_session\":27510462,"
+                                                 "\"tokens_per_pr\":37681167}\n");
+        scan(m_window->folder().path());
+        QTRY_VERIFY(shows("27,510,462"));
+        QVERIFY(shows("+0 versus target"));
+        QVERIFY(shows("-1 versus target"));
+        QVERIFY(shows("Window: unknown – unknown"));
+        QVERIFY(!shows("No weekly KPI line is available locally."));
+    }
+
     void theSessionDetailsOpen()
     {
         scan(m_window->folder().path());

@@ -34,6 +34,7 @@ WindowFixture::WindowFixture()
         .historyStore = std::make_unique<ScanHistoryStore>(m_folder.path() / "history"),
         .folderChooser = std::move(chooser),
         .dispatcher = m_dispatcher,
+        .weeklyLog = m_folder.path() / "weekly.jsonl",
     });
     m_loadwick->window().show();
     m_loadwick->window().requestActivate();

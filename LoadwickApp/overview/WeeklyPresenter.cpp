@@ -1,0 +1,72 @@
+#include "overview/WeeklyPresenter.h"
+
+#include <chrono>
+#include <exception>
+
+#include <QPointer>
+
+#include "history/WeeklyKPIReader.h"
+#include "probe/BoundedCall.h"
+#include "report/NumberText.h"
+#include "shell/QtText.h"
+
+namespace Loadwick {
+namespace {
+
+std::optional<WeeklyKPILine> readInTime(const std::filesystem::path &log)
+{
+    constexpr std::chrono::seconds limit(30);
+    try {
+        return callWithin(limit, [log] { return WeeklyKPIReader::read(log); })
+            .value_or(std::nullopt);
+    } catch (const std::exception &) {
+        return std::nullopt; // No memory or no thread: the card does without.
+    }
+}
+
+} // namespace
+
+void WeeklyPresenter::load(const std::filesystem::path &log,
+                           const std::shared_ptr<TaskDispatcher> &dispatcher)
+{
+    const QPointer<WeeklyPresenter> presenter(this);
+    try {
+        dispatcher->runInBackground([log, dispatcher, presenter] {
+            dispatcher->postToInterface([presenter, line = readInTime(log)] {
+                if (presenter)
+                    presenter->show(line);
+            });
+        });
+    } catch (const std::exception &) {
+        show(std::nullopt);
+    }
+}
+
+void WeeklyPresenter::show(const std::optional<WeeklyKPILine> &line)
+{
+    m_hasLine = line.has_value();
+    m_median = m_hasLine ? figure(line->medianTokensPerSession, line->medianDelta()) : Figure();
+    m_tokensPerPR = m_hasLine ? figure(line->tokensPerPR, line->tokensPerPRDelta()) : Figure();
+    m_window.clear();
+    m_recorded.clear();
+    if (m_hasLine) {
+        m_window = QStringLiteral("Window: ") + qtText(line->windowStart) + QStringLiteral(" – ") +
+                   qtText(line->windowEnd);
+        m_recorded = QStringLiteral("Recorded: ") + qtText(line->timestamp);
+    }
+    Q_EMIT changed();
+}
+
+QString WeeklyPresenter::targets() const
+{
+    return QStringLiteral("Targets: ") + qtText(WeeklyKPIReader::targetsSource);
+}
+
+WeeklyPresenter::Figure WeeklyPresenter::figure(std::int64_t tokens, std::int64_t delta) const
+{
+    return {.value = qtText(NumberText::grouped(tokens, m_locale)),
+            .caption = qtText(NumberText::groupedChange(delta, m_locale)) +
+                       QStringLiteral(" versus target")};
+}
+
+} // namespace Loadwick
