@@ -80,6 +80,7 @@ TEST(DateTextTest, writesTheTimeOfDayAloneForShortSpans)
     const TimeZone utc("UTC");
     EXPECT_EQ(DateText::timeOfDay(morning, {.dates = "de_DE"}), "09:15");
     EXPECT_EQ(DateText::secondOfDay(morning, {.dates = "de_DE"}), "09:15:27");
+    EXPECT_EQ(DateText::dayOfYearAndTime(morning, {.dates = "de_DE"}), "4. März, 09:15");
 }
 
 TEST(DateTextTest, writesTwelveHoursWhereTheLocaleCountsThem)
