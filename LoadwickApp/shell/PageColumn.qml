@@ -17,6 +17,8 @@ PageAppear {
         anchors.fill: parent
         contentWidth: availableWidth
         contentHeight: column.implicitHeight + 2 * AppTheme.pageMargin
+        // Its own steps would be a tenth of the page, however long that is.
+        Keys.onPressed: event => { event.accepted = scroll.press(event.key); }
         ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
         ScrollBar.vertical: ThinScrollBar {
             parent: scroller
@@ -32,5 +34,22 @@ PageAppear {
             width: Math.min(AppTheme.contentWidth, scroller.availableWidth - 2 * AppTheme.pageMargin)
             spacing: AppTheme.cardSpace
         }
+    }
+
+    PageScroll {
+        id: scroll
+
+        viewport: page.viewport
+    }
+    // With the keyboard in the sidebar or the toolbar the page can be read too.
+    Shortcut {
+        sequences: ["PgUp"]
+        enabled: page.visible && !scroller.activeFocus
+        onActivated: scroll.press(Qt.Key_PageUp)
+    }
+    Shortcut {
+        sequences: ["PgDown"]
+        enabled: page.visible && !scroller.activeFocus
+        onActivated: scroll.press(Qt.Key_PageDown)
     }
 }

@@ -71,6 +71,8 @@ QtObject {
     readonly property int stateWidth: 420
     readonly property int controlHeight: 32
     readonly property int iconSize: 16
+    // How far an arrow key scrolls.
+    readonly property int scrollStep: 48
     // The column of trend pills: wide enough for a change of six figures.
     readonly property int trendWidth: 104
 

@@ -1,0 +1,75 @@
+import QtQuick
+import Loadwick
+
+// Moves a scrolling page for the keyboard: by the keys that scroll, and to what has got the focus.
+Item {
+    id: scroll
+
+    required property Flickable viewport
+    readonly property real farthest: Math.max(0, scroll.viewport.contentHeight - scroll.viewport.height)
+    // What was at the edge stays in sight.
+    readonly property real pageStep: scroll.viewport.height - AppTheme.wideSpace
+
+    function moveTo(y) {
+        scroll.viewport.contentY = Math.max(0, Math.min(scroll.farthest, y));
+    }
+
+    // Gives whether it is a key that scrolls.
+    function press(key) {
+        const here = scroll.viewport.contentY;
+        switch (key) {
+        case Qt.Key_Up: scroll.moveTo(here - AppTheme.scrollStep); return true;
+        case Qt.Key_Down: scroll.moveTo(here + AppTheme.scrollStep); return true;
+        case Qt.Key_PageUp: scroll.moveTo(here - scroll.pageStep); return true;
+        case Qt.Key_PageDown: scroll.moveTo(here + scroll.pageStep); return true;
+        case Qt.Key_Home: scroll.moveTo(0); return true;
+        case Qt.Key_End: scroll.moveTo(scroll.farthest); return true;
+        default: return false;
+        }
+    }
+
+    function holds(item) {
+        let holder = item;
+        while (holder && holder !== scroll.viewport.contentItem)
+            holder = holder.parent;
+        return holder === scroll.viewport.contentItem;
+    }
+
+    // What is higher than the page can show stays where it is.
+    function reveal(item) {
+        const box = item.mapToItem(scroll.viewport.contentItem, 0, 0, item.width, item.height);
+        const start = box.y - AppTheme.cardSpace;
+        const end = box.y + box.height + AppTheme.cardSpace;
+        if (end - start > scroll.viewport.height)
+            return;
+        if (start < scroll.viewport.contentY)
+            scroll.moveTo(start);
+        else if (end > scroll.viewport.contentY + scroll.viewport.height)
+            scroll.moveTo(end - scroll.viewport.height);
+    }
+
+    // Under a pressed pointer nothing moves: it would be released over something else.
+    function revealFocus() {
+        const item = scroll.Window.activeFocusItem;
+        if (item && !pointer.active && scroll.holds(item))
+            scroll.reveal(item);
+    }
+
+    Window.onActiveFocusItemChanged: afterwards.restart()
+
+    // The pointer below hears of its press only after what it has pressed.
+    Timer {
+        id: afterwards
+
+        interval: 0
+        onTriggered: scroll.revealFocus()
+    }
+
+    PointHandler {
+        id: pointer
+
+        parent: scroll.viewport
+        target: null
+        acceptedButtons: Qt.AllButtons
+    }
+}
