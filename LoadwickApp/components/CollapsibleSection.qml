@@ -9,6 +9,7 @@ ColumnLayout {
 
     required property string title
     property string detail: ""
+    property font titleFont: AppTheme.headlineFont
     property bool isExpanded: false
     default property alias content: body.data
 
@@ -48,6 +49,7 @@ ColumnLayout {
                 Layout.fillWidth: true
                 title: section.title
                 detail: section.detail
+                titleFont: section.titleFont
             }
         }
 

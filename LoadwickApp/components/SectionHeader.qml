@@ -8,13 +8,14 @@ ColumnLayout {
 
     required property string title
     property string detail: ""
+    property font titleFont: AppTheme.headlineFont
 
     spacing: 2
 
     PlainLabel {
         Layout.fillWidth: true
         text: header.title
-        font: AppTheme.headlineFont
+        font: header.titleFont
         wrapMode: Text.Wrap
     }
     PlainLabel {

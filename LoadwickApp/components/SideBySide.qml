@@ -25,9 +25,27 @@ GridLayout {
             sum += need + layout.columnSpacing;
         return sum - layout.columnSpacing;
     }
-    readonly property bool stacked: layout.width < layout.neededWidth
+    // Before its width is known it takes the common case: each change of mind lays the page out anew.
+    readonly property bool stacked: layout.width > 0 && layout.width < layout.neededWidth
 
-    columns: layout.stacked ? 1 : Math.max(1, layout.needs.length)
+    // A layout that is being laid out takes no note of other columns, so they come right after.
+    function arrange() {
+        layout.columns = layout.stacked ? 1 : Math.max(1, layout.needs.length);
+    }
+
+    onStackedChanged: later.restart()
+    onNeedsChanged: later.restart()
+    Component.onCompleted: layout.arrange()
+
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: layout.arrange()
+    }
+
+    // Not the width of its columns: then it would be made too wide rather than stacked.
+    Layout.minimumWidth: 0
+    columns: 2
     columnSpacing: AppTheme.wideSpace
     rowSpacing: AppTheme.cardSpace
 }
