@@ -2,23 +2,39 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The one number, and the band it falls in.
+// The one number, the band it falls in, and where in that band it sits.
 ReportSurface {
     id: card
 
-    required property OverviewPresenter overview
+    required property BandPresenter band
 
-    GridLayout {
+    spacing: AppTheme.cardSpace
+
+    SideBySide {
         Layout.fillWidth: true
-        columns: card.width < 560 ? 1 : 2
-        columnSpacing: AppTheme.wideSpace
-        rowSpacing: AppTheme.cardSpace
 
         BandLead {
             Layout.fillWidth: true
+            Layout.minimumWidth: AppTheme.copyMinimumWidth
             Layout.alignment: Qt.AlignVCenter
-            overview: card.overview
+            band: card.band
         }
-        TotalMetric { overview: card.overview }
+        TotalMetric { band: card.band }
+    }
+    BandMeter {
+        Layout.fillWidth: true
+        band: card.band
+    }
+    CollapsibleSection {
+        Layout.fillWidth: true
+        title: "Why these bands?"
+        // An aside, not a section of its own.
+        titleFont: AppTheme.subheadlineStrongFont
+
+        SelectableText {
+            Layout.fillWidth: true
+            text: card.band.anchorNote
+            secondary: true
+        }
     }
 }

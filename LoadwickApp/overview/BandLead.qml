@@ -6,14 +6,8 @@ import Loadwick
 ColumnLayout {
     id: lead
 
-    required property OverviewPresenter overview
-    readonly property color bandColor: {
-        switch (lead.overview.band) {
-        case OverviewPresenter.Heavy: return AppTheme.bandHeavyText;
-        case OverviewPresenter.Excessive: return AppTheme.bandExcessiveText;
-        default: return AppTheme.bandLeanText;
-        }
-    }
+    required property BandPresenter band
+    readonly property color bandColor: AppTheme.bandTexts[lead.band.band]
 
     spacing: AppTheme.smallSpace
 
@@ -29,7 +23,7 @@ ColumnLayout {
         }
         PlainLabel {
             Layout.fillWidth: true
-            text: lead.overview.bandTitle
+            text: lead.band.title
             font: AppTheme.title2Font
             color: lead.bandColor
             wrapMode: Text.Wrap
@@ -37,7 +31,7 @@ ColumnLayout {
     }
     PlainLabel {
         Layout.fillWidth: true
-        text: lead.overview.bandSentence
+        text: lead.band.sentence
         wrapMode: Text.Wrap
     }
 }

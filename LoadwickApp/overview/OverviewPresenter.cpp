@@ -17,7 +17,8 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_clock(std::move(clock)),
       m_start(m_clock()),
       m_details({"label", "value"}),
-      m_weekly(m_locale)
+      m_weekly(m_locale),
+      m_band(m_locale)
 {
     m_tick.setInterval(std::chrono::seconds(1));
     connect(&m_tick, &QTimer::timeout, this, &OverviewPresenter::elapsedChanged);
@@ -28,19 +29,6 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
 QString OverviewPresenter::elapsed() const
 {
     return elapsedTimeText(std::chrono::duration_cast<std::chrono::seconds>(m_clock() - m_start));
-}
-
-OverviewPresenter::Band OverviewPresenter::band() const noexcept
-{
-    switch (m_texts.band) {
-    case OpinionBand::lean:
-        return Band::Lean;
-    case OpinionBand::heavy:
-        return Band::Heavy;
-    case OpinionBand::excessive:
-        return Band::Excessive;
-    }
-    return Band::Lean;
 }
 
 void OverviewPresenter::copySummary() const
@@ -73,6 +61,7 @@ void OverviewPresenter::show(const ScanState::Result &result)
     m_state = State::Report;
     m_texts = ReportTexts::fromReport(result.report, m_locale);
     m_details.setRows(m_texts.details);
+    m_band.show(result.report);
 }
 
 void OverviewPresenter::showCurrentState()

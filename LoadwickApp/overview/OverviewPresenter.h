@@ -8,6 +8,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "model/ScanModel.h"
+#include "overview/BandPresenter.h"
 #include "overview/ReportTexts.h"
 #include "overview/WeeklyPresenter.h"
 #include "report/TextLocale.h"
@@ -26,15 +27,12 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
-    Q_PROPERTY(Band band READ band NOTIFY changed)
     Q_PROPERTY(QString repositoryPath READ repositoryPath NOTIFY changed)
-    Q_PROPERTY(QString bandTitle READ bandTitle NOTIFY changed)
-    Q_PROPERTY(QString bandSentence READ bandSentence NOTIFY changed)
-    Q_PROPERTY(QString total READ total NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
     Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
     Q_PROPERTY(Loadwick::WeeklyPresenter *weekly READ weekly CONSTANT)
+    Q_PROPERTY(Loadwick::BandPresenter *band READ band CONSTANT)
 
 public:
     enum class State
@@ -45,14 +43,6 @@ public:
         Report
     };
     Q_ENUM(State)
-
-    enum class Band
-    {
-        Lean,
-        Heavy,
-        Excessive
-    };
-    Q_ENUM(Band)
 
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
@@ -69,11 +59,7 @@ public:
     [[nodiscard]] QString detail() const { return m_detail; }
 
     /// The words and figures of the last report; they mean something only in the state Report.
-    [[nodiscard]] Band band() const noexcept;
     [[nodiscard]] QString repositoryPath() const { return m_texts.repositoryPath; }
-    [[nodiscard]] QString bandTitle() const { return m_texts.bandTitle; }
-    [[nodiscard]] QString bandSentence() const { return m_texts.bandSentence; }
-    [[nodiscard]] QString total() const { return m_texts.total; }
     [[nodiscard]] QString summary() const { return m_texts.summary; }
     [[nodiscard]] QStringList notes() const { return m_texts.notes; }
 
@@ -81,6 +67,8 @@ public:
     [[nodiscard]] QAbstractItemModel *sessionDetails() { return &m_details; }
 
     [[nodiscard]] WeeklyPresenter *weekly() { return &m_weekly; }
+    /// What the cards show; it stays the last report's, whatever the state.
+    [[nodiscard]] BandPresenter *band() { return &m_band; }
 
     /// Puts the summary on the clipboard.
     Q_INVOKABLE void copySummary() const;
@@ -107,6 +95,7 @@ private:
     ReportTexts m_texts;
     TextRows m_details;
     WeeklyPresenter m_weekly;
+    BandPresenter m_band;
 };
 
 } // namespace Loadwick

@@ -39,7 +39,11 @@ PageColumn {
     }
     BandCard {
         Layout.fillWidth: true
-        overview: page.overview
+        band: page.overview.band
+    }
+    HealthScoreCard {
+        Layout.fillWidth: true
+        band: page.overview.band
     }
     WeeklyCard {
         Layout.fillWidth: true

@@ -6,14 +6,6 @@
 namespace Loadwick {
 namespace {
 
-QString bandSentence(const ScanReport &report, const TextLocale &locale)
-{
-    return QStringLiteral("The total measured by Claude is ") +
-           qtText(NumberText::grouped(report.total, locale)) +
-           QStringLiteral(" tokens, which falls in the ") + qtText(report.band.title()) +
-           QStringLiteral(" band (") + qtText(report.band.range(locale)) + QStringLiteral(").");
-}
-
 QList<QStringList> details(const ScanReport &report)
 {
     return {
@@ -38,11 +30,7 @@ QString summary(const ScanReport &report, const TextLocale &locale)
 ReportTexts ReportTexts::fromReport(const ScanReport &report, const TextLocale &locale)
 {
     return {
-        .band = report.band,
         .repositoryPath = qtText(report.repositoryPath),
-        .bandTitle = qtText(report.band.title()) + QStringLiteral(" startup context"),
-        .bandSentence = Loadwick::bandSentence(report, locale),
-        .total = qtText(NumberText::grouped(report.total, locale)),
         .details = Loadwick::details(report),
         .notes = {qtText(ScanReport::measurementNote), qtText(ScanReport::splitsEstimateNote),
                   qtText(report.totalSourceLine())},

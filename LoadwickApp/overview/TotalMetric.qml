@@ -6,7 +6,7 @@ import Loadwick
 ColumnLayout {
     id: metric
 
-    required property OverviewPresenter overview
+    required property BandPresenter band
 
     spacing: 0
 
@@ -15,7 +15,7 @@ ColumnLayout {
 
         PlainLabel {
             Layout.alignment: Qt.AlignBaseline
-            text: metric.overview.total
+            text: metric.band.total
             font: AppTheme.heroMetricFont
         }
         PlainLabel {

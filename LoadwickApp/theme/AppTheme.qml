@@ -47,6 +47,7 @@ QtObject {
     // of numbers too. It has no medium weight: what should be medium is semibold.
     readonly property font heroMetricFont: Qt.font({ pixelSize: 46, weight: Font.DemiBold, letterSpacing: -0.5 })
     readonly property font largeTitleFont: Qt.font({ pixelSize: 28, weight: Font.DemiBold, letterSpacing: -0.3 })
+    readonly property font gaugeFont: Qt.font({ pixelSize: 24, weight: Font.DemiBold })
     readonly property font title2Font: Qt.font({ pixelSize: 20, weight: Font.DemiBold })
     readonly property font title3Font: Qt.font({ pixelSize: 17 })
     readonly property font title3StrongFont: Qt.font({ pixelSize: 17, weight: Font.DemiBold })
@@ -69,12 +70,19 @@ QtObject {
     readonly property int cardPadding: 16
     readonly property int contentWidth: 1040
     readonly property int stateWidth: 420
+    // What words beside a figure need before they go below it.
+    readonly property int copyMinimumWidth: 280
     readonly property int controlHeight: 32
     readonly property int iconSize: 16
     // How far an arrow key scrolls.
     readonly property int scrollStep: 48
     // The column of trend pills: wide enough for a change of six figures.
     readonly property int trendWidth: 104
+
+    readonly property int meterHeight: 16
+    readonly property int meterTickWidth: 2
+    readonly property int gaugeSide: 100
+    readonly property int gaugeArcSide: 90
 
     readonly property int cardRadius: 14
     readonly property int controlRadius: 8

@@ -1,5 +1,6 @@
 #include "QuickTestSetup.h"
 
+#include "SampleBand.h"
 #include "theme/ApplicationStyle.h"
 
 #include <QGuiApplication>
@@ -16,6 +17,7 @@ void QuickTestSetup::applicationAvailable()
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine *engine)
 {
     ApplicationStyle::addModulePath(*engine);
+    qmlRegisterType<SampleBand>("LoadwickTest", 1, 0, "SampleBand");
 }
 
 } // namespace Loadwick

@@ -1,0 +1,44 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// How much of the band scale the total leaves free. An illustration, and it says so itself.
+ReportSurface {
+    id: card
+
+    required property BandPresenter band
+    readonly property alias animatedScore: gauge.animatedScore
+
+    SideBySide {
+        Layout.fillWidth: true
+        columnSpacing: AppTheme.pageMargin
+
+        ScoreGauge {
+            id: gauge
+            band: card.band
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.minimumWidth: AppTheme.copyMinimumWidth
+            Layout.alignment: Qt.AlignVCenter
+            spacing: AppTheme.smallSpace
+
+            SectionHeader {
+                Layout.fillWidth: true
+                title: "Context headroom"
+                detail: card.band.scoreDetail
+            }
+            TintPill {
+                label: "Illustrative score — not a measurement"
+                tint: AppTheme.bandTexts[card.band.band]
+            }
+            PlainLabel {
+                Layout.fillWidth: true
+                text: card.band.scoreCaption
+                font: AppTheme.captionFont
+                secondary: true
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+}

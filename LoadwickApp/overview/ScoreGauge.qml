@@ -1,0 +1,53 @@
+import QtQuick
+import Loadwick
+
+// The headroom score as an instrument: a ring that fills, its figure in the middle, its name where
+// the ring is open.
+Item {
+    id: gauge
+
+    required property BandPresenter band
+    // What the ring shows; on its way to the score it differs from the figure.
+    readonly property alias animatedScore: entrance.value
+
+    implicitWidth: AppTheme.gaugeSide
+    implicitHeight: AppTheme.gaugeSide
+    Accessible.role: Accessible.Graphic
+    Accessible.name: gauge.band.scoreSummary
+
+    SpringSweep {
+        id: entrance
+        end: gauge.band.score
+    }
+
+    Connections {
+        target: gauge.band
+        function onChanged() {
+            if (entrance.hasBegun)
+                entrance.begin();
+        }
+    }
+
+    GaugeArc {
+        objectName: "arc"
+        anchors.centerIn: parent
+        width: AppTheme.gaugeArcSide
+        height: AppTheme.gaugeArcSide
+        value: gauge.animatedScore
+        tint: AppTheme.bandShapes[gauge.band.band]
+        track: AppTheme.quietFill
+    }
+    PlainLabel {
+        anchors.centerIn: parent
+        text: gauge.band.scoreText
+        font: AppTheme.gaugeFont
+        Accessible.ignored: true
+    }
+    PlainLabel {
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
+        text: "Score"
+        font: AppTheme.captionFont
+        secondary: true
+        Accessible.ignored: true
+    }
+}

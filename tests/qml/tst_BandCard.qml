@@ -1,0 +1,64 @@
+import QtQuick
+import QtTest
+import Loadwick
+import LoadwickTest
+
+Item {
+    id: scene
+    width: 800
+    height: 600
+
+    SampleBand { id: sample; total: 42318 }
+
+    Component {
+        id: cards
+        BandCard { width: 800; band: sample.presenter }
+    }
+
+    TestCase {
+        name: "BandCard"
+        when: windowShown
+
+        function label(item, text) {
+            if (item.text === text && item.visible)
+                return item;
+            for (let i = 0; i < item.children.length; ++i) {
+                const found = label(item.children[i], text);
+                if (found)
+                    return found;
+            }
+            return null;
+        }
+
+        function test_showsTheBandTheTotalAndWhoMeasuredIt() {
+            const card = createTemporaryObject(cards, scene);
+            for (const text of ["Heavy startup context", "42,318", "tokens", "Authoritative · measured by Claude",
+                                "The total measured by Claude is 42,318 tokens, which falls in the Heavy band (30,000–60,000)."])
+                verify(label(card, text), text);
+            compare(label(card, "Heavy startup context").color, AppTheme.bandHeavyText);
+            compare(label(card, "42,318").font.pixelSize, 46);
+        }
+
+        function test_standsSideBySideWhereItFits() {
+            const card = createTemporaryObject(cards, scene);
+            const total = label(card, "42,318");
+            tryVerify(() => total.mapToItem(card, 0, 0).x > 400);
+        }
+
+        function test_stacksWhereItDoesNotFit() {
+            const card = createTemporaryObject(cards, scene, { width: 420 });
+            const title = label(card, "Heavy startup context");
+            const total = label(card, "42,318");
+            tryVerify(() => total.mapToItem(card, 0, 0).y > title.mapToItem(card, 0, 0).y + 40);
+            verify(total.mapToItem(card, 0, 0).x < 40);
+        }
+
+        function test_saysWhyTheBandsAreWhereTheyAreWhenAsked() {
+            const card = createTemporaryObject(cards, scene);
+            const why = sample.presenter.anchorNote;
+            compare(label(card, why), null);
+            mouseClick(label(card, "Why these bands?"));
+            verify(label(card, why));
+        }
+    }
+}
