@@ -1,0 +1,91 @@
+import QtQuick
+import QtQuick.Controls
+import Loadwick
+
+// A path on one line that leaves out its middle where it is too long. The tool tip holds the whole,
+// and so does the line itself, selected and ready to be copied, once it is pressed or focused.
+Item {
+    id: control
+
+    required property string text
+    property bool secondary: false
+    property font font: AppTheme.bodyFont
+    property color color: secondary ? AppTheme.secondaryText : AppTheme.text
+    // Not in a list, which is one stop by itself.
+    property bool tabStop: true
+    readonly property alias truncated: label.truncated
+    readonly property alias selecting: edit.activeFocus
+    readonly property alias selectedText: edit.selectedText
+
+    implicitWidth: label.implicitWidth
+    implicitHeight: label.implicitHeight
+    baselineOffset: label.baselineOffset
+
+    PlainLabel {
+        id: label
+
+        anchors.fill: parent
+        text: control.text
+        font: control.font
+        color: control.color
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+        verticalAlignment: Text.AlignVCenter
+        visible: !edit.activeFocus
+        Accessible.ignored: true
+    }
+
+    TextInput {
+        id: edit
+
+        anchors.fill: parent
+        text: control.text
+        font: control.font
+        color: control.color
+        readOnly: true
+        selectByMouse: true
+        clip: true
+        verticalAlignment: TextInput.AlignVCenter
+        activeFocusOnTab: control.tabStop
+        selectionColor: AppTheme.accent
+        selectedTextColor: AppTheme.accentText
+        // Not hidden, which would keep the focus away.
+        opacity: edit.activeFocus ? 1 : 0
+
+        Accessible.role: Accessible.EditableText
+        Accessible.readOnly: true
+        Accessible.name: control.text
+
+        onActiveFocusChanged: {
+            if (edit.activeFocus)
+                edit.selectAll();
+            else
+                edit.deselect();
+        }
+    }
+
+    // The first press selects everything; from then on parts can be selected.
+    MouseArea {
+        anchors.fill: parent
+        enabled: !edit.activeFocus
+        cursorShape: Qt.IBeamCursor
+        Accessible.ignored: true
+        onClicked: edit.forceActiveFocus(Qt.MouseFocusReason)
+    }
+
+    HoverHandler { id: pointer }
+
+    // Made for the one that is pointed at: there may be thousands of paths.
+    Loader {
+        active: pointer.hovered && label.truncated
+        sourceComponent: PlainToolTip {
+            words: control.text
+            visible: true
+        }
+    }
+
+    FocusRing {
+        shown: edit.activeFocus
+        controlRadius: 2
+    }
+}
