@@ -1,0 +1,180 @@
+#include "charts/TreemapChart.h"
+
+#include <vector>
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+namespace Loadwick {
+namespace {
+
+/// Smaller tiles have square corners: round ones would leave nothing of them.
+constexpr qreal leastRounded = 8.0;
+constexpr qreal namePadding = 8.0;
+constexpr qreal outlineWidth = 2.0;
+
+QRectF rectOf(const TreemapTiles::Box &box)
+{
+    return {box.left, box.top, box.width, box.height};
+}
+
+/// The number by which the model knows a name of a role, -1 for none.
+int roleOf(const QAbstractItemModel &model, const QByteArray &name)
+{
+    return model.roleNames().key(name, -1);
+}
+
+} // namespace
+
+TreemapChart::TreemapChart(QQuickItem *parent) : MarkedChart(parent)
+{
+    connect(this, &TreemapChart::looksChanged, this, &TreemapChart::repaintTiles);
+}
+
+void TreemapChart::setModel(QAbstractItemModel *model)
+{
+    if (m_model == model)
+        return;
+    if (m_model)
+        m_model->disconnect(this);
+    m_model = model;
+    if (m_model)
+        connect(m_model, &QAbstractItemModel::modelReset, this, &TreemapChart::readRows);
+    readRows();
+    Q_EMIT modelChanged();
+}
+
+void TreemapChart::paint(QPainter *painter)
+{
+    const qreal pixelsPerPoint = painter->deviceTransform().m11();
+    if (m_painted.isNull() || m_painted.devicePixelRatio() != pixelsPerPoint)
+        m_painted = paintedTiles(pixelsPerPoint);
+    const bool isAtRest = currentMark() < 0;
+    painter->save();
+    if (!isAtRest) {
+        const QRectF hole =
+            rectOf(m_tiles.box(static_cast<std::size_t>(currentMark()), pixelsPerPoint));
+        painter->setClipRegion(QRegion(boundingRect().toAlignedRect()) - hole.toAlignedRect());
+    }
+    painter->setOpacity(isAtRest ? m_restOpacity : m_dimmedOpacity);
+    painter->drawImage(QPointF(0.0, 0.0), m_painted);
+    painter->restore();
+    if (!isAtRest)
+        paintCurrent(*painter, pixelsPerPoint);
+    paintNames(*painter);
+}
+
+int TreemapChart::markCount() const
+{
+    return static_cast<int>(m_tiles.count());
+}
+
+int TreemapChart::markAt(const QPointF &point) const
+{
+    return m_tiles.tileAt(point.x(), point.y());
+}
+
+void TreemapChart::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    MarkedChart::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() == oldGeometry.size())
+        return;
+    m_tiles.setFrame(newGeometry.width(), newGeometry.height());
+    repaintTiles();
+}
+
+void TreemapChart::readRows()
+{
+    std::vector<double> weights;
+    if (m_model) {
+        const int role = roleOf(*m_model, "weight");
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            weights.push_back(m_model->index(row, 0).data(role).toDouble());
+    }
+    m_tiles = TreemapTiles(weights);
+    m_tiles.setFrame(width(), height());
+    forgetMarks();
+    repaintTiles();
+}
+
+void TreemapChart::repaintTiles()
+{
+    m_painted = {};
+    update();
+}
+
+QString TreemapChart::nameOf(std::size_t tile) const
+{
+    if (!m_model)
+        return {};
+    const QModelIndex index = m_model->index(static_cast<int>(tile), 0);
+    return index.data(roleOf(*m_model, "name")).toString();
+}
+
+QColor TreemapChart::colorOf(std::size_t tile) const
+{
+    return m_colors.isEmpty() ? m_textColor
+                              : m_colors.at(static_cast<qsizetype>(tile) % m_colors.size());
+}
+
+QImage TreemapChart::paintedTiles(qreal pixelsPerPoint) const
+{
+    QImage image((size() * pixelsPerPoint).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(pixelsPerPoint);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t tile = 0; tile < m_tiles.count(); ++tile)
+        paintTile(painter, tile, pixelsPerPoint);
+    return image;
+}
+
+void TreemapChart::paintTile(QPainter &painter, std::size_t tile, qreal pixelsPerPoint) const
+{
+    const QRectF rect = rectOf(m_tiles.box(tile, pixelsPerPoint));
+    if (rect.width() < leastRounded || rect.height() < leastRounded) {
+        painter.fillRect(rect, colorOf(tile));
+        return;
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colorOf(tile));
+    painter.drawRoundedRect(rect, m_radius, m_radius);
+}
+
+void TreemapChart::paintCurrent(QPainter &painter, qreal pixelsPerPoint) const
+{
+    const auto tile = static_cast<std::size_t>(currentMark());
+    painter.setOpacity(m_currentOpacity);
+    paintTile(painter, tile, pixelsPerPoint);
+    painter.setOpacity(1.0);
+    // The line lies inside of the tile, so that no neighbour is touched.
+    const qreal inset = outlineWidth / 2.0;
+    const QRectF line =
+        rectOf(m_tiles.box(tile, pixelsPerPoint)).adjusted(inset, inset, -inset, -inset);
+    if (!line.isValid())
+        return;
+    painter.setPen(QPen(colorOf(tile), outlineWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(line, m_radius - inset, m_radius - inset);
+}
+
+void TreemapChart::paintNames(QPainter &painter) const
+{
+    const QFontMetricsF metrics(m_font);
+    painter.setFont(m_font);
+    painter.setPen(m_textColor);
+    for (std::size_t tile = 0; tile < m_tiles.count(); ++tile) {
+        if (!m_tiles.showsName(tile))
+            continue;
+        const bool isDimmed = currentMark() >= 0 && currentMark() != static_cast<int>(tile);
+        painter.setOpacity(isDimmed ? 0.6 : 1.0);
+        const TreemapRect rect = m_tiles.tile(tile);
+        const QRectF room(rect.x + namePadding, rect.y + namePadding / 2.0,
+                          rect.width - 2.0 * namePadding, rect.height - namePadding);
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
+                         metrics.elidedText(nameOf(tile), Qt::ElideMiddle, room.width()));
+    }
+    painter.setOpacity(1.0);
+}
+
+} // namespace Loadwick
