@@ -18,7 +18,7 @@ namespace Loadwick {
 ///
 /// All tiles are one painting, made once per size, so that ten thousand cost no more than one to
 /// move over.
-class TreemapChart : public MarkedChart
+class TreemapChart : public Loadwick::MarkedChart
 {
     Q_OBJECT
     QML_ELEMENT

@@ -75,12 +75,18 @@ Item {
 
     HoverHandler { id: pointer }
 
-    // Made for the one that is pointed at: there may be thousands of paths.
+    // Made for the one that is pointed at: there may be many paths.
     Loader {
-        active: pointer.hovered && label.truncated
-        sourceComponent: PlainToolTip {
-            words: control.text
-            visible: true
+        id: tip
+
+        objectName: "tip"
+        readonly property bool wanted: pointer.hovered && label.truncated
+
+        onWantedChanged: {
+            if (tip.wanted)
+                tip.setSource("PlainToolTip.qml", { words: control.text, visible: true });
+            else
+                tip.source = "";
         }
     }
 

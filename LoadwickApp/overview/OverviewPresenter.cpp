@@ -11,11 +11,14 @@
 
 namespace Loadwick {
 
-OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock clock)
+OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock clock,
+                                     std::filesystem::path home)
     : m_model(model),
       m_locale(std::move(locale)),
       m_clock(std::move(clock)),
       m_start(m_clock()),
+      m_files(m_locale, std::move(home)),
+      m_largestFiles(m_locale),
       m_details({"label", "value"}),
       m_weekly(m_locale),
       m_band(m_locale)
@@ -60,6 +63,8 @@ void OverviewPresenter::show(const ScanState::Result &result)
 {
     m_state = State::Report;
     m_texts = ReportTexts::fromReport(result.report, m_locale);
+    m_files.show(result.report);
+    m_largestFiles.show(result.report);
     m_details.setRows(m_texts.details);
     m_band.show(result.report);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 
 #include <QObject>
@@ -9,6 +10,8 @@
 
 #include "model/ScanModel.h"
 #include "overview/BandPresenter.h"
+#include "overview/InstructionFilesPresenter.h"
+#include "overview/LargestFilesPresenter.h"
 #include "overview/ReportTexts.h"
 #include "overview/WeeklyPresenter.h"
 #include "report/TextLocale.h"
@@ -30,6 +33,8 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QString repositoryPath READ repositoryPath NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
+    Q_PROPERTY(Loadwick::InstructionFilesPresenter *files READ files CONSTANT)
+    Q_PROPERTY(Loadwick::LargestFilesPresenter *largestFiles READ largestFiles CONSTANT)
     Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
     Q_PROPERTY(Loadwick::WeeklyPresenter *weekly READ weekly CONSTANT)
     Q_PROPERTY(Loadwick::BandPresenter *band READ band CONSTANT)
@@ -46,8 +51,10 @@ public:
 
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
+    /// Without a home folder no file that could not be read counts as the user's own.
     OverviewPresenter(ScanModel &model, TextLocale locale,
-                      Clock clock = &std::chrono::steady_clock::now);
+                      Clock clock = &std::chrono::steady_clock::now,
+                      std::filesystem::path home = {});
 
     [[nodiscard]] State state() const noexcept { return m_state; }
 
@@ -62,6 +69,9 @@ public:
     [[nodiscard]] QString repositoryPath() const { return m_texts.repositoryPath; }
     [[nodiscard]] QString summary() const { return m_texts.summary; }
     [[nodiscard]] QStringList notes() const { return m_texts.notes; }
+
+    [[nodiscard]] InstructionFilesPresenter *files() { return &m_files; }
+    [[nodiscard]] LargestFilesPresenter *largestFiles() { return &m_largestFiles; }
 
     /// One row per detail, "label" and "value".
     [[nodiscard]] QAbstractItemModel *sessionDetails() { return &m_details; }
@@ -93,6 +103,8 @@ private:
     QString m_headline;
     QString m_detail;
     ReportTexts m_texts;
+    InstructionFilesPresenter m_files;
+    LargestFilesPresenter m_largestFiles;
     TextRows m_details;
     WeeklyPresenter m_weekly;
     BandPresenter m_band;

@@ -45,6 +45,16 @@ PageColumn {
         Layout.fillWidth: true
         band: page.overview.band
     }
+    InstructionFilesSection {
+        Layout.fillWidth: true
+        files: page.overview.files
+        viewport: page.viewport
+    }
+    LargestFilesSection {
+        Layout.fillWidth: true
+        largest: page.overview.largestFiles
+        viewport: page.viewport
+    }
     WeeklyCard {
         Layout.fillWidth: true
         weekly: page.overview.weekly

@@ -43,6 +43,7 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
             std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
         .locale = TextLocale::fromEnvironment(environment),
         .weeklyLog = WeeklyKPIReader::defaultPath(homeFolder(environment)),
+        .home = homeFolder(environment),
     };
 }
 
@@ -55,8 +56,9 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     const std::shared_ptr<TaskDispatcher> dispatcher = collaborators.dispatcher;
     const std::filesystem::path weeklyLog = collaborators.weeklyLog;
     const TextLocale locale = collaborators.locale;
+    const std::filesystem::path home = collaborators.home;
     makeModel(std::move(collaborators));
-    makePresenters(locale);
+    makePresenters(locale, home);
     makeWindow();
     attachChooser();
     if (!weeklyLog.empty())
@@ -76,10 +78,11 @@ void LoadwickWindow::makeModel(Collaborators collaborators)
     });
 }
 
-void LoadwickWindow::makePresenters(const TextLocale &locale)
+void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesystem::path &home)
 {
     m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
-    m_overview = std::make_unique<OverviewPresenter>(*m_model, locale);
+    m_overview = std::make_unique<OverviewPresenter>(*m_model, locale,
+                                                     &std::chrono::steady_clock::now, home);
     m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
     m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
 }

@@ -35,6 +35,7 @@ public:
         std::function<std::chrono::sys_seconds()> now = {};  ///< none: the system's clock
         TextLocale locale = {};
         std::filesystem::path weeklyLog = {}; ///< empty: none is read
+        std::filesystem::path home = {};      ///< tells whose a file is; nothing in it is read
 
         /// Those of the running program: the user's own home, environment and disk.
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);
@@ -53,7 +54,7 @@ public:
 
 private:
     void makeModel(Collaborators collaborators);
-    void makePresenters(const TextLocale &locale);
+    void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
     void makeWindow();
     void attachChooser();
 

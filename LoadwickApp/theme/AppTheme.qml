@@ -43,6 +43,12 @@ QtObject {
     readonly property real tintOpacity: 0.12
     readonly property real disabledOpacity: 0.4
 
+    // A tile at rest, the one in focus, and the others meanwhile; names have to be read on the first
+    // two.
+    readonly property real tileOpacity: dark ? 0.4 : 0.45
+    readonly property real currentTileOpacity: dark ? 0.5 : 0.65
+    readonly property real dimmedTileOpacity: dark ? 0.2 : 0.22
+
     // The family is the application's own; its figures are all equally wide, which makes it the font
     // of numbers too. It has no medium weight: what should be medium is semibold.
     readonly property font heroMetricFont: Qt.font({ pixelSize: 46, weight: Font.DemiBold, letterSpacing: -0.5 })
@@ -78,6 +84,12 @@ QtObject {
     readonly property int scrollStep: 48
     // The column of trend pills: wide enough for a change of six figures.
     readonly property int trendWidth: 104
+    readonly property int treemapWidth: 608
+    // A column of figures, and one of figures with their unit.
+    readonly property int figureColumn: 72
+    readonly property int amountColumn: 144
+    readonly property int tableRowHeight: 36
+    readonly property int fileRowHeight: 52
 
     readonly property int meterHeight: 16
     readonly property int meterTickWidth: 2

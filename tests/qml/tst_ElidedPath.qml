@@ -9,8 +9,8 @@ Item {
 
     readonly property string longPath: "/home/somebody/" + "folder/".repeat(20) + "CLAUDE.md"
 
-    ElidedPath { id: short; width: 400; text: "/srv/<b>app</b>/CLAUDE.md" }
-    ElidedPath { id: long; y: 40; width: 200; text: scene.longPath }
+    ElidedPath { id: brief; width: 400; text: "/srv/<b>app</b>/CLAUDE.md" }
+    ElidedPath { id: deep; y: 40; width: 200; text: scene.longPath }
     ElidedPath { id: listed; y: 80; width: 200; text: scene.longPath; tabStop: false }
     ElidedPath { id: last; y: 120; width: 200; text: "/last" }
 
@@ -32,42 +32,42 @@ Item {
         }
 
         function test_leavesOutTheMiddleOfALongPath() {
-            verify(long.truncated);
-            compare(label(long).elide, Text.ElideMiddle);
-            compare(label(long).lineCount, 1);
-            verify(!short.truncated);
+            verify(deep.truncated);
+            compare(label(deep).elide, Text.ElideMiddle);
+            compare(label(deep).lineCount, 1);
+            verify(!brief.truncated);
         }
 
         function test_showsMarkupLetterByLetter() {
-            compare(label(short).textFormat, Text.PlainText);
-            compare(edit(short).displayText, "/srv/<b>app</b>/CLAUDE.md");
+            compare(label(brief).textFormat, Text.PlainText);
+            compare(edit(brief).displayText, "/srv/<b>app</b>/CLAUDE.md");
         }
 
         function test_aPressSelectsTheWholePath() {
-            mouseClick(long, 20, 5);
-            verify(long.selecting);
-            compare(long.selectedText, scene.longPath);
-            verify(!label(long).visible);
+            mouseClick(deep, 20, 5);
+            verify(deep.selecting);
+            compare(deep.selectedText, scene.longPath);
+            verify(!label(deep).visible);
         }
 
         function test_theSecondPressSelectsAPart() {
-            mouseClick(short, 20, 5);
-            mouseDoubleClickSequence(edit(short), 20, 5);
-            verify(short.selectedText.length > 0);
-            verify(short.selectedText.length < short.text.length);
+            mouseClick(brief, 20, 5);
+            mouseDoubleClickSequence(edit(brief), 20, 5);
+            verify(brief.selectedText.length > 0);
+            verify(brief.selectedText.length < brief.text.length);
         }
 
         function test_theTabulatorReachesItAndSelectsTheWholePath() {
-            edit(short).forceActiveFocus(Qt.TabFocusReason);
-            compare(short.selectedText, short.text);
+            edit(brief).forceActiveFocus(Qt.TabFocusReason);
+            compare(brief.selectedText, brief.text);
             keyClick(Qt.Key_Tab);
-            verify(long.selecting);
-            compare(long.selectedText, scene.longPath);
-            compare(short.selectedText, "");
+            verify(deep.selecting);
+            compare(deep.selectedText, scene.longPath);
+            compare(brief.selectedText, "");
         }
 
         function test_theTabulatorPassesAPathInAList() {
-            edit(long).forceActiveFocus(Qt.TabFocusReason);
+            edit(deep).forceActiveFocus(Qt.TabFocusReason);
             keyClick(Qt.Key_Tab);
             verify(!listed.selecting);
             verify(last.selecting);
@@ -75,50 +75,50 @@ Item {
 
         function test_isCopiedWhole() {
             const field = createTemporaryQmlObject("import QtQuick; TextInput {}", scene);
-            mouseClick(long, 20, 5);
+            mouseClick(deep, 20, 5);
             keyClick(Qt.Key_C, Qt.ControlModifier);
             field.paste();
             compare(field.text, scene.longPath);
         }
 
         function test_cannotBeChanged() {
-            mouseClick(short, 20, 5);
+            mouseClick(brief, 20, 5);
             keyClick(Qt.Key_X);
             keyClick(Qt.Key_Delete);
-            compare(edit(short).text, short.text);
+            compare(edit(brief).text, brief.text);
         }
 
         function test_isElidedAgainWithoutTheFocus() {
-            mouseClick(long, 20, 5);
+            mouseClick(deep, 20, 5);
             scene.forceActiveFocus();
-            verify(label(long).visible);
-            compare(edit(long).opacity, 0);
-            compare(long.selectedText, "");
+            verify(label(deep).visible);
+            compare(edit(deep).opacity, 0);
+            compare(deep.selectedText, "");
         }
 
         function test_tellsAssistiveTechnologyTheWholePath() {
-            compare(edit(long).Accessible.name, scene.longPath);
-            verify(edit(long).Accessible.readOnly);
-            verify(label(long).Accessible.ignored);
+            compare(edit(deep).Accessible.name, scene.longPath);
+            verify(edit(deep).Accessible.readOnly);
+            verify(label(deep).Accessible.ignored);
         }
 
         function tip(path) {
-            return path.children[4].item;
+            return findChild(path, "tip").item;
         }
 
         function test_theToolTipHoldsTheWholePath() {
-            verify(!tip(long));
-            mouseMove(long, 20, 5);
-            tryVerify(() => tip(long) && tip(long).visible);
-            compare(tip(long).words, scene.longPath);
+            verify(!tip(deep));
+            mouseMove(deep, 20, 5);
+            tryVerify(() => tip(deep) && tip(deep).visible);
+            compare(tip(deep).words, scene.longPath);
             mouseMove(scene, 490, 290);
-            tryVerify(() => !tip(long));
+            tryVerify(() => !tip(deep));
         }
 
         function test_hasNoToolTipWhereItFits() {
-            mouseMove(short, 20, 5);
+            mouseMove(brief, 20, 5);
             wait(50);
-            verify(!tip(short));
+            verify(!tip(brief));
         }
 
         function test_showsAnotherPath() {

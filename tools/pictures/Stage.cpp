@@ -10,7 +10,8 @@ namespace {
 LoadwickWindow::Collaborators collaborators()
 {
     return {.probeRunner = std::make_shared<FakeProbe>(),
-            .instructionScanner = std::make_shared<FakeInstructionScanner>()};
+            .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+            .home = "/home/someone"};
 }
 
 /// A week a little over one target and under the other.

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void theProminentButtonCanBeRead();
     void theSelectedPageCanBeRead_data() { schemes(); }
     void theSelectedPageCanBeRead();
+    void theNameOnATileCanBeRead_data() { schemes(); }
+    void theNameOnATileCanBeRead();
     void shapesStandOutFromTheCard_data() { schemes(); }
     void shapesStandOutFromTheCard();
     void shapesOfABandAndItsTextDiffer();
@@ -181,6 +183,21 @@ void AppThemeTest::theSelectedPageCanBeRead()
     const QColor row =
         blended(color(QStringLiteral("selectionFill")), color(QStringLiteral("sidebar")));
     QVERIFY(contrast(color(QStringLiteral("accent")), row) >= leastForText);
+}
+
+void AppThemeTest::theNameOnATileCanBeRead()
+{
+    QFETCH(int, scheme);
+    use(scheme);
+    const auto tiles = value(QStringLiteral("chartColors")).value<QList<QColor>>();
+    for (const char *opacity : {"tileOpacity", "currentTileOpacity"}) {
+        for (QColor tile : tiles) {
+            tile.setAlphaF(value(QString::fromLatin1(opacity)).toFloat());
+            const QColor ground = blended(tile, color(QStringLiteral("surface")));
+            QVERIFY2(contrast(color(QStringLiteral("text")), ground) >= leastForText,
+                     qPrintable(tile.name()));
+        }
+    }
 }
 
 void AppThemeTest::shapesStandOutFromTheCard()

@@ -18,6 +18,7 @@ LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home,
         .historyStore =
             std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
         .locale = TextLocale::fromEnvironment(environment),
+        .home = home,
     };
 }
 

@@ -1,0 +1,73 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// One instruction file: where it is and what it probably costs, or that it could not be read.
+Item {
+    id: row
+
+    required property int index
+    required property string path
+    required property string size
+    required property string amount
+    required property string share
+    required property bool isReadable
+    required property string words
+
+    height: AppTheme.fileRowHeight
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.words
+    Accessible.focusable: true
+
+    Hairline {
+        width: parent.width
+        visible: row.index > 0
+    }
+    RowLayout {
+        anchors.fill: parent
+        spacing: AppTheme.cardSpace
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 2
+
+            ElidedPath {
+                objectName: "path"
+                Layout.fillWidth: true
+                text: row.path
+                tabStop: false
+            }
+            PlainLabel {
+                objectName: "size"
+                Layout.fillWidth: true
+                text: row.size
+                font: AppTheme.captionFont
+                color: row.isReadable ? AppTheme.secondaryText : AppTheme.bandHeavyText
+                elide: Text.ElideRight
+            }
+        }
+        ColumnLayout {
+            Layout.preferredWidth: AppTheme.amountColumn
+            Layout.minimumWidth: AppTheme.amountColumn
+            Layout.maximumWidth: AppTheme.amountColumn
+            spacing: 2
+            visible: row.isReadable
+
+            PlainLabel {
+                objectName: "amount"
+                Layout.fillWidth: true
+                text: row.amount
+                font: AppTheme.bodyStrongFont
+                horizontalAlignment: Text.AlignRight
+            }
+            PlainLabel {
+                objectName: "share"
+                Layout.fillWidth: true
+                text: row.share
+                font: AppTheme.captionFont
+                secondary: true
+                horizontalAlignment: Text.AlignRight
+            }
+        }
+    }
+}

@@ -1,0 +1,134 @@
+#include "overview/InstructionFilesPresenter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "probe/CheckedSum.h"
+#include "report/NumberText.h"
+#include "shell/QtText.h"
+
+namespace Loadwick {
+namespace {
+
+std::int64_t tokensOf(const std::vector<ListedFile> &files)
+{
+    std::int64_t tokens = 0;
+    for (const ListedFile &file : files)
+        tokens = checkedSum(tokens, file.estimate->estimatedTokens);
+    return tokens;
+}
+
+QString countOf(std::size_t files, const TextLocale &locale)
+{
+    if (files == 1)
+        return QStringLiteral("1 instruction file");
+    return qtText(NumberText::grouped(static_cast<std::int64_t>(files), locale)) +
+           QStringLiteral(" instruction files");
+}
+
+int placeOfLargest(const std::vector<ListedFile> &files)
+{
+    const auto isSmaller = [](const ListedFile &left, const ListedFile &right) {
+        return left.estimate->estimatedTokens < right.estimate->estimatedTokens;
+    };
+    return static_cast<int>(std::max_element(files.begin(), files.end(), isSmaller) -
+                            files.begin());
+}
+
+} // namespace
+
+InstructionFilesPresenter::InstructionFilesPresenter(TextLocale locale, std::filesystem::path home)
+    : m_locale(std::move(locale)), m_home(std::move(home))
+{}
+
+void InstructionFilesPresenter::show(const ScanReport &report)
+{
+    const InstructionFileRows::Context context{
+        .files = std::make_shared<const InstructionFileSet>(report.fileSet),
+        .total = report.total,
+        .locale = m_locale};
+    auto tiers =
+        ListedFile::byTier(*context.files, InstructionFilePlaces(report.repositoryPath, m_home));
+    m_repositoryRows.show(context, std::move(tiers[InstructionFileTier::repository]));
+    m_inheritedRows.show(context, std::move(tiers[InstructionFileTier::inherited]));
+    m_personalRows.show(context, std::move(tiers[InstructionFileTier::personal]));
+    m_note = qtText(report.unreportedCategoryFilesNote().value_or(""));
+    showSizes(context);
+    Q_EMIT changed();
+}
+
+QString InstructionFilesPresenter::title()
+{
+    return QStringLiteral("All instruction files");
+}
+
+QString InstructionFilesPresenter::detail()
+{
+    return QStringLiteral("Grouped by where Claude Code loads them. Their contents are never "
+                          "displayed or persisted.");
+}
+
+QString InstructionFilesPresenter::sizeTitle()
+{
+    return QStringLiteral("Relative size");
+}
+
+QString InstructionFilesPresenter::sizeHint()
+{
+    return QStringLiteral("Hover a tile for its path and share.");
+}
+
+QString InstructionFilesPresenter::sizeCaption()
+{
+    return QStringLiteral("Tile sizes use estimated token counts.");
+}
+
+QString InstructionFilesPresenter::noSizesText()
+{
+    return QStringLiteral("The instruction files have no estimated tokens to compare.");
+}
+
+QString InstructionFilesPresenter::repositoryTitle()
+{
+    return qtText(ScanReport::repositoryCategoryName);
+}
+
+QString InstructionFilesPresenter::inheritedTitle()
+{
+    return qtText(ScanReport::inheritedCategoryName);
+}
+
+QString InstructionFilesPresenter::personalTitle()
+{
+    return qtText(ScanReport::personalCategoryName);
+}
+
+QString InstructionFilesPresenter::emptyTierText()
+{
+    return QStringLiteral("No files found in this tier.");
+}
+
+QString InstructionFilesPresenter::shareCaption()
+{
+    return QStringLiteral("Share is calculated against the authoritative total reported by "
+                          "Claude.");
+}
+
+void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &context)
+{
+    m_tiles.show(context, ListedFile::allReadable(*context.files));
+    const std::int64_t tokens = tokensOf(m_tiles.rows());
+    m_hasSizes = tokens > 0;
+    if (!m_hasSizes) {
+        m_sizeSummary.clear();
+        return;
+    }
+    const int largest = placeOfLargest(m_tiles.rows());
+    m_sizeSummary = QStringLiteral("Relative size of ") + countOf(m_tiles.rows().size(), m_locale) +
+                    QStringLiteral(", ") + qtText(NumberText::grouped(tokens, m_locale)) +
+                    QStringLiteral(" estimated tokens together. The largest: ") +
+                    m_tiles.path(largest) + QStringLiteral(", ") + m_tiles.figures(largest) +
+                    QStringLiteral(".");
+}
+
+} // namespace Loadwick

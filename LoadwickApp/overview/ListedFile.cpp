@@ -1,0 +1,51 @@
+#include "overview/ListedFile.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace Loadwick {
+namespace {
+
+void append(std::vector<ListedFile> &list, const std::vector<InstructionFileEstimate> &files)
+{
+    for (const InstructionFileEstimate &file : files)
+        list.push_back({.path = file.path, .estimate = &file});
+}
+
+} // namespace
+
+std::vector<ListedFile> ListedFile::allReadable(const InstructionFileSet &files)
+{
+    std::vector<ListedFile> all;
+    for (const InstructionFileTier tier : InstructionFileTier::all)
+        append(all, files.files(tier));
+    return all;
+}
+
+std::array<std::vector<ListedFile>, 3> ListedFile::byTier(const InstructionFileSet &files,
+                                                          const InstructionFilePlaces &places)
+{
+    std::array<std::vector<ListedFile>, 3> tiers;
+    std::unordered_set<std::string_view> readable;
+    for (const InstructionFileTier tier : InstructionFileTier::all) {
+        append(tiers[tier], files.files(tier));
+        for (const ListedFile &file : tiers[tier])
+            readable.insert(file.path);
+    }
+    for (const std::string &path : files.unreadablePaths)
+        if (!readable.contains(path))
+            tiers[places.tierOf(path)].push_back({.path = path});
+    return tiers;
+}
+
+std::vector<ListedFile> ListedFile::largest(const InstructionFileSet &files, std::size_t count)
+{
+    std::vector<ListedFile> all = allReadable(files);
+    std::stable_sort(all.begin(), all.end(), [](const ListedFile &left, const ListedFile &right) {
+        return left.estimate->estimatedTokens > right.estimate->estimatedTokens;
+    });
+    all.resize(std::min(count, all.size()));
+    return all;
+}
+
+} // namespace Loadwick

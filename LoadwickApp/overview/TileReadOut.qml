@@ -1,0 +1,63 @@
+import QtQuick
+import Loadwick
+
+// What one tile stands for. Its place and height are the same whatever it says, so that nothing
+// moves while the tiles are walked.
+Item {
+    id: readOut
+
+    // Empty while no tile is in focus.
+    required property string path
+    required property string figures
+    // What to do to see a path.
+    required property string hint
+    // As many lines as a path may take before its middle is left out.
+    property int pathLines: 2
+    readonly property bool isEmpty: path.length === 0
+    readonly property string words: isEmpty ? "" : path + ". " + figures + "."
+
+    implicitHeight: Math.ceil((pathLines + 1) * metrics.lineSpacing) + AppTheme.tightSpace
+
+    FontMetrics {
+        id: metrics
+        font: AppTheme.bodyFont
+    }
+
+    PlainLabel {
+        objectName: "hint"
+        width: parent.width
+        text: readOut.hint
+        secondary: true
+        wrapMode: Text.Wrap
+        visible: readOut.isEmpty
+    }
+    PlainLabel {
+        id: wholePath
+
+        width: parent.width
+        text: readOut.path
+        wrapMode: Text.WrapAnywhere
+        maximumLineCount: readOut.pathLines
+        visible: !wholePath.truncated
+        Accessible.ignored: readOut.isEmpty || !wholePath.visible
+    }
+    PlainLabel {
+        id: shortPath
+
+        objectName: "shortPath"
+        width: parent.width
+        text: readOut.path
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+        visible: wholePath.truncated
+    }
+    PlainLabel {
+        objectName: "figures"
+        y: (shortPath.visible ? shortPath.height : wholePath.height) + AppTheme.tightSpace
+        width: parent.width
+        text: readOut.figures
+        font: AppTheme.bodyStrongFont
+        elide: Text.ElideRight
+        visible: !readOut.isEmpty
+    }
+}

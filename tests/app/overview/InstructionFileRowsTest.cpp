@@ -1,0 +1,222 @@
+#include "overview/InstructionFileRows.h"
+
+#include <limits>
+
+#include <QAbstractItemModelTester>
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "support/TestRegistry.h"
+
+namespace Loadwick {
+namespace {
+
+using Role = InstructionFileRows::Role;
+
+InstructionFileRows::Context contextOf(InstructionFileSet files, const char *locale = "en_US")
+{
+    return {.files = std::make_shared<const InstructionFileSet>(std::move(files)),
+            .total = 10'000,
+            .locale = TextLocale::fromEnvironment({{"LC_ALL", locale}})};
+}
+
+InstructionFileSet oneFile(std::int64_t byteCount)
+{
+    InstructionFileSet files;
+    files.repositoryFiles.push_back(
+        InstructionFileEstimate::fromPath("/work/app/docs/CLAUDE.md", byteCount));
+    return files;
+}
+
+void showAll(InstructionFileRows &rows, const InstructionFileRows::Context &context)
+{
+    rows.show(context, ListedFile::allReadable(*context.files));
+}
+
+QString textOf(const InstructionFileRows &rows, Role role)
+{
+    return rows.index(0).data(role).toString();
+}
+
+} // namespace
+
+class InstructionFileRowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saysWhatAFileCostsInTheFiguresOfTheLocale_data()
+    {
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<QString>("tokens");
+        QTest::addColumn<QString>("figures");
+        QTest::newRow("en_US") << QStringLiteral("1,234,567 bytes on disk · local estimate at "
+                                                 "4 bytes/token")
+                               << QStringLiteral("308,642")
+                               << QStringLiteral("308,642 estimated tokens · 100.0% of total");
+        QTest::newRow("C") << QStringLiteral("1,234,567 bytes on disk · local estimate at "
+                                             "4 bytes/token")
+                           << QStringLiteral("308,642")
+                           << QStringLiteral("308,642 estimated tokens · 100.0% of total");
+        QTest::newRow("de_DE") << QStringLiteral("1.234.567 bytes on disk · local estimate at "
+                                                 "4 bytes/token")
+                               << QStringLiteral("308.642")
+                               << QStringLiteral("308.642 estimated tokens · 100.0% of total");
+        QTest::newRow("hi_IN") << QStringLiteral("12,34,567 bytes on disk · local estimate at "
+                                                 "4 bytes/token")
+                               << QStringLiteral("3,08,642")
+                               << QStringLiteral("3,08,642 estimated tokens · 100.0% of total");
+    }
+
+    void saysWhatAFileCostsInTheFiguresOfTheLocale()
+    {
+        QFETCH(const QString, size);
+        QFETCH(const QString, tokens);
+        QFETCH(const QString, figures);
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(1'234'567), QTest::currentDataTag()));
+        QCOMPARE(textOf(rows, Role::Size), size);
+        QCOMPARE(textOf(rows, Role::Tokens), tokens);
+        QCOMPARE(textOf(rows, Role::Amount), tokens + QStringLiteral(" tokens"));
+        QCOMPARE(textOf(rows, Role::Share), QStringLiteral("100.0% of total"));
+        QCOMPARE(textOf(rows, Role::Figures), figures);
+        QCOMPARE(rows.figures(0), figures);
+        QCOMPARE(textOf(rows, Role::Words), QStringLiteral("/work/app/docs/CLAUDE.md. ") + figures +
+                                                QStringLiteral(". ") + size + QStringLiteral("."));
+    }
+
+    void aFileLargerThanTheTotalShowsAShareOfAHundredPercent()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(40'004)));
+        QCOMPARE(textOf(rows, Role::Tokens), QStringLiteral("10,001"));
+        QCOMPARE(textOf(rows, Role::Share), QStringLiteral("100.0% of total"));
+    }
+
+    void aShareOfNoTotalIsZero()
+    {
+        InstructionFileRows rows;
+        InstructionFileRows::Context context = contextOf(oneFile(4'000));
+        context.total = 0;
+        showAll(rows, context);
+        QCOMPARE(textOf(rows, Role::Share), QStringLiteral("0.0% of total"));
+        QCOMPARE(rows.figures(0), QStringLiteral("1,000 estimated tokens · 0.0% of total"));
+    }
+
+    void showsAnEmptyFileWithItsFigures()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(0)));
+        QCOMPARE(textOf(rows, Role::Size),
+                 QStringLiteral("0 bytes on disk · local estimate at 4 bytes/token"));
+        QCOMPARE(textOf(rows, Role::Amount), QStringLiteral("0 tokens"));
+        QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 0.0);
+        QVERIFY(rows.index(0).data(Role::IsReadable).toBool());
+    }
+
+    void speaksOfOneToken()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(4)));
+        QCOMPARE(textOf(rows, Role::Amount), QStringLiteral("1 token"));
+    }
+
+    void aFileThatCouldNotBeReadSaysSoInPlaceOfItsFigures()
+    {
+        InstructionFileRows rows;
+        const InstructionFileRows::Context context = contextOf({});
+        rows.show(context, {{.path = "/work/app/CLAUDE.md"}});
+        QCOMPARE(textOf(rows, Role::Path), QStringLiteral("/work/app/CLAUDE.md"));
+        QCOMPARE(textOf(rows, Role::Size), QStringLiteral("Could not be read"));
+        for (const Role role : {Role::Tokens, Role::Amount, Role::Share, Role::Figures})
+            QCOMPARE(textOf(rows, role), QString());
+        QCOMPARE(textOf(rows, Role::Words),
+                 QStringLiteral("/work/app/CLAUDE.md. Could not be read."));
+        QVERIFY(!rows.index(0).data(Role::IsReadable).toBool());
+        QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 0.0);
+    }
+
+    void knowsTheFilesNameAndPath()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(400)));
+        QCOMPARE(rows.path(0), QStringLiteral("/work/app/docs/CLAUDE.md"));
+        QCOMPARE(textOf(rows, Role::Name), QStringLiteral("CLAUDE.md"));
+        QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 100.0);
+        rows.show(contextOf({}), {{.path = "bare.md"}});
+        QCOMPARE(textOf(rows, Role::Name), QStringLiteral("bare.md"));
+    }
+
+    void saysNothingOfRowsThatAreNotThere()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(400)));
+        for (const int row : {-1, 1, std::numeric_limits<int>::max()}) {
+            QCOMPARE(rows.path(row), QString());
+            QCOMPARE(rows.figures(row), QString());
+        }
+    }
+
+    void copiesThePathOfARow()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(400)));
+        rows.copyPath(0);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("/work/app/docs/CLAUDE.md"));
+        QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
+        rows.copyPath(1);
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
+    }
+
+    void keepsWhatItsRowsPointTo()
+    {
+        InstructionFileRows rows;
+        {
+            const InstructionFileRows::Context context = contextOf(oneFile(400));
+            showAll(rows, context);
+        }
+        QCOMPARE(rows.path(0), QStringLiteral("/work/app/docs/CLAUDE.md"));
+    }
+
+    void behavesAsAModel()
+    {
+        InstructionFileRows rows;
+        const QAbstractItemModelTester tester(
+            &rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const QSignalSpy counts(&rows, &InstructionFileRows::countChanged);
+        showAll(rows, contextOf(oneFile(400)));
+        QCOMPARE(rows.rowCount(), 1);
+        QCOMPARE(rows.rowCount(rows.index(0)), 0);
+        QCOMPARE(counts.count(), 1);
+        QVERIFY(rows.roleNames().values().contains("isReadable"));
+    }
+
+    void writesNothingBeforeItIsAsked()
+    {
+        InstructionFileSet files;
+        for (int file = 0; file < 10'000; ++file)
+            files.repositoryFiles.push_back(InstructionFileEstimate::fromPath(
+                "/work/app/docs/guides/" + std::to_string(file) + "/CLAUDE.md", file));
+        const InstructionFileRows::Context context = contextOf(std::move(files));
+        InstructionFileRows rows;
+        QElapsedTimer timer;
+        timer.start();
+        showAll(rows, context);
+        const qint64 showing = timer.nsecsElapsed();
+        timer.restart();
+        for (int row = 0; row < rows.count(); ++row)
+            (void)rows.index(row).data(Role::Words);
+        const qint64 writing = timer.nsecsElapsed();
+        QVERIFY2(showing * 4 < writing, qPrintable(QString::number(showing)));
+        QCOMPARE(rows.count(), 10'000);
+    }
+};
+
+const RegisteredTest<InstructionFileRowsTest> registered("InstructionFileRows");
+
+} // namespace Loadwick
+
+#include "InstructionFileRowsTest.moc"

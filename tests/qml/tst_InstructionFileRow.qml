@@ -1,0 +1,91 @@
+import QtQuick
+import QtTest
+import Loadwick
+
+Item {
+    id: scene
+    width: 700
+    height: 300
+
+    InstructionFileRow {
+        id: readable
+        width: 600
+        height: 52
+        index: 0
+        path: "/srv/" + "folder/".repeat(30) + "CLAUDE.md"
+        size: "4,936 bytes on disk · local estimate at 4 bytes/token"
+        amount: "12,345,678 tokens"
+        share: "100.0% of total"
+        isReadable: true
+        words: "all of it"
+    }
+    InstructionFileRow {
+        id: unreadable
+        y: 60
+        width: 600
+        height: 52
+        index: 1
+        path: "/srv/CLAUDE.md"
+        size: "Could not be read"
+        amount: ""
+        share: ""
+        isReadable: false
+        words: "/srv/CLAUDE.md. Could not be read."
+    }
+    LargestFileCells {
+        id: cells
+        y: 120
+        width: 600
+        height: 36
+        file: "/srv/" + "folder/".repeat(30) + "CLAUDE.md"
+        tokens: "1,234,567"
+        share: "100.0% of total"
+    }
+
+    TestCase {
+        name: "InstructionFileRow"
+        when: windowShown
+
+        function end(item) {
+            return item.mapToItem(scene, item.width, 0).x;
+        }
+
+        function test_itsFiguresEndAtItsEdge() {
+            for (const name of ["amount", "share"]) {
+                const label = findChild(readable, name);
+                compare(end(label), 600);
+                verify(label.implicitWidth <= label.width, name);
+                compare(label.horizontalAlignment, Text.AlignRight);
+            }
+        }
+
+        function test_aLongPathKeepsClearOfTheFigures() {
+            const path = findChild(readable, "path");
+            verify(path.truncated);
+            verify(end(path) < findChild(readable, "amount").mapToItem(scene, 0, 0).x);
+        }
+
+        function test_aFileThatCouldNotBeReadHasNoFigures() {
+            verify(!findChild(unreadable, "amount").visible);
+            compare(findChild(unreadable, "size").text, "Could not be read");
+            compare(end(findChild(unreadable, "path")), 600);
+        }
+
+        function test_isOneItemForAScreenReader() {
+            compare(readable.Accessible.role, Accessible.ListItem);
+            compare(readable.Accessible.name, "all of it");
+        }
+
+        function test_theNumericColumnsAre72WideAndEndAtOneEdge() {
+            for (const name of ["tokens", "share"])
+                compare(findChild(cells, name).width, 72);
+            compare(end(findChild(cells, "share")), 600);
+        }
+
+        function test_aShareInWordsDoesNotReachTheTokens() {
+            const share = findChild(cells, "share");
+            const tokens = findChild(cells, "tokens");
+            verify(end(share) - share.implicitWidth > end(tokens) + 4);
+        }
+    }
+}
