@@ -72,7 +72,7 @@ ColumnLayout {
             path: map.currentMark < 0 ? "" : sizes.files.tiles.path(map.currentMark)
             figures: map.currentMark < 0 ? "" : sizes.files.tiles.figures(map.currentMark)
             hint: sizes.files.sizeHint
-            pathLines: pair.stacked ? 2 : 5
+            pathLines: pair.stacked ? 2 : 4
         }
     }
     PlainLabel {

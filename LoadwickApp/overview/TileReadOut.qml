@@ -11,16 +11,18 @@ Item {
     required property string figures
     // What to do to see a path.
     required property string hint
-    // As many lines as a path may take before its middle is left out.
+    // As many lines as a path may take before its middle is left out; the figures take two at most.
     property int pathLines: 2
+    // A label rounds both parts of a line up.
+    readonly property real lineHeight: Math.ceil(metrics.ascent) + Math.ceil(metrics.descent)
     readonly property bool isEmpty: path.length === 0
     readonly property string words: isEmpty ? "" : path + ". " + figures + "."
 
-    implicitHeight: Math.ceil((pathLines + 1) * metrics.lineSpacing) + AppTheme.tightSpace
+    implicitHeight: (pathLines + 2) * lineHeight + AppTheme.tightSpace
 
     FontMetrics {
         id: metrics
-        font: AppTheme.bodyFont
+        font: AppTheme.bodyStrongFont
     }
 
     PlainLabel {
@@ -57,7 +59,7 @@ Item {
         width: parent.width
         text: readOut.figures
         font: AppTheme.bodyStrongFont
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
         visible: !readOut.isEmpty
     }
 }

@@ -9,7 +9,7 @@ Item {
 
     TileReadOut {
         id: readOut
-        width: 240
+        width: 200
         path: ""
         figures: ""
         hint: "Hover a tile for its path and share."
@@ -41,6 +41,15 @@ Item {
             verify(findChild(readOut, "figures").visible);
             verify(!findChild(readOut, "shortPath").visible);
             compare(readOut.words, "/srv/CLAUDE.md. 12 estimated tokens · 0.1% of total.");
+        }
+
+        function test_cutsNoFigureShort() {
+            show("/srv/CLAUDE.md");
+            readOut.figures = "12,345,678 estimated tokens · 100.0% of total";
+            const figures = findChild(readOut, "figures");
+            verify(!figures.truncated);
+            verify(figures.contentWidth <= readOut.width);
+            compare(figures.lineCount, 2);
         }
 
         function test_leavesOutTheMiddleOfAPathThatNeedsTooManyLines() {
