@@ -15,6 +15,8 @@ FocusScope {
     required property Flickable viewport
     // The row that the keys have reached, -1 before they were used.
     property int currentIndex: -1
+    // A row that something beside the list speaks of, -1 for none.
+    property int markedIndex: -1
     readonly property int shortCount: 60
 
     signal copyRequested(int index)
@@ -101,6 +103,17 @@ FocusScope {
     }
     // From the row, the stop before would be the list that holds it.
     Keys.onBacktabPressed: list.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+    Rectangle {
+        objectName: "mark"
+        x: -AppTheme.smallSpace
+        y: list.markedIndex * list.rowHeight
+        width: parent.width + 2 * AppTheme.smallSpace
+        height: list.rowHeight
+        radius: AppTheme.controlRadius
+        color: AppTheme.quietFill
+        visible: list.markedIndex >= 0
+    }
 
     ListView {
         id: rows

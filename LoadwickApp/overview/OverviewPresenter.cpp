@@ -17,6 +17,7 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_locale(std::move(locale)),
       m_clock(std::move(clock)),
       m_start(m_clock()),
+      m_breakdown(m_locale),
       m_files(m_locale, std::move(home)),
       m_largestFiles(m_locale),
       m_details({"label", "value"}),
@@ -63,6 +64,7 @@ void OverviewPresenter::show(const ScanState::Result &result)
 {
     m_state = State::Report;
     m_texts = ReportTexts::fromReport(result.report, m_locale);
+    m_breakdown.show(result.report);
     m_files.show(result.report);
     m_largestFiles.show(result.report);
     m_details.setRows(m_texts.details);

@@ -10,6 +10,7 @@
 
 #include "model/ScanModel.h"
 #include "overview/BandPresenter.h"
+#include "overview/BreakdownPresenter.h"
 #include "overview/InstructionFilesPresenter.h"
 #include "overview/LargestFilesPresenter.h"
 #include "overview/ReportTexts.h"
@@ -33,6 +34,7 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QString repositoryPath READ repositoryPath NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
+    Q_PROPERTY(Loadwick::BreakdownPresenter *breakdown READ breakdown CONSTANT)
     Q_PROPERTY(Loadwick::InstructionFilesPresenter *files READ files CONSTANT)
     Q_PROPERTY(Loadwick::LargestFilesPresenter *largestFiles READ largestFiles CONSTANT)
     Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
@@ -70,6 +72,8 @@ public:
     [[nodiscard]] QString summary() const { return m_texts.summary; }
     [[nodiscard]] QStringList notes() const { return m_texts.notes; }
 
+    /// What the cards of the report show.
+    [[nodiscard]] BreakdownPresenter *breakdown() { return &m_breakdown; }
     [[nodiscard]] InstructionFilesPresenter *files() { return &m_files; }
     [[nodiscard]] LargestFilesPresenter *largestFiles() { return &m_largestFiles; }
 
@@ -103,6 +107,7 @@ private:
     QString m_headline;
     QString m_detail;
     ReportTexts m_texts;
+    BreakdownPresenter m_breakdown;
     InstructionFilesPresenter m_files;
     LargestFilesPresenter m_largestFiles;
     TextRows m_details;

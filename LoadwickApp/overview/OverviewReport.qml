@@ -45,6 +45,11 @@ PageColumn {
         Layout.fillWidth: true
         band: page.overview.band
     }
+    BreakdownSection {
+        Layout.fillWidth: true
+        breakdown: page.overview.breakdown
+        viewport: page.viewport
+    }
     InstructionFilesSection {
         Layout.fillWidth: true
         files: page.overview.files

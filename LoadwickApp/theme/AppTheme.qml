@@ -80,6 +80,7 @@ QtObject {
     readonly property int copyMinimumWidth: 280
     readonly property int controlHeight: 32
     readonly property int iconSize: 16
+    readonly property int dotSize: 8
     // How far an arrow key scrolls.
     readonly property int scrollStep: 48
     // The column of trend pills: wide enough for a change of six figures.

@@ -282,6 +282,16 @@ Item {
             verify(!ring.visible);
         }
 
+        function test_marksTheRowThatIsSpokenOfBesideIt() {
+            show(1000);
+            const mark = findChild(list, "mark");
+            verify(!mark.visible);
+            list.markedIndex = 4;
+            verify(mark.visible);
+            compare(mark.mapToItem(list, 0, 0).y, 120);
+            list.markedIndex = -1;
+        }
+
         function test_asksForTheCurrentRowToBeCopied() {
             show(1000);
             list.forceActiveFocus();

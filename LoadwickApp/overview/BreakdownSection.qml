@@ -1,0 +1,84 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// Where the total goes, category by category, and how far each figure can be trusted.
+ReportSurface {
+    id: section
+
+    required property BreakdownPresenter breakdown
+    required property Flickable viewport
+
+    SectionHeader {
+        Layout.fillWidth: true
+        title: "Estimated breakdown by category"
+        detail: "Shares use the Claude-reported total; category rows are estimates."
+    }
+    RowLayout {
+        objectName: "unreported"
+        Layout.fillWidth: true
+        spacing: AppTheme.smallSpace
+        visible: !section.breakdown.selfReported
+
+        Symbol {
+            Layout.alignment: Qt.AlignTop
+            Layout.topMargin: 1
+            name: "exclamationmark.triangle.fill"
+            tint: AppTheme.bandHeavyText
+        }
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 2
+
+            PlainLabel {
+                Layout.fillWidth: true
+                text: section.breakdown.unreportedTitle
+                font: AppTheme.bodyStrongFont
+                wrapMode: Text.Wrap
+            }
+            PlainLabel {
+                Layout.fillWidth: true
+                text: section.breakdown.unreportedText
+                secondary: true
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+    BreakdownChart {
+        id: chart
+
+        Layout.fillWidth: true
+        Layout.topMargin: AppTheme.tightSpace
+        Layout.bottomMargin: AppTheme.mediumSpace
+        breakdown: section.breakdown
+        visible: section.breakdown.hasSlices
+    }
+    PlainLabel {
+        objectName: "noSlices"
+        Layout.fillWidth: true
+        text: section.breakdown.noSlicesText
+        secondary: true
+        wrapMode: Text.Wrap
+        visible: !section.breakdown.hasSlices
+    }
+    BreakdownTable {
+        Layout.fillWidth: true
+        breakdown: section.breakdown
+        viewport: section.viewport
+        markedRow: chart.currentRow
+    }
+    Repeater {
+        model: section.breakdown.notes
+
+        PlainLabel {
+            id: note
+
+            required property string modelData
+
+            Layout.fillWidth: true
+            text: note.modelData
+            secondary: true
+            wrapMode: Text.Wrap
+        }
+    }
+}

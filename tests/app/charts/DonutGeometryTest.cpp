@@ -1,0 +1,262 @@
+#include "charts/DonutGeometry.h"
+
+#include <cmath>
+#include <numbers>
+#include <random>
+
+#include <QTest>
+
+#include "support/TestRegistry.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr double turn = 2.0 * std::numbers::pi;
+constexpr double radius = 110.0;
+
+using Tokens = std::vector<double>;
+
+// Tokens as reports have them: a few large rows, many small ones, some without any.
+Tokens randomTokens(std::size_t count, unsigned seed)
+{
+    std::mt19937 generator(seed);
+    std::lognormal_distribution<double> tokens(5.0, 3.0);
+    Tokens rows(count);
+    for (double &row : rows)
+        row = std::floor(tokens(generator));
+    return rows;
+}
+
+double sumOfSweeps(const DonutGeometry &donut)
+{
+    double sum = 0.0;
+    for (const auto &slice : donut.slices())
+        sum += slice.sweep;
+    return sum;
+}
+
+struct Place
+{
+    double x;
+    double y;
+};
+
+// Clockwise from the top, as a part of the outer radius.
+Place place(double angle, double distance)
+{
+    return {std::sin(angle) * distance * radius, -std::cos(angle) * distance * radius};
+}
+
+std::optional<std::size_t> hit(const DonutGeometry &donut, double angle, double distance)
+{
+    const Place at = place(angle, distance);
+    return donut.sliceAt(at.x, at.y, radius);
+}
+
+} // namespace
+
+class DonutGeometryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dividesATurnByTokensFromTheTop();
+    void sliceAnglesSumToATurn_data();
+    void sliceAnglesSumToATurn();
+    void slicesFollowEachOther_data() { sliceAnglesSumToATurn_data(); }
+    void slicesFollowEachOther();
+    void anglesAreTheSharesOfTheTokens();
+    void rowsWithoutTokensHaveNoSlice();
+    void rowsThatAllHaveNoTokensMakeNoSlices();
+    void upperBoundsAreRunningSums();
+    void selectsTheFirstSliceWhoseUpperBoundIsAtLeastTheValue_data();
+    void selectsTheFirstSliceWhoseUpperBoundIsAtLeastTheValue();
+    void findsNothingWithoutSlices();
+    void findsEachSliceAtItsMiddle_data() { sliceAnglesSumToATurn_data(); }
+    void findsEachSliceAtItsMiddle();
+    void onlyTheRingIsHit();
+    void insetsTheEdgesByOneAndAHalfPoints();
+    void theInsetTakesHalfOfANarrowSliceAtMost();
+    void theWholeRingHasNoGap();
+    void everySectorIsPainted_data() { sliceAnglesSumToATurn_data(); }
+    void everySectorIsPainted();
+    void othersAreDimmedWhileOneIsSelected();
+};
+
+void DonutGeometryTest::dividesATurnByTokensFromTheTop()
+{
+    const DonutGeometry donut(Tokens{50.0, 25.0, 25.0});
+    QCOMPARE(donut.slices().size(), 3U);
+    QCOMPARE(donut.slices()[0].start, 0.0);
+    QCOMPARE(donut.slices()[0].sweep, turn / 2);
+    QCOMPARE(donut.slices()[1].start, turn / 2);
+    QCOMPARE(donut.slices()[2].start, turn * 3 / 4);
+    QCOMPARE(donut.slices()[2].sweep, turn / 4);
+}
+
+void DonutGeometryTest::sliceAnglesSumToATurn_data()
+{
+    QTest::addColumn<Tokens>("tokens");
+    QTest::newRow("one row") << Tokens{42'000.0};
+    QTest::newRow("two very unequal rows") << Tokens{1e15, 1.0};
+    QTest::newRow("zeros between") << Tokens{0.0, 3.0, 0.0, 0.0, 7.0, 0.0};
+    for (const unsigned seed : {1U, 2U, 3U, 4U, 5U})
+        QTest::addRow("40 rows, seed %u", seed) << randomTokens(40, seed);
+    QTest::newRow("8,000 rows") << randomTokens(8'000, 6);
+    QTest::newRow("8,000 equal rows") << Tokens(8'000, 3.0);
+}
+
+void DonutGeometryTest::sliceAnglesSumToATurn()
+{
+    QFETCH(const Tokens, tokens);
+    QVERIFY(std::abs(sumOfSweeps(DonutGeometry(tokens)) - turn) < 1e-9);
+}
+
+void DonutGeometryTest::slicesFollowEachOther()
+{
+    QFETCH(const Tokens, tokens);
+    const DonutGeometry donut(tokens);
+    double end = 0.0;
+    for (const auto &slice : donut.slices()) {
+        QVERIFY(std::abs(slice.start - end) < 1e-9);
+        QVERIFY(slice.sweep >= 0.0);
+        end = slice.start + slice.sweep;
+    }
+}
+
+void DonutGeometryTest::anglesAreTheSharesOfTheTokens()
+{
+    const Tokens tokens = randomTokens(300, 7);
+    const DonutGeometry donut(tokens);
+    const double sum = donut.slices().back().upperBound;
+    for (const auto &slice : donut.slices())
+        QVERIFY(std::abs(slice.sweep - turn * tokens[slice.row] / sum) < 1e-9);
+}
+
+void DonutGeometryTest::rowsWithoutTokensHaveNoSlice()
+{
+    const DonutGeometry donut(Tokens{0.0, 3.0, 0.0, -5.0, 1.0});
+    QCOMPARE(donut.slices().size(), 2U);
+    QCOMPARE(donut.slices()[0].row, 1U);
+    QCOMPARE(donut.slices()[1].row, 4U);
+    QCOMPARE(donut.slices()[1].start, turn * 3 / 4);
+}
+
+void DonutGeometryTest::rowsThatAllHaveNoTokensMakeNoSlices()
+{
+    QVERIFY(DonutGeometry(Tokens{0.0, 0.0, 0.0}).slices().empty());
+    QVERIFY(DonutGeometry(Tokens{}).slices().empty());
+}
+
+void DonutGeometryTest::upperBoundsAreRunningSums()
+{
+    const DonutGeometry donut(Tokens{5.0, 0.0, 3.0, 2.0});
+    QCOMPARE(donut.slices()[0].upperBound, 5.0);
+    QCOMPARE(donut.slices()[1].upperBound, 8.0);
+    QCOMPARE(donut.slices()[2].upperBound, 10.0);
+}
+
+void DonutGeometryTest::selectsTheFirstSliceWhoseUpperBoundIsAtLeastTheValue_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<std::size_t>("slice");
+    QTest::newRow("the start") << 0.0 << std::size_t(0);
+    QTest::newRow("the first") << 1.0 << std::size_t(0);
+    QTest::newRow("its bound") << 5.0 << std::size_t(0);
+    QTest::newRow("just beyond it") << 5.5 << std::size_t(1);
+    QTest::newRow("the second's bound") << 8.0 << std::size_t(1);
+    QTest::newRow("the end") << 10.0 << std::size_t(2);
+    QTest::newRow("beyond the end") << 11.0 << std::size_t(2);
+}
+
+void DonutGeometryTest::selectsTheFirstSliceWhoseUpperBoundIsAtLeastTheValue()
+{
+    QFETCH(const double, value);
+    QFETCH(const std::size_t, slice);
+    QCOMPARE(DonutGeometry(Tokens{5.0, 3.0, 2.0}).sliceAtTokens(value), std::optional(slice));
+}
+
+void DonutGeometryTest::findsNothingWithoutSlices()
+{
+    QVERIFY(!DonutGeometry().sliceAtTokens(0.0));
+    QVERIFY(!hit(DonutGeometry(Tokens{0.0}), 1.0, 0.8));
+}
+
+void DonutGeometryTest::findsEachSliceAtItsMiddle()
+{
+    QFETCH(const Tokens, tokens);
+    const DonutGeometry donut(tokens);
+    for (std::size_t index = 0; index < donut.slices().size(); ++index) {
+        const auto &slice = donut.slices()[index];
+        // Narrower than that, neighbours cannot be told apart at the precision of an angle.
+        if (slice.sweep > 1e-12)
+            QCOMPARE(hit(donut, slice.start + slice.sweep / 2, 0.8), std::optional(index));
+    }
+}
+
+void DonutGeometryTest::onlyTheRingIsHit()
+{
+    const DonutGeometry donut(Tokens{1.0, 1.0});
+    QCOMPARE(hit(donut, turn / 4, 0.63), std::optional<std::size_t>(0));
+    QCOMPARE(hit(donut, turn / 4, 0.99), std::optional<std::size_t>(0));
+    QCOMPARE(hit(donut, turn * 3 / 4, 0.99), std::optional<std::size_t>(1));
+    QVERIFY(!hit(donut, turn / 4, 0.61));
+    QVERIFY(!hit(donut, turn / 4, 0.0));
+    QVERIFY(!hit(donut, turn / 4, 1.01));
+}
+
+void DonutGeometryTest::insetsTheEdgesByOneAndAHalfPoints()
+{
+    const DonutGeometry donut(Tokens{1.0, 1.0, 2.0});
+    const auto sector = donut.sector(1, radius);
+    const auto &slice = donut.slices()[1];
+    const double inner = radius * 0.62;
+    // The distance of a corner from the line through the centre that bounds the slice.
+    QCOMPARE(radius * std::sin(sector.outerStart - slice.start), 1.5);
+    QCOMPARE(inner * std::sin(sector.innerStart - slice.start), 1.5);
+    const double end = slice.start + slice.sweep;
+    QCOMPARE(radius * std::sin(end - sector.outerStart - sector.outerSweep), 1.5);
+    QCOMPARE(inner * std::sin(end - sector.innerStart - sector.innerSweep), 1.5);
+}
+
+void DonutGeometryTest::theInsetTakesHalfOfANarrowSliceAtMost()
+{
+    const DonutGeometry donut(Tokens{1.0, 9'999.0});
+    const auto sector = donut.sector(0, radius);
+    const double sweep = donut.slices()[0].sweep;
+    QVERIFY(std::abs(sector.innerSweep - sweep / 2) < 1e-9);
+    QVERIFY(sector.outerSweep > sweep / 2 && sector.outerSweep < sweep);
+}
+
+void DonutGeometryTest::theWholeRingHasNoGap()
+{
+    const auto sector = DonutGeometry(Tokens{0.0, 42'000.0}).sector(0, radius);
+    QCOMPARE(sector.outerSweep, turn);
+    QCOMPARE(sector.innerSweep, turn);
+}
+
+void DonutGeometryTest::everySectorIsPainted()
+{
+    QFETCH(const Tokens, tokens);
+    const DonutGeometry donut(tokens);
+    for (std::size_t index = 0; index < donut.slices().size(); ++index) {
+        const auto sector = donut.sector(index, radius);
+        const auto &slice = donut.slices()[index];
+        QVERIFY(sector.outerSweep >= 0.0 && sector.innerSweep >= 0.0);
+        QVERIFY(sector.outerSweep <= slice.sweep && sector.innerSweep <= sector.outerSweep + 1e-12);
+        QVERIFY(sector.outerStart >= slice.start);
+    }
+}
+
+void DonutGeometryTest::othersAreDimmedWhileOneIsSelected()
+{
+    QCOMPARE(DonutGeometry::opacity(2, std::nullopt), 1.0);
+    QCOMPARE(DonutGeometry::opacity(2, 2), 1.0);
+    QCOMPARE(DonutGeometry::opacity(2, 1), 0.35);
+}
+
+const RegisteredTest<DonutGeometryTest> registered("DonutGeometry");
+
+} // namespace Loadwick
+
+#include "DonutGeometryTest.moc"
