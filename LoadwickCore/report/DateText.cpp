@@ -80,6 +80,11 @@ std::string dayOfYear(std::chrono::sys_seconds moment, const TextLocale &locale)
     return written(moment, "MMMd", locale);
 }
 
+std::string dayOfYearAndTime(std::chrono::sys_seconds moment, const TextLocale &locale)
+{
+    return written(moment, "MMMdjm", locale);
+}
+
 std::string month(std::chrono::sys_seconds moment, const TextLocale &locale)
 {
     return written(moment, "yMMM", locale);

@@ -24,6 +24,10 @@ namespace Loadwick::DateText {
 /// Abbreviated month and day: "Mar 4".
 [[nodiscard]] std::string dayOfYear(std::chrono::sys_seconds moment, const TextLocale &locale);
 
+/// The same with hours and minutes: "Mar 4, 9:15 AM".
+[[nodiscard]] std::string dayOfYearAndTime(std::chrono::sys_seconds moment,
+                                           const TextLocale &locale);
+
 /// Abbreviated month and year: "Mar 2026".
 [[nodiscard]] std::string month(std::chrono::sys_seconds moment, const TextLocale &locale);
 

@@ -1,27 +1,14 @@
 #include "report/DateText.h"
 
 #include <gtest/gtest.h>
-#include <unicode/timezone.h>
+
+#include "support/TimeZone.h"
 
 namespace Loadwick {
 
 namespace {
 
 constexpr std::chrono::sys_seconds morning{std::chrono::seconds(1'772'615'727)};
-
-/// Lives in a time zone for as long as it lasts.
-class TimeZone
-{
-public:
-    explicit TimeZone(const char *name)
-    {
-        icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(name));
-    }
-    ~TimeZone() { icu::TimeZone::adoptDefault(icu::TimeZone::detectHostTimeZone()); }
-
-    TimeZone(const TimeZone &) = delete;
-    TimeZone &operator=(const TimeZone &) = delete;
-};
 
 std::string dayIn(const char *locale, std::chrono::sys_seconds moment = morning)
 {

@@ -1,0 +1,86 @@
+#include "charts/DateAxisScale.h"
+
+#include <algorithm>
+#include <set>
+
+#include "charts/DateStep.h"
+#include "report/DateText.h"
+
+namespace Loadwick {
+namespace {
+
+using std::chrono::sys_seconds;
+
+/// Labels of moments of one step; of two moments with one label the first stays.
+std::vector<DateTick> labelled(const std::vector<sys_seconds> &moments, const DateStep &step,
+                               const TextLocale &locale)
+{
+    const bool spansADay =
+        !moments.empty() && moments.back() - moments.front() >= std::chrono::days(1);
+    std::set<std::string> known;
+    std::vector<DateTick> ticks;
+    for (const sys_seconds moment : moments) {
+        std::string label = step.label(moment, spansADay, locale);
+        if (known.insert(label).second)
+            ticks.push_back({.moment = moment, .label = std::move(label)});
+    }
+    return ticks;
+}
+
+} // namespace
+
+std::vector<DateTick> DateAxisScale::ticks(int mostTicks, const TextLocale &locale) const
+{
+    if (m_first == m_last)
+        return {{.moment = m_first, .label = DateText::dayAndTime(m_first, locale)}};
+    for (const DateStep &step : DateStep::all()) {
+        // A step that is far too short would give far too many moments.
+        if ((m_last - m_first) / step.length() > mostTicks + 1)
+            continue;
+        const auto moments = step.moments(m_first, m_last);
+        if (static_cast<int>(moments.size()) <= mostTicks)
+            return labelled(moments, step, locale);
+    }
+    return {};
+}
+
+std::vector<DateTick>
+DateAxisScale::fittingTicks(double width, double gap, const TextLocale &locale,
+                            const std::function<double(std::string_view)> &measure) const
+{
+    const auto fit = [&](const std::vector<DateTick> &ticks) {
+        double end = -gap;
+        for (const DateTick &tick : ticks) {
+            const double labelWidth = measure(tick.label);
+            const double start = labelStart(tick.moment, labelWidth, width);
+            if (start < end + gap || labelWidth > width)
+                return false;
+            end = start + labelWidth;
+        }
+        return true;
+    };
+    constexpr double narrowestLabel = 20;
+    for (int most = std::clamp(static_cast<int>(width / (narrowestLabel + gap)), 1, 12); most > 0;
+         --most) {
+        if (auto found = ticks(most, locale); fit(found))
+            return found;
+    }
+    return {};
+}
+
+double DateAxisScale::position(sys_seconds moment) const noexcept
+{
+    if (m_first == m_last)
+        return 0.5;
+    const double share = static_cast<double>((moment - m_first).count()) /
+                         static_cast<double>((m_last - m_first).count());
+    return std::clamp(share, 0.0, 1.0);
+}
+
+double DateAxisScale::labelStart(sys_seconds moment, double labelWidth, double width) const noexcept
+{
+    const double centred = position(moment) * width - labelWidth / 2;
+    return std::max(0.0, std::min(centred, width - labelWidth));
+}
+
+} // namespace Loadwick

@@ -1,0 +1,204 @@
+#include "charts/DateStep.h"
+
+#include <memory>
+
+#include <unicode/gregocal.h>
+
+#include "probe/Fatal.h"
+#include "report/DateText.h"
+
+namespace Loadwick {
+namespace {
+
+using std::chrono::seconds;
+using std::chrono::sys_seconds;
+using Unit = DateStep::Unit;
+
+constexpr int daysOfWeek = 7;
+
+seconds lengthOf(Unit unit) noexcept
+{
+    using namespace std::chrono;
+    switch (unit) {
+    case Unit::second:
+        return seconds(1);
+    case Unit::minute:
+        return minutes(1);
+    case Unit::hour:
+        return hours(1);
+    case Unit::day:
+        return days(1);
+    case Unit::week:
+        return weeks(1);
+    case Unit::month:
+        return duration_cast<seconds>(months(1));
+    case Unit::year:
+        break;
+    }
+    return duration_cast<seconds>(years(1));
+}
+
+/// Reads and makes moments by the wall clock.
+class WallClock
+{
+public:
+    WallClock()
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        m_calendar = std::make_unique<icu::GregorianCalendar>(status);
+        if (U_FAILURE(status))
+            fatalError("ICU has no calendar");
+        m_calendar->setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
+        m_calendar->setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
+    }
+
+    void set(sys_seconds moment)
+    {
+        const std::chrono::duration<UDate, std::milli> sinceEpoch = moment.time_since_epoch();
+        UErrorCode status = U_ZERO_ERROR;
+        m_calendar->setTime(sinceEpoch.count(), status);
+    }
+
+    int field(UCalendarDateFields name) const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        return m_calendar->get(name, status);
+    }
+
+    /// From now on a wall-clock time that a day has twice means the later one.
+    void preferLaterPass() { m_calendar->setRepeatedWallTimeOption(UCAL_WALLTIME_LAST); }
+
+    /// Fields beyond their range run over into the next larger one.
+    sys_seconds moment(const std::vector<int> &fields)
+    {
+        m_calendar->clear();
+        m_calendar->set(fields[0], fields[1], fields[2], fields[3], fields[4], fields[5]);
+        UErrorCode status = U_ZERO_ERROR;
+        const std::chrono::duration<UDate, std::milli> sinceEpoch(m_calendar->getTime(status));
+        return sys_seconds(std::chrono::floor<seconds>(sinceEpoch));
+    }
+
+    /// Days since the first day of a span of so many weeks; weeks begin on Mondays (ISO 8601).
+    int daysIntoWeek(int weeks) const
+    {
+        const int weekday = field(UCAL_DAY_OF_WEEK) - UCAL_MONDAY;
+        const int intoWeek = (weekday + daysOfWeek) % daysOfWeek;
+        const int week = (field(UCAL_JULIAN_DAY) - intoWeek) / daysOfWeek;
+        return intoWeek + week % weeks * daysOfWeek;
+    }
+
+private:
+    std::unique_ptr<icu::GregorianCalendar> m_calendar;
+};
+
+/// The wall clock's year, month, day, hour, minute and second of the last round moment that is not
+/// after the one that `clock` shows.
+std::vector<int> roundedDown(const WallClock &clock, const DateStep &step)
+{
+    const auto rounded = [&](UCalendarDateFields name, Unit unit) {
+        const int value = clock.field(name);
+        return unit < step.unit ? 0 : unit == step.unit ? value - value % step.count : value;
+    };
+    int day = clock.field(UCAL_DATE);
+    if (step.unit == Unit::week)
+        day -= clock.daysIntoWeek(step.count);
+    else if (step.unit == Unit::day)
+        day -= clock.field(UCAL_JULIAN_DAY) % step.count;
+    else if (step.unit > Unit::week)
+        day = 1;
+    return {rounded(UCAL_EXTENDED_YEAR, Unit::year),
+            rounded(UCAL_MONTH, Unit::month),
+            day,
+            rounded(UCAL_HOUR_OF_DAY, Unit::hour),
+            rounded(UCAL_MINUTE, Unit::minute),
+            rounded(UCAL_SECOND, Unit::second)};
+}
+
+/// Goes on by one step in the field of its unit.
+void advance(std::vector<int> &fields, const DateStep &step)
+{
+    switch (step.unit) {
+    case Unit::year:
+        fields[0] += step.count;
+        break;
+    case Unit::month:
+        fields[1] += step.count;
+        break;
+    case Unit::week:
+        fields[2] += step.count * daysOfWeek;
+        break;
+    case Unit::day:
+        fields[2] += step.count;
+        break;
+    case Unit::hour:
+        fields[3] += step.count;
+        break;
+    case Unit::minute:
+        fields[4] += step.count;
+        break;
+    case Unit::second:
+        fields[5] += step.count;
+        break;
+    }
+}
+
+} // namespace
+
+const std::vector<DateStep> &DateStep::all()
+{
+    static const std::vector<DateStep> steps = {
+        {Unit::second, 1},  {Unit::second, 2},  {Unit::second, 5},   {Unit::second, 10},
+        {Unit::second, 15}, {Unit::second, 30}, {Unit::minute, 1},   {Unit::minute, 2},
+        {Unit::minute, 5},  {Unit::minute, 10}, {Unit::minute, 15},  {Unit::minute, 30},
+        {Unit::hour, 1},    {Unit::hour, 2},    {Unit::hour, 3},     {Unit::hour, 6},
+        {Unit::hour, 12},   {Unit::day, 1},     {Unit::day, 2},      {Unit::week, 1},
+        {Unit::week, 2},    {Unit::month, 1},   {Unit::month, 2},    {Unit::month, 3},
+        {Unit::month, 6},   {Unit::year, 1},    {Unit::year, 2},     {Unit::year, 5},
+        {Unit::year, 10},   {Unit::year, 20},   {Unit::year, 50},    {Unit::year, 100},
+        {Unit::year, 200},  {Unit::year, 500},  {Unit::year, 1'000}, {Unit::year, 10'000}};
+    return steps;
+}
+
+seconds DateStep::length() const noexcept
+{
+    return lengthOf(unit) * count;
+}
+
+std::vector<sys_seconds> DateStep::moments(sys_seconds first, sys_seconds last) const
+{
+    WallClock clock;
+    clock.set(first);
+    if (clock.moment(roundedDown(clock, {.unit = Unit::second, .count = 1})) < first)
+        clock.preferLaterPass();
+    clock.set(first);
+    std::vector<int> fields = roundedDown(clock, *this);
+    std::vector<sys_seconds> found;
+    for (sys_seconds moment = clock.moment(fields); moment <= last; moment = clock.moment(fields)) {
+        if (moment >= first && (found.empty() || moment > found.back()))
+            found.push_back(moment);
+        advance(fields, *this);
+    }
+    return found;
+}
+
+std::string DateStep::label(sys_seconds moment, bool withDay, const TextLocale &locale) const
+{
+    switch (unit) {
+    case Unit::second:
+        return DateText::secondOfDay(moment, locale);
+    case Unit::minute:
+    case Unit::hour:
+        return withDay ? DateText::dayOfYearAndTime(moment, locale)
+                       : DateText::timeOfDay(moment, locale);
+    case Unit::day:
+    case Unit::week:
+        return DateText::dayOfYear(moment, locale);
+    case Unit::month:
+        return DateText::month(moment, locale);
+    case Unit::year:
+        break;
+    }
+    return DateText::year(moment, locale);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,28 @@
+#include "support/TimeZone.h"
+
+#include <gtest/gtest.h>
+
+#include "report/DateText.h"
+
+namespace Loadwick {
+
+namespace {
+
+std::string hour()
+{
+    return DateText::timeOfDay({}, {.dates = "de_DE"});
+}
+
+} // namespace
+
+TEST(TimeZoneTest, holdsForAsLongAsItLives)
+{
+    const std::string before = hour();
+    {
+        const TimeZone tokyo("Asia/Tokyo");
+        EXPECT_EQ(hour(), "09:00");
+    }
+    EXPECT_EQ(hour(), before);
+}
+
+} // namespace Loadwick
