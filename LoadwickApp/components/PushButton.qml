@@ -12,9 +12,11 @@ AbstractButton {
     property string toolTip: ""
     // Filled with the accent while it can be pressed: the one thing to do next.
     property bool prominent: false
+    // Filled with red while it can be pressed: what it does cannot be undone.
+    property bool destructive: false
     // Edged with a line at rest, for a button that stands alone on a card.
     property bool outlined: false
-    readonly property bool filled: prominent && enabled
+    readonly property bool filled: (prominent || destructive) && enabled
     readonly property color wordColor: filled ? AppTheme.accentText : AppTheme.text
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -40,7 +42,7 @@ AbstractButton {
 
     background: Rectangle {
         radius: AppTheme.controlRadius
-        color: control.filled ? AppTheme.accent : "transparent"
+        color: !control.filled ? "transparent" : control.destructive ? AppTheme.bandExcessiveText : AppTheme.accent
         border {
             width: control.outlined && !control.filled ? AppTheme.hairline : 0
             color: AppTheme.separator

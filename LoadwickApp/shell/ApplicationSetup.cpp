@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "shell/AccessiblePress.h"
+#include "shell/ModalGround.h"
 #include "theme/ApplicationStyle.h"
 
 namespace Loadwick::ApplicationSetup {
@@ -19,6 +20,7 @@ void apply(QGuiApplication &application)
 {
     ApplicationStyle::applyFont(application);
     AccessiblePress::install();
+    ModalGround::install();
 }
 
 } // namespace Loadwick::ApplicationSetup

@@ -17,11 +17,16 @@ ApplicationWindow {
     minimumHeight: 640
     color: AppTheme.window
 
-    ContentView {
+    ModalGround {
         anchors.fill: parent
-        content: window.content
-        overview: window.overview
-        trends: window.trends
-        compare: window.compare
+        Accessible.role: Accessible.Pane
+
+        ContentView {
+            anchors.fill: parent
+            content: window.content
+            overview: window.overview
+            trends: window.trends
+            compare: window.compare
+        }
     }
 }

@@ -40,6 +40,10 @@ QtObject {
     readonly property color pressedFill: Qt.alpha(text, 0.10)
     readonly property color quietFill: Qt.alpha(text, 0.06)
     readonly property color selectionFill: Qt.alpha(accent, dark ? 0.18 : 0.12)
+    // Over everything that a modal sheet covers.
+    readonly property color dim: Qt.rgba(0, 0, 0, dark ? 0.5 : 0.3)
+    // Fainter than what parts two things.
+    readonly property color gridLine: Qt.alpha(separator, dark ? 0.7 : 0.8)
     readonly property real tintOpacity: 0.12
     readonly property real disabledOpacity: 0.4
 

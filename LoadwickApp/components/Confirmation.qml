@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// What a confirmation dialog says, over its two answers.
+ColumnLayout {
+    id: confirmation
+
+    required property string title
+    required property string message
+    required property string action
+
+    signal cancelled()
+    signal confirmed()
+
+    // With the ring, as if the keyboard had come here.
+    function focusCancel() {
+        cancel.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    spacing: AppTheme.smallSpace
+
+    PlainLabel {
+        Layout.fillWidth: true
+        text: confirmation.title
+        font: AppTheme.headlineFont
+        wrapMode: Text.Wrap
+    }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: confirmation.message
+        secondary: true
+        wrapMode: Text.Wrap
+    }
+    RowLayout {
+        Layout.alignment: Qt.AlignRight
+        Layout.topMargin: AppTheme.cardSpace
+        spacing: AppTheme.mediumSpace
+
+        PushButton {
+            id: cancel
+
+            objectName: "cancel"
+            title: "Cancel"
+            outlined: true
+            onClicked: confirmation.cancelled()
+        }
+        PushButton {
+            objectName: "action"
+            title: confirmation.action
+            destructive: true
+            onClicked: confirmation.confirmed()
+        }
+    }
+}

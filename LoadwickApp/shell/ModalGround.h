@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+namespace Loadwick {
+
+/// What lies behind the modal sheets of a window. While one is open, assistive technology finds
+/// nothing in here, as the pointer and the keyboard do.
+class ModalGround : public QQuickItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    using QQuickItem::QQuickItem;
+
+    /// Makes the program's accessibility tree look at grounds. Call it once, before the first one.
+    static void install();
+
+    [[nodiscard]] bool isCovered() const;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,98 @@
+#include "shell/ModalGround.h"
+
+#include <QAccessible>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QTest>
+
+#include "shell/QmlObject.h"
+#include "support/TestRegistry.h"
+#include "theme/ApplicationStyle.h"
+
+namespace Loadwick {
+
+class ModalGroundTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        ApplicationStyle::addModulePath(m_engine);
+        QQmlComponent component(&m_engine);
+        component.setData(R"(
+            import QtQuick
+            import QtQuick.Controls
+            import Loadwick
+            ApplicationWindow {
+                property alias modal: modal
+                property alias tip: tip
+                visible: true
+                width: 300
+                height: 200
+                ModalGround {
+                    anchors.fill: parent
+                    Accessible.role: Accessible.Pane
+                    Accessible.name: "ground"
+                    PushButton { title: "behind" }
+                }
+                Popup { id: modal; modal: true; PushButton { title: "before" } }
+                Popup { id: tip; modal: false }
+            }
+        )",
+                          QUrl());
+        m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+        QVERIFY2(m_window, qPrintable(component.errorString()));
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void isFoundWithAllThatIsInIt() { QVERIFY(finds(QStringLiteral("behind"))); }
+
+    void isEmptyWhileAModalSheetIsOpen()
+    {
+        call("modal", "open");
+        QTRY_VERIFY(finds(QStringLiteral("before")));
+        QVERIFY(!finds(QStringLiteral("behind")));
+        QVERIFY(finds(QStringLiteral("ground")));
+        call("modal", "close");
+        QTRY_VERIFY(finds(QStringLiteral("behind")));
+    }
+
+    void aToolTipCoversNothing()
+    {
+        call("tip", "open");
+        QVERIFY(finds(QStringLiteral("behind")));
+    }
+
+private:
+    void call(const char *popup, const char *method)
+    {
+        QVERIFY(QMetaObject::invokeMethod(m_window->property(popup).value<QObject *>(), method));
+    }
+
+    [[nodiscard]] bool finds(const QString &name) const
+    {
+        return findsBelow(QAccessible::queryAccessibleInterface(m_window.get()), name);
+    }
+
+    static bool findsBelow(QAccessibleInterface *parent, const QString &name)
+    {
+        for (int index = 0; index < parent->childCount(); ++index) {
+            QAccessibleInterface *child = parent->child(index);
+            if (child != nullptr && !child->state().invisible &&
+                (child->text(QAccessible::Name) == name || findsBelow(child, name)))
+                return true;
+        }
+        return false;
+    }
+
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+};
+
+const RegisteredTest<ModalGroundTest> registered("ModalGround");
+
+} // namespace Loadwick
+
+#include "ModalGroundTest.moc"
