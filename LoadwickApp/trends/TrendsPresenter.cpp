@@ -1,10 +1,6 @@
 #include "trends/TrendsPresenter.h"
 
-#include <utility>
-
 #include "history/ScanHistory.h"
-#include "report/DateText.h"
-#include "report/NumberText.h"
 #include "shell/QtText.h"
 
 namespace Loadwick {
@@ -21,10 +17,14 @@ QString pageDetail(const QString &repositoryName)
 
 } // namespace
 
-TrendsPresenter::TrendsPresenter(ScanModel &model, TextLocale locale)
-    : m_model(model), m_locale(std::move(locale))
+TrendsPresenter::TrendsPresenter(ScanModel &model, const TextLocale &locale)
+    : m_model(model),
+      m_chart(locale),
+      m_summary(locale),
+      m_previousRuns(locale),
+      m_recordedData(model, locale)
 {
-    m_model.selection().observe({.didChange = [this] { showHistory(); }});
+    m_model.selection().observe({.didChange = [this] { showRepository(); }});
     m_model.history().observe({.didChange = [this] { showHistory(); }});
     showHistory();
 }
@@ -38,33 +38,23 @@ std::vector<RecordedScan> TrendsPresenter::shownScans() const
     return path ? ScanHistory::scans(history, *path) : std::vector<RecordedScan>();
 }
 
-void TrendsPresenter::showHistory()
+void TrendsPresenter::showRepository()
 {
     const std::vector<RecordedScan> scans = shownScans();
     m_detail = pageDetail(scans.empty() ? QString() : qtText(scans.back().repositoryName));
-    m_emptyTitle.clear();
-    m_emptyText.clear();
     if (m_model.history().get().empty())
-        m_emptyText = QStringLiteral("Scans are recorded locally as you run them. Run one scan, "
-                                     "then another, and the trend appears here.");
-    else if (scans.empty())
-        m_emptyText = QStringLiteral("Nothing recorded for this repository yet. Scan it twice and "
-                                     "its trend appears here.");
-    else if (scans.size() == 1)
-        showOneScan(scans.front());
+        m_chart.showNoHistory();
+    else
+        m_chart.show(scans);
+    m_summary.show(m_chart.line()->geometry().samples());
     Q_EMIT changed();
 }
 
-void TrendsPresenter::showOneScan(const RecordedScan &scan)
+void TrendsPresenter::showHistory()
 {
-    const QString name = scan.repositoryName.empty() ? QStringLiteral("this repository")
-                                                     : qtText(scan.repositoryName);
-    m_emptyTitle = QStringLiteral("One scan recorded");
-    m_emptyText = QStringLiteral("The one on record measured ") +
-                  qtText(NumberText::grouped(scan.total, m_locale)) +
-                  QStringLiteral(" tokens on ") + qtText(DateText::day(scan.date, m_locale)) +
-                  QStringLiteral(". A trend needs at least two scans of ") + name +
-                  QStringLiteral(". Scan again to plot a line.");
+    showRepository();
+    m_previousRuns.show(m_model.history().get());
+    m_recordedData.showHistory();
 }
 
 } // namespace Loadwick

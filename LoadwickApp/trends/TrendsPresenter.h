@@ -6,45 +6,52 @@
 
 #include "model/ScanModel.h"
 #include "report/TextLocale.h"
+#include "trends/PreviousRunsPresenter.h"
+#include "trends/RecordedDataPresenter.h"
+#include "trends/TrendChartPresenter.h"
+#include "trends/TrendSummaryPresenter.h"
 
 namespace Loadwick {
 
-/// What the Trends page says of the chosen repository's recorded scans, or of the most recently
-/// scanned one's while none is chosen. Belongs to the interface thread; the model outlives it, and
-/// changes no more once it is gone.
+/// The Trends page: the chosen repository's recorded scans, or the most recently scanned one's
+/// while none is chosen, and what is recorded at all. Belongs to the interface thread; the model
+/// outlives it, and changes no more once it is gone.
 class TrendsPresenter final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window.")
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
-    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
-    Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
+    Q_PROPERTY(Loadwick::TrendChartPresenter *chart READ chart CONSTANT)
+    Q_PROPERTY(Loadwick::TrendSummaryPresenter *summary READ summary CONSTANT)
+    Q_PROPERTY(Loadwick::PreviousRunsPresenter *previousRuns READ previousRuns CONSTANT)
+    Q_PROPERTY(Loadwick::RecordedDataPresenter *recordedData READ recordedData CONSTANT)
 
 public:
-    TrendsPresenter(ScanModel &model, TextLocale locale);
+    TrendsPresenter(ScanModel &model, const TextLocale &locale);
 
     /// What the page is about.
     [[nodiscard]] QString detail() const { return m_detail; }
 
-    /// Why there is no trend yet; both empty when there are scans enough for one. The title may be
-    /// empty by itself.
-    [[nodiscard]] QString emptyTitle() const { return m_emptyTitle; }
-    [[nodiscard]] QString emptyText() const { return m_emptyText; }
+    [[nodiscard]] TrendChartPresenter *chart() { return &m_chart; }
+    [[nodiscard]] TrendSummaryPresenter *summary() { return &m_summary; }
+    [[nodiscard]] PreviousRunsPresenter *previousRuns() { return &m_previousRuns; }
+    [[nodiscard]] RecordedDataPresenter *recordedData() { return &m_recordedData; }
 
 Q_SIGNALS:
     void changed();
 
 private:
     [[nodiscard]] std::vector<RecordedScan> shownScans() const;
+    void showRepository();
     void showHistory();
-    void showOneScan(const RecordedScan &scan);
 
     ScanModel &m_model;
-    TextLocale m_locale;
     QString m_detail;
-    QString m_emptyTitle;
-    QString m_emptyText;
+    TrendChartPresenter m_chart;
+    TrendSummaryPresenter m_summary;
+    PreviousRunsPresenter m_previousRuns;
+    RecordedDataPresenter m_recordedData;
 };
 
 } // namespace Loadwick

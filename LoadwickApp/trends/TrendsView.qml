@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The recorded totals of one repository over time.
+// The recorded totals of one repository over time, and what is recorded at all.
 PageColumn {
     id: page
 
@@ -13,23 +13,22 @@ PageColumn {
         title: "Trends"
         detail: page.trends.detail
     }
-    ReportSurface {
+    TrendChartCard {
         Layout.fillWidth: true
-        spacing: AppTheme.tightSpace
-        visible: page.trends.emptyText.length > 0
-
-        PlainLabel {
-            Layout.fillWidth: true
-            text: page.trends.emptyTitle
-            font: AppTheme.headlineFont
-            wrapMode: Text.Wrap
-            visible: page.trends.emptyTitle.length > 0
-        }
-        PlainLabel {
-            Layout.fillWidth: true
-            text: page.trends.emptyText
-            secondary: true
-            wrapMode: Text.Wrap
-        }
+        chart: page.trends.chart
+    }
+    TrendSummaryCard {
+        Layout.fillWidth: true
+        summary: page.trends.summary
+        visible: page.trends.summary.hasScans
+    }
+    PreviousRunsCard {
+        Layout.fillWidth: true
+        runs: page.trends.previousRuns
+        viewport: page.viewport
+    }
+    RecordedDataCard {
+        Layout.fillWidth: true
+        recordedData: page.trends.recordedData
     }
 }

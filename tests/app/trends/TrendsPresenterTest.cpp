@@ -20,51 +20,40 @@ private Q_SLOTS:
         m_trends = std::make_unique<TrendsPresenter>(m_scanning->model, TextLocale());
     }
 
-    void saysHowATrendComesAboutWhileNothingIsRecorded()
+    void isAboutNoRepositoryWhileNothingIsRecorded()
     {
         QCOMPARE(m_trends->detail(), m_anyRepository);
-        QCOMPARE(m_trends->emptyTitle(), QString());
-        QCOMPARE(m_trends->emptyText(), m_nothingRecorded);
+        QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Scans are recorded ")));
+        QVERIFY(!m_trends->summary()->hasScans());
         m_scanning->choose();
-        QCOMPARE(m_trends->emptyText(), m_nothingRecorded);
+        QCOMPARE(m_trends->detail(), m_anyRepository);
+        QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Scans are recorded ")));
     }
 
-    void saysThatNothingIsRecordedForThisRepository()
+    void aRepositoryWithoutScansHasNoSummary()
     {
         record({RecordedScanBuilder().build()});
         m_scanning->choose();
         QCOMPARE(m_trends->detail(), m_anyRepository);
-        QCOMPARE(m_trends->emptyTitle(), QString());
-        QCOMPARE(m_trends->emptyText(),
-                 QStringLiteral("Nothing recorded for this repository yet. Scan it twice and its "
-                                "trend appears here."));
+        QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Nothing recorded for ")));
+        QVERIFY(!m_trends->summary()->hasScans());
+        QCOMPARE(m_trends->previousRuns()->rows()->rowCount(), 1);
     }
 
-    void saysWhatTheOneRecordedScanMeasured()
+    void namesTheRepository()
     {
         record({RecordedScanBuilder().build()});
         QCOMPARE(m_trends->detail(),
                  QStringLiteral("webshop: startup context over time, against the Lean, Heavy and "
                                 "Excessive bands."));
-        QCOMPARE(m_trends->emptyTitle(), QStringLiteral("One scan recorded"));
-        QCOMPARE(m_trends->emptyText(),
-                 QStringLiteral("The one on record measured 27,654 tokens on Mar 4, 2026. A trend "
-                                "needs at least two scans of webshop. Scan again to plot a line."));
+        QCOMPARE(m_trends->chart()->emptyTitle(), QStringLiteral("One scan recorded"));
+        QVERIFY(m_trends->summary()->hasScans());
     }
 
-    void callsARepositoryWithoutANameThisRepository()
+    void aRepositoryWithoutANameIsAnyRepository()
     {
         record({RecordedScanBuilder().named("").build()});
         QCOMPARE(m_trends->detail(), m_anyRepository);
-        QVERIFY(m_trends->emptyText().contains(
-            QStringLiteral(" needs at least two scans of this repository. Scan again")));
-    }
-
-    void claimsNothingWithTwoScans()
-    {
-        record({RecordedScanBuilder().at(1).build(), RecordedScanBuilder().at(2).build()});
-        QCOMPARE(m_trends->emptyTitle(), QString());
-        QCOMPARE(m_trends->emptyText(), QString());
     }
 
     void withoutASelectionShowsTheMostRecentlyScannedRepository()
@@ -76,18 +65,27 @@ private Q_SLOTS:
         QVERIFY(m_trends->detail().startsWith(QStringLiteral("other: ")));
     }
 
-    void followsTheLocale()
+    void drawsTheScansOfTheShownRepositoryOnly()
     {
-        const TrendsPresenter german(m_scanning->model, {.numbers = "de_DE", .dates = "de_DE"});
-        record({RecordedScanBuilder().build()});
-        QVERIFY(german.emptyText().contains(QStringLiteral("27.654 tokens on 4. März 2026. ")));
+        record({RecordedScanBuilder().at(1).ofTotal(1).build(),
+                RecordedScanBuilder().in("/srv/other").at(2).ofTotal(2).build(),
+                RecordedScanBuilder().at(3).ofTotal(3).build()});
+        const std::vector<LineSample> &samples = m_trends->chart()->line()->geometry().samples();
+        QCOMPARE(samples.size(), std::size_t(2));
+        QCOMPARE(samples[0].total, 1);
+        QCOMPARE(samples[1].total, 3);
+        QCOMPARE(m_trends->summary()->drift(), QStringLiteral("+2"));
+        QCOMPARE(m_trends->previousRuns()->rows()->rowCount(), 3);
+        QVERIFY(m_trends->recordedData()->storageNote().startsWith(
+            QStringLiteral("3 scans across 2 repositories, ")));
     }
 
     void showsTheHistoryThatItFinds()
     {
         record({RecordedScanBuilder().build()});
-        const TrendsPresenter late(m_scanning->model, TextLocale());
-        QCOMPARE(late.emptyTitle(), QStringLiteral("One scan recorded"));
+        TrendsPresenter late(m_scanning->model, TextLocale());
+        QCOMPARE(late.chart()->emptyTitle(), QStringLiteral("One scan recorded"));
+        QCOMPARE(late.previousRuns()->rows()->rowCount(), 1);
     }
 
     void tellsOfEveryRecordedScan()
@@ -96,7 +94,9 @@ private Q_SLOTS:
         record({RecordedScanBuilder().build()});
         QCOMPARE(changed.count(), 1);
         record({});
-        QCOMPARE(m_trends->emptyText(), m_nothingRecorded);
+        QCOMPARE(m_trends->previousRuns()->rows()->rowCount(), 0);
+        QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Scans are recorded ")));
+        QVERIFY(!m_trends->summary()->hasScans());
     }
 
 private:
@@ -107,9 +107,6 @@ private:
 
     const QString m_anyRepository =
         QStringLiteral("Startup context over time, against the Lean, Heavy and Excessive bands.");
-    const QString m_nothingRecorded =
-        QStringLiteral("Scans are recorded locally as you run them. Run one scan, then another, "
-                       "and the trend appears here.");
     std::unique_ptr<ScanningModel> m_scanning;
     std::unique_ptr<TrendsPresenter> m_trends;
 };

@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The newest recorded scans of all repositories.
+ReportSurface {
+    id: card
+
+    required property PreviousRunsPresenter runs
+    required property Flickable viewport
+
+    SectionHeader {
+        Layout.fillWidth: true
+        title: "Previous runs"
+        detail: card.runs.detail
+    }
+    LongList {
+        objectName: "runs"
+        Layout.fillWidth: true
+        model: card.runs.rows
+        viewport: card.viewport
+        rowHeight: 48
+        visible: count > 0
+        Accessible.name: "Previous runs"
+        delegate: HistoryRow {
+            id: row
+
+            required property int band
+
+            width: ListView.view ? ListView.view.width : 0
+            height: 48
+            valueTint: AppTheme.bandTexts[row.band]
+        }
+    }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: "Session totals were reported by Claude; category splits are local estimates."
+        font: AppTheme.captionFont
+        secondary: true
+        wrapMode: Text.Wrap
+    }
+}

@@ -1,0 +1,37 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// What is stored on this machine, and the one way to delete it.
+ReportSurface {
+    id: card
+
+    required property RecordedDataPresenter recordedData
+
+    SectionHeader {
+        Layout.fillWidth: true
+        title: "Recorded data"
+    }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: card.recordedData.storageNote
+        secondary: true
+        wrapMode: Text.Wrap
+    }
+    PushButton {
+        title: "Clear Recorded Data…"
+        symbol: "trash"
+        outlined: true
+        enabled: card.recordedData.canClear
+        onClicked: confirmation.open()
+    }
+
+    ConfirmationDialog {
+        id: confirmation
+
+        title: "Delete every recorded scan?"
+        message: "This cannot be undone. The scan currently on screen stays; only the recorded history is deleted."
+        action: card.recordedData.deleteTitle
+        onConfirmed: card.recordedData.clear()
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The line of one repository's totals, or why there is none yet.
+ReportSurface {
+    id: card
+
+    required property TrendChartPresenter chart
+    readonly property bool isEmpty: card.chart.emptyText.length > 0
+
+    TrendPlaceholder {
+        Layout.fillWidth: true
+        title: card.chart.emptyTitle
+        detail: card.chart.emptyText
+        visible: card.isEmpty
+    }
+    SectionHeader {
+        Layout.fillWidth: true
+        title: "Startup tokens per scan"
+        detail: "Each point is one recorded scan; every total was reported by Claude."
+        visible: !card.isEmpty
+    }
+    TrendChart {
+        id: plot
+
+        objectName: "chart"
+        Layout.fillWidth: true
+        implicitHeight: 260
+        visible: !card.isEmpty
+        line: card.chart.line
+        font: AppTheme.captionFont
+        lineColor: AppTheme.chartColors[0]
+        heavyColor: AppTheme.bandHeavy
+        heavyNameColor: AppTheme.bandHeavyText
+        excessiveColor: AppTheme.bandExcessive
+        excessiveNameColor: AppTheme.bandExcessiveText
+        gridColor: AppTheme.gridLine
+        tickColor: AppTheme.separator
+        textColor: AppTheme.text
+        secondaryTextColor: AppTheme.secondaryText
+        groundColor: AppTheme.surface
+        Accessible.role: Accessible.Graphic
+        Accessible.name: card.chart.summary
+        Accessible.description: plot.readout
+        Accessible.focusable: true
+
+        FocusRing { shown: plot.activeFocus }
+    }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: "Hover the chart to read a single scan. Dashed lines mark the band thresholds."
+        font: AppTheme.captionFont
+        secondary: true
+        wrapMode: Text.Wrap
+        visible: !card.isEmpty
+    }
+}

@@ -1,0 +1,89 @@
+#include "trends/TrendChartPresenter.h"
+
+#include <algorithm>
+
+#include "report/DateText.h"
+#include "report/NumberText.h"
+#include "report/OpinionBand.h"
+#include "shell/QtText.h"
+
+namespace Loadwick {
+namespace {
+
+std::vector<LineSample> samplesOf(std::span<const RecordedScan> scans)
+{
+    std::vector<LineSample> samples;
+    samples.reserve(scans.size());
+    for (const RecordedScan &scan : scans)
+        samples.push_back({.date = scan.date, .total = scan.total});
+    return samples;
+}
+
+QString nameOr(const std::string &repositoryName, const char *otherwise)
+{
+    return repositoryName.empty() ? QString::fromLatin1(otherwise) : qtText(repositoryName);
+}
+
+} // namespace
+
+void TrendChartPresenter::showNoHistory()
+{
+    m_line.setSamples({});
+    setWords({},
+             QStringLiteral("Scans are recorded locally as you run them. Run one scan, then "
+                            "another, and the trend appears here."),
+             {});
+}
+
+void TrendChartPresenter::show(std::span<const RecordedScan> scans)
+{
+    m_line.setSamples(samplesOf(scans));
+    if (scans.empty())
+        setWords({},
+                 QStringLiteral("Nothing recorded for this repository yet. Scan it twice and its "
+                                "trend appears here."),
+                 {});
+    else if (scans.size() == 1)
+        setWords(QStringLiteral("One scan recorded"), oneScanText(scans.front()), {});
+    else
+        setWords({}, {}, summaryOf(scans.back().repositoryName));
+}
+
+void TrendChartPresenter::setWords(const QString &emptyTitle, const QString &emptyText,
+                                   const QString &summary)
+{
+    m_emptyTitle = emptyTitle;
+    m_emptyText = emptyText;
+    m_summary = summary;
+    Q_EMIT changed();
+}
+
+QString TrendChartPresenter::oneScanText(const RecordedScan &scan) const
+{
+    return QStringLiteral("The one on record measured ") +
+           qtText(NumberText::grouped(scan.total, m_locale)) + QStringLiteral(" tokens on ") +
+           qtText(DateText::day(scan.date, m_locale)) +
+           QStringLiteral(". A trend needs at least two scans of ") +
+           nameOr(scan.repositoryName, "this repository") +
+           QStringLiteral(". Scan again to plot a line.");
+}
+
+QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
+{
+    const std::vector<LineSample> &samples = m_line.geometry().samples();
+    const auto [lowest, highest] = std::minmax_element(
+        samples.begin(), samples.end(),
+        [](const LineSample &left, const LineSample &right) { return left.total < right.total; });
+    const auto figure = [this](std::int64_t tokens) {
+        return qtText(NumberText::grouped(tokens, m_locale));
+    };
+    return QStringLiteral("Startup tokens per scan of %1: %2 scans from %3 to %4, between %5 and "
+                          "%6 tokens. The Heavy band begins at %7, the Excessive band above %8.")
+        .arg(nameOr(repositoryName, "this repository"), QString::number(samples.size()),
+             qtText(DateText::day(samples.front().date, m_locale)),
+             qtText(DateText::day(samples.back().date, m_locale)), figure(lowest->total),
+             figure(highest->total), figure(OpinionBand::heavyThreshold),
+             figure(OpinionBand::excessiveThreshold));
+}
+
+} // namespace Loadwick

@@ -1,0 +1,181 @@
+#include "trends/TrendsPresenter.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QTest>
+
+#include "shell/AppPage.h"
+#include "support/RecordedScanBuilder.h"
+#include "support/SampleReport.h"
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+
+/// The Trends page in the real window.
+class TrendsViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<WindowFixture>();
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::trends));
+    }
+    void cleanup() { m_window.reset(); }
+
+    void anEmptyHistoryShowsOnlyWhatIsMissing()
+    {
+        QVERIFY(shows("Scans are recorded locally as you run them. Run one scan, then another, and "
+                      "the trend appears here."));
+        QVERIFY(!shows("Startup tokens per scan"));
+        QVERIFY(!shows("Where this repository landed"));
+        QVERIFY(shows("Previous runs"));
+        QVERIFY(shows("0 scans across 0 repositories, stored on this Mac. Totals only — no "
+                      "instruction-file contents are ever written. The newest 200 are kept."));
+        QVERIFY(!m_window->isPressable(QStringLiteral("Clear Recorded Data…")));
+    }
+
+    void twoScansMakeATrend()
+    {
+        scan(31'000);
+        scan(28'500);
+        QTRY_VERIFY(shows("-2,500"));
+        QVERIFY(shows("2 recorded scans"));
+        QVERIFY(shows("Startup tokens per scan"));
+        QVERIFY(shows("Each point is one recorded scan; every total was reported by Claude."));
+        QVERIFY(shows("Hover the chart to read a single scan. Dashed lines mark the band "
+                      "thresholds."));
+        QVERIFY(shows("Where this repository landed"));
+        QVERIFY(shows("Read from the recorded scans above."));
+        QVERIFY(shows("Drift across recorded scans"));
+        QVERIFY(shows("Session totals were reported by Claude; category splits are local "
+                      "estimates."));
+    }
+
+    void clearingAsksFirstAndCancelLeavesTheHistory()
+    {
+        scan(31'000);
+        press("Clear Recorded Data…");
+        QTRY_VERIFY(shows("Delete every recorded scan?"));
+        QVERIFY(
+            shows("This cannot be undone. The scan currently on screen stays; only the recorded "
+                  "history is deleted."));
+        QVERIFY(shows("Delete 1 Recorded Scan"));
+        QVERIFY(!shows("Clear Recorded Data…"));
+        m_window->press(Qt::Key_Escape);
+        QTRY_VERIFY(shows("Clear Recorded Data…"));
+        QCOMPARE(m_window->loadwick().model().history().get().size(), std::size_t(1));
+        QVERIFY(std::filesystem::exists(historyFile()));
+    }
+
+    void confirmingDeletesTheHistoryAndItsFile()
+    {
+        scan(31'000);
+        scan(31'000);
+        QVERIFY(std::filesystem::exists(historyFile()));
+        press("Clear Recorded Data…");
+        QTRY_VERIFY(shows("Delete 2 Recorded Scans"));
+        press("Delete 2 Recorded Scans");
+        QTRY_VERIFY(shows("Clear Recorded Data…"));
+        QVERIFY(!m_window->isPressable(QStringLiteral("Clear Recorded Data…")));
+        QVERIFY(!std::filesystem::exists(historyFile()));
+        QVERIFY(!shows("Where this repository landed"));
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::compare));
+        QTRY_VERIFY(shows("No recorded scans yet"));
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::overview));
+        QTRY_VERIFY(shows("Scan complete"));
+    }
+
+    void aScanThatEndsLeavesTheScrollPosition()
+    {
+        recordMany();
+        QQuickItem *flickable = viewport();
+        QVERIFY(flickable != nullptr);
+        QTRY_VERIFY(flickable->property("contentHeight").toDouble() - flickable->height() > 300);
+        flickable->setProperty("contentY", 300);
+        auto history = m_window->loadwick().model().history().get();
+        history.push_back(RecordedScanBuilder().at(1'800'000'000).ofTotal(42).build());
+        m_window->loadwick().model().history().set(std::move(history));
+        QTRY_VERIFY(shows("42"));
+        QTest::qWait(50);
+        QCOMPARE(flickable->property("contentY").toDouble(), 300.0);
+    }
+
+    void theChartIsOneGraphicThatTheKeysRead()
+    {
+        recordMany();
+        QQuickItem *chart =
+            m_window->loadwick().window().findChild<QQuickItem *>(QStringLiteral("chart"));
+        QVERIFY(chart != nullptr);
+        QAccessibleInterface *graphic = QAccessible::queryAccessibleInterface(chart);
+        QCOMPARE(graphic->role(), QAccessible::Graphic);
+        QVERIFY(graphic->text(QAccessible::Name)
+                    .startsWith(QStringLiteral("Startup tokens per scan of webshop: 30 scans ")));
+        chart->forceActiveFocus(Qt::TabFocusReason);
+        m_window->press(Qt::Key_End);
+        QVERIFY(graphic->text(QAccessible::Description).endsWith(QStringLiteral(" tokens")));
+    }
+
+private:
+    [[nodiscard]] bool shows(const char *name) const
+    {
+        return m_window->shows(QString::fromUtf8(name));
+    }
+
+    [[nodiscard]] std::filesystem::path historyFile() const
+    {
+        return m_window->folder().path() / "history" / ScanHistoryStore::fileName;
+    }
+
+    void scan(std::int64_t total)
+    {
+        m_window->probe().answer = [total] {
+            ProbeResult result = sampleProbeResult();
+            result.authoritativeTotal = total;
+            return result;
+        };
+        if (!m_window->loadwick().model().selection().get())
+            m_window->loadwick().model().select(RepoSelection::fromUrl(m_window->folder().path()));
+        m_window->loadwick().model().scan();
+        m_window->finishScan();
+    }
+
+    void recordMany()
+    {
+        std::vector<RecordedScan> scans;
+        for (int day = 0; day < 30; ++day)
+            scans.push_back(RecordedScanBuilder()
+                                .at(1'772'615'727 + day * 86'400)
+                                .ofTotal(27'000 + day * 100)
+                                .build());
+        m_window->loadwick().model().history().set(std::move(scans));
+        QTRY_VERIFY(shows("29,900"));
+    }
+
+    /// What scrolls the page.
+    [[nodiscard]] QQuickItem *viewport() const
+    {
+        QQuickItem *item =
+            m_window->loadwick().window().findChild<QQuickItem *>(QStringLiteral("chart"));
+        while (item != nullptr && !item->inherits("QQuickFlickable"))
+            item = item->parentItem();
+        return item;
+    }
+
+    void press(const char *name)
+    {
+        QAccessibleInterface *button = m_window->find(QString::fromUtf8(name));
+        QVERIFY2(button != nullptr && button->actionInterface() != nullptr, name);
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+const RegisteredTest<TrendsViewTest> registered("TrendsView");
+
+} // namespace Loadwick
+
+#include "TrendsViewTest.moc"
