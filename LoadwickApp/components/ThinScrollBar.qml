@@ -10,6 +10,7 @@ ScrollBar {
     minimumSize: 0.08
     padding: 2
     hoverEnabled: true
+    Accessible.name: "Scroll position"
 
     contentItem: Rectangle {
         implicitWidth: 6

@@ -122,6 +122,13 @@ class AccessibleTree:
         self._until("the active window", self._is_active)
         subprocess.run(["xdotool", "key", keys], check=True, timeout=LIMIT_SECONDS)
 
+    def resize(self, width: int, height: int) -> None:
+        """Gives the program's window this size, once it is active."""
+        self._until("the active window", self._is_active)
+        size = ["windowsize", "--sync", str(width), str(height)]
+        command = ["xdotool", "getactivewindow", *size]
+        subprocess.run(command, check=True, timeout=LIMIT_SECONDS)
+
     def _is_active(self) -> bool:
         active = Atspi.StateType.ACTIVE
         return any(
@@ -135,6 +142,22 @@ def is_showing(item: Any) -> bool:
     """Whether the object is on the screen."""
     states = item.get_state_set()
     return states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)
+
+
+def is_in_window(item: Any) -> bool:
+    """Whether the whole object lies inside its window; that of one too high for it never does."""
+    holder = item
+    while holder.get_role_name() not in ("frame", "window"):
+        holder = holder.get_parent()
+    # In a window's own coordinates the toolkit adds the window's place to the size.
+    box = Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
+    window = Atspi.Component.get_extents(holder, Atspi.CoordType.SCREEN)
+    return bool(
+        box.x >= window.x
+        and box.y >= window.y
+        and box.x + box.width <= window.x + window.width
+        and box.y + box.height <= window.y + window.height
+    )
 
 
 def is_focused(item: Any) -> bool:

@@ -12,7 +12,8 @@ from waiting import LIMIT_SECONDS, WaitedInVain, until
 class Display:
     """An X server of one's own with a window manager, so that windows become active."""
 
-    def __init__(self) -> None:
+    def __init__(self, height: int = 900) -> None:
+        self._height = height
         self._processes: list[subprocess.Popen[bytes]] = []
 
     def __enter__(self) -> "Display":
@@ -47,7 +48,7 @@ class Display:
         reader, writer = os.pipe()
         # Without -noreset the server starts anew, and drops whoever is just coming, each time when
         # its last client goes.
-        screen = ["-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"]
+        screen = ["-screen", "0", f"1280x{self._height}x24", "-nolisten", "tcp", "-noreset"]
         self._start(["Xvfb", "-displayfd", str(writer), *screen], (writer,))
         os.close(writer)
         with os.fdopen(reader) as answers:

@@ -26,11 +26,12 @@ class EndToEndCase(unittest.TestCase):
     """A test with a throw-away home and the means to open the window on it."""
 
     maxDiff = None
+    display_height = 900
     display: Display
 
     @classmethod
     def setUpClass(cls) -> None:
-        cls.display = Display()
+        cls.display = Display(cls.display_height)
         cls.display.__enter__()
         cls.addClassCleanup(cls.display.__exit__)
 

@@ -9,25 +9,25 @@ namespace Loadwick {
 
 namespace {
 
-QQuickItem *largestBelow(const QQuickItem &parent, QQuickItem *largest)
+/// The first that is wide enough; lists within the page lie further inside.
+QQuickItem *viewportBelow(const QQuickItem &parent, double leastWidth)
 {
     for (QQuickItem *child : parent.childItems()) {
         if (!child->isVisible())
             continue;
-        if (child->inherits("QQuickFlickable") &&
-            (largest == nullptr || child->height() > largest->height()))
-            largest = child;
-        largest = largestBelow(*child, largest);
+        if (child->inherits("QQuickFlickable") && child->width() > leastWidth)
+            return child;
+        if (QQuickItem *found = viewportBelow(*child, leastWidth))
+            return found;
     }
-    return largest;
+    return nullptr;
 }
 
 } // namespace
 
 QQuickItem *pageViewport(const QQuickWindow &window)
 {
-    QQuickItem *found = largestBelow(*window.contentItem(), nullptr);
-    return found != nullptr && found->width() > window.width() / 2.0 ? found : nullptr;
+    return viewportBelow(*window.contentItem(), window.width() / 2.0);
 }
 
 double hiddenHeight(const QQuickItem &viewport)

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "history/ScanHistoryStore.h"
+#include "history/WeeklyKPIReader.h"
 #include "report/InstructionFileScanner.h"
 
 namespace Loadwick::ConfinedWindow {
@@ -18,6 +19,7 @@ LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home,
         .historyStore =
             std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
         .locale = TextLocale::fromEnvironment(environment),
+        .weeklyLog = WeeklyKPIReader::defaultPath(home.string()),
         .home = home,
     };
 }

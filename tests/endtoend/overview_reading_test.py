@@ -1,0 +1,208 @@
+"""The Overview as a screen reader finds it and as the keyboard walks it."""
+
+from __future__ import annotations
+
+import json
+import os
+from pathlib import Path
+from typing import Any
+
+from accessible_tree import is_enabled, is_in_window, text_of, unless_gone
+from endtoend_case import SCAN, EndToEndCase, main
+from overview_words import (
+    BAND, BREAKDOWN, CHARTS, FILES, HEADER, HEADROOM, PAGES, REPORT, ROWS, TAB_ORDER, WEEKLY
+)
+from program import Program
+from waiting import until
+
+CONTROLS = {
+    "push button", "toggle button", "check box", "combo box", "list", "list item", "slider", "text",
+    "entry", "link", "page tab", "image", "scroll bar"
+}
+
+
+class OverviewReadingTest(EndToEndCase):
+    """A report whose lists are all short enough to be found whole."""
+
+    display_height = 4000
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.repository = self.home.make_repository("webshop", "x" * 4000)
+        (self.home.path / ".claude").mkdir(exist_ok=True)
+        (self.home.path / ".claude" / "CLAUDE.md").write_text("y" * 2400)
+        log = self.home.path / "Library" / "Logs" / "token-kpi" / "weekly.jsonl"
+        log.parent.mkdir(parents=True)
+        log.write_text(json.dumps(self.weekly_line()) + "\n")
+
+    @staticmethod
+    def weekly_line() -> dict[str, object]:
+        """One week just beside its targets."""
+        return {
+            "median_tokens_per_session": 27510400,
+            "tokens_per_pr": 37681169,
+            "window": {"start": "2026-02-23", "end": "2026-03-01"},
+            "timestamp": "2026-03-02T06:00:00Z",
+        }
+
+    def open_report(self) -> Program:
+        """The window with a whole report, come to rest."""
+        program = self.open()
+        self.choose(program, self.repository)
+        program.window.press(SCAN)
+        program.window.wait_for("Scan complete")
+        return program
+
+    def open_whole_report(self) -> Program:
+        """The same in a window that holds all of the page: the toolkit says of what is scrolled away
+        just what it says of what is hidden."""
+        program = self.open_report()
+        program.window.resize(1180, self.display_height - 100)
+        program.window.wait_for(REPORT[-1])
+        return program
+
+    def test_no_text_of_the_page_is_missing(self) -> None:
+        texts = self.open_whole_report().window.texts()
+        paths = (os.fsdecode(self.repository), os.fsdecode(self.repository) + "/CLAUDE.md",
+                 str(self.home.path / ".claude" / "CLAUDE.md"))
+        for part in (HEADER, BAND, HEADROOM, BREAKDOWN, FILES, WEEKLY, REPORT, paths):
+            for expected in part:
+                with self.subTest(expected):
+                    self.assertTrue(any(expected in text for text in texts), "\n".join(texts))
+
+    def test_each_row_of_the_breakdown_is_read_as_one(self) -> None:
+        texts = self.open_whole_report().window.texts()
+        places = []
+        for row in ROWS:
+            with self.subTest(row[0]):
+                found = [place for place, text in enumerate(texts) if all(cell in text for cell in row)]
+                self.assertEqual(len(found), 1)
+                places += found
+        self.assertEqual(places, sorted(places))
+
+    def test_no_control_is_without_a_name(self) -> None:
+        for item in self.open_whole_report().window.items():
+            role = unless_gone(item.get_role_name, "")
+            if role in CONTROLS:
+                with self.subTest(role):
+                    self.assertTrue(item.get_name().strip() or text_of(item).strip(), role)
+
+    def test_each_chart_is_one_graphic_with_a_name(self) -> None:
+        charts = [item for item in self.open_whole_report().window.items()
+                  if unless_gone(item.get_role_name, "") in ("image", "graphic")]
+        self.assertEqual(len(charts), CHARTS, [chart.get_name() for chart in charts])
+        for chart in charts:
+            self.assertTrue(chart.get_name())
+            self.assertEqual(chart.get_child_count(), 0, chart.get_name())
+
+    def test_the_keyboard_reaches_everything_in_the_order_of_the_page(self) -> None:
+        program = self.open_report()
+        stops = self.walk(program, "Tab")
+        names = [text_of(stop) for stop in stops]
+        begin = names.index("Pages") if "Pages" in names else names.index("Overview")
+        names, stops = names[begin:] + names[:begin], stops[begin:] + stops[:begin]
+        places = [self.index_of(part, names) for part in TAB_ORDER]
+        self.assertEqual(places, sorted(places), names)
+        program.window.resize(1180, self.display_height - 100)
+        program.window.wait_for(REPORT[-1])
+        for control in program.window.items():
+            role = unless_gone(control.get_role_name, "")
+            if role == "push button" and is_enabled(control) and text_of(control) not in PAGES:
+                self.assertIn(text_of(control), names)
+
+    def test_the_keyboard_walks_back_the_same_way(self) -> None:
+        program = self.open_report()
+        there = [self.place_of(stop) for stop in self.walk(program, "Tab")]
+        back = [self.place_of(stop) for stop in self.walk(program, "shift+Tab")]
+        self.assertEqual(set(there), set(back))
+        begin = there.index(back[0])
+        self.assertEqual(back, list(reversed(there[begin + 1:] + there[:begin + 1])))
+
+    def test_a_list_of_two_hundred_rows_is_walked_by_key(self) -> None:
+        names = [f"part-{number:03}.md" for number in range(200)]
+        folder = Path(os.fsdecode(self.repository))
+        (folder / "CLAUDE.md").write_text("".join(f"@{name}\n" for name in names))
+        for name in names:
+            (folder / name).write_text("Be brief.\n")
+        program = self.open_report()
+        self.tab_to(program, "/webshop/CLAUDE.md.")
+        for number in range(3):
+            self.press_to(program, "Down", names[number])
+        self.press_to(program, "End", "part-199.md")
+        self.press_to(program, "Up", "part-198.md")
+        self.press_to(program, "Home", "/webshop/CLAUDE.md.")
+        row = ""
+        while "part-199.md" not in row:
+            program.window.key("Next")
+            row = until(f"a row after {row!r}", lambda before=row: self.row_other_than(program, before))
+
+    def row_other_than(self, program: Program, before: str) -> str:
+        """What the row with the keyboard says, unless that is what the one before said."""
+        stop = program.window.focused()
+        text = text_of(stop) if stop and is_in_window(stop) else ""
+        return text if text != before else ""
+
+    def tab_to(self, program: Program, part: str) -> None:
+        """Presses Tab until a stop says that."""
+        place = ""
+        for _ in range(20):
+            stop = self.step(program, "Tab", place)
+            if part in text_of(stop):
+                return
+            place = self.place_of(stop)
+        self.fail(f"Tab does not lead to {part!r}")
+
+    def press_to(self, program: Program, key: str, part: str) -> None:
+        """Presses the key once and expects it to lead to what says that."""
+        program.window.key(key)
+        until(f"{part!r} in sight", lambda: self.is_at(program, part))
+
+    def is_at(self, program: Program, part: str) -> bool:
+        """Whether the keyboard is at what says that, and that in sight."""
+        stop = program.window.focused()
+        return bool(stop and part in text_of(stop) and is_in_window(stop))
+
+    def index_of(self, part: str, names: list[str]) -> int:
+        """The place of the first name that holds the part."""
+        found = [place for place, name in enumerate(names) if part in name]
+        self.assertTrue(found, f"{part!r} is not among {names}")
+        return found[0]
+
+    def walk(self, program: Program, key: str) -> list[Any]:
+        """What the key leads to, one stop after the other, until it is where it began. Each stop
+        comes into sight."""
+        stops: list[Any] = []
+        places: list[str] = []
+        while True:
+            before = places[-1] if places else ""
+            stop = self.step(program, key, before)
+            place = self.place_of(stop)
+            if places and place == places[0]:
+                return stops
+            self.assertNotIn(place, places, f"the keyboard is caught at {text_of(stop)!r}")
+            until(f"the sight of {text_of(stop)!r}", lambda: is_in_window(stop))
+            stops.append(stop)
+            places.append(place)
+
+    def step(self, program: Program, key: str, before: str) -> Any:
+        """Presses the key; gives where it leads from the place before."""
+        program.window.key(key)
+        return until(f"another stop after {before!r}", lambda: self.stop_other_than(program, before))
+
+    def stop_other_than(self, program: Program, place: str) -> Any:
+        """What has the keyboard, unless that is still where it was."""
+        stop = program.window.focused()
+        return stop if stop and self.place_of(stop) != place else None
+
+    @staticmethod
+    def place_of(item: Any) -> str:
+        """A name that tells an object from all others of the window."""
+        path = []
+        while item is not None and item.get_role_name() != "application":
+            path.append(item.get_index_in_parent())
+            item = item.get_parent()
+        return "/".join(map(str, reversed(path)))
+
+
+if __name__ == "__main__":
+    main()
