@@ -2,41 +2,109 @@
 
 #include <utility>
 
-#include "history/ScanHistory.h"
+#include <QQmlEngine>
+
 #include "report/NumberText.h"
 #include "shell/QtText.h"
 
 namespace Loadwick {
+namespace {
+
+// About four windows full.
+constexpr std::size_t manyBars = 300;
+
+} // namespace
 
 ComparePresenter::ComparePresenter(ScanModel &model, TextLocale locale)
-    : m_model(model), m_locale(std::move(locale))
+    : m_model(model), m_locale(std::move(locale)), m_leaderboard(m_locale), m_combined(m_locale)
 {
     m_model.history().observe({.didChange = [this] { showHistory(); }});
     showHistory();
 }
 
+ColumnPresenter *ComparePresenter::column(int index) const
+{
+    return index >= 0 && index < m_columnCount ? m_columns[static_cast<std::size_t>(index)].get()
+                                               : nullptr;
+}
+
+int ComparePresenter::categoryCount() const
+{
+    return static_cast<int>(m_comparison->bars.rowCount());
+}
+
+bool ComparePresenter::isLarge() const
+{
+    return m_comparison->bars.rowCount() * m_comparison->bars.columnCount() > manyBars;
+}
+
+QString ComparePresenter::scaleStart() const
+{
+    return qtText(NumberText::grouped(0, m_locale));
+}
+
+QString ComparePresenter::scaleEnd() const
+{
+    return qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale));
+}
+
+QStringList ComparePresenter::reading() const
+{
+    return {
+        QStringLiteral("One bar is one category of one repository's latest recorded scan. Its "
+                       "length is the category's tokens; all bars share one scale."),
+        QStringLiteral("The categories stand heaviest first, by their tokens in all repositories "
+                       "together. Within each, the repositories keep one order and one colour; "
+                       "after five, the colours start again."),
+        QStringLiteral("A missing bar, with a dash for its figure, means that the category was not "
+                       "recorded for that repository. A category recorded with no tokens says 0."),
+        QStringLiteral("Totals are authoritative, as reported by Claude. The category splits are "
+                       "local estimates."),
+    };
+}
+
 void ComparePresenter::showHistory()
 {
-    const auto latest = ScanHistory::latestPerRepository(m_model.history().get());
+    m_comparison = std::make_shared<const Comparison>(Comparison::of(m_model.history().get()));
     m_emptyTitle.clear();
     m_emptyText.clear();
-    if (latest.size() == 1)
-        showOneRepository(latest.front());
-    if (latest.empty()) {
-        m_emptyTitle = QStringLiteral("No recorded scans yet");
-        m_emptyText = QStringLiteral(
-            "Scan two repositories and their latest results appear here side by side.");
+    if (m_comparison->columns.size() < 2) {
+        showWhyEmpty(m_comparison->columns);
+        m_comparison = std::make_shared<const Comparison>();
     }
+    m_leaderboard.setEntries(m_comparison->leaderboard);
+    m_combined.show(m_comparison);
+    showColumns();
     Q_EMIT changed();
 }
 
-void ComparePresenter::showOneRepository(const RecordedScan &latest)
+void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)
 {
+    if (columns.empty()) {
+        m_emptyTitle = QStringLiteral("No recorded scans yet");
+        m_emptyText = QStringLiteral(
+            "Scan two repositories and their latest results appear here side by side.");
+        return;
+    }
+    const RecordedScan &latest = columns.front();
     m_emptyTitle = QStringLiteral("Only one repository recorded");
     m_emptyText = qtText(latest.repositoryName) + QStringLiteral(" measured ") +
                   qtText(NumberText::grouped(latest.total, m_locale)) +
                   QStringLiteral(" tokens. Choose a second repository and scan it to compare the "
                                  "two.");
+}
+
+// Cards are kept and shown anew rather than replaced: what is on the page stays where it is.
+void ComparePresenter::showColumns()
+{
+    const std::size_t count = m_comparison->columns.size();
+    while (m_columns.size() < count) {
+        m_columns.push_back(std::make_unique<ColumnPresenter>(m_locale));
+        QQmlEngine::setObjectOwnership(m_columns.back().get(), QQmlEngine::CppOwnership);
+    }
+    for (std::size_t column = 0; column < count; ++column)
+        m_columns[column]->show(m_comparison, column);
+    m_columnCount = static_cast<int>(count);
 }
 
 } // namespace Loadwick

@@ -1,22 +1,40 @@
 import QtQuick
 import Loadwick
 
-// Every scanned repository beside the others.
-PageAppear {
+// Every scanned repository beside the others, or why there is nothing to compare yet.
+Item {
     id: page
 
     required property ComparePresenter compare
+    readonly property bool isEmpty: page.compare.columnCount === 0
 
-    PageHeader {
-        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: AppTheme.pageMargin }
-        width: Math.min(AppTheme.contentWidth, page.width - 2 * AppTheme.pageMargin)
-        title: "Compare"
-        detail: "The latest recorded scan of each repository, side by side, category for category."
-    }
-    ScanEmptyState {
+    PageAppear {
         anchors.fill: parent
-        title: page.compare.emptyTitle
-        detail: page.compare.emptyText
-        visible: page.compare.emptyText.length > 0
+        visible: page.isEmpty
+
+        CompareHeader {
+            anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: AppTheme.pageMargin }
+            width: Math.min(AppTheme.contentWidth, page.width - 2 * AppTheme.pageMargin)
+        }
+        ScanEmptyState {
+            anchors.fill: parent
+            title: page.compare.emptyTitle
+            detail: page.compare.emptyText
+        }
     }
+    // Made when it is first looked at.
+    Loader {
+        id: report
+
+        property bool wasShown: false
+
+        anchors.fill: parent
+        active: report.wasShown && !page.isEmpty
+        Component.onCompleted: {
+            report.setSource("CompareReport.qml", { compare: page.compare });
+            report.wasShown = page.visible;
+        }
+    }
+
+    onVisibleChanged: if (page.visible) report.wasShown = true
 }

@@ -17,12 +17,18 @@ FocusScope {
     property int currentIndex: -1
     // A row that something beside the list speaks of, -1 for none.
     property int markedIndex: -1
-    readonly property int shortCount: 60
+    // A list of no more rows than this is there as a whole.
+    property int shortCount: 60
 
     signal copyRequested(int index)
 
-    // Where the list begins on the page.
-    property real pageTop: 0
+    // Where the list begins on the page. It moves when anything that holds it does.
+    readonly property real pageTop: {
+        let top = 0;
+        for (let item = list as Item; item && item !== list.viewport.contentItem; item = item.parent)
+            top += item.y;
+        return top;
+    }
     readonly property bool isShort: rows.count <= list.shortCount
     // The rows that the page shows, or all of a short list. The number does not lean on the first
     // row: the two change one after the other, and in between the list would be as high as the jump.
@@ -34,17 +40,6 @@ FocusScope {
 
     function rowAt(pageY) {
         return Math.max(0, Math.min(rows.count, Math.floor((pageY - list.pageTop) / list.rowHeight)));
-    }
-
-    function findTop() {
-        list.pageTop = list.mapToItem(list.viewport.contentItem, 0, 0).y;
-    }
-
-    // The list moves when anything that holds it does.
-    function followHolders() {
-        for (let item = list as Item; item && item !== list.viewport.contentItem; item = item.parent)
-            item.yChanged.connect(list.findTop);
-        list.findTop();
     }
 
     function goTo(index) {
@@ -88,7 +83,6 @@ FocusScope {
     Accessible.role: Accessible.List
     Accessible.focusable: list.activeFocusOnTab
 
-    Component.onCompleted: list.followHolders()
     onActiveFocusChanged: if (list.activeFocus && rows.count > 0) list.goTo(list.currentIndex)
 
     Keys.onPressed: event => {

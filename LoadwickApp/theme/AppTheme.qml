@@ -95,6 +95,8 @@ QtObject {
     readonly property int amountColumn: 144
     readonly property int tableRowHeight: 36
     readonly property int fileRowHeight: 52
+    // One line of a list of scans or repositories.
+    readonly property int listRowHeight: 48
 
     readonly property int meterHeight: 16
     readonly property int meterTickWidth: 2

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "support/RecordedScanBuilder.h"
+#include "support/SampleHistories.h"
 #include "support/ScanningModel.h"
 #include "support/TestRegistry.h"
 
@@ -44,11 +45,107 @@ private Q_SLOTS:
         QCOMPARE(m_compare->emptyText(), QString());
     }
 
+    void groupsFiguresAsTheLocaleDoes_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("figure");
+        QTest::newRow("en_US") << QStringLiteral("en_US") << QStringLiteral("1,234,567");
+        QTest::newRow("de_DE") << QStringLiteral("de_DE") << QStringLiteral("1.234.567");
+        QTest::newRow("C") << QStringLiteral("C") << QStringLiteral("1,234,567");
+        QTest::newRow("hi_IN") << QStringLiteral("hi_IN") << QStringLiteral("12,34,567");
+    }
+
     void groupsFiguresAsTheLocaleDoes()
     {
-        const ComparePresenter german(m_scanning->model, {.numbers = "de_DE"});
-        record({RecordedScanBuilder().build()});
-        QVERIFY(german.emptyText().startsWith(QStringLiteral("webshop measured 27.654 tokens. ")));
+        QFETCH(const QString, locale);
+        QFETCH(const QString, figure);
+        const ComparePresenter local(
+            m_scanning->model, TextLocale::fromEnvironment({{"LC_ALL", locale.toStdString()}}));
+        record({RecordedScanBuilder().ofTotal(1'234'567).build()});
+        QCOMPARE(local.emptyText(),
+                 QStringLiteral("webshop measured ") + figure +
+                     QStringLiteral(" tokens. Choose a second repository and scan it to compare "
+                                    "the two."));
+        record(twoRepositories());
+        QCOMPARE(local.scaleEnd(), figure);
+        QCOMPARE(local.scaleStart(), QStringLiteral("0"));
+    }
+
+    void oneRepositoryHasNoLeaderboardAndNoCards()
+    {
+        record({RecordedScanBuilder().withCategory("Tools", 1).build()});
+        QCOMPARE(m_compare->leaderboard()->rowCount(), 0);
+        QCOMPARE(m_compare->combined()->rowCount(), 0);
+        QCOMPARE(m_compare->columnCount(), 0);
+        QCOMPARE(m_compare->column(0), nullptr);
+    }
+
+    void twoRepositoriesHaveALeaderboardCardsAndACombinedChart()
+    {
+        record(twoRepositories());
+        QCOMPARE(m_compare->leaderboard()->rowCount(), 2);
+        QCOMPARE(m_compare->columnCount(), 2);
+        QCOMPARE(m_compare->categoryCount(), 2);
+        QCOMPARE(m_compare->combined()->rowCount(), 2 * 3);
+        QCOMPARE(m_compare->column(0)->place(), QStringLiteral("/a"));
+        QCOMPARE(m_compare->column(1)->place(), QStringLiteral("/b"));
+        QCOMPARE(m_compare->column(2), nullptr);
+        QCOMPARE(m_compare->column(-1), nullptr);
+    }
+
+    void cardsStandByNameHoweverHeavyTheyAre()
+    {
+        record({RecordedScanBuilder().named("z").in("/z").ofTotal(9).build(),
+                RecordedScanBuilder().named("a").in("/a").ofTotal(1).build()});
+        QCOMPARE(m_compare->column(0)->name(), QStringLiteral("a"));
+        QCOMPARE(m_compare->column(1)->name(), QStringLiteral("z"));
+    }
+
+    void aCardStaysTheSameObjectWhenAScanIsAdded()
+    {
+        std::vector<RecordedScan> scans = twoRepositories();
+        record(scans);
+        const ColumnPresenter *const first = m_compare->column(0);
+        scans.push_back(RecordedScanBuilder().in("/a").at(1'800'000'000).ofTotal(5).build());
+        record(scans);
+        QCOMPARE(m_compare->column(0), first);
+        QCOMPARE(first->total(), QStringLiteral("5"));
+    }
+
+    void cardsOfRepositoriesThatAreGoneAreNotGiven()
+    {
+        record(twoRepositories());
+        record({});
+        QCOMPARE(m_compare->columnCount(), 0);
+        QCOMPARE(m_compare->column(1), nullptr);
+        QCOMPARE(m_compare->leaderboard()->rowCount(), 0);
+    }
+
+    void twoHundredRepositoriesOfFiftyCategoriesAreLarge()
+    {
+        record(SampleHistories::ofSize(31, 5, 7));
+        QVERIFY(!m_compare->isLarge());
+        record(SampleHistories::ofSize(200, 200, 50));
+        QVERIFY(m_compare->isLarge());
+        QCOMPARE(m_compare->columnCount(), 200);
+        QCOMPARE(m_compare->combined()->rowCount(), 50 * 201);
+    }
+
+    void saysHowToReadTheBars()
+    {
+        const QStringList expected = {
+            QStringLiteral("One bar is one category of one repository's latest recorded scan. Its "
+                           "length is the category's tokens; all bars share one scale."),
+            QStringLiteral("The categories stand heaviest first, by their tokens in all "
+                           "repositories together. Within each, the repositories keep one order "
+                           "and one colour; after five, the colours start again."),
+            QStringLiteral("A missing bar, with a dash for its figure, means that the category was "
+                           "not recorded for that repository. A category recorded with no tokens "
+                           "says 0."),
+            QStringLiteral("Totals are authoritative, as reported by Claude. The category splits "
+                           "are local estimates."),
+        };
+        QCOMPARE(m_compare->reading(), expected);
     }
 
     void isEmptyAgainWhenTheHistoryIsCleared()
@@ -59,6 +156,12 @@ private Q_SLOTS:
     }
 
 private:
+    static std::vector<RecordedScan> twoRepositories()
+    {
+        return {RecordedScanBuilder().in("/b").withCategory("Tools", 1'234'567).build(),
+                RecordedScanBuilder().in("/a").withCategory("Memory", 7).build()};
+    }
+
     void record(std::vector<RecordedScan> scans)
     {
         m_scanning->model.history().set(std::move(scans));

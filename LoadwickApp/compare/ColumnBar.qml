@@ -1,0 +1,57 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// One category of a card: its name and its tokens over its bar.
+Item {
+    id: row
+
+    required property string category
+    required property string value
+    required property real length
+    required property bool isRecorded
+    required property string spoken
+    readonly property TintedList bars: row.ListView.view ? row.ListView.view.parent as TintedList : null
+
+    width: row.bars ? row.bars.width : 0
+    height: row.bars ? row.bars.rowHeight : 0
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.spoken
+
+    ColumnLayout {
+        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
+        spacing: 2
+
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: AppTheme.smallSpace
+
+            PlainLabel {
+                id: name
+                objectName: "category"
+                Layout.fillWidth: true
+                text: row.category
+                font: AppTheme.captionFont
+                secondary: !row.isRecorded
+                elide: Text.ElideMiddle
+                maximumLineCount: 1
+                Accessible.ignored: true
+            }
+            PlainLabel {
+                objectName: "value"
+                text: row.value
+                font: AppTheme.captionStrongFont
+                secondary: !row.isRecorded
+                Accessible.ignored: true
+            }
+        }
+        TokenBar {
+            objectName: "track"
+            Layout.fillWidth: true
+            length: row.length
+            fill: row.bars ? row.bars.fill : "transparent"
+        }
+    }
+
+    HoverTip { words: name.truncated ? row.category : "" }
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include "compare/Comparison.h"
+#include "report/TextLocale.h"
+
+namespace Loadwick {
+
+/// One repository's card: what its latest scan measured, and as rows its bars, one for each
+/// category of the axis that all cards share.
+class ColumnPresenter final : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the Compare page's presenter.")
+    Q_PROPERTY(QString name READ name NOTIFY changed)
+    Q_PROPERTY(QString place READ place NOTIFY changed)
+    Q_PROPERTY(QString scanned READ scanned NOTIFY changed)
+    Q_PROPERTY(QString total READ total NOTIFY changed)
+    Q_PROPERTY(int band READ band NOTIFY changed)
+    Q_PROPERTY(QString bandText READ bandText NOTIFY changed)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
+    Q_PROPERTY(QString chartName READ chartName NOTIFY changed)
+
+public:
+    enum Role
+    {
+        Category = Qt::UserRole,
+        Value,      ///< tokens, or a dash where the scan lacks the category
+        Length,     ///< of the bar, 0 to 1
+        IsRecorded, ///< whether the scan names the category
+        Spoken      ///< the whole row in words
+    };
+
+    explicit ColumnPresenter(TextLocale locale, QObject *parent = nullptr);
+
+    /// Shows the comparison's column at `column`. The comparison is one of several owners' and does
+    /// not change.
+    void show(std::shared_ptr<const Comparison> comparison, std::size_t column);
+
+    [[nodiscard]] QString name() const;
+    /// The path, which tells repositories of one name apart.
+    [[nodiscard]] QString place() const;
+    [[nodiscard]] QString scanned() const;
+    [[nodiscard]] QString total() const;
+    /// The total's, as an index of the theme's bands.
+    [[nodiscard]] int band() const;
+    [[nodiscard]] QString bandText() const;
+    /// What stands in place of the bars of a scan without categories; empty for one with some.
+    [[nodiscard]] QString emptyText() const;
+    /// What the bars are, for someone who does not see them.
+    [[nodiscard]] QString chartName() const;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    [[nodiscard]] const RecordedScan &scan() const { return m_comparison->columns.at(m_column); }
+
+    TextLocale m_locale;
+    std::shared_ptr<const Comparison> m_comparison; ///< none before the first is shown
+    std::size_t m_column = 0;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// The categories of all repositories on one axis, one bar per repository within each.
+ReportSurface {
+    id: card
+
+    required property ComparePresenter compare
+    required property Flickable viewport
+    readonly property real nameWidth: Math.round(Math.min(200, 0.28 * card.width))
+    // No figure is wider than that of the longest bar.
+    readonly property real valueWidth: Math.ceil(widest.advanceWidth)
+
+    SectionHeader {
+        Layout.fillWidth: true
+        title: "Category for category"
+        detail: "Same categories, every recorded repository, on one axis. Totals are authoritative; the category splits are local estimates."
+    }
+    CombinedList {
+        objectName: "combined"
+        Layout.fillWidth: true
+        Accessible.name: "Category for category"
+        model: card.compare.combined
+        viewport: card.viewport
+        rowHeight: 24
+        delegate: CombinedRow { }
+        nameWidth: card.nameWidth
+        valueWidth: card.valueWidth
+    }
+    PlainLabel {
+        text: "No category estimates"
+        secondary: true
+        visible: card.compare.categoryCount === 0
+    }
+    ScaleEnds {
+        Layout.fillWidth: true
+        Layout.leftMargin: card.nameWidth + AppTheme.mediumSpace
+        Layout.rightMargin: card.valueWidth + AppTheme.mediumSpace
+        start: card.compare.scaleStart
+        end: card.compare.scaleEnd
+        visible: card.compare.categoryCount > 0
+    }
+    Hairline { Layout.fillWidth: true }
+    CollapsibleSection {
+        Layout.fillWidth: true
+        title: "How to read this"
+
+        Repeater {
+            model: card.compare.reading
+
+            PlainLabel {
+                required property string modelData
+
+                Layout.fillWidth: true
+                text: modelData
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+
+    TextMetrics {
+        id: widest
+        font: AppTheme.captionStrongFont
+        text: card.compare.scaleEnd
+    }
+}

@@ -1,0 +1,27 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// Two repositories or more: who is heaviest, each for itself, all on one axis.
+PageColumn {
+    id: page
+
+    required property ComparePresenter compare
+
+    CompareHeader { Layout.fillWidth: true }
+    Leaderboard {
+        Layout.fillWidth: true
+        compare: page.compare
+        viewport: page.viewport
+    }
+    ColumnGrid {
+        Layout.fillWidth: true
+        compare: page.compare
+        viewport: page.viewport
+    }
+    CombinedCard {
+        Layout.fillWidth: true
+        compare: page.compare
+        viewport: page.viewport
+    }
+}

@@ -1,0 +1,26 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// All repositories, the heaviest first.
+ReportSurface {
+    id: card
+
+    required property ComparePresenter compare
+    required property Flickable viewport
+
+    SectionHeader {
+        Layout.fillWidth: true
+        title: "Leaderboard"
+        detail: "Every scanned repository, ranked by its latest recorded total — heaviest first. The trend compares each repository's two most recent scans."
+    }
+    LongList {
+        objectName: "leaderboard"
+        Layout.fillWidth: true
+        Accessible.name: "Leaderboard"
+        model: card.compare.leaderboard
+        viewport: card.viewport
+        rowHeight: AppTheme.listRowHeight
+        delegate: LeaderboardRow { }
+    }
+}

@@ -1,0 +1,244 @@
+#include <set>
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QRegularExpression>
+#include <QTest>
+
+#include "compare/ComparePresenter.h"
+#include "support/RecordedScanBuilder.h"
+#include "support/SampleHistories.h"
+#include "support/ScanningModel.h"
+#include "support/TestRegistry.h"
+#include "support/VisualItems.h"
+#include "theme/ApplicationStyle.h"
+
+namespace Loadwick {
+
+class CompareViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void oneRepositoryShowsNoLeaderboard();
+    void twoRepositoriesShowALeaderboardCardsAndOneChart();
+    void theChartAppearsWithTheSecondRepository();
+    void ranksAndPathsReachTheLeaderboard();
+    void cardsStandSideBySideWhereTheyFit();
+    void cardsAreStackedWhereTheyDoNotFit();
+    void aCategoryKeepsItsPlaceInEveryCard();
+    void equalTokensAreEquallyLongInEveryCard();
+    void aScanWithoutCategoriesSaysSoOnItsCard();
+    void figuresOfAListEndOnOneLine();
+    void aLongNameAndALongCategoryPushNoFigureOut();
+    void theScrollPositionStaysWhenAScanEnds();
+    void ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade();
+    void theLastLineOfTwoHundredRepositoriesCanBeScrolledTo();
+
+private:
+    void record(std::vector<RecordedScan> scans)
+    {
+        m_scanning->model.history().set(std::move(scans));
+        QTest::qWait(20);
+    }
+    [[nodiscard]] QList<QQuickItem *> items(const char *name) const
+    {
+        return visibleItems(m_view->rootObject(), QString::fromLatin1(name));
+    }
+    [[nodiscard]] QQuickItem *viewport() const;
+
+    std::unique_ptr<ScanningModel> m_scanning;
+    std::unique_ptr<ComparePresenter> m_compare;
+    std::unique_ptr<QQuickView> m_view;
+};
+
+void CompareViewTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("Error|unavailable|Cyclic")));
+    m_scanning = std::make_unique<ScanningModel>();
+    m_compare = std::make_unique<ComparePresenter>(m_scanning->model, TextLocale());
+    m_view = std::make_unique<QQuickView>();
+    ApplicationStyle::addModulePath(*m_view->engine());
+    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view->setInitialProperties(
+        {{QStringLiteral("compare"), QVariant::fromValue(m_compare.get())}});
+    m_view->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/CompareView.qml")));
+    m_view->resize(930, 700);
+    m_view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+}
+
+void CompareViewTest::cleanup()
+{
+    m_view.reset();
+    m_compare.reset();
+    m_scanning.reset();
+}
+
+QQuickItem *CompareViewTest::viewport() const
+{
+    return items("leaderboard").constFirst()->property("viewport").value<QQuickItem *>();
+}
+
+void CompareViewTest::oneRepositoryShowsNoLeaderboard()
+{
+    record(SampleHistories::ofSize(3, 1, 5));
+    QVERIFY(items("leaderboard").isEmpty());
+    QVERIFY(items("bars").isEmpty());
+}
+
+void CompareViewTest::twoRepositoriesShowALeaderboardCardsAndOneChart()
+{
+    record(SampleHistories::ofSize(7, 2, 6));
+    QCOMPARE(items("leaderboard").size(), 1);
+    QCOMPARE(items("bars").size(), 2);
+    QCOMPARE(items("combined").size(), 1);
+    QCOMPARE(items("track").size(), 2 * 6 + 2 * 6);
+}
+
+void CompareViewTest::theChartAppearsWithTheSecondRepository()
+{
+    record(SampleHistories::ofSize(1, 1, 6));
+    record(SampleHistories::ofSize(2, 2, 6));
+    QCOMPARE(items("leaderboard").size(), 1);
+    record({});
+    QVERIFY(items("leaderboard").isEmpty());
+}
+
+void CompareViewTest::ranksAndPathsReachTheLeaderboard()
+{
+    record({RecordedScanBuilder().named("app").in("/a/app").ofTotal(5).build(),
+            RecordedScanBuilder().named("app").in("/b/app").ofTotal(9).build()});
+    const QList<QQuickItem *> ranks = items("rank");
+    QCOMPARE(ranks.size(), 2);
+    QCOMPARE(ranks[1]->property("text").toString(), QStringLiteral("2"));
+    const QList<QQuickItem *> words = items("words");
+    QCOMPARE(words[0]->property("whole").toString(), QStringLiteral("/b/app"));
+    QCOMPARE(words[1]->property("whole").toString(), QStringLiteral("/a/app"));
+}
+
+void CompareViewTest::cardsStandSideBySideWhereTheyFit()
+{
+    record(SampleHistories::ofSize(2, 2, 6));
+    const QList<QQuickItem *> bars = items("bars");
+    QCOMPARE(bars[0]->mapToScene({}).y(), bars[1]->mapToScene({}).y());
+    QVERIFY(bars[0]->mapToScene({}).x() < bars[1]->mapToScene({}).x());
+}
+
+void CompareViewTest::cardsAreStackedWhereTheyDoNotFit()
+{
+    record(SampleHistories::ofSize(2, 2, 6));
+    m_view->resize(500, 700);
+    QTRY_COMPARE(items("bars")[0]->mapToScene({}).x(), items("bars")[1]->mapToScene({}).x());
+    const QList<QQuickItem *> bars = items("bars");
+    QVERIFY(bars[0]->mapToScene({}).y() + bars[0]->height() < bars[1]->mapToScene({}).y());
+}
+
+void CompareViewTest::aCategoryKeepsItsPlaceInEveryCard()
+{
+    record({RecordedScanBuilder().in("/a").withCategory("x", 9).withCategory("y", 5).build(),
+            RecordedScanBuilder().in("/b").withCategory("y", 1).build()});
+    const QList<QQuickItem *> bars = items("bars");
+    const auto first = visibleItems(bars[0], QStringLiteral("category"));
+    const auto second = visibleItems(bars[1], QStringLiteral("category"));
+    QCOMPARE(first.size(), 2);
+    QCOMPARE(second.size(), 2);
+    QCOMPARE(second[1]->property("text").toString(), QStringLiteral("y"));
+    QCOMPARE(first[1]->mapToScene({}).y(), second[1]->mapToScene({}).y());
+}
+
+void CompareViewTest::equalTokensAreEquallyLongInEveryCard()
+{
+    record({RecordedScanBuilder().in("/a").withCategory("x", 90).withCategory("y", 30).build(),
+            RecordedScanBuilder().in("/b").withCategory("y", 30).build()});
+    const auto first = visibleItems(items("bars")[0], QStringLiteral("bar"));
+    const auto second = visibleItems(items("bars")[1], QStringLiteral("bar"));
+    QCOMPARE(first[1]->width(), second.last()->width());
+    QCOMPARE(first[0]->width(), first[0]->parentItem()->width());
+}
+
+void CompareViewTest::aScanWithoutCategoriesSaysSoOnItsCard()
+{
+    record({RecordedScanBuilder().in("/a").withCategory("x", 90).build(),
+            RecordedScanBuilder().in("/b").build()});
+    const QList<QQuickItem *> words = items("empty");
+    QCOMPARE(words.size(), 1);
+    QCOMPARE(words[0]->property("text").toString(), QStringLiteral("No category estimates"));
+}
+
+void CompareViewTest::figuresOfAListEndOnOneLine()
+{
+    record(SampleHistories::ofSize(31, 5, 7));
+    for (const char *name : {"leaderboard", "combined"}) {
+        std::set<qreal> edges;
+        const auto values = visibleItems(items(name)[0], QStringLiteral("value"));
+        for (const QQuickItem *value : values)
+            edges.insert(rightEdge(value));
+        QCOMPARE(edges.size(), std::size_t(1));
+    }
+}
+
+void CompareViewTest::aLongNameAndALongCategoryPushNoFigureOut()
+{
+    const std::string name(300, 'n');
+    const std::string category(80, 'c');
+    m_view->resize(480, 700);
+    record({RecordedScanBuilder().named(name).in("/a").withCategory(category, 9'876'543).build(),
+            RecordedScanBuilder().in("/b").withCategory("x", 1).ofTotal(9'876'543).build()});
+    const QList<QQuickItem *> values = items("value");
+    QCOMPARE(values.size(), 2 + 2 * 2 + 2 * 2);
+    for (const QQuickItem *value : values) {
+        QVERIFY(rightEdge(value) <= 480 - 24 - 16);
+        QVERIFY(!value->property("truncated").toBool());
+        QVERIFY(value->width() >= value->implicitWidth());
+    }
+}
+
+void CompareViewTest::theScrollPositionStaysWhenAScanEnds()
+{
+    record(SampleHistories::ofSize(30, 5, 7));
+    viewport()->setProperty("contentY", 420);
+    QTest::qWait(20);
+    record(SampleHistories::ofSize(31, 5, 7));
+    QTest::qWait(50);
+    QCOMPARE(viewport()->property("contentY").toInt(), 420);
+    QCOMPARE(items("bars").size(), 5);
+}
+
+void CompareViewTest::ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade()
+{
+    record(SampleHistories::ofSize(200, 200, 50));
+    QCOMPARE(m_compare->columnCount(), 200);
+    QVERIFY(items("words").size() < 40);
+    QVERIFY2(items("track").size() < 200, qPrintable(QString::number(items("track").size())));
+    viewport()->setProperty("contentY", 200 * 48 + 3'000);
+    QTest::qWait(50);
+    QVERIFY2(items("track").size() < 400, qPrintable(QString::number(items("track").size())));
+    QVERIFY(!items("track").isEmpty());
+    viewport()->setProperty("contentY", 0);
+    QTest::qWait(50);
+    viewport()->setProperty("contentY", 200 * 48 + 3'000);
+    QTest::qWait(50);
+    QVERIFY2(!items("track").isEmpty(), "a card that was left can be come back to");
+}
+
+void CompareViewTest::theLastLineOfTwoHundredRepositoriesCanBeScrolledTo()
+{
+    record(SampleHistories::ofSize(200, 200, 50));
+    const qreal end = viewport()->property("contentHeight").toReal() - viewport()->height();
+    viewport()->setProperty("contentY", end);
+    QTest::qWait(50);
+    const auto names = visibleItems(items("combined")[0], QStringLiteral("name"));
+    QVERIFY(!names.isEmpty());
+    QVERIFY(m_compare->column(199) != nullptr);
+    QCOMPARE(names.last()->property("text").toString(), m_compare->column(199)->name());
+}
+
+const RegisteredTest<CompareViewTest> registered("CompareView");
+
+} // namespace Loadwick
+
+#include "CompareViewTest.moc"

@@ -1,0 +1,24 @@
+#include "support/VisualItems.h"
+
+namespace Loadwick {
+
+QList<QQuickItem *> visibleItems(QQuickItem *root, const QString &objectName)
+{
+    QList<QQuickItem *> found;
+    const QList<QQuickItem *> children = root->childItems();
+    for (QQuickItem *child : children) {
+        if (!child->isVisible())
+            continue;
+        if (child->objectName() == objectName)
+            found.append(child);
+        found.append(visibleItems(child, objectName));
+    }
+    return found;
+}
+
+qreal rightEdge(const QQuickItem *item)
+{
+    return item->mapToScene(QPointF(item->width(), 0)).x();
+}
+
+} // namespace Loadwick

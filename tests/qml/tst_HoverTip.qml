@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+import Loadwick
+
+Item {
+    id: scene
+    width: 300
+    height: 200
+
+    Item {
+        id: wordy
+        width: 100; height: 40
+        HoverTip { id: tip; words: "<b>/srv/one</b>" }
+    }
+    Item {
+        id: silent
+        y: 60; width: 100; height: 40
+        HoverTip { id: nothing; words: "" }
+    }
+
+    TestCase {
+        name: "HoverTip"
+        when: windowShown
+
+        function toolTipOf(item) {
+            return item.children[0].item;
+        }
+
+        function init() {
+            mouseMove(scene, 290, 190);
+            tryVerify(function () { return toolTipOf(tip) === null; });
+        }
+
+        function test_noToolTipExistsBeforeThePointerComes() {
+            compare(toolTipOf(tip), null);
+        }
+
+        function test_thePointerBringsTheWordsLetterByLetter() {
+            mouseMove(wordy, 20, 20);
+            tryVerify(function () { return toolTipOf(tip) !== null; });
+            tryCompare(toolTipOf(tip), "opened", true);
+            compare(toolTipOf(tip).words, "<b>/srv/one</b>");
+            compare(toolTipOf(tip).contentItem.textFormat, Text.PlainText);
+        }
+
+        function test_withoutWordsThereIsNoToolTip() {
+            mouseMove(silent, 20, 20);
+            wait(50);
+            compare(toolTipOf(nothing), null);
+        }
+
+        function test_theToolTipGoesWithThePointer() {
+            mouseMove(wordy, 20, 20);
+            tryVerify(function () { return toolTipOf(tip) !== null; });
+            mouseMove(scene, 290, 190);
+            tryVerify(function () { return toolTipOf(tip) === null; });
+        }
+    }
+}
