@@ -69,10 +69,10 @@ void DonutChart::paint(QPainter *painter)
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
     painter->translate(width() / 2, height() / 2);
-    for (std::size_t slice = 0; slice < m_geometry.slices().size(); ++slice) {
-        painter->setOpacity(DonutGeometry::opacity(slice, selected));
+    for (const auto &[slice, sector, opacity] : m_geometry.marks(radius(), selected)) {
+        painter->setOpacity(opacity);
         painter->setBrush(colorOf(slice));
-        painter->drawPath(path(m_geometry.sector(slice, radius()), radius()));
+        painter->drawPath(path(sector, radius()));
     }
 }
 

@@ -49,18 +49,39 @@ std::optional<std::size_t> DonutGeometry::sliceAt(double x, double y, double rad
 
 DonutGeometry::Sector DonutGeometry::sector(std::size_t slice, double radius) const
 {
-    const auto [row, start, sweep, upperBound] = m_slices.at(slice);
+    return sectorOf(m_slices.at(slice).start, m_slices.at(slice).sweep, radius);
+}
+
+std::vector<DonutGeometry::Mark> DonutGeometry::marks(double radius,
+                                                      std::optional<std::size_t> selected) const
+{
+    std::vector<Mark> marks;
+    for (std::size_t first = 0, next = 0; first < m_slices.size(); first = next) {
+        const double start = m_slices[first].start;
+        double sweep = 0.0;
+        do {
+            sweep = m_slices[next].start + m_slices[next].sweep - start;
+            ++next;
+        } while (next < m_slices.size() && sweep * radius < leastWidth && selected != first &&
+                 selected != next);
+        marks.push_back({first, sectorOf(start, sweep, radius), opacity(first, selected)});
+    }
+    return marks;
+}
+
+double DonutGeometry::opacity(std::size_t slice, std::optional<std::size_t> selected) noexcept
+{
+    return !selected || *selected == slice ? 1.0 : dimmedOpacity;
+}
+
+DonutGeometry::Sector DonutGeometry::sectorOf(double start, double sweep, double radius) const
+{
     if (m_slices.size() == 1 || radius <= 0.0)
         return {start, sweep, start, sweep};
     const double inset = std::min(angularInset, radius * innerRadius * sweep / 4.0);
     const double outer = std::asin(inset / radius);
     const double inner = std::asin(inset / (radius * innerRadius));
     return {start + outer, sweep - 2.0 * outer, start + inner, sweep - 2.0 * inner};
-}
-
-double DonutGeometry::opacity(std::size_t slice, std::optional<std::size_t> selected) noexcept
-{
-    return !selected || *selected == slice ? 1.0 : dimmedOpacity;
 }
 
 } // namespace Loadwick

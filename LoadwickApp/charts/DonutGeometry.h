@@ -29,9 +29,18 @@ public:
         double innerSweep;
     };
 
+    /// One thing to paint: a slice, or several that are too narrow to be told apart.
+    struct Mark
+    {
+        std::size_t slice; ///< whose colour it has
+        Sector sector;
+        double opacity;
+    };
+
     static constexpr double innerRadius = 0.62; ///< of the outer radius
     static constexpr double angularInset = 1.5; ///< points, at either edge of a slice
     static constexpr double dimmedOpacity = 0.35;
+    static constexpr double leastWidth = 0.5; ///< points at the outer radius that can be told apart
 
     DonutGeometry() = default;
     /// Tokens per row; what is below zero counts as none.
@@ -53,11 +62,18 @@ public:
     /// they take half its width at most, and nothing of a slice that is the whole ring.
     [[nodiscard]] Sector sector(std::size_t slice, double radius) const;
 
+    /// What is painted in a ring of that outer radius in points, clockwise. Neighbours too narrow
+    /// to be told apart are painted as one, so that thousands cost no more than can be seen; the
+    /// selected slice always stands for itself.
+    [[nodiscard]] std::vector<Mark> marks(double radius, std::optional<std::size_t> selected) const;
+
     /// 1 for the selected slice and, with nothing selected, for all.
     [[nodiscard]] static double opacity(std::size_t slice,
                                         std::optional<std::size_t> selected) noexcept;
 
 private:
+    [[nodiscard]] Sector sectorOf(double start, double sweep, double radius) const;
+
     std::vector<Slice> m_slices;
 };
 

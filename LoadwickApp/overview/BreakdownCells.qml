@@ -34,6 +34,8 @@ RowLayout {
         text: cells.category
         font: cells.wordFont
         secondary: cells.heading
+        wrapMode: Text.Wrap
+        maximumLineCount: cells.narrow ? 2 : 1
         elide: Text.ElideRight
 
         HoverHandler { id: pointer }

@@ -75,12 +75,6 @@ private Q_SLOTS:
     void findsEachSliceAtItsMiddle_data() { sliceAnglesSumToATurn_data(); }
     void findsEachSliceAtItsMiddle();
     void onlyTheRingIsHit();
-    void insetsTheEdgesByOneAndAHalfPoints();
-    void theInsetTakesHalfOfANarrowSliceAtMost();
-    void theWholeRingHasNoGap();
-    void everySectorIsPainted_data() { sliceAnglesSumToATurn_data(); }
-    void everySectorIsPainted();
-    void othersAreDimmedWhileOneIsSelected();
 };
 
 void DonutGeometryTest::dividesATurnByTokensFromTheTop()
@@ -203,56 +197,6 @@ void DonutGeometryTest::onlyTheRingIsHit()
     QVERIFY(!hit(donut, turn / 4, 0.61));
     QVERIFY(!hit(donut, turn / 4, 0.0));
     QVERIFY(!hit(donut, turn / 4, 1.01));
-}
-
-void DonutGeometryTest::insetsTheEdgesByOneAndAHalfPoints()
-{
-    const DonutGeometry donut(Tokens{1.0, 1.0, 2.0});
-    const auto sector = donut.sector(1, radius);
-    const auto &slice = donut.slices()[1];
-    const double inner = radius * 0.62;
-    // The distance of a corner from the line through the centre that bounds the slice.
-    QCOMPARE(radius * std::sin(sector.outerStart - slice.start), 1.5);
-    QCOMPARE(inner * std::sin(sector.innerStart - slice.start), 1.5);
-    const double end = slice.start + slice.sweep;
-    QCOMPARE(radius * std::sin(end - sector.outerStart - sector.outerSweep), 1.5);
-    QCOMPARE(inner * std::sin(end - sector.innerStart - sector.innerSweep), 1.5);
-}
-
-void DonutGeometryTest::theInsetTakesHalfOfANarrowSliceAtMost()
-{
-    const DonutGeometry donut(Tokens{1.0, 9'999.0});
-    const auto sector = donut.sector(0, radius);
-    const double sweep = donut.slices()[0].sweep;
-    QVERIFY(std::abs(sector.innerSweep - sweep / 2) < 1e-9);
-    QVERIFY(sector.outerSweep > sweep / 2 && sector.outerSweep < sweep);
-}
-
-void DonutGeometryTest::theWholeRingHasNoGap()
-{
-    const auto sector = DonutGeometry(Tokens{0.0, 42'000.0}).sector(0, radius);
-    QCOMPARE(sector.outerSweep, turn);
-    QCOMPARE(sector.innerSweep, turn);
-}
-
-void DonutGeometryTest::everySectorIsPainted()
-{
-    QFETCH(const Tokens, tokens);
-    const DonutGeometry donut(tokens);
-    for (std::size_t index = 0; index < donut.slices().size(); ++index) {
-        const auto sector = donut.sector(index, radius);
-        const auto &slice = donut.slices()[index];
-        QVERIFY(sector.outerSweep >= 0.0 && sector.innerSweep >= 0.0);
-        QVERIFY(sector.outerSweep <= slice.sweep && sector.innerSweep <= sector.outerSweep + 1e-12);
-        QVERIFY(sector.outerStart >= slice.start);
-    }
-}
-
-void DonutGeometryTest::othersAreDimmedWhileOneIsSelected()
-{
-    QCOMPARE(DonutGeometry::opacity(2, std::nullopt), 1.0);
-    QCOMPARE(DonutGeometry::opacity(2, 2), 1.0);
-    QCOMPARE(DonutGeometry::opacity(2, 1), 0.35);
 }
 
 const RegisteredTest<DonutGeometryTest> registered("DonutGeometry");

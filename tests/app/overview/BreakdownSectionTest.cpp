@@ -39,6 +39,7 @@ private Q_SLOTS:
     void showsTheNotesBelowTheRows();
     void nothingIsClipped_data();
     void nothingIsClipped();
+    void ownNamesAreWholeInTheSmallestWindow();
     void figuresEndOnOneLine();
 };
 
@@ -131,6 +132,13 @@ void BreakdownSectionTest::nothingIsClipped()
         if (label->objectName() == QStringLiteral("source"))
             QVERIFY2(label->height() <= label->parentItem()->height(), qPrintable(text));
     }
+}
+
+void BreakdownSectionTest::ownNamesAreWholeInTheSmallestWindow()
+{
+    const BreakdownWindow shown(SampleScans::notSelfReported().report(), 660);
+    for (const QQuickItem *name : shown.items(QStringLiteral("name")))
+        QVERIFY(!name->property("truncated").toBool());
 }
 
 void BreakdownSectionTest::figuresEndOnOneLine()
