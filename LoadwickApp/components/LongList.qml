@@ -9,11 +9,11 @@ FocusScope {
 
     property alias model: rows.model
     property alias delegate: rows.delegate
-    readonly property int count: rows.count
+    readonly property alias count: rows.count
     required property real rowHeight
     // What scrolls the page.
     required property Flickable viewport
-    // The row that the keys have reached, -1 before they were used.
+    // The row that the keys have reached or that was pressed, -1 before that.
     property int currentIndex: -1
     // A row that something beside the list speaks of, -1 for none.
     property int markedIndex: -1
@@ -51,18 +51,26 @@ FocusScope {
     function scrollTo(index) {
         const start = list.pageTop + index * list.rowHeight - AppTheme.smallSpace;
         const end = start + list.rowHeight + 2 * AppTheme.smallSpace;
-        const highest = Math.max(0, list.viewport.contentHeight - list.viewport.height);
-        const atTop = Math.min(list.viewport.contentY, start);
-        list.viewport.contentY = Math.max(0, Math.min(highest, Math.max(atTop, end - list.viewport.height)));
+        const highest = list.viewport.contentHeight - list.viewport.height;
+        const wanted = Math.max(Math.min(list.viewport.contentY, start), end - list.viewport.height);
+        list.viewport.contentY = Math.max(0, Math.min(highest, wanted));
     }
 
-    // With the focus on the row itself a screen reader reads the row. A row that scrolls away gives
-    // the focus back to the list.
+    // A screen reader reads what has the focus. A row that scrolls away gives it back to the list.
     function focusRow() {
         rows.forceLayout();
         const row = rows.itemAtIndex(list.currentIndex);
         if (row)
             row.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    // The row in which something has the focus, as after a press on it; -1 where the row itself has.
+    function pressedRow() {
+        let item = list.Window.activeFocusItem;
+        const isInside = item && item.parent !== rows.contentItem;
+        while (item && item.parent !== rows.contentItem)
+            item = item.parent;
+        return item && isInside ? rows.indexAt(0, item.y) : -1;
     }
 
     function indexAfterKey(key) {
@@ -83,16 +91,15 @@ FocusScope {
     Accessible.role: Accessible.List
     Accessible.focusable: list.activeFocusOnTab
 
-    onActiveFocusChanged: if (list.activeFocus && rows.count > 0) list.goTo(list.currentIndex)
+    onActiveFocusChanged: if (list.activeFocus && rows.count > 0 && list.pressedRow() < 0) list.goTo(list.currentIndex)
+    Window.onActiveFocusItemChanged: if (list.pressedRow() >= 0) list.currentIndex = list.pressedRow()
 
     Keys.onPressed: event => {
         const index = list.indexAfterKey(event.key);
         event.accepted = rows.count > 0 && (!isNaN(index) || event.matches(StandardKey.Copy));
-        if (!event.accepted)
-            return;
-        if (isNaN(index))
+        if (event.accepted && isNaN(index))
             list.copyRequested(list.currentIndex);
-        else
+        else if (event.accepted)
             list.goTo(index);
     }
     // From the row, the stop before would be the list that holds it.

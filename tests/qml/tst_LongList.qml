@@ -46,6 +46,7 @@ Item {
                         height: 30
                         Accessible.role: Accessible.ListItem
                         Accessible.name: "Row " + row.index
+                        TextInput { objectName: "words" + row.index; width: 100; text: "Words" }
                         Component.onCompleted: scene.made += 1
                         Component.onDestruction: scene.made -= 1
                     }
@@ -267,6 +268,31 @@ Item {
             compare(list.currentIndex, 2);
             compare(scene.Window.activeFocusItem.Accessible.name, "Row 2");
             verify(page.contentY < 300);
+        }
+
+        function press(index) {
+            mouseClick(findChild(list, "words" + index), 5, 5);
+        }
+
+        function test_aPressInARowKeepsTheFocusAndThePageWhereTheyAre() {
+            show(10000);
+            page.contentY = 3000;
+            waitForRendering(scene);
+            press(100);
+            compare(scene.Window.activeFocusItem.objectName, "words100");
+            compare(page.contentY, 3000);
+        }
+
+        function test_theKeysGoOnFromTheRowThatWasPressed() {
+            show(10000);
+            page.contentY = 3000;
+            waitForRendering(scene);
+            press(100);
+            press(102);
+            compare(list.currentIndex, 102);
+            keyClick(Qt.Key_Down);
+            compare(list.currentIndex, 103);
+            compare(scene.Window.activeFocusItem.Accessible.name, "Row 103");
         }
 
         function test_ringsTheCurrentRowWhileItHasTheFocus() {
