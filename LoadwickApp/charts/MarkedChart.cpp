@@ -51,14 +51,17 @@ void MarkedChart::forgetMarks()
     update();
 }
 
+// An accepted event would not reach the card that holds the chart, which answers the pointer too.
 void MarkedChart::hoverEnterEvent(QHoverEvent *event)
 {
     setPointed(markAt(event->position()));
+    event->ignore();
 }
 
 void MarkedChart::hoverMoveEvent(QHoverEvent *event)
 {
     setPointed(markAt(event->position()));
+    event->ignore();
 }
 
 void MarkedChart::hoverLeaveEvent(QHoverEvent *)

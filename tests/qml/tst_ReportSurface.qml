@@ -16,6 +16,14 @@ Item {
         Rectangle { id: content; implicitWidth: 50; implicitHeight: 60 }
     }
 
+    ReportSurface {
+        id: charted
+        x: 40
+        y: 160
+
+        DonutChart { id: chart; implicitWidth: 100; implicitHeight: 100; tokens: [1, 2] }
+    }
+
     TestCase {
         name: "ReportSurface"
         when: windowShown
@@ -51,6 +59,19 @@ Item {
             verify(findChild(card, "border").opacity < 1);
             tryCompare(findChild(card, "border"), "opacity", 1);
             tryCompare(findChild(card, "shadow"), "opacity", 0.16);
+        }
+
+        function test_isHoveredOverAChartToo() {
+            mouseMove(charted, 4, 4);
+            tryVerify(function () { return charted.isHovering; });
+            mouseMove(chart, 50, 5);
+            tryVerify(function () { return chart.currentMark >= 0; });
+            verify(charted.isHovering);
+            mouseMove(chart, 52, 7);
+            verify(charted.isHovering);
+            mouseMove(scene, 390, 290);
+            tryCompare(chart, "currentMark", -1);
+            verify(!charted.isHovering);
         }
 
         function test_withReduceMotionHoveringChangesBorderAndShadowAtOnce() {
