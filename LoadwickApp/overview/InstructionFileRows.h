@@ -54,6 +54,7 @@ public:
     /// What a row says; empty where there is none.
     Q_INVOKABLE QString path(int row) const { return text(row, Path); }
     Q_INVOKABLE QString figures(int row) const { return text(row, Figures); }
+    Q_INVOKABLE QString words(int row) const { return text(row, Words); }
     /// Puts the row's path on the clipboard.
     Q_INVOKABLE void copyPath(int row) const;
 

@@ -46,7 +46,7 @@ ColumnLayout {
                 dimmedOpacity: AppTheme.dimmedTileOpacity
                 Accessible.role: Accessible.Graphic
                 Accessible.name: sizes.files.sizeSummary
-                Accessible.description: readOut.words
+                Accessible.description: sizes.files.tiles.words(map.currentMark)
                 Accessible.focusable: true
 
                 FocusRing {
@@ -63,14 +63,12 @@ ColumnLayout {
             }
         }
         TileReadOut {
-            id: readOut
-
             objectName: "readOut"
             Layout.fillWidth: true
             Layout.minimumWidth: 200
             Layout.alignment: Qt.AlignTop
-            path: map.currentMark < 0 ? "" : sizes.files.tiles.path(map.currentMark)
-            figures: map.currentMark < 0 ? "" : sizes.files.tiles.figures(map.currentMark)
+            path: sizes.files.tiles.path(map.currentMark)
+            figures: sizes.files.tiles.figures(map.currentMark)
             hint: sizes.files.sizeHint
             pathLines: pair.stacked ? 2 : 4
         }

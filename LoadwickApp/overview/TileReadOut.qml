@@ -16,7 +16,6 @@ Item {
     // A label rounds both parts of a line up.
     readonly property real lineHeight: Math.ceil(metrics.ascent) + Math.ceil(metrics.descent)
     readonly property bool isEmpty: path.length === 0
-    readonly property string words: isEmpty ? "" : path + ". " + figures + "."
 
     implicitHeight: (pathLines + 2) * lineHeight + AppTheme.tightSpace
 

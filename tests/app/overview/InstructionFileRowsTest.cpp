@@ -157,6 +157,7 @@ private Q_SLOTS:
         for (const int row : {-1, 1, std::numeric_limits<int>::max()}) {
             QCOMPARE(rows.path(row), QString());
             QCOMPARE(rows.figures(row), QString());
+            QCOMPARE(rows.words(row), QString());
         }
     }
 
