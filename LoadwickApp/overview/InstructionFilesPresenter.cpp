@@ -118,11 +118,9 @@ void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &co
 {
     m_tiles.show(context, ListedFile::allReadable(*context.files));
     const std::int64_t tokens = tokensOf(m_tiles.rows());
-    m_hasSizes = tokens > 0;
-    if (!m_hasSizes) {
-        m_sizeSummary.clear();
+    m_sizeSummary.clear();
+    if (tokens == 0)
         return;
-    }
     const int largest = placeOfLargest(m_tiles.rows());
     m_sizeSummary = QStringLiteral("Relative size of ") + countOf(m_tiles.rows().size(), m_locale) +
                     QStringLiteral(", ") + qtText(NumberText::grouped(tokens, m_locale)) +

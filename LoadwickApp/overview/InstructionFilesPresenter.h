@@ -48,13 +48,13 @@ public:
     [[nodiscard]] QString note() const { return m_note; }
 
     [[nodiscard]] static QString sizeTitle();
-    /// The treemap in one sentence or two, for a screen reader.
+    /// The treemap in one sentence or two, for a screen reader; empty without a tile.
     [[nodiscard]] QString sizeSummary() const { return m_sizeSummary; }
     [[nodiscard]] static QString sizeHint();
     [[nodiscard]] static QString sizeCaption();
     [[nodiscard]] static QString noSizesText();
     /// Whether there is a tile to draw.
-    [[nodiscard]] bool hasSizes() const { return m_hasSizes; }
+    [[nodiscard]] bool hasSizes() const { return !m_sizeSummary.isEmpty(); }
     /// The files with figures, in the order of their tiers.
     [[nodiscard]] InstructionFileRows *tiles() { return &m_tiles; }
 
@@ -77,7 +77,6 @@ private:
     std::filesystem::path m_home;
     QString m_note;
     QString m_sizeSummary;
-    bool m_hasSizes = false;
     InstructionFileRows m_tiles;
     InstructionFileRows m_repositoryRows;
     InstructionFileRows m_inheritedRows;
