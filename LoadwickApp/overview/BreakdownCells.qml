@@ -48,7 +48,8 @@ RowLayout {
     }
     PlainLabel {
         objectName: "tokens"
-        Layout.preferredWidth: 88
+        // A figure of any length pushes the name aside.
+        Layout.preferredWidth: Math.max(88, implicitWidth)
         horizontalAlignment: Text.AlignRight
         text: cells.tokens
         font: cells.wordFont

@@ -1,3 +1,6 @@
+#include <cstdint>
+#include <limits>
+
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSet>
@@ -11,13 +14,13 @@
 namespace Loadwick {
 namespace {
 
-ScanReport reportOfRows(int count, const std::string &name)
+ScanReport reportOfRows(int count, const std::string &name, std::int64_t tokens = 3)
 {
     ScanReport report = sampleReport();
     report.rows.clear();
     for (int row = 0; row < count; ++row) {
         report.rows.push_back({.name = name + std::to_string(row),
-                               .tokens = 3,
+                               .tokens = tokens,
                                .provenance = Provenance::localEstimate,
                                .ordinal = row});
     }
@@ -41,6 +44,7 @@ private Q_SLOTS:
     void nothingIsClipped();
     void ownNamesAreWholeInTheSmallestWindow();
     void figuresEndOnOneLine();
+    void theLargestFigureKeepsClearOfTheName();
 };
 
 void BreakdownSectionTest::namesItselfAndItsColumns()
@@ -152,6 +156,15 @@ void BreakdownSectionTest::figuresEndOnOneLine()
         }
         QCOMPARE(ends.size(), 1);
     }
+}
+
+void BreakdownSectionTest::theLargestFigureKeepsClearOfTheName()
+{
+    const auto largest = std::numeric_limits<std::int64_t>::max();
+    const BreakdownWindow shown(reportOfRows(1, std::string(80, 'n'), largest), 660);
+    const QQuickItem &tokens = *shown.items(QStringLiteral("tokens")).back();
+    QCOMPARE(tokens.property("text").toString(), QStringLiteral("9,223,372,036,854,775,807"));
+    QVERIFY(tokens.property("contentWidth").toReal() <= tokens.width());
 }
 
 const RegisteredTest<BreakdownSectionTest> registered("BreakdownSection");
