@@ -14,8 +14,6 @@ Item {
     required property string detail
     // The colour of the mark in the chart.
     property color swatch: "transparent"
-    // A path has its middle left out, on one line; a name its end, on the last of three.
-    property bool isPath: false
 
     implicitWidth: 320
     implicitHeight: 3 * metrics.height + caption.height + 2 * AppTheme.smallSpace + AppTheme.tightSpace
@@ -72,9 +70,9 @@ Item {
                 Layout.fillWidth: true
                 text: readOut.title
                 font: AppTheme.bodyStrongFont
-                wrapMode: readOut.isPath ? Text.NoWrap : Text.Wrap
-                elide: readOut.isPath ? Text.ElideMiddle : Text.ElideRight
-                maximumLineCount: readOut.isPath ? 1 : 3
+                wrapMode: Text.Wrap
+                elide: Text.ElideRight
+                maximumLineCount: 3
             }
             PlainLabel {
                 objectName: "detail"

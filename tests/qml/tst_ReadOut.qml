@@ -22,7 +22,6 @@ Item {
         function init() {
             readOut.title = "";
             readOut.detail = "";
-            readOut.isPath = false;
         }
 
         function test_showsTheHintWhileNothingIsPointedAt() {
@@ -53,16 +52,6 @@ Item {
             verify(panel.height <= height);
             verify(panel.width <= 320);
             compare(findChild(readOut, "title").lineCount, 3);
-        }
-
-        function test_leavesOutTheMiddleOfAPath() {
-            readOut.isPath = true;
-            readOut.title = "/home/someone/" + "folder/".repeat(30) + "CLAUDE.md";
-            waitForRendering(scene);
-            const title = findChild(readOut, "title");
-            compare(title.lineCount, 1);
-            compare(title.elide, Text.ElideMiddle);
-            verify(title.truncated);
         }
 
         function test_showsNamesAsTheyAre() {
