@@ -9,6 +9,7 @@ namespace {
 
 constexpr Spring meterSpring{.response = 0.6, .dampingFraction = 0.85};
 constexpr Spring donutSpring{.response = 0.55, .dampingFraction = 0.82};
+constexpr Spring stepDotSpring{.response = 0.4, .dampingFraction = 0.6};
 
 /// The curve takes a bare function, so the spring has to be part of its type.
 template<Spring spring>
@@ -50,6 +51,16 @@ QEasingCurve Springs::donut() const
 int Springs::donutDuration() const
 {
     return milliseconds(donutSpring);
+}
+
+QEasingCurve Springs::stepDot() const
+{
+    return curve<stepDotSpring>();
+}
+
+int Springs::stepDotDuration() const
+{
+    return milliseconds(stepDotSpring);
 }
 
 } // namespace Loadwick

@@ -20,6 +20,9 @@ class Springs : public QObject
     /// Of a donut that opens: response 0.55 s, damping fraction 0.82.
     Q_PROPERTY(QEasingCurve donut READ donut CONSTANT)
     Q_PROPERTY(int donutDuration READ donutDuration CONSTANT)
+    /// Of the dot of a step that is reached: response 0.4 s, damping fraction 0.6.
+    Q_PROPERTY(QEasingCurve stepDot READ stepDot CONSTANT)
+    Q_PROPERTY(int stepDotDuration READ stepDotDuration CONSTANT)
 
 public:
     using QObject::QObject;
@@ -28,6 +31,8 @@ public:
     [[nodiscard]] int meterDuration() const;
     [[nodiscard]] QEasingCurve donut() const;
     [[nodiscard]] int donutDuration() const;
+    [[nodiscard]] QEasingCurve stepDot() const;
+    [[nodiscard]] int stepDotDuration() const;
 };
 
 } // namespace Loadwick

@@ -19,18 +19,21 @@ private Q_SLOTS:
     {
         QCOMPARE(Springs().meterDuration(), 848);
         QCOMPARE(Springs().donutDuration(), 797);
+        QCOMPARE(Springs().stepDotDuration(), 757);
     }
 
     void curvesFollowTheirSprings()
     {
         follows(Springs().meter(), {.response = 0.6, .dampingFraction = 0.85});
         follows(Springs().donut(), {.response = 0.55, .dampingFraction = 0.82});
+        follows(Springs().stepDot(), {.response = 0.4, .dampingFraction = 0.6});
     }
 
     void curvesEndExactlyWhereTheyShould()
     {
         QCOMPARE(Springs().meter().valueForProgress(1), 1.0);
         QCOMPARE(Springs().donut().valueForProgress(1), 1.0);
+        QCOMPARE(Springs().stepDot().valueForProgress(1), 1.0);
     }
 
     void curvesSwingALittleBeyondTheirEnd()
