@@ -5,6 +5,8 @@
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 #include <QtQuickTemplates2/private/qquickaction_p.h>
 
+#include "shell/ModalGround.h"
+
 namespace Loadwick::AccessiblePress {
 namespace {
 
@@ -53,6 +55,8 @@ public:
 
     void doAction(const QString &name) override
     {
+        if (ModalGround::hides(m_button))
+            return;
         if (name == pressAction() || name == toggleAction())
             press(m_button);
         else

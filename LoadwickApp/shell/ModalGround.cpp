@@ -69,4 +69,12 @@ bool ModalGround::isCovered() const
     });
 }
 
+bool ModalGround::hides(const QQuickItem &item)
+{
+    const QQuickItem *above = &item;
+    while (above != nullptr && qobject_cast<const ModalGround *>(above) == nullptr)
+        above = above->parentItem();
+    return above != nullptr && static_cast<const ModalGround *>(above)->isCovered();
+}
+
 } // namespace Loadwick

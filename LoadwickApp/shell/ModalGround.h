@@ -19,6 +19,9 @@ public:
     static void install();
 
     [[nodiscard]] bool isCovered() const;
+
+    /// Whether the item stands on a covered ground. Who found it before can still ask it to act.
+    [[nodiscard]] static bool hides(const QQuickItem &item);
 };
 
 } // namespace Loadwick

@@ -27,6 +27,7 @@ private Q_SLOTS:
             ApplicationWindow {
                 property alias modal: modal
                 property alias tip: tip
+                property int clicks: 0
                 visible: true
                 width: 300
                 height: 200
@@ -34,7 +35,7 @@ private Q_SLOTS:
                     anchors.fill: parent
                     Accessible.role: Accessible.Pane
                     Accessible.name: "ground"
-                    PushButton { title: "behind" }
+                    PushButton { title: "behind"; onClicked: clicks++ }
                 }
                 Popup { id: modal; modal: true; PushButton { title: "before" } }
                 Popup { id: tip; modal: false }
@@ -57,6 +58,18 @@ private Q_SLOTS:
         QVERIFY(finds(QStringLiteral("ground")));
         call("modal", "close");
         QTRY_VERIFY(finds(QStringLiteral("behind")));
+    }
+
+    void aButtonThatWasFoundBeforeIsNotPressedWhileCovered()
+    {
+        QAccessibleInterface *button =
+            QAccessible::queryAccessibleInterface(m_window.get())->child(0)->child(0);
+        call("modal", "open");
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(m_window->property("clicks").toInt(), 0);
+        call("modal", "close");
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(m_window->property("clicks").toInt(), 1);
     }
 
     void aToolTipCoversNothing()
