@@ -30,8 +30,9 @@ AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: title
     Accessible.description: toolTip
-    Keys.onReturnPressed: control.clicked()
-    Keys.onEnterPressed: control.clicked()
+    // A key that is held down presses once.
+    Keys.onReturnPressed: event => { if (!event.isAutoRepeat) control.clicked(); }
+    Keys.onEnterPressed: event => { if (!event.isAutoRepeat) control.clicked(); }
 
     contentItem: ButtonFace {
         title: control.title

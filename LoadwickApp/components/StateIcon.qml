@@ -8,6 +8,7 @@ Rectangle {
     required property string symbol
     required property color tint
     property bool turning: false
+    readonly property alias angle: drawing.angle
 
     implicitWidth: 64
     implicitHeight: 64
@@ -16,6 +17,8 @@ Rectangle {
     Accessible.ignored: true
 
     SpinnerIcon {
+        id: drawing
+
         anchors.centerIn: parent
         width: 28
         height: 28

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "history/WeeklyKPIReader.h"
+#include "onboarding/PreferencesCompletionStore.h"
 #include "probe/Fatal.h"
 #include "probe/ProbeRunner.h"
 #include "probe/ProcessContext.h"
@@ -28,6 +29,22 @@ std::unique_ptr<FolderChooser> platformDialog()
     return std::make_unique<DialogFolderChooser>(QUrl::fromLocalFile(QDir::homePath()));
 }
 
+/// Of a window that walks nobody through.
+class AlwaysCompleted final : public OnboardingCompletionStore
+{
+public:
+    [[nodiscard]] bool onboardingCompleted() const override { return true; }
+    void setOnboardingCompleted(bool) override {}
+};
+
+std::unique_ptr<OnboardingPresenter>
+onboardingOver(std::shared_ptr<OnboardingCompletionStore> store)
+{
+    if (!store)
+        store = std::make_shared<AlwaysCompleted>();
+    return std::make_unique<OnboardingPresenter>(std::move(store));
+}
+
 } // namespace
 
 LoadwickWindow::Collaborators
@@ -43,12 +60,15 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
             std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
         .locale = TextLocale::fromEnvironment(environment),
         .weeklyLog = WeeklyKPIReader::defaultPath(homeFolder(environment)),
+        .completionStore = std::make_shared<PreferencesCompletionStore>(
+            PreferencesCompletionStore::defaultFile(environment)),
         .home = homeFolder(environment),
     };
 }
 
 LoadwickWindow::LoadwickWindow(Collaborators collaborators)
-    : m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
+    : m_onboarding(onboardingOver(std::move(collaborators.completionStore))),
+      m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
                                             : platformDialog())
 {
     if (!collaborators.dispatcher)
@@ -63,6 +83,7 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     attachChooser();
     if (!weeklyLog.empty())
         m_overview->weekly()->load(weeklyLog, dispatcher);
+    presentOnAppearance(dispatcher);
 }
 
 void LoadwickWindow::makeModel(Collaborators collaborators)
@@ -96,7 +117,8 @@ void LoadwickWindow::makeWindow()
                   {{QStringLiteral("content"), QVariant::fromValue(m_content.get())},
                    {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())},
                    {QStringLiteral("trends"), QVariant::fromValue(m_trends.get())},
-                   {QStringLiteral("compare"), QVariant::fromValue(m_compare.get())}},
+                   {QStringLiteral("compare"), QVariant::fromValue(m_compare.get())},
+                   {QStringLiteral("onboarding"), QVariant::fromValue(m_onboarding.get())}},
                   failure);
     if (!made)
         fatalError(failure.toStdString());
@@ -109,6 +131,17 @@ void LoadwickWindow::attachChooser()
 {
     if (auto *dialog = dynamic_cast<DialogFolderChooser *>(m_chooser.get()))
         dialog->attach(m_engine, *m_window);
+}
+
+void LoadwickWindow::presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher)
+{
+    QObject::connect(m_window.get(), &QWindow::visibleChanged, m_onboarding.get(),
+                     [onboarding = m_onboarding.get(), dispatcher](bool isVisible) {
+                         if (isVisible)
+                             onboarding->presentOnboardingIfFirstLaunch(dispatcher);
+                         else
+                             onboarding->callOff();
+                     });
 }
 
 } // namespace Loadwick

@@ -9,7 +9,9 @@
 #include <QQuickWindow>
 
 #include "compare/ComparePresenter.h"
+#include "model/OnboardingCompletionStore.h"
 #include "model/ScanModel.h"
+#include "onboarding/OnboardingPresenter.h"
 #include "overview/OverviewPresenter.h"
 #include "probe/Shutdown.h"
 #include "report/TextLocale.h"
@@ -34,8 +36,9 @@ public:
         std::shared_ptr<TaskDispatcher> dispatcher = {};     ///< none: threads of their own
         std::function<std::chrono::sys_seconds()> now = {};  ///< none: the system's clock
         TextLocale locale = {};
-        std::filesystem::path weeklyLog = {}; ///< empty: none is read
-        std::filesystem::path home = {};      ///< tells whose a file is; nothing in it is read
+        std::filesystem::path weeklyLog = {};                            ///< empty: none is read
+        std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< none: no walk-through
+        std::filesystem::path home = {}; ///< tells whose a file is; nothing in it is read
 
         /// Those of the running program: the user's own home, environment and disk.
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);
@@ -50,6 +53,7 @@ public:
     [[nodiscard]] ScanModel &model() noexcept { return *m_model; }
     [[nodiscard]] ContentPresenter &content() noexcept { return *m_content; }
     [[nodiscard]] OverviewPresenter &overview() noexcept { return *m_overview; }
+    [[nodiscard]] OnboardingPresenter &onboarding() noexcept { return *m_onboarding; }
     [[nodiscard]] QQuickWindow &window() noexcept { return *m_window; }
 
 private:
@@ -57,6 +61,7 @@ private:
     void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
     void makeWindow();
     void attachChooser();
+    void presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
     // Destroyed from the last to the first: what shows before what is shown.
     QObject m_interface; ///< what background work posts to
@@ -65,6 +70,7 @@ private:
     std::unique_ptr<OverviewPresenter> m_overview;
     std::unique_ptr<TrendsPresenter> m_trends;
     std::unique_ptr<ComparePresenter> m_compare;
+    std::unique_ptr<OnboardingPresenter> m_onboarding;
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     std::unique_ptr<FolderChooser> m_chooser;

@@ -9,6 +9,7 @@ ApplicationWindow {
     required property OverviewPresenter overview
     required property TrendsPresenter trends
     required property ComparePresenter compare
+    required property OnboardingPresenter onboarding
 
     title: "Loadwick"
     width: 1180
@@ -27,6 +28,19 @@ ApplicationWindow {
             overview: window.overview
             trends: window.trends
             compare: window.compare
+        }
+    }
+    // Made when it is wanted: most launches do without.
+    Loader {
+        id: sheet
+
+        readonly property bool isWanted: window.onboarding.isPresented
+
+        onIsWantedChanged: {
+            if (sheet.isWanted)
+                sheet.setSource("OnboardingView.qml", { onboarding: window.onboarding });
+            else
+                sheet.source = "";
         }
     }
 }

@@ -103,6 +103,12 @@ QtObject {
     readonly property int gaugeSide: 100
     readonly property int gaugeArcSide: 90
 
+    readonly property int sheetWidth: 560
+    readonly property int illustrationHeight: 140
+    // How far a step of the walk-through comes from the side.
+    readonly property int stepSlide: 16
+    readonly property int stepDotSide: 7
+
     readonly property int cardRadius: 14
     readonly property int controlRadius: 8
 
@@ -110,4 +116,11 @@ QtObject {
     readonly property int hoverDuration: reduceMotion ? 0 : 180
     readonly property int pageDuration: reduceMotion ? 0 : 320
     readonly property int turnDuration: 1000
+    readonly property int stepDuration: reduceMotion ? 120 : 220
+    readonly property int sheetCloseDuration: reduceMotion ? 100 : 160
+    readonly property int stillDotDuration: 150
+    readonly property int bobDuration: 1100
+    readonly property int legendDuration: reduceMotion ? 120 : 280
+    // Between a row of the legend and the next.
+    readonly property int legendDelay: reduceMotion ? 0 : 60
 }

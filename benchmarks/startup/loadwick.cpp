@@ -1,6 +1,7 @@
 #include "FirstFrame.h"
 
 #include <memory>
+#include <utility>
 
 #include <QGuiApplication>
 
@@ -12,8 +13,10 @@ int main(int argc, char **argv)
     Loadwick::ApplicationSetup::prepare();
     QGuiApplication application(argc, argv);
     Loadwick::ApplicationSetup::apply(application);
-    Loadwick::LoadwickWindow loadwick(
-        Loadwick::LoadwickWindow::Collaborators::ofUser(std::make_shared<Loadwick::Shutdown>()));
+    auto collaborators =
+        Loadwick::LoadwickWindow::Collaborators::ofUser(std::make_shared<Loadwick::Shutdown>());
+    collaborators.completionStore = nullptr; // the window alone, without the first launch's sheet
+    Loadwick::LoadwickWindow loadwick(std::move(collaborators));
     Loadwick::reportFirstFrame(loadwick.window());
     loadwick.window().show();
     return QGuiApplication::exec();

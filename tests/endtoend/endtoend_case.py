@@ -38,11 +38,16 @@ class EndToEndCase(unittest.TestCase):
     def setUp(self) -> None:
         self.home = self.enterContext(ThrowAwayHome())
 
-    def open(self, *options: str) -> Program:
-        """Opens the window; it is closed at the end of the test."""
+    def start(self, *options: str) -> Program:
+        """Starts the program; it is ended at the end of the test."""
         command = [str(programs() / "loadwick-endtoend"), *options]
         program = Program(command, environment_for(self.home.path))
         self.addCleanup(program.kill)
+        return program
+
+    def open(self, *options: str) -> Program:
+        """Opens the window; it is closed at the end of the test."""
+        program = self.start(*options)
         program.window.wait_for(CHOOSE, "push button")
         return program
 

@@ -1,6 +1,6 @@
-// The program's window over the home that HOME names, for the end-to-end tests: the stand-in for
-// `claude` is the only command it can start, its waits are short, and the folder dialog's twin
-// answers with the bytes of the file "folder-to-choose" in that home.
+// The program's window over the home that HOME names and the preferences in it, for the end-to-end
+// tests: the stand-in for `claude` is the only command it can start, its waits are short, and the
+// folder dialog's twin answers with the bytes of the file "folder-to-choose" in that home.
 //   --platform-dialog   the real folder dialog instead of its twin
 //   --timeout SECONDS   how long a session may take (default 60)
 #include <cstdlib>
@@ -16,6 +16,7 @@
 #include "demo/Confinement.h"
 #include "demo/window/ConfinedWindow.h"
 #include "demo/window/GivenFolderChooser.h"
+#include "onboarding/PreferencesCompletionStore.h"
 #include "shell/LoadwickApp.h"
 
 namespace {
@@ -74,6 +75,8 @@ int main(int argc, char **argv)
     LoadwickApp::run(argc, argv, [&](std::shared_ptr<Shutdown> shutdown) {
         auto made = ConfinedWindow::collaborators(
             folder, runnerSettings(folder, options, std::move(shutdown)));
+        made.completionStore = std::make_shared<PreferencesCompletionStore>(
+            PreferencesCompletionStore::defaultFile(currentEnvironment()));
         if (!options.usesPlatformDialog)
             made.folderChooser =
                 std::make_unique<GivenFolderChooser>([folder] { return folderToChoose(folder); });

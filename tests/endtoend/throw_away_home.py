@@ -23,6 +23,8 @@ class ThrowAwayHome:
         self.executable.parent.mkdir(parents=True)
         self.install_stand_in()
         self.play("transcript")
+        self.preferences.parent.mkdir(parents=True)
+        self.preferences.write_text("[General]\nhasCompletedOnboarding=true\n", encoding="utf-8")
 
     def __enter__(self) -> "ThrowAwayHome":
         return self
@@ -45,9 +47,18 @@ class ThrowAwayHome:
         return self.path / ".local" / "share" / "Loadwick" / "scan-history.json"
 
     @property
+    def preferences(self) -> Path:
+        """The file in which the program keeps that the walk-through was completed: it was."""
+        return self.path / ".config" / "Loadwick" / "preferences.ini"
+
+    @property
     def projects(self) -> Path:
         """Where the stand-in leaves its transcripts."""
         return self.path / ".claude" / "projects"
+
+    def forget_preferences(self) -> None:
+        """Makes the next start a first one."""
+        shutil.rmtree(self.preferences.parent.parent)
 
     def install_stand_in(self) -> None:
         """Puts the stand-in where the ordinary search finds it."""

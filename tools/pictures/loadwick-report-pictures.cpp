@@ -12,29 +12,51 @@
 #include "pictures/PageCamera.h"
 #include "pictures/Scene.h"
 #include "pictures/Stage.h"
+#include "pictures/WalkThrough.h"
 #include "shell/ApplicationSetup.h"
 
 namespace {
 
 using namespace Loadwick;
 
-std::vector<Scene> scenesNamed(const std::vector<std::string> &names)
+using Names = std::vector<std::string>;
+
+bool isWanted(const std::string &picture, const Names &names)
+{
+    return names.empty() || std::any_of(names.begin(), names.end(), [&](const std::string &name) {
+               return picture.starts_with(name);
+           });
+}
+
+std::vector<Scene> scenesNamed(const Names &names)
 {
     std::vector<Scene> scenes = allScenes();
-    std::erase_if(scenes, [&names](const Scene &scene) {
-        return !names.empty() && std::none_of(names.begin(), names.end(), [&](const auto &name) {
-            return scene.name().starts_with(name);
-        });
-    });
+    std::erase_if(scenes, [&names](const Scene &scene) { return !isWanted(scene.name(), names); });
     return scenes;
 }
 
 int failure(const std::string &line)
 {
-    std::cerr << line << "\nThere are:\n";
+    std::cerr << line << "\nThere are:\n  " << WalkThrough::name << '\n';
     for (const Scene &scene : allScenes())
         std::cerr << "  " << scene.name() << '\n';
     return 2;
+}
+
+void takePages(const std::vector<Scene> &scenes, const std::string &folder)
+{
+    Stage stage;
+    const PageCamera camera(stage.window(), folder);
+    for (const Scene &scene : scenes) {
+        stage.show(scene);
+        camera.take(scene.name());
+    }
+}
+
+void takeWalkThrough(const std::string &folder)
+{
+    WalkThrough walkThrough;
+    walkThrough.take(PageCamera(walkThrough.window(), folder));
 }
 
 } // namespace
@@ -49,14 +71,14 @@ int main(int argc, char *argv[])
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (arguments.empty())
         return failure("Name the folder to write the pictures into.");
-    const std::vector<Scene> scenes = scenesNamed({arguments.begin() + 1, arguments.end()});
-    if (scenes.empty())
+    const Names names(arguments.begin() + 1, arguments.end());
+    const std::vector<Scene> scenes = scenesNamed(names);
+    const bool walksThrough = isWanted(WalkThrough::name, names);
+    if (scenes.empty() && !walksThrough)
         return failure("No picture has such a name.");
-    Stage stage;
-    const PageCamera camera(stage.window(), arguments.front());
-    for (const Scene &scene : scenes) {
-        stage.show(scene);
-        camera.take(scene.name());
-    }
+    if (!scenes.empty())
+        takePages(scenes, arguments.front());
+    if (walksThrough)
+        takeWalkThrough(arguments.front());
     return 0;
 }

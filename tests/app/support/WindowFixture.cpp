@@ -24,7 +24,7 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
 
 } // namespace
 
-WindowFixture::WindowFixture()
+WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore)
 {
     auto chooser = std::make_unique<FakeFolderChooser>();
     m_chooser = chooser.get();
@@ -35,6 +35,7 @@ WindowFixture::WindowFixture()
         .folderChooser = std::move(chooser),
         .dispatcher = m_dispatcher,
         .weeklyLog = m_folder.path() / "weekly.jsonl",
+        .completionStore = std::move(completionStore),
     });
     m_loadwick->window().show();
     m_loadwick->window().requestActivate();

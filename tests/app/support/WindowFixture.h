@@ -19,7 +19,8 @@ namespace Loadwick {
 class WindowFixture
 {
 public:
-    WindowFixture();
+    /// Without a store nobody is walked through.
+    explicit WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore = {});
     ~WindowFixture();
 
     WindowFixture(const WindowFixture &) = delete;
@@ -37,6 +38,8 @@ public:
     /// Ctrl+O with `folder` as the answer.
     void choose(const std::filesystem::path &folder);
     void finishScan() { m_dispatcher->runAll(); }
+    /// Lets the store be asked whether this is a first launch; the sheet's delay then begins.
+    void askForFirstLaunch() { m_dispatcher->runAll(); }
 
     /// What assistive technology finds under that name and can see; null when there is none.
     [[nodiscard]] QAccessibleInterface *find(const QString &name) const;

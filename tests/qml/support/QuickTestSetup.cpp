@@ -1,6 +1,7 @@
 #include "QuickTestSetup.h"
 
 #include "SampleBand.h"
+#include "SampleOnboarding.h"
 #include "theme/ApplicationStyle.h"
 
 #include <QGuiApplication>
@@ -18,6 +19,7 @@ void QuickTestSetup::qmlEngineAvailable(QQmlEngine *engine)
 {
     ApplicationStyle::addModulePath(*engine);
     qmlRegisterType<SampleBand>("LoadwickTest", 1, 0, "SampleBand");
+    qmlRegisterType<SampleOnboarding>("LoadwickTest", 1, 0, "SampleOnboarding");
 }
 
 } // namespace Loadwick

@@ -1,0 +1,85 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// What stands on the sheet: the dots, the current step, and the buttons that move on.
+FocusScope {
+    id: panel
+
+    required property OnboardingPresenter onboarding
+
+    signal forward()
+    signal back()
+    signal skip()
+
+    // A button that goes away gives the keyboard to the primary one.
+    function takeKeyboardFrom(button) {
+        if (panel.visible && !button.visible && (button.focus || button.activeFocus))
+            primary.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    focus: true
+    implicitHeight: column.implicitHeight
+    Keys.onReturnPressed: event => { if (!event.isAutoRepeat) panel.forward(); }
+    Keys.onEnterPressed: event => { if (!event.isAutoRepeat) panel.forward(); }
+    Keys.onEscapePressed: if (panel.onboarding.currentStep.showsSkip) panel.skip()
+
+    ColumnLayout {
+        id: column
+
+        anchors.fill: parent
+        spacing: AppTheme.cardSpace
+
+        RowLayout {
+            Layout.preferredHeight: AppTheme.controlHeight
+            spacing: 0
+
+            OnboardingStepDots {
+                currentIndex: panel.onboarding.currentIndex
+                stepCount: panel.onboarding.stepCount
+                position: panel.onboarding.position
+            }
+            Item { Layout.fillWidth: true }
+            PushButton {
+                id: skipButton
+
+                // Its words, not its edge, end with the sheet's column.
+                Layout.rightMargin: -AppTheme.mediumSpace
+                title: qsTr("Skip")
+                focusPolicy: Qt.TabFocus
+                visible: panel.onboarding.currentStep.showsSkip
+                onVisibleChanged: panel.takeKeyboardFrom(skipButton)
+                onClicked: panel.skip()
+            }
+        }
+        OnboardingSteps {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            onboarding: panel.onboarding
+        }
+        RowLayout {
+            Layout.preferredHeight: AppTheme.controlHeight
+            spacing: 0
+
+            PushButton {
+                id: backButton
+
+                Layout.leftMargin: -AppTheme.mediumSpace
+                title: qsTr("Back")
+                focusPolicy: Qt.TabFocus
+                visible: panel.onboarding.currentStep.showsBack
+                onVisibleChanged: panel.takeKeyboardFrom(backButton)
+                onClicked: panel.back()
+            }
+            Item { Layout.fillWidth: true }
+            PushButton {
+                id: primary
+
+                title: panel.onboarding.currentStep.primaryTitle
+                prominent: true
+                focus: true
+                onClicked: panel.forward()
+            }
+        }
+    }
+}

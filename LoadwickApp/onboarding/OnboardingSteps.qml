@@ -1,0 +1,46 @@
+import QtQuick
+import Loadwick
+
+// All steps in one place, of which the current one shows. Those before it wait on its left, those
+// after it on its right, so that a step comes from the side to which the move leads.
+Item {
+    id: steps
+
+    required property OnboardingPresenter onboarding
+
+    // As high as the highest, so that the buttons keep their place.
+    implicitHeight: {
+        let highest = 0;
+        for (let index = 0; index < repeater.count; ++index)
+            highest = Math.max(highest, repeater.itemAt(index)?.implicitHeight ?? 0);
+        return Math.ceil(highest);
+    }
+
+    Repeater {
+        id: repeater
+
+        model: steps.onboarding.stepCount
+        delegate: OnboardingStepContent {
+            id: content
+
+            required property int index
+            readonly property OnboardingSteps steps: content.parent as OnboardingSteps
+            readonly property int distance: content.index - (content.onboarding?.currentIndex ?? 0)
+
+            width: content.steps?.width ?? 0
+            x: AppTheme.reduceMotion ? 0 : Math.sign(content.distance) * AppTheme.stepSlide
+            opacity: content.distance === 0 ? 1 : 0
+            visible: opacity > 0
+            onboarding: content.steps?.onboarding ?? null
+            step: content.onboarding?.step(content.index) ?? null
+
+            Behavior on x {
+                enabled: !AppTheme.reduceMotion
+                NumberAnimation { duration: AppTheme.stepDuration; easing.type: Easing.OutQuad }
+            }
+            Behavior on opacity {
+                NumberAnimation { duration: AppTheme.stepDuration; easing.type: Easing.OutQuad }
+            }
+        }
+    }
+}

@@ -1,0 +1,220 @@
+// The whole window on a first launch: when its sheet comes, what it covers, how it goes.
+#include <QAccessible>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include "support/FakeCompletionStore.h"
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+
+class FirstLaunchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_store = std::make_shared<FakeCompletionStore>(); }
+    void cleanup() { m_window.reset(); }
+
+    void theSheetComesThreeHundredMillisecondsAfterTheWindow()
+    {
+        QElapsedTimer time;
+        time.start();
+        open();
+        QVERIFY(!shows("Next"));
+        QVERIFY(m_window->isPressable(QStringLiteral("Choose Repository…")));
+        QTRY_VERIFY(shows("Next"));
+        QVERIFY2(time.elapsed() >= 300, qPrintable(QString::number(time.elapsed())));
+        QVERIFY(shows("See what Claude Code loads before it reads a single message"));
+    }
+
+    void aCompletedWalkThroughIsNotShownAgain()
+    {
+        m_store->completed = true;
+        open();
+        QTest::qWait(500);
+        QVERIFY(!shows("Next"));
+        QVERIFY(m_window->isPressable(QStringLiteral("Choose Repository…")));
+    }
+
+    void closingTheWindowWithinThreeHundredMillisecondsShowsNoSheet()
+    {
+        open();
+        QTest::qWait(100);
+        m_window->loadwick().window().close();
+        QTest::qWait(500);
+        QVERIFY(!m_window->loadwick().onboarding().isPresented());
+        QCOMPARE(m_store->writes, 0);
+    }
+
+    void destroyingTheWindowWithinThreeHundredMillisecondsIsSafe()
+    {
+        open();
+        m_window->destroy();
+        QTest::qWait(500);
+        QCOMPARE(m_store->writes, 0);
+    }
+
+    void destroyingTheWindowUnderAnOpenSheetIsSafe()
+    {
+        openSheet();
+        m_window->destroy();
+        QCOMPARE(m_store->writes, 0);
+    }
+
+    void onStepZeroNoBackIsShown()
+    {
+        openSheet();
+        QVERIFY(shows("Skip"));
+        QVERIFY(!shows("Back"));
+    }
+
+    void onStepThreeNoSkipIsShownAndThePrimaryButtonReadsGotIt()
+    {
+        openSheet();
+        advance(3);
+        QTRY_VERIFY(shows("One number matters most — the rest is a map"));
+        QVERIFY(shows("Got it"));
+        QVERIFY(shows("Back"));
+        QVERIFY(!shows("Skip"));
+        QVERIFY(!shows("Next"));
+        QVERIFY(shows("These bands are this app's opinion, not an industry standard."));
+    }
+
+    void returnOnTheLastStepCompletesAndCloses()
+    {
+        openSheet();
+        advance(4);
+        QVERIFY(m_store->completed);
+        QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
+        QTRY_VERIFY(!shows("Got it"));
+        QVERIFY(m_window->isPressable(QStringLiteral("Choose Repository…")));
+    }
+
+    void returnTwiceOnTheLastStepCompletesOnce()
+    {
+        openSheet();
+        advance(5);
+        QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
+        QCOMPARE(m_store->writes, 1);
+    }
+
+    void enterIsThePrimaryButtonToo()
+    {
+        openSheet();
+        m_window->press(Qt::Key_Enter, Qt::KeypadModifier);
+        QTRY_VERIFY(shows("Point it at a local git repository"));
+    }
+
+    void escapeSkips()
+    {
+        openSheet();
+        m_window->press(Qt::Key_Escape);
+        QVERIFY(m_store->completed);
+        QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
+    }
+
+    void escapeDoesNothingOnTheLastStep()
+    {
+        openSheet();
+        advance(3);
+        m_window->press(Qt::Key_Escape);
+        QTest::qWait(300);
+        QVERIFY(m_window->loadwick().onboarding().isPresented());
+        QCOMPARE(m_store->writes, 0);
+    }
+
+    void theShortcutsOfTheWindowDoNothingBehindIt()
+    {
+        openSheet();
+        m_window->chooser().answer = m_window->folder().path();
+        m_window->press(Qt::Key_O, Qt::ControlModifier);
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        QCOMPARE(m_window->chooser().openCount, 0);
+        m_window->press(Qt::Key_Escape);
+        QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
+        m_window->press(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(m_window->chooser().openCount, 1);
+    }
+
+    void assistiveTechnologyFindsNothingBehindIt()
+    {
+        open();
+        QAccessibleInterface *choose = m_window->find(QStringLiteral("Choose Repository…"));
+        QVERIFY(choose != nullptr);
+        openSheet();
+        for (const char *name : {"Choose Repository…", "Scan", "Overview", "Trends",
+                                 "No repository selected", "Start a context scan"})
+            QVERIFY2(!shows(name), name);
+        choose->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(m_window->chooser().openCount, 0);
+    }
+
+    void thePointerReachesNothingBehindIt()
+    {
+        open();
+        QAccessibleInterface *choose = m_window->find(QStringLiteral("Choose Repository…"));
+        const QPoint place = choose->rect().center() - m_window->loadwick().window().position();
+        openSheet();
+        QTest::mouseClick(&m_window->loadwick().window(), Qt::LeftButton, {}, place);
+        QCOMPARE(m_window->chooser().openCount, 0);
+        QVERIFY(m_window->loadwick().onboarding().isPresented());
+    }
+
+    void theTabulatorStaysOnTheSheet()
+    {
+        openSheet();
+        advance(1);
+        QTRY_VERIFY(shows("Back"));
+        QStringList reached;
+        for (int step = 0; step < 6; ++step) {
+            m_window->press(Qt::Key_Tab);
+            reached.append(focusedName());
+        }
+        QCOMPARE(QSet<QString>(reached.begin(), reached.end()),
+                 (QSet<QString>{QStringLiteral("Skip"), QStringLiteral("Back"),
+                                QStringLiteral("Next")}));
+    }
+
+private:
+    [[nodiscard]] bool shows(const char *name) const
+    {
+        return m_window->shows(QString::fromUtf8(name));
+    }
+
+    void open()
+    {
+        m_window = std::make_unique<WindowFixture>(m_store);
+        m_window->askForFirstLaunch();
+    }
+
+    void openSheet()
+    {
+        if (!m_window)
+            open();
+        QTRY_VERIFY(shows("Next"));
+    }
+
+    void advance(int times)
+    {
+        for (int press = 0; press < times; ++press)
+            m_window->press(Qt::Key_Return);
+    }
+
+    [[nodiscard]] QString focusedName() const
+    {
+        QObject *focused = m_window->loadwick().window().focusObject();
+        QAccessibleInterface *item = QAccessible::queryAccessibleInterface(focused);
+        return item == nullptr ? QString() : item->text(QAccessible::Name);
+    }
+
+    std::shared_ptr<FakeCompletionStore> m_store;
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+const RegisteredTest<FirstLaunchTest> registered("FirstLaunch");
+
+} // namespace Loadwick
+
+#include "FirstLaunchTest.moc"
