@@ -1,5 +1,6 @@
 #include "charts/TreemapChart.h"
 
+#include <algorithm>
 #include <vector>
 
 #include <QFontMetricsF>
@@ -11,7 +12,8 @@ namespace {
 /// Smaller tiles have square corners: round ones would leave nothing of them.
 constexpr qreal leastRounded = 8.0;
 constexpr qreal namePadding = 8.0;
-constexpr qreal outlineWidth = 2.0;
+constexpr qreal restLineWidth = 1.0;
+constexpr qreal currentLineWidth = 2.0;
 
 QRectF rectOf(const TreemapTiles::Box &box)
 {
@@ -56,11 +58,12 @@ void TreemapChart::paint(QPainter *painter)
             rectOf(m_tiles.box(static_cast<std::size_t>(currentMark()), pixelsPerPoint));
         painter->setClipRegion(QRegion(boundingRect().toAlignedRect()) - hole.toAlignedRect());
     }
-    painter->setOpacity(isAtRest ? m_restOpacity : m_dimmedOpacity);
+    painter->setOpacity(isAtRest ? 1.0 : m_dimming);
     painter->drawImage(QPointF(0.0, 0.0), m_painted);
     painter->restore();
     if (!isAtRest)
-        paintCurrent(*painter, pixelsPerPoint);
+        paintTile(*painter, static_cast<std::size_t>(currentMark()),
+                  {.fillOpacity = m_currentOpacity, .lineWidth = currentLineWidth});
     paintNames(*painter);
 }
 
@@ -125,37 +128,28 @@ QImage TreemapChart::paintedTiles(qreal pixelsPerPoint) const
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     for (std::size_t tile = 0; tile < m_tiles.count(); ++tile)
-        paintTile(painter, tile, pixelsPerPoint);
+        paintTile(painter, tile, {.fillOpacity = m_restOpacity, .lineWidth = restLineWidth});
     return image;
 }
 
-void TreemapChart::paintTile(QPainter &painter, std::size_t tile, qreal pixelsPerPoint) const
+// The line lies inside of the tile, so that the gap stays and no neighbour is touched. A tile that
+// is all line is all colour.
+void TreemapChart::paintTile(QPainter &painter, std::size_t tile, const Ink &ink) const
 {
-    const QRectF rect = rectOf(m_tiles.box(tile, pixelsPerPoint));
-    if (rect.width() < leastRounded || rect.height() < leastRounded) {
-        painter.fillRect(rect, colorOf(tile));
+    const QRectF rect = rectOf(m_tiles.box(tile, painter.deviceTransform().m11()));
+    const qreal inset = ink.lineWidth / 2.0;
+    const QRectF line = rect.adjusted(inset, inset, -inset, -inset);
+    QColor fill = colorOf(tile);
+    if (!line.isValid()) {
+        painter.fillRect(rect, fill);
         return;
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colorOf(tile));
-    painter.drawRoundedRect(rect, m_radius, m_radius);
-}
-
-void TreemapChart::paintCurrent(QPainter &painter, qreal pixelsPerPoint) const
-{
-    const auto tile = static_cast<std::size_t>(currentMark());
-    painter.setOpacity(m_currentOpacity);
-    paintTile(painter, tile, pixelsPerPoint);
-    painter.setOpacity(1.0);
-    // The line lies inside of the tile, so that no neighbour is touched.
-    const qreal inset = outlineWidth / 2.0;
-    const QRectF line =
-        rectOf(m_tiles.box(tile, pixelsPerPoint)).adjusted(inset, inset, -inset, -inset);
-    if (!line.isValid())
-        return;
-    painter.setPen(QPen(colorOf(tile), outlineWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(line, m_radius - inset, m_radius - inset);
+    painter.setPen(QPen(fill, ink.lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    fill.setAlphaF(static_cast<float>(ink.fillOpacity));
+    painter.setBrush(fill);
+    const bool isSquare = rect.width() < leastRounded || rect.height() < leastRounded;
+    const qreal radius = isSquare ? 0.0 : std::max(0.0, m_radius - inset);
+    painter.drawRoundedRect(line, radius, radius);
 }
 
 void TreemapChart::paintNames(QPainter &painter) const

@@ -14,7 +14,8 @@ namespace Loadwick {
 
 /// One tile per row of a model, as large as the row's "weight" (a double). The tiles take the
 /// colours by position, wrapping around; one that is large enough shows its row's "name", which is
-/// asked for only then. The current tile stands out and the others step back.
+/// asked for only then. Each tile is thinned inside an outline of its full colour, which tells it
+/// from the ground. The current tile stands out and the others step back.
 ///
 /// All tiles are one painting, made once per size, so that ten thousand cost no more than one to
 /// move over.
@@ -27,10 +28,11 @@ class TreemapChart : public Loadwick::MarkedChart
     Q_PROPERTY(QColor textColor MEMBER m_textColor NOTIFY looksChanged)
     Q_PROPERTY(QFont font MEMBER m_font NOTIFY looksChanged)
     Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY looksChanged)
-    /// Of a tile while none is current, of the current one, and of the others meanwhile.
+    /// Of a tile's fill, while none is current and while it is; its outline is opaque.
     Q_PROPERTY(qreal restOpacity MEMBER m_restOpacity NOTIFY looksChanged)
     Q_PROPERTY(qreal currentOpacity MEMBER m_currentOpacity NOTIFY looksChanged)
-    Q_PROPERTY(qreal dimmedOpacity MEMBER m_dimmedOpacity NOTIFY looksChanged)
+    /// What is left of the other tiles, outline and fill, while one is current.
+    Q_PROPERTY(qreal dimming MEMBER m_dimming NOTIFY looksChanged)
 
 public:
     explicit TreemapChart(QQuickItem *parent = nullptr);
@@ -51,13 +53,18 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
+    struct Ink
+    {
+        qreal fillOpacity;
+        qreal lineWidth; ///< points
+    };
+
     void readRows();
     void repaintTiles();
     [[nodiscard]] QString nameOf(std::size_t tile) const;
     [[nodiscard]] QColor colorOf(std::size_t tile) const;
     [[nodiscard]] QImage paintedTiles(qreal pixelsPerPoint) const;
-    void paintTile(QPainter &painter, std::size_t tile, qreal pixelsPerPoint) const;
-    void paintCurrent(QPainter &painter, qreal pixelsPerPoint) const;
+    void paintTile(QPainter &painter, std::size_t tile, const Ink &ink) const;
     void paintNames(QPainter &painter) const;
 
     QPointer<QAbstractItemModel> m_model;
@@ -67,9 +74,9 @@ private:
     qreal m_radius = 3.0;
     qreal m_restOpacity = 0.5;
     qreal m_currentOpacity = 0.7;
-    qreal m_dimmedOpacity = 0.3;
+    qreal m_dimming = 0.5;
     TreemapTiles m_tiles;
-    QImage m_painted; ///< all tiles, opaque, in pixels; null until they are painted
+    QImage m_painted; ///< all tiles at rest, in pixels; null until they are painted
 };
 
 } // namespace Loadwick

@@ -43,7 +43,7 @@ ColumnLayout {
                 font: AppTheme.captionFont
                 restOpacity: AppTheme.tileOpacity
                 currentOpacity: AppTheme.currentTileOpacity
-                dimmedOpacity: AppTheme.dimmedTileOpacity
+                dimming: AppTheme.tileDimming
                 Accessible.role: Accessible.Graphic
                 Accessible.name: sizes.files.sizeSummary
                 Accessible.description: sizes.files.tiles.words(map.currentMark)

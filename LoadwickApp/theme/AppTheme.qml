@@ -47,11 +47,11 @@ QtObject {
     readonly property real tintOpacity: 0.12
     readonly property real disabledOpacity: 0.4
 
-    // A tile at rest, the one in focus, and the others meanwhile; names have to be read on the first
-    // two.
+    // What fills a tile at rest and the one in focus, on which names have to be read, and how much is
+    // left of the others meanwhile.
     readonly property real tileOpacity: dark ? 0.4 : 0.45
     readonly property real currentTileOpacity: dark ? 0.5 : 0.65
-    readonly property real dimmedTileOpacity: dark ? 0.2 : 0.22
+    readonly property real tileDimming: 0.5
 
     // The family is the application's own; its figures are all equally wide, which makes it the font
     // of numbers too. It has no medium weight: what should be medium is semibold.

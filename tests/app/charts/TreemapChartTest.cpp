@@ -96,6 +96,9 @@ class TreemapChartTest : public QObject
 
 private Q_SLOTS:
     void coloursItsTilesByPosition();
+    void atRestEachTileIsOutlinedInItsFullColor();
+    void theOutlineOfADimmedTileStepsBackToo();
+    void aTileThatIsAllLineIsAllColor();
     void leavesAHairlineBetweenTiles();
     void theTileUnderThePointerStandsOutAndTheOthersStepBack();
     void theTileThatAKeyChoseStandsOutToo();
@@ -119,6 +122,34 @@ void TreemapChartTest::coloursItsTilesByPosition()
     QVERIFY(picture.pixelColor(10, 12).red() > 250);
     QVERIFY(picture.pixelColor(55, 3).blue() > 250);
     QVERIFY(picture.pixelColor(55, 20).red() > 250);
+}
+
+void TreemapChartTest::atRestEachTileIsOutlinedInItsFullColor()
+{
+    ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
+    const QImage picture = shown.picture();
+    // The larger lies left and ends before the gap.
+    const QRect tile(0, 0, 59, 24);
+    for (const QPoint edge : {QPoint(0, 12), QPoint(58, 12), QPoint(30, 0), QPoint(30, 23)})
+        QCOMPARE(picture.pixelColor(edge), QColor(Qt::blue));
+    for (const QPoint inside : {QPoint(1, 12), QPoint(57, 12), QPoint(30, 1), QPoint(30, 22)})
+        QCOMPARE(picture.pixelColor(inside).alpha(), 128);
+    QCOMPARE(picture.pixelColor(tile.right() + 1, 12).alpha(), 0);
+    QCOMPARE(picture.pixelColor(79, 12), QColor(Qt::red));
+}
+
+void TreemapChartTest::theOutlineOfADimmedTileStepsBackToo()
+{
+    ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
+    shown.pointAt({30, 12});
+    QVERIFY(shown.picture().pixelColor(79, 12).alpha() <= 128);
+}
+
+void TreemapChartTest::aTileThatIsAllLineIsAllColor()
+{
+    ChartWindow shown({1.0, 59.0}, {60.0, 24.0});
+    const QImage picture = shown.picture();
+    QCOMPARE(picture.pixelColor(59, 12), QColor(Qt::red));
 }
 
 void TreemapChartTest::leavesAHairlineBetweenTiles()
@@ -229,7 +260,9 @@ void TreemapChartTest::anEmptyFileCanBeReachedAndPaintsNothing()
     shown.chart.forceActiveFocus();
     QTest::keyClick(&shown.window, Qt::Key_Right);
     QCOMPARE(shown.chart.currentMark(), 0);
-    QVERIFY(shown.picture().pixelColor(0, 0).alpha() < 128);
+    // What is there belongs to the other, which steps back.
+    QCOMPARE(shown.picture().pixelColor(0, 0).red(), 0);
+    QVERIFY(shown.picture().pixelColor(0, 0).alpha() <= 128);
 }
 
 void TreemapChartTest::lookAtAFinerScreenToo()
