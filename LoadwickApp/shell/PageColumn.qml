@@ -10,6 +10,9 @@ PageAppear {
     default property alias cards: column.data
     // What scrolls, for lists that show no more of themselves than it does.
     readonly property Flickable viewport: scroller.contentItem as Flickable
+    // A page that was never shown has no width yet. Laid out at nothing, every word would be a line of
+    // its own, and nested layouts do not settle on that.
+    readonly property real room: scroller.availableWidth > 0 ? scroller.availableWidth : AppTheme.contentWidth
 
     ScrollView {
         id: scroller
@@ -29,9 +32,9 @@ PageAppear {
         ColumnLayout {
             id: column
 
-            x: Math.round((scroller.availableWidth - width) / 2)
+            x: Math.round((page.room - width) / 2)
             y: AppTheme.pageMargin
-            width: Math.min(AppTheme.contentWidth, scroller.availableWidth - 2 * AppTheme.pageMargin)
+            width: Math.min(AppTheme.contentWidth, page.room - 2 * AppTheme.pageMargin)
             spacing: AppTheme.cardSpace
         }
     }

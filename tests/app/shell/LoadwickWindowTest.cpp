@@ -149,6 +149,20 @@ private Q_SLOTS:
         QVERIFY(!m_window->loadwick().window().grabWindow().isNull());
     }
 
+    // Each warning that a layout prints fails the test.
+    void everyPageSettlesAtEverySize()
+    {
+        scan(m_window->folder().path());
+        QQuickWindow &window = m_window->loadwick().window();
+        for (const QSize size : {QSize(1180, 780), QSize(960, 640), QSize(2560, 1440)}) {
+            window.resize(size);
+            for (int page = 0; page < 3; ++page) {
+                m_window->loadwick().content().setPageIndex(page);
+                QVERIFY(!window.grabWindow().isNull());
+            }
+        }
+    }
+
     void copySummaryIsAButton()
     {
         scan(m_window->folder().path());

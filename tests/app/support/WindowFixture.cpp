@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QAccessible>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace Loadwick {
@@ -26,6 +27,8 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
 
 WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore)
 {
+    // Layouts that do not settle, bindings that loop, properties that are not there.
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     auto chooser = std::make_unique<FakeFolderChooser>();
     m_chooser = chooser.get();
     m_loadwick = std::make_unique<LoadwickWindow>(LoadwickWindow::Collaborators{

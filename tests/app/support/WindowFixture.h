@@ -15,7 +15,8 @@ class QAccessibleInterface;
 
 namespace Loadwick {
 
-/// The real window over fakes, shown and ready for keys. Its scans go on when a test says so.
+/// The real window over fakes, shown and ready for keys. Its scans go on when a test says so. A
+/// test that has one fails on every warning that Qt prints from then on.
 class WindowFixture
 {
 public:
