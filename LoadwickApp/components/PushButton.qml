@@ -10,6 +10,8 @@ AbstractButton {
     required property string title
     property string symbol: ""
     property string toolTip: ""
+    // The key that presses it from anywhere in the window; the tool tip names it.
+    property string shortcut: ""
     // Filled with the accent while it can be pressed: the one thing to do next.
     property bool prominent: false
     // Filled with red while it can be pressed: what it does cannot be undone.
@@ -61,10 +63,17 @@ AbstractButton {
         cursorShape: Qt.PointingHandCursor
     }
 
+    Shortcut {
+        sequence: control.shortcut
+        autoRepeat: false
+        enabled: control.enabled
+        onActivated: control.clicked()
+    }
+
     FocusRing { shown: control.visualFocus }
 
     PlainToolTip {
-        words: control.toolTip
-        visible: control.toolTip.length > 0 && (control.hovered || control.visualFocus)
+        words: control.toolTip + (control.toolTip && control.shortcut ? "\n" : "") + control.shortcut
+        visible: words.length > 0 && (control.hovered || control.visualFocus)
     }
 }

@@ -70,6 +70,8 @@ Item {
         }
     }
 
+    ShortcutPass { item: edit }
+
     // The text as it would stand with its words, or the folders of a path, left whole.
     PlainLabel {
         id: whole

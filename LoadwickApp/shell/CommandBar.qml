@@ -17,29 +17,18 @@ Item {
         PushButton {
             title: "Choose Repository…"
             symbol: "folder"
+            shortcut: "Ctrl+O"
             enabled: bar.content.canChoose
             onClicked: bar.content.chooseFolder()
         }
         PushButton {
             title: bar.content.scanTitle
             symbol: "waveform.path.ecg"
+            shortcut: "Ctrl+R"
             toolTip: bar.content.allowanceDisclosure
             prominent: bar.content.scanIsNextStep
             enabled: bar.content.canScan
             onClicked: bar.content.scan()
         }
-    }
-
-    Shortcut {
-        sequence: "Ctrl+O"
-        autoRepeat: false
-        enabled: bar.content.canChoose
-        onActivated: bar.content.chooseFolder()
-    }
-    Shortcut {
-        sequence: "Ctrl+R"
-        autoRepeat: false
-        enabled: bar.content.canScan
-        onActivated: bar.content.scan()
     }
 }

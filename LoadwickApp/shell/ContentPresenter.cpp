@@ -21,14 +21,15 @@ QList<QStringList> pageRows()
 {
     QList<QStringList> rows;
     for (const AppPage page : AppPage::all)
-        rows.append({qtText(page.title()), qtText(page.symbol())});
+        rows.append({qtText(page.title()), qtText(page.symbol()),
+                     QStringLiteral("Ctrl+%1").arg(rows.size() + 1)});
     return rows;
 }
 
 } // namespace
 
 ContentPresenter::ContentPresenter(ScanModel &model, FolderChooser &chooser)
-    : m_model(model), m_chooser(chooser), m_pages({"title", "symbol"})
+    : m_model(model), m_chooser(chooser), m_pages({"title", "symbol", "shortcut"})
 {
     m_pages.setRows(pageRows());
     m_model.selection().observe({.didChange = [this] {

@@ -62,7 +62,7 @@ public:
     [[nodiscard]] QString scanTitle() const;
     [[nodiscard]] QString allowanceDisclosure() const;
 
-    /// One row per page, "title" and "symbol", in the order of the sidebar.
+    /// One row per page, "title", "symbol" and "shortcut", in the order of the sidebar.
     [[nodiscard]] QAbstractItemModel *pages() { return &m_pages; }
 
     /// The place of the page in that order. An index that is none of them means the first page.

@@ -29,14 +29,18 @@ SplitView {
     }
 
     Sidebar {
+        id: sidebar
+
         SplitView.preferredWidth: 250
         SplitView.minimumWidth: 220
         content: view.content
     }
 
     ColumnLayout {
+        id: detail
+
         SplitView.fillWidth: true
-        SplitView.minimumWidth: 480
+        SplitView.minimumWidth: AppTheme.detailMinimumWidth
         spacing: 0
 
         CommandBar {
@@ -45,7 +49,10 @@ SplitView {
         }
         Hairline { Layout.fillWidth: true }
         StackLayout {
+            id: pages
+
             currentIndex: view.content.pageIndex
+            onCurrentIndexChanged: keys.leaveHiddenPage()
 
             OverviewView {
                 overview: view.overview
@@ -53,6 +60,13 @@ SplitView {
             }
             TrendsView { trends: view.trends }
             CompareView { compare: view.compare }
+        }
+        ContentKeys {
+            id: keys
+
+            sidebar: sidebar.pages
+            detail: detail
+            page: pages.children[pages.currentIndex] as Item
         }
     }
 }

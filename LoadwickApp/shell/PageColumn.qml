@@ -10,9 +10,10 @@ PageAppear {
     default property alias cards: column.data
     // What scrolls, for lists that show no more of themselves than it does.
     readonly property Flickable viewport: scroller.contentItem as Flickable
-    // A page that was never shown has no width yet. Laid out at nothing, every word would be a line of
-    // its own, and nested layouts do not settle on that.
-    readonly property real room: scroller.availableWidth > 0 ? scroller.availableWidth : AppTheme.contentWidth
+    // Until its first frame a page may have no width, or one pixel of it. Laid out in that, every word
+    // would be a line of its own, and nested layouts do not settle on it.
+    readonly property real room: scroller.availableWidth < AppTheme.detailMinimumWidth
+        ? AppTheme.contentWidth : scroller.availableWidth
 
     ScrollView {
         id: scroller

@@ -7,6 +7,7 @@ Rectangle {
     id: sidebar
 
     required property ContentPresenter content
+    readonly property alias pages: pages
 
     color: AppTheme.sidebar
 
@@ -30,6 +31,8 @@ Rectangle {
             secondary: true
         }
         SidebarPages {
+            id: pages
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.leftMargin: AppTheme.smallSpace

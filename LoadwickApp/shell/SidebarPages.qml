@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// One row per page. The arrow keys move the choice.
+// One row per page. The arrow keys move the choice, Home and End to the first and the last.
 ListView {
     id: list
 
@@ -16,6 +16,12 @@ ListView {
     onCurrentIndexChanged: list.content.pageIndex = list.currentIndex
     Accessible.role: Accessible.List
     Accessible.name: "Pages"
+
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (event.accepted)
+            list.currentIndex = event.key === Qt.Key_Home ? 0 : list.count - 1;
+    }
 
     // Unlike a plain binding, it survives what the arrow keys and the rows write.
     Binding on currentIndex { value: list.content.pageIndex }

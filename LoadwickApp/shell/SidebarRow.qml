@@ -10,6 +10,8 @@ AbstractButton {
     required property int index
     required property string title
     required property string symbol
+    // The key that goes to the page from anywhere in the window.
+    required property string shortcut
     property bool selected: false
     // Whether the keyboard is here.
     property bool ringed: false
@@ -19,6 +21,7 @@ AbstractButton {
     leftPadding: AppTheme.smallSpace
     rightPadding: AppTheme.smallSpace
     focusPolicy: Qt.NoFocus
+    hoverEnabled: true
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.selectable: true
@@ -49,4 +52,15 @@ AbstractButton {
     }
 
     HoverHandler { cursorShape: Qt.PointingHandCursor }
+
+    Shortcut {
+        sequence: row.shortcut
+        autoRepeat: false
+        onActivated: row.clicked()
+    }
+
+    PlainToolTip {
+        words: row.shortcut
+        visible: row.hovered
+    }
 }

@@ -46,6 +46,16 @@ Item {
             compare(button.opacity, 0.4);
         }
 
+        function test_itsShortcutPressesItFromAnywhere() {
+            button.shortcut = "Ctrl+O";
+            keyClick(Qt.Key_O, Qt.ControlModifier);
+            compare(presses.count, 1);
+            button.enabled = false;
+            keyClick(Qt.Key_O, Qt.ControlModifier);
+            compare(presses.count, 1);
+            button.shortcut = "";
+        }
+
         function test_theTabulatorGoesOn() {
             button.forceActiveFocus(Qt.TabFocusReason);
             verify(button.visualFocus);

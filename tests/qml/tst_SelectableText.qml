@@ -12,6 +12,9 @@ Item {
 
     SelectableText { id: twoFolders; y: 120; width: 150; text: "/home/somebody/Projects/harbor"; maximumLineCount: 2 }
 
+    Shortcut { id: shortcut; sequence: "F6" }
+    SignalSpy { id: presses; target: shortcut; signalName: "activated" }
+
     TestCase {
         name: "SelectableText"
         when: windowShown
@@ -23,6 +26,16 @@ Item {
         function test_showsMarkupLetterByLetter() {
             compare(edit(plain).textFormat, TextEdit.PlainText);
             compare(edit(plain).getText(0, 99), "<b>a</b> path");
+        }
+
+        function test_letsTheShortcutsOfTheWindowThrough() {
+            presses.clear();
+            edit(plain).forceActiveFocus();
+            keyClick(Qt.Key_F6);
+            compare(presses.count, 1);
+            edit(plain).selectAll();
+            keyClick(Qt.Key_C, Qt.ControlModifier);
+            compare(presses.count, 1);
         }
 
         function test_cannotBeChanged() {

@@ -100,6 +100,16 @@ private Q_SLOTS:
         QVERIFY(!m_content->hasRepository());
     }
 
+    void eachPageHasAKey()
+    {
+        const QAbstractItemModel &pages = *m_content->pages();
+        const int role = pages.roleNames().key("shortcut", -1);
+        QCOMPARE(pages.rowCount(), 3);
+        for (int page = 0; page < 3; ++page)
+            QCOMPARE(pages.index(page, 0).data(role).toString(),
+                     QStringLiteral("Ctrl+%1").arg(page + 1));
+    }
+
     void anIndexThatIsNoPageShowsTheOverview()
     {
         m_content->setPageIndex(2);

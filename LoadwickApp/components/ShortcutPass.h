@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+namespace Loadwick {
+
+/// Lets the window's shortcuts through an item that has the focus. A read-only text edit of Qt 6.4
+/// claims every key for itself, also those of which it makes nothing: with the focus in it no
+/// shortcut works. What it does with keys that are no shortcuts stays as it is.
+class ShortcutPass : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickItem *item READ item WRITE setItem NOTIFY itemChanged)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] QQuickItem *item() const { return m_item; }
+    void setItem(QQuickItem *item);
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void itemChanged();
+
+private:
+    QPointer<QQuickItem> m_item;
+};
+
+} // namespace Loadwick

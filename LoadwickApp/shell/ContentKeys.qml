@@ -1,0 +1,64 @@
+import QtQuick
+import Loadwick
+
+// The keys of the window that belong to no control: F6 goes to and fro between the sidebar and the
+// detail, Ctrl+W and Ctrl+Q close the window, which is all there is of the program.
+Item {
+    id: keys
+
+    // Where the keyboard goes in the sidebar.
+    required property Item sidebar
+    // The right column with its toolbar, and the page in it that is shown.
+    required property Item detail
+    required property Item page
+    // Where the keyboard last was in the detail.
+    property Item lastStop: null
+
+    function holds(holder, item) {
+        let place = item;
+        while (place && place !== holder)
+            place = place.parent;
+        return Boolean(holder) && place === holder;
+    }
+
+    // Where the keyboard was in the page, else the page's first stop, else the toolbar's.
+    function detailStop() {
+        if (keys.lastStop && keys.lastStop.visible && keys.lastStop.enabled)
+            return keys.lastStop;
+        const first = keys.page.nextItemInFocusChain(true);
+        return keys.holds(keys.page, first) ? first : keys.detail.nextItemInFocusChain(true);
+    }
+
+    function switchSides() {
+        const inDetail = keys.holds(keys.detail, keys.Window.activeFocusItem);
+        const stop = inDetail ? keys.sidebar : keys.detailStop();
+        stop.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
+    // Keys that go to a page that is not shown would be lost.
+    function leaveHiddenPage() {
+        const item = keys.Window.activeFocusItem;
+        if (item && !item.visible && keys.holds(keys.detail, item))
+            keys.sidebar.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
+    function noteStop() {
+        const item = keys.Window.activeFocusItem;
+        if (keys.holds(keys.detail, item))
+            keys.lastStop = item;
+    }
+
+    visible: false
+    Window.onActiveFocusItemChanged: keys.noteStop()
+
+    Shortcut {
+        sequences: ["F6", "Shift+F6"]
+        onActivated: keys.switchSides()
+    }
+    // Nothing modal keeps anyone in.
+    Shortcut {
+        sequences: ["Ctrl+W", "Ctrl+Q"]
+        context: Qt.ApplicationShortcut
+        onActivated: keys.Window.window.close()
+    }
+}
