@@ -12,7 +12,7 @@ function(loadwick_app_test name program)
         QT_QPA_PLATFORM=set:offscreen QT_QUICK_BACKEND=set:software QT_SCALE_FACTOR=unset:
         QT_QUICK_CONTROLS_STYLE=unset: QT_QPA_PLATFORMTHEME=unset: LC_ALL=set:C.UTF-8
         LANG=unset: LANGUAGE=unset: TZ=set:UTC "HOME=set:${home}" CLAUDE_CONFIG_DIR=unset:
-        XDG_CONFIG_HOME=unset: XDG_DATA_HOME=unset: XDG_CACHE_HOME=unset: XDG_STATE_HOME=unset:
+        XDG_CURRENT_DESKTOP=unset: XDG_CONFIG_HOME=unset: XDG_DATA_HOME=unset: XDG_CACHE_HOME=unset: XDG_STATE_HOME=unset:
         DBUS_SESSION_BUS_ADDRESS=unset:)
     set_tests_properties("${LOADWICK_TEST_PREFIX}app/${name}" PROPERTIES
                          TIMEOUT 120 ENVIRONMENT_MODIFICATION "${environment}")
@@ -27,7 +27,7 @@ function(loadwick_qt_tests)
     loadwick_qt_strictness(app_tests)
     target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
     target_link_libraries(app_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
-                                            Qt6::Svg Qt6::Test)
+                                            Qt6::DBus Qt6::Svg Qt6::Test)
     set_target_properties(app_tests PROPERTIES AUTOMOC ON)
     loadwick_moc_follows(app_tests ${sources})
     file(GLOB tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/app"

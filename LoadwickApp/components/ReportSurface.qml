@@ -45,7 +45,7 @@ Item {
         radius: AppTheme.cardRadius
         color: "transparent"
         border { width: AppTheme.hairline; color: AppTheme.separator }
-        opacity: card.isHovering ? 1 : 0.6
+        opacity: card.isHovering ? 1 : AppTheme.quietBorderOpacity
 
         Behavior on opacity {
             enabled: !AppTheme.reduceMotion

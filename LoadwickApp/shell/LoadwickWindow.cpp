@@ -15,6 +15,7 @@
 #include "shell/QmlObject.h"
 #include "shell/QtTaskDispatcher.h"
 #include "theme/ApplicationStyle.h"
+#include "theme/DesktopAppearanceSource.h"
 
 namespace Loadwick {
 namespace {
@@ -63,6 +64,7 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
         .completionStore = std::make_shared<PreferencesCompletionStore>(
             PreferencesCompletionStore::defaultFile(environment)),
         .home = homeFolder(environment),
+        .appearance = &DesktopAppearanceSource::ofUser,
     };
 }
 
@@ -74,6 +76,9 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     if (!collaborators.dispatcher)
         collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
     const std::shared_ptr<TaskDispatcher> dispatcher = collaborators.dispatcher;
+    // First of all: its answers are on their way while everything else is made.
+    if (collaborators.appearance)
+        collaborators.appearance(dispatcher).release()->setParent(&m_engine);
     const std::filesystem::path weeklyLog = collaborators.weeklyLog;
     const TextLocale locale = collaborators.locale;
     const std::filesystem::path home = collaborators.home;

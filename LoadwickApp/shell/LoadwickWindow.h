@@ -17,6 +17,7 @@
 #include "report/TextLocale.h"
 #include "shell/ContentPresenter.h"
 #include "shell/FolderChooser.h"
+#include "theme/AppearanceSource.h"
 #include "trends/TrendsPresenter.h"
 
 namespace Loadwick {
@@ -26,6 +27,9 @@ namespace Loadwick {
 class LoadwickWindow
 {
 public:
+    using MakeAppearance = std::function<std::unique_ptr<AppearanceSource>(
+        const std::shared_ptr<TaskDispatcher> &dispatcher)>;
+
     /// What stands between the window and the outside world.
     struct Collaborators
     {
@@ -39,6 +43,7 @@ public:
         std::filesystem::path weeklyLog = {};                            ///< empty: none is read
         std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< none: no walk-through
         std::filesystem::path home = {}; ///< tells whose a file is; nothing in it is read
+        MakeAppearance appearance = {};  ///< none: the palette's
 
         /// Those of the running program: the user's own home, environment and disk.
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);

@@ -6,16 +6,25 @@ import Loadwick
 QtObject {
     readonly property bool dark: Appearance.dark
     readonly property bool reduceMotion: Appearance.reduceMotion
+    readonly property bool moreContrast: Appearance.moreContrast
 
     // Grounds, from the back to the front.
     readonly property color window: dark ? "#1B1B1E" : "#F4F4F6"
     readonly property color sidebar: dark ? "#232327" : "#EBEBEF"
     readonly property color surface: dark ? "#29292E" : "#FFFFFF"
-    readonly property color separator: dark ? "#3B3B42" : "#DCDCE2"
+    readonly property list<color> grounds: [window, sidebar, surface]
+    // Where more contrast is asked for, lines reach 3:1 and quiet words 7:1.
+    readonly property color separator: moreContrast ? (dark ? "#85858F" : "#80808A")
+                                                    : (dark ? "#3B3B42" : "#DCDCE2")
+    // Of a card that nothing points at.
+    readonly property real quietBorderOpacity: moreContrast ? 1 : 0.6
 
     readonly property color text: dark ? "#F1F1F4" : "#1B1B1F"
-    readonly property color secondaryText: dark ? "#ACADB7" : "#5A5B64"
-    readonly property color accent: dark ? "#7AA7FF" : "#2157C5"
+    readonly property color secondaryText: moreContrast ? (dark ? "#D4D5DC" : "#3A3B43")
+                                                        : (dark ? "#ACADB7" : "#5A5B64")
+    readonly property color ownAccent: dark ? "#7AA7FF" : "#2157C5"
+    readonly property color accent: Appearance.hasAccent
+        ? Appearance.readable(Appearance.accent, grounds, selectionOpacity) : ownAccent
     // Words on a ground filled with the accent.
     readonly property color accentText: dark ? "#14161C" : "#FFFFFF"
 
@@ -39,13 +48,14 @@ QtObject {
     readonly property color hoverFill: Qt.alpha(text, 0.06)
     readonly property color pressedFill: Qt.alpha(text, 0.10)
     readonly property color quietFill: Qt.alpha(text, 0.06)
-    readonly property color selectionFill: Qt.alpha(accent, dark ? 0.18 : 0.12)
+    readonly property real selectionOpacity: dark ? 0.18 : 0.12
+    readonly property color selectionFill: Qt.alpha(accent, selectionOpacity)
     // Over everything that a modal sheet covers.
     readonly property color dim: Qt.rgba(0, 0, 0, dark ? 0.5 : 0.3)
     // Fainter than what parts two things.
     readonly property color gridLine: Qt.alpha(separator, dark ? 0.7 : 0.8)
     readonly property real tintOpacity: 0.12
-    readonly property real disabledOpacity: 0.4
+    readonly property real disabledOpacity: moreContrast ? 0.6 : 0.4
 
     // What fills a tile at rest and the one in focus, on which names have to be read, and how much is
     // left of the others meanwhile.
@@ -79,6 +89,8 @@ QtObject {
     readonly property int wideSpace: 32
     readonly property int cardPadding: 16
     readonly property int contentWidth: 1040
+    // Of the column that shows the pages; no page is laid out in less.
+    readonly property int detailMinimumWidth: 480
     readonly property int stateWidth: 420
     // What words beside a figure need before they go below it.
     readonly property int copyMinimumWidth: 280

@@ -2,6 +2,7 @@
 
 #include "theme/AppearanceSource.h"
 #include "theme/PaletteAppearanceSource.h"
+#include "theme/ReadableAccent.h"
 
 #include <QQmlEngine>
 
@@ -31,6 +32,26 @@ bool Appearance::reduceMotion() const
     return m_motion == DesktopMotion ? m_source.prefersReducedMotion() : m_motion == Reduced;
 }
 
+bool Appearance::moreContrast() const
+{
+    return m_contrast == DesktopContrast ? m_source.prefersMoreContrast() : m_contrast == More;
+}
+
+bool Appearance::hasAccent() const
+{
+    return m_source.wishes().accent.has_value();
+}
+
+QColor Appearance::accent() const
+{
+    return m_source.wishes().accent.value_or(QColor());
+}
+
+QColor Appearance::readable(const QColor &accent, const QList<QColor> &grounds, double tint) const
+{
+    return readableAccent(accent, grounds, static_cast<float>(tint));
+}
+
 void Appearance::setScheme(Scheme scheme)
 {
     if (m_scheme == scheme)
@@ -44,6 +65,14 @@ void Appearance::setMotion(Motion motion)
     if (m_motion == motion)
         return;
     m_motion = motion;
+    Q_EMIT changed();
+}
+
+void Appearance::setContrast(Contrast contrast)
+{
+    if (m_contrast == contrast)
+        return;
+    m_contrast = contrast;
     Q_EMIT changed();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QColor>
+#include <QList>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -10,9 +12,9 @@ namespace Loadwick {
 
 class AppearanceSource;
 
-/// Dark or light, moving or still, as QML sees it: one object for each engine. The answers come
-/// from the AppearanceSource among the engine's children, or from the palette if there is none.
-/// Tests and makers of pictures say what they want with `scheme` and `motion`.
+/// Dark or light, moving or still, quiet or strong, as QML sees it: one object for each engine. The
+/// answers come from the AppearanceSource among the engine's children, or from the palette if there
+/// is none. Tests and makers of pictures say what they want with `scheme`, `motion` and `contrast`.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -20,8 +22,13 @@ class Appearance : public QObject
     QML_SINGLETON
     Q_PROPERTY(bool dark READ dark NOTIFY changed)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
+    Q_PROPERTY(bool moreContrast READ moreContrast NOTIFY changed)
+    /// The accent of the user's desktop as it was chosen; only where the desktop has one.
+    Q_PROPERTY(bool hasAccent READ hasAccent NOTIFY changed)
+    Q_PROPERTY(QColor accent READ accent NOTIFY changed)
     Q_PROPERTY(Scheme scheme READ scheme WRITE setScheme NOTIFY changed)
     Q_PROPERTY(Motion motion READ motion WRITE setMotion NOTIFY changed)
+    Q_PROPERTY(Contrast contrast READ contrast WRITE setContrast NOTIFY changed)
 
 public:
     enum Scheme
@@ -38,6 +45,13 @@ public:
         Reduced
     };
     Q_ENUM(Motion)
+    enum Contrast
+    {
+        DesktopContrast,
+        Standard,
+        More
+    };
+    Q_ENUM(Contrast)
 
     /// `source` must live as long as this object.
     explicit Appearance(AppearanceSource &source, QObject *parent = nullptr);
@@ -45,10 +59,19 @@ public:
 
     [[nodiscard]] bool dark() const;
     [[nodiscard]] bool reduceMotion() const;
+    [[nodiscard]] bool moreContrast() const;
+    [[nodiscard]] bool hasAccent() const;
+    [[nodiscard]] QColor accent() const;
     [[nodiscard]] Scheme scheme() const { return m_scheme; }
     void setScheme(Scheme scheme);
     [[nodiscard]] Motion motion() const { return m_motion; }
     void setMotion(Motion motion);
+    [[nodiscard]] Contrast contrast() const { return m_contrast; }
+    void setContrast(Contrast contrast);
+
+    /// See readableAccent.
+    [[nodiscard]] Q_INVOKABLE QColor readable(const QColor &accent, const QList<QColor> &grounds,
+                                              double tint) const;
 
 Q_SIGNALS:
     void changed();
@@ -57,6 +80,7 @@ private:
     AppearanceSource &m_source;
     Scheme m_scheme = DesktopScheme;
     Motion m_motion = DesktopMotion;
+    Contrast m_contrast = DesktopContrast;
 };
 
 } // namespace Loadwick

@@ -2,9 +2,12 @@
 
 #include <QObject>
 
+#include "theme/DesktopWishes.h"
+
 namespace Loadwick {
 
-/// Where the desktop's wishes about the look come from. Lives on the interface thread.
+/// Where the desktop's wishes about the look come from. Lives on the interface thread, which it
+/// never holds up: what it has not heard yet is absent, and `changed` tells when it has.
 class AppearanceSource : public QObject
 {
     Q_OBJECT
@@ -12,13 +15,17 @@ class AppearanceSource : public QObject
 public:
     using QObject::QObject;
 
-    /// Whether the desktop asks for light text on dark ground.
-    [[nodiscard]] virtual bool prefersDark() const = 0;
-    /// Whether the desktop asks that nothing moves for the sake of moving.
-    [[nodiscard]] virtual bool prefersReducedMotion() const = 0;
+    [[nodiscard]] virtual DesktopWishes wishes() const = 0;
+
+    [[nodiscard]] bool prefersDark() const { return wishes().dark.value_or(false); }
+    [[nodiscard]] bool prefersReducedMotion() const
+    {
+        return wishes().reducedMotion.value_or(false);
+    }
+    [[nodiscard]] bool prefersMoreContrast() const { return wishes().moreContrast.value_or(false); }
 
 Q_SIGNALS:
-    /// One of the answers has changed.
+    /// One of the wishes has changed.
     void changed();
 };
 

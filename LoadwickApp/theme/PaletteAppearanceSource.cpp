@@ -11,14 +11,9 @@ PaletteAppearanceSource::PaletteAppearanceSource(QObject *parent) : AppearanceSo
     qGuiApp->installEventFilter(this);
 }
 
-bool PaletteAppearanceSource::prefersDark() const
+DesktopWishes PaletteAppearanceSource::wishes() const
 {
-    return QGuiApplication::palette().window().color().lightness() < 128;
-}
-
-bool PaletteAppearanceSource::prefersReducedMotion() const
-{
-    return false;
+    return {.dark = QGuiApplication::palette().window().color().lightness() < 128};
 }
 
 bool PaletteAppearanceSource::eventFilter(QObject *watched, QEvent *event)

@@ -4,8 +4,8 @@
 
 namespace Loadwick {
 
-/// Reads dark or light off the application's palette: a window darker than middle grey is dark.
-/// A palette says nothing about motion, so that motion stays wanted.
+/// Reads dark or light off the application's palette: a window darker than middle grey is dark. A
+/// palette says nothing about motion or contrast.
 class PaletteAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -13,8 +13,7 @@ class PaletteAppearanceSource : public AppearanceSource
 public:
     explicit PaletteAppearanceSource(QObject *parent = nullptr);
 
-    [[nodiscard]] bool prefersDark() const override;
-    [[nodiscard]] bool prefersReducedMotion() const override;
+    [[nodiscard]] DesktopWishes wishes() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "support/FakeAppearanceSource.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 
@@ -161,6 +162,24 @@ private Q_SLOTS:
                 QVERIFY(!window.grabWindow().isNull());
             }
         }
+    }
+
+    void followsTheDesktopThatItIsGiven()
+    {
+        FakeAppearanceSource *desktop = nullptr;
+        LoadwickWindow given({.probeRunner = std::make_shared<FakeProbe>(),
+                              .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+                              .folderChooser = std::make_unique<FakeFolderChooser>(),
+                              .appearance = [&desktop](const auto &) {
+                                  auto made = std::make_unique<FakeAppearanceSource>();
+                                  desktop = made.get();
+                                  return made;
+                              }});
+        QVERIFY(given.window().color().lightness() > 128);
+        desktop->wish({.dark = true});
+        QVERIFY(given.window().color().lightness() < 128);
+        desktop->wish({.dark = false});
+        QVERIFY(given.window().color().lightness() > 128);
     }
 
     void copySummaryIsAButton()

@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-/// A desktop that wishes what the test says; light and moving at first.
+/// A desktop that wishes what the test says; nothing at first.
 class FakeAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -12,19 +12,20 @@ class FakeAppearanceSource : public AppearanceSource
 public:
     using AppearanceSource::AppearanceSource;
 
-    [[nodiscard]] bool prefersDark() const override { return m_dark; }
-    [[nodiscard]] bool prefersReducedMotion() const override { return m_reducedMotion; }
+    [[nodiscard]] DesktopWishes wishes() const override { return m_wishes; }
 
+    void wish(const DesktopWishes &wishes)
+    {
+        m_wishes = wishes;
+        Q_EMIT changed();
+    }
     void prefer(bool dark, bool reducedMotion)
     {
-        m_dark = dark;
-        m_reducedMotion = reducedMotion;
-        Q_EMIT changed();
+        wish({.dark = dark, .reducedMotion = reducedMotion});
     }
 
 private:
-    bool m_dark = false;
-    bool m_reducedMotion = false;
+    DesktopWishes m_wishes;
 };
 
 } // namespace Loadwick

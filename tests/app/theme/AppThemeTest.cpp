@@ -1,7 +1,8 @@
-#include "support/ColorContrast.h"
+#include "support/FakeAppearanceSource.h"
 #include "support/TestRegistry.h"
 #include "theme/Appearance.h"
 #include "theme/ApplicationStyle.h"
+#include "theme/ColorContrast.h"
 
 #include <QFont>
 #include <QQmlComponent>
@@ -49,6 +50,11 @@ private Q_SLOTS:
     void thereAreFiveChartColors();
     void theHeroMetricIsLargeAndSemibold();
     void nothingMovesWhenMotionIsUnwanted();
+    void withMoreContrastLinesAndQuietWordsStandOut_data() { schemes(); }
+    void withMoreContrastLinesAndQuietWordsStandOut();
+    void theDesktopsAccentCanBeRead_data() { schemes(); }
+    void theDesktopsAccentCanBeRead();
+    void withoutADesktopsAccentItIsOurs();
 
 private:
     static void schemes();
@@ -58,6 +64,7 @@ private:
     [[nodiscard]] QColor color(const QString &role) { return value(role).value<QColor>(); }
     [[nodiscard]] QList<QColor> shapes();
 
+    FakeAppearanceSource *m_desktop = nullptr; ///< the engine's
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QObject> m_singletons;
 };
@@ -65,6 +72,7 @@ private:
 void AppThemeTest::init()
 {
     m_engine = std::make_unique<QQmlEngine>();
+    m_desktop = new FakeAppearanceSource(m_engine.get());
     ApplicationStyle::addModulePath(*m_engine);
     QQmlComponent component(m_engine.get());
     component.setData("import QtQml\nimport Loadwick\n"
@@ -236,6 +244,47 @@ void AppThemeTest::nothingMovesWhenMotionIsUnwanted()
     appearance().setMotion(Appearance::Reduced);
     QCOMPARE(value(QStringLiteral("hoverDuration")).toInt(), 0);
     QCOMPARE(value(QStringLiteral("pageDuration")).toInt(), 0);
+}
+
+void AppThemeTest::withMoreContrastLinesAndQuietWordsStandOut()
+{
+    QFETCH(int, scheme);
+    use(scheme);
+    const QColor quietLine = color(QStringLiteral("separator"));
+    m_desktop->wish({.moreContrast = true});
+    QVERIFY(color(QStringLiteral("separator")) != quietLine);
+    QCOMPARE(value(QStringLiteral("quietBorderOpacity")).toDouble(), 1.0);
+    for (const QString &ground : grounds) {
+        QVERIFY(contrast(color(QStringLiteral("separator")), color(ground)) >= leastForShapes);
+        QVERIFY(contrast(color(QStringLiteral("secondaryText")), color(ground)) >= 7.0);
+    }
+}
+
+void AppThemeTest::theDesktopsAccentCanBeRead()
+{
+    QFETCH(int, scheme);
+    use(scheme);
+    const QColor ours = color(QStringLiteral("accent"));
+    for (const QColor &chosen : {QColor(255, 230, 0), QColor(0, 0, 90), QColor(230, 60, 150)}) {
+        m_desktop->wish({.accent = chosen});
+        const QColor accent = color(QStringLiteral("accent"));
+        QVERIFY(accent != ours);
+        for (const QString &ground : grounds)
+            QVERIFY2(contrast(accent, color(ground)) >= leastForText, qPrintable(chosen.name()));
+        QVERIFY(contrast(color(QStringLiteral("accentText")), accent) >= leastForText);
+        const QColor row =
+            blended(color(QStringLiteral("selectionFill")), color(QStringLiteral("sidebar")));
+        QVERIFY(contrast(accent, row) >= leastForText);
+    }
+}
+
+void AppThemeTest::withoutADesktopsAccentItIsOurs()
+{
+    use(Appearance::Light);
+    QCOMPARE(color(QStringLiteral("accent")), color(QStringLiteral("ownAccent")));
+    m_desktop->wish({.accent = QColor(Qt::red)});
+    m_desktop->wish({});
+    QCOMPARE(color(QStringLiteral("accent")), color(QStringLiteral("ownAccent")));
 }
 
 const RegisteredTest<AppThemeTest> registered("AppTheme");

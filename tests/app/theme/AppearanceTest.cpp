@@ -19,6 +19,8 @@ private Q_SLOTS:
     void aWishOfItsOwnWins();
     void returnsToTheDesktop();
     void saysOnceWhatIsWished();
+    void followsTheWishForContrast();
+    void tellsTheAccentOnlyWhereThereIsOne();
     void theEngineHandsInTheSource();
 };
 
@@ -75,6 +77,33 @@ void AppearanceTest::saysOnceWhatIsWished()
     appearance.setMotion(Appearance::Reduced);
     appearance.setMotion(Appearance::Reduced);
     QCOMPARE(changes.size(), 2);
+}
+
+void AppearanceTest::followsTheWishForContrast()
+{
+    FakeAppearanceSource desktop;
+    Appearance appearance(desktop);
+    QVERIFY(!appearance.moreContrast());
+    desktop.wish({.moreContrast = true});
+    QVERIFY(appearance.moreContrast());
+    const QSignalSpy changes(&appearance, &Appearance::changed);
+    appearance.setContrast(Appearance::Standard);
+    appearance.setContrast(Appearance::Standard);
+    QVERIFY(!appearance.moreContrast());
+    QCOMPARE(changes.size(), 1);
+    desktop.wish({});
+    appearance.setContrast(Appearance::More);
+    QVERIFY(appearance.moreContrast());
+}
+
+void AppearanceTest::tellsTheAccentOnlyWhereThereIsOne()
+{
+    FakeAppearanceSource desktop;
+    const Appearance appearance(desktop);
+    QVERIFY(!appearance.hasAccent());
+    desktop.wish({.accent = QColor(Qt::magenta)});
+    QVERIFY(appearance.hasAccent());
+    QCOMPARE(appearance.accent(), QColor(Qt::magenta));
 }
 
 void AppearanceTest::theEngineHandsInTheSource()

@@ -1,4 +1,4 @@
-#include "support/ColorContrast.h"
+#include "theme/ColorContrast.h"
 
 #include "support/TestRegistry.h"
 

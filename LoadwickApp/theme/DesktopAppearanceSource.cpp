@@ -1,0 +1,39 @@
+#include "theme/DesktopAppearanceSource.h"
+
+#include <utility>
+
+#include "theme/KdeAppearanceSource.h"
+#include "theme/PaletteAppearanceSource.h"
+#include "theme/PortalAppearanceSource.h"
+
+namespace Loadwick {
+
+DesktopAppearanceSource::DesktopAppearanceSource(Sources sources, QObject *parent)
+    : AppearanceSource(parent), m_sources(std::move(sources))
+{
+    for (const auto &source : m_sources)
+        connect(source.get(), &AppearanceSource::changed, this, &DesktopAppearanceSource::ask);
+    ask();
+}
+
+std::unique_ptr<AppearanceSource>
+DesktopAppearanceSource::ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher)
+{
+    Sources sources;
+    sources.push_back(std::make_unique<PortalAppearanceSource>(dispatcher));
+    sources.push_back(
+        std::make_unique<KdeAppearanceSource>(KdeAppearanceSource::userFile(), dispatcher));
+    sources.push_back(std::make_unique<PaletteAppearanceSource>());
+    return std::make_unique<DesktopAppearanceSource>(std::move(sources));
+}
+
+void DesktopAppearanceSource::ask()
+{
+    DesktopWishes wishes;
+    for (const auto &source : m_sources)
+        wishes = wishes.orElse(source->wishes());
+    if (std::exchange(m_wishes, wishes) != wishes)
+        Q_EMIT changed();
+}
+
+} // namespace Loadwick

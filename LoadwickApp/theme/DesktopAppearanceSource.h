@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "model/TaskDispatcher.h"
+#include "theme/AppearanceSource.h"
+
+namespace Loadwick {
+
+/// Asks several sources in their order; of each wish the first that says something about it counts.
+class DesktopAppearanceSource : public AppearanceSource
+{
+    Q_OBJECT
+
+public:
+    using Sources = std::vector<std::unique_ptr<AppearanceSource>>;
+
+    explicit DesktopAppearanceSource(Sources sources, QObject *parent = nullptr);
+
+    /// The desktop that the program runs on: its portal, then what KDE keeps in a file, then the
+    /// palette. What works in the background goes through the dispatcher.
+    [[nodiscard]] static std::unique_ptr<AppearanceSource>
+    ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher);
+
+    [[nodiscard]] DesktopWishes wishes() const override { return m_wishes; }
+
+private:
+    void ask();
+
+    Sources m_sources;
+    DesktopWishes m_wishes;
+};
+
+} // namespace Loadwick

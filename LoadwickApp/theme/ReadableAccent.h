@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+
+namespace Loadwick {
+
+/// The user's accent in a lightness in which it can be read as text, 4.5:1 by WCAG 2, on each of
+/// the grounds and on a tint of itself over them; on dark grounds it gets lighter, on light ones
+/// darker, no more than it takes. Moved rather than refused, for yellow is nobody's text on white,
+/// and hue is what one recognises as one's own. `tint` is the opacity of the strongest tint.
+[[nodiscard]] QColor readableAccent(const QColor &accent, const QList<QColor> &grounds, float tint);
+
+} // namespace Loadwick

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+#include <utility>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QObject>
+#include <QVariant>
+
+namespace Loadwick {
+
+/// A desktop's settings portal that knows what a test tells it, and wraps its answers as twice as
+/// the real one does.
+class StandInPortal : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    /// Takes the portal's name on the bus.
+    explicit StandInPortal(QDBusConnection bus);
+    ~StandInPortal() override;
+
+    void set(const QString &space, const QString &name, const QVariant &value);
+    /// Sets it and tells everyone.
+    void change(const QString &space, const QString &name, const QVariant &value);
+    /// From now on questions are heard and never answered.
+    void fallSilent() { m_isSilent = true; }
+    [[nodiscard]] int questionCount() const { return m_questionCount; }
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString &space, const QString &name, const QDBusMessage &question);
+
+private:
+    QDBusConnection m_bus;
+    std::map<std::pair<QString, QString>, QVariant> m_values;
+    int m_questionCount = 0;
+    bool m_isSilent = false;
+};
+
+} // namespace Loadwick

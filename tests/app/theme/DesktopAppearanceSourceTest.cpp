@@ -1,0 +1,90 @@
+#include "theme/DesktopAppearanceSource.h"
+
+#include "support/FakeAppearanceSource.h"
+#include "support/SteppingDispatcher.h"
+#include "support/TestRegistry.h"
+
+#include <array>
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace Loadwick {
+
+class DesktopAppearanceSourceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        DesktopAppearanceSource::Sources sources;
+        for (FakeAppearanceSource *&fake : m_fakes) {
+            auto made = std::make_unique<FakeAppearanceSource>();
+            fake = made.get();
+            sources.push_back(std::move(made));
+        }
+        m_source = std::make_unique<DesktopAppearanceSource>(std::move(sources));
+    }
+
+    void asksInOrder()
+    {
+        m_fakes[2]->wish({.dark = true});
+        QVERIFY(m_source->prefersDark());
+        m_fakes[1]->wish({.dark = false});
+        QVERIFY(!m_source->prefersDark());
+        m_fakes[0]->wish({.dark = true});
+        QVERIFY(m_source->prefersDark());
+    }
+
+    void eachWishMayComeFromAnotherSource()
+    {
+        m_fakes[0]->wish({.reducedMotion = true});
+        m_fakes[1]->wish({.reducedMotion = false, .moreContrast = true});
+        m_fakes[2]->wish({.dark = true, .accent = QColor(Qt::green)});
+        const DesktopWishes all{
+            .dark = true, .reducedMotion = true, .moreContrast = true, .accent = QColor(Qt::green)};
+        QVERIFY(m_source->wishes() == all);
+    }
+
+    void aWishThatIsTakenBackGoesToTheNext()
+    {
+        m_fakes[2]->wish({.dark = false});
+        m_fakes[0]->wish({.dark = true});
+        m_fakes[0]->wish({});
+        QVERIFY(!m_source->prefersDark());
+    }
+
+    void tellsOnlyOfWhatCounts()
+    {
+        m_fakes[0]->wish({.dark = true});
+        const QSignalSpy changes(m_source.get(), &AppearanceSource::changed);
+        m_fakes[1]->wish({.dark = false});
+        QVERIFY(changes.isEmpty());
+        m_fakes[1]->wish({.dark = false, .moreContrast = true});
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void theUsersEndsAtThePalette()
+    {
+        const auto stepping = std::make_shared<SteppingDispatcher>();
+        const auto source = DesktopAppearanceSource::ofUser(stepping);
+        QGuiApplication::setPalette(QPalette(Qt::gray, Qt::black));
+        QTRY_VERIFY(source->prefersDark());
+        QGuiApplication::setPalette(QPalette(Qt::gray, Qt::white));
+        QTRY_VERIFY(!source->prefersDark());
+        stepping->discardAll();
+    }
+
+private:
+    std::array<FakeAppearanceSource *, 3> m_fakes{};
+    std::unique_ptr<DesktopAppearanceSource> m_source;
+};
+
+const RegisteredTest<DesktopAppearanceSourceTest> registered("DesktopAppearanceSource");
+
+} // namespace Loadwick
+
+#include "DesktopAppearanceSourceTest.moc"

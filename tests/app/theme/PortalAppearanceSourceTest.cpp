@@ -1,0 +1,245 @@
+#include "theme/PortalAppearanceSource.h"
+
+#include "shell/QtTaskDispatcher.h"
+#include "support/PrivateBus.h"
+#include "support/StandInPortal.h"
+#include "support/SteppingDispatcher.h"
+#include "support/TestRegistry.h"
+
+#include <QDBusArgument>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace Loadwick {
+namespace {
+
+const auto common = QStringLiteral("org.freedesktop.appearance");
+const auto gnome = QStringLiteral("org.gnome.desktop.interface");
+const auto scheme = QStringLiteral("color-scheme");
+const auto animations = QStringLiteral("enable-animations");
+const auto accent = QStringLiteral("accent-color");
+
+QVariant colorParts(double red, double green, double blue)
+{
+    QDBusArgument parts;
+    parts.beginStructure();
+    parts << red << green << blue;
+    parts.endStructure();
+    return QVariant::fromValue(parts);
+}
+
+} // namespace
+
+class PortalAppearanceSourceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aDarkDesktopIsDarkFromTheStart();
+    void followsChangesWhileItRuns();
+    void takesTheAccent();
+    void anAccentOutOfBoundsIsNone();
+    void saysNothingOfWhatStaysTheSame();
+    void hearsOnlyThePortal();
+    void withoutABusThereAreNoWishes();
+    void withoutAPortalThereAreNoWishes();
+    void aPortalThatNeverAnswersHoldsUpNobody();
+    void aSilentPortalsChangesAreStillHeard();
+    void connectsInTheBackground();
+    void mayGoBeforeTheBusIsConnected();
+    void doesWithoutAThread();
+
+private:
+    [[nodiscard]] QString newName() { return QStringLiteral("connection %1").arg(++m_count); }
+    [[nodiscard]] StandInPortal &portal();
+    [[nodiscard]] PortalAppearanceSource &source();
+
+    QObject m_interface;
+    std::shared_ptr<TaskDispatcher> m_dispatcher;
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<StandInPortal> m_portal;
+    std::unique_ptr<PortalAppearanceSource> m_source;
+    int m_count = 0;
+};
+
+void PortalAppearanceSourceTest::init()
+{
+    m_dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
+    m_bus = std::make_unique<PrivateBus>();
+}
+
+void PortalAppearanceSourceTest::cleanup()
+{
+    m_source.reset();
+    m_portal.reset();
+    m_bus.reset();
+}
+
+StandInPortal &PortalAppearanceSourceTest::portal()
+{
+    if (!m_portal)
+        m_portal = std::make_unique<StandInPortal>(m_bus->connection(newName()));
+    return *m_portal;
+}
+
+PortalAppearanceSource &PortalAppearanceSourceTest::source()
+{
+    const QDBusConnection bus = m_bus->connection(newName());
+    m_source = std::make_unique<PortalAppearanceSource>(m_dispatcher, [bus] { return bus; });
+    return *m_source;
+}
+
+void PortalAppearanceSourceTest::aDarkDesktopIsDarkFromTheStart()
+{
+    portal().set(common, scheme, 1U);
+    portal().set(gnome, animations, false);
+    PortalAppearanceSource &asked = source();
+    QVERIFY(!asked.wishes().dark);
+    QTRY_VERIFY(asked.prefersDark());
+    QTRY_VERIFY(asked.prefersReducedMotion());
+    QVERIFY(!asked.wishes().moreContrast);
+    QVERIFY(!asked.wishes().accent);
+}
+
+void PortalAppearanceSourceTest::followsChangesWhileItRuns()
+{
+    portal().set(common, scheme, 1U);
+    PortalAppearanceSource &asked = source();
+    QTRY_VERIFY(asked.prefersDark());
+    portal().change(common, scheme, 2U);
+    QTRY_VERIFY(!asked.prefersDark());
+    portal().change(common, QStringLiteral("contrast"), 1U);
+    QTRY_VERIFY(asked.prefersMoreContrast());
+    portal().change(gnome, animations, false);
+    QTRY_VERIFY(asked.prefersReducedMotion());
+    portal().change(gnome, animations, true);
+    QTRY_VERIFY(!asked.prefersReducedMotion());
+}
+
+void PortalAppearanceSourceTest::takesTheAccent()
+{
+    portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
+    PortalAppearanceSource &asked = source();
+    QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(1.0F, 0.0F, 0.0F)));
+    portal().change(common, accent, colorParts(0.0, 0.0, 1.0));
+    QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(0.0F, 0.0F, 1.0F)));
+}
+
+void PortalAppearanceSourceTest::anAccentOutOfBoundsIsNone()
+{
+    portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
+    PortalAppearanceSource &asked = source();
+    QTRY_VERIFY(asked.wishes().accent);
+    portal().change(common, accent, colorParts(-1.0, -1.0, -1.0));
+    QTRY_VERIFY(!asked.wishes().accent);
+}
+
+void PortalAppearanceSourceTest::saysNothingOfWhatStaysTheSame()
+{
+    portal().set(common, scheme, 1U);
+    PortalAppearanceSource &asked = source();
+    QTRY_VERIFY(asked.prefersDark());
+    const QSignalSpy changes(&asked, &AppearanceSource::changed);
+    portal().change(common, scheme, 1U);
+    portal().change(gnome, QStringLiteral("clock-format"), QStringLiteral("24h"));
+    portal().change(common, QStringLiteral("contrast"), 1U);
+    QTRY_VERIFY(asked.prefersMoreContrast());
+    QCOMPARE(changes.size(), 1);
+}
+
+void PortalAppearanceSourceTest::hearsOnlyThePortal()
+{
+    portal().set(common, scheme, 2U);
+    PortalAppearanceSource &asked = source();
+    QTRY_VERIFY(asked.wishes().dark);
+    QDBusConnection other = m_bus->connection(newName());
+    QDBusMessage lie = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                                                  QStringLiteral("org.freedesktop.portal.Settings"),
+                                                  QStringLiteral("SettingChanged"));
+    lie << common << scheme << QVariant::fromValue(QDBusVariant(1U));
+    QVERIFY(other.send(lie));
+    portal().change(common, QStringLiteral("contrast"), 1U);
+    QTRY_VERIFY(asked.prefersMoreContrast());
+    QVERIFY(!asked.prefersDark());
+}
+
+void PortalAppearanceSourceTest::withoutABusThereAreNoWishes()
+{
+    const auto stepping = std::make_shared<SteppingDispatcher>();
+    const PortalAppearanceSource asked(
+        stepping, [] { return QDBusConnection(QStringLiteral("no such bus")); });
+    stepping->runAll();
+    QVERIFY(asked.wishes() == DesktopWishes());
+}
+
+void PortalAppearanceSourceTest::withoutAPortalThereAreNoWishes()
+{
+    PortalAppearanceSource &asked = source();
+    const QSignalSpy changes(&asked, &AppearanceSource::changed);
+    QTest::qWait(200);
+    QVERIFY(changes.isEmpty());
+    QVERIFY(asked.wishes() == DesktopWishes());
+}
+
+void PortalAppearanceSourceTest::aPortalThatNeverAnswersHoldsUpNobody()
+{
+    portal().fallSilent();
+    QElapsedTimer timer;
+    timer.start();
+    PortalAppearanceSource &asked = source();
+    QTRY_COMPARE(portal().questionCount(), 7);
+    QVERIFY(asked.wishes() == DesktopWishes());
+    m_source.reset();
+    QVERIFY2(timer.elapsed() < 3'000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void PortalAppearanceSourceTest::aSilentPortalsChangesAreStillHeard()
+{
+    portal().fallSilent();
+    PortalAppearanceSource &asked = source();
+    QTRY_COMPARE(portal().questionCount(), 7);
+    portal().change(common, scheme, 1U);
+    QTRY_VERIFY(asked.prefersDark());
+}
+
+void PortalAppearanceSourceTest::connectsInTheBackground()
+{
+    const auto stepping = std::make_shared<SteppingDispatcher>();
+    bool isConnected = false;
+    const PortalAppearanceSource asked(stepping, [&isConnected] {
+        isConnected = true;
+        return QDBusConnection(QStringLiteral("no such bus"));
+    });
+    QVERIFY(!isConnected);
+    QCOMPARE(stepping->backgroundCount(), std::size_t(1));
+    stepping->runAll();
+    QVERIFY(isConnected);
+}
+
+void PortalAppearanceSourceTest::mayGoBeforeTheBusIsConnected()
+{
+    portal().set(common, scheme, 1U);
+    const auto stepping = std::make_shared<SteppingDispatcher>();
+    const QDBusConnection bus = m_bus->connection(newName());
+    std::make_unique<PortalAppearanceSource>(stepping, [bus] { return bus; }).reset();
+    stepping->runAll();
+    QTest::qWait(50);
+    QCOMPARE(portal().questionCount(), 0);
+}
+
+void PortalAppearanceSourceTest::doesWithoutAThread()
+{
+    const auto stepping = std::make_shared<SteppingDispatcher>();
+    stepping->refuseBackground();
+    const PortalAppearanceSource asked(stepping);
+    QVERIFY(asked.wishes() == DesktopWishes());
+}
+
+const RegisteredTest<PortalAppearanceSourceTest> registered("PortalAppearanceSource");
+
+} // namespace Loadwick
+
+#include "PortalAppearanceSourceTest.moc"
