@@ -27,6 +27,7 @@ ReportSurface {
     RelativeSizes {
         Layout.fillWidth: true
         files: section.files
+        room: section.width - 2 * AppTheme.cardPadding
     }
     InstructionTier {
         Layout.fillWidth: true

@@ -7,6 +7,13 @@ ColumnLayout {
     id: sizes
 
     required property InstructionFilesPresenter files
+    // The width of the card that holds it. The map's height follows from that and not from what the
+    // layouts make of it: a height that changes while they are at it comes too late for them.
+    required property real room
+    readonly property int readOutWidth: 200
+    // As wide as the page it would be as high as the window, and push everything else away.
+    readonly property real mapWidth: Math.max(0, Math.min(AppTheme.treemapWidth, sizes.room < pair.neededWidth
+        ? sizes.room : sizes.room - pair.columnSpacing - sizes.readOutWidth))
 
     spacing: AppTheme.smallSpace
 
@@ -24,9 +31,8 @@ ColumnLayout {
         visible: sizes.files.hasSizes
 
         ColumnLayout {
-            Layout.fillWidth: true
             Layout.minimumWidth: 400
-            // As wide as the page it would be as high as the window, and push everything else away.
+            Layout.preferredWidth: sizes.mapWidth
             Layout.maximumWidth: AppTheme.treemapWidth
             Layout.alignment: Qt.AlignTop
             spacing: AppTheme.smallSpace
@@ -36,7 +42,7 @@ ColumnLayout {
 
                 objectName: "map"
                 Layout.fillWidth: true
-                Layout.preferredHeight: Math.round(width * 9 / 16)
+                Layout.preferredHeight: Math.round(sizes.mapWidth * 9 / 16)
                 model: sizes.files.tiles
                 colors: AppTheme.chartColors
                 textColor: AppTheme.text
@@ -65,7 +71,7 @@ ColumnLayout {
         TileReadOut {
             objectName: "readOut"
             Layout.fillWidth: true
-            Layout.minimumWidth: 200
+            Layout.minimumWidth: sizes.readOutWidth
             Layout.alignment: Qt.AlignTop
             path: sizes.files.tiles.path(map.currentMark)
             figures: sizes.files.tiles.figures(map.currentMark)

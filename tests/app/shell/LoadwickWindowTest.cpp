@@ -1,8 +1,10 @@
 #include "shell/LoadwickWindow.h"
 
+#include <cmath>
 #include <string>
 
 #include <QAccessible>
+#include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -161,6 +163,29 @@ private Q_SLOTS:
                 m_window->loadwick().content().setPageIndex(page);
                 QVERIFY(!window.grabWindow().isNull());
             }
+        }
+    }
+
+    void theTreemapKeepsItsShapeAtEverySize()
+    {
+        m_window->scanner().answer = [] {
+            return InstructionFileSet{
+                .repositoryFiles = {InstructionFileEstimate::fromPath("/one/CLAUDE.md", 4'000)},
+                .inheritedFiles = {},
+                .personalFiles = {InstructionFileEstimate::fromPath("/two/CLAUDE.md", 9'000)},
+                .unreadablePaths = {}};
+        };
+        scan(m_window->folder().path());
+        QQuickWindow &window = m_window->loadwick().window();
+        for (const QSize size :
+             {QSize(960, 640), QSize(1180, 780), QSize(2560, 1440), QSize(960, 640)}) {
+            window.resize(size);
+            (void)window.grabWindow();
+            const auto *map = window.findChild<QQuickItem *>(QStringLiteral("map"));
+            QVERIFY(map != nullptr && map->width() > 390);
+            QTRY_VERIFY2(
+                std::abs(map->height() - map->width() * 9 / 16) <= 1,
+                qPrintable(QStringLiteral("%1 x %2").arg(map->width()).arg(map->height())));
         }
     }
 

@@ -33,7 +33,7 @@ WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completi
     m_chooser = chooser.get();
     m_loadwick = std::make_unique<LoadwickWindow>(LoadwickWindow::Collaborators{
         .probeRunner = m_probe,
-        .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+        .instructionScanner = m_scanner,
         .historyStore = std::make_unique<ScanHistoryStore>(m_folder.path() / "history"),
         .folderChooser = std::move(chooser),
         .dispatcher = m_dispatcher,

@@ -29,6 +29,7 @@ public:
 
     [[nodiscard]] LoadwickWindow &loadwick() noexcept { return *m_loadwick; }
     [[nodiscard]] FakeProbe &probe() noexcept { return *m_probe; }
+    [[nodiscard]] FakeInstructionScanner &scanner() noexcept { return *m_scanner; }
     [[nodiscard]] FakeFolderChooser &chooser() noexcept { return *m_chooser; }
     [[nodiscard]] const TemporaryFolder &folder() const noexcept { return m_folder; }
 
@@ -49,6 +50,7 @@ public:
 
 private:
     std::shared_ptr<FakeProbe> m_probe = std::make_shared<FakeProbe>();
+    std::shared_ptr<FakeInstructionScanner> m_scanner = std::make_shared<FakeInstructionScanner>();
     std::shared_ptr<SteppingDispatcher> m_dispatcher = std::make_shared<SteppingDispatcher>();
     FakeFolderChooser *m_chooser = nullptr;
     TemporaryFolder m_folder;
