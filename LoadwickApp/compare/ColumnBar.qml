@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
 // One category of a card: its name and its tokens over its bar.
@@ -18,39 +17,32 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.spoken
 
-    ColumnLayout {
-        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
-        spacing: 2
-
-        RowLayout {
-            Layout.fillWidth: true
-            spacing: AppTheme.smallSpace
-
-            PlainLabel {
-                id: name
-                objectName: "category"
-                Layout.fillWidth: true
-                text: row.category
-                font: AppTheme.captionFont
-                secondary: !row.isRecorded
-                elide: Text.ElideMiddle
-                maximumLineCount: 1
-                Accessible.ignored: true
-            }
-            PlainLabel {
-                objectName: "value"
-                text: row.value
-                font: AppTheme.captionStrongFont
-                secondary: !row.isRecorded
-                Accessible.ignored: true
-            }
-        }
-        TokenBar {
-            objectName: "track"
-            Layout.fillWidth: true
-            length: row.length
-            fill: row.bars ? row.bars.fill : "transparent"
-        }
+    PlainLabel {
+        id: name
+        objectName: "category"
+        anchors { left: parent.left; right: figure.left; rightMargin: AppTheme.smallSpace; baseline: figure.baseline }
+        text: row.category
+        font: AppTheme.captionFont
+        secondary: !row.isRecorded
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+        Accessible.ignored: true
+    }
+    PlainLabel {
+        id: figure
+        objectName: "value"
+        anchors { right: parent.right; bottom: track.top; bottomMargin: 2 }
+        text: row.value
+        font: AppTheme.captionStrongFont
+        secondary: !row.isRecorded
+        Accessible.ignored: true
+    }
+    TokenBar {
+        id: track
+        objectName: "track"
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; bottomMargin: AppTheme.tightSpace }
+        length: row.length
+        fill: row.bars ? row.bars.fill : "transparent"
     }
 
     HoverTip { words: name.truncated ? row.category : "" }

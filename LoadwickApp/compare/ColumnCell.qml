@@ -10,11 +10,10 @@ Loader {
     readonly property int across: cell.index % cell.grid.acrossCount
     readonly property real step: cell.grid.cardWidth + cell.grid.gap
     readonly property bool isLast: cell.across === cell.grid.acrossCount - 1
-    readonly property bool isNear: cell.y < cell.grid.shownTop + 2 * cell.grid.shownHeight
-        && cell.y + cell.height > cell.grid.shownTop - cell.grid.shownHeight
+    readonly property bool isNear: cell.index >= cell.grid.firstNear && cell.index < cell.grid.endNear
 
     x: (LayoutMirroring.enabled ? cell.grid.acrossCount - 1 - cell.across : cell.across) * cell.step
-    y: Math.floor(cell.index / cell.grid.acrossCount) * (cell.grid.cardHeight + cell.grid.gap)
+    y: Math.floor(cell.index / cell.grid.acrossCount) * cell.grid.lineStep
     // The last one takes what the others leave of a whole.
     width: cell.isLast ? cell.grid.width - cell.across * cell.step : cell.grid.cardWidth
     height: cell.grid.cardHeight

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
 // A line of the combined chart: a category's name, or a repository's bar within the category.
@@ -32,36 +31,40 @@ Item {
         visible: row.isCategory
         Accessible.ignored: true
     }
-    RowLayout {
-        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
-        spacing: AppTheme.mediumSpace
+    PlainLabel {
+        id: name
+        objectName: "name"
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+        width: row.bars ? row.bars.nameWidth : 0
+        text: row.title
+        font: AppTheme.captionFont
+        secondary: true
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
         visible: !row.isCategory
-
-        PlainLabel {
-            objectName: "name"
-            Layout.preferredWidth: row.bars ? row.bars.nameWidth : 0
-            text: row.title
-            font: AppTheme.captionFont
-            secondary: true
-            elide: Text.ElideMiddle
-            maximumLineCount: 1
-            Accessible.ignored: true
+        Accessible.ignored: true
+    }
+    TokenBar {
+        objectName: "track"
+        anchors {
+            left: name.right; right: figure.left; verticalCenter: parent.verticalCenter
+            leftMargin: AppTheme.mediumSpace; rightMargin: AppTheme.mediumSpace
         }
-        TokenBar {
-            objectName: "track"
-            Layout.fillWidth: true
-            length: row.length
-            fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
-        }
-        PlainLabel {
-            objectName: "value"
-            Layout.preferredWidth: row.bars ? row.bars.valueWidth : 0
-            text: row.value
-            font: AppTheme.captionStrongFont
-            secondary: !row.isRecorded
-            horizontalAlignment: Text.AlignRight
-            Accessible.ignored: true
-        }
+        length: row.length
+        fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
+        visible: !row.isCategory
+    }
+    PlainLabel {
+        id: figure
+        objectName: "value"
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        width: row.bars ? row.bars.valueWidth : 0
+        text: row.value
+        font: AppTheme.captionStrongFont
+        secondary: !row.isRecorded
+        horizontalAlignment: Text.AlignRight
+        visible: !row.isCategory
+        Accessible.ignored: true
     }
 
     HoverTip { words: row.isCategory ? row.title : row.title + "\n" + row.place }

@@ -10,8 +10,8 @@
 namespace Loadwick {
 namespace {
 
-// About four windows full.
-constexpr std::size_t manyBars = 300;
+// About two windows full.
+constexpr std::size_t manyBars = 120;
 
 } // namespace
 
