@@ -47,7 +47,8 @@ std::string grouped(std::int64_t number, const TextLocale &locale)
 
 std::string groupedChange(std::int64_t change, const TextLocale &locale)
 {
-    return (change < 0 ? "" : "+") + grouped(change, locale);
+    const std::string figure = grouped(change, locale);
+    return change < 0 ? figure : std::string(1, '+').append(figure);
 }
 
 std::string oneDecimal(double number)
