@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void aGarbageFileReadsAsFalseAndIsReplaced()
     {
-        write(std::string("\x00\xff[[[\nno preference\n", 22));
+        write(std::string("\x00\xff[[[\nno preference\n", 20));
         QVERIFY(!isCompleted());
         store().setOnboardingCompleted(true);
         QVERIFY(isCompleted());
