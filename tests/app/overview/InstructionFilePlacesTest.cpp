@@ -18,10 +18,10 @@ private Q_SLOTS:
         const auto row = [](const char *name, const char *path, InstructionFileTier::Value tier) {
             QTest::newRow(name) << QString::fromLatin1(path) << static_cast<int>(tier);
         };
-        row("in the repository", "/home/ada/work/app/CLAUDE.md", InstructionFileTier::repository);
-        row("deep in it", "/home/ada/work/app/a/b.md", InstructionFileTier::repository);
-        row("beside it", "/home/ada/work/app2/CLAUDE.md", InstructionFileTier::inherited);
-        row("above it", "/home/ada/work/CLAUDE.md", InstructionFileTier::inherited);
+        row("in the repository", "/home/ada/code/app/CLAUDE.md", InstructionFileTier::repository);
+        row("deep in it", "/home/ada/code/app/a/b.md", InstructionFileTier::repository);
+        row("beside it", "/home/ada/code/app2/CLAUDE.md", InstructionFileTier::inherited);
+        row("above it", "/home/ada/code/CLAUDE.md", InstructionFileTier::inherited);
         row("the user's own", "/home/ada/.claude/CLAUDE.md", InstructionFileTier::personal);
         row("deep among the user's own", "/home/ada/.claude/a/b.md", InstructionFileTier::personal);
         row("a name like it", "/home/ada/.claude.md", InstructionFileTier::inherited);
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void knowWhoseAFileIs()
     {
         QFETCH(const QString, path);
-        const InstructionFilePlaces places("/home/ada/work/app", "/home/ada");
+        const InstructionFilePlaces places("/home/ada/code/app", "/home/ada");
         QTEST(static_cast<int>(places.tierOf(path.toStdString())), "tier");
     }
 

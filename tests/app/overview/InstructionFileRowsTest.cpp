@@ -27,7 +27,7 @@ InstructionFileSet oneFile(std::int64_t byteCount)
 {
     InstructionFileSet files;
     files.repositoryFiles.push_back(
-        InstructionFileEstimate::fromPath("/work/app/docs/CLAUDE.md", byteCount));
+        InstructionFileEstimate::fromPath("/code/app/docs/CLAUDE.md", byteCount));
     return files;
 }
 
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(textOf(rows, Role::Share), QStringLiteral("100.0% of total"));
         QCOMPARE(textOf(rows, Role::Figures), figures);
         QCOMPARE(rows.figures(0), figures);
-        QCOMPARE(textOf(rows, Role::Words), QStringLiteral("/work/app/docs/CLAUDE.md. ") + figures +
+        QCOMPARE(textOf(rows, Role::Words), QStringLiteral("/code/app/docs/CLAUDE.md. ") + figures +
                                                 QStringLiteral(". ") + size + QStringLiteral("."));
     }
 
@@ -128,13 +128,13 @@ private Q_SLOTS:
     {
         InstructionFileRows rows;
         const InstructionFileRows::Context context = contextOf({});
-        rows.show(context, {{.path = "/work/app/CLAUDE.md"}});
-        QCOMPARE(textOf(rows, Role::Path), QStringLiteral("/work/app/CLAUDE.md"));
+        rows.show(context, {{.path = "/code/app/CLAUDE.md"}});
+        QCOMPARE(textOf(rows, Role::Path), QStringLiteral("/code/app/CLAUDE.md"));
         QCOMPARE(textOf(rows, Role::Size), QStringLiteral("Could not be read"));
         for (const Role role : {Role::Tokens, Role::Amount, Role::Share, Role::Figures})
             QCOMPARE(textOf(rows, role), QString());
         QCOMPARE(textOf(rows, Role::Words),
-                 QStringLiteral("/work/app/CLAUDE.md. Could not be read."));
+                 QStringLiteral("/code/app/CLAUDE.md. Could not be read."));
         QVERIFY(!rows.index(0).data(Role::IsReadable).toBool());
         QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 0.0);
     }
@@ -143,7 +143,7 @@ private Q_SLOTS:
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
-        QCOMPARE(rows.path(0), QStringLiteral("/work/app/docs/CLAUDE.md"));
+        QCOMPARE(rows.path(0), QStringLiteral("/code/app/docs/CLAUDE.md"));
         QCOMPARE(textOf(rows, Role::Name), QStringLiteral("CLAUDE.md"));
         QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 100.0);
         rows.show(contextOf({}), {{.path = "bare.md"}});
@@ -166,7 +166,7 @@ private Q_SLOTS:
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
         rows.copyPath(0);
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("/work/app/docs/CLAUDE.md"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("/code/app/docs/CLAUDE.md"));
         QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
         rows.copyPath(1);
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
@@ -179,7 +179,7 @@ private Q_SLOTS:
             const InstructionFileRows::Context context = contextOf(oneFile(400));
             showAll(rows, context);
         }
-        QCOMPARE(rows.path(0), QStringLiteral("/work/app/docs/CLAUDE.md"));
+        QCOMPARE(rows.path(0), QStringLiteral("/code/app/docs/CLAUDE.md"));
     }
 
     void behavesAsAModel()
@@ -200,7 +200,7 @@ private Q_SLOTS:
         InstructionFileSet files;
         for (int file = 0; file < 10'000; ++file)
             files.repositoryFiles.push_back(InstructionFileEstimate::fromPath(
-                "/work/app/docs/guides/" + std::to_string(file) + "/CLAUDE.md", file));
+                "/code/app/docs/guides/" + std::to_string(file) + "/CLAUDE.md", file));
         const InstructionFileRows::Context context = contextOf(std::move(files));
         InstructionFileRows rows;
         QElapsedTimer timer;
