@@ -70,3 +70,12 @@ set_tests_properties(app/lint-plain-text app/lint-plain-text-finds-markup
                      PROPERTIES LABELS app TIMEOUT 60)
 set_tests_properties(app/lint-plain-text-finds-markup PROPERTIES PASS_REGULAR_EXPRESSION
     ":5: [^\n]*Button[^\n]*\n[^\n]*:6: [^\n]*MenuItem[^\n]*\n[^\n]*:7: Label[^\n]*\n[^\n]*:8: Text [^\n]*\n[^\n]*:9: [^\n]*PlainToolTip")
+
+set(check "${PROJECT_SOURCE_DIR}/tools/checks/translated-text")
+add_test(NAME app/lint-translated-text COMMAND "${check}")
+add_test(NAME app/lint-translated-text-finds-others
+         COMMAND "${check}" "${CMAKE_CURRENT_SOURCE_DIR}/fixtures/untranslated")
+set_tests_properties(app/lint-translated-text app/lint-translated-text-finds-others
+                     PROPERTIES LABELS app TIMEOUT 60)
+set_tests_properties(app/lint-translated-text-finds-others PROPERTIES PASS_REGULAR_EXPRESSION
+    "cpp:4: [^\n]*scans[^\n]*\n[^\n]*cpp:5: [^\n]*Duration[^\n]*\n[^\n]*qml:6: [^\n]*Tokens[^\n]*\n[^\n]*qml:8: [^\n]*scans[^\n]*\n[^\n]*qml:11: [^\n]*Shown[^\n]*\n[^\n]*qml:12: [^\n]*Hidden[^\n]*\n$")

@@ -17,7 +17,7 @@ RowLayout {
         secondary: true
     }
     PlainLabel {
-        text: "tokens"
+        text: qsTr("tokens")
         font: AppTheme.captionFont
         secondary: true
     }

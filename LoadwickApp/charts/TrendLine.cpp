@@ -22,8 +22,8 @@ QString TrendLine::date(std::size_t place) const
 
 QString TrendLine::total(std::size_t place) const
 {
-    return qtText(NumberText::grouped(m_geometry.samples().at(place).total, m_locale)) +
-           QStringLiteral(" tokens");
+    return tr("%1 tokens")
+        .arg(qtText(NumberText::grouped(m_geometry.samples().at(place).total, m_locale)));
 }
 
 } // namespace Loadwick

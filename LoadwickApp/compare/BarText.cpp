@@ -1,5 +1,7 @@
 #include "compare/BarText.h"
 
+#include <QCoreApplication>
+
 #include "report/NumberText.h"
 #include "shell/QtText.h"
 
@@ -12,9 +14,9 @@ QString value(std::optional<std::int64_t> tokens, const TextLocale &locale)
 
 QString spoken(const QString &name, std::optional<std::int64_t> tokens, const TextLocale &locale)
 {
-    return name + QStringLiteral(": ") +
-           (tokens ? value(tokens, locale) + QStringLiteral(" tokens")
-                   : QStringLiteral("not recorded"));
+    return tokens ? QCoreApplication::translate("BarText", "%1: %2 tokens")
+                        .arg(name, value(tokens, locale))
+                  : QCoreApplication::translate("BarText", "%1: not recorded").arg(name);
 }
 
 } // namespace Loadwick::BarText

@@ -36,7 +36,7 @@ QString ColumnPresenter::scanned() const
 {
     if (!m_comparison)
         return {};
-    return QStringLiteral("Scanned ") + qtText(DateText::day(scan().date, m_locale));
+    return tr("Scanned %1").arg(qtText(DateText::day(scan().date, m_locale)));
 }
 
 QString ColumnPresenter::total() const
@@ -60,15 +60,15 @@ QString ColumnPresenter::bandText() const
 QString ColumnPresenter::emptyText() const
 {
     const bool isEmpty = m_comparison && !m_comparison->bars.hasBars(m_column);
-    return isEmpty ? QStringLiteral("No category estimates") : QString();
+    return isEmpty ? tr("No category estimates") : QString();
 }
 
 QString ColumnPresenter::chartName() const
 {
     if (!m_comparison)
         return {};
-    return name() + QStringLiteral(": tokens by category, on a scale from 0 to ") +
-           qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale));
+    return tr("%1: tokens by category, on a scale from 0 to %2")
+        .arg(name(), qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale)));
 }
 
 // A scan without categories has no bars to list, although the axis has rows.

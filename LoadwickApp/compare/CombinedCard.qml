@@ -14,13 +14,13 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Category for category"
-        detail: "Same categories, every recorded repository, on one axis. Totals are authoritative; the category splits are local estimates."
+        title: qsTr("Category for category")
+        detail: qsTr("Same categories, every recorded repository, on one axis. Totals are authoritative; the category splits are local estimates.")
     }
     CombinedList {
         objectName: "combined"
         Layout.fillWidth: true
-        Accessible.name: "Category for category"
+        Accessible.name: qsTr("Category for category")
         model: card.compare.combined
         viewport: card.viewport
         rowHeight: 24
@@ -29,7 +29,7 @@ ReportSurface {
         valueWidth: card.valueWidth
     }
     PlainLabel {
-        text: "No category estimates"
+        text: qsTr("No category estimates")
         secondary: true
         visible: card.compare.categoryCount === 0
     }
@@ -44,7 +44,7 @@ ReportSurface {
     Hairline { Layout.fillWidth: true }
     CollapsibleSection {
         Layout.fillWidth: true
-        title: "How to read this"
+        title: qsTr("How to read this")
 
         Repeater {
             model: card.compare.reading

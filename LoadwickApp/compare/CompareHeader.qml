@@ -2,6 +2,6 @@ import QtQuick
 import Loadwick
 
 PageHeader {
-    title: "Compare"
-    detail: "The latest recorded scan of each repository, side by side, category for category."
+    title: qsTr("Compare")
+    detail: qsTr("The latest recorded scan of each repository, side by side, category for category.")
 }

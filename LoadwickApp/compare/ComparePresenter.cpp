@@ -51,15 +51,15 @@ QString ComparePresenter::scaleEnd() const
 QStringList ComparePresenter::reading() const
 {
     return {
-        QStringLiteral("One bar is one category of one repository's latest recorded scan. Its "
-                       "length is the category's tokens; all bars share one scale."),
-        QStringLiteral("The categories stand heaviest first, by their tokens in all repositories "
-                       "together. Within each, the repositories keep one order and one colour; "
-                       "after five, the colours start again."),
-        QStringLiteral("A missing bar, with a dash for its figure, means that the category was not "
-                       "recorded for that repository. A category recorded with no tokens says 0."),
-        QStringLiteral("Totals are authoritative, as reported by Claude. The category splits are "
-                       "local estimates."),
+        tr("One bar is one category of one repository's latest recorded scan. Its "
+           "length is the category's tokens; all bars share one scale."),
+        tr("The categories stand heaviest first, by their tokens in all repositories "
+           "together. Within each, the repositories keep one order and one colour; "
+           "after five, the colours start again."),
+        tr("A missing bar, with a dash for its figure, means that the category was not "
+           "recorded for that repository. A category recorded with no tokens says 0."),
+        tr("Totals are authoritative, as reported by Claude. The category splits are "
+           "local estimates."),
     };
 }
 
@@ -81,17 +81,17 @@ void ComparePresenter::showHistory()
 void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)
 {
     if (columns.empty()) {
-        m_emptyTitle = QStringLiteral("No recorded scans yet");
-        m_emptyText = QStringLiteral(
-            "Scan two repositories and their latest results appear here side by side.");
+        m_emptyTitle = tr("No recorded scans yet");
+        m_emptyText =
+            tr("Scan two repositories and their latest results appear here side by side.");
         return;
     }
     const RecordedScan &latest = columns.front();
-    m_emptyTitle = QStringLiteral("Only one repository recorded");
-    m_emptyText = qtText(latest.repositoryName) + QStringLiteral(" measured ") +
-                  qtText(NumberText::grouped(latest.total, m_locale)) +
-                  QStringLiteral(" tokens. Choose a second repository and scan it to compare the "
-                                 "two.");
+    m_emptyTitle = tr("Only one repository recorded");
+    m_emptyText =
+        tr("%1 measured %2 tokens. Choose a second repository and scan it to compare the two.")
+            .arg(qtText(latest.repositoryName),
+                 qtText(NumberText::grouped(latest.total, m_locale)));
 }
 
 // Cards are kept and shown anew rather than replaced: what is on the page stays where it is.

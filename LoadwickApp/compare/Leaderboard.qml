@@ -11,13 +11,13 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Leaderboard"
-        detail: "Every scanned repository, ranked by its latest recorded total — heaviest first. The trend compares each repository's two most recent scans."
+        title: qsTr("Leaderboard")
+        detail: qsTr("Every scanned repository, ranked by its latest recorded total — heaviest first. The trend compares each repository's two most recent scans.")
     }
     LongList {
         objectName: "leaderboard"
         Layout.fillWidth: true
-        Accessible.name: "Leaderboard"
+        Accessible.name: qsTr("Leaderboard")
         model: card.compare.leaderboard
         viewport: card.viewport
         rowHeight: AppTheme.listRowHeight

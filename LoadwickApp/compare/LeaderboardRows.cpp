@@ -11,8 +11,8 @@ namespace {
 
 QString scanCountText(std::int64_t count)
 {
-    return QString::number(count) +
-           (count == 1 ? QStringLiteral(" scan") : QStringLiteral(" scans"));
+    return (count == 1 ? LeaderboardRows::tr("%1 scan") : LeaderboardRows::tr("%1 scans"))
+        .arg(count);
 }
 
 TrendMark markOf(const LeaderboardEntry &entry, const TextLocale &locale)

@@ -24,7 +24,7 @@ ColumnLayout {
         hoverEnabled: true
         Accessible.role: Accessible.Button
         Accessible.name: section.title
-        Accessible.description: section.isExpanded ? "Expanded" : "Collapsed"
+        Accessible.description: section.isExpanded ? qsTr("Expanded") : qsTr("Collapsed")
         Keys.onReturnPressed: head.clicked()
         Keys.onEnterPressed: head.clicked()
         onClicked: section.isExpanded = !section.isExpanded

@@ -41,7 +41,7 @@ ColumnLayout {
             id: cancel
 
             objectName: "cancel"
-            title: "Cancel"
+            title: qsTr("Cancel")
             outlined: true
             onClicked: confirmation.cancelled()
         }

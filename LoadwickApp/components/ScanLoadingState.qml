@@ -8,12 +8,12 @@ StatePlaceholder {
 
     symbol: "arrow.triangle.2.circlepath"
     tint: AppTheme.accent
-    title: "Scanning repository"
+    title: qsTr("Scanning repository")
     turning: true
 
     PlainLabel {
         Layout.fillWidth: true
-        text: "Running one real Claude Code session and measuring local instruction files."
+        text: qsTr("Running one real Claude Code session and measuring local instruction files.")
         secondary: true
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap

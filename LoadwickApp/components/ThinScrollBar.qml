@@ -10,7 +10,7 @@ ScrollBar {
     minimumSize: 0.08
     padding: 2
     hoverEnabled: true
-    Accessible.name: "Scroll position"
+    Accessible.name: qsTr("Scroll position")
 
     contentItem: Rectangle {
         implicitWidth: 6

@@ -18,7 +18,7 @@ QString signedText(std::int64_t delta, const TextLocale &locale)
 TrendMark TrendMark::of(std::optional<TrendDirection> trend, std::optional<std::int64_t> delta,
                         const TextLocale &locale)
 {
-    const TrendMark first{TrendKind::FirstScan, QStringLiteral("First scan"), {}};
+    const TrendMark first{TrendKind::FirstScan, tr("First scan"), {}};
     if (!trend || !delta)
         return first;
     switch (*trend) {

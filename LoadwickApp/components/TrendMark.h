@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "components/TrendKind.h"
@@ -23,6 +24,8 @@ struct TrendMark
                                       std::optional<std::int64_t> delta, const TextLocale &locale);
 
     friend bool operator==(const TrendMark &, const TrendMark &) = default;
+
+    Q_DECLARE_TR_FUNCTIONS(TrendMark)
 };
 
 } // namespace Loadwick

@@ -27,7 +27,7 @@ ReportSurface {
     }
     CollapsibleSection {
         Layout.fillWidth: true
-        title: "Why these bands?"
+        title: qsTr("Why these bands?")
         // An aside, not a section of its own.
         titleFont: AppTheme.subheadlineStrongFont
 

@@ -21,9 +21,10 @@ QString scaleEnd(const ScanReport &report, const TextLocale &locale)
 
 QString sentence(const ScanReport &report, const TextLocale &locale)
 {
-    return QStringLiteral("The total measured by Claude is ") + grouped(report.total, locale) +
-           QStringLiteral(" tokens, which falls in the ") + qtText(report.band.title()) +
-           QStringLiteral(" band (") + qtText(report.band.range(locale)) + QStringLiteral(").");
+    return BandTexts::tr(
+               "The total measured by Claude is %1 tokens, which falls in the %2 band (%3).")
+        .arg(grouped(report.total, locale), qtText(report.band.title()),
+             qtText(report.band.range(locale)));
 }
 
 QStringList bands()
@@ -39,10 +40,9 @@ QString meterSummary(const ScanReport &report, const TextLocale &locale)
     QStringList ranges;
     for (const OpinionBand band : OpinionBand::all)
         ranges.append(qtText(band.title()) + QLatin1Char(' ') + qtText(band.range(locale)));
-    return QStringLiteral("Band meter from 0 to ") + scaleEnd(report, locale) +
-           QStringLiteral(" tokens: ") + grouped(report.total, locale) +
-           QStringLiteral(" tokens are ") + qtText(report.band.title()) + QStringLiteral(". ") +
-           ranges.join(QStringLiteral(", ")) + QLatin1Char('.');
+    return BandTexts::tr("Band meter from 0 to %1 tokens: %2 tokens are %3. %4.")
+        .arg(scaleEnd(report, locale), grouped(report.total, locale), qtText(report.band.title()),
+             ranges.join(QStringLiteral(", ")));
 }
 
 QString score(const ScanReport &report, const TextLocale &locale)
@@ -52,15 +52,14 @@ QString score(const ScanReport &report, const TextLocale &locale)
 
 QString scoreDetail(const ScanReport &report, const TextLocale &locale)
 {
-    return score(report, locale) + QStringLiteral(" of 100 — how much of the ") +
-           scaleEnd(report, locale) + QStringLiteral("-token band scale is still free.");
+    return BandTexts::tr("%1 of 100 — how much of the %2-token band scale is still free.")
+        .arg(score(report, locale), scaleEnd(report, locale));
 }
 
 QString scoreCaption(const ScanReport &report)
 {
-    return QStringLiteral("Derived from the ") + qtText(report.band.title()) +
-           QStringLiteral(" band position of the Claude-reported total. ") +
-           qtText(OpinionBand::opinionNote);
+    return BandTexts::tr("Derived from the %1 band position of the Claude-reported total. %2")
+        .arg(qtText(report.band.title()), qtText(OpinionBand::opinionNote));
 }
 
 } // namespace
@@ -68,15 +67,14 @@ QString scoreCaption(const ScanReport &report)
 BandTexts BandTexts::fromReport(const ScanReport &report, const TextLocale &locale)
 {
     return {
-        .title = qtText(report.band.title()) + QStringLiteral(" startup context"),
+        .title = tr("%1 startup context").arg(qtText(report.band.title())),
         .sentence = Loadwick::sentence(report, locale),
         .total = grouped(report.total, locale),
         .bands = Loadwick::bands(),
         .meterSummary = Loadwick::meterSummary(report, locale),
         .anchorNote = qtText(OpinionBand::anchorNote),
         .score = Loadwick::score(report, locale),
-        .scoreSummary =
-            QStringLiteral("Illustrative score %1 of 100").arg(Loadwick::score(report, locale)),
+        .scoreSummary = tr("Illustrative score %1 of 100").arg(Loadwick::score(report, locale)),
         .scoreDetail = Loadwick::scoreDetail(report, locale),
         .scoreCaption = Loadwick::scoreCaption(report),
     };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -24,6 +25,8 @@ struct BandTexts
     QString scoreCaption; ///< says what the score is derived from
 
     [[nodiscard]] static BandTexts fromReport(const ScanReport &report, const TextLocale &locale);
+
+    Q_DECLARE_TR_FUNCTIONS(BandTexts)
 };
 
 } // namespace Loadwick

@@ -71,7 +71,7 @@ RowLayout {
             PlainLabel {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignHCenter
-                text: "tokens"
+                text: qsTr("tokens")
                 secondary: true
             }
         }

@@ -53,24 +53,24 @@ void BreakdownPresenter::show(const ScanReport &report)
 
 QString BreakdownPresenter::noSlicesText()
 {
-    return QStringLiteral("The attributed category rows report no tokens to chart.");
+    return tr("The attributed category rows report no tokens to chart.");
 }
 
 QString BreakdownPresenter::unreportedTitle()
 {
-    return QStringLiteral("This session did not report category rows.");
+    return tr("This session did not report category rows.");
 }
 
 QString BreakdownPresenter::unreportedText()
 {
-    return QStringLiteral("Claude did not self-report categories for this session. The total and "
-                          "band remain factual; instruction files are listed separately as local "
-                          "estimates.");
+    return tr("Claude did not self-report categories for this session. The total and "
+              "band remain factual; instruction files are listed separately as local "
+              "estimates.");
 }
 
 QString BreakdownPresenter::readOutHint()
 {
-    return QStringLiteral("Hover a segment for its share.");
+    return tr("Hover a segment for its share.");
 }
 
 QString BreakdownPresenter::readOutTitle(int row) const
@@ -82,9 +82,8 @@ QString BreakdownPresenter::readOutTitle(int row) const
 QString BreakdownPresenter::readOutDetail(int row) const
 {
     const SlabAttribution *found = at(row);
-    return found != nullptr
-               ? m_rows.tokens(*found) + QStringLiteral(" tokens · ") + m_rows.share(*found)
-               : QString();
+    return found != nullptr ? tr("%1 tokens · %2").arg(m_rows.tokens(*found), m_rows.share(*found))
+                            : QString();
 }
 
 QString BreakdownPresenter::readOutSentence(int row) const
@@ -112,11 +111,11 @@ QString BreakdownPresenter::summaryOfChart() const
     if (!m_hasSlices)
         return noSlicesText();
     const auto largest = std::ranges::max_element(rows, {}, &SlabAttribution::tokens);
-    return QStringLiteral("Donut chart of the breakdown by category, ") + m_total +
-           QStringLiteral(" tokens in all. The largest of ") +
-           qtText(NumberText::grouped(static_cast<std::int64_t>(rows.size()), m_locale)) +
-           QStringLiteral(": ") + m_rows.name(*largest) + QStringLiteral(", ") +
-           m_rows.tokens(*largest) + QStringLiteral(" tokens, ") + m_rows.share(*largest);
+    const auto count = static_cast<std::int64_t>(rows.size());
+    return tr("Donut chart of the breakdown by category, %1 tokens in all. "
+              "The largest of %2: %3, %4 tokens, %5")
+        .arg(m_total, qtText(NumberText::grouped(count, m_locale)), m_rows.name(*largest),
+             m_rows.tokens(*largest), m_rows.share(*largest));
 }
 
 } // namespace Loadwick

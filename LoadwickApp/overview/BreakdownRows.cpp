@@ -37,8 +37,8 @@ QString BreakdownRows::share(const SlabAttribution &row) const
 
 QString BreakdownRows::sentence(const SlabAttribution &row) const
 {
-    return name(row) + QStringLiteral(", ") + tokens(row) + QStringLiteral(" tokens, ") +
-           share(row) + QStringLiteral(", ") + qtText(row.provenance.sourceLabel());
+    return tr("%1, %2 tokens, %3, %4")
+        .arg(name(row), tokens(row), share(row), qtText(row.provenance.sourceLabel()));
 }
 
 int BreakdownRows::rowCount(const QModelIndex &parent) const

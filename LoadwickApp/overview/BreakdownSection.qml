@@ -11,8 +11,8 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Estimated breakdown by category"
-        detail: "Shares use the Claude-reported total; category rows are estimates."
+        title: qsTr("Estimated breakdown by category")
+        detail: qsTr("Shares use the Claude-reported total; category rows are estimates.")
     }
     RowLayout {
         objectName: "unreported"

@@ -17,10 +17,10 @@ ColumnLayout {
         id: headings
 
         Layout.fillWidth: true
-        category: "Category"
-        tokens: "Tokens"
-        share: "Share"
-        source: "Source"
+        category: qsTr("Category")
+        tokens: qsTr("Tokens")
+        share: qsTr("Share")
+        source: qsTr("Source")
         heading: true
     }
     Hairline { Layout.fillWidth: true }
@@ -33,7 +33,7 @@ ColumnLayout {
         viewport: table.viewport
         rowHeight: headings.rowHeight
         markedIndex: table.markedRow
-        Accessible.name: "Estimated breakdown by category"
+        Accessible.name: qsTr("Estimated breakdown by category")
         onCopyRequested: index => table.breakdown.copyRow(index)
 
         delegate: Item {

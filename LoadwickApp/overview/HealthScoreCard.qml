@@ -25,11 +25,11 @@ ReportSurface {
 
             SectionHeader {
                 Layout.fillWidth: true
-                title: "Context headroom"
+                title: qsTr("Context headroom")
                 detail: card.band.scoreDetail
             }
             TintPill {
-                label: "Illustrative score — not a measurement"
+                label: qsTr("Illustrative score — not a measurement")
                 tint: AppTheme.bandTexts[card.band.band]
             }
             PlainLabel {

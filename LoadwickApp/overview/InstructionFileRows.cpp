@@ -19,7 +19,7 @@ QString nameOf(std::string_view path)
 
 QVariant unreadableData(std::string_view path, int role)
 {
-    const QString words = QStringLiteral("Could not be read");
+    const QString words = InstructionFileRows::tr("Could not be read");
     switch (role) {
     case InstructionFileRows::Size:
         return words;
@@ -28,7 +28,7 @@ QVariant unreadableData(std::string_view path, int role)
     case InstructionFileRows::IsReadable:
         return false;
     case InstructionFileRows::Words:
-        return QVariant(qtText(path) + QStringLiteral(". ") + words + QStringLiteral("."));
+        return InstructionFileRows::tr("%1. %2.").arg(qtText(path), words);
     default:
         return QString();
     }
@@ -87,27 +87,25 @@ QVariant InstructionFileRows::readableData(const InstructionFileEstimate &file, 
     const auto share = [&] { return ShareText::ofTotal(file.estimatedTokens, m_context.total); };
     switch (role) {
     case Size:
-        return QVariant(grouped(file.byteCount) +
-                        QStringLiteral(" bytes on disk · local estimate at 4 bytes/token"));
+        return tr("%1 bytes on disk · local estimate at 4 bytes/token")
+            .arg(grouped(file.byteCount));
     case Tokens:
         return grouped(file.estimatedTokens);
     case Amount:
-        return QVariant(grouped(file.estimatedTokens) + (file.estimatedTokens == 1
-                                                             ? QStringLiteral(" token")
-                                                             : QStringLiteral(" tokens")));
+        return (file.estimatedTokens == 1 ? tr("%1 token") : tr("%1 tokens"))
+            .arg(grouped(file.estimatedTokens));
     case Share:
         return share();
     case Figures:
-        return QVariant(grouped(file.estimatedTokens) + QStringLiteral(" estimated tokens · ") +
-                        share());
+        return tr("%1 estimated tokens · %2").arg(grouped(file.estimatedTokens), share());
     case Weight:
         return static_cast<double>(file.estimatedTokens);
     case IsReadable:
         return true;
     case Words:
-        return QVariant(qtText(file.path) + QStringLiteral(". ") +
-                        readableData(file, Figures).toString() + QStringLiteral(". ") +
-                        readableData(file, Size).toString() + QStringLiteral("."));
+        return tr("%1. %2. %3.")
+            .arg(qtText(file.path), readableData(file, Figures).toString(),
+                 readableData(file, Size).toString());
     default:
         return {};
     }

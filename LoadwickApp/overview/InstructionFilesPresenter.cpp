@@ -21,9 +21,9 @@ std::int64_t tokensOf(const std::vector<ListedFile> &files)
 QString countOf(std::size_t files, const TextLocale &locale)
 {
     if (files == 1)
-        return QStringLiteral("1 instruction file");
-    return qtText(NumberText::grouped(static_cast<std::int64_t>(files), locale)) +
-           QStringLiteral(" instruction files");
+        return InstructionFilesPresenter::tr("1 instruction file");
+    return InstructionFilesPresenter::tr("%1 instruction files")
+        .arg(qtText(NumberText::grouped(static_cast<std::int64_t>(files), locale)));
 }
 
 int placeOfLargest(const std::vector<ListedFile> &files)
@@ -59,33 +59,33 @@ void InstructionFilesPresenter::show(const ScanReport &report)
 
 QString InstructionFilesPresenter::title()
 {
-    return QStringLiteral("All instruction files");
+    return tr("All instruction files");
 }
 
 QString InstructionFilesPresenter::detail()
 {
-    return QStringLiteral("Grouped by where Claude Code loads them. Their contents are never "
-                          "displayed or persisted.");
+    return tr("Grouped by where Claude Code loads them. Their contents are never "
+              "displayed or persisted.");
 }
 
 QString InstructionFilesPresenter::sizeTitle()
 {
-    return QStringLiteral("Relative size");
+    return tr("Relative size");
 }
 
 QString InstructionFilesPresenter::sizeHint()
 {
-    return QStringLiteral("Hover a tile for its path and share.");
+    return tr("Hover a tile for its path and share.");
 }
 
 QString InstructionFilesPresenter::sizeCaption()
 {
-    return QStringLiteral("Tile sizes use estimated token counts.");
+    return tr("Tile sizes use estimated token counts.");
 }
 
 QString InstructionFilesPresenter::noSizesText()
 {
-    return QStringLiteral("The instruction files have no estimated tokens to compare.");
+    return tr("The instruction files have no estimated tokens to compare.");
 }
 
 QString InstructionFilesPresenter::repositoryTitle()
@@ -105,13 +105,13 @@ QString InstructionFilesPresenter::personalTitle()
 
 QString InstructionFilesPresenter::emptyTierText()
 {
-    return QStringLiteral("No files found in this tier.");
+    return tr("No files found in this tier.");
 }
 
 QString InstructionFilesPresenter::shareCaption()
 {
-    return QStringLiteral("Share is calculated against the authoritative total reported by "
-                          "Claude.");
+    return tr("Share is calculated against the authoritative total reported by "
+              "Claude.");
 }
 
 void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &context)
@@ -122,11 +122,10 @@ void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &co
     if (tokens == 0)
         return;
     const int largest = placeOfLargest(m_tiles.rows());
-    m_sizeSummary = QStringLiteral("Relative size of ") + countOf(m_tiles.rows().size(), m_locale) +
-                    QStringLiteral(", ") + qtText(NumberText::grouped(tokens, m_locale)) +
-                    QStringLiteral(" estimated tokens together. The largest: ") +
-                    m_tiles.path(largest) + QStringLiteral(", ") + m_tiles.figures(largest) +
-                    QStringLiteral(".");
+    m_sizeSummary = tr("Relative size of %1, %2 estimated tokens together. The largest: %3, %4.")
+                        .arg(countOf(m_tiles.rows().size(), m_locale),
+                             qtText(NumberText::grouped(tokens, m_locale)), m_tiles.path(largest),
+                             m_tiles.figures(largest));
 }
 
 } // namespace Loadwick

@@ -18,33 +18,33 @@ void LargestFilesPresenter::show(const ScanReport &report)
 
 QString LargestFilesPresenter::title()
 {
-    return QStringLiteral("Largest instruction files");
+    return tr("Largest instruction files");
 }
 
 QString LargestFilesPresenter::detail()
 {
-    return QStringLiteral("The top five by local estimate; every file is listed in the section "
-                          "above.");
+    return tr("The top five by local estimate; every file is listed in the section "
+              "above.");
 }
 
 QString LargestFilesPresenter::fileHeader()
 {
-    return QStringLiteral("File");
+    return tr("File");
 }
 
 QString LargestFilesPresenter::tokensHeader()
 {
-    return QStringLiteral("Tokens");
+    return tr("Tokens");
 }
 
 QString LargestFilesPresenter::shareHeader()
 {
-    return QStringLiteral("% of total");
+    return tr("% of total");
 }
 
 QString LargestFilesPresenter::emptyText()
 {
-    return QStringLiteral("No instruction files were found for this scan.");
+    return tr("No instruction files were found for this scan.");
 }
 
 } // namespace Loadwick

@@ -18,8 +18,8 @@ PageColumn {
 
             PageHeader {
                 Layout.fillWidth: true
-                title: "Overview"
-                detail: "Everything this Claude Code startup-context scan measured."
+                title: qsTr("Overview")
+                detail: qsTr("Everything this Claude Code startup-context scan measured.")
             }
             SelectableText {
                 Layout.fillWidth: true
@@ -32,7 +32,7 @@ PageColumn {
         StatusPill {
             Layout.alignment: Qt.AlignTop
             Layout.topMargin: AppTheme.smallSpace
-            title: "Scan complete"
+            title: qsTr("Scan complete")
             symbol: "checkmark.circle.fill"
             tint: AppTheme.bandLeanText
         }

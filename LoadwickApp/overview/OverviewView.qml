@@ -12,8 +12,8 @@ Item {
 
     ScanEmptyState {
         anchors.fill: parent
-        title: "Start a context scan"
-        detail: "Choose a local repository, then run one Claude Code probe."
+        title: qsTr("Start a context scan")
+        detail: qsTr("Choose a local repository, then run one Claude Code probe.")
         note: page.disclosure
         visible: page.overview.state === OverviewPresenter.Empty
     }

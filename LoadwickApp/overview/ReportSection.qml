@@ -10,14 +10,14 @@ ReportSurface {
 
     PushButton {
         Layout.alignment: Qt.AlignRight
-        title: "Copy Summary"
+        title: qsTr("Copy Summary")
         symbol: "doc.on.doc"
         outlined: true
         onClicked: section.overview.copySummary()
     }
     CollapsibleSection {
         Layout.fillWidth: true
-        title: "Session details"
+        title: qsTr("Session details")
 
         SessionDetails {
             Layout.fillWidth: true
@@ -27,8 +27,8 @@ ReportSurface {
     Hairline { Layout.fillWidth: true }
     CollapsibleSection {
         Layout.fillWidth: true
-        title: "Full report"
-        detail: "A factual, copyable summary of this one Claude Code startup-context scan."
+        title: qsTr("Full report")
+        detail: qsTr("A factual, copyable summary of this one Claude Code startup-context scan.")
 
         SelectableText {
             Layout.fillWidth: true

@@ -9,11 +9,11 @@ namespace {
 QList<QStringList> details(const ScanReport &report)
 {
     return {
-        {QStringLiteral("Repository path"), qtText(report.repositoryPath)},
-        {QStringLiteral("Claude executable"), qtText(report.resolvedCLIPath)},
-        {QStringLiteral("Session ID"), qtText(report.sessionID)},
-        {QStringLiteral("Duration"),
-         qtText(NumberText::oneDecimal(report.duration)) + QStringLiteral(" seconds")},
+        {ReportTexts::tr("Repository path"), qtText(report.repositoryPath)},
+        {ReportTexts::tr("Claude executable"), qtText(report.resolvedCLIPath)},
+        {ReportTexts::tr("Session ID"), qtText(report.sessionID)},
+        {ReportTexts::tr("Duration"),
+         ReportTexts::tr("%1 seconds").arg(qtText(NumberText::oneDecimal(report.duration)))},
     };
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -18,6 +18,8 @@ struct ReportTexts
     QString summary;            ///< what "Copy Summary" copies
 
     [[nodiscard]] static ReportTexts fromReport(const ScanReport &report, const TextLocale &locale);
+
+    Q_DECLARE_TR_FUNCTIONS(ReportTexts)
 };
 
 } // namespace Loadwick

@@ -45,7 +45,7 @@ Item {
     }
     PlainLabel {
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
-        text: "Score"
+        text: qsTr("Score")
         font: AppTheme.captionFont
         secondary: true
         Accessible.ignored: true

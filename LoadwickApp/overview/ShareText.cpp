@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
+
 #include "report/NumberText.h"
 #include "shell/QtText.h"
 
@@ -24,7 +26,7 @@ QString percent(std::int64_t tokens, std::int64_t total)
 
 QString ofTotal(std::int64_t tokens, std::int64_t total)
 {
-    return percent(tokens, total) + QStringLiteral(" of total");
+    return QCoreApplication::translate("ShareText", "%1 of total").arg(percent(tokens, total));
 }
 
 } // namespace Loadwick::ShareText

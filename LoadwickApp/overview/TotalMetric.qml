@@ -20,13 +20,13 @@ ColumnLayout {
         }
         PlainLabel {
             Layout.alignment: Qt.AlignBaseline
-            text: "tokens"
+            text: qsTr("tokens")
             font: AppTheme.title3Font
             secondary: true
         }
     }
     PlainLabel {
-        text: "Authoritative · measured by Claude"
+        text: qsTr("Authoritative · measured by Claude")
         font: AppTheme.subheadlineFont
         secondary: true
     }

@@ -10,12 +10,12 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Weekly usage"
-        detail: "Supporting context from the local weekly KPI log."
+        title: qsTr("Weekly usage")
+        detail: qsTr("Supporting context from the local weekly KPI log.")
     }
     PlainLabel {
         Layout.fillWidth: true
-        text: "No weekly KPI line is available locally."
+        text: qsTr("No weekly KPI line is available locally.")
         secondary: true
         wrapMode: Text.Wrap
         visible: !card.weekly.hasLine
@@ -26,13 +26,13 @@ ReportSurface {
 
         MetricTile {
             Layout.fillWidth: true
-            title: "Median tokens/session"
+            title: qsTr("Median tokens/session")
             value: card.weekly.median
             caption: card.weekly.medianCaption
         }
         MetricTile {
             Layout.fillWidth: true
-            title: "Tokens/PR"
+            title: qsTr("Tokens/PR")
             value: card.weekly.tokensPerPR
             caption: card.weekly.tokensPerPRCaption
         }

@@ -50,23 +50,22 @@ void WeeklyPresenter::show(const std::optional<WeeklyKPILine> &line)
     m_window.clear();
     m_recorded.clear();
     if (m_hasLine) {
-        m_window = QStringLiteral("Window: ") + qtText(line->windowStart) + QStringLiteral(" – ") +
-                   qtText(line->windowEnd);
-        m_recorded = QStringLiteral("Recorded: ") + qtText(line->timestamp);
+        m_window = tr("Window: %1 – %2").arg(qtText(line->windowStart), qtText(line->windowEnd));
+        m_recorded = tr("Recorded: %1").arg(qtText(line->timestamp));
     }
     Q_EMIT changed();
 }
 
 QString WeeklyPresenter::targets() const
 {
-    return QStringLiteral("Targets: ") + qtText(WeeklyKPIReader::targetsSource);
+    return tr("Targets: %1").arg(qtText(WeeklyKPIReader::targetsSource));
 }
 
 WeeklyPresenter::Figure WeeklyPresenter::figure(std::int64_t tokens, std::int64_t delta) const
 {
     return {.value = qtText(NumberText::grouped(tokens, m_locale)),
-            .caption = qtText(NumberText::groupedChange(delta, m_locale)) +
-                       QStringLiteral(" versus target")};
+            .caption =
+                tr("%1 versus target").arg(qtText(NumberText::groupedChange(delta, m_locale)))};
 }
 
 } // namespace Loadwick

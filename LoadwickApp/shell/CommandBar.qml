@@ -15,7 +15,7 @@ Item {
         spacing: AppTheme.smallSpace
 
         PushButton {
-            title: "Choose Repository…"
+            title: qsTr("Choose Repository…")
             symbol: "folder"
             shortcut: "Ctrl+O"
             enabled: bar.content.canChoose

@@ -50,14 +50,14 @@ bool ContentPresenter::hasRepository() const
 QString ContentPresenter::repositoryName() const
 {
     const auto &selection = m_model.selection().get();
-    return selection ? qtText(selection->displayName) : QStringLiteral("No repository selected");
+    return selection ? qtText(selection->displayName) : tr("No repository selected");
 }
 
 QString ContentPresenter::repositoryDetail() const
 {
     const auto &selection = m_model.selection().get();
     return selection ? qtText(selection->path())
-                     : QStringLiteral("Choose a local repository to begin one scan.");
+                     : tr("Choose a local repository to begin one scan.");
 }
 
 ContentPresenter::Status ContentPresenter::status() const
@@ -69,13 +69,13 @@ QString ContentPresenter::statusTitle() const
 {
     switch (status()) {
     case Status::Idle:
-        return QStringLiteral("Ready to scan");
+        return tr("Ready to scan");
     case Status::Scanning:
-        return QStringLiteral("Scanning");
+        return tr("Scanning");
     case Status::Failed:
-        return QStringLiteral("Scan failed");
+        return tr("Scan failed");
     case Status::Complete:
-        return QStringLiteral("Scan complete");
+        return tr("Scan complete");
     }
     return {};
 }
@@ -113,8 +113,8 @@ bool ContentPresenter::scanIsNextStep() const
 QString ContentPresenter::scanTitle() const
 {
     if (m_model.state().get().isScanning())
-        return QStringLiteral("Scanning…");
-    return hasRepository() ? QStringLiteral("Scan Again") : QStringLiteral("Scan");
+        return tr("Scanning…");
+    return hasRepository() ? tr("Scan Again") : tr("Scan");
 }
 
 QString ContentPresenter::allowanceDisclosure() const

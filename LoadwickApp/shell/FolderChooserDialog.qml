@@ -7,8 +7,8 @@ FolderDialog {
 
     required property DialogFolderChooser chooser
 
-    title: "Choose a local repository to scan."
-    acceptLabel: "Choose"
+    title: qsTr("Choose a local repository to scan.")
+    acceptLabel: qsTr("Choose")
     modality: Qt.WindowModal
 
     onAccepted: dialog.chooser.accept(dialog.selectedFolder)

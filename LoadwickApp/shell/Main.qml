@@ -11,7 +11,7 @@ ApplicationWindow {
     required property ComparePresenter compare
     required property OnboardingPresenter onboarding
 
-    title: "Loadwick"
+    title: qsTr("Loadwick")
     width: 1180
     height: 780
     minimumWidth: 960

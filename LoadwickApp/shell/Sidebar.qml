@@ -26,7 +26,7 @@ Rectangle {
             Layout.leftMargin: AppTheme.cardSpace
             Layout.topMargin: AppTheme.pageMargin
             Layout.bottomMargin: AppTheme.tightSpace
-            text: "Pages"
+            text: qsTr("Pages")
             font: AppTheme.captionStrongFont
             secondary: true
         }

@@ -15,7 +15,7 @@ ListView {
     clip: true
     onCurrentIndexChanged: list.content.pageIndex = list.currentIndex
     Accessible.role: Accessible.List
-    Accessible.name: "Pages"
+    Accessible.name: qsTr("Pages")
 
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;

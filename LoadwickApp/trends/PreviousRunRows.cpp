@@ -34,7 +34,7 @@ QVariant PreviousRunRows::data(const QModelIndex &index, int role) const
     case value:
         return qtText(NumberText::grouped(scan.total, m_locale));
     case valueCaption:
-        return scan.categories.empty() ? QStringLiteral("No category estimates") : QString();
+        return scan.categories.empty() ? tr("No category estimates") : QString();
     case band:
         return static_cast<int>(scan.band());
     case place:

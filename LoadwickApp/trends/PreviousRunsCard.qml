@@ -11,7 +11,7 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Previous runs"
+        title: qsTr("Previous runs")
         detail: card.runs.detail
     }
     LongList {
@@ -21,7 +21,7 @@ ReportSurface {
         viewport: card.viewport
         rowHeight: 48
         visible: count > 0
-        Accessible.name: "Previous runs"
+        Accessible.name: qsTr("Previous runs")
         delegate: HistoryRow {
             id: row
 
@@ -34,7 +34,7 @@ ReportSurface {
     }
     PlainLabel {
         Layout.fillWidth: true
-        text: "Session totals were reported by Claude; category splits are local estimates."
+        text: qsTr("Session totals were reported by Claude; category splits are local estimates.")
         font: AppTheme.captionFont
         secondary: true
         wrapMode: Text.Wrap

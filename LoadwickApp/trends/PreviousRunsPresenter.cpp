@@ -13,9 +13,9 @@ void PreviousRunsPresenter::show(std::span<const RecordedScan> history)
                  newest.end());
     m_rows.setScans(std::move(newest));
     m_detail = history.size() <= mostRows
-                   ? QStringLiteral("Every recorded scan, newest first, across every repository.")
-                   : QStringLiteral("The newest 30 of ") + QString::number(history.size()) +
-                         QStringLiteral(" recorded scans, across every repository.");
+                   ? tr("Every recorded scan, newest first, across every repository.")
+                   : tr("The newest 30 of %1 recorded scans, across every repository.")
+                         .arg(history.size());
     Q_EMIT changed();
 }
 

@@ -10,7 +10,7 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Recorded data"
+        title: qsTr("Recorded data")
     }
     PlainLabel {
         Layout.fillWidth: true
@@ -19,7 +19,7 @@ ReportSurface {
         wrapMode: Text.Wrap
     }
     PushButton {
-        title: "Clear Recorded Data…"
+        title: qsTr("Clear Recorded Data…")
         symbol: "trash"
         outlined: true
         enabled: card.recordedData.canClear
@@ -29,8 +29,8 @@ ReportSurface {
     ConfirmationDialog {
         id: confirmation
 
-        title: "Delete every recorded scan?"
-        message: "This cannot be undone. The scan currently on screen stays; only the recorded history is deleted."
+        title: qsTr("Delete every recorded scan?")
+        message: qsTr("This cannot be undone. The scan currently on screen stays; only the recorded history is deleted.")
         action: card.recordedData.deleteTitle
         onConfirmed: card.recordedData.clear()
     }

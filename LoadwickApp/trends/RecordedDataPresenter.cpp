@@ -9,11 +9,6 @@
 namespace Loadwick {
 namespace {
 
-QString counted(std::size_t count, const char *singular, const char *plural)
-{
-    return QString::number(count) + QString::fromLatin1(count == 1 ? singular : plural);
-}
-
 std::size_t repositoryCount(const std::vector<RecordedScan> &history)
 {
     std::set<std::string_view> paths;
@@ -27,15 +22,18 @@ std::size_t repositoryCount(const std::vector<RecordedScan> &history)
 void RecordedDataPresenter::showHistory()
 {
     const std::vector<RecordedScan> &history = m_model.history().get();
+    const std::size_t scans = history.size();
+    const std::size_t repositories = repositoryCount(history);
     m_storageNote =
-        counted(history.size(), " scan", " scans") + QStringLiteral(" across ") +
-        counted(repositoryCount(history), " repository", " repositories") +
-        QStringLiteral(", stored on this Mac. Totals only — no instruction-file contents are ever "
-                       "written. The newest ") +
-        qtText(NumberText::grouped(std::int64_t{ScanHistoryStore::maximumScans}, m_locale)) +
-        QStringLiteral(" are kept.");
+        tr("%1 across %2, stored on this Mac. Totals only — no instruction-file contents are ever "
+           "written. The newest %3 are kept.")
+            .arg(
+                (scans == 1 ? tr("%1 scan") : tr("%1 scans")).arg(scans),
+                (repositories == 1 ? tr("%1 repository") : tr("%1 repositories")).arg(repositories),
+                qtText(
+                    NumberText::grouped(std::int64_t{ScanHistoryStore::maximumScans}, m_locale)));
     m_deleteTitle =
-        QStringLiteral("Delete ") + counted(history.size(), " Recorded Scan", " Recorded Scans");
+        (scans == 1 ? tr("Delete %1 Recorded Scan") : tr("Delete %1 Recorded Scans")).arg(scans);
     Q_EMIT changed();
 }
 

@@ -17,8 +17,8 @@ ReportSurface {
     }
     SectionHeader {
         Layout.fillWidth: true
-        title: "Startup tokens per scan"
-        detail: "Each point is one recorded scan; every total was reported by Claude."
+        title: qsTr("Startup tokens per scan")
+        detail: qsTr("Each point is one recorded scan; every total was reported by Claude.")
         visible: !card.isEmpty
     }
     TrendChart {
@@ -49,7 +49,7 @@ ReportSurface {
     }
     PlainLabel {
         Layout.fillWidth: true
-        text: "Hover the chart to read a single scan. Dashed lines mark the band thresholds."
+        text: qsTr("Hover the chart to read a single scan. Dashed lines mark the band thresholds.")
         font: AppTheme.captionFont
         secondary: true
         wrapMode: Text.Wrap

@@ -19,9 +19,10 @@ std::vector<LineSample> samplesOf(std::span<const RecordedScan> scans)
     return samples;
 }
 
-QString nameOr(const std::string &repositoryName, const char *otherwise)
+QString nameOf(const std::string &repositoryName)
 {
-    return repositoryName.empty() ? QString::fromLatin1(otherwise) : qtText(repositoryName);
+    return repositoryName.empty() ? TrendChartPresenter::tr("this repository")
+                                  : qtText(repositoryName);
 }
 
 } // namespace
@@ -30,8 +31,8 @@ void TrendChartPresenter::showNoHistory()
 {
     m_line.setSamples({});
     setWords({},
-             QStringLiteral("Scans are recorded locally as you run them. Run one scan, then "
-                            "another, and the trend appears here."),
+             tr("Scans are recorded locally as you run them. Run one scan, then "
+                "another, and the trend appears here."),
              {});
 }
 
@@ -40,11 +41,11 @@ void TrendChartPresenter::show(std::span<const RecordedScan> scans)
     m_line.setSamples(samplesOf(scans));
     if (scans.empty())
         setWords({},
-                 QStringLiteral("Nothing recorded for this repository yet. Scan it twice and its "
-                                "trend appears here."),
+                 tr("Nothing recorded for this repository yet. Scan it twice and its "
+                    "trend appears here."),
                  {});
     else if (scans.size() == 1)
-        setWords(QStringLiteral("One scan recorded"), oneScanText(scans.front()), {});
+        setWords(tr("One scan recorded"), oneScanText(scans.front()), {});
     else
         setWords({}, {}, summaryOf(scans.back().repositoryName));
 }
@@ -60,12 +61,10 @@ void TrendChartPresenter::setWords(const QString &emptyTitle, const QString &emp
 
 QString TrendChartPresenter::oneScanText(const RecordedScan &scan) const
 {
-    return QStringLiteral("The one on record measured ") +
-           qtText(NumberText::grouped(scan.total, m_locale)) + QStringLiteral(" tokens on ") +
-           qtText(DateText::day(scan.date, m_locale)) +
-           QStringLiteral(". A trend needs at least two scans of ") +
-           nameOr(scan.repositoryName, "this repository") +
-           QStringLiteral(". Scan again to plot a line.");
+    return tr("The one on record measured %1 tokens on %2. A trend needs at least two scans of %3. "
+              "Scan again to plot a line.")
+        .arg(qtText(NumberText::grouped(scan.total, m_locale)),
+             qtText(DateText::day(scan.date, m_locale)), nameOf(scan.repositoryName));
 }
 
 QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
@@ -77,9 +76,9 @@ QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
     const auto figure = [this](std::int64_t tokens) {
         return qtText(NumberText::grouped(tokens, m_locale));
     };
-    return QStringLiteral("Startup tokens per scan of %1: %2 scans from %3 to %4, between %5 and "
-                          "%6 tokens. The Heavy band begins at %7, the Excessive band above %8.")
-        .arg(nameOr(repositoryName, "this repository"), QString::number(samples.size()),
+    return tr("Startup tokens per scan of %1: %2 scans from %3 to %4, between %5 and "
+              "%6 tokens. The Heavy band begins at %7, the Excessive band above %8.")
+        .arg(nameOf(repositoryName), QString::number(samples.size()),
              qtText(DateText::day(samples.front().date, m_locale)),
              qtText(DateText::day(samples.back().date, m_locale)), figure(lowest->total),
              figure(highest->total), figure(OpinionBand::heavyThreshold),

@@ -10,28 +10,28 @@ ReportSurface {
 
     SectionHeader {
         Layout.fillWidth: true
-        title: "Where this repository landed"
-        detail: "Read from the recorded scans above."
+        title: qsTr("Where this repository landed")
+        detail: qsTr("Read from the recorded scans above.")
     }
     SideBySide {
         Layout.fillWidth: true
 
         MetricTile {
             Layout.fillWidth: true
-            title: "Latest scan"
+            title: qsTr("Latest scan")
             value: card.summary.latest
             caption: card.summary.range
         }
         MetricTile {
             Layout.fillWidth: true
-            title: "Band"
+            title: qsTr("Band")
             value: card.summary.bandTitle
             caption: card.summary.range
             tint: AppTheme.bandTexts[card.summary.band]
         }
         MetricTile {
             Layout.fillWidth: true
-            title: "Drift across recorded scans"
+            title: qsTr("Drift across recorded scans")
             value: card.summary.drift
             caption: card.summary.driftCaption
         }

@@ -18,7 +18,7 @@ void TrendSummaryPresenter::show(std::span<const LineSample> samples)
     m_band = band;
     m_bandTitle = qtText(band.title());
     m_drift = qtText(NumberText::groupedChange(checkedDifference(latest, earliest), m_locale));
-    m_driftCaption = QString::number(samples.size()) + QStringLiteral(" recorded scans");
+    m_driftCaption = tr("%1 recorded scans").arg(samples.size());
     Q_EMIT changed();
 }
 

@@ -9,10 +9,11 @@ namespace {
 QString pageDetail(const QString &repositoryName)
 {
     if (repositoryName.isEmpty())
-        return QStringLiteral(
+        return TrendsPresenter::tr(
             "Startup context over time, against the Lean, Heavy and Excessive bands.");
-    return repositoryName + QStringLiteral(": startup context over time, against the Lean, Heavy "
-                                           "and Excessive bands.");
+    return TrendsPresenter::tr(
+               "%1: startup context over time, against the Lean, Heavy and Excessive bands.")
+        .arg(repositoryName);
 }
 
 } // namespace

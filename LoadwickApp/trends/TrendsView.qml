@@ -10,7 +10,7 @@ PageColumn {
 
     PageHeader {
         Layout.fillWidth: true
-        title: "Trends"
+        title: qsTr("Trends")
         detail: page.trends.detail
     }
     TrendChartCard {
