@@ -28,6 +28,12 @@ TEST(PathTextTest, keepsTheRoot)
     EXPECT_EQ(standardizedPath("//a").native(), "/a");
 }
 
+TEST(PathTextTest, spellsARootOfSeveralSlashesAsOneWhenAPathWasJoinedToIt)
+{
+    EXPECT_EQ(standardizedPath(std::filesystem::path("//") / "a").native(), "/a");
+    EXPECT_EQ(standardizedPath(std::filesystem::path("///") / "a" / "b").native(), "/a/b");
+}
+
 TEST(PathTextTest, leavesARelativePathRelative)
 {
     EXPECT_EQ(standardizedPath("a/../b/").native(), "b");
@@ -37,6 +43,11 @@ TEST(PathTextTest, leavesARelativePathRelative)
 TEST(PathTextTest, keepsBytesThatAreNotUtf8)
 {
     EXPECT_EQ(standardizedPath("/caf\xE9/../\xFF/").native(), "/\xFF");
+}
+
+TEST(PathTextTest, leavesAnEmptyPathEmpty)
+{
+    EXPECT_EQ(standardizedPath("").native(), "");
 }
 
 } // namespace Loadwick
