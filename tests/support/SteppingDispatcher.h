@@ -18,6 +18,9 @@ public:
     /// From now on no background task can be started, as if threads had run out.
     void refuseBackground() noexcept { m_refusesBackground = true; }
 
+    /// Threads are to be had again.
+    void allowBackground() noexcept { m_refusesBackground = false; }
+
     [[nodiscard]] std::size_t backgroundCount() const noexcept { return m_background.size(); }
     [[nodiscard]] std::size_t postedCount() const noexcept { return m_posted.size(); }
 

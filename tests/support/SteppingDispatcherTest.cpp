@@ -68,6 +68,9 @@ TEST(SteppingDispatcherTest, refusesBackgroundTasksWhenTold)
     dispatcher.refuseBackground();
     EXPECT_THROW(dispatcher.runInBackground([] {}), std::system_error);
     EXPECT_EQ(dispatcher.backgroundCount(), 0U);
+    dispatcher.allowBackground();
+    dispatcher.runInBackground([] {});
+    EXPECT_EQ(dispatcher.backgroundCount(), 1U);
 }
 
 TEST(SteppingDispatcherTest, endsTheProgramWithoutATask)
