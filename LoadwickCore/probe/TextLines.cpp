@@ -32,10 +32,10 @@ std::size_t breakLength(std::string_view text, std::size_t index) noexcept
     }
 }
 
-/// Bytes of the line break that `text` ends with; 0 when there is none.
+/// Bytes of the line break that `text`, which is not empty, ends with; 0 when there is none.
 std::size_t lastBreakLength(std::string_view text) noexcept
 {
-    switch (text.empty() ? '\0' : text.back()) {
+    switch (text.back()) {
     case '\n':
         return text.ends_with("\r\n") ? 2 : 1;
     case '\v':

@@ -55,9 +55,10 @@ struct Row
     }
 };
 
+/// Of a row that has an area, along a side that has a length.
 double worstRatio(const Row &row, double side) noexcept
 {
-    if (!(row.sum > 0.0 && side > 0.0 && row.minimum > 0.0))
+    if (!(row.minimum > 0.0))
         return std::numeric_limits<double>::max();
     const double sideSquared = side * side;
     const double sumSquared = row.sum * row.sum;
@@ -84,14 +85,13 @@ double thicknessOf(double sum, double edge, double available) noexcept
     return thickness <= available ? thickness : available;
 }
 
-/// Where each item of a row begins and, one place later, ends; the last one at the very end.
+/// Where each item of a row begins and, one place later, ends; the last one at the very end. A row
+/// that is placed has a thickness: it has an area, and the free space ends in one direction only.
 std::vector<double> edgesOf(const Row &row, double thickness, double begin, double end)
 {
     std::vector<double> edges{begin};
-    for (const Item &item : row.items) {
-        const double length = thickness > 0.0 ? item.area / thickness : 0.0;
-        edges.push_back(std::min(edges.back() + length, end));
-    }
+    for (const Item &item : row.items)
+        edges.push_back(std::min(edges.back() + item.area / thickness, end));
     edges.back() = end;
     return edges;
 }
