@@ -1,0 +1,194 @@
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzTarget.h"
+#include "report/SlabAttributor.h"
+
+namespace Loadwick {
+
+namespace {
+
+/// What is attributed: few enough tokens to be counted one by one.
+struct Input
+{
+    std::int64_t total = 0;
+    std::vector<SelfReportedSlab> slabs;
+    std::vector<LocalCategoryEstimate> estimates;
+};
+
+constexpr std::int64_t mostTokens = 99;
+
+/// The total, then a line for each slab ("12 Memory files") and for each estimate, whose terms
+/// stand between bars ("|12 Repository|memoryfiles|claudemd").
+Input inputOf(FuzzInput bytes)
+{
+    Input input;
+    FuzzInput head(bytes.takeLine());
+    input.total = head.takeInteger(mostTokens);
+    while (!bytes.isAtEnd() && input.slabs.size() + input.estimates.size() < 24) {
+        FuzzInput line(bytes.takeLine());
+        const bool isEstimate = line.rest().starts_with('|');
+        if (isEstimate)
+            static_cast<void>(line.takeUpTo('|'));
+        const std::int64_t tokens = line.takeInteger(mostTokens);
+        const std::string name(line.takeUpTo('|'));
+        if (!isEstimate) {
+            input.slabs.push_back({.name = name, .tokens = tokens});
+            continue;
+        }
+        input.estimates.push_back({.name = name, .tokens = tokens, .matchTerms = {}});
+        while (!line.isAtEnd())
+            input.estimates.back().matchTerms.emplace_back(line.takeUpTo('|'));
+    }
+    return input;
+}
+
+bool isSame(const std::string &left, const std::string &right)
+{
+    return SlabAttributor::normalize(left) == SlabAttributor::normalize(right);
+}
+
+bool matches(const LocalCategoryEstimate &estimate, const std::string &name)
+{
+    if (estimate.tokens < 1)
+        return false;
+    return isSame(estimate.name, name) ||
+           std::any_of(estimate.matchTerms.begin(), estimate.matchTerms.end(),
+                       [&](const std::string &term) { return isSame(term, name); });
+}
+
+/// Moves single tokens, one after the other, as one would with counters on a table.
+class Table
+{
+public:
+    explicit Table(const Input &input) : m_input(input)
+    {
+        for (const LocalCategoryEstimate &estimate : input.estimates)
+            m_left.push_back(std::max<std::int64_t>(estimate.tokens, 0));
+    }
+
+    std::vector<SlabAttribution> rows()
+    {
+        if (m_input.slabs.empty())
+            add("Startup context (categories not self-reported)",
+                std::max<std::int64_t>(m_input.total, 0), Provenance::claudeReported);
+        for (std::size_t place = 0; place < m_input.slabs.size(); ++place)
+            if (isFirstOfItsName(place))
+                addCategory(m_input.slabs[place].name);
+        for (const LocalCategoryEstimate &estimate : m_input.estimates)
+            if (!m_input.slabs.empty() && estimate.tokens > 0)
+                add(estimate.name, estimate.tokens, Provenance::localEstimate);
+        std::int64_t missing = m_input.total;
+        for (const SlabAttribution &row : m_rows)
+            missing -= row.tokens;
+        if (missing > 0)
+            add("Unattributed", missing, Provenance::remainder);
+        return m_rows;
+    }
+
+private:
+    bool isFirstOfItsName(std::size_t place) const
+    {
+        return std::none_of(
+            m_input.slabs.begin(), m_input.slabs.begin() + static_cast<std::ptrdiff_t>(place),
+            [&](const auto &slab) { return isSame(slab.name, m_input.slabs[place].name); });
+    }
+
+    void addCategory(const std::string &name)
+    {
+        std::int64_t reported = 0;
+        for (const SelfReportedSlab &slab : m_input.slabs)
+            reported += isSame(slab.name, name) ? slab.tokens : 0;
+        std::vector<std::size_t> matching;
+        for (std::size_t place = 0; place < m_left.size(); ++place)
+            if (matches(m_input.estimates[place], name))
+                matching.push_back(place);
+        if (matching.empty())
+            return add(name, reported, Provenance::selfReported);
+        std::int64_t beyond = 0;
+        for (; reported > 0; --reported)
+            beyond += takeOne(matching) ? 0 : 1;
+        if (beyond > 0)
+            add(name + " (beyond local estimate)", beyond, Provenance::selfReported);
+    }
+
+    bool takeOne(const std::vector<std::size_t> &matching)
+    {
+        for (const std::size_t place : matching) {
+            if (m_left[place] > 0) {
+                --m_left[place];
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void add(const std::string &name, std::int64_t tokens, Provenance provenance)
+    {
+        m_rows.push_back({name, tokens, provenance, static_cast<std::int64_t>(m_rows.size())});
+    }
+
+    const Input &m_input;
+    std::vector<std::int64_t> m_left;
+    std::vector<SlabAttribution> m_rows;
+};
+
+std::vector<SlabAttribution> byCreation(std::vector<SlabAttribution> rows)
+{
+    std::sort(rows.begin(), rows.end(),
+              [](const auto &left, const auto &right) { return left.ordinal < right.ordinal; });
+    return rows;
+}
+
+void checkOrder(const std::vector<SlabAttribution> &rows)
+{
+    for (std::size_t place = 1; place < rows.size(); ++place) {
+        const SlabAttribution &above = rows[place - 1];
+        const SlabAttribution &row = rows[place];
+        const bool isTie = above.tokens == row.tokens;
+        require(above.tokens > row.tokens || (isTie && above.name < row.name) ||
+                    (isTie && above.name == row.name && above.ordinal < row.ordinal),
+                "heaviest first, then by name, then by creation");
+    }
+}
+
+/// The same with every figure times a thousand million.
+Input enlarged(Input input)
+{
+    constexpr std::int64_t factor = 1'000'000'000;
+    input.total *= factor;
+    for (SelfReportedSlab &slab : input.slabs)
+        slab.tokens *= factor;
+    for (LocalCategoryEstimate &estimate : input.estimates)
+        estimate.tokens *= factor;
+    return input;
+}
+
+void checkAttribution(std::string_view bytes)
+{
+    const Input input = inputOf(FuzzInput(bytes));
+    const AttributionOutcome outcome =
+        SlabAttributor::attribute(input.total, input.slabs, input.estimates);
+    require(byCreation(outcome.rows) == Table(input).rows(), "the rows are those of single tokens");
+    checkOrder(outcome.rows);
+    std::int64_t sum = 0;
+    for (const SlabAttribution &row : outcome.rows)
+        sum += row.tokens;
+    require(outcome.overAttributed == (sum > input.total), "too much is said to be too much");
+    require(outcome.overAttributed || sum == input.total, "rows and remainder are the total");
+    const Input large = enlarged(input);
+    const auto many = SlabAttributor::attribute(large.total, large.slabs, large.estimates);
+    require(many.rows.size() == outcome.rows.size() &&
+                many.remainder == outcome.remainder * 1'000'000'000,
+            "large figures are split like small ones");
+}
+
+const FuzzTarget target("Attribution", checkAttribution);
+
+} // namespace
+
+} // namespace Loadwick

@@ -1,0 +1,71 @@
+#include <string>
+#include <vector>
+
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzTarget.h"
+#include "probe/PathText.h"
+#include "probe/ProcessContext.h"
+#include "probe/TranscriptLocator.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick {
+
+namespace {
+
+/// The names on the way from the root, with "." and ".." walked.
+std::vector<std::string> walked(std::string_view path)
+{
+    std::vector<std::string> names;
+    FuzzInput input(path);
+    while (!input.isAtEnd()) {
+        const std::string_view name = input.takeUpTo('/');
+        if (name == ".." && !names.empty())
+            names.pop_back();
+        else if (!name.empty() && name != "." && name != "..")
+            names.emplace_back(name);
+    }
+    return names;
+}
+
+std::string joined(const std::vector<std::string> &names)
+{
+    std::string path;
+    for (const std::string &name : names)
+        path.append("/").append(name);
+    return path.empty() ? "/" : path;
+}
+
+/// The folder by the rules in words.
+std::string folderByTheRules(std::string_view given, const std::string &workingFolder)
+{
+    std::string folder(given);
+    if (given == "~" || given.starts_with("~/"))
+        folder = homeFolder(currentEnvironment()) + folder.substr(1);
+    if (!folder.starts_with('/'))
+        folder = workingFolder + "/" + folder;
+    return joined(walked(folder));
+}
+
+void checkConfigurationFolder(std::string_view bytes)
+{
+    FuzzInput input(bytes);
+    const std::string workingFolder = "/" + std::string(input.takeLine());
+    const std::string_view value = input.rest();
+    const auto folder = TranscriptLocator::normalizedConfigDir(value, workingFolder);
+    require(folder.has_value() == !trimmed(value).empty(), "only white space is no folder");
+    if (!folder)
+        return;
+    require(*folder == folderByTheRules(trimmed(value), workingFolder),
+            "the folder is spelled out");
+    require(standardizedPath(*folder) == *folder, "the spelling is final");
+    require(isUtf8(pathText(*folder)), "a path has a text");
+    const auto root =
+        TranscriptLocator::defaultProjectsRoot("/nobody", {{"CLAUDE_CONFIG_DIR", *folder + "/."}});
+    require(root == std::filesystem::path(*folder) / "projects", "transcripts lie in the folder");
+}
+
+const FuzzTarget target("ConfigurationFolder", checkConfigurationFolder);
+
+} // namespace
+
+} // namespace Loadwick

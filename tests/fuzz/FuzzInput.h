@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace Loadwick {
+
+/// Takes the values that a target needs off the head of an input, which people can read and write:
+/// lines, and decimal numbers inside them. Views into the input.
+class FuzzInput
+{
+public:
+    explicit FuzzInput(std::string_view bytes) noexcept : m_rest(bytes) {}
+
+    [[nodiscard]] bool isAtEnd() const noexcept { return m_rest.empty(); }
+    [[nodiscard]] std::string_view rest() const noexcept { return m_rest; }
+
+    /// What stands before `separator`, which is taken too; all that is left when there is none.
+    [[nodiscard]] std::string_view takeUpTo(char separator) noexcept;
+    [[nodiscard]] std::string_view takeLine() noexcept { return takeUpTo('\n'); }
+
+    /// The integer at the head, from -`limit` to `limit`: a larger one is folded into that range,
+    /// and none is 0. `limit` is at most `largestLimit`.
+    [[nodiscard]] std::int64_t takeInteger(std::int64_t limit) noexcept;
+
+    static constexpr std::int64_t largestLimit = 100'000'000'000'000'000;
+
+private:
+    std::string_view m_rest;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,68 @@
+#include <chrono>
+#include <string>
+
+#include "fuzz/FuzzInput.h"
+#include "fuzz/FuzzTarget.h"
+#include "fuzz/JsonOracle.h"
+#include "history/IsoDate.h"
+#include "history/ScanHistoryFile.h"
+#include "probe/UnicodeText.h"
+
+namespace Loadwick {
+
+namespace {
+
+/// A history of one scan whose texts and figures are lines of the input.
+ScanHistoryFile historyOf(FuzzInput input)
+{
+    RecordedScan scan{.id = *Uuid::fromText("00112233-4455-6677-8899-AABBCCDDEEFF"),
+                      .repositoryName = std::string(input.takeLine()),
+                      .repositoryPath = std::string(input.takeLine()),
+                      .date = {},
+                      .total = input.takeInteger(FuzzInput::largestLimit),
+                      .categories = {}};
+    scan.date += std::chrono::seconds(input.takeInteger(200'000'000'000));
+    while (!input.isAtEnd() && scan.categories.size() < 8) {
+        const std::int64_t tokens = input.takeInteger(FuzzInput::largestLimit);
+        scan.categories.push_back({.name = std::string(input.takeLine()), .tokens = tokens});
+    }
+    return {.version = scan.total, .scans = {scan}};
+}
+
+/// What a file can express of it: texts as UTF-8, and dates of years that have four digits.
+ScanHistoryFile storable(ScanHistoryFile file)
+{
+    for (RecordedScan &scan : file.scans) {
+        scan.repositoryName = repairedUtf8(scan.repositoryName);
+        scan.repositoryPath = repairedUtf8(scan.repositoryPath);
+        scan.date = *IsoDate::fromText(IsoDate::text(scan.date));
+        for (RecordedCategory &category : scan.categories)
+            category.name = repairedUtf8(category.name);
+    }
+    return file;
+}
+
+void checkFile(std::string_view json)
+{
+    const auto file = ScanHistoryFile::decoded(json);
+    if (!file)
+        return;
+    const std::string encoded = file->encoded();
+    require(ScanHistoryFile::decoded(encoded) == file, "a file that was read is written as it was");
+    require(JsonOracle::of(encoded).object.has_value(), "a written file is JSON");
+    require(isUtf8(encoded), "a written file is UTF-8");
+}
+
+void checkHistory(std::string_view input)
+{
+    checkFile(input);
+    const ScanHistoryFile written = historyOf(FuzzInput(input));
+    require(ScanHistoryFile::decoded(written.encoded()) == storable(written),
+            "what is written is read");
+}
+
+const FuzzTarget target("HistoryFile", checkHistory);
+
+} // namespace
+
+} // namespace Loadwick

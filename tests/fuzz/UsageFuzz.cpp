@@ -1,0 +1,40 @@
+#include <cstdint>
+#include <limits>
+
+#include "fuzz/FuzzTarget.h"
+#include "fuzz/JsonOracle.h"
+#include "fuzz/UsageOracle.h"
+#include "probe/ProbeUsage.h"
+
+namespace Loadwick {
+
+namespace {
+
+/// No two of them, and no three, leave 64 bits: what does ends the program by design.
+constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max() / 3;
+
+bool isBounded(std::int64_t count)
+{
+    return count <= largestCount && count >= -largestCount;
+}
+
+void checkUsage(std::string_view input)
+{
+    const JsonOracle oracle = JsonOracle::of(input);
+    if (!oracle.object)
+        return;
+    const auto usage = ProbeUsage::from(*oracle.object);
+    require(usage == usageByTheRule(&*oracle.object), "the usage follows the rule");
+    if (!usage || !isBounded(usage->inputTokens) || !isBounded(usage->cacheCreationInputTokens) ||
+        !isBounded(usage->cacheReadInputTokens))
+        return;
+    require(usage->startupTotal() - usage->cacheReadInputTokens - usage->cacheCreationInputTokens ==
+                usage->inputTokens,
+            "the total is the sum of the three input counts");
+}
+
+const FuzzTarget target("Usage", checkUsage);
+
+} // namespace
+
+} // namespace Loadwick
