@@ -1,0 +1,108 @@
+"""A whole session under strace: whom the program talks to, and what it tells."""
+
+from __future__ import annotations
+
+import os
+import re
+from pathlib import Path
+
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from program import Program, environment_for
+from waiting import until
+
+TOKEN = "token-of-the-user-3f1c"
+# What a session must not inherit, each with a value that is easily found.
+SCRUBBED = {
+    "ANTHROPIC_API_KEY": "secret-key-88ab",
+    "ANTHROPIC_AUTH_TOKEN": "secret-token-12cd",
+    "ANTHROPIC_BASE_URL": "https://secret-host-77aa.invalid",
+    "CLAUDECODE": "secret-mark-55ee",
+    "CLAUDE_CODE_ENTRYPOINT": "secret-entry-66ff",
+}
+CALLS = "socket,socketpair,connect,bind,listen,sendto,sendmsg,execve"
+
+
+class Trace:
+    """The system calls of a program and of all that it started."""
+
+    def __init__(self, file: Path) -> None:
+        self._lines = file.read_text(encoding="utf-8", errors="replace").splitlines()
+
+    def families(self) -> set[str]:
+        """The kinds of sockets that were made."""
+        made = (re.search(r"\bsocket(?:pair)?\((\w+),", line) for line in self._lines)
+        return {found[1] for found in made if found}
+
+    def addresses(self) -> set[str]:
+        """The kinds of addresses that were named to anybody."""
+        return {kind for line in self._lines for kind in re.findall(r"sa_family=(\w+)", line)}
+
+    def started(self, program: str) -> list[str]:
+        """The calls that started a program whose path ends so, environment included."""
+        return [line for line in self._lines if re.search(rf'execve\("[^"]*{program}"', line)]
+
+
+class SecurityTest(EndToEndCase):
+    """One session, from the choice of a folder to the closed window."""
+
+    def trace_a_session(self, outcome: str, words: str) -> Trace:
+        """Scans once, looks at every page and closes the window."""
+        log = self.home.path.with_name(self.home.path.name + ".trace")
+        self.addCleanup(lambda: log.unlink(missing_ok=True))
+        command = ["strace", "-D", "-f", "--seccomp-bpf", "-q", "-v", "-s", "65536"]
+        command += ["-e", f"trace={CALLS}", "-e", "signal=none", "-o", str(log)]
+        environment = environment_for(self.home.path) | SCRUBBED
+        environment["CLAUDE_CODE_OAUTH_TOKEN"] = TOKEN
+        # The leak checker is a tracer itself, and there can be but one.
+        sanitizer = os.environ.get("ASAN_OPTIONS", "")
+        environment["ASAN_OPTIONS"] = f"{sanitizer}:detect_leaks=0"
+        program = Program([*command, str(programs() / "loadwick-endtoend")], environment)
+        self.addCleanup(program.kill)
+        self.use(program, outcome, words)
+        self.assertEqual(program.close(), 0)
+        # The tracer outlives what it traces.
+        end = f"\n{program.process.pid} +++ exited with 0 +++"
+        until("the trace's end", lambda: re.sub(" +", " ", log.read_text()).find(end) >= 0)
+        return Trace(log)
+
+    def use(self, program: Program, outcome: str, words: str) -> None:
+        """What a user does with the window."""
+        self.home.play(outcome)
+        program.window.wait_for(CHOOSE, "push button")
+        self.choose(program, self.home.make_repository("webshop"))
+        program.window.press(SCAN)
+        program.window.wait_for(words)
+        for page in ("ctrl+2", "ctrl+3", "ctrl+1"):
+            program.window.key(page)
+
+    def kept(self) -> dict[str, bytes]:
+        """Every file below the home, transcripts of the session included."""
+        files = (Path(folder, name) for folder, _, names in os.walk(self.home.path)
+                 for name in names)
+        return {str(file): file.read_bytes() for file in files if file.is_file()}
+
+    def assert_private(self, trace: Trace) -> None:
+        """Nobody but the desktop was talked to, and the user's secrets stayed where they were."""
+        self.assertEqual(trace.families(), {"AF_UNIX"})
+        self.assertEqual(trace.addresses(), {"AF_UNIX"})
+        sessions = trace.started("/claude")
+        self.assertEqual(len(sessions), 1)
+        self.assertIn(f'"CLAUDE_CODE_OAUTH_TOKEN={TOKEN}"', sessions[0])
+        for name, value in SCRUBBED.items():
+            self.assertNotIn(f'"{name}=', sessions[0])
+            self.assertNotIn(value, sessions[0])
+        for file, content in self.kept().items():
+            for value in (TOKEN, *SCRUBBED.values()):
+                self.assertNotIn(value.encode(), content, file)
+
+    def test_a_scan_that_succeeds_stays_on_this_machine_and_keeps_no_secret(self) -> None:
+        self.assert_private(self.trace_a_session("transcript", "Scan complete"))
+        self.assertEqual(len(self.home.scans()), 1)
+
+    def test_a_scan_that_fails_stays_on_this_machine_and_keeps_no_secret(self) -> None:
+        self.assert_private(self.trace_a_session("failed", "Scan failed"))
+        self.assertEqual(self.home.scans(), [])
+
+
+if __name__ == "__main__":
+    main()
