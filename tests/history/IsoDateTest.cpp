@@ -70,4 +70,13 @@ TEST(IsoDateTest, readsNoOtherForm)
         EXPECT_FALSE(IsoDate::fromText(text)) << text;
 }
 
+TEST(IsoDateTest, takesNothingBesideTheDigitsForADigit)
+{
+    for (const char wrong : {'/', ':', ' ', '-', 'a', '\xC2'}) {
+        std::string text = "2026-03-04T09:15:27Z";
+        text[0] = wrong;
+        EXPECT_FALSE(IsoDate::fromText(text)) << text;
+    }
+}
+
 } // namespace Loadwick

@@ -246,4 +246,18 @@ TEST_F(ScanModelTest, endsTheProgramWithoutACollaborator)
     EXPECT_DEATH(ScanModel{ScanModel::Collaborators{}}, "lacks a collaborator");
 }
 
+TEST_F(ScanModelTest, endsTheProgramWithoutAnyOneOfItsCollaborators)
+{
+    const auto without = [this](auto leaveOut) {
+        ScanModel::Collaborators all = harness.collaboratorsWithoutStore();
+        leaveOut(all);
+        ScanModel model(std::move(all));
+    };
+    EXPECT_DEATH(without([](auto &all) { all.probeRunner = nullptr; }), "lacks a collaborator");
+    EXPECT_DEATH(without([](auto &all) { all.instructionScanner = nullptr; }),
+                 "lacks a collaborator");
+    EXPECT_DEATH(without([](auto &all) { all.dispatcher = nullptr; }), "lacks a collaborator");
+    EXPECT_DEATH(without([](auto &all) { all.now = nullptr; }), "lacks a collaborator");
+}
+
 } // namespace Loadwick

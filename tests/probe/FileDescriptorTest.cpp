@@ -1,6 +1,7 @@
 #include "probe/FileDescriptor.h"
 
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -80,6 +81,16 @@ TEST(FileDescriptorTest, duplicatesClosedOnExecAndAboveTheStandardStreams)
 TEST(FileDescriptorTest, duplicatesNothingToNone)
 {
     EXPECT_FALSE(FileDescriptor().duplicate().isOpen());
+}
+
+TEST(FileDescriptorTest, survivesBeingHandedToItself)
+{
+    FileDescriptor owner(openNumber());
+    const int number = owner.number();
+    FileDescriptor &same = owner;
+    owner = std::move(same);
+    EXPECT_EQ(owner.number(), number);
+    EXPECT_TRUE(isOpenNumber(number));
 }
 
 } // namespace Loadwick

@@ -224,4 +224,12 @@ TEST(JsonTextTest, agreesWithTheLibraryOnDamagedDocuments)
     }
 }
 
+TEST(JsonTextTest, takesEveryWhiteSpaceOfJsonBetweenTokensAndNoOther)
+{
+    EXPECT_EQ(jsonObject("{\t\r\n \"a\"\r:\t1\t,\r\"b\":\r2}", {"a", "b"}),
+              json::parse(R"({"a":1,"b":2})"));
+    for (const char *space : {"\v", "\f", "\u00A0"})
+        EXPECT_FALSE(isObject("{" + std::string(space) + "}")) << space;
+}
+
 } // namespace Loadwick

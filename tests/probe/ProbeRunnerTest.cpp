@@ -283,4 +283,12 @@ TEST(ProbeRunnerTest, readsTurnsOnlyFromAnExactInteger)
     EXPECT_EQ(ProbeRunner::reportedTurns(""), std::nullopt);
 }
 
+TEST(ProbeRunnerTest, needsNobodyWhoCouldAskForTheEnd)
+{
+    Setting setting;
+    setting.settings.shutdown = nullptr;
+    setting.commandRuns("exit 1\n");
+    EXPECT_THROW((void)ProbeRunner(setting.settings).run(setting.folder.path()), ProbeError);
+}
+
 } // namespace Loadwick

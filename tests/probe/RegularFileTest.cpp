@@ -1,5 +1,6 @@
 #include "probe/RegularFile.h"
 
+#include <array>
 #include <cerrno>
 #include <set>
 
@@ -204,6 +205,27 @@ TEST(RegularFileTest, hidesItsDescriptorFromChildren)
     close(next);
     const auto file = RegularFile::open(folder.write("a", "abc"));
     EXPECT_NE(fcntl(next, F_GETFD) & FD_CLOEXEC, 0);
+}
+
+TEST(RegularFileTest, skipsToNoPlaceBeforeTheBeginning)
+{
+    const TemporaryFolder folder;
+    auto file = RegularFile::open(folder.write("a", "text"));
+    ASSERT_TRUE(file);
+    EXPECT_FALSE(file->skipTo(-1));
+    EXPECT_EQ(file->readUpTo(10), "text");
+}
+
+TEST(RegularFileTest, saysWhyAnOpenFileCannotBeRead)
+{
+    auto file = RegularFile::open("/proc/self/mem"); // nothing is mapped at its beginning
+    ASSERT_TRUE(file);
+    std::array<char, 16> buffer{};
+    RegularFile::Failure failure;
+    EXPECT_EQ(file->read(buffer, &failure), std::nullopt);
+    EXPECT_EQ(failure.errorNumber, EIO);
+    EXPECT_EQ(file->readUpTo(10, &failure), std::nullopt);
+    EXPECT_EQ(file->read(buffer), std::nullopt);
 }
 
 } // namespace Loadwick

@@ -118,4 +118,14 @@ TEST(ShutdownTest, signalsNoGroupThatWasTakenOff)
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
 }
 
+TEST(ShutdownTest, signalsNobodyWhereThereIsNoGroup)
+{
+    // The groups 0 and 1 would be our own and everybody.
+    Shutdown shutdown;
+    EXPECT_TRUE(shutdown.add(0));
+    EXPECT_TRUE(shutdown.add(1));
+    shutdown.stopChildren(0ms);
+    EXPECT_TRUE(shutdown.isRequested());
+}
+
 } // namespace Loadwick

@@ -227,4 +227,14 @@ TEST(TranscriptLocatorTest, endsInATreeDeeperThanAPathMayBeLong)
     EXPECT_FALSE(found("s", folder.path()));
 }
 
+TEST(TranscriptLocatorTest, givesOneOfTwoEntriesThatAreNoFiles)
+{
+    const TemporaryFolder folder;
+    fs::create_directories(folder.path() / "a/s.jsonl");
+    fs::create_directories(folder.path() / "b/s.jsonl");
+    const auto path = found("s", folder.path());
+    ASSERT_TRUE(path);
+    EXPECT_EQ(path->filename(), "s.jsonl");
+}
+
 } // namespace Loadwick

@@ -116,4 +116,16 @@ TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
     EXPECT_EQ(set.repositoryFiles[3].path, folder.path() / "repository/link/near.md");
 }
 
+TEST(InstructionFileWalkTest, takesEverythingForTheRootsOwnWhenThatIsTheRepository)
+{
+    const TemporaryFolder folder;
+    const auto file = folder.write("home/.claude/CLAUDE.md", "Be brief.\n");
+    const auto findings = std::make_shared<InstructionFileFindings>();
+    InstructionFileWalk({.home = folder.path() / "home"}, "/", findings).run();
+    const InstructionFileSet set = findings->set();
+    ASSERT_FALSE(set.repositoryFiles.empty());
+    EXPECT_EQ(set.repositoryFiles.back().path, file.native());
+    EXPECT_TRUE(set.personalFiles.empty());
+}
+
 } // namespace Loadwick

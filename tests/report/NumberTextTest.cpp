@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <limits>
 #include <random>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -120,6 +121,14 @@ TEST(NumberTextTest, agreesWithPrintfOnRandomNumbers)
         const double number = round % 2 == 0 ? numbers(random) : eighths(random) / 8.0;
         EXPECT_EQ(NumberText::oneDecimal(number), asPrintf(number)) << number;
     }
+}
+
+TEST(NumberTextTest, groupsInTheLibrarysOwnLocaleWhereNoneIsNamed)
+{
+    std::string text;
+    std::thread([&] { text = groupedIn("", 1'234) + groupedIn("", 5); }).join();
+    EXPECT_EQ(text.back(), '5');
+    EXPECT_GE(text.size(), 5U);
 }
 
 } // namespace Loadwick

@@ -50,4 +50,15 @@ TEST(TextLocaleTest, turnsAModifierIntoAScript)
     EXPECT_EQ(numbers("ca"), "ca");
 }
 
+TEST(TextLocaleTest, takesTwoOrThreeLettersForALanguageAndNothingElse)
+{
+    const auto numbers = [](const char *value) {
+        return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
+    };
+    EXPECT_EQ(numbers("fil_PH"), "fil_PH");
+    EXPECT_EQ(numbers("DE"), "DE");
+    for (const char *value : {"d1", "12", "@de", "d~", "d[", "abcd"})
+        EXPECT_EQ(numbers(value), "en_US") << value;
+}
+
 } // namespace Loadwick
