@@ -17,6 +17,11 @@ if(LOADWICK_SANITIZE)
     add_link_options(-fsanitize=${LOADWICK_SANITIZE})
 endif()
 
+if(LOADWICK_COVERAGE)
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+    add_link_options(-fprofile-instr-generate)
+endif()
+
 set(LOADWICK_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion)
 if(LOADWICK_WARNINGS_AS_ERRORS)
     list(APPEND LOADWICK_WARNINGS -Werror)
