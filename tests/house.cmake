@@ -1,7 +1,7 @@
 # The checks of the house, each one command that a hand can run too. They look at the sources, so they
 # carry no build's prefix.
 
-foreach(check IN ITEMS layers format documented-paths shell)
+foreach(check IN ITEMS layers format documented-paths packaging shell)
     add_test(NAME "house/${check}" COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/${check}")
     set_tests_properties("house/${check}" PROPERTIES LABELS house TIMEOUT 120)
 endforeach()
