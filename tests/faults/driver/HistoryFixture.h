@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "faults/driver/Operation.h"
+#include "history/RecordedScan.h"
+
+namespace Faults {
+
+/// A history of three scans in a home folder, and what may have become of it.
+class HistoryFixture
+{
+public:
+    enum class Start
+    {
+        threeScans,
+        nothing ///< not even the folder
+    };
+
+    static constexpr std::string_view relativePath = ".local/share/Loadwick/scan-history.json";
+
+    HistoryFixture(const std::filesystem::path &home, Start start);
+
+    [[nodiscard]] std::filesystem::path folder() const { return m_path.parent_path(); }
+    [[nodiscard]] const std::filesystem::path &path() const { return m_path; }
+    [[nodiscard]] const std::vector<Loadwick::RecordedScan> &scans() const { return m_scans; }
+
+    /// The file's bytes; nothing when there is none.
+    [[nodiscard]] std::optional<std::string> bytes() const;
+    [[nodiscard]] bool isUntouched() const { return bytes() == m_oldBytes; }
+
+    /// What is wrong after one scan was to be recorded.
+    [[nodiscard]] std::optional<std::string>
+    problemAfterAppend(const std::optional<Fault> &fault) const;
+
+    /// What is wrong after the file was to be deleted.
+    [[nodiscard]] std::optional<std::string>
+    problemAfterClear(const std::optional<Fault> &fault) const;
+
+    /// Something else than the file in its folder.
+    [[nodiscard]] std::optional<std::string> leftovers() const;
+
+private:
+    [[nodiscard]] std::optional<std::string> problemOf(const std::string &bytes,
+                                                       const std::optional<Fault> &fault) const;
+
+    std::filesystem::path m_path;
+    std::vector<Loadwick::RecordedScan> m_scans;
+    std::optional<std::string> m_oldBytes;
+};
+
+/// A scan like the recorded ones, newer than they are.
+[[nodiscard]] Loadwick::RecordedScan sampleScan(int number);
+
+} // namespace Faults

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "faults/driver/Operation.h"
+
+namespace Faults {
+
+/// Every operation of the core.
+[[nodiscard]] std::vector<OperationKind> allOperations();
+
+/// Lets every call of every operation fail, one after the other, and counts.
+class Matrix
+{
+public:
+    /// Which part of it is run.
+    struct Extent
+    {
+        std::optional<std::string> operation = {}; ///< all when absent
+        std::optional<unsigned> sampleSeed = {};   ///< everything when absent
+        std::size_t sampleSize = 12;               ///< faults for each operation and kind of call
+    };
+
+    struct Score
+    {
+        long trials = 0;
+        long failedCalls = 0;
+        std::vector<std::string> problems; ///< one line each, which begins with what to replay
+    };
+
+    explicit Matrix(std::filesystem::path workFolder);
+
+    [[nodiscard]] Score run(const Extent &extent);
+
+    /// One fault; says on standard output how it went.
+    [[nodiscard]] bool replay(const Fault &fault);
+
+private:
+    void runAll(const OperationKind &kind, const Tally &counted);
+    void runSample(const OperationKind &kind, const Tally &counted, const Extent &extent);
+    [[nodiscard]] bool fails(const OperationKind &kind, const Fault &fault);
+    [[nodiscard]] Tally countedIn(const OperationKind &kind);
+
+    std::filesystem::path m_workFolder;
+    Score m_score;
+};
+
+} // namespace Faults

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "faults/driver/Fault.h"
+
+namespace Faults {
+
+/// How an operation came back.
+enum class Ending
+{
+    returned,
+    probeError,
+    systemError,
+    outOfMemory,
+    otherwise ///< with an exception of no type that an operation may end with
+};
+
+/// One thing that the core does, over files of its own in a throw-away home.
+class Operation
+{
+public:
+    virtual ~Operation() = default;
+
+    /// Does it, once, while calls fail.
+    virtual void perform() = 0;
+
+    /// What is wrong with how it went, if anything is. `fault` is absent when nothing was made to
+    /// fail: only complete success is right then.
+    [[nodiscard]] virtual std::optional<std::string>
+    problem(Ending ending, const std::optional<Fault> &fault) const = 0;
+};
+
+/// How to make an operation in an empty home folder, before any call fails.
+struct OperationKind
+{
+    std::string_view name;
+    std::unique_ptr<Operation> (*make)(const std::filesystem::path &home);
+    std::string_view watched = {}; ///< only calls on this path in the home fail; empty for all
+    bool isThreaded = false;       ///< memory is wanted in the background only
+};
+
+/// Those on the history file, on other files, on processes, and the whole scan.
+[[nodiscard]] std::span<const OperationKind> historyOperations();
+[[nodiscard]] std::span<const OperationKind> readingOperations();
+[[nodiscard]] std::span<const OperationKind> processOperations();
+[[nodiscard]] std::span<const OperationKind> scanOperations();
+
+} // namespace Faults

@@ -1,0 +1,37 @@
+#include "faults/driver/QueueDispatcher.h"
+
+#include <thread>
+#include <utility>
+
+#include "probe/Deadline.h"
+
+namespace Faults {
+
+void QueueDispatcher::runInBackground(Task task)
+{
+    std::thread([task = std::move(task)] { task(); }).detach();
+}
+
+void QueueDispatcher::postToInterface(Task task)
+{
+    const std::lock_guard lock(m_mutex);
+    m_tasks.push_back(std::move(task));
+    m_posted.notify_all();
+}
+
+bool QueueDispatcher::runUntil(const std::function<bool()> &holds, double limitSeconds)
+{
+    const Loadwick::Deadline deadline = Loadwick::deadlineAfter(limitSeconds);
+    while (!holds()) {
+        std::unique_lock lock(m_mutex);
+        if (!m_posted.wait_until(lock, deadline, [this] { return !m_tasks.empty(); }))
+            return false;
+        const Task task = std::move(m_tasks.front());
+        m_tasks.pop_front();
+        lock.unlock();
+        task();
+    }
+    return true;
+}
+
+} // namespace Faults

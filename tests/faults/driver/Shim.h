@@ -1,0 +1,16 @@
+#pragma once
+
+#include "faults/shim/FaultPlan.h"
+
+/// The preloaded library, as the driver reaches it.
+namespace Faults::Shim {
+
+/// Starts this program anew with the library preloaded, unless it is there. What the program starts
+/// later does not get it.
+void require(char **arguments);
+
+void arm(const Plan &plan);
+[[nodiscard]] Tally disarm();
+void shiftClock(long seconds);
+
+} // namespace Faults::Shim

@@ -1,0 +1,78 @@
+// Lets every call of the core that can fail, fail, and looks at what is left.
+//
+//   loadwick-faults                       the whole matrix
+//   loadwick-faults --sample SEED         a part of it, the same for the same seed
+//   loadwick-faults --operation NAME      one operation
+//   loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,once|always|burst
+
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "faults/driver/Matrix.h"
+#include "faults/driver/Shim.h"
+#include "support/TemporaryFolder.h"
+
+namespace {
+
+using Faults::Matrix;
+
+int usage()
+{
+    std::cerr << "usage: loadwick-faults [--sample SEED] [--operation NAME]\n"
+                 "       loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,MODE\n";
+    return 2;
+}
+
+int replay(const std::string &text)
+{
+    const auto fault = Faults::Fault::fromText(text);
+    if (!fault)
+        return usage();
+    const Loadwick::TemporaryFolder folder;
+    return Matrix(folder.path()).replay(*fault) ? 0 : 1;
+}
+
+int runMatrix(const Matrix::Extent &extent)
+{
+    const Loadwick::TemporaryFolder folder;
+    const auto start = std::chrono::steady_clock::now();
+    const Matrix::Score score = Matrix(folder.path()).run(extent);
+    const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
+    for (const std::string &problem : score.problems)
+        std::cout << "PROBLEM " << problem << '\n';
+    if (extent.sampleSeed)
+        std::cout << "sample with seed " << *extent.sampleSeed << ": ";
+    std::cout << score.failedCalls << " calls failed in " << score.trials << " trials, "
+              << score.problems.size() << " problems, " << static_cast<int>(duration.count())
+              << " s\n";
+    return score.problems.empty() && score.failedCalls > 0 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int count, char **texts)
+{
+    Faults::Shim::require(texts);
+    const std::vector<std::string> arguments(texts + 1, texts + count);
+    Matrix::Extent extent;
+    if (arguments.size() % 2 != 0)
+        return usage();
+    for (std::size_t index = 0; index < arguments.size(); index += 2) {
+        const std::string &value = arguments[index + 1];
+        if (arguments[index] == "--replay")
+            return replay(value);
+        if (arguments[index] == "--sample")
+            extent.sampleSeed = static_cast<unsigned>(std::stoul(value));
+        else if (arguments[index] == "--operation")
+            extent.operation = value;
+        else
+            return usage();
+    }
+    return runMatrix(extent);
+}

@@ -1,0 +1,88 @@
+#include "faults/shim/Decision.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace Faults {
+
+namespace {
+
+// Threads of the program come here at any time; the plan changes only while none of them works.
+Plan thePlan;
+std::atomic<bool> isArmed = false;
+std::array<std::atomic<long>, callKinds> matched;
+std::atomic<long> failed = 0;
+
+bool isSpared() noexcept
+{
+    return thePlan.inBackgroundOnly && gettid() == getpid();
+}
+
+bool isOfInterest(const char *path) noexcept
+{
+    const std::size_t length = std::strlen(thePlan.path.data());
+    return length == 0 || (path != nullptr && std::strncmp(path, thePlan.path.data(), length) == 0);
+}
+
+bool decide(Call call) noexcept
+{
+    const long number = ++matched[static_cast<std::size_t>(call)];
+    if (thePlan.errorNumber == 0 || call != thePlan.call || number < thePlan.first ||
+        number - thePlan.first >= thePlan.count)
+        return false;
+    ++failed;
+    errno = thePlan.errorNumber;
+    return true;
+}
+
+} // namespace
+
+bool fails(Call call) noexcept
+{
+    return isArmed.load() && thePlan.path[0] == '\0' && !isSpared() && decide(call);
+}
+
+bool fails(Call call, const char *path) noexcept
+{
+    return isArmed.load() && !isSpared() && isOfInterest(path) && decide(call);
+}
+
+bool fails(Call call, int descriptor) noexcept
+{
+    if (!isArmed.load() || isSpared())
+        return false;
+    if (thePlan.path[0] == '\0')
+        return decide(call);
+    std::array<char, 64> name{};
+    std::array<char, 4096> path{};
+    std::snprintf(name.data(), name.size(), "/proc/self/fd/%d", descriptor);
+    const int before = errno;
+    const long length = syscall(SYS_readlink, name.data(), path.data(), path.size() - 1);
+    errno = before;
+    return length > 0 && isOfInterest(path.data()) && decide(call);
+}
+
+} // namespace Faults
+
+void loadwickArmFaults(const Faults::Plan *plan)
+{
+    Faults::isArmed = false;
+    Faults::thePlan = *plan;
+    for (auto &count : Faults::matched)
+        count = 0;
+    Faults::failed = 0;
+    Faults::isArmed = true;
+}
+
+void loadwickDisarmFaults(Faults::Tally *tally)
+{
+    Faults::isArmed = false;
+    for (std::size_t kind = 0; kind < Faults::callKinds; ++kind)
+        tally->matched[kind] = Faults::matched[kind];
+    tally->failed = Faults::failed;
+}

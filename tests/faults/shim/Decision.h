@@ -1,0 +1,21 @@
+#pragma once
+
+#include <dlfcn.h>
+
+#include "faults/shim/FaultPlan.h"
+
+namespace Faults {
+
+/// Whether this call is to fail; `errno` is set then. Allocates nothing.
+[[nodiscard]] bool fails(Call call) noexcept;
+[[nodiscard]] bool fails(Call call, const char *path) noexcept;
+[[nodiscard]] bool fails(Call call, int descriptor) noexcept;
+
+/// The function that ours stands in front of.
+template<typename Function>
+[[nodiscard]] Function *behind(Function & /*ours*/, const char *name) noexcept
+{
+    return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace Faults
