@@ -123,7 +123,7 @@ void writeScan(JsonWriter &writer, const RecordedScan &scan)
 
 std::optional<ScanHistoryFile> ScanHistoryFile::decoded(std::string_view json)
 {
-    const std::optional<Json> object = jsonObject(json, {"scans", "version"});
+    const std::optional<JsonTree> object = jsonObject(json, {"scans", "version"});
     if (!object)
         return std::nullopt;
     const auto fileVersion = exactInteger(member(*object, "version"));

@@ -39,28 +39,30 @@ std::optional<std::string> bytesOf(const fs::path &path, RegularFile::Failure &f
     return file->readUpTo(ScanHistoryStore::maximumBytes + 1, &failure);
 }
 
-/// A history that cannot be read is overwritten by the next scan; a fault that passes must not cost
-/// the user the history.
-std::optional<std::string> patientlyReadBytesOf(const fs::path &path)
+std::vector<RecordedScan> scansIn(const std::string &bytes)
 {
-    for (int attempt = 1;; ++attempt) {
-        RegularFile::Failure failure;
-        std::optional<std::string> bytes = bytesOf(path, failure);
-        if (bytes || attempt == attempts || !isPassing(failure.errorNumber))
-            return bytes;
-        std::this_thread::sleep_for(pause);
-    }
-}
-
-std::vector<RecordedScan> scansIn(const fs::path &path)
-{
-    const std::optional<std::string> bytes = patientlyReadBytesOf(path);
-    if (!bytes || bytes->size() > ScanHistoryStore::maximumBytes)
+    if (bytes.size() > ScanHistoryStore::maximumBytes)
         return {};
-    std::optional<ScanHistoryFile> file = ScanHistoryFile::decoded(*bytes);
+    std::optional<ScanHistoryFile> file = ScanHistoryFile::decoded(bytes);
     if (!file || file->version != ScanHistoryStore::schemaVersion)
         return {};
     return std::move(file->scans);
+}
+
+/// A history that cannot be read is overwritten by the next scan; a fault that passes must not cost
+/// the user the history. Nothing when such a fault does not pass in time: the scans are not known
+/// then. Throws `std::bad_alloc`.
+std::optional<std::vector<RecordedScan>> patientlyReadScansIn(const fs::path &path)
+{
+    for (int attempt = 1; attempt <= attempts; ++attempt) {
+        RegularFile::Failure failure;
+        if (const std::optional<std::string> bytes = bytesOf(path, failure))
+            return scansIn(*bytes);
+        if (!isPassing(failure.errorNumber))
+            return std::vector<RecordedScan>();
+        std::this_thread::sleep_for(pause);
+    }
+    return std::nullopt;
 }
 
 void order(std::vector<RecordedScan> &scans)
@@ -101,23 +103,31 @@ fs::path ScanHistoryStore::defaultDirectory(const Environment &environment)
 
 std::vector<RecordedScan> ScanHistoryStore::load() const
 {
-    try {
-        std::vector<RecordedScan> scans = scansIn(m_fileURL);
-        order(scans);
-        return scans;
-    } catch (const std::exception &) {
-        return {}; // a file too large for the memory at hand counts as unreadable
-    }
+    return knownScans().value_or(std::vector<RecordedScan>());
 }
 
 std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan)
 {
-    std::vector<RecordedScan> scans = load();
-    scans.push_back(scan);
-    order(scans);
-    keepNewest(scans);
-    write(scans);
-    return scans;
+    std::optional<std::vector<RecordedScan>> known = knownScans();
+    if (!known)
+        return {scan};
+    known->push_back(scan);
+    order(*known);
+    keepNewest(*known);
+    write(*known);
+    return std::move(*known);
+}
+
+std::optional<std::vector<RecordedScan>> ScanHistoryStore::knownScans() const
+{
+    try {
+        std::optional<std::vector<RecordedScan>> scans = patientlyReadScansIn(m_fileURL);
+        if (scans)
+            order(*scans);
+        return scans;
+    } catch (const std::exception &) {
+        return std::nullopt; // no memory for them
+    }
 }
 
 void ScanHistoryStore::write(const std::vector<RecordedScan> &scans) const
@@ -134,7 +144,11 @@ void ScanHistoryStore::write(const std::vector<RecordedScan> &scans) const
 
 void ScanHistoryStore::clear()
 {
-    AtomicFile::remove(m_fileURL);
+    try {
+        AtomicFile::remove(m_fileURL);
+    } catch (const std::exception &) {
+        // no memory for its path: like one that cannot be deleted, the file stays
+    }
 }
 
 } // namespace Loadwick

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -12,9 +13,10 @@
 namespace Loadwick {
 
 /// Owns the history file. Keeps no list between calls: each one reads the file afresh. Reports no
-/// error: an unreadable history is an empty one, and a failed write leaves the old file.
-/// A history file that is a link is read and written through it.
-/// Belongs to the interface thread; two programs writing at once overwrite each other, but whole.
+/// error: an unreadable history is an empty one, and a failed write leaves the old file. A want
+/// that passes (of memory, of descriptors) makes no history unreadable. A history file that is a
+/// link is read and written through it. Belongs to the interface thread; two programs writing at
+/// once overwrite each other, but whole.
 class ScanHistoryStore
 {
 public:
@@ -39,7 +41,9 @@ public:
     [[nodiscard]] std::vector<RecordedScan> load() const;
 
     /// Adds a scan, keeps the newest `maximumScans`, writes the file and gives the list as it was
-    /// meant to be written, whether or not writing succeeded.
+    /// meant to be written, whether or not writing succeeded. While a want that passes keeps the
+    /// recorded scans from being read, nothing is written, and the list holds `scan` alone. Throws
+    /// `std::bad_alloc`, and leaves the old file, when there is no memory for the list itself.
     [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan);
 
     /// Deletes the file; when that is a link, what it leads to, so that nothing recorded is left
@@ -47,6 +51,8 @@ public:
     void clear();
 
 private:
+    /// Nothing when a want that passes keeps them from being read.
+    [[nodiscard]] std::optional<std::vector<RecordedScan>> knownScans() const;
     void write(const std::vector<RecordedScan> &scans) const;
 
     std::filesystem::path m_directory;

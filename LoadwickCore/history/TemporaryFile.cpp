@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "probe/PosixFileSystem.h"
+
 namespace Loadwick {
 
 namespace {
@@ -90,14 +92,12 @@ void TemporaryFile::removeAbandoned(const std::filesystem::path &target)
 {
     const std::string prefix = prefixFor(target);
     const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
-    std::error_code failure;
-    std::filesystem::directory_iterator entry(folder, failure);
-    for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
-        std::error_code unknown;
-        if (isAbandonedName(entry->path().filename().native(), prefix) &&
-            entry->symlink_status(unknown).type() == std::filesystem::file_type::regular)
-            removeIfUnlocked(entry->path());
-    }
+    // The standard library's walk through a folder ends the program when memory runs out.
+    PosixFileSystem().list(folder, [&](const std::string &name, FileSystem::EntryKind kind) {
+        if (kind == FileSystem::EntryKind::file && isAbandonedName(name, prefix))
+            removeIfUnlocked(folder / name);
+        return FileSystem::Walk::goOn;
+    });
 }
 
 TemporaryFile::TemporaryFile(FileDescriptor descriptor, std::string path) noexcept

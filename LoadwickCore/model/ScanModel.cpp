@@ -1,5 +1,7 @@
 #include "model/ScanModel.h"
 
+#include <new>
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -103,9 +105,14 @@ void ScanModel::Internals::makeReport(const RepoSelection &chosen, const ProbeRe
 void ScanModel::Internals::succeed(const ScanReport &report)
 {
     end(ScanState::result(report));
-    if (historyStore)
+    if (!historyStore)
+        return;
+    try {
         history.set(
             historyStore->append(RecordedScan::fromReport(report, m_now(), Uuid::random())));
+    } catch (const std::bad_alloc &) {
+        // Not recorded: what was recorded before stays, on the disk and on the pages.
+    }
 }
 
 void ScanModel::Internals::end(ScanState outcome)
@@ -117,19 +124,23 @@ void ScanModel::Internals::end(ScanState outcome)
 template<typename Stage, typename Next>
 void ScanModel::Internals::run(Stage stage, Next next)
 {
-    auto task = [stage, next, dispatcher = m_dispatcher, weak = weak_from_this()]() mutable {
-        dispatcher->postToInterface([weak, next, outcome = scanOutcomeOf(stage)]() mutable {
+    try {
+        // All that brings the outcome back is made here: behind the stage there may be no memory.
+        const auto outcome = std::make_shared<std::optional<decltype(scanOutcomeOf(stage))>>();
+        TaskDispatcher::Task arrival = [weak = weak_from_this(), next, outcome] {
             const std::shared_ptr<Internals> self = weak.lock();
             if (!self)
                 return;
-            if (auto *error = std::get_if<ProbeError>(&outcome))
+            if (auto *const error = std::get_if<ProbeError>(&**outcome))
                 self->end(ScanState::failed(std::move(*error)));
             else
-                next(*self, std::get<0>(outcome));
+                next(*self, std::get<0>(**outcome));
+        };
+        m_dispatcher->runInBackground([stage = std::move(stage), outcome, dispatcher = m_dispatcher,
+                                       arrival = std::move(arrival)]() mutable {
+            outcome->emplace(scanOutcomeOf(stage));
+            dispatcher->postToInterface(std::move(arrival));
         });
-    };
-    try {
-        m_dispatcher->runInBackground(std::move(task));
     } catch (const std::exception &error) {
         end(ScanState::failed(probeErrorFrom(error)));
     }

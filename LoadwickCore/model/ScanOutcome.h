@@ -14,10 +14,14 @@ namespace Loadwick {
 template<typename Value>
 using ScanOutcome = std::variant<Value, ProbeError>;
 
-/// What an exception says about itself, as the error of a scan.
-[[nodiscard]] inline ProbeError probeErrorFrom(const std::exception &error)
+/// What an exception says about itself, as the error of a scan. Never throws.
+[[nodiscard]] inline ProbeError probeErrorFrom(const std::exception &error) noexcept
 {
-    return ProbeError::unreadableOutput(repairedUtf8(error.what()));
+    try {
+        return ProbeError::unreadableOutput(repairedUtf8(error.what()));
+    } catch (const std::exception &) {
+        return ProbeError::unreadableOutput("out of memory"); // short enough to need none
+    }
 }
 
 /// Runs a stage. No exception leaves it: one that is no `ProbeError` counts as unreadable output.

@@ -50,10 +50,10 @@ nlohmann::json numberOf(std::string_view digits)
 } // namespace
 
 JsonReader::JsonReader(std::string_view document, const JsonSelection &selection)
-    : m_text(document), m_root{&m_result, &selection}
+    : m_text(document), m_root{&m_result.value(), &selection}
 {}
 
-std::optional<nlohmann::json> JsonReader::readObject()
+std::optional<JsonTree> JsonReader::readObject()
 {
     if (!take('{'))
         return std::nullopt;
@@ -107,7 +107,7 @@ bool JsonReader::readString(const Place &place)
 {
     const auto literal = takeStringLiteral();
     if (literal && place.slot != nullptr)
-        *place.slot = jsonStringText(*literal);
+        put(place, jsonStringText(*literal));
     return literal.has_value();
 }
 
@@ -116,8 +116,7 @@ bool JsonReader::readLiteral(std::string_view word, nlohmann::json value, const 
     if (m_text.substr(m_index, word.size()) != word)
         return false;
     m_index += word.size();
-    if (place.slot != nullptr)
-        *place.slot = std::move(value);
+    put(place, std::move(value));
     return true;
 }
 
@@ -136,8 +135,18 @@ bool JsonReader::readNumber(const Place &place)
             return false;
     }
     if (place.slot != nullptr)
-        *place.slot = numberOf(m_text.substr(start, m_index - start));
+        put(place, numberOf(m_text.substr(start, m_index - start)));
     return true;
+}
+
+/// What stands there already, as of a key that occurs twice, goes first, and without asking for
+/// memory.
+void JsonReader::put(const Place &place, nlohmann::json value) noexcept
+{
+    if (place.slot == nullptr)
+        return;
+    dismantle(*place.slot);
+    *place.slot = std::move(value);
 }
 
 std::optional<std::string_view> JsonReader::takeStringLiteral()
@@ -176,7 +185,10 @@ JsonReader::Place JsonReader::placeOfMember(std::string_view keyLiteral)
     if (selected == nullptr)
         return {};
     // The member takes the place of an earlier one of its name, whatever it holds.
-    container.slot->erase(key);
+    if (const auto earlier = container.slot->find(key); earlier != container.slot->end()) {
+        dismantle(*earlier);
+        container.slot->erase(earlier);
+    }
     const bool isContainer = next() == '{' || next() == '[';
     if (selected->isWhole() && !(selected->isScalar() && isContainer))
         return {&(*container.slot)[key], nullptr};
@@ -197,7 +209,7 @@ JsonReader::Place JsonReader::placeOfItem()
 bool JsonReader::open(bool isObject, const Place &place)
 {
     if (place.slot != nullptr) {
-        *place.slot = isObject ? nlohmann::json::object() : nlohmann::json::array();
+        put(place, isObject ? nlohmann::json::object() : nlohmann::json::array());
         m_kept.push_back(place);
     }
     m_isObject.push_back(isObject);

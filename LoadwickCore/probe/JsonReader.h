@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "probe/JsonSelection.h"
+#include "probe/JsonTree.h"
 
 namespace Loadwick {
 
@@ -23,7 +24,7 @@ public:
     JsonReader(std::string_view document, const JsonSelection &selection);
 
     /// The selected parts of the document; nothing when it is not JSON or no object. Call it once.
-    [[nodiscard]] std::optional<nlohmann::json> readObject();
+    [[nodiscard]] std::optional<JsonTree> readObject();
 
 private:
     /// Where a value goes, and what is wanted of it; a place without a slot drops it.
@@ -38,6 +39,7 @@ private:
     [[nodiscard]] bool readString(const Place &place);
     [[nodiscard]] bool readLiteral(std::string_view word, nlohmann::json value, const Place &place);
     [[nodiscard]] bool readNumber(const Place &place);
+    static void put(const Place &place, nlohmann::json value) noexcept;
     [[nodiscard]] std::optional<std::string_view> takeStringLiteral();
     [[nodiscard]] std::optional<Place> takeKey();
     [[nodiscard]] Place placeOfMember(std::string_view keyLiteral);
@@ -55,7 +57,7 @@ private:
     std::string_view m_text;
     std::size_t m_index = 0;
     Place m_root;
-    nlohmann::json m_result;
+    JsonTree m_result;
     std::vector<bool> m_isObject; // of every open container
     std::vector<Place> m_kept;    // the outermost open containers, as far as they are selected
     bool m_isAtFirst = true;      // nothing was read in the innermost container yet

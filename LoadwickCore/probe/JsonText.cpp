@@ -10,7 +10,7 @@ namespace Loadwick {
 
 namespace {
 
-std::optional<nlohmann::json> selectedPartsOf(std::string_view text, const JsonSelection &selection)
+std::optional<JsonTree> selectedPartsOf(std::string_view text, const JsonSelection &selection)
 {
     const std::string_view document = trimmed(text);
     if (!isUtf8(document))
@@ -20,14 +20,14 @@ std::optional<nlohmann::json> selectedPartsOf(std::string_view text, const JsonS
 
 } // namespace
 
-std::optional<nlohmann::json> jsonObject(std::string_view text,
-                                         std::initializer_list<std::string_view> keptPaths)
+std::optional<JsonTree> jsonObject(std::string_view text,
+                                   std::initializer_list<std::string_view> keptPaths)
 {
     return selectedPartsOf(text, JsonSelection::ofPaths(keptPaths));
 }
 
-std::optional<nlohmann::json> jsonObjectOfScalars(std::string_view text,
-                                                  std::initializer_list<std::string_view> keptPaths)
+std::optional<JsonTree> jsonObjectOfScalars(std::string_view text,
+                                            std::initializer_list<std::string_view> keptPaths)
 {
     return selectedPartsOf(text, JsonSelection::ofPaths(keptPaths, JsonSelection::Values::scalars));
 }

@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "probe/JsonTree.h"
+
 namespace Loadwick {
 
 /// Reads `text` as one JSON document (RFC 8259, strict UTF-8; white space around it is allowed) and
@@ -14,12 +16,12 @@ namespace Loadwick {
 /// keys joined by dots ("message.usage"); what stands at a path is kept whole, all else is checked
 /// and dropped, so that the memory used does not grow with what nobody asked for. Of a key that
 /// occurs twice the last one wins. Nothing when the text is not JSON or its top level no object.
-[[nodiscard]] std::optional<nlohmann::json>
-jsonObject(std::string_view text, std::initializer_list<std::string_view> keptPaths);
+[[nodiscard]] std::optional<JsonTree> jsonObject(std::string_view text,
+                                                 std::initializer_list<std::string_view> keptPaths);
 
 /// The same for paths at which texts, numbers and Booleans are looked for: an array or object that
 /// stands there counts as absent, so that the memory used does not grow with it either.
-[[nodiscard]] std::optional<nlohmann::json>
+[[nodiscard]] std::optional<JsonTree>
 jsonObjectOfScalars(std::string_view text, std::initializer_list<std::string_view> keptPaths);
 
 /// The member of an object, or null when `object` is no object or has no such key.

@@ -22,7 +22,7 @@ constexpr std::array<std::string_view, 4> signInComplaints{
 constexpr std::size_t pieceSize = 65536;
 constexpr std::size_t sharedSize = 128;
 
-std::optional<nlohmann::json> recordIn(std::string_view standardOutput)
+std::optional<JsonTree> recordIn(std::string_view standardOutput)
 {
     return jsonObjectOfScalars(standardOutput,
                                {"session_id", "result", "is_error", "usage.input_tokens",
@@ -84,10 +84,10 @@ ProbeOutput parse(std::string_view standardOutput, std::string_view standardErro
     auto object = recordIn(standardOutput);
     if (!object)
         throw failureWithoutObject(standardOutput, standardError, exitCode);
-    std::string result = takeText(*object, "result");
+    std::string result = takeText(object->value(), "result");
     if (reportsError(*object))
         throw failureReportedAs(std::move(result));
-    std::string sessionID = takeText(*object, "session_id");
+    std::string sessionID = takeText(object->value(), "session_id");
     if (sessionID.empty())
         throw unreadable(standardOutput);
     const nlohmann::json *const usage = member(*object, "usage");

@@ -4,6 +4,18 @@
 
 namespace Loadwick {
 
+namespace {
+
+/// Comparing the value itself with a text would ask for memory where there is no way to say that
+/// there is none.
+bool isText(const nlohmann::json *value, std::string_view text)
+{
+    const auto *const found = value == nullptr ? nullptr : value->get_ptr<const std::string *>();
+    return found != nullptr && *found == text;
+}
+
+} // namespace
+
 std::optional<ProbeUsage> TranscriptPieces::take(std::string_view piece)
 {
     for (std::size_t end = piece.find('\n'); end != std::string_view::npos;
@@ -25,7 +37,7 @@ std::optional<ProbeUsage> TranscriptPieces::usageInLine(std::string_view line)
         return std::nullopt;
     const nlohmann::json *const type = member(*record, "type");
     const nlohmann::json *const message = member(*record, "message");
-    if (type == nullptr || *type != "assistant" || message == nullptr)
+    if (!isText(type, "assistant") || message == nullptr)
         return std::nullopt;
     const nlohmann::json *const usage = member(*message, "usage");
     return usage != nullptr ? ProbeUsage::from(*usage) : std::nullopt;

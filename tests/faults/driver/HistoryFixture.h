@@ -43,10 +43,11 @@ public:
     /// Something else than the file in its folder.
     [[nodiscard]] std::optional<std::string> leftovers() const;
 
-private:
+    /// What is wrong with a changed file of these bytes: it is the old scans and a new one, whole.
     [[nodiscard]] std::optional<std::string> problemOf(const std::string &bytes,
                                                        const std::optional<Fault> &fault) const;
 
+private:
     std::filesystem::path m_path;
     std::vector<Loadwick::RecordedScan> m_scans;
     std::optional<std::string> m_oldBytes;

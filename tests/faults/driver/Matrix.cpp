@@ -92,7 +92,9 @@ void Matrix::runSample(const OperationKind &kind, const Tally &counted, const Ex
             for (; fault.nth <= countOf(counted, refusals.call); ++fault.nth)
                 faults.push_back(fault);
         std::shuffle(faults.begin(), faults.end(), random);
-        faults.resize(std::min(faults.size(), extent.sampleSize));
+        // There is one kind of refused memory, and hundreds of places that ask for it.
+        const std::size_t size = extent.sampleSize * (refusals.call == Call::malloc ? 6 : 1);
+        faults.resize(std::min(faults.size(), size));
         for (const Fault &fault : faults)
             (void)fails(kind, fault);
     }

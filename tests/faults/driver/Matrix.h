@@ -21,7 +21,7 @@ public:
     {
         std::optional<std::string> operation = {}; ///< all when absent
         std::optional<unsigned> sampleSeed = {};   ///< everything when absent
-        std::size_t sampleSize = 12;               ///< faults for each operation and kind of call
+        std::size_t sampleSize = 8;                ///< faults for each operation and kind of call
     };
 
     struct Score

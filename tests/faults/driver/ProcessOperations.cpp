@@ -33,6 +33,7 @@ public:
         SampleHome::writeProgram(m_launch.cli,
                                  "#!/bin/sh\nprintf said\nprintf warned >&2\nexit 3\n");
         m_launch.repository = home;
+        m_launch.environment = Loadwick::currentEnvironment();
     }
 
     void perform() override

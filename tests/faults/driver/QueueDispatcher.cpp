@@ -15,7 +15,8 @@ void QueueDispatcher::runInBackground(Task task)
 void QueueDispatcher::postToInterface(Task task)
 {
     const std::lock_guard lock(m_mutex);
-    m_tasks.push_back(std::move(task));
+    m_spare.front() = std::move(task);
+    m_tasks.splice(m_tasks.end(), m_spare, m_spare.begin());
     m_posted.notify_all();
 }
 

@@ -23,6 +23,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_posted;
     std::list<Task> m_tasks;
+    std::list<Task> m_spare = std::list<Task>(16); ///< posting needs no memory
 };
 
 } // namespace Faults

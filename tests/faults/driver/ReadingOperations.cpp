@@ -43,8 +43,8 @@ public:
             if (!isOurs(file.path) || file.byteCount == 0)
                 return "a file that is not there: " + file.path;
         for (const std::string &path : m_found.unreadablePaths)
-            if (!isOurs(path))
-                return "unreadable, but not there: " + path;
+            if (!path.starts_with(m_home.native()))
+                return "unreadable, but never looked for: " + path;
         if (!fault && m_found.allFiles().size() != names.size())
             return "files are missing";
         return std::nullopt;

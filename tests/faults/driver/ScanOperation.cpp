@@ -20,8 +20,7 @@ using Loadwick::ScanState;
 /// The program's own settings, but for the waits, and for a search that never leaves the home.
 Loadwick::ProbeRunner::Settings settingsIn(const fs::path &home)
 {
-    const Loadwick::Environment environment{{"HOME", home.native()}};
-    auto settings = Loadwick::ProbeRunner::userSettings(environment, nullptr);
+    auto settings = Loadwick::ProbeRunner::userSettings(Loadwick::currentEnvironment(), nullptr);
     settings.transcriptRetries = 3;
     settings.transcriptRetryDelay = 0.001;
     settings.timeoutSeconds = 20;

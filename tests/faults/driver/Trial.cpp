@@ -83,10 +83,10 @@ struct Report
 
 Report performed(const Trial &trial, const fs::path &home)
 {
-    const std::unique_ptr<Operation> operation = trial.kind.make(home);
-    const Plan plan = planOf(trial, home);
     if (trial.before)
         trial.before();
+    const std::unique_ptr<Operation> operation = trial.kind.make(home);
+    const Plan plan = planOf(trial, home);
     const Loadwick::ProcessCensus census = Loadwick::ProcessCensus::now();
     std::exception_ptr thrown;
     Shim::arm(plan);
@@ -108,8 +108,9 @@ Report performed(const Trial &trial, const fs::path &home)
 {
     if (trial.fault && getenv("LOADWICK_FAULTS_LOUD") == nullptr)
         dup2(open("/dev/null", O_WRONLY | O_CLOEXEC), STDERR_FILENO);
+    clearenv();
     setenv("HOME", home.c_str(), 1);
-    setenv("XDG_DATA_HOME", (home / ".local/share").c_str(), 1);
+    setenv("PATH", "/usr/bin:/bin", 1);
     const Report report = performed(trial, home);
     const ssize_t written = write(pipe.writeEnd.number(), &report, sizeof report);
     _exit(written == sizeof report ? 0 : 1);

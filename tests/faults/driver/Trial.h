@@ -14,7 +14,7 @@ struct Trial
 {
     const OperationKind &kind;
     std::optional<Fault> fault = {};
-    /// Run in the child before and after the operation.
+    /// Run in the child, before anything is made ready and when the operation is over.
     std::function<void()> before = {};
     std::function<void()> after = {};
     /// Run in the parent once the child has started.

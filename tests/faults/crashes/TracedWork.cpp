@@ -1,0 +1,70 @@
+#include "faults/crashes/TracedWork.h"
+
+#include <csignal>
+
+#include <sys/ptrace.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "probe/Fatal.h"
+
+namespace Faults {
+
+namespace {
+
+constexpr int gateOfSystemCall = SIGTRAP | 0x80; // with PTRACE_O_TRACESYSGOOD
+
+int statusOf(pid_t child)
+{
+    int status = 0;
+    if (waitpid(child, &status, 0) != child)
+        Loadwick::fatalError("a traced child is lost");
+    return status;
+}
+
+/// Lets the child run to its next stop, handing it the signal that it was stopped by.
+int statusAtNextStop(pid_t child, int status)
+{
+    const bool isOwnSignal = WSTOPSIG(status) != gateOfSystemCall && WSTOPSIG(status) != SIGSTOP;
+    const long signal = isOwnSignal ? WSTOPSIG(status) : 0;
+    if (ptrace(PTRACE_SYSCALL, child, nullptr, signal) != 0)
+        Loadwick::fatalError("a traced child cannot go on");
+    return statusOf(child);
+}
+
+pid_t startStopped(const std::function<void()> &work)
+{
+    const pid_t child = fork();
+    if (child < 0)
+        Loadwick::fatalError("no process to trace");
+    if (child == 0) {
+        if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
+            _exit(3);
+        raise(SIGSTOP);
+        work();
+        _exit(0);
+    }
+    return child;
+}
+
+} // namespace
+
+bool isKilledAt(long stop, const std::function<void()> &work)
+{
+    const pid_t child = startStopped(work);
+    int status = statusOf(child);
+    if (!WIFSTOPPED(status))
+        Loadwick::fatalError("this system lets nobody trace its own children");
+    ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
+    for (long gate = 0; gate < stop;) {
+        status = statusAtNextStop(child, status);
+        if (!WIFSTOPPED(status))
+            return false;
+        gate += WSTOPSIG(status) == gateOfSystemCall ? 1 : 0;
+    }
+    kill(child, SIGKILL);
+    statusOf(child);
+    return true;
+}
+
+} // namespace Faults

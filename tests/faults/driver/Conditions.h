@@ -1,0 +1,26 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <span>
+#include <string_view>
+
+namespace Faults {
+
+/// A state of the world around a process in which everything must still succeed.
+struct Condition
+{
+    std::string_view name;
+    void (*begin)();
+    void (*end)() = nullptr;
+    /// From outside, once the process has begun.
+    void (*disturb)(int processID) = nullptr;
+};
+
+[[nodiscard]] std::span<const Condition> conditions();
+
+/// Performs every operation under every condition; the number of those that went wrong. Says on
+/// standard output which.
+[[nodiscard]] long runUnderConditions(const std::filesystem::path &workFolder);
+
+} // namespace Faults
