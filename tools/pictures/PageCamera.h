@@ -4,8 +4,10 @@
 #include <string>
 
 #include <QImage>
+#include <QQuickItem>
 #include <QQuickWindow>
-#include <QSize>
+
+#include "demo/window/PictureFolder.h"
 
 namespace Loadwick {
 
@@ -23,12 +25,10 @@ public:
     void take(const std::string &name) const;
 
 private:
-    void takeAt(const QSize &size, const std::string &name) const;
     [[nodiscard]] QImage wholePage(const QQuickItem &viewport) const;
-    void save(const QImage &picture, const std::string &name) const;
 
     QQuickWindow &m_window;
-    std::filesystem::path m_folder;
+    PictureFolder m_folder;
 };
 
 } // namespace Loadwick

@@ -3,7 +3,9 @@
 #include <filesystem>
 #include <string>
 
-#include "shell/LoadwickWindow.h"
+#include <QQuickWindow>
+
+#include "demo/window/PictureFolder.h"
 
 namespace Loadwick {
 
@@ -20,10 +22,8 @@ public:
     void take(const std::string &state) const;
 
 private:
-    void save(const std::string &name) const;
-
     QQuickWindow &m_window;
-    std::filesystem::path m_folder;
+    PictureFolder m_folder;
 };
 
 } // namespace Loadwick
