@@ -35,11 +35,27 @@ std::vector<Scene> scenesNamed(const Names &names)
     return scenes;
 }
 
+void printNames(std::ostream &stream)
+{
+    stream << "There are:\n  " << WalkThrough::name << '\n';
+    for (const Scene &scene : allScenes())
+        stream << "  " << scene.name() << '\n';
+}
+
+int help()
+{
+    std::cout
+        << "Usage: loadwick-report-pictures FOLDER [NAME...]\n"
+           "Writes pictures of the pages into the folder, all or those whose names begin with "
+           "a NAME.\n";
+    printNames(std::cout);
+    return 0;
+}
+
 int failure(const std::string &line)
 {
-    std::cerr << line << "\nThere are:\n  " << WalkThrough::name << '\n';
-    for (const Scene &scene : allScenes())
-        std::cerr << "  " << scene.name() << '\n';
+    std::cerr << line << '\n';
+    printNames(std::cerr);
     return 2;
 }
 
@@ -71,6 +87,10 @@ int main(int argc, char *argv[])
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (arguments.empty())
         return failure("Name the folder to write the pictures into.");
+    if (arguments.front() == "--help")
+        return help();
+    if (arguments.front().starts_with('-'))
+        return failure("There are no options but --help.");
     const Names names(arguments.begin() + 1, arguments.end());
     const std::vector<Scene> scenes = scenesNamed(names);
     const bool walksThrough = isWanted(WalkThrough::name, names);
