@@ -6,11 +6,11 @@
 namespace Loadwick {
 namespace {
 
-// The locale writes a minus sign by itself, but no plus sign.
-QString signedText(std::int64_t delta, const TextLocale &locale)
+// Only growth has a plus sign; a direction that its delta does not bear out gets none.
+QString changeText(std::int64_t delta, const TextLocale &locale)
 {
-    const QString figures = qtText(NumberText::grouped(delta, locale));
-    return delta > 0 ? QStringLiteral("+") + figures : figures;
+    return qtText(delta > 0 ? NumberText::groupedChange(delta, locale)
+                            : NumberText::grouped(delta, locale));
 }
 
 } // namespace
@@ -21,11 +21,12 @@ TrendMark TrendMark::of(std::optional<TrendDirection> trend, std::optional<std::
     const TrendMark first{TrendKind::FirstScan, tr("First scan"), {}};
     if (!trend || !delta)
         return first;
+    const QString change = changeText(*delta, locale);
     switch (*trend) {
     case TrendDirection::up:
-        return {TrendKind::Grew, signedText(*delta, locale), QStringLiteral("arrow.up.right")};
+        return {TrendKind::Grew, change, QStringLiteral("arrow.up.right")};
     case TrendDirection::down:
-        return {TrendKind::Shrank, signedText(*delta, locale), QStringLiteral("arrow.down.right")};
+        return {TrendKind::Shrank, change, QStringLiteral("arrow.down.right")};
     case TrendDirection::flat:
         return {TrendKind::Unchanged, QStringLiteral("±0"), QStringLiteral("equal")};
     }

@@ -38,13 +38,7 @@ RowLayout {
         maximumLineCount: cells.narrow ? 2 : 1
         elide: Text.ElideRight
 
-        HoverHandler { id: pointer }
-        // Most names fit, and a tool tip costs more than all of the row.
-        Loader {
-            active: pointer.hovered && name.truncated
-            source: "CellToolTip.qml"
-            onLoaded: (item as CellToolTip).words = name.text
-        }
+        HoverTip { words: name.truncated ? name.text : "" }
     }
     PlainLabel {
         objectName: "tokens"
