@@ -38,7 +38,6 @@ StatePlaceholder {
             text: placeholder.detail
             secondary: true
             horizontalAlignment: placeholder.detail.includes("\n") ? TextEdit.AlignLeft : TextEdit.AlignHCenter
-            ground: AppTheme.window
         }
     }
 }

@@ -13,10 +13,10 @@ Item {
     property int horizontalAlignment: TextEdit.AlignLeft
     // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
     property int maximumLineCount: 0
-    // The ground it stands on, for the dots that end a text cut short.
-    property color ground: AppTheme.surface
     readonly property real lineSpacing: edit.contentHeight / Math.max(1, edit.lineCount)
     readonly property bool truncated: maximumLineCount > 0 && edit.lineCount > maximumLineCount
+    // While it is read with the keyboard or selected, the text itself shows and not its short form.
+    readonly property bool isCutShort: truncated && !edit.activeFocus
 
     implicitWidth: edit.implicitWidth
     implicitHeight: truncated ? Math.ceil(lineSpacing * maximumLineCount)
@@ -40,6 +40,8 @@ Item {
             horizontalAlignment: control.horizontalAlignment
             font: control.font
             color: control.color
+            // Not hidden, which would keep the pointer and the focus away.
+            opacity: control.isCutShort ? 0 : 1
             selectionColor: AppTheme.accent
             selectedTextColor: AppTheme.accentText
 
@@ -51,23 +53,19 @@ Item {
 
             HoverHandler { cursorShape: Qt.IBeamCursor }
         }
+    }
 
-        Rectangle {
-            anchors { right: parent.right; bottom: parent.bottom }
-            width: dots.width + AppTheme.tightSpace
-            height: dots.height
-            color: control.ground
-            visible: control.truncated && !edit.activeFocus
-
-            PlainLabel {
-                id: dots
-                anchors.right: parent.right
-                text: "…"
-                font: control.font
-                color: control.color
-                Accessible.ignored: true
-            }
-        }
+    PlainLabel {
+        objectName: "short"
+        anchors.fill: parent
+        text: control.truncated ? control.text : ""
+        font: control.font
+        color: control.color
+        wrapMode: Text.WrapAnywhere
+        elide: Text.ElideRight
+        maximumLineCount: Math.max(1, control.maximumLineCount)
+        visible: control.isCutShort
+        Accessible.ignored: true
     }
 
     ShortcutPass { item: edit }

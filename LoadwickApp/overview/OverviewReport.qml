@@ -26,7 +26,6 @@ PageColumn {
                 text: page.overview.repositoryPath
                 font: AppTheme.captionFont
                 secondary: true
-                ground: AppTheme.window
             }
         }
         StatusPill {

@@ -32,7 +32,6 @@ ColumnLayout {
         font: AppTheme.captionFont
         secondary: true
         maximumLineCount: 2
-        ground: AppTheme.sidebar
         visible: repository.content.hasRepository
 
         HoverHandler { id: pointer }

@@ -52,6 +52,33 @@ Item {
             compare(edit(path).selectedText, path.text);
         }
 
+        function shortForm(item) {
+            return findChild(item, "short");
+        }
+
+        function test_dotsStandForWhatIsLeftOut() {
+            edit(plain).forceActiveFocus();
+            verify(shortForm(path).visible);
+            verify(shortForm(path).truncated);
+            compare(shortForm(path).lineCount, 2);
+            compare(shortForm(path).elide, Text.ElideRight);
+            compare(edit(path).opacity, 0);
+            verify(!shortForm(plain).visible);
+            compare(edit(plain).opacity, 1);
+        }
+
+        function test_theTextItselfShowsWhileItIsRead() {
+            edit(path).forceActiveFocus();
+            verify(!shortForm(path).visible);
+            compare(edit(path).opacity, 1);
+        }
+
+        function test_aTextCutShortIsSelectedWithThePointer() {
+            edit(plain).forceActiveFocus();
+            mouseDoubleClickSequence(edit(path), 10, 8);
+            verify(edit(path).selectedText.length > 0);
+        }
+
         function lineOf(item, word) {
             return edit(item).positionToRectangle(item.text.indexOf(word)).y;
         }

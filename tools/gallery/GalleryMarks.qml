@@ -38,7 +38,6 @@ ColumnLayout {
                 font: AppTheme.captionFont
                 secondary: true
                 maximumLineCount: 2
-                ground: AppTheme.sidebar
             }
         }
     }
