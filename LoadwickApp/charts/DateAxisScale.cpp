@@ -15,12 +15,12 @@ using std::chrono::sys_seconds;
 std::vector<DateTick> labelled(const std::vector<sys_seconds> &moments, const DateStep &step,
                                const TextLocale &locale)
 {
-    const bool spansADay =
-        !moments.empty() && moments.back() - moments.front() >= std::chrono::days(1);
+    const bool isOfOneDay = moments.empty() || DateText::day(moments.front(), locale) ==
+                                                   DateText::day(moments.back(), locale);
     std::set<std::string> known;
     std::vector<DateTick> ticks;
     for (const sys_seconds moment : moments) {
-        std::string label = step.label(moment, spansADay, locale);
+        std::string label = step.label(moment, !isOfOneDay, locale);
         if (known.insert(label).second)
             ticks.push_back({.moment = moment, .label = std::move(label)});
     }

@@ -41,8 +41,9 @@ ReportSurface {
             delegate: ColumnBar { }
             fill: card.fill
         }
-        PlainLabel {
+        SelectableText {
             objectName: "empty"
+            width: parent.width
             text: card.column.emptyText
             secondary: true
             visible: card.column.emptyText.length > 0

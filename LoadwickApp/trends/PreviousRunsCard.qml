@@ -19,16 +19,18 @@ ReportSurface {
         Layout.fillWidth: true
         model: card.runs.rows
         viewport: card.viewport
-        rowHeight: 48
+        rowHeight: AppTheme.listRowHeight
         visible: count > 0
         Accessible.name: qsTr("Previous runs")
         delegate: HistoryRow {
             id: row
 
+            required valueCaption
+            required place
             required property int band
 
             width: ListView.view ? ListView.view.width : 0
-            height: 48
+            height: AppTheme.listRowHeight
             valueTint: AppTheme.bandTexts[row.band]
         }
     }

@@ -7,6 +7,8 @@ ReportSurface {
     id: card
 
     required property TrendSummaryPresenter summary
+    // All three are equally wide, whatever they say.
+    readonly property real tileWidth: Math.max(latest.implicitWidth, band.implicitWidth, drift.implicitWidth)
 
     SectionHeader {
         Layout.fillWidth: true
@@ -17,20 +19,29 @@ ReportSurface {
         Layout.fillWidth: true
 
         MetricTile {
+            id: latest
+
             Layout.fillWidth: true
+            Layout.preferredWidth: card.tileWidth
             title: qsTr("Latest scan")
             value: card.summary.latest
             caption: card.summary.range
         }
         MetricTile {
+            id: band
+
             Layout.fillWidth: true
+            Layout.preferredWidth: card.tileWidth
             title: qsTr("Band")
             value: card.summary.bandTitle
             caption: card.summary.range
             tint: AppTheme.bandTexts[card.summary.band]
         }
         MetricTile {
+            id: drift
+
             Layout.fillWidth: true
+            Layout.preferredWidth: card.tileWidth
             title: qsTr("Drift across recorded scans")
             value: card.summary.drift
             caption: card.summary.driftCaption

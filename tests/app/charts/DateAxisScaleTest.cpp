@@ -30,6 +30,8 @@ private Q_SLOTS:
         row("five minutes", 5min, "09:00", "09:01");
         row("an hour", 1h, "09:00", "09:10");
         row("six hours", 6h, "09:00", "10:00");
+        row("till midnight", 15h - 1s, "10:00", "12:00");
+        row("till past midnight", 18h, "4. März, 09:00", "4. März, 12:00");
         row("two days", 48h, "4. März, 12:00", "5. März, 00:00");
         row("a week", days(7), "5. März", "6. März");
         row("a month", days(30), "9. März", "16. März");

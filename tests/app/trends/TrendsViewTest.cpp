@@ -70,6 +70,29 @@ private Q_SLOTS:
         QVERIFY(std::filesystem::exists(historyFile()));
     }
 
+    void returnOpensTheConfirmationAndThenCancelsIt()
+    {
+        scan(31'000);
+        focus("Clear Recorded Data…");
+        m_window->press(Qt::Key_Return);
+        QTRY_VERIFY(shows("Delete every recorded scan?"));
+        m_window->press(Qt::Key_Return);
+        QTRY_VERIFY(shows("Clear Recorded Data…"));
+        QCOMPARE(m_window->loadwick().model().history().get().size(), std::size_t(1));
+    }
+
+    void theLastButtonIsShownWithItsRing()
+    {
+        recordMany();
+        focus("Clear Recorded Data…");
+        QQuickItem *button = m_window->loadwick().window().activeFocusItem();
+        QVERIFY(button != nullptr);
+        const auto ringEnd = [&] {
+            return button->mapToItem(viewport(), QPointF(0, button->height())).y() + 4;
+        };
+        QTRY_VERIFY(ringEnd() <= viewport()->height());
+    }
+
     void confirmingDeletesTheHistoryAndItsFile()
     {
         scan(31'000);
@@ -86,6 +109,30 @@ private Q_SLOTS:
         QTRY_VERIFY(shows("No recorded scans yet"));
         m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::overview));
         QTRY_VERIFY(shows("Scan complete"));
+    }
+
+    void aScanWithoutCategoriesSaysSo()
+    {
+        show({RecordedScanBuilder().withCategory("System prompt", 42).build()});
+        QTRY_VERIFY(shows("webshop"));
+        QVERIFY(!shows("No category estimates"));
+        show({RecordedScanBuilder().build()});
+        QTRY_VERIFY(shows("No category estimates"));
+    }
+
+    void scansOfOneNameAreToldApartByTheirPaths()
+    {
+        show({RecordedScanBuilder().in("/srv/one/webshop").at(1'772'615'727).build(),
+              RecordedScanBuilder().in("/srv/two/webshop").at(1'772'615'728).build()});
+        QTRY_COMPARE(placeOf("webshop"), QStringLiteral("/srv/two/webshop"));
+    }
+
+    void theSummaryIsOfEquallyWideTiles()
+    {
+        recordMany();
+        const QList<qreal> starts{start("Latest scan"), start("Band"),
+                                  start("Drift across recorded scans")};
+        QVERIFY(std::abs((starts[1] - starts[0]) - (starts[2] - starts[1])) <= 1);
     }
 
     void aScanThatEndsLeavesTheScrollPosition()
@@ -162,6 +209,33 @@ private:
         while (item != nullptr && !item->inherits("QQuickFlickable"))
             item = item->parentItem();
         return item;
+    }
+
+    void show(std::vector<RecordedScan> scans)
+    {
+        m_window->loadwick().model().history().set(std::move(scans));
+    }
+
+    /// What assistive technology is told beside the name.
+    [[nodiscard]] QString placeOf(const char *name) const
+    {
+        QAccessibleInterface *row = m_window->find(QString::fromUtf8(name));
+        return row == nullptr ? QString() : row->text(QAccessible::Description);
+    }
+
+    [[nodiscard]] qreal start(const char *name) const
+    {
+        QAccessibleInterface *label = m_window->find(QString::fromUtf8(name));
+        return label == nullptr ? 0
+                                : qobject_cast<QQuickItem *>(label->object())->mapToScene({}).x();
+    }
+
+    /// As the tabulator would.
+    void focus(const char *name)
+    {
+        QAccessibleInterface *found = m_window->find(QString::fromUtf8(name));
+        QVERIFY2(found != nullptr, name);
+        qobject_cast<QQuickItem *>(found->object())->forceActiveFocus(Qt::TabFocusReason);
     }
 
     void press(const char *name)
