@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Loadwick
 
-// A page to go to.
-AbstractButton {
+// A page to go to. To assistive technology a plain button stays a button, whatever role it is given.
+T.ItemDelegate {
     id: row
 
     required property int index

@@ -104,14 +104,16 @@ class AccessibleTree:
         return [unless_gone(lambda: text_of(item), "") for item in self.items()]
 
     def press(self, name: str) -> None:
-        """Presses the button of this name, once it can be pressed."""
+        """Presses the button or the row of this name, once it can be pressed."""
         button = self._until(f"the button {name!r} that can be pressed", lambda: self._pressable(name))
         if not Atspi.Action.do_action(button, press_index(button)):
             raise AssertionError(f"the button {name!r} refused to be pressed")
 
     def _pressable(self, name: str) -> Optional[Any]:
-        button = self.find(name, "push button")
-        return button if button and is_enabled(button) and press_index(button) >= 0 else None
+        for item in self.items():
+            if unless_gone(item.get_name, "") == name and press_index(item) >= 0:
+                return item if is_enabled(item) else None
+        return None
 
     def is_enabled(self, name: str) -> bool:
         """Whether the button of this name can be pressed."""

@@ -116,6 +116,16 @@ private Q_SLOTS:
         }
     }
 
+    void thePagesAreTheItemsOfAList()
+    {
+        QAccessible::setActive(true);
+        QAccessibleInterface *row = m_window->find(QStringLiteral("Compare"));
+        QVERIFY(row != nullptr);
+        QCOMPARE(row->role(), QAccessible::ListItem);
+        QVERIFY(row->state().selectable);
+        QVERIFY(!row->state().selected);
+    }
+
     void theArrowKeysMoveThroughThePages()
     {
         m_window->press(Qt::Key_Tab);
