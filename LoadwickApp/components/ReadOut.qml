@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
 // What is said of the mark that a chart points at, in a place of its own beside the chart, where it
@@ -12,18 +11,31 @@ Item {
     // Empty while no mark is pointed at.
     required property string title
     required property string detail
+    // Of a path that takes too many lines the middle is left out, not the end.
+    property bool isPath: false
+    property int titleLines: 3
+    property int detailLines: 1
+    // Beside something high it stands at the top, else in the middle.
+    property bool atTop: false
     // The colour of the mark in the chart.
     property color swatch: "transparent"
+    readonly property bool isEmpty: readOut.title.length === 0
+    readonly property bool hasSwatch: readOut.swatch.a > 0
+    // Of the words beside the swatch, and the width that is left to them.
+    readonly property real indent: hasSwatch ? AppTheme.dotSize + AppTheme.smallSpace : 0
+    readonly property real room: Math.max(0, width - indent - 2 * AppTheme.mediumSpace)
+    // A label rounds both parts of a line up.
+    readonly property real lineHeight: Math.ceil(metrics.ascent) + Math.ceil(metrics.descent)
 
     implicitWidth: 320
-    implicitHeight: 3 * metrics.height + caption.height + 2 * AppTheme.smallSpace + AppTheme.tightSpace
+    implicitHeight: (titleLines + detailLines) * lineHeight + 2 * AppTheme.smallSpace + AppTheme.tightSpace
 
     FontMetrics { id: metrics; font: AppTheme.bodyStrongFont }
-    FontMetrics { id: caption; font: AppTheme.bodyFont }
 
     PlainLabel {
         objectName: "hint"
-        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors { left: parent.left; right: parent.right }
+        y: readOut.atTop ? 0 : Math.round((readOut.height - height) / 2)
         leftPadding: AppTheme.smallSpace
         rightPadding: AppTheme.smallSpace
         topPadding: AppTheme.tightSpace
@@ -32,55 +44,49 @@ Item {
         font: AppTheme.captionFont
         secondary: true
         wrapMode: Text.Wrap
-        visible: readOut.title.length === 0
+        visible: readOut.isEmpty
     }
 
     Rectangle {
         objectName: "panel"
-        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
-        width: Math.min(parent.width, words.implicitWidth + 2 * AppTheme.mediumSpace)
-        height: words.implicitHeight + 2 * AppTheme.smallSpace
+        y: readOut.atTop ? 0 : Math.round((readOut.height - height) / 2)
+        width: words.width + readOut.indent + 2 * AppTheme.mediumSpace
+        height: words.height + 2 * AppTheme.smallSpace
         radius: AppTheme.controlRadius
         color: AppTheme.surface
         border { width: AppTheme.hairline; color: AppTheme.separator }
-        visible: readOut.title.length > 0
+        visible: !readOut.isEmpty
 
-        GridLayout {
+        Rectangle {
+            x: AppTheme.mediumSpace
+            y: AppTheme.smallSpace + (readOut.lineHeight - height) / 2
+            width: AppTheme.dotSize
+            height: AppTheme.dotSize
+            radius: AppTheme.dotSize / 2
+            color: readOut.swatch
+            visible: readOut.hasSwatch
+        }
+        // Not a layout: the heights of the words follow from their widths.
+        Column {
             id: words
 
-            anchors {
-                left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter
-                leftMargin: AppTheme.mediumSpace; rightMargin: AppTheme.mediumSpace
-            }
-            columns: 2
-            columnSpacing: AppTheme.smallSpace
-            rowSpacing: 2
+            x: AppTheme.mediumSpace + readOut.indent
+            y: AppTheme.smallSpace
+            spacing: 2
 
-            Rectangle {
-                Layout.alignment: Qt.AlignTop
-                Layout.topMargin: (metrics.height - height) / 2
-                implicitWidth: AppTheme.dotSize
-                implicitHeight: AppTheme.dotSize
-                radius: AppTheme.dotSize / 2
-                color: readOut.swatch
-                visible: readOut.swatch.a > 0
-            }
-            PlainLabel {
-                objectName: "title"
-                Layout.fillWidth: true
+            ReadOutTitle {
+                width: Math.min(implicitWidth, readOut.room)
                 text: readOut.title
-                font: AppTheme.bodyStrongFont
-                wrapMode: Text.Wrap
-                elide: Text.ElideRight
-                maximumLineCount: 3
+                isPath: readOut.isPath
+                mostLines: readOut.titleLines
             }
             PlainLabel {
                 objectName: "detail"
-                Layout.fillWidth: true
-                Layout.column: readOut.swatch.a > 0 ? 1 : 0
-                Layout.row: 1
-                Layout.columnSpan: readOut.swatch.a > 0 ? 1 : 2
+                width: Math.min(Math.ceil(implicitWidth), readOut.room)
                 text: readOut.detail
+                font: readOut.isPath ? AppTheme.bodyStrongFont : AppTheme.bodyFont
+                wrapMode: Text.Wrap
+                maximumLineCount: readOut.detailLines
                 elide: Text.ElideRight
             }
         }

@@ -75,7 +75,7 @@ QString InstructionFilesPresenter::sizeTitle()
 
 QString InstructionFilesPresenter::sizeHint()
 {
-    return tr("Hover a tile for its path and share.");
+    return tr("Hover a tile, or walk the tiles with the arrow keys, for its path and share.");
 }
 
 QString InstructionFilesPresenter::sizeCaption()

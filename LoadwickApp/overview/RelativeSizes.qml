@@ -68,15 +68,19 @@ ColumnLayout {
                 wrapMode: Text.Wrap
             }
         }
-        TileReadOut {
+        ReadOut {
             objectName: "readOut"
             Layout.fillWidth: true
             Layout.minimumWidth: sizes.readOutWidth
+            Layout.preferredWidth: sizes.readOutWidth
             Layout.alignment: Qt.AlignTop
-            path: sizes.files.tiles.path(map.currentMark)
-            figures: sizes.files.tiles.figures(map.currentMark)
+            title: sizes.files.tiles.path(map.currentMark)
+            detail: sizes.files.tiles.figures(map.currentMark)
             hint: sizes.files.sizeHint
-            pathLines: pair.stacked ? 2 : 4
+            isPath: true
+            titleLines: pair.stacked ? 2 : 4
+            detailLines: 3
+            atTop: true
         }
     }
     PlainLabel {

@@ -5,7 +5,7 @@ import Loadwick
 Item {
     id: scene
     width: 400
-    height: 200
+    height: 300
 
     ReadOut {
         id: readOut
@@ -15,6 +15,19 @@ Item {
         detail: ""
     }
 
+    ReadOut {
+        id: path
+        y: 100
+        width: 200
+        hint: "Hover a tile for its path and share."
+        title: ""
+        detail: ""
+        isPath: true
+        titleLines: 2
+        detailLines: 3
+        atTop: true
+    }
+
     TestCase {
         name: "ReadOut"
         when: windowShown
@@ -22,6 +35,12 @@ Item {
         function init() {
             readOut.title = "";
             readOut.detail = "";
+            showPath("");
+        }
+
+        function showPath(words) {
+            path.title = words;
+            path.detail = words ? "12,345,678 estimated tokens · 100.0% of total" : "";
         }
 
         function test_showsTheHintWhileNothingIsPointedAt() {
@@ -57,6 +76,48 @@ Item {
         function test_showsNamesAsTheyAre() {
             readOut.title = "<b>Messages</b>";
             compare(findChild(readOut, "title").textFormat, Text.PlainText);
+        }
+
+        function test_theWordsOnAPathStandAtTheTop() {
+            compare(findChild(path, "hint").y, 0);
+            showPath("/srv/CLAUDE.md");
+            compare(findChild(path, "panel").y, 0);
+        }
+
+        function test_aPathIsWrappedAnywhere() {
+            showPath("/srv/" + "folder".repeat(6));
+            const title = findChild(path, "title");
+            verify(title.visible);
+            compare(title.lineCount, 2);
+            verify(!findChild(path, "shortPath").visible);
+        }
+
+        function test_cutsNoFigureShort() {
+            showPath("/srv/CLAUDE.md");
+            const figures = findChild(path, "detail");
+            verify(!figures.truncated);
+            verify(figures.contentWidth <= figures.width);
+        }
+
+        function test_leavesOutTheMiddleOfAPathThatNeedsTooManyLines() {
+            showPath("/srv/" + "folder/".repeat(40) + "CLAUDE.md");
+            const cut = findChild(path, "shortPath");
+            verify(cut.visible);
+            compare(cut.elide, Text.ElideMiddle);
+            compare(cut.lineCount, 1);
+            verify(!findChild(path, "title").visible);
+        }
+
+        function test_isAsHighWhateverPathItShows() {
+            const height = path.implicitHeight;
+            for (const words of ["/a", "/srv/" + "folder/".repeat(5), "/srv/" + "folder/".repeat(40)]) {
+                showPath(words);
+                waitForRendering(scene);
+                compare(path.implicitHeight, height);
+                const panel = findChild(path, "panel");
+                verify(panel.y + panel.height <= height, words);
+                verify(panel.width <= path.width);
+            }
         }
     }
 }

@@ -84,7 +84,8 @@ void InstructionFilesPresenterTest::saysWhatTheSectionHolds()
     QCOMPARE(InstructionFilesPresenter::sizeCaption(),
              QStringLiteral("Tile sizes use estimated token counts."));
     QCOMPARE(InstructionFilesPresenter::sizeHint(),
-             QStringLiteral("Hover a tile for its path and share."));
+             QStringLiteral(
+                 "Hover a tile, or walk the tiles with the arrow keys, for its path and share."));
     QCOMPARE(InstructionFilesPresenter::noSizesText(),
              QStringLiteral("The instruction files have no estimated tokens to compare."));
     QCOMPARE(InstructionFilesPresenter::emptyTierText(),
