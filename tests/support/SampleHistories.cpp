@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 
 #include "support/RecordedScanBuilder.h"
 
@@ -61,6 +62,30 @@ RecordedScanBuilder scanOf(std::int64_t repository, std::int64_t total)
     return RecordedScanBuilder().named(name).in("/home/someone/projects/" + name).ofTotal(total);
 }
 
+RecordedScan scanWithCategories(RecordedScanBuilder builder, std::int64_t total,
+                                std::int64_t categoryCount)
+{
+    for (std::int64_t category = 0; category < categoryCount; ++category)
+        builder.withCategory(categoryName(category), tokensOf(total, category, categoryCount));
+    return builder.build();
+}
+
+/// 30 scans of a repository that grows into the heavy band, is cleaned up, and grows again.
+std::vector<RecordedScan> growing()
+{
+    constexpr std::int64_t count = 30;
+    constexpr std::int64_t cleanUp = 20;
+    std::vector<RecordedScan> scans;
+    for (std::int64_t scan = 0; scan < count; ++scan) {
+        const std::int64_t total =
+            24'000 + scan * 700 + scan * 2'917 % 1'900 - (scan < cleanUp ? 0 : 13'000);
+        RecordedScanBuilder builder = scanOf(0, total);
+        builder.at(lastScan - (count - 1 - scan) * secondsBetweenScans);
+        scans.push_back(scanWithCategories(std::move(builder), total, 7));
+    }
+    return scans;
+}
+
 std::vector<RecordedScan> twoEqual()
 {
     return {scanOf(0, 42'318).at(lastScan - 86'400).build(),
@@ -78,9 +103,7 @@ std::vector<RecordedScan> ofSize(std::int64_t scanCount, std::int64_t repository
         const std::int64_t total = totalOf(repository, scan);
         RecordedScanBuilder builder = scanOf(repository, total);
         builder.at(lastScan - (scanCount - 1 - scan) * secondsBetweenScans);
-        for (std::int64_t category = 0; category < categoryCount; ++category)
-            builder.withCategory(categoryName(category), tokensOf(total, category, categoryCount));
-        scans.push_back(builder.build());
+        scans.push_back(scanWithCategories(std::move(builder), total, categoryCount));
     }
     return scans;
 }
@@ -91,7 +114,7 @@ std::vector<SampleHistory> all()
             {.name = "one-scan", .scans = ofSize(1, 1, 7)},
             {.name = "two-equal-scans", .scans = twoEqual()},
             {.name = "two-repositories", .scans = ofSize(7, 2, 6)},
-            {.name = "30-scans", .scans = ofSize(30, 1, 7)},
+            {.name = "30-scans", .scans = growing()},
             {.name = "5-repositories", .scans = ofSize(31, 5, 7)},
             {.name = "30-repositories", .scans = ofSize(200, 30, 9)}};
 }

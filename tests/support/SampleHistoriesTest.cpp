@@ -59,6 +59,17 @@ TEST(SampleHistoriesTest, coverAllBands)
     EXPECT_EQ(bands.size(), 3U);
 }
 
+TEST(SampleHistoriesTest, growIntoTheNextBandAndComeBack)
+{
+    const std::vector<RecordedScan> scans = SampleHistories::all().at(4).scans;
+    EXPECT_EQ(scans.front().band(), OpinionBand::lean);
+    EXPECT_EQ(scans.at(19).band(), OpinionBand::heavy);
+    EXPECT_EQ(scans.at(20).band(), OpinionBand::lean);
+    EXPECT_EQ(scans.back().band(), OpinionBand::heavy);
+    for (const RecordedScan &scan : scans)
+        EXPECT_LE(sumOfCategories(scan), scan.total);
+}
+
 TEST(SampleHistoriesTest, splitNoMoreThanTheTotal)
 {
     for (const RecordedScan &scan : SampleHistories::ofSize(200, 200, 50)) {

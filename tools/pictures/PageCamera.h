@@ -21,7 +21,8 @@ public:
 
     /// Writes "<name>-<light|dark>-<width>x<height>.png" of the whole window for the smallest, the
     /// first and a large size, and beside it "...-whole.png" of the whole page where there is more
-    /// of it than can be seen at once. The program ends when a picture cannot be written.
+    /// of it than can be seen at once: of its first 16,000 pixels, where it is longer than that.
+    /// The program ends when a picture cannot be written.
     void take(const std::string &name) const;
 
 private:

@@ -7,10 +7,11 @@ namespace Loadwick {
 
 namespace {
 
-LoadwickWindow::Collaborators collaborators()
+LoadwickWindow::Collaborators collaborators(const std::filesystem::path &historyFolder)
 {
     return {.probeRunner = std::make_shared<FakeProbe>(),
             .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+            .historyStore = std::make_unique<ScanHistoryStore>(historyFolder),
             .home = "/home/someone"};
 }
 
@@ -28,7 +29,7 @@ WeeklyKPILine sampleWeek()
 
 } // namespace
 
-Stage::Stage() : m_loadwick(collaborators())
+Stage::Stage() : m_loadwick(collaborators(m_folder.path()))
 {
     m_loadwick.overview().weekly()->show(sampleWeek());
     window().show();

@@ -2,11 +2,12 @@
 
 #include "pictures/Scene.h"
 #include "shell/LoadwickWindow.h"
+#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 
 /// The program's own window, into whose model scenes are put as if they had just been scanned.
-/// Nothing is run, read or written for it.
+/// Nothing is run or written for it.
 class Stage
 {
 public:
@@ -17,6 +18,7 @@ public:
     void show(const Scene &scene);
 
 private:
+    TemporaryFolder m_folder; // of a history that stays empty: with one it can be cleared
     LoadwickWindow m_loadwick;
 };
 
