@@ -32,8 +32,12 @@ Rectangle {
             GallerySection { title: "Buttons"; GalleryButtons { Layout.fillWidth: true } }
             GallerySection { title: "Marks"; GalleryMarks { Layout.fillWidth: true } }
             GallerySection { title: "Rows"; GalleryRows { Layout.fillWidth: true } }
-            GallerySection { title: "Figures and charts"; GalleryFigures { Layout.fillWidth: true } }
+            GallerySection { title: "Lists"; GalleryLists { Layout.fillWidth: true; viewport: scroller } }
+            GallerySection { title: "Figures"; GalleryFigures { Layout.fillWidth: true } }
+            GallerySection { title: "Meters"; GalleryMeters { Layout.fillWidth: true } }
+            GallerySection { title: "Charts"; GalleryCharts { Layout.fillWidth: true } }
             GallerySection { title: "Cards and sections"; GalleryCards { Layout.fillWidth: true } }
+            GallerySection { title: "Dialogs and sheets"; GalleryDialogs { Layout.fillWidth: true } }
             GallerySection { title: "States of a page"; GalleryStates { Layout.fillWidth: true } }
             GallerySection { title: "Symbols"; GallerySymbols { Layout.fillWidth: true } }
         }

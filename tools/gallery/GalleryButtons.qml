@@ -23,4 +23,15 @@ ColumnLayout {
         }
         PushButton { title: "Words only"; outlined: true }
     }
+    GalleryGroup {
+        title: "Destructive: at rest, pressed, with the keyboard's focus, disabled"
+        PushButton { title: "Delete 31 Recorded Scans"; destructive: true }
+        PushButton { title: "Delete 31 Recorded Scans"; destructive: true; down: true }
+        Item {
+            implicitWidth: deleting.implicitWidth + 8
+            implicitHeight: deleting.implicitHeight + 8
+            PushButton { id: deleting; anchors.centerIn: parent; title: "Delete 31 Recorded Scans"; destructive: true; FocusRing { shown: true } }
+        }
+        PushButton { title: "Delete 0 Recorded Scans"; destructive: true; enabled: false }
+    }
 }

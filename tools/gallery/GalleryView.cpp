@@ -1,9 +1,12 @@
 #include "GalleryView.h"
 
+#include "charts/MarkedChart.h"
 #include "theme/ApplicationStyle.h"
 
 #include <QDeadlineTimer>
 #include <QGuiApplication>
+#include <QHoverEvent>
+#include <QQuickItem>
 
 namespace Loadwick {
 namespace {
@@ -16,6 +19,22 @@ void letSettle()
     const QDeadlineTimer end(settlingMilliseconds);
     while (!end.hasExpired())
         QGuiApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+}
+
+/// Holds the pointer over every item of that name that is, or contains, a chart.
+void pointAtCharts(const QQuickItem &root)
+{
+    for (QQuickItem *item : root.findChildren<QQuickItem *>()) {
+        const auto *holder = item;
+        while (holder != nullptr && holder->objectName() != QLatin1String("pointed"))
+            holder = holder->parentItem();
+        if (holder == nullptr || qobject_cast<MarkedChart *>(item) == nullptr)
+            continue;
+        // On the ring of a donut, and on some tile or near some point of the others.
+        const QPointF place(item->width() * 0.85, item->height() * 0.5);
+        QHoverEvent event(QEvent::HoverMove, place, item->mapToGlobal(place), place);
+        QCoreApplication::sendEvent(item, &event);
+    }
 }
 
 } // namespace
@@ -36,6 +55,8 @@ GalleryView::GalleryView(Appearance::Scheme scheme)
 QImage GalleryView::picture()
 {
     m_window->show();
+    letSettle();
+    pointAtCharts(*m_window->rootObject());
     letSettle();
     return m_window->grabWindow();
 }

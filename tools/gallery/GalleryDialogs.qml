@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// What stands above the window. The button opens the dialog itself.
+RowLayout {
+    spacing: AppTheme.wideSpace
+
+    Rectangle {
+        Layout.preferredWidth: AppTheme.stateWidth
+        implicitHeight: confirmation.implicitHeight + 2 * AppTheme.pageMargin
+        radius: AppTheme.cardRadius
+        color: AppTheme.surface
+        border { width: AppTheme.hairline; color: AppTheme.separator }
+
+        Confirmation {
+            id: confirmation
+
+            anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: AppTheme.pageMargin }
+            title: "Delete every recorded scan?"
+            message: "This cannot be undone. The scan currently on screen stays; only the recorded history is deleted."
+            action: "Delete 31 Recorded Scans"
+        }
+    }
+    SheetSurface {
+        Layout.preferredWidth: 320
+        Layout.fillHeight: true
+
+        ColumnLayout {
+            anchors { fill: parent; margins: AppTheme.pageMargin }
+            PlainLabel { text: "A sheet"; font: AppTheme.headlineFont }
+            OnboardingStepDots { currentIndex: 1; stepCount: 4; position: "Step 2 of 4" }
+            OnboardingLegendRow { index: 0; title: "Lean"; detail: "under 30,000 tokens" }
+            OnboardingLegendRow { index: 1; title: "Heavy"; detail: "30,000 to 60,000 tokens" }
+            OnboardingLegendRow { index: 2; title: "Excessive"; detail: "over 60,000 tokens" }
+        }
+    }
+    PushButton {
+        title: "Clear Recorded Data…"
+        symbol: "trash"
+        outlined: true
+        toolTip: "A tool tip says more, in plain text."
+        onClicked: dialog.open()
+    }
+
+    ConfirmationDialog {
+        id: dialog
+        title: confirmation.title
+        message: confirmation.message
+        action: confirmation.action
+    }
+}
