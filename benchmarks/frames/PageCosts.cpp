@@ -1,0 +1,89 @@
+#include "PageCosts.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+
+#include <QQuickItem>
+
+#include "pictures/PageViewport.h"
+
+namespace Loadwick {
+
+namespace {
+
+using Milliseconds = FrameMeter::Milliseconds;
+using Frames = PageCosts::Frames;
+
+constexpr Milliseconds entrance{1'100}; // longer than the longest spring
+constexpr int scrollSteps = 120;
+constexpr double wheelStep = 240; // pixels in a frame: 20 pages in a second
+// Of an everyday build, which runs the pages uncompiled; a release is meant to need half of it.
+constexpr Milliseconds firstLimit{200};
+constexpr Milliseconds frameLimit{16.7}; // 60 frames in a second
+
+void append(Frames &all, const Frames &frames)
+{
+    all.insert(all.end(), frames.begin(), frames.end());
+}
+
+Frames scroll(QQuickWindow &window, FrameMeter &meter, double greatestStep)
+{
+    QQuickItem *viewport = pageViewport(window);
+    const double way = viewport == nullptr ? 0.0 : hiddenHeight(*viewport);
+    const double step = std::min(way / scrollSteps, greatestStep);
+    meter.restart();
+    for (int count = 1; count <= scrollSteps && way > 0; ++count) {
+        viewport->setProperty("contentY", step * count);
+        meter.waitForFrame();
+    }
+    return meter.frames();
+}
+
+void measure(Stage &stage, FrameMeter &meter, const Scene &scene, PageCosts &costs)
+{
+    stage.show({.page = AppPage::overview, .subject = "nothing"});
+    FrameMeter::run(Milliseconds(200));
+    meter.restart();
+    stage.show(scene);
+    FrameMeter::run(entrance);
+    costs.first.push_back(meter.frames().front());
+    append(costs.arriving, {meter.frames().begin() + 1, meter.frames().end()});
+    append(costs.scrolling, scroll(stage.window(), meter, wheelStep));
+    append(costs.dragging, scroll(stage.window(), meter, std::numeric_limits<double>::max()));
+}
+
+void printLine(const char *what, const Frames &frames)
+{
+    std::printf("  %-10s %5zu frames  50th %6.2f  99th %6.2f  worst %6.2f\n", what, frames.size(),
+                percentile(frames, 0.5).count(), percentile(frames, 0.99).count(),
+                percentile(frames, 1.0).count());
+}
+
+} // namespace
+
+PageCosts PageCosts::measured(Stage &stage, const Scene &scene, int rounds)
+{
+    FrameMeter meter(stage.window());
+    PageCosts costs;
+    for (int round = 0; round < rounds; ++round)
+        measure(stage, meter, scene, costs);
+    return costs;
+}
+
+bool PageCosts::areLow() const
+{
+    return percentile(first, 0.5) < firstLimit && percentile(arriving, 0.99) < frameLimit &&
+           percentile(scrolling, 0.99) < frameLimit;
+}
+
+void PageCosts::print() const
+{
+    printLine("first", first);
+    printLine("arriving", arriving);
+    printLine("scrolling", scrolling);
+    printLine("dragging", dragging);
+    std::fflush(stdout);
+}
+
+} // namespace Loadwick
