@@ -20,20 +20,15 @@ Item {
     property real cardHeight: 0
     // Where the grid begins on the page: in a column that scrolls.
     readonly property real pageTop: grid.y + (grid.parent ? grid.parent.y : 0)
-    // The cards on the page and half a window above and below it, from the first to before the last.
+    // The lines that are on the page or half a window above or below it: so many around the one in the
+    // middle. Only the middle moves; of two ends one would go first, and in between every card from
+    // here to there would be made.
     readonly property real lineStep: grid.cardHeight + grid.gap
-    readonly property real shownTop: grid.viewport.contentY - grid.pageTop
-    readonly property real shownHeight: grid.viewport.height
-    readonly property int firstNear: Math.max(0, grid.lineAt(grid.shownTop - 0.5 * grid.shownHeight)) * grid.acrossCount
-    readonly property int endNear: grid.isLaidOut
-        ? (grid.lineAt(grid.shownTop + 1.5 * grid.shownHeight) + 1) * grid.acrossCount : 0
+    readonly property int middleLine: Math.floor((grid.viewport.contentY + 0.5 * grid.viewport.height - grid.pageTop) / grid.lineStep)
+    readonly property int linesAround: grid.isLaidOut ? Math.ceil(grid.viewport.height / grid.lineStep) : -1
     // Before the first frame nothing has its place or its height, and all cards would seem near.
     property int frameCount: 0
     readonly property bool isLaidOut: grid.frameCount > 1
-
-    function lineAt(y) {
-        return Math.floor(y / grid.lineStep);
-    }
 
     implicitHeight: Math.max(0, grid.lineCount * grid.lineStep - grid.gap)
 
