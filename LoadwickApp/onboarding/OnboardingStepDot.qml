@@ -2,12 +2,14 @@ import QtQuick
 import Loadwick
 
 // The dot of one step. It swells by a spring, or fades where motion is unwanted.
-Rectangle {
+Item {
     id: dot
 
     required property bool isCurrent
     // 0 for any step, 1 for the current one.
     property real emphasis: 0
+
+    readonly property real swelling: AppTheme.reduceMotion ? 1 : 1 + 0.15 * emphasis
 
     function follow() {
         spring.stop();
@@ -19,12 +21,20 @@ Rectangle {
 
     implicitWidth: AppTheme.stepDotSide
     implicitHeight: AppTheme.stepDotSide
-    radius: width / 2
-    color: AppTheme.accent
     opacity: 0.3 + 0.7 * emphasis
-    scale: AppTheme.reduceMotion ? 1 : 1 + 0.15 * emphasis
     onIsCurrentChanged: dot.follow()
     Component.onCompleted: dot.emphasis = dot.isCurrent ? 1 : 0
+
+    // Drawn as large as it is: the software renderer tears a small circle that is scaled.
+    Rectangle {
+        objectName: "disc"
+        x: (dot.width - width) / 2
+        y: (dot.height - height) / 2
+        width: AppTheme.stepDotSide * dot.swelling
+        height: width
+        radius: width / 2
+        color: AppTheme.accent
+    }
 
     NumberAnimation {
         id: spring
