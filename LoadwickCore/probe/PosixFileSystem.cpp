@@ -4,8 +4,8 @@
 #include <string>
 
 #include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
+
+#include "probe/FolderEntryKind.h"
 
 namespace Loadwick {
 
@@ -17,53 +17,13 @@ struct ListingCloser
 };
 using Listing = std::unique_ptr<DIR, ListingCloser>;
 
-using EntryKind = FileSystem::EntryKind;
-
-/// The file type of an entry, by looking at it; 0 when that fails.
-mode_t typeOf(DIR *listing, const char *name, int flags) noexcept
-{
-    struct stat status
-    {};
-    if (::fstatat(::dirfd(listing), name, &status, flags) != 0)
-        return 0;
-    return status.st_mode & S_IFMT;
-}
-
-EntryKind kindOfLink(DIR *listing, const char *name) noexcept
-{
-    return typeOf(listing, name, 0) == S_IFREG ? EntryKind::file : EntryKind::other;
-}
-
-EntryKind kindByLooking(DIR *listing, const char *name) noexcept
-{
-    switch (typeOf(listing, name, AT_SYMLINK_NOFOLLOW)) {
-    case S_IFREG:
-        return EntryKind::file;
-    case S_IFDIR:
-        return EntryKind::folder;
-    case S_IFLNK:
-        return kindOfLink(listing, name);
-    default:
-        return EntryKind::other;
-    }
-}
-
-EntryKind kindOf(DIR *listing, const dirent &entry) noexcept
+unsigned char typeOf([[maybe_unused]] const dirent &entry) noexcept
 {
 #ifdef _DIRENT_HAVE_D_TYPE
-    switch (entry.d_type) {
-    case DT_REG:
-        return EntryKind::file;
-    case DT_DIR:
-        return EntryKind::folder;
-    case DT_LNK:
-    case DT_UNKNOWN:
-        break;
-    default:
-        return EntryKind::other;
-    }
+    return entry.d_type;
+#else
+    return 0; // DT_UNKNOWN
 #endif
-    return kindByLooking(listing, entry.d_name);
 }
 
 } // namespace
@@ -80,7 +40,9 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
         const std::string name = entry->d_name;
         if (name == "." || name == "..")
             continue;
-        if (visit(name, kindOf(listing.get(), *entry)) == Walk::stop)
+        const EntryKind kind =
+            folderEntryKind(::dirfd(listing.get()), entry->d_name, typeOf(*entry));
+        if (visit(name, kind) == Walk::stop)
             return;
     }
 }

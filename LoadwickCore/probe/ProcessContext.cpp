@@ -1,34 +1,13 @@
 #include "probe/ProcessContext.h"
 
-#include <cerrno>
 #include <string_view>
 #include <system_error>
-#include <vector>
 
-#include <pwd.h>
 #include <unistd.h>
 
+#include "probe/PasswordDatabase.h"
+
 namespace Loadwick {
-
-namespace {
-
-std::string homeInPasswordDatabase()
-{
-    std::vector<char> buffer(1024);
-    passwd entry{};
-    passwd *found = nullptr;
-    int outcome = getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found);
-    while (outcome == ERANGE || outcome == EINTR) {
-        if (outcome == ERANGE)
-            buffer.resize(buffer.size() * 2);
-        outcome = getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found);
-    }
-    if (found == nullptr || found->pw_dir == nullptr)
-        return {};
-    return found->pw_dir;
-}
-
-} // namespace
 
 Environment currentEnvironment()
 {
@@ -54,8 +33,7 @@ std::string homeFolder(const Environment &environment)
     const auto home = environment.find("HOME");
     if (home != environment.end() && !home->second.empty())
         return home->second;
-    const std::string recorded = homeInPasswordDatabase();
-    return recorded.empty() ? "/" : recorded;
+    return PasswordDatabase::homeOf(getuid());
 }
 
 } // namespace Loadwick

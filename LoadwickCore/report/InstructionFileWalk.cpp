@@ -127,10 +127,9 @@ std::vector<std::filesystem::path> InstructionFileWalk::ancestorFolders() const
     std::filesystem::path folder = m_root.parent_path();
     for (int count = 0; count < ancestorLimit && isUnderOrAt(folder, m_home.native()); ++count) {
         folders.push_back(folder);
-        const std::filesystem::path parent = folder.parent_path();
-        if (folder.native() == m_home.native() || parent.native() == folder.native())
+        if (folder.native() == m_home.native())
             break;
-        folder = parent;
+        folder = folder.parent_path();
     }
     return folders;
 }

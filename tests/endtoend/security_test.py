@@ -74,6 +74,12 @@ class SecurityTest(EndToEndCase):
         program.window.wait_for(words)
         for page in ("ctrl+2", "ctrl+3", "ctrl+1"):
             program.window.key(page)
+            self.assert_no_secret("\n".join(program.window.texts()), page)
+
+    def assert_no_secret(self, text: str, place: str) -> None:
+        """None of the user's secrets, nor the token, stands there."""
+        for value in (TOKEN, *SCRUBBED.values()):
+            self.assertNotIn(value, text, place)
 
     def kept(self) -> dict[str, bytes]:
         """Every file below the home, transcripts of the session included."""
@@ -92,8 +98,7 @@ class SecurityTest(EndToEndCase):
             self.assertNotIn(f'"{name}=', sessions[0])
             self.assertNotIn(value, sessions[0])
         for file, content in self.kept().items():
-            for value in (TOKEN, *SCRUBBED.values()):
-                self.assertNotIn(value.encode(), content, file)
+            self.assert_no_secret(content.decode(errors="replace"), file)
 
     def test_a_scan_that_succeeds_stays_on_this_machine_and_keeps_no_secret(self) -> None:
         self.assert_private(self.trace_a_session("transcript", "Scan complete"))
