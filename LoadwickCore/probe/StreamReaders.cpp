@@ -38,8 +38,7 @@ StreamReaders::StreamReaders(std::size_t captureLimit)
 
 StreamReaders::~StreamReaders()
 {
-    if (m_shared)
-        m_shared->deadline.setExpiry(deadlineAfter(0));
+    m_shared->deadline.setExpiry(deadlineAfter(0));
 }
 
 void StreamReaders::start(const FileDescriptor &readEnd, OutputBox::Stream stream)

@@ -17,8 +17,6 @@ public:
     explicit StreamReaders(std::size_t captureLimit);
     ~StreamReaders();
 
-    StreamReaders(StreamReaders &&) noexcept = default;
-    StreamReaders &operator=(StreamReaders &&) = delete;
     StreamReaders(const StreamReaders &) = delete;
     StreamReaders &operator=(const StreamReaders &) = delete;
 

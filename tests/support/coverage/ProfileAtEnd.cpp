@@ -2,6 +2,7 @@
 // death test wants it to, and when a forked part of it leaves by _exit.
 #include <csignal>
 
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -9,6 +10,9 @@ extern "C" int __llvm_profile_write_file();
 
 extern "C" void _exit(int status)
 {
+    // A full disk may have been played to this part of the program.
+    constexpr rlimit unlimited{RLIM_INFINITY, RLIM_INFINITY};
+    setrlimit(RLIMIT_FSIZE, &unlimited);
     __llvm_profile_write_file();
     syscall(SYS_exit_group, status);
     __builtin_unreachable();
