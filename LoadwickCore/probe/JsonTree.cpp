@@ -24,9 +24,9 @@ Json *lastIn(Json &value) noexcept
 void dropLastIn(Json &value) noexcept
 {
     if (auto *const items = value.get_ptr<Json::array_t *>())
-        items->pop_back();
-    else if (auto *const members = value.get_ptr<Json::object_t *>())
-        members->erase(std::prev(members->end()));
+        return items->pop_back();
+    auto *const members = value.get_ptr<Json::object_t *>();
+    members->erase(std::prev(members->end()));
 }
 
 } // namespace

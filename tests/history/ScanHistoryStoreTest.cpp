@@ -316,4 +316,23 @@ TEST(ScanHistoryStoreTest, outlastsAMomentWithoutFreeDescriptors)
     EXPECT_EQ(loaded.size(), 1U);
 }
 
+TEST(ScanHistoryStoreTest, recordsNothingWhileTheRecordedScansCannotBeRead)
+{
+    const TemporaryFolder folder;
+    ScanHistoryStore store(folder.path());
+    static_cast<void>(store.append(scanAt(1)));
+    getrlimit(RLIMIT_NOFILE, &generousLimit);
+    rlimit tight = generousLimit;
+    tight.rlim_cur = static_cast<rlim_t>(FileDescriptor(dup(0)).number());
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
+    const Scans loaded = store.load();
+    const Scans appended = store.append(scanAt(2, "other"));
+    liftLimit(SIGALRM);
+    EXPECT_TRUE(loaded.empty());
+    ASSERT_EQ(appended.size(), 1U);
+    EXPECT_EQ(appended.front().repositoryName, "other");
+    ASSERT_EQ(store.load().size(), 1U);
+    EXPECT_EQ(store.load().front().repositoryName, "webshop");
+}
+
 } // namespace Loadwick

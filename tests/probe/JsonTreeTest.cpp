@@ -61,6 +61,9 @@ TEST(JsonTreeTest, handsItsValueOnAndKeepsNone)
     third.value() = {{"old", {1}}};
     third = std::move(second);
     EXPECT_TRUE(third == json({{"a", {1, 2}}}));
+    JsonTree &itself = third;
+    third = std::move(itself);
+    EXPECT_TRUE(third == json({{"a", {1, 2}}}));
 }
 
 TEST(JsonTreeTest, isReadLikeItsValue)

@@ -60,10 +60,13 @@ ScanHistoryStore storeFor(const Scenario &scenario, const HistoryFixture &fixtur
 }
 
 /// What is wrong with the file that the killed writer left, and with the next recording.
-std::optional<std::string> problemAfter(const HistoryFixture &fixture, ScanHistoryStore &store)
+std::optional<std::string> problemAfter(const Scenario &scenario, const HistoryFixture &fixture,
+                                        ScanHistoryStore &store)
 {
-    const bool isGone = !fixture.bytes();
-    if (!isGone && !fixture.isUntouched())
+    const bool mayBeGone = scenario.work == clear;
+    if (!fixture.bytes() && !fixture.isUntouched() && !mayBeGone)
+        return "the history file is gone";
+    if (fixture.bytes() && !fixture.isUntouched())
         if (auto problem = fixture.problemOf(*fixture.bytes(), std::nullopt))
             return problem;
     const auto before = store.load();
@@ -82,7 +85,7 @@ bool isKilled(const Scenario &scenario, long stop, std::optional<std::string> &p
     ScanHistoryStore store = storeFor(scenario, fixture, home.path());
     if (!Faults::isKilledAt(stop, [&] { scenario.work(store); }))
         return false;
-    problem = problemAfter(fixture, store);
+    problem = problemAfter(scenario, fixture, store);
     return true;
 }
 

@@ -4,12 +4,16 @@
 //   loadwick-faults --sample SEED         a part of it, the same for the same seed
 //   loadwick-faults --operation NAME      one operation
 //   loadwick-faults --conditions          every operation where the world around it is odd
+//   loadwick-faults --record-in FOLDER    one scan; what became of the history there
 //   loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,once|always|burst
 
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,8 +21,10 @@
 #include <sys/statvfs.h>
 
 #include "faults/driver/Conditions.h"
+#include "faults/driver/HistoryFixture.h"
 #include "faults/driver/Matrix.h"
 #include "faults/driver/Shim.h"
+#include "history/ScanHistoryStore.h"
 #include "support/TemporaryFolder.h"
 
 namespace {
@@ -49,6 +55,25 @@ int replay(const std::string &text)
         return usage();
     const Loadwick::TemporaryFolder folder;
     return Matrix(folder.path()).replay(*fault) ? 0 : 1;
+}
+
+std::optional<std::string> bytesOf(const std::filesystem::path &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return file ? std::optional(std::string(std::istreambuf_iterator<char>(file), {}))
+                : std::nullopt;
+}
+
+int recordIn(const std::filesystem::path &folder)
+{
+    Loadwick::ScanHistoryStore store(folder);
+    const auto before = bytesOf(store.fileURL());
+    const auto list = store.append(Faults::sampleScan(1));
+    if (bytesOf(store.fileURL()) == before)
+        std::cout << "kept\n";
+    else
+        std::cout << (store.load() == list ? "recorded\n" : "torn\n");
+    return 0;
 }
 
 int checkConditions()
@@ -93,6 +118,8 @@ int main(int count, char **texts)
             extent.sampleSeed = static_cast<unsigned>(std::stoul(value));
         else if (arguments[index] == "--operation")
             extent.operation = value;
+        else if (arguments[index] == "--record-in")
+            return recordIn(value);
         else
             return usage();
     }
