@@ -1,6 +1,7 @@
 #include "shell/ApplicationSetup.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 
 #include "shell/AccessiblePress.h"
 #include "shell/ModalGround.h"
@@ -12,13 +13,15 @@ void prepare()
 {
     QCoreApplication::setApplicationName(QStringLiteral("loadwick"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Loadwick"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("loadwick"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.loadwick.Loadwick"));
     ApplicationStyle::prepare();
 }
 
 void apply(QGuiApplication &application)
 {
     ApplicationStyle::applyFont(application);
+    // For the desktops that do not take it from the desktop entry.
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Loadwick/application.png")));
     AccessiblePress::install();
     ModalGround::install();
 }
