@@ -10,7 +10,7 @@ function(loadwick_endtoend_program name source)
     target_link_libraries(${name} PRIVATE ${ARGN})
 endfunction()
 
-loadwick_endtoend_program(loadwick-endtoend main.cpp LoadwickDemoWindow)
+loadwick_endtoend_program(loadwick-endtoend main.cpp LoadwickDemoWindow Qt6::DBus)
 loadwick_endtoend_program(loadwick-clipboard clipboard.cpp Qt6::Gui)
 
 file(GLOB scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/endtoend"

@@ -7,6 +7,7 @@ ReportSurface {
     id: card
 
     required property ComparePresenter compare
+    required property PageExport exporter
     required property Flickable viewport
     readonly property real nameWidth: Math.round(Math.min(200, 0.28 * card.width))
     // No figure is wider than that of the longest bar.
@@ -59,6 +60,25 @@ ReportSurface {
         }
     }
 
+    Hairline { Layout.fillWidth: true }
+    ExportBar {
+        Layout.fillWidth: true
+        exporter: card.exporter
+        chart: picture
+    }
+
+    CombinedPicture {
+        id: picture
+
+        visible: false
+        width: 900
+        rows: card.compare.combined
+        font: AppTheme.captionFont
+        strongFont: AppTheme.bodyStrongFont
+        colors: AppTheme.chartColors
+        textColor: AppTheme.text
+        secondaryTextColor: AppTheme.secondaryText
+    }
     TextMetrics {
         id: widest
         font: AppTheme.captionStrongFont

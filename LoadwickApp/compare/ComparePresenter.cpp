@@ -4,6 +4,7 @@
 
 #include <QQmlEngine>
 
+#include "history/ScanTables.h"
 #include "report/NumberText.h"
 #include "shell/QtText.h"
 
@@ -61,6 +62,11 @@ QStringList ComparePresenter::reading() const
         tr("Totals are authoritative, as reported by Claude. The category splits are "
            "local estimates."),
     };
+}
+
+std::string ComparePresenter::table() const
+{
+    return ScanTables::categories(m_comparison->columns);
 }
 
 void ComparePresenter::showHistory()

@@ -64,6 +64,9 @@ public:
     /// How the bars are to be read, in paragraphs.
     [[nodiscard]] QStringList reading() const;
 
+    /// The repositories for other programs, as `ScanTables::categories` gives them, by name.
+    [[nodiscard]] std::string table() const;
+
 Q_SIGNALS:
     void changed();
 

@@ -7,6 +7,7 @@ PageColumn {
     id: page
 
     required property ComparePresenter compare
+    required property PageExport exporter
 
     CompareHeader { Layout.fillWidth: true }
     Leaderboard {
@@ -22,6 +23,7 @@ PageColumn {
     CombinedCard {
         Layout.fillWidth: true
         compare: page.compare
+        exporter: page.exporter
         viewport: page.viewport
     }
 }

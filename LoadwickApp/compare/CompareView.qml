@@ -6,6 +6,7 @@ Item {
     id: page
 
     required property ComparePresenter compare
+    required property PageExport exporter
     readonly property bool isEmpty: page.compare.columnCount === 0
 
     PageAppear {
@@ -31,7 +32,7 @@ Item {
         anchors.fill: parent
         active: report.wasShown && !page.isEmpty
         Component.onCompleted: {
-            report.setSource("CompareReport.qml", { compare: page.compare });
+            report.setSource("CompareReport.qml", { compare: page.compare, exporter: page.exporter });
             report.wasShown = page.visible;
         }
     }

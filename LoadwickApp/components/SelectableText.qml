@@ -14,6 +14,7 @@ Item {
     // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
     property int maximumLineCount: 0
     readonly property real lineSpacing: edit.contentHeight / Math.max(1, edit.lineCount)
+    readonly property TextMenu menu: loader.item as TextMenu
     readonly property bool truncated: maximumLineCount > 0 && edit.lineCount > maximumLineCount
     // While it is read with the keyboard or selected, the text itself shows and not its short form.
     readonly property bool isCutShort: truncated && !edit.activeFocus
@@ -34,6 +35,7 @@ Item {
             textFormat: TextEdit.PlainText
             readOnly: true
             selectByMouse: true
+            persistentSelection: true
             activeFocusOnTab: true
             // A text cut short is broken anywhere: its last line is then full up to the dots.
             wrapMode: whole.fits ? TextEdit.Wrap : TextEdit.WrapAnywhere
@@ -49,9 +51,14 @@ Item {
             Accessible.readOnly: true
             Accessible.name: control.text
 
-            onActiveFocusChanged: if (!edit.activeFocus) edit.deselect()
+            onActiveFocusChanged: if (!edit.activeFocus && !loader.isOpen) edit.deselect()
+            Keys.onMenuPressed: loader.openAt(edit.cursorRectangle.x, edit.cursorRectangle.height)
 
             HoverHandler { cursorShape: Qt.IBeamCursor }
+            TapHandler {
+                acceptedButtons: Qt.RightButton
+                onTapped: point => { loader.openAt(point.position.x, point.position.y); }
+            }
         }
     }
 
@@ -69,6 +76,26 @@ Item {
     }
 
     ShortcutPass { item: edit }
+
+    // Made when it is first asked for: there are many texts.
+    Loader {
+        id: loader
+
+        // From before the text loses the keyboard to it.
+        property bool isOpen: false
+
+        function openAt(x, y) {
+            if (!control.menu)
+                loader.setSource("TextMenu.qml", { edit: edit });
+            loader.isOpen = true;
+            edit.forceActiveFocus(Qt.PopupFocusReason);
+            control.menu.popup(edit, x, y);
+        }
+    }
+    Connections {
+        target: control.menu
+        function onClosed() { loader.isOpen = false; }
+    }
 
     // The text as it would stand with its words, or the folders of a path, left whole.
     PlainLabel {

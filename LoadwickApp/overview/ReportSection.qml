@@ -8,12 +8,23 @@ ReportSurface {
 
     required property OverviewPresenter overview
 
-    PushButton {
+    RowLayout {
         Layout.alignment: Qt.AlignRight
-        title: qsTr("Copy Summary")
-        symbol: "doc.on.doc"
-        outlined: true
-        onClicked: section.overview.copySummary()
+        spacing: AppTheme.mediumSpace
+
+        MomentaryNote {
+            id: copied
+            words: qsTr("Copied")
+        }
+        PushButton {
+            title: qsTr("Copy Summary")
+            symbol: "doc.on.doc"
+            outlined: true
+            onClicked: {
+                section.overview.copySummary();
+                copied.show();
+            }
+        }
     }
     CollapsibleSection {
         Layout.fillWidth: true

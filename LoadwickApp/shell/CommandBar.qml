@@ -7,6 +7,7 @@ Item {
     id: bar
 
     required property ContentPresenter content
+    required property RecentRepositories recent
 
     implicitHeight: AppTheme.controlHeight + 2 * AppTheme.smallSpace
 
@@ -20,6 +21,11 @@ Item {
             shortcut: "Ctrl+O"
             enabled: bar.content.canChoose
             onClicked: bar.content.chooseFolder()
+        }
+        RecentButton {
+            Layout.leftMargin: -AppTheme.smallSpace
+            content: bar.content
+            recent: bar.recent
         }
         PushButton {
             title: bar.content.scanTitle

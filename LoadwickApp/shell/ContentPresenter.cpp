@@ -131,18 +131,20 @@ void ContentPresenter::setPageIndex(int index)
 void ContentPresenter::chooseFolder()
 {
     if (canChoose())
-        m_chooser.open([this](const std::filesystem::path &folder) { select(folder); });
+        m_chooser.open([this](const std::filesystem::path &folder) { choose(folder); });
+}
+
+void ContentPresenter::choose(const std::filesystem::path &folder)
+{
+    if (!canChoose())
+        return;
+    m_model.select(RepoSelection::fromUrl(folder));
+    showPage(AppPage::overview);
 }
 
 void ContentPresenter::scan()
 {
     m_model.scan();
-}
-
-void ContentPresenter::select(const std::filesystem::path &folder)
-{
-    m_model.select(RepoSelection::fromUrl(folder));
-    showPage(AppPage::overview);
 }
 
 void ContentPresenter::showPage(AppPage page)

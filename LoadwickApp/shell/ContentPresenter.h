@@ -71,6 +71,8 @@ public:
 
     /// Lets the user choose a folder and then shows the Overview; nothing while a scan runs.
     Q_INVOKABLE void chooseFolder();
+    /// The same with a folder that is known already.
+    void choose(const std::filesystem::path &folder);
 
     Q_INVOKABLE void scan();
 
@@ -81,7 +83,6 @@ Q_SIGNALS:
     void pageIndexChanged();
 
 private:
-    void select(const std::filesystem::path &folder);
     void showPage(AppPage page);
 
     ScanModel &m_model;

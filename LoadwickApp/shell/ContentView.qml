@@ -11,6 +11,9 @@ SplitView {
     required property OverviewPresenter overview
     required property TrendsPresenter trends
     required property ComparePresenter compare
+    required property RecentRepositories recent
+    required property PageExport trendsExport
+    required property PageExport compareExport
 
     orientation: Qt.Horizontal
 
@@ -46,6 +49,7 @@ SplitView {
         CommandBar {
             Layout.fillWidth: true
             content: view.content
+            recent: view.recent
         }
         Hairline { Layout.fillWidth: true }
         StackLayout {
@@ -58,8 +62,14 @@ SplitView {
                 overview: view.overview
                 disclosure: view.content.allowanceDisclosure
             }
-            TrendsView { trends: view.trends }
-            CompareView { compare: view.compare }
+            TrendsView {
+                trends: view.trends
+                exporter: view.trendsExport
+            }
+            CompareView {
+                compare: view.compare
+                exporter: view.compareExport
+            }
         }
         ContentKeys {
             id: keys

@@ -1,7 +1,11 @@
 #include "shell/LoadwickApp.h"
 
+#include <utility>
+
 #include <QGuiApplication>
 
+#include "desktop/SingleInstance.h"
+#include "desktop/WindowActivation.h"
 #include "shell/ApplicationSetup.h"
 #include "shell/ProgramEnd.h"
 #include "shell/ProgramSignals.h"
@@ -14,7 +18,15 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
 {
     QGuiApplication application(argc, argv);
     ApplicationSetup::apply(application);
-    LoadwickWindow loadwick(make(shutdown));
+    LoadwickWindow::Collaborators collaborators = make(shutdown);
+    const SingleInstance instance(collaborators.dataFolder);
+    if (instance.isAnswered())
+        return 0;
+    LoadwickWindow loadwick(std::move(collaborators));
+    QObject::connect(&instance, &SingleInstance::windowWanted, &loadwick.window(),
+                     [&window = loadwick.window()](const QByteArray &token) {
+                         WindowActivation::bringToFront(window, token);
+                     });
     loadwick.window().show();
     loadwick.window().requestActivate();
     const int status = QGuiApplication::exec();

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QUrl>
 
+#include "desktop/DesktopNoticeBoard.h"
+#include "export/DialogFileSaver.h"
 #include "history/WeeklyKPIReader.h"
 #include "onboarding/PreferencesCompletionStore.h"
 #include "probe/Fatal.h"
@@ -28,6 +30,11 @@ std::chrono::sys_seconds systemNow()
 std::unique_ptr<FolderChooser> platformDialog()
 {
     return std::make_unique<DialogFolderChooser>(QUrl::fromLocalFile(QDir::homePath()));
+}
+
+std::unique_ptr<FileSaver> platformSaver()
+{
+    return std::make_unique<DialogFileSaver>(QUrl::fromLocalFile(QDir::homePath()));
 }
 
 /// Of a window that walks nobody through.
@@ -65,13 +72,17 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
             PreferencesCompletionStore::defaultFile(environment)),
         .home = homeFolder(environment),
         .appearance = &DesktopAppearanceSource::ofUser,
+        .notices =
+            [](const auto &dispatcher) { return std::make_unique<DesktopNoticeBoard>(dispatcher); },
+        .dataFolder = ScanHistoryStore::defaultDirectory(environment),
     };
 }
 
 LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     : m_onboarding(onboardingOver(std::move(collaborators.completionStore))),
       m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
-                                            : platformDialog())
+                                            : platformDialog()),
+      m_saver(collaborators.fileSaver ? std::move(collaborators.fileSaver) : platformSaver())
 {
     if (!collaborators.dispatcher)
         collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
@@ -82,10 +93,14 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     const std::filesystem::path weeklyLog = collaborators.weeklyLog;
     const TextLocale locale = collaborators.locale;
     const std::filesystem::path home = collaborators.home;
+    const MakeNoticeBoard notices = collaborators.notices;
     makeModel(std::move(collaborators));
     makePresenters(locale, home);
+    makeCommands(dispatcher);
     makeWindow();
-    attachChooser();
+    attachDialogs();
+    if (notices)
+        putNoticesOn(notices(dispatcher));
     if (!weeklyLog.empty())
         m_overview->weekly()->load(weeklyLog, dispatcher);
     presentOnAppearance(dispatcher);
@@ -113,6 +128,20 @@ void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesys
     m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
 }
 
+void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher)
+{
+    m_folderDrop = std::make_unique<FolderDrop>(*m_content, dispatcher);
+    m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher);
+    m_trendsExport = std::make_unique<PageExport>(
+        PageExport::Contents{.name = QStringLiteral("loadwick-trend"),
+                             .table = [this] { return m_trends->table(); }},
+        *m_saver, dispatcher);
+    m_compareExport = std::make_unique<PageExport>(
+        PageExport::Contents{.name = QStringLiteral("loadwick-comparison"),
+                             .table = [this] { return m_compare->table(); }},
+        *m_saver, dispatcher);
+}
+
 void LoadwickWindow::makeWindow()
 {
     ApplicationStyle::addModulePath(m_engine);
@@ -123,7 +152,11 @@ void LoadwickWindow::makeWindow()
                    {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())},
                    {QStringLiteral("trends"), QVariant::fromValue(m_trends.get())},
                    {QStringLiteral("compare"), QVariant::fromValue(m_compare.get())},
-                   {QStringLiteral("onboarding"), QVariant::fromValue(m_onboarding.get())}},
+                   {QStringLiteral("onboarding"), QVariant::fromValue(m_onboarding.get())},
+                   {QStringLiteral("folderDrop"), QVariant::fromValue(m_folderDrop.get())},
+                   {QStringLiteral("recent"), QVariant::fromValue(m_recent.get())},
+                   {QStringLiteral("trendsExport"), QVariant::fromValue(m_trendsExport.get())},
+                   {QStringLiteral("compareExport"), QVariant::fromValue(m_compareExport.get())}},
                   failure);
     if (!made)
         fatalError(failure.toStdString());
@@ -132,10 +165,20 @@ void LoadwickWindow::makeWindow()
         fatalError("Main.qml makes no window.");
 }
 
-void LoadwickWindow::attachChooser()
+void LoadwickWindow::attachDialogs()
 {
+    if (auto *saver = dynamic_cast<DialogFileSaver *>(m_saver.get()))
+        saver->attach(m_engine, *m_window);
     if (auto *dialog = dynamic_cast<DialogFolderChooser *>(m_chooser.get()))
         dialog->attach(m_engine, *m_window);
+}
+
+void LoadwickWindow::putNoticesOn(std::unique_ptr<NoticeBoard> board)
+{
+    m_noticeBoard = std::move(board);
+    m_scanNotices = std::make_unique<ScanNotices>(
+        ScanNotices::Words{.content = *m_content, .overview = *m_overview}, *m_window,
+        *m_noticeBoard);
 }
 
 void LoadwickWindow::presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher)

@@ -9,6 +9,10 @@
 #include <QQuickWindow>
 
 #include "compare/ComparePresenter.h"
+#include "desktop/NoticeBoard.h"
+#include "desktop/ScanNotices.h"
+#include "export/FileSaver.h"
+#include "export/PageExport.h"
 #include "model/OnboardingCompletionStore.h"
 #include "model/ScanModel.h"
 #include "onboarding/OnboardingPresenter.h"
@@ -17,6 +21,8 @@
 #include "report/TextLocale.h"
 #include "shell/ContentPresenter.h"
 #include "shell/FolderChooser.h"
+#include "shell/FolderDrop.h"
+#include "shell/RecentRepositories.h"
 #include "theme/AppearanceSource.h"
 #include "trends/TrendsPresenter.h"
 
@@ -30,6 +36,9 @@ public:
     using MakeAppearance = std::function<std::unique_ptr<AppearanceSource>(
         const std::shared_ptr<TaskDispatcher> &dispatcher)>;
 
+    using MakeNoticeBoard = std::function<std::unique_ptr<NoticeBoard>(
+        const std::shared_ptr<TaskDispatcher> &dispatcher)>;
+
     /// What stands between the window and the outside world.
     struct Collaborators
     {
@@ -37,6 +46,7 @@ public:
         std::shared_ptr<InstructionFileScanning> instructionScanner;
         std::unique_ptr<ScanHistoryStore> historyStore = {}; ///< none: nothing is recorded
         std::unique_ptr<FolderChooser> folderChooser = {};   ///< none: the platform's dialog
+        std::unique_ptr<FileSaver> fileSaver = {};           ///< none: the platform's dialog
         std::shared_ptr<TaskDispatcher> dispatcher = {};     ///< none: threads of their own
         std::function<std::chrono::sys_seconds()> now = {};  ///< none: the system's clock
         TextLocale locale = {};
@@ -44,6 +54,9 @@ public:
         std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< none: no walk-through
         std::filesystem::path home = {}; ///< tells whose a file is; nothing in it is read
         MakeAppearance appearance = {};  ///< none: the palette's
+        MakeNoticeBoard notices = {};    ///< none: the program says nothing outside its window
+        /// A second program over the same folder shows this one's window; empty: it opens its own.
+        std::filesystem::path dataFolder = {};
 
         /// Those of the running program: the user's own home, environment and disk.
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);
@@ -65,7 +78,9 @@ private:
     void makeModel(Collaborators collaborators);
     void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
     void makeWindow();
-    void attachChooser();
+    void makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher);
+    void attachDialogs();
+    void putNoticesOn(std::unique_ptr<NoticeBoard> board);
     void presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
     // Destroyed from the last to the first: what shows before what is shown.
@@ -76,9 +91,16 @@ private:
     std::unique_ptr<TrendsPresenter> m_trends;
     std::unique_ptr<ComparePresenter> m_compare;
     std::unique_ptr<OnboardingPresenter> m_onboarding;
+    std::unique_ptr<FolderDrop> m_folderDrop;
+    std::unique_ptr<RecentRepositories> m_recent;
+    std::unique_ptr<PageExport> m_trendsExport;
+    std::unique_ptr<PageExport> m_compareExport;
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     std::unique_ptr<FolderChooser> m_chooser;
+    std::unique_ptr<FileSaver> m_saver;
+    std::unique_ptr<NoticeBoard> m_noticeBoard;
+    std::unique_ptr<ScanNotices> m_scanNotices;
 };
 
 } // namespace Loadwick

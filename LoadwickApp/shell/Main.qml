@@ -10,6 +10,10 @@ ApplicationWindow {
     required property TrendsPresenter trends
     required property ComparePresenter compare
     required property OnboardingPresenter onboarding
+    required property FolderDrop folderDrop
+    required property RecentRepositories recent
+    required property PageExport trendsExport
+    required property PageExport compareExport
 
     title: qsTr("Loadwick")
     width: 1180
@@ -19,6 +23,8 @@ ApplicationWindow {
     color: AppTheme.window
 
     ModalGround {
+        id: ground
+
         anchors.fill: parent
         Accessible.role: Accessible.Pane
 
@@ -28,6 +34,14 @@ ApplicationWindow {
             overview: window.overview
             trends: window.trends
             compare: window.compare
+            recent: window.recent
+            trendsExport: window.trendsExport
+            compareExport: window.compareExport
+        }
+        DropTarget {
+            anchors.fill: parent
+            folderDrop: window.folderDrop
+            ground: ground
         }
     }
     // Made when it is wanted: most launches do without.

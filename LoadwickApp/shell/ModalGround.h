@@ -18,7 +18,7 @@ public:
     /// Makes the program's accessibility tree look at grounds. Call it once, before the first one.
     static void install();
 
-    [[nodiscard]] bool isCovered() const;
+    Q_INVOKABLE bool isCovered() const;
 
     /// Whether the item stands on a covered ground. Who found it before can still ask it to act.
     [[nodiscard]] static bool hides(const QQuickItem &item);

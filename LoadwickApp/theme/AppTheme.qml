@@ -128,6 +128,8 @@ QtObject {
     readonly property int hoverDuration: reduceMotion ? 0 : 180
     readonly property int pageDuration: reduceMotion ? 0 : 320
     readonly property int turnDuration: 1000
+    // How long a note of what was done stays to be read.
+    readonly property int noteDuration: 2000
     readonly property int stepDuration: reduceMotion ? 120 : 220
     readonly property int sheetCloseDuration: reduceMotion ? 100 : 160
     readonly property int stillDotDuration: 150

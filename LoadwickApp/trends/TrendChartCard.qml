@@ -7,6 +7,7 @@ ReportSurface {
     id: card
 
     required property TrendChartPresenter chart
+    required property PageExport exporter
     readonly property bool isEmpty: card.chart.emptyText.length > 0
 
     TrendPlaceholder {
@@ -53,6 +54,12 @@ ReportSurface {
         font: AppTheme.captionFont
         secondary: true
         wrapMode: Text.Wrap
+        visible: !card.isEmpty
+    }
+    ExportBar {
+        Layout.fillWidth: true
+        exporter: card.exporter
+        chart: plot
         visible: !card.isEmpty
     }
 }

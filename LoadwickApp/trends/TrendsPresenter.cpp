@@ -1,6 +1,7 @@
 #include "trends/TrendsPresenter.h"
 
 #include "history/ScanHistory.h"
+#include "history/ScanTables.h"
 #include "shell/QtText.h"
 
 namespace Loadwick {
@@ -37,6 +38,11 @@ std::vector<RecordedScan> TrendsPresenter::shownScans() const
     const auto path =
         selection ? selection->path() : ScanHistory::mostRecentRepositoryPath(history);
     return path ? ScanHistory::scans(history, *path) : std::vector<RecordedScan>();
+}
+
+std::string TrendsPresenter::table() const
+{
+    return ScanTables::totals(shownScans());
 }
 
 void TrendsPresenter::showRepository()

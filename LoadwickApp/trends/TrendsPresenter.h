@@ -38,6 +38,9 @@ public:
     [[nodiscard]] PreviousRunsPresenter *previousRuns() { return &m_previousRuns; }
     [[nodiscard]] RecordedDataPresenter *recordedData() { return &m_recordedData; }
 
+    /// The scans of the chart for other programs, as `ScanTables::totals` gives them.
+    [[nodiscard]] std::string table() const;
+
 Q_SIGNALS:
     void changed();
 

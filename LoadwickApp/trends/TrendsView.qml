@@ -7,6 +7,7 @@ PageColumn {
     id: page
 
     required property TrendsPresenter trends
+    required property PageExport exporter
 
     PageHeader {
         Layout.fillWidth: true
@@ -16,6 +17,7 @@ PageColumn {
     TrendChartCard {
         Layout.fillWidth: true
         chart: page.trends.chart
+        exporter: page.exporter
     }
     TrendSummaryCard {
         Layout.fillWidth: true

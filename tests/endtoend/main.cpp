@@ -16,6 +16,8 @@
 #include "demo/Confinement.h"
 #include "demo/window/ConfinedWindow.h"
 #include "demo/window/GivenFolderChooser.h"
+#include "desktop/DesktopNoticeBoard.h"
+#include "history/ScanHistoryStore.h"
 #include "onboarding/PreferencesCompletionStore.h"
 #include "shell/LoadwickApp.h"
 
@@ -77,6 +79,10 @@ int main(int argc, char **argv)
             folder, runnerSettings(folder, options, std::move(shutdown)));
         made.completionStore = std::make_shared<PreferencesCompletionStore>(
             PreferencesCompletionStore::defaultFile(currentEnvironment()));
+        made.dataFolder = ScanHistoryStore::defaultDirectory(currentEnvironment());
+        made.notices = [](const auto &dispatcher) {
+            return std::make_unique<DesktopNoticeBoard>(dispatcher);
+        };
         if (!options.usesPlatformDialog)
             made.folderChooser =
                 std::make_unique<GivenFolderChooser>([folder] { return folderToChoose(folder); });

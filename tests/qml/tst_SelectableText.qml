@@ -12,6 +12,8 @@ Item {
 
     SelectableText { id: twoFolders; y: 120; width: 150; text: "/home/somebody/Projects/harbor"; maximumLineCount: 2 }
 
+    TextEdit { id: clipboard; y: 200; textFormat: TextEdit.PlainText }
+
     Shortcut { id: shortcut; sequence: "F6" }
     SignalSpy { id: presses; target: shortcut; signalName: "activated" }
 
@@ -77,6 +79,35 @@ Item {
             edit(plain).forceActiveFocus();
             mouseDoubleClickSequence(edit(path), 10, 8);
             verify(edit(path).selectedText.length > 0);
+        }
+
+        function test_theContextMenuCopiesTheSelection() {
+            edit(plain).forceActiveFocus();
+            edit(plain).select(3, 4);
+            mouseClick(edit(plain), 4, 4, Qt.RightButton);
+            compare(edit(plain).selectedText, "a");
+            tryVerify(() => plain.menu !== null && plain.menu.visible);
+            compare(plain.menu.itemAt(0).text, "");
+            compare(plain.menu.itemAt(0).title, "Copy");
+            mouseClick(plain.menu.itemAt(0));
+            compare(pasted(), "a");
+            tryVerify(() => !plain.menu.visible);
+        }
+
+        function test_theContextMenuCopiesTheWholeWithoutASelection() {
+            edit(path).forceActiveFocus();
+            edit(path).deselect();
+            keyClick(Qt.Key_Menu);
+            tryVerify(() => path.menu !== null && path.menu.visible);
+            keyClick(Qt.Key_Down);
+            keyClick(Qt.Key_Return);
+            compare(pasted(), path.text);
+        }
+
+        function pasted() {
+            clipboard.clear();
+            clipboard.paste();
+            return clipboard.text;
         }
 
         function lineOf(item, word) {

@@ -8,6 +8,8 @@
 #include <QTest>
 
 #include "compare/ComparePresenter.h"
+#include "export/PageExport.h"
+#include "support/FakeFileSaver.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/SampleHistories.h"
 #include "support/ScanningModel.h"
@@ -54,6 +56,8 @@ private:
 
     std::unique_ptr<ScanningModel> m_scanning;
     std::unique_ptr<ComparePresenter> m_compare;
+    FakeFileSaver m_saver;
+    PageExport m_export{{}, m_saver, nullptr};
     std::unique_ptr<QQuickView> m_view;
 };
 
@@ -65,8 +69,8 @@ void CompareViewTest::init()
     m_view = std::make_unique<QQuickView>();
     ApplicationStyle::addModulePath(*m_view->engine());
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->setInitialProperties(
-        {{QStringLiteral("compare"), QVariant::fromValue(m_compare.get())}});
+    m_view->setInitialProperties({{QStringLiteral("compare"), QVariant::fromValue(m_compare.get())},
+                                  {QStringLiteral("exporter"), QVariant::fromValue(&m_export)}});
     m_view->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/CompareView.qml")));
     m_view->resize(930, 700);
     m_view->show();

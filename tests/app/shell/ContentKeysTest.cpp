@@ -118,7 +118,8 @@ private Q_SLOTS:
         const QString folder = QString::fromStdString(m_window->folder().path().string());
         QCOMPARE(stops, QStringList({folder, QStringLiteral("Overview"),
                                      QStringLiteral("Choose Repository…"),
-                                     QStringLiteral("Scan Again"), folder}));
+                                     QStringLiteral("Scanned repositories"),
+                                     QStringLiteral("Scan Again")}));
     }
 
     // What holds the focus looks otherwise than without it, at every stop of the window.

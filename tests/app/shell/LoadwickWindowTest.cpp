@@ -225,6 +225,17 @@ private Q_SLOTS:
         QVERIFY(m_window->loadwick().overview().summary().startsWith(QStringLiteral("Repository")));
     }
 
+    void copySummarySaysForAMomentThatItDid()
+    {
+        scan(m_window->folder().path());
+        QTRY_VERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
+        QVERIFY(!shows("Copied"));
+        pressAccessibly("Copy Summary");
+        QVERIFY(shows("Copied"));
+        QVERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
+        QTRY_VERIFY(!shows("Copied"));
+    }
+
     void theScanButtonIsQuietBesideAResult()
     {
         m_window->choose(m_window->folder().path());

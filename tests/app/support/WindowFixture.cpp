@@ -31,14 +31,23 @@ WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completi
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     auto chooser = std::make_unique<FakeFolderChooser>();
     m_chooser = chooser.get();
+    auto saver = std::make_unique<FakeFileSaver>();
+    m_saver = saver.get();
     m_loadwick = std::make_unique<LoadwickWindow>(LoadwickWindow::Collaborators{
         .probeRunner = m_probe,
         .instructionScanner = m_scanner,
         .historyStore = std::make_unique<ScanHistoryStore>(m_folder.path() / "history"),
         .folderChooser = std::move(chooser),
+        .fileSaver = std::move(saver),
         .dispatcher = m_dispatcher,
         .weeklyLog = m_folder.path() / "weekly.jsonl",
         .completionStore = std::move(completionStore),
+        .notices =
+            [this](const auto &) {
+                auto board = std::make_unique<FakeNoticeBoard>();
+                m_notices = board.get();
+                return board;
+            },
     });
     m_loadwick->window().show();
     m_loadwick->window().requestActivate();

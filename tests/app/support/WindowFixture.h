@@ -5,8 +5,10 @@
 #include <QString>
 
 #include "shell/LoadwickWindow.h"
+#include "support/FakeFileSaver.h"
 #include "support/FakeFolderChooser.h"
 #include "support/FakeInstructionScanner.h"
+#include "support/FakeNoticeBoard.h"
 #include "support/FakeProbe.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TemporaryFolder.h"
@@ -31,6 +33,8 @@ public:
     [[nodiscard]] FakeProbe &probe() noexcept { return *m_probe; }
     [[nodiscard]] FakeInstructionScanner &scanner() noexcept { return *m_scanner; }
     [[nodiscard]] FakeFolderChooser &chooser() noexcept { return *m_chooser; }
+    [[nodiscard]] FakeFileSaver &saver() noexcept { return *m_saver; }
+    [[nodiscard]] FakeNoticeBoard &notices() noexcept { return *m_notices; }
     [[nodiscard]] const TemporaryFolder &folder() const noexcept { return m_folder; }
 
     /// Closes and destroys the window.
@@ -53,6 +57,8 @@ private:
     std::shared_ptr<FakeInstructionScanner> m_scanner = std::make_shared<FakeInstructionScanner>();
     std::shared_ptr<SteppingDispatcher> m_dispatcher = std::make_shared<SteppingDispatcher>();
     FakeFolderChooser *m_chooser = nullptr;
+    FakeFileSaver *m_saver = nullptr;
+    FakeNoticeBoard *m_notices = nullptr;
     TemporaryFolder m_folder;
     std::unique_ptr<LoadwickWindow> m_loadwick;
 };

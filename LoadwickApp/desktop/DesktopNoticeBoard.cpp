@@ -1,0 +1,151 @@
+#include "desktop/DesktopNoticeBoard.h"
+
+#include <exception>
+#include <utility>
+
+#include <QDBusPendingCallWatcher>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QVariantMap>
+
+namespace Loadwick {
+namespace {
+
+constexpr QLatin1String service("org.freedesktop.Notifications");
+constexpr QLatin1String path("/org/freedesktop/Notifications");
+constexpr QLatin1String interface("org.freedesktop.Notifications");
+constexpr QLatin1String defaultAction("default"); ///< what a press on the notice itself invokes
+
+constexpr int answerMilliseconds = 25'000;
+constexpr int serviceDecides = -1; ///< how long it shows
+
+QVariantMap hints()
+{
+    return {{QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
+            {QStringLiteral("category"), QStringLiteral("transfer.complete")}};
+}
+
+} // namespace
+
+DesktopNoticeBoard::DesktopNoticeBoard(std::shared_ptr<TaskDispatcher> dispatcher, Connect connect,
+                                       QObject *parent)
+    : NoticeBoard(parent), m_dispatcher(std::move(dispatcher)), m_connect(std::move(connect))
+{}
+
+void DesktopNoticeBoard::show(const Notice &notice)
+{
+    m_notice = notice;
+    if (m_takesMarkup)
+        send();
+    else if (!m_isConnecting)
+        connectInBackground();
+}
+
+void DesktopNoticeBoard::withdraw()
+{
+    m_notice.reset();
+    close();
+}
+
+void DesktopNoticeBoard::connectInBackground()
+{
+    const QPointer<DesktopNoticeBoard> board(this);
+    m_isConnecting = true;
+    try {
+        m_dispatcher->runInBackground([board, dispatcher = m_dispatcher, connect = m_connect] {
+            dispatcher->postToInterface([board, bus = connect()] {
+                if (board)
+                    board->begin(bus);
+            });
+        });
+    } catch (const std::exception &) {
+        m_isConnecting = false; // no thread is to be had; the next notice tries again
+    }
+}
+
+void DesktopNoticeBoard::begin(const QDBusConnection &bus)
+{
+    m_isConnecting = false;
+    if (!bus.isConnected())
+        return;
+    if (!std::exchange(m_bus, bus)) {
+        m_bus->connect(service, path, interface, QStringLiteral("ActionInvoked"), this,
+                       SLOT(followAction(QDBusMessage)));
+        m_bus->connect(service, path, interface, QStringLiteral("ActivationToken"), this,
+                       SLOT(followToken(QDBusMessage)));
+    }
+    askForCapabilities();
+}
+
+void DesktopNoticeBoard::call(const QString &method, const QVariantList &arguments,
+                              const Answered &answered)
+{
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, method);
+    question.setArguments(arguments);
+    auto *watcher =
+        new QDBusPendingCallWatcher(m_bus->asyncCall(question, answerMilliseconds), this);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, answered] {
+        watcher->deleteLater();
+        const QDBusMessage answer = watcher->reply();
+        if (answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty())
+            answered(answer);
+    });
+}
+
+void DesktopNoticeBoard::askForCapabilities()
+{
+    call(QStringLiteral("GetCapabilities"), {}, [this](const QDBusMessage &answer) {
+        const QStringList capabilities = answer.arguments().constFirst().toStringList();
+        m_takesMarkup = capabilities.contains(QStringLiteral("body-markup"));
+        send();
+    });
+}
+
+void DesktopNoticeBoard::send()
+{
+    if (!m_notice)
+        return;
+    const QString body = *m_takesMarkup ? m_notice->body.toHtmlEscaped() : m_notice->body;
+    const QVariantList arguments = {
+        QGuiApplication::applicationDisplayName(),
+        m_identifier,
+        QGuiApplication::desktopFileName(), // the icon bears the same name
+        m_notice->title,
+        body,
+        QStringList{defaultAction, tr("Show")},
+        hints(),
+        serviceDecides,
+    };
+    call(QStringLiteral("Notify"), arguments,
+         [this](const QDBusMessage &answer) { take(answer.arguments().constFirst().toUInt()); });
+}
+
+void DesktopNoticeBoard::take(quint32 identifier)
+{
+    m_identifier = identifier;
+    if (!m_notice) // taken back while it was on its way
+        close();
+}
+
+void DesktopNoticeBoard::close()
+{
+    if (m_bus && m_identifier != 0)
+        call(QStringLiteral("CloseNotification"), {std::exchange(m_identifier, 0)},
+             [](const QDBusMessage &) {});
+}
+
+void DesktopNoticeBoard::followToken(const QDBusMessage &signal)
+{
+    const QVariantList arguments = signal.arguments();
+    if (arguments.size() == 2 && arguments[0].toUInt() == m_identifier)
+        m_token = arguments[1].toString().toUtf8();
+}
+
+void DesktopNoticeBoard::followAction(const QDBusMessage &signal)
+{
+    const QVariantList arguments = signal.arguments();
+    if (m_identifier != 0 && arguments.size() == 2 && arguments[0].toUInt() == m_identifier)
+        Q_EMIT pressed(std::exchange(m_token, {}));
+}
+
+} // namespace Loadwick

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+#include "desktop/NoticeBoard.h"
+#include "model/TaskDispatcher.h"
+
+class QDBusPendingCallWatcher;
+
+namespace Loadwick {
+
+/// The notifications of the desktop, by the interface org.freedesktop.Notifications. The bus is
+/// connected in the background, and only when there is something to show. Without a bus or a
+/// service nothing is shown and nobody is told.
+class DesktopNoticeBoard final : public NoticeBoard
+{
+    Q_OBJECT
+
+public:
+    /// Called away from the interface thread.
+    using Connect = std::function<QDBusConnection()>;
+
+    explicit DesktopNoticeBoard(std::shared_ptr<TaskDispatcher> dispatcher,
+                                Connect connect = &QDBusConnection::sessionBus,
+                                QObject *parent = nullptr);
+
+    void show(const Notice &notice) override;
+    void withdraw() override;
+
+private Q_SLOTS:
+    void followAction(const QDBusMessage &signal);
+    void followToken(const QDBusMessage &signal);
+
+private:
+    using Answered = std::function<void(const QDBusMessage &answer)>;
+
+    void connectInBackground();
+    void begin(const QDBusConnection &bus);
+    void call(const QString &method, const QVariantList &arguments, const Answered &answered);
+    void askForCapabilities();
+    void send();
+    void take(quint32 identifier);
+    void close();
+
+    std::shared_ptr<TaskDispatcher> m_dispatcher;
+    Connect m_connect;
+    bool m_isConnecting = false;
+    std::optional<QDBusConnection> m_bus;
+    std::optional<bool> m_takesMarkup; ///< nothing until the service has said so
+    std::optional<Notice> m_notice;    ///< what is to be seen
+    quint32 m_identifier = 0;          ///< the service's name for what it shows; 0: nothing
+    QByteArray m_token;
+};
+
+} // namespace Loadwick

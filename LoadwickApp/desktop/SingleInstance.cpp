@@ -1,0 +1,127 @@
+#include "desktop/SingleInstance.h"
+
+#include <array>
+#include <cerrno>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include "probe/Deadline.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr double answerSeconds = 1.0;
+constexpr int waitingLine = 8;
+constexpr qsizetype longestToken = 512;
+constexpr char lineEnd = '\n';
+
+FileDescriptor newSocket()
+{
+    return FileDescriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+}
+
+/// Names beside the file system's have no owner; whoever took this one may be somebody else.
+bool isOurs(int descriptor)
+{
+    ucred peer = {};
+    socklen_t length = sizeof peer;
+    return ::getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 &&
+           peer.uid == ::geteuid();
+}
+
+QByteArray ownToken()
+{
+    QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    if (token.contains(lineEnd) || token.size() > longestToken)
+        token.clear();
+    return token + lineEnd;
+}
+
+bool send(int descriptor, const QByteArray &bytes)
+{
+    const auto size = static_cast<std::size_t>(bytes.size());
+    return ::send(descriptor, bytes.constData(), size, MSG_NOSIGNAL) == bytes.size();
+}
+
+bool becomesReadable(int descriptor)
+{
+    const Deadline deadline = deadlineAfter(answerSeconds);
+    pollfd poll = {.fd = descriptor, .events = POLLIN, .revents = 0};
+    int count = 0;
+    do {
+        count = ::poll(&poll, 1, millisecondsUntil(deadline, std::chrono::seconds(1)));
+    } while (count < 0 && errno == EINTR);
+    return count > 0;
+}
+
+/// What has come so far: the first line of it, without its end.
+QByteArray received(int descriptor)
+{
+    std::array<char, longestToken + 1> bytes{};
+    const ssize_t count = ::recv(descriptor, bytes.data(), bytes.size(), 0);
+    const QByteArray all(bytes.data(), count > 0 ? static_cast<qsizetype>(count) : 0);
+    return all.left(all.indexOf(lineEnd));
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const std::filesystem::path &dataFolder, QObject *parent)
+    : QObject(parent)
+{
+    if (dataFolder.empty())
+        return;
+    const LocalAddress address(dataFolder);
+    m_isAnswered = ask(address);
+    // Of two that start at once one finds nobody to ask and then the name taken.
+    if (!m_isAnswered && !listen(address) && errno == EADDRINUSE)
+        m_isAnswered = ask(address);
+}
+
+bool SingleInstance::ask(const LocalAddress &address)
+{
+    const FileDescriptor socket = newSocket();
+    const int descriptor = socket.number();
+    if (!socket.isOpen() || ::connect(descriptor, address.address(), address.length()) != 0)
+        return false;
+    return isOurs(descriptor) && send(descriptor, ownToken()) && becomesReadable(descriptor) &&
+           !received(descriptor).isEmpty();
+}
+
+bool SingleInstance::listen(const LocalAddress &address)
+{
+    FileDescriptor socket = newSocket();
+    if (!socket.isOpen() || ::bind(socket.number(), address.address(), address.length()) != 0 ||
+        ::listen(socket.number(), waitingLine) != 0)
+        return false;
+    m_socket = std::move(socket);
+    m_listener = std::make_unique<QSocketNotifier>(m_socket.number(), QSocketNotifier::Read);
+    connect(m_listener.get(), &QSocketNotifier::activated, this, &SingleInstance::receive);
+    return true;
+}
+
+void SingleInstance::receive()
+{
+    FileDescriptor visitor(
+        ::accept4(m_socket.number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    if (!visitor.isOpen() || !isOurs(visitor.number()))
+        return;
+    // Owned by the notifier's connection: it closes when the visitor has been heard, or has gone.
+    const auto held = std::make_shared<FileDescriptor>(std::move(visitor));
+    auto *words = new QSocketNotifier(held->number(), QSocketNotifier::Read, this);
+    connect(words, &QSocketNotifier::activated, this, [this, words, held] {
+        words->setEnabled(false);
+        words->deleteLater();
+        answer(held->number());
+    });
+}
+
+void SingleInstance::answer(int descriptor)
+{
+    const QByteArray token = received(descriptor);
+    if (send(descriptor, QByteArrayLiteral("shown\n")))
+        Q_EMIT windowWanted(token);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Layouts
+import Loadwick
+
+// Takes what a card shows along as files, and says how that went.
+RowLayout {
+    id: bar
+
+    required property PageExport exporter
+    required property QQuickPaintedItem chart
+
+    spacing: AppTheme.mediumSpace
+
+    PlainLabel {
+        Layout.fillWidth: true
+        text: bar.exporter.outcome
+        font: AppTheme.captionFont
+        color: bar.exporter.failed ? AppTheme.bandExcessiveText : AppTheme.secondaryText
+        wrapMode: Text.Wrap
+    }
+    PushButton {
+        title: qsTr("Save Data…")
+        outlined: true
+        onClicked: bar.exporter.saveTable()
+    }
+    PushButton {
+        title: qsTr("Save Chart…")
+        outlined: true
+        onClicked: bar.exporter.saveChart(bar.chart, AppTheme.surface)
+    }
+}

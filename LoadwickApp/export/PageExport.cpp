@@ -1,0 +1,89 @@
+#include "export/PageExport.h"
+
+#include <exception>
+#include <system_error>
+#include <utility>
+
+#include <QPointer>
+
+#include "history/AtomicFile.h"
+#include "probe/PathText.h"
+#include "shell/QtText.h"
+
+namespace Loadwick {
+namespace {
+
+bool writeFile(const FileSaver::Place &place, const QByteArray &bytes)
+{
+    std::error_code error;
+    const bool isTaken = !place.mayReplace && std::filesystem::exists(place.file, error);
+    return !isTaken && !bytes.isEmpty() &&
+           AtomicFile::replace(place.file,
+                               {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+bool isDrawing(const std::filesystem::path &file)
+{
+    return file.extension() == ".svg" || file.extension() == ".SVG";
+}
+
+} // namespace
+
+PageExport::PageExport(Contents contents, FileSaver &saver,
+                       std::shared_ptr<TaskDispatcher> dispatcher)
+    : m_contents(std::move(contents)), m_saver(saver), m_dispatcher(std::move(dispatcher))
+{}
+
+void PageExport::saveTable()
+{
+    const QPointer<PageExport> page(this);
+    const FileSaver::Request request = {.title = tr("Save the data"),
+                                        .name = m_contents.name + QStringLiteral(".csv"),
+                                        .filters = {tr("Comma-separated values (*.csv)")}};
+    m_saver.open(request, [page](const FileSaver::Place &place) {
+        if (page)
+            page->write(place, [table = QByteArray::fromStdString(page->m_contents.table())] {
+                return table;
+            });
+    });
+}
+
+void PageExport::saveChart(QQuickPaintedItem *chart, const QColor &ground)
+{
+    const QPointer<PageExport> page(this);
+    const QPointer<QQuickPaintedItem> shown(chart);
+    const FileSaver::Request request = {
+        .title = tr("Save the chart"),
+        .name = m_contents.name + QStringLiteral(".png"),
+        .filters = {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)")}};
+    m_saver.open(request, [page, shown, ground](const FileSaver::Place &place) {
+        if (page && shown)
+            page->write(place, isDrawing(place.file) ? ChartFile::svg(*shown, ground)
+                                                     : ChartFile::png(*shown, ground));
+    });
+}
+
+void PageExport::write(const FileSaver::Place &place, const ChartFile::Bytes &bytes)
+{
+    const QPointer<PageExport> page(this);
+    try {
+        m_dispatcher->runInBackground([page, place, bytes, dispatcher = m_dispatcher] {
+            dispatcher->postToInterface([page, place, isWritten = writeFile(place, bytes())] {
+                if (page)
+                    page->tell(place, isWritten);
+            });
+        });
+    } catch (const std::exception &) {
+        tell(place, false);
+    }
+}
+
+void PageExport::tell(const FileSaver::Place &place, bool isWritten)
+{
+    m_failed = !isWritten;
+    m_outcome = isWritten ? tr("Saved as %1.").arg(qtText(pathText(place.file.filename())))
+                          : tr("%1 could not be written.").arg(qtText(pathText(place.file)));
+    Q_EMIT changed();
+}
+
+} // namespace Loadwick

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <QColor>
+#include <QObject>
+#include <QQuickPaintedItem>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include "export/ChartFile.h"
+#include "export/FileSaver.h"
+#include "model/TaskDispatcher.h"
+
+namespace Loadwick {
+
+/// Saves what one page shows as files for other programs: its figures as comma-separated values,
+/// its chart as a picture. Files are written in the background. Belongs to the interface thread;
+/// the saver outlives it.
+class PageExport final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window.")
+    /// How the last saving went; empty before the first.
+    Q_PROPERTY(QString outcome READ outcome NOTIFY changed)
+    Q_PROPERTY(bool failed READ failed NOTIFY changed)
+
+public:
+    struct Contents
+    {
+        QString name; ///< of the files, without their ending
+        std::function<std::string()> table;
+    };
+
+    PageExport(Contents contents, FileSaver &saver, std::shared_ptr<TaskDispatcher> dispatcher);
+
+    [[nodiscard]] QString outcome() const { return m_outcome; }
+    [[nodiscard]] bool failed() const noexcept { return m_failed; }
+
+    /// The figures as they are when the user has chosen a file.
+    Q_INVOKABLE void saveTable();
+
+    /// As a drawing where the file's name ends in ".svg", else as a picture.
+    Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, const QColor &ground);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void write(const FileSaver::Place &place, const ChartFile::Bytes &bytes);
+    void tell(const FileSaver::Place &place, bool isWritten);
+
+    Contents m_contents;
+    FileSaver &m_saver;
+    std::shared_ptr<TaskDispatcher> m_dispatcher;
+    QString m_outcome;
+    bool m_failed = false;
+};
+
+} // namespace Loadwick

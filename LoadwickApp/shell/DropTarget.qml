@@ -1,0 +1,40 @@
+import QtQuick
+import Loadwick
+
+// Where a folder can be dropped: the whole of what it is laid over. It shows that it would be taken.
+DropArea {
+    id: target
+
+    required property FolderDrop folderDrop
+    // Whether a sheet lies over the window; nothing behind it is to be reached.
+    required property ModalGround ground
+
+    onEntered: drag => { drag.accepted = !target.ground.isCovered() && target.folderDrop.accepts(drag.urls); }
+    onDropped: drop => {
+        drop.accepted = target.folderDrop.accepts(drop.urls);
+        target.folderDrop.take(drop.urls);
+    }
+
+    Rectangle {
+        anchors { fill: parent; margins: AppTheme.smallSpace }
+        radius: AppTheme.cardRadius
+        color: Qt.alpha(AppTheme.window, 0.86)
+        border { width: 2; color: AppTheme.accent }
+        visible: target.containsDrag
+
+        Column {
+            anchors.centerIn: parent
+            spacing: AppTheme.cardSpace
+
+            StateIcon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                symbol: "folder"
+                tint: AppTheme.accent
+            }
+            PlainLabel {
+                text: qsTr("Drop the folder to choose it")
+                font: AppTheme.headlineFont
+            }
+        }
+    }
+}

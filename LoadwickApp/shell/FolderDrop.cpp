@@ -1,0 +1,56 @@
+#include "shell/FolderDrop.h"
+
+#include <exception>
+#include <system_error>
+#include <utility>
+
+#include <QPointer>
+
+#include "shell/FolderUrl.h"
+
+namespace Loadwick {
+namespace {
+
+bool isFolder(const std::filesystem::path &path)
+{
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
+}
+
+} // namespace
+
+FolderDrop::FolderDrop(ContentPresenter &content, std::shared_ptr<TaskDispatcher> dispatcher)
+    : m_content(content), m_dispatcher(std::move(dispatcher))
+{}
+
+bool FolderDrop::accepts(const QList<QUrl> &urls) const
+{
+    return onlyPlace(urls).has_value();
+}
+
+void FolderDrop::take(const QList<QUrl> &urls)
+{
+    const auto place = onlyPlace(urls);
+    if (!place)
+        return;
+    const QPointer<FolderDrop> drop(this);
+    try {
+        m_dispatcher->runInBackground([drop, place = *place, dispatcher = m_dispatcher] {
+            if (!isFolder(place))
+                return;
+            dispatcher->postToInterface([drop, place] {
+                if (drop)
+                    drop->m_content.choose(place);
+            });
+        });
+    } catch (const std::exception &) {
+        // No thread is to be had: the dialog remains.
+    }
+}
+
+std::optional<std::filesystem::path> FolderDrop::onlyPlace(const QList<QUrl> &urls) const
+{
+    return m_content.canChoose() && urls.size() == 1 ? folderPath(urls.first()) : std::nullopt;
+}
+
+} // namespace Loadwick

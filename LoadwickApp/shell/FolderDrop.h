@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+#include <QList>
+#include <QObject>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+#include "model/TaskDispatcher.h"
+#include "shell/ContentPresenter.h"
+
+namespace Loadwick {
+
+/// Takes a folder that is dropped on the window, as if it came from the folder dialog. Belongs to
+/// the interface thread; the presenter outlives it.
+class FolderDrop final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window.")
+
+public:
+    FolderDrop(ContentPresenter &content, std::shared_ptr<TaskDispatcher> dispatcher);
+
+    /// Whether what is dragged may be dropped: one place of this machine, and no scan runs. That it
+    /// is a folder is not known yet, since asking its disk may take any time.
+    Q_INVOKABLE bool accepts(const QList<QUrl> &urls) const;
+
+    /// Chooses what was dropped once it turns out to be a folder; does nothing if it is none, or if
+    /// a scan was started meanwhile.
+    Q_INVOKABLE void take(const QList<QUrl> &urls);
+
+private:
+    [[nodiscard]] std::optional<std::filesystem::path> onlyPlace(const QList<QUrl> &urls) const;
+
+    ContentPresenter &m_content;
+    std::shared_ptr<TaskDispatcher> m_dispatcher;
+};
+
+} // namespace Loadwick

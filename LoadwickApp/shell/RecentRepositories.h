@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+#include "model/ScanModel.h"
+#include "model/TaskDispatcher.h"
+#include "shell/ContentPresenter.h"
+#include "shell/RecentRows.h"
+
+namespace Loadwick {
+
+/// The repositories of the recorded scans, to be chosen again without the folder dialog. Belongs to
+/// the interface thread; model and presenter outlive it, and the model changes no more once it is
+/// gone.
+class RecentRepositories final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window.")
+    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
+    Q_PROPERTY(int count READ count NOTIFY changed)
+
+public:
+    static constexpr std::size_t longestList = 10;
+
+    RecentRepositories(ScanModel &model, ContentPresenter &content,
+                       std::shared_ptr<TaskDispatcher> dispatcher);
+
+    /// The repository scanned last first. None counts as there until it was looked for.
+    [[nodiscard]] QAbstractItemModel *rows() { return &m_rows; }
+    [[nodiscard]] int count() const { return m_rows.rowCount(); }
+
+    /// Looks, in the background, which of the folders are there.
+    Q_INVOKABLE void look();
+
+    /// Chooses the repository of that row, if its folder was there and no scan runs.
+    Q_INVOKABLE void choose(int row);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void showHistory();
+    void lookFor(const std::filesystem::path &folder);
+
+    ScanModel &m_model;
+    ContentPresenter &m_content;
+    std::shared_ptr<TaskDispatcher> m_dispatcher;
+    RecentRows m_rows;
+};
+
+} // namespace Loadwick

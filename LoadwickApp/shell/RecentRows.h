@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include <QAbstractListModel>
+#include <QString>
+
+namespace Loadwick {
+
+/// One row per repository that can be chosen again: "title", "detail" and "isThere".
+class RecentRows final : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    struct Row
+    {
+        QString title;
+        QString detail; ///< where it is
+        std::filesystem::path folder;
+        bool isThere = false; ///< as far as is known
+    };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    void setRows(std::vector<Row> rows);
+    [[nodiscard]] const std::vector<Row> &rows() const noexcept { return m_rows; }
+
+    /// Every row of that folder.
+    void setIsThere(const std::filesystem::path &folder, bool isThere);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+private:
+    enum Role
+    {
+        Title = Qt::UserRole,
+        Detail,
+        IsThere
+    };
+
+    std::vector<Row> m_rows;
+};
+
+} // namespace Loadwick

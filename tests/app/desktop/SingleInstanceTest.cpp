@@ -1,0 +1,146 @@
+#include "desktop/SingleInstance.h"
+
+#include <atomic>
+#include <thread>
+
+#include <sys/socket.h>
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "support/EnvironmentSwap.h"
+#include "support/TemporaryFolder.h"
+#include "support/TestRegistry.h"
+
+namespace Loadwick {
+
+class SingleInstanceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFirstIsThereForThoseWhoComeLater()
+    {
+        const SingleInstance first(m_folder.path());
+        QVERIFY(first.isListening());
+        QVERIFY(!first.isAnswered());
+    }
+
+    void theSecondIsAnsweredAndTheFirstShowsItself()
+    {
+        SingleInstance first(m_folder.path());
+        QSignalSpy wanted(&first, &SingleInstance::windowWanted);
+        QVERIFY(startAnother());
+        QTRY_COMPARE(wanted.count(), 1);
+        QVERIFY(startAnother());
+        QTRY_COMPARE(wanted.count(), 2);
+    }
+
+    void theDesktopsLeaveIsPassedOn()
+    {
+        const EnvironmentSwap given({"XDG_ACTIVATION_TOKEN=leave-1"});
+        SingleInstance first(m_folder.path());
+        QSignalSpy wanted(&first, &SingleInstance::windowWanted);
+        QVERIFY(startAnother());
+        QTRY_COMPARE(wanted.count(), 1);
+        QCOMPARE(wanted.first().first().toByteArray(), QByteArray("leave-1"));
+    }
+
+    void aLeaveThatIsNoneIsNotPassedOn_data()
+    {
+        QTest::addColumn<QByteArray>("token");
+        QTest::newRow("two lines") << QByteArray("one\ntwo");
+        QTest::newRow("too long") << QByteArray(513, 't');
+    }
+
+    void aLeaveThatIsNoneIsNotPassedOn()
+    {
+        QFETCH(const QByteArray, token);
+        const EnvironmentSwap given({"XDG_ACTIVATION_TOKEN=" + token.toStdString()});
+        SingleInstance first(m_folder.path());
+        QSignalSpy wanted(&first, &SingleInstance::windowWanted);
+        QVERIFY(startAnother());
+        QTRY_COMPARE(wanted.count(), 1);
+        QCOMPARE(wanted.first().first().toByteArray(), QByteArray());
+    }
+
+    void anotherFolderIsAnotherWindow()
+    {
+        const SingleInstance first(m_folder.path());
+        const SingleInstance second(m_folder.path() / "other");
+        QVERIFY(second.isListening());
+        QVERIFY(!second.isAnswered());
+    }
+
+    void theSameFolderWrittenOtherwiseIsTheSame()
+    {
+        SingleInstance first(m_folder.path());
+        QVERIFY(startAnother(m_folder.path() / "x" / ".."));
+    }
+
+    void theNameIsFreeAgainAfterTheFirst()
+    {
+        {
+            const SingleInstance first(m_folder.path());
+            QVERIFY(first.isListening());
+        }
+        const SingleInstance next(m_folder.path());
+        QVERIFY(next.isListening());
+    }
+
+    // Its event loop does not run here.
+    void oneThatDoesNotAnswerHoldsUpTheNextForASecond()
+    {
+        const SingleInstance hanging(m_folder.path());
+        QElapsedTimer timer;
+        timer.start();
+        const SingleInstance next(m_folder.path());
+        QVERIFY(!next.isAnswered());
+        QVERIFY(timer.elapsed() < 10'000);
+    }
+
+    void withoutAFolderNobodyIsAsked()
+    {
+        const SingleInstance first((std::filesystem::path()));
+        const SingleInstance second((std::filesystem::path()));
+        QVERIFY(!second.isAnswered());
+        QVERIFY(!second.isListening());
+    }
+
+    void visitorsWhoSayNothingDisturbNobody()
+    {
+        SingleInstance first(m_folder.path());
+        QSignalSpy wanted(&first, &SingleInstance::windowWanted);
+        const LocalAddress address(m_folder.path());
+        const FileDescriptor silent(::socket(AF_UNIX, SOCK_STREAM, 0));
+        QCOMPARE(::connect(silent.number(), address.address(), address.length()), 0);
+        QVERIFY(startAnother());
+        QTRY_COMPARE(wanted.count(), 1);
+    }
+
+private:
+    /// Whether a program that is started now finds another.
+    bool startAnother(const std::filesystem::path &folder)
+    {
+        std::atomic<bool> ended = false;
+        bool answered = false;
+        std::thread another([&] {
+            answered = SingleInstance(folder).isAnswered();
+            ended = true;
+        });
+        while (!ended)
+            QTest::qWait(1);
+        another.join();
+        return answered;
+    }
+    bool startAnother() { return startAnother(m_folder.path()); }
+
+    TemporaryFolder m_folder;
+};
+
+const RegisteredTest<SingleInstanceTest> registered("SingleInstance");
+
+} // namespace Loadwick
+
+#include "SingleInstanceTest.moc"

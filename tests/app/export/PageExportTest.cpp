@@ -1,0 +1,173 @@
+#include "export/PageExport.h"
+
+#include <fstream>
+#include <iterator>
+
+#include <QAccessible>
+#include <QImage>
+#include <QTest>
+
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+QByteArray content(const std::filesystem::path &file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    return QByteArray::fromStdString(std::string(std::istreambuf_iterator<char>(stream), {}));
+}
+
+} // namespace
+
+class PageExportTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<WindowFixture>();
+        for (const char *name : {"=one", "two", "two"})
+            scan(name);
+    }
+    void cleanup() { m_window.reset(); }
+
+    void theTrendIsSavedAsCommaSeparatedValues()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const auto file = save("Save Data…", "trend.csv");
+        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-trend.csv"));
+        const QList<QByteArray> lines = content(file).split('\n');
+        QCOMPARE(lines.size(), 4); // the head, two scans, and nothing after the last line's end
+        QCOMPARE(lines[0], QByteArray("Repository,Path,Date,Total tokens,Band\r"));
+        QVERIFY(lines[1].startsWith("two,"));
+        QVERIFY(lines[1].endsWith(",27654,Lean\r"));
+        QVERIFY(m_window->shows(QStringLiteral("Saved as trend.csv.")));
+    }
+
+    void theComparisonIsSavedWithItsCategories()
+    {
+        m_window->loadwick().content().setPageIndex(2);
+        const QByteArray table = content(save("Save Data…", "all.csv"));
+        QVERIFY(table.startsWith("Repository,Path,Date,Total tokens,Band,"));
+        QVERIFY(table.contains("\r\n'=one,"));
+        QVERIFY(table.contains("\r\ntwo,"));
+        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-comparison.csv"));
+    }
+
+    void theTrendsChartIsSavedAsAPicture()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const QImage image(QString::fromStdString(save("Save Chart…", "trend.png").string()));
+        QVERIFY(image.width() > 1000);
+        QCOMPARE(image.height(), 2 * (260 + 32));
+        QVERIFY(colorCount(image) > 20);
+    }
+
+    void theComparisonsChartIsSavedWhole()
+    {
+        m_window->loadwick().content().setPageIndex(2);
+        const QImage image(QString::fromStdString(save("Save Chart…", "all.png").string()));
+        QCOMPARE(image.width(), 2 * (900 + 32));
+        QVERIFY(image.height() > 2 * 24);
+        QVERIFY(colorCount(image) > 20);
+    }
+
+    void anEndingOfADrawingGivesADrawing()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const QByteArray drawing = content(save("Save Chart…", "trend.svg"));
+        QVERIFY(drawing.startsWith("<?xml"));
+        QVERIFY(drawing.contains("<svg"));
+        QVERIFY(drawing.contains("Excessive"));
+    }
+
+    void aFileIsReplacedOnlyByWhoKnowsOfIt()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const auto file = m_window->folder().write("trend.csv", "precious");
+        m_mayReplace = false;
+        save("Save Data…", "trend.csv");
+        QCOMPARE(content(file), QByteArray("precious"));
+        QVERIFY(m_window->shows(QString::fromStdString(file.string()) +
+                                QStringLiteral(" could not be written.")));
+        m_mayReplace = true;
+        save("Save Data…", "trend.csv");
+        QVERIFY(content(file).startsWith("Repository,"));
+        QVERIFY(m_window->shows(QStringLiteral("Saved as trend.csv.")));
+    }
+
+    void aFailedWriteSaysSo()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const auto file = save("Save Chart…", "no such folder/trend.png");
+        QVERIFY(!std::filesystem::exists(file));
+        QVERIFY(m_window->shows(QString::fromStdString(file.string()) +
+                                QStringLiteral(" could not be written.")));
+    }
+
+    void thinkingBetterOfItSavesNothing()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        press("Save Data…");
+        m_window->finishScan();
+        QVERIFY(m_window->saver().asked.has_value());
+        QVERIFY(!m_window->shows(QStringLiteral("Saved as loadwick-trend.csv.")));
+    }
+
+    void theWindowMayGoBeforeTheFileIsWritten()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const auto file = m_window->folder().path() / "late.csv";
+        m_window->saver().answer = {.file = file, .mayReplace = true};
+        press("Save Data…");
+        m_window->destroy();
+        m_window->finishScan();
+        QVERIFY(std::filesystem::exists(file));
+    }
+
+private:
+    void scan(const std::string &name)
+    {
+        std::filesystem::create_directory(m_window->folder().path() / name);
+        m_window->choose(m_window->folder().path() / name);
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->finishScan();
+    }
+
+    void press(const char *name)
+    {
+        QAccessibleInterface *button = m_window->find(QString::fromUtf8(name));
+        QVERIFY2(button != nullptr && button->actionInterface() != nullptr, name);
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+
+    std::filesystem::path save(const char *button, const std::string &name)
+    {
+        const auto file = m_window->folder().path() / name;
+        m_window->saver().answer = {.file = file, .mayReplace = m_mayReplace};
+        press(button);
+        m_window->finishScan();
+        return file;
+    }
+
+    static qsizetype colorCount(const QImage &image)
+    {
+        QSet<QRgb> colors;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                colors.insert(image.pixel(x, y));
+        return colors.size();
+    }
+
+    bool m_mayReplace = true;
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+const RegisteredTest<PageExportTest> registered("PageExport");
+
+} // namespace Loadwick
+
+#include "PageExportTest.moc"

@@ -1,0 +1,158 @@
+#include "shell/FolderDrop.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTest>
+
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+QUrl urlOf(const std::filesystem::path &path)
+{
+    return QUrl(QStringLiteral("file://") +
+                QString::fromUtf8(QByteArray::fromStdString(path.string()).toPercentEncoding("/")));
+}
+
+} // namespace
+
+class FolderDropTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_window = std::make_unique<WindowFixture>(); }
+    void cleanup() { m_window.reset(); }
+
+    void aDroppedFolderIsChosenAsIfByTheDialog()
+    {
+        m_window->loadwick().content().setPageIndex(2);
+        QVERIFY(drop({urlOf(m_window->folder().path())}));
+        m_window->finishScan();
+        QVERIFY(isChosen(m_window->folder().path()));
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
+        QVERIFY(m_window->isPressable(QStringLiteral("Scan Again")));
+        QCOMPARE(m_window->chooser().openCount, 0);
+    }
+
+    void aNameThatIsNotUtf8KeepsItsBytes()
+    {
+        const auto folder = m_window->folder().path() / "caf\xE9 #1?";
+        std::filesystem::create_directory(folder);
+        QVERIFY(drop({urlOf(folder)}));
+        m_window->finishScan();
+        QVERIFY(isChosen(folder));
+    }
+
+    void whatIsNotOneLocalFolderIsRefused_data()
+    {
+        QTest::addColumn<QList<QUrl>>("urls");
+        const QUrl folder(QStringLiteral("file:///tmp"));
+        QTest::newRow("nothing") << QList<QUrl>();
+        QTest::newRow("two folders") << QList<QUrl>{folder, folder};
+        QTest::newRow("an address") << QList<QUrl>{QUrl(QStringLiteral("https://localhost/tmp"))};
+        QTest::newRow("of another machine") << QList<QUrl>{QUrl(QStringLiteral("file://far/tmp"))};
+    }
+
+    void whatIsNotOneLocalFolderIsRefused()
+    {
+        QFETCH(const QList<QUrl>, urls);
+        QVERIFY(!drop(urls));
+        m_window->finishScan();
+        QVERIFY(!m_window->loadwick().content().hasRepository());
+    }
+
+    void aDroppedFileChangesNothing()
+    {
+        drop({urlOf(m_window->folder().write("CLAUDE.md", "Be brief.\n"))});
+        m_window->finishScan();
+        QVERIFY(!m_window->loadwick().content().hasRepository());
+        drop({urlOf(m_window->folder().path() / "gone")});
+        m_window->finishScan();
+        QVERIFY(!m_window->loadwick().content().hasRepository());
+    }
+
+    void whileScanningItIsRefused()
+    {
+        const auto other = m_window->folder().path() / "other";
+        std::filesystem::create_directory(other);
+        m_window->choose(m_window->folder().path());
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(!drop({urlOf(other)}));
+        m_window->finishScan();
+        QVERIFY(isChosen(m_window->folder().path()));
+    }
+
+    // The folder is looked at in the background, and the keyboard is quick.
+    void aScanThatBeginsMeanwhileKeepsItsFolder()
+    {
+        const auto other = m_window->folder().path() / "other";
+        std::filesystem::create_directory(other);
+        m_window->choose(m_window->folder().path());
+        QVERIFY(drop({urlOf(other)}));
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->finishScan();
+        QVERIFY(isChosen(m_window->folder().path()));
+    }
+
+    void theWindowSaysThatItWouldBeTaken()
+    {
+        const auto says = [this] {
+            return m_window->shows(QStringLiteral("Drop the folder to choose it"));
+        };
+        QVERIFY(!says());
+        QVERIFY(drag({urlOf(m_window->folder().path())}));
+        QVERIFY(says());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&m_window->loadwick().window(), &leave);
+        QVERIFY(!says());
+        QVERIFY(!drag({}));
+        QVERIFY(!says());
+    }
+
+    void theWindowMayGoBeforeTheFolderIsLookedAt()
+    {
+        QVERIFY(drop({urlOf(m_window->folder().path())}));
+        m_window->destroy();
+        m_window->finishScan();
+    }
+
+private:
+    /// Whether the window would take what is dragged over its middle.
+    bool drag(const QList<QUrl> &urls)
+    {
+        m_dragged.setUrls(urls);
+        QDragEnterEvent event(QPoint(590, 390), Qt::CopyAction, &m_dragged, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(&m_window->loadwick().window(), &event);
+        return event.isAccepted();
+    }
+
+    bool drop(const QList<QUrl> &urls)
+    {
+        if (!drag(urls))
+            return false;
+        QDropEvent event(QPointF(590, 390), Qt::CopyAction, &m_dragged, Qt::LeftButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(&m_window->loadwick().window(), &event);
+        return event.isAccepted();
+    }
+
+    [[nodiscard]] bool isChosen(const std::filesystem::path &folder) const
+    {
+        const auto &selection = m_window->loadwick().model().selection().get();
+        return selection && selection->url == folder;
+    }
+
+    QMimeData m_dragged;
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+const RegisteredTest<FolderDropTest> registered("FolderDrop");
+
+} // namespace Loadwick
+
+#include "FolderDropTest.moc"

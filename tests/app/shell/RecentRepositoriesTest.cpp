@@ -1,0 +1,145 @@
+#include "shell/RecentRepositories.h"
+
+#include <QAccessible>
+#include <QTest>
+
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+const auto list = QStringLiteral("Scanned repositories");
+
+} // namespace
+
+class RecentRepositoriesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_window = std::make_unique<WindowFixture>(); }
+    void cleanup() { m_window.reset(); }
+
+    void withoutAHistoryThereIsNoList() { QVERIFY(!m_window->shows(list)); }
+
+    void aScannedRepositoryCanBeChosenAgain()
+    {
+        scan("one");
+        scan("two");
+        openList();
+        QVERIFY(m_window->isPressable(QStringLiteral("one")));
+        press(QStringLiteral("one"));
+        QVERIFY(m_window->loadwick().model().selection().get()->url ==
+                m_window->folder().path() / "one");
+        QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Idle);
+        QCOMPARE(m_window->chooser().openCount, 2);
+    }
+
+    void choosingOnAnotherPageSwitchesToTheOverview()
+    {
+        scan("one");
+        m_window->loadwick().content().setPageIndex(1);
+        openList();
+        press(QStringLiteral("one"));
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
+    }
+
+    void oneThatIsGoneIsShownDisabled()
+    {
+        scan("one");
+        scan("two");
+        std::filesystem::remove_all(m_window->folder().path() / "one");
+        openList();
+        QVERIFY(m_window->shows(QStringLiteral("one")));
+        QVERIFY(!m_window->isPressable(QStringLiteral("one")));
+        press(QStringLiteral("one"));
+        QVERIFY(m_window->loadwick().model().selection().get()->url ==
+                m_window->folder().path() / "two");
+    }
+
+    void oneThatIsBackCanBeChosen()
+    {
+        scan("one");
+        std::filesystem::remove_all(m_window->folder().path() / "one");
+        openList();
+        m_window->press(Qt::Key_Escape);
+        std::filesystem::create_directory(m_window->folder().path() / "one");
+        openList();
+        QVERIFY(m_window->isPressable(QStringLiteral("one")));
+    }
+
+    void eachIsListedOnceTheLastScannedFirst()
+    {
+        for (const char *name : {"one", "two", "one"})
+            scan(name);
+        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
+                                  std::make_shared<SteppingDispatcher>());
+        QCOMPARE(recent.count(), 2);
+    }
+
+    void theListIsNeverLong()
+    {
+        for (int number = 0; number < 12; ++number)
+            scan(std::to_string(number));
+        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
+                                  std::make_shared<SteppingDispatcher>());
+        QCOMPARE(recent.count(), static_cast<int>(RecentRepositories::longestList));
+    }
+
+    void whileScanningNoneCanBeChosen()
+    {
+        scan("one");
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(m_window->shows(list));
+        QVERIFY(!m_window->isPressable(list));
+    }
+
+    void noneIsChosenBeforeItWasLookedFor()
+    {
+        scan("one");
+        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
+                                  std::make_shared<SteppingDispatcher>());
+        recent.choose(0);
+        QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Complete);
+        recent.choose(-1);
+        recent.choose(1);
+    }
+
+    void clearingTheHistoryClearsTheList()
+    {
+        scan("one");
+        m_window->loadwick().model().clearHistory();
+        QVERIFY(!m_window->shows(list));
+    }
+
+private:
+    void scan(const std::string &name)
+    {
+        std::filesystem::create_directory(m_window->folder().path() / name);
+        m_window->choose(m_window->folder().path() / name);
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        m_window->finishScan();
+    }
+
+    void openList()
+    {
+        press(list);
+        m_window->finishScan(); // what looks for the folders
+    }
+
+    void press(const QString &name)
+    {
+        QAccessibleInterface *button = m_window->find(name);
+        QVERIFY(button != nullptr && button->actionInterface() != nullptr);
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+const RegisteredTest<RecentRepositoriesTest> registered("RecentRepositories");
+
+} // namespace Loadwick
+
+#include "RecentRepositoriesTest.moc"

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+
+#include "export/FileSaver.h"
+
+namespace Loadwick {
+
+/// Asks nobody: answers at once with the place that a test has laid out, or not at all.
+class FakeFileSaver final : public FileSaver
+{
+public:
+    /// None: the user thinks better of it.
+    std::optional<Place> answer;
+    std::optional<Request> asked;
+
+    void open(const Request &request, Chosen chosen) override
+    {
+        asked = request;
+        if (answer)
+            chosen(*answer);
+    }
+};
+
+} // namespace Loadwick

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+#include "desktop/NoticeBoard.h"
+
+namespace Loadwick {
+
+/// A board that a test can read.
+class FakeNoticeBoard final : public NoticeBoard
+{
+    Q_OBJECT
+
+public:
+    std::optional<Notice> shown; ///< nothing once it is taken back
+    int showCount = 0;
+
+    void show(const Notice &notice) override
+    {
+        shown = notice;
+        ++showCount;
+    }
+    void withdraw() override { shown.reset(); }
+};
+
+} // namespace Loadwick

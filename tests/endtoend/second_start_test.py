@@ -1,0 +1,52 @@
+"""A second start over the same history: the window that is there comes forward."""
+
+from __future__ import annotations
+
+import subprocess
+import time
+
+from endtoend_case import CHOOSE, EndToEndCase, main, programs
+from program import environment_for
+from throw_away_home import ThrowAwayHome
+from waiting import LIMIT_SECONDS
+
+
+class SecondStartTest(EndToEndCase):
+    """Two programs and one home, or two."""
+
+    def start_again(self) -> subprocess.CompletedProcess[bytes]:
+        """Starts the program once more on the same home and waits for its end."""
+        return subprocess.run(
+            [str(programs() / "loadwick-endtoend")],
+            env=environment_for(self.home.path),
+            timeout=LIMIT_SECONDS,
+            check=False,
+        )
+
+    def test_the_first_window_comes_back(self) -> None:
+        program = self.open()
+        minimize = ["xdotool", "getactivewindow", "windowminimize"]
+        program.window.key("ctrl+1")  # once the window is active
+        subprocess.run(minimize, check=True, timeout=LIMIT_SECONDS)
+        self.assertEqual(self.start_again().returncode, 0)
+        program.window.key("ctrl+2")
+        program.window.wait_for("Recorded data")
+        self.assertIsNone(program.process.poll())
+
+    def test_after_a_hung_window_a_new_one_opens(self) -> None:
+        hung = self.open()
+        hung.process.send_signal(19)  # SIGSTOP: it can answer nothing
+        start = time.monotonic()
+        self.open()
+        self.assertLess(time.monotonic() - start, LIMIT_SECONDS)
+
+    def test_another_home_has_a_window_of_its_own(self) -> None:
+        first = self.open()
+        self.home = self.enterContext(ThrowAwayHome())
+        second = self.open()
+        second.window.wait_for(CHOOSE, "push button")
+        self.assertIsNone(first.process.poll())
+
+
+if __name__ == "__main__":
+    main()
