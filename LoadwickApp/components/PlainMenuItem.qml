@@ -8,7 +8,7 @@ MenuItem {
 
     required property string title
     // A second, quieter line; none when empty.
-    property string detail: ""
+    required property string detail
 
     implicitHeight: item.detail.length > 0 ? 48 : AppTheme.controlHeight
     leftPadding: AppTheme.mediumSpace
@@ -19,30 +19,9 @@ MenuItem {
     Accessible.name: item.title
     Accessible.description: item.detail
 
-    contentItem: Column {
-        topPadding: Math.round((item.height - lines.height) / 2)
-
-        Column {
-            id: lines
-
-            width: parent.width
-
-            PlainLabel {
-                width: parent.width
-                text: item.title
-                elide: Text.ElideMiddle
-                Accessible.ignored: true
-            }
-            PlainLabel {
-                width: parent.width
-                text: item.detail
-                font: AppTheme.captionFont
-                secondary: true
-                elide: Text.ElideMiddle
-                visible: item.detail.length > 0
-                Accessible.ignored: true
-            }
-        }
+    contentItem: MenuLines {
+        title: item.title
+        detail: item.detail
     }
     background: Rectangle {
         radius: AppTheme.tightSpace

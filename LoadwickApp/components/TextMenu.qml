@@ -11,6 +11,7 @@ PlainMenu {
 
     PlainMenuItem {
         title: qsTr("Copy")
+        detail: ""
         onTriggered: {
             // Without a selection the whole text is meant.
             if (menu.edit.selectedText.length === 0)

@@ -7,7 +7,7 @@ RowLayout {
     id: bar
 
     required property PageExport exporter
-    required property QQuickPaintedItem chart
+    required property PaintedItem chart
 
     spacing: AppTheme.mediumSpace
 

@@ -49,23 +49,8 @@ AbstractButton {
         visible: !menu.visible && (button.hovered || button.visualFocus)
     }
 
-    PlainMenu {
+    RecentMenu {
         id: menu
-
-        implicitWidth: 320
-
-        Repeater {
-            model: button.recent.rows
-
-            PlainMenuItem {
-                id: row
-
-                required property int index
-                required property bool isThere
-
-                enabled: row.isThere
-                onTriggered: button.recent.choose(row.index)
-            }
-        }
+        recent: button.recent
     }
 }
