@@ -13,7 +13,9 @@ namespace {
 
 QByteArray nameOf(const std::filesystem::path &dataFolder)
 {
-    const QByteArray folder = QByteArray::fromStdString(dataFolder.lexically_normal().string());
+    // With an end of its own, however the folder is written.
+    const std::filesystem::path normal = (dataFolder / "").lexically_normal();
+    const QByteArray folder = QByteArray::fromStdString(normal.string());
     return "loadwick-" + QByteArray::number(::geteuid()) + '-' +
            QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex();
 }

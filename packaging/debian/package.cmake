@@ -27,16 +27,15 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS "${loaded}")
 # Without one of them the folder dialog is Qt's own; without zsh its log-in shell cannot be asked.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme | xdg-desktop-portal")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS zsh)
-set(CPACK_DEBIAN_DESCRIPTION
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "measures how much of a Claude Code session's context is gone at its start
- A Claude Code session does not begin empty: its system prompt, tools, memory
- and the instruction files of the folder take their share of the context
- window before the user types a word. Loadwick starts exactly one real session
- in a folder of the user's choice, reads the token usage that the session
- itself recorded, and shows the total with its band, where it goes, how it
- changed from scan to scan and how repositories compare.
- .
- It needs an installed and signed-in claude command, which is not part of
- Debian.")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "${CPACK_DEBIAN_DESCRIPTION}")
+A Claude Code session does not begin empty: its system prompt, tools, memory
+and the instruction files of the folder take their share of the context
+window before the user types a word. Loadwick starts exactly one real session
+in a folder of the user's choice, reads the token usage that the session
+itself recorded, and shows the total with its band, where it goes, how it
+changed from scan to scan and how repositories compare.
+
+It needs an installed and signed-in claude command, which is not part of
+Debian.")
 include(CPack)

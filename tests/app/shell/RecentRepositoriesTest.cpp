@@ -41,7 +41,8 @@ private Q_SLOTS:
         scan("one");
         m_window->loadwick().content().setPageIndex(1);
         openList();
-        press(QStringLiteral("one"));
+        m_window->press(Qt::Key_Down);
+        m_window->press(Qt::Key_Return);
         QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
     }
 
