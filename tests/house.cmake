@@ -8,4 +8,4 @@ endforeach()
 
 add_test(NAME house/qmllint
          COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
-set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 300)
+set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 900)

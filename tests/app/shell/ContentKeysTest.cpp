@@ -116,10 +116,10 @@ private Q_SLOTS:
             stops.append(focusedName());
         }
         const QString folder = QString::fromStdString(m_window->folder().path().string());
-        QCOMPARE(stops, QStringList({folder, QStringLiteral("Overview"),
-                                     QStringLiteral("Choose Repository…"),
-                                     QStringLiteral("Scanned repositories"),
-                                     QStringLiteral("Scan Again")}));
+        QCOMPARE(
+            stops,
+            QStringList({folder, QStringLiteral("Overview"), QStringLiteral("Choose Repository…"),
+                         QStringLiteral("Scanned repositories"), QStringLiteral("Scan Again")}));
     }
 
     // What holds the focus looks otherwise than without it, at every stop of the window.
