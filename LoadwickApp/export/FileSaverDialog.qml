@@ -8,6 +8,7 @@ FileDialog {
     required property DialogFileSaver saver
 
     fileMode: FileDialog.SaveFile
+    acceptLabel: qsTr("Save")
     modality: Qt.WindowModal
 
     onAccepted: dialog.saver.accept(dialog.selectedFile)

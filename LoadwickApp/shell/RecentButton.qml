@@ -23,7 +23,7 @@ AbstractButton {
     Keys.onDownPressed: button.clicked()
     onClicked: {
         button.recent.look();
-        menu.popup(button, 0, button.height + AppTheme.tightSpace);
+        menu.popup(button, button.width - menu.width, button.height + AppTheme.tightSpace);
     }
 
     contentItem: Item {

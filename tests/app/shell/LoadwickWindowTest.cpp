@@ -4,6 +4,8 @@
 #include <string>
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
@@ -234,6 +236,23 @@ private Q_SLOTS:
         QVERIFY(shows("Copied"));
         QVERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
         QTRY_VERIFY(!shows("Copied"));
+    }
+
+    void aTextThatCanBeSelectedHasCopyInItsContextMenu()
+    {
+        m_window->choose(m_window->folder().path());
+        const QString path = m_window->loadwick().content().repositoryDetail();
+        QQuickWindow &window = m_window->loadwick().window();
+        (void)window.grabWindow();
+        auto *text = dynamic_cast<QQuickItem *>(m_window->find(path)->object());
+        QVERIFY(text != nullptr);
+        QGuiApplication::clipboard()->clear();
+        QTest::mouseClick(&window, Qt::RightButton, {}, text->mapToScene(QPointF(5, 5)).toPoint());
+        QTRY_VERIFY(shows("Copy"));
+        m_window->press(Qt::Key_Down);
+        m_window->press(Qt::Key_Return);
+        QCOMPARE(QGuiApplication::clipboard()->text(), path);
+        QTRY_VERIFY(!shows("Copy"));
     }
 
     void theScanButtonIsQuietBesideAResult()
