@@ -2,6 +2,13 @@
 
 #include <QTest>
 
+#include <csignal>
+#include <cstdio>
+#include <limits>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
@@ -89,7 +96,29 @@ private Q_SLOTS:
         QCOMPARE(summary.driftCaption(), QStringLiteral("1 recorded scans"));
     }
 
+    void aDriftThatDoesNotFitEndsTheProgram()
+    {
+        constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+        QCOMPARE(signalThatEnds(samplesOf({-1, largest - 1})), 0);
+        QCOMPARE(signalThatEnds(samplesOf({-1, largest})), SIGABRT);
+    }
+
 private:
+    /// The signal that ends a program which shows these; 0 when it shows them.
+    static int signalThatEnds(const std::vector<LineSample> &samples)
+    {
+        const pid_t child = fork();
+        if (child == 0) {
+            std::signal(SIGABRT, SIG_DFL); // Qt Test's own handler asks a debugger
+            close(STDERR_FILENO);
+            TrendSummaryPresenter(TextLocale()).show(samples);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+    }
+
     static std::vector<LineSample> samplesOf(const std::vector<std::int64_t> &totals)
     {
         std::vector<LineSample> samples;
