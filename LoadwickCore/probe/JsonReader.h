@@ -56,8 +56,8 @@ private:
 
     std::string_view m_text;
     std::size_t m_index = 0;
-    Place m_root;
     JsonTree m_result;
+    Place m_root;
     std::vector<bool> m_isObject; // of every open container
     std::vector<Place> m_kept;    // the outermost open containers, as far as they are selected
     bool m_isAtFirst = true;      // nothing was read in the innermost container yet
