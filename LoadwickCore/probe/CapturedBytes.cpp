@@ -1,13 +1,13 @@
 #include "probe/CapturedBytes.h"
 
-#include <algorithm>
 #include <new>
+#include <utility>
 
 namespace Loadwick {
 
 namespace {
 
-constexpr std::size_t smallestBlock = std::size_t{64} * 1024;
+constexpr std::size_t longText = std::size_t{1} << 20;
 
 } // namespace
 
@@ -15,33 +15,31 @@ void CapturedBytes::append(std::span<const char> chunk) noexcept
 {
     if (m_state != State::complete)
         return;
-    if (chunk.size() > m_limit - m_byteCount)
+    if (chunk.size() > m_limit - m_text.size())
         return drop(State::beyondLimit);
     try {
-        store(chunk);
+        makeRoomFor(chunk.size());
+        m_text.append(chunk.data(), chunk.size());
     } catch (const std::bad_alloc &) {
         drop(State::outOfMemory);
     }
 }
 
-void CapturedBytes::store(std::span<const char> chunk)
+void CapturedBytes::makeRoomFor(std::size_t byteCount)
 {
-    while (!chunk.empty()) {
-        if (m_freeInLast == 0) {
-            m_blocks.emplace_back(std::max(smallestBlock, m_byteCount / 16));
-            m_freeInLast = m_blocks.back().bytes().size();
-        }
-        const std::size_t count = std::min(chunk.size(), m_freeInLast);
-        std::copy_n(chunk.begin(), count, m_blocks.back().bytes().last(m_freeInLast).begin());
-        chunk = chunk.subspan(count);
-        m_freeInLast -= count;
-        m_byteCount += count;
+    const std::size_t wanted = m_text.size() + byteCount;
+    if (wanted <= m_text.capacity() || wanted <= longText)
+        return;
+    try {
+        m_text.reserve(m_limit);
+    } catch (const std::bad_alloc &) {
+        return; // the text grows step by step then
     }
 }
 
 void CapturedBytes::drop(State reason) noexcept
 {
-    m_blocks.clear();
+    std::string().swap(m_text);
     m_state = reason;
 }
 
@@ -51,15 +49,7 @@ std::optional<std::string> CapturedBytes::join() &&
         throw std::bad_alloc();
     if (m_state == State::beyondLimit)
         return std::nullopt;
-    std::string text;
-    text.reserve(m_byteCount);
-    for (MemoryBlock &block : m_blocks) {
-        const MemoryBlock piece = std::move(block);
-        const std::size_t count = std::min(piece.bytes().size(), m_byteCount - text.size());
-        text.append(piece.bytes().data(), count);
-    }
-    m_blocks.clear();
-    return text;
+    return std::move(m_text);
 }
 
 } // namespace Loadwick

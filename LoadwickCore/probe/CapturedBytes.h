@@ -4,15 +4,12 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <vector>
-
-#include "probe/MemoryBlock.h"
 
 namespace Loadwick {
 
-/// What was read from one stream, up to a limit. It grows by a sixteenth of itself at a time, and
-/// is joined into one text piece by piece, so that memory stays near one byte per byte captured and
-/// near two while joining.
+/// What was read from one stream, up to a limit. A long text gets address space for all that may
+/// come at once: that costs no memory until it is written, and nothing is ever copied or held
+/// twice.
 class CapturedBytes
 {
 public:
@@ -25,8 +22,8 @@ public:
     /// Whether `join` would throw, since memory ran out on the way.
     [[nodiscard]] bool ranOutOfMemory() const noexcept { return m_state == State::outOfMemory; }
 
-    /// Everything, in order; nothing when there was more than the limit. Frees the pieces. Throws
-    /// `std::bad_alloc`, also when memory had run out on the way.
+    /// Everything, in order; nothing when there was more than the limit. Throws `std::bad_alloc`
+    /// when memory had run out on the way.
     [[nodiscard]] std::optional<std::string> join() &&;
 
 private:
@@ -37,13 +34,11 @@ private:
         outOfMemory
     };
 
-    void store(std::span<const char> chunk);
+    void makeRoomFor(std::size_t byteCount);
     void drop(State reason) noexcept;
 
     std::size_t m_limit;
-    std::size_t m_byteCount = 0;
-    std::size_t m_freeInLast = 0;
-    std::vector<MemoryBlock> m_blocks;
+    std::string m_text;
     State m_state = State::complete;
 };
 

@@ -36,7 +36,7 @@ TEST(CapturedBytesTest, joinsChunksInOrder)
     EXPECT_EQ(std::move(bytes).join(), "one two three");
 }
 
-TEST(CapturedBytesTest, joinsWhatFillsManyBlocks)
+TEST(CapturedBytesTest, joinsALongText)
 {
     const std::string text = numbered(3 * mebibyte + 17);
     CapturedBytes bytes(4 * mebibyte);
@@ -46,7 +46,7 @@ TEST(CapturedBytesTest, joinsWhatFillsManyBlocks)
     EXPECT_TRUE(std::move(bytes).join() == text);
 }
 
-TEST(CapturedBytesTest, takesAChunkLargerThanABlock)
+TEST(CapturedBytesTest, takesALongChunk)
 {
     const std::string text = numbered(mebibyte);
     CapturedBytes bytes(mebibyte);
