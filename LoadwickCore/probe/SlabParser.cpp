@@ -51,8 +51,15 @@ std::string_view takeLastWord(std::string_view &rest) noexcept
     return word;
 }
 
+/// Whether a word is a keyword in lower case. A letter beyond ASCII takes more bytes than the one
+/// that it becomes, so a word of the keyword's size is ASCII or no keyword.
 bool isKeyword(std::string_view word, std::string_view keyword)
 {
+    const auto isSame = [](char letter, char lower) {
+        return letter == lower || (letter >= 'A' && letter <= 'Z' && letter - 'A' + 'a' == lower);
+    };
+    if (word.size() <= keyword.size())
+        return std::equal(word.begin(), word.end(), keyword.begin(), keyword.end(), isSame);
     return word.size() <= longestLetter * keyword.size() && lowercased(word) == keyword;
 }
 
@@ -69,6 +76,11 @@ std::optional<std::int64_t> countIn(std::string_view word)
 
 std::string joinedByBlanks(std::string_view words)
 {
+    constexpr std::string_view twoBlanks = "  ";
+    words =
+        withoutBlanksAtTheEnd(words.substr(std::min(words.find_first_not_of(blank), words.size())));
+    if (words.find(twoBlanks) == std::string_view::npos)
+        return std::string(words);
     std::string joined;
     joined.reserve(words.size());
     for (std::string_view word = takeFirstWord(words); !word.empty(); word = takeFirstWord(words)) {

@@ -9,6 +9,12 @@ namespace {
 constexpr std::string_view nextLine = "\xC2\x85";
 constexpr std::string_view separatorHead = "\xE2\x80"; // U+2028 and U+2029 end in A8 and A9
 
+/// Whether a line break may begin with that byte.
+constexpr bool mayBreak(char byte) noexcept
+{
+    return (byte >= '\n' && byte <= '\r') || byte == '\xC2' || byte == '\xE2';
+}
+
 /// Bytes of the line break at `index`; 0 when there is none.
 std::size_t breakLength(std::string_view text, std::size_t index) noexcept
 {
@@ -59,7 +65,8 @@ std::optional<std::string_view> takeLine(std::string_view &rest) noexcept
     if (rest.empty())
         return std::nullopt;
     for (std::size_t end = 0; end < rest.size(); ++end) {
-        if (const std::size_t length = breakLength(rest, end)) {
+        const std::size_t length = mayBreak(rest[end]) ? breakLength(rest, end) : 0;
+        if (length > 0) {
             const std::string_view line = rest.substr(0, end);
             rest.remove_prefix(end + length);
             return line;

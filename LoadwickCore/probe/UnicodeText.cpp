@@ -1,5 +1,7 @@
 #include "probe/UnicodeText.h"
 
+#include <cstdint>
+#include <cstring>
 #include <memory>
 
 #include <unicode/brkiter.h>
@@ -32,6 +34,31 @@ CodePoint codePointAt(std::string_view text, std::size_t start) noexcept
     return {value, index};
 }
 
+constexpr bool isAscii(char byte) noexcept
+{
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+/// Bytes at the head of a text that are ASCII, looked at eight at a time as long as all eight are.
+std::size_t asciiHead(std::string_view text) noexcept
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t index = 0;
+    for (std::uint64_t eight = 0; text.size() - index >= sizeof eight; index += sizeof eight) {
+        std::memcpy(&eight, text.data() + index, sizeof eight);
+        if ((eight & highBits) != 0)
+            break;
+    }
+    while (index < text.size() && isAscii(text[index]))
+        ++index;
+    return index;
+}
+
+bool isAsciiAlone(std::string_view text) noexcept
+{
+    return asciiHead(text) == text.size();
+}
+
 template<typename Keep>
 std::string filtered(std::string_view text, Keep keep)
 {
@@ -48,6 +75,9 @@ std::string filtered(std::string_view text, Keep keep)
 
 bool isLetterMarkOrNumber(UChar32 value)
 {
+    if (value < 0x80)
+        return (value >= '0' && value <= '9') || (value >= 'a' && value <= 'z') ||
+               (value >= 'A' && value <= 'Z');
     return (U_GET_GC_MASK(value) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
 }
 
@@ -67,21 +97,20 @@ std::size_t previousStart(std::string_view text, std::size_t end) noexcept
 
 bool isUtf8(std::string_view bytes) noexcept
 {
-    for (std::size_t index = 0; index < bytes.size();) {
-        if (static_cast<unsigned char>(bytes[index]) < 0x80) {
-            ++index;
-            continue;
-        }
+    std::size_t index = asciiHead(bytes);
+    while (index < bytes.size()) {
         const CodePoint point = codePointAt(bytes, index);
         if (point.value < 0)
             return false;
-        index = point.end;
+        index = point.end + asciiHead(bytes.substr(point.end));
     }
     return true;
 }
 
 std::string repairedUtf8(std::string_view bytes)
 {
+    if (isUtf8(bytes))
+        return std::string(bytes);
     std::string repaired;
     repaired.reserve(bytes.size());
     for (std::size_t index = 0; index < bytes.size();) {
@@ -128,6 +157,14 @@ std::string_view trimmedBlanks(std::string_view text) noexcept
 
 std::string lowercased(std::string_view text)
 {
+    // ICU takes as long to begin as to lower-case a whole line of ASCII, as nearly all texts are.
+    if (isAsciiAlone(text)) {
+        std::string lower(text);
+        for (char &letter : lower)
+            if (letter >= 'A' && letter <= 'Z')
+                letter = static_cast<char>(letter - 'A' + 'a');
+        return lower;
+    }
     std::string lower;
     icu::StringByteSink<std::string> sink(&lower, static_cast<std::int32_t>(text.size()));
     UErrorCode status = U_ZERO_ERROR;
@@ -138,8 +175,12 @@ std::string lowercased(std::string_view text)
     return lower;
 }
 
-std::string lettersAndNumbers(std::string_view text)
+std::string lettersAndNumbers(std::string text)
 {
+    if (isAsciiAlone(text)) {
+        std::erase_if(text, [](char byte) { return !isLetterMarkOrNumber(byte); });
+        return text;
+    }
     return filtered(text, isLetterMarkOrNumber);
 }
 

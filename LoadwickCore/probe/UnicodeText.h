@@ -28,7 +28,7 @@ namespace Loadwick {
 
 /// The letters, their marks and the numeric characters of `text` (Unicode categories L, M and N),
 /// in order. Ill-formed bytes are dropped.
-[[nodiscard]] std::string lettersAndNumbers(std::string_view text);
+[[nodiscard]] std::string lettersAndNumbers(std::string text);
 
 /// Bytes of the first `limit` user-perceived characters (extended grapheme clusters, UAX #29)
 /// of `text`; `text.size()` when it has no more than that. Reads no further than it must.

@@ -125,7 +125,7 @@ std::vector<SelfReportedSlab> merged(std::span<const SelfReportedSlab> slabs)
     std::vector<SelfReportedSlab> result;
     std::unordered_map<std::string, std::size_t> places;
     for (const SelfReportedSlab &slab : slabs) {
-        const auto [place, isNew] = places.emplace(normalize(slab.name), result.size());
+        const auto [place, isNew] = places.try_emplace(normalize(slab.name), result.size());
         if (isNew)
             result.push_back(slab);
         else

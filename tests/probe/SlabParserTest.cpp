@@ -59,6 +59,15 @@ TEST(SlabParserTest, ignoresTheLetterCaseOfTheKeywords)
     EXPECT_EQ(SlabParser::parseLine("SLAB x TO\u212AENS 4"), slab("x", 4));
 }
 
+TEST(SlabParserTest, takesLettersThatBecomeAsciiInLowerCase)
+{
+    EXPECT_EQ(SlabParser::parseLine("SLAB a TO\u212AENS 3"),
+              (SelfReportedSlab{.name = "a", .tokens = 3}));
+    EXPECT_FALSE(SlabParser::parseLine("SLAB a TO\u212AEN 3"));
+    EXPECT_FALSE(SlabParser::parseLine("SL\u00C4B a TOKENS 3"));
+    EXPECT_FALSE(SlabParser::parseLine("SLA@ a TOKENS 3"));
+}
+
 TEST(SlabParserTest, needsAName)
 {
     EXPECT_FALSE(SlabParser::parseLine("SLAB TOKENS 12"));

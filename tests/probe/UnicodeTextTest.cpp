@@ -14,6 +14,16 @@ TEST(UnicodeTextTest, tellsUtf8FromOtherBytes)
     EXPECT_FALSE(isUtf8("\xFF"));
 }
 
+TEST(UnicodeTextTest, findsWhatIsNotUtf8BehindAsciiOfAnyLength)
+{
+    for (std::size_t length = 0; length < 40; ++length) {
+        const std::string ascii(length, 'a');
+        EXPECT_TRUE(isUtf8(ascii + "\xC3\xA9" + ascii)) << length;
+        EXPECT_FALSE(isUtf8(ascii + "\xA9" + ascii)) << length;
+        EXPECT_FALSE(isUtf8(ascii + "\xC3")) << length;
+    }
+}
+
 TEST(UnicodeTextTest, putsReplacementCharactersForWhatIsNotUtf8)
 {
     EXPECT_EQ(repairedUtf8("a\xFFz"), "a\xEF\xBF\xBDz");
@@ -44,6 +54,7 @@ TEST(UnicodeTextTest, lowersLettersOfEveryScript)
 
 TEST(UnicodeTextTest, keepsLettersAndNumbers)
 {
+    EXPECT_EQ(lettersAndNumbers("Memory_files, 2: [x]!"), "Memoryfiles2x");
     EXPECT_EQ(lettersAndNumbers("Memory_files, №2: é日!"), "Memoryfiles2é日");
 }
 
