@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 namespace Loadwick::TreemapLayout {
 namespace {
@@ -20,6 +21,7 @@ struct Item
 std::vector<Item> itemsOf(std::span<const double> weights)
 {
     std::vector<Item> items;
+    items.reserve(weights.size());
     for (std::size_t index = 0; index < weights.size(); ++index)
         if (weights[index] > 0.0 && std::isfinite(weights[index]))
             items.push_back({.index = index, .area = weights[index]});
@@ -31,8 +33,9 @@ std::vector<Item> itemsOf(std::span<const double> weights)
             item.area = std::ldexp(item.area, -64);
         sum = std::accumulate(items.begin(), items.end(), 0.0, sumUp);
     }
-    std::stable_sort(items.begin(), items.end(),
-                     [](const Item &left, const Item &right) { return left.area > right.area; });
+    std::sort(items.begin(), items.end(), [](const Item &left, const Item &right) {
+        return left.area != right.area ? left.area > right.area : left.index < right.index;
+    });
     for (Item &item : items)
         item.area /= sum;
     return items;
@@ -41,24 +44,17 @@ std::vector<Item> itemsOf(std::span<const double> weights)
 /// The items that are to be laid out side by side, and what their shapes depend on.
 struct Row
 {
-    std::vector<Item> items;
+    std::span<const Item> items; ///< neighbours in the order of all items
     double sum = 0.0;
     double minimum = std::numeric_limits<double>::max();
     double maximum = 0.0;
-
-    void add(const Item &item)
-    {
-        items.push_back(item);
-        sum += item.area;
-        minimum = std::min(minimum, item.area);
-        maximum = std::max(maximum, item.area);
-    }
+    double worstRatio = std::numeric_limits<double>::max();
 };
 
-/// Of a row that has an area, along a side that has a length.
+/// Of a row along a side of the free space; the greatest for one without an area or a length.
 double worstRatio(const Row &row, double side) noexcept
 {
-    if (!(row.minimum > 0.0))
+    if (!(row.sum > 0.0 && side > 0.0 && row.minimum > 0.0))
         return std::numeric_limits<double>::max();
     const double sideSquared = side * side;
     const double sumSquared = row.sum * row.sum;
@@ -66,16 +62,16 @@ double worstRatio(const Row &row, double side) noexcept
                     sumSquared / (sideSquared * row.minimum));
 }
 
-/// Whether the row is no worse with the item than without it.
-bool takes(const Row &row, const Item &item, double side)
+/// The row with one more item, the one that follows its last.
+Row extended(const Row &row, const Item &item, double side) noexcept
 {
-    if (row.items.empty() || !(row.sum > 0.0 && side > 0.0 && row.minimum > 0.0))
-        return true;
-    const Row extended{.items = {},
-                       .sum = row.sum + item.area,
-                       .minimum = std::min(row.minimum, item.area),
-                       .maximum = std::max(row.maximum, item.area)};
-    return worstRatio(extended, side) <= worstRatio(row, side);
+    const Item *const first = row.items.empty() ? &item : row.items.data();
+    Row longer{.items = {first, row.items.size() + 1},
+               .sum = row.sum + item.area,
+               .minimum = std::min(row.minimum, item.area),
+               .maximum = std::max(row.maximum, item.area)};
+    longer.worstRatio = worstRatio(longer, side);
+    return longer;
 }
 
 /// What a row of that area takes away from the free space, whose edge it lies along.
@@ -85,15 +81,13 @@ double thicknessOf(double sum, double edge, double available) noexcept
     return thickness <= available ? thickness : available;
 }
 
-/// Where each item of a row begins and, one place later, ends; the last one at the very end. A row
+/// Where the item of a row ends that begins at `begin`; the last one ends at the very end. A row
 /// that is placed has a thickness: it has an area, and the free space ends in one direction only.
-std::vector<double> edgesOf(const Row &row, double thickness, double begin, double end)
+double itemEnd(const Row &row, const Item &item, double begin, double thickness, double end)
 {
-    std::vector<double> edges{begin};
-    for (const Item &item : row.items)
-        edges.push_back(std::min(edges.back() + item.area / thickness, end));
-    edges.back() = end;
-    return edges;
+    if (&item == &row.items.back())
+        return end;
+    return std::min(begin + item.area / thickness, end);
 }
 
 /// The square and what of it is still free.
@@ -103,7 +97,7 @@ public:
     explicit Map(std::size_t count) : m_rects(count, TreemapRect::zero) {}
 
     [[nodiscard]] double side() const noexcept { return std::min(m_free.width, m_free.height); }
-    [[nodiscard]] const std::vector<TreemapRect> &rects() const noexcept { return m_rects; }
+    [[nodiscard]] std::vector<TreemapRect> rects() &&noexcept { return std::move(m_rects); }
 
     void place(const Row &row)
     {
@@ -118,13 +112,15 @@ private:
     void placeColumn(const Row &row)
     {
         const double thickness = thicknessOf(row.sum, m_free.height, m_free.width);
-        const auto edges = edgesOf(row, thickness, m_free.y, m_free.y + m_free.height);
-        for (std::size_t place = 0; place < row.items.size(); ++place)
-            m_rects[row.items[place].index] = {.x = m_free.x,
-                                               .y = edges[place],
-                                               .width = thickness,
-                                               .height =
-                                                   std::max(edges[place + 1] - edges[place], 0.0)};
+        double begin = m_free.y;
+        for (const Item &item : row.items) {
+            const double end = itemEnd(row, item, begin, thickness, m_free.y + m_free.height);
+            m_rects[item.index] = {.x = m_free.x,
+                                   .y = begin,
+                                   .width = thickness,
+                                   .height = std::max(end - begin, 0.0)};
+            begin = end;
+        }
         m_free.x += thickness;
         m_free.width = std::max(m_free.width - thickness, 0.0);
     }
@@ -133,13 +129,15 @@ private:
     void placeBand(const Row &row)
     {
         const double thickness = thicknessOf(row.sum, m_free.width, m_free.height);
-        const auto edges = edgesOf(row, thickness, m_free.x, m_free.x + m_free.width);
-        for (std::size_t place = 0; place < row.items.size(); ++place)
-            m_rects[row.items[place].index] = {.x = edges[place],
-                                               .y = m_free.y,
-                                               .width =
-                                                   std::max(edges[place + 1] - edges[place], 0.0),
-                                               .height = thickness};
+        double begin = m_free.x;
+        for (const Item &item : row.items) {
+            const double end = itemEnd(row, item, begin, thickness, m_free.x + m_free.width);
+            m_rects[item.index] = {.x = begin,
+                                   .y = m_free.y,
+                                   .width = std::max(end - begin, 0.0),
+                                   .height = thickness};
+            begin = end;
+        }
         m_free.y += thickness;
         m_free.height = std::max(m_free.height - thickness, 0.0);
     }
@@ -152,18 +150,20 @@ private:
 
 std::vector<TreemapRect> layout(std::span<const double> weights)
 {
+    const std::vector<Item> items = itemsOf(weights);
     Map map(weights.size());
     Row row;
-    for (const Item &item : itemsOf(weights)) {
-        if (!takes(row, item, map.side())) {
+    for (const Item &item : items) {
+        Row longer = extended(row, item, map.side());
+        if (!row.items.empty() && !(longer.worstRatio <= row.worstRatio)) {
             map.place(row);
-            row = {};
+            longer = extended({}, item, map.side());
         }
-        row.add(item);
+        row = longer;
     }
     if (row.sum > 0.0)
         map.place(row);
-    return map.rects();
+    return std::move(map).rects();
 }
 
 } // namespace Loadwick::TreemapLayout
