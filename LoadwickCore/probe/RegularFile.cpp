@@ -63,7 +63,12 @@ std::optional<RegularFile> RegularFile::open(const std::filesystem::path &path, 
     {};
     if (!isRegular(uninterrupted([&] { return ::stat(path.c_str(), &status); }), status, failure))
         return std::nullopt;
+    return openSeen(path, failure);
+}
 
+std::optional<RegularFile> RegularFile::openSeen(const std::filesystem::path &path,
+                                                 Failure *failure)
+{
     constexpr int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     const int descriptor = uninterrupted([&] { return ::open(path.c_str(), flags); });
     if (descriptor < 0) {
@@ -71,6 +76,8 @@ std::optional<RegularFile> RegularFile::open(const std::filesystem::path &path, 
         return std::nullopt;
     }
     RegularFile file(descriptor, 0, Identity{});
+    struct stat status
+    {};
     if (!isRegular(::fstat(descriptor, &status), status, failure))
         return std::nullopt;
     file.m_size = status.st_size;

@@ -28,6 +28,11 @@ public:
     [[nodiscard]] static std::optional<RegularFile> open(const std::filesystem::path &path,
                                                          Failure *failure = nullptr);
 
+    /// The same for a path that was just seen to lead to a regular file: it is looked at only
+    /// behind the open descriptor.
+    [[nodiscard]] static std::optional<RegularFile> openSeen(const std::filesystem::path &path,
+                                                             Failure *failure = nullptr);
+
     RegularFile(RegularFile &&other) noexcept;
     RegularFile &operator=(RegularFile &&other) noexcept;
     RegularFile(const RegularFile &) = delete;

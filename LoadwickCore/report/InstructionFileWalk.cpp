@@ -5,6 +5,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include <sys/stat.h>
+
 #include "probe/PathText.h"
 #include "probe/RegularFile.h"
 #include "probe/UnicodeText.h"
@@ -14,21 +16,49 @@ namespace Loadwick {
 
 namespace {
 
-/// Two names of one file have one identity. A path that leads nowhere is its own.
-std::string identityPath(const std::filesystem::path &url)
+std::optional<std::string> resolvedPath(const std::string &path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(url.c_str(), nullptr),
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
                                                                &std::free);
-    return resolved ? std::string(resolved.get()) : url.native();
+    return resolved ? std::optional<std::string>(resolved.get()) : std::nullopt;
 }
 
-bool isUnderOrAt(const std::filesystem::path &path, const std::string &folder)
+/// The file type of what a path names, a link being one itself; 0 when nothing is there.
+mode_t typeOf(const std::string &path)
 {
-    return path.native() == folder || path.native().starts_with(folder + "/");
+    struct stat status
+    {};
+    return ::lstat(path.c_str(), &status) == 0 ? status.st_mode & S_IFMT : 0;
+}
+
+std::optional<RegularFile> opened(const std::string &url, mode_t type,
+                                  RegularFile::Failure &failure)
+{
+    return type == S_IFREG ? RegularFile::openSeen(url, &failure)
+                           : RegularFile::open(url, &failure);
+}
+
+/// Whether a path stays as it is when it is standardized behind a standard folder. No for some that
+/// would.
+bool isPlain(std::string_view path)
+{
+    return !path.empty() && path.front() != '/' && path.front() != '.' && path.back() != '/' &&
+           path.find("//") == std::string_view::npos && path.find("/.") == std::string_view::npos;
+}
+
+/// What a path has up to its last slash, and that.
+std::string_view folderPart(std::string_view path)
+{
+    return path.substr(0, path.rfind('/') + 1);
+}
+
+bool isUnderOrAt(std::string_view path, const std::string &folder)
+{
+    return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
 /// Whether a file that could not be opened is there all the same.
-bool isUnreadable(const std::filesystem::path &url, const RegularFile::Failure &failure)
+bool isUnreadable(const std::string &url, const RegularFile::Failure &failure)
 {
     if (failure.isDenied())
         return true;
@@ -72,46 +102,71 @@ void InstructionFileWalk::run()
     admit(m_home / ".claude/CLAUDE.md", 0, InstructionFileTier::personal);
 }
 
-void InstructionFileWalk::admit(const std::filesystem::path &url, int depth,
-                                InstructionFileTier origin)
+void InstructionFileWalk::admit(const std::string &url, int depth, InstructionFileTier origin)
 {
-    // A system call would take a path with a NUL inside for a shorter one.
-    const bool isNameable = url.native().find('\0') == std::string::npos;
-    if (depth > m_maxImportDepth || !isNameable || m_findings->isStopped())
+    if (depth > m_maxImportDepth || m_findings->isStopped())
         return;
-    const std::string identity = identityPath(url);
-    auto seen = m_seen.find(identity);
-    if (seen == m_seen.end()) {
-        std::optional<SeenFile> file = countedFile(url, origin);
-        if (!file)
-            return;
-        seen = m_seen.emplace(identity, std::move(*file)).first;
-    } else if (seen->second.depth <= depth) {
+    SeenFile *const seen = seenFile(url, origin);
+    if (seen == nullptr || seen->depth <= depth)
         return;
-    }
     // On a shorter road than before, the imports that the depth limit cut off come into reach.
-    seen->second.depth = depth;
-    if (seen->second.isReadDenied)
-        m_findings->addUnreadable(pathText(url));
-    for (const std::string &token : seen->second.importTokens) {
+    seen->depth = depth;
+    if (seen->isReadDenied)
+        m_findings->addUnreadable(repairedUtf8(url));
+    for (const std::string &token : seen->importTokens) {
         if (depth == m_maxImportDepth || m_findings->isStopped())
             return;
         admit(importTarget(token, url), depth + 1, origin);
     }
 }
 
+InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &url,
+                                                             InstructionFileTier origin)
+{
+    const auto known = m_seenByURL.find(url);
+    if (known != m_seenByURL.end())
+        return known->second;
+    // A system call would take a path with a NUL inside for a shorter one.
+    if (url.find('\0') != std::string::npos)
+        return nullptr;
+    const mode_t type = typeOf(url);
+    const std::string identity = identityPath(url, type);
+    auto seen = m_seen.find(identity);
+    if (seen == m_seen.end()) {
+        std::optional<SeenFile> file = countedFile(url, type, origin);
+        if (!file)
+            return nullptr;
+        seen = m_seen.emplace(identity, std::move(*file)).first;
+    }
+    return m_seenByURL.emplace(url, &seen->second).first->second;
+}
+
+/// Two names of one file have one identity. A path that leads nowhere is its own. The links of a
+/// folder are resolved once for all its files.
+std::string InstructionFileWalk::identityPath(const std::string &url, mode_t type)
+{
+    const std::string folder(folderPart(url));
+    if (folder.empty() || folder.size() == url.size() || type == 0 || type == S_IFLNK)
+        return resolvedPath(url).value_or(url);
+    auto resolved = m_resolvedFolders.find(folder);
+    if (resolved == m_resolvedFolders.end())
+        resolved = m_resolvedFolders.emplace(folder, resolvedPath(folder).value_or(folder)).first;
+    return (resolved->second.ends_with('/') ? resolved->second : resolved->second + "/")
+        .append(url, folder.size());
+}
+
 std::optional<InstructionFileWalk::SeenFile>
-InstructionFileWalk::countedFile(const std::filesystem::path &url, InstructionFileTier origin)
+InstructionFileWalk::countedFile(const std::string &url, mode_t type, InstructionFileTier origin)
 {
     RegularFile::Failure failure;
-    std::optional<RegularFile> file = RegularFile::open(url, &failure);
+    std::optional<RegularFile> file = opened(url, type, failure);
     if (!file) {
         if (isUnreadable(url, failure))
-            m_findings->addUnreadable(pathText(url));
+            m_findings->addUnreadable(repairedUtf8(url));
         return std::nullopt;
     }
     m_findings->add(tierOf(url, origin),
-                    InstructionFileEstimate::fromPath(pathText(url), file->size()));
+                    InstructionFileEstimate::fromPath(repairedUtf8(url), file->size()));
     SeenFile seen;
     constexpr auto limit = static_cast<std::size_t>(InstructionFileScanner::importSearchLimit) + 1;
     if (const std::optional<std::string> content = file->readUpTo(limit, &failure))
@@ -125,7 +180,8 @@ std::vector<std::filesystem::path> InstructionFileWalk::ancestorFolders() const
 {
     std::vector<std::filesystem::path> folders;
     std::filesystem::path folder = m_root.parent_path();
-    for (int count = 0; count < ancestorLimit && isUnderOrAt(folder, m_home.native()); ++count) {
+    for (int count = 0; count < ancestorLimit && isUnderOrAt(folder.native(), m_home.native());
+         ++count) {
         folders.push_back(folder);
         if (folder.native() == m_home.native())
             break;
@@ -134,22 +190,25 @@ std::vector<std::filesystem::path> InstructionFileWalk::ancestorFolders() const
     return folders;
 }
 
-InstructionFileTier InstructionFileWalk::tierOf(const std::filesystem::path &url,
+InstructionFileTier InstructionFileWalk::tierOf(std::string_view url,
                                                 InstructionFileTier origin) const
 {
     const std::string &root = m_root.native();
-    const bool isOwn =
-        root.ends_with('/') ? url.native().starts_with(root) : isUnderOrAt(url, root);
+    const bool isOwn = root.ends_with('/') ? url.starts_with(root) : isUnderOrAt(url, root);
     return isOwn ? InstructionFileTier(InstructionFileTier::repository) : origin;
 }
 
-std::filesystem::path InstructionFileWalk::importTarget(std::string_view token,
-                                                        const std::filesystem::path &importer) const
+std::string InstructionFileWalk::importTarget(std::string_view token,
+                                              const std::string &importer) const
 {
-    if (!token.starts_with('~'))
-        return standardizedPath(importer.parent_path() / token);
-    token.remove_prefix(std::min(token.find_first_not_of('/', 1), token.size()));
-    return standardizedPath(m_home / token);
+    if (token.starts_with('~')) {
+        token.remove_prefix(std::min(token.find_first_not_of('/', 1), token.size()));
+        return standardizedPath(m_home / token).native();
+    }
+    const std::string_view folder = folderPart(importer);
+    if (folder.starts_with('/') && isPlain(token))
+        return std::string(folder).append(token);
+    return standardizedPath(std::filesystem::path(folder) / token).native();
 }
 
 } // namespace Loadwick

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
+
+#include <sys/types.h>
 
 #include "report/InstructionFileFindings.h"
 #include "report/InstructionFileScanner.h"
@@ -33,25 +36,31 @@ private:
     /// A file that has been counted, with what is needed to walk its imports again.
     struct SeenFile
     {
-        int depth = 0;
+        int depth = std::numeric_limits<int>::max(); ///< the smallest at which it was walked
         std::vector<std::string> importTokens;
         bool isReadDenied = false;
     };
 
-    void admit(const std::filesystem::path &url, int depth, InstructionFileTier origin);
-    [[nodiscard]] std::optional<SeenFile> countedFile(const std::filesystem::path &url,
+    // Files are named by the text of their standardized path: a path object costs as much to make
+    // as a file to open.
+    void admit(const std::string &url, int depth, InstructionFileTier origin);
+    [[nodiscard]] SeenFile *seenFile(const std::string &url, InstructionFileTier origin);
+    [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &url, mode_t type,
                                                       InstructionFileTier origin);
+    [[nodiscard]] std::string identityPath(const std::string &url, mode_t type);
     [[nodiscard]] std::vector<std::filesystem::path> ancestorFolders() const;
-    [[nodiscard]] InstructionFileTier tierOf(const std::filesystem::path &url,
+    [[nodiscard]] InstructionFileTier tierOf(std::string_view url,
                                              InstructionFileTier origin) const;
-    [[nodiscard]] std::filesystem::path importTarget(std::string_view token,
-                                                     const std::filesystem::path &importer) const;
+    [[nodiscard]] std::string importTarget(std::string_view token,
+                                           const std::string &importer) const;
 
     std::filesystem::path m_root;
     std::filesystem::path m_home;
     int m_maxImportDepth;
     std::shared_ptr<InstructionFileFindings> m_findings;
-    std::map<std::string, SeenFile> m_seen; ///< by path with every link resolved
+    std::unordered_map<std::string, SeenFile> m_seen;        ///< by path with every link resolved
+    std::unordered_map<std::string, SeenFile *> m_seenByURL; ///< the same by path as reached
+    std::unordered_map<std::string, std::string> m_resolvedFolders; ///< by path with a slash
 };
 
 } // namespace Loadwick

@@ -46,6 +46,21 @@ TEST(RegularFileTest, readsAFileWhole)
     EXPECT_EQ(file->readUpTo(1 << 20), "");
 }
 
+TEST(RegularFileTest, looksAtASeenFileBehindItsDescriptorOnly)
+{
+    const TemporaryFolder folder;
+    const fs::path path = folder.write("file", "content");
+    auto file = RegularFile::openSeen(path);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->size(), 7);
+    EXPECT_EQ(file->readUpTo(100), "content");
+    RegularFile::Failure failure{.errorNumber = -1};
+    EXPECT_FALSE(RegularFile::openSeen(folder.path(), &failure));
+    EXPECT_EQ(failure.errorNumber, 0);
+    EXPECT_FALSE(RegularFile::openSeen(folder.path() / "missing", &failure));
+    EXPECT_EQ(failure.errorNumber, ENOENT);
+}
+
 TEST(RegularFileTest, readsNoFurtherThanTheLimit)
 {
     const TemporaryFolder folder;

@@ -31,6 +31,15 @@ TEST_F(InstructionFileImportTest, listsOnlyTheFirstNameOfALinkedFile)
               (std::vector<InstructionFileEstimate>{{root() / "CLAUDE.md", 4, 1}}));
 }
 
+TEST_F(InstructionFileImportTest, listsAFileBehindALinkedFolderOnce)
+{
+    writeOwn("CLAUDE.md", "@docs/a.md @link/a.md @link/b.md @docs/b.md @docs/./a.md @docs//a.md");
+    writeOwn("docs/a.md", "");
+    writeOwn("docs/b.md", "");
+    std::filesystem::create_directory_symlink("docs", root() / "link");
+    EXPECT_EQ(ownFiles(), (Paths{"CLAUDE.md", "docs/a.md", "link/b.md"}));
+}
+
 TEST_F(InstructionFileImportTest, followsImportsDepthFirst)
 {
     writeOwn("CLAUDE.md", "@a.md @b.md");
