@@ -1,0 +1,199 @@
+"""Measures every goal and writes the table; see benchmarks/run."""
+
+from __future__ import annotations
+
+import argparse
+import json
+import os
+import platform
+import re
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+from measured import Row, ratios
+from rounds import (benchmark, figures, in_process_row, instructions, pair_times,
+                    window_lines)
+
+ROOT = Path(__file__).resolve().parents[1]
+GOALS = json.loads((ROOT / "benchmarks/goals.json").read_text(encoding="utf-8"))
+DOCUMENT = ROOT / "docs/performance.md"
+MARKS = "<!-- table -->", "<!-- end of the table -->"
+SESSION = "6f1c2b0a-8e55-4c2d-9a61-000999999999"
+DATA = [("projects", "projects", 100_000), ("record", "record-100mb", 100_000_000),
+        ("record", "record-1gb", 1_000_000_000), ("transcript", "head-100mb.jsonl", 100_000_000),
+        ("transcript", "head-1mb.jsonl", 1_000_000), ("transcript", "head-1gb.jsonl", 10**9),
+        ("long-line", "line-64mb.jsonl", 64_000_000), ("history", "history-200", 200),
+        ("history", "history-10000", 10_000)]
+
+
+class Bench:
+    """One run over a build."""
+
+    def __init__(self, build: Path, rounds: int, only: str) -> None:
+        self.programs = build / "bin"
+        self.data = build / "benchmark-data"
+        self.tool = str(self.programs / "loadwick-measure")
+        self.build = build
+        self.count = rounds
+        self.only = only
+        self.rows: list[Row] = []
+
+    def wants(self, word: str) -> bool:
+        """Whether that part is asked for."""
+        return not self.only or self.only in word
+
+    def make_data(self) -> None:
+        """Writes what is not there yet."""
+        for what, name, size in DATA:
+            subprocess.run([self.tool, "make", what, self.data / name, str(size)], check=True,
+                           stdout=subprocess.DEVNULL)
+
+    def measure_in_process(self) -> None:
+        """What runs inside one program with its floor."""
+        times: dict[str, list[float]] = {}
+        for program in ["bench_core", "bench_spawn"]:
+            if (self.programs / program).exists():
+                times |= benchmark(self.programs / program, self.build, self.count)
+        for goal in GOALS["in-process"]:
+            mine = goal.get("arguments", [""])[0]
+            if f"{goal['id']}/ours{mine}" in times:
+                self.rows.append(in_process_row(goal, times))
+
+    def measure_processes(self) -> None:
+        """What runs as a process, beside what one would type instead."""
+        names = {"measure": self.tool, "data": str(self.data), "session": SESSION}
+        times = {}
+        for goal in GOALS["processes"]:
+            ours, floor = goal["ours"].format(**names), goal["floor"].format(**names)
+            times[goal["id"]] = pair_times(ours, floor, self.count)
+            self.rows.append(Row(goal["what"], goal["against"], ratios(*times[goal["id"]]),
+                                 goal.get("goal"), goal.get("bracket")))
+        self.rows.append(Row("capture time of 1 GB", "of 100 MB",
+                             ratios(times["capture-1gb"][0], times["capture-100mb"][0]), 12, 12))
+
+    def peak(self, *words: str) -> float:
+        """The greatest memory of an operation in bytes."""
+        return figures([self.tool, *words])["peak-kib"] * 1024.0
+
+    def measure_memory(self) -> None:
+        """What is held at most; one run says it, since memory does not vary."""
+        record = str(self.data / "record-1gb")
+        size = float(os.path.getsize(record))
+        self.rows.append(Row("peak memory of the 1 GB capture, through parsing", "bytes captured",
+                             [self.peak("capture-and-parse", "/bin/cat", record) / size], 1.1, 2.2))
+        growth = (self.peak("first-usage", str(self.data / "head-1gb.jsonl"))
+                  - self.peak("first-usage", str(self.data / "head-1mb.jsonl")))
+        self.rows.append(Row("memory while a head grows from 1 MB to 1 GB", "growth",
+                             [growth / 1e6], 1, 1, " MB"))
+
+    def measure_growth(self) -> None:
+        """What a unit of work costs in a large input, against one in a small; in instructions."""
+        nothing = instructions([self.tool, "weights", "0"])
+
+        def item(count: int) -> float:
+            words = [str(count)]
+            return (instructions([self.tool, "treemap", *words])
+                    - instructions([self.tool, "weights", *words])) / count
+
+        def scan(count: int) -> float:
+            folder = str(self.data / f"history-{count}")
+            return (instructions([self.tool, "leaderboard", folder]) - nothing) / count
+
+        self.rows.append(Row("instructions for an item of a treemap, of 100,000", "of 1,000",
+                             [item(100_000) / item(1_000)], 1.7, 1.7))
+        self.rows.append(Row("instructions for a scan of a history and its analytics, of 10,000",
+                             "of 200", [scan(10_000) / scan(200)], 1.5, 1.5))
+
+    def measure_startup(self) -> None:
+        """The window's first frame and its memory, beside a bare window's."""
+        taken: dict[str, list[list[float]]] = {"bare": [], "loadwick": []}
+        with tempfile.TemporaryDirectory() as home:
+            for turn in range(self.count + 1):
+                for window, lines in taken.items():
+                    began = {"HOME": home, "STARTUP_BEGAN": str(time.time_ns())}
+                    lines += window_lines([str(self.programs / f"startup_{window}")], began)[
+                        0 if turn else 1:]
+        ours, bare = taken["loadwick"], taken["bare"]
+        against = "a bare Controls window, same renderer"
+        self.rows.append(Row("exec to the first frame of the empty state", against,
+                             ratios([line[0] for line in ours], [line[0] for line in bare]), 1.5, 2))
+        self.rows.append(Row("resident memory of the empty state", against,
+                             [(mine[1] - other[1]) / 1024 for mine, other in zip(ours, bare)],
+                             8, 16, " MB more"))
+
+    def measure_scan(self) -> None:
+        """From the key to the first frame of the result."""
+        lines = window_lines([str(self.programs / "scan_to_result"), str(self.count)], {})
+        self.rows.append(Row("a scan with an instant stand-in, Ctrl+R to the first frame of the result",
+                             "the stand-in alone and one frame",
+                             [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more"))
+
+    def measure(self) -> None:
+        """Everything that is built and asked for."""
+        self.make_data()
+        if self.wants("in-process"):
+            self.measure_in_process()
+        if self.wants("processes"):
+            self.measure_processes()
+        if self.wants("memory"):
+            self.measure_memory()
+        if self.wants("growth"):
+            self.measure_growth()
+        if self.wants("startup") and (self.programs / "startup_loadwick").exists():
+            self.measure_startup()
+        if self.wants("scan") and (self.programs / "scan_to_result").exists():
+            self.measure_scan()
+
+
+def version(command: str) -> str:
+    """The first version number that a command prints of itself."""
+    text = subprocess.run(["sh", "-c", f"{command} 2>&1"], capture_output=True, text=True,
+                          check=False).stdout
+    found = re.search(r"\d+\.\d+(\.\d+)?", text)
+    return f"{command.split()[0]} {found.group() if found else '?'}"
+
+
+def machine() -> str:
+    """What the figures were taken on."""
+    text = Path("/proc/cpuinfo").read_text(encoding="utf-8")
+    found = re.search(r"model name\s*: (.*)", text)
+    tools = ["g++ --version", "find --version", "cat --version", "grep --version", "rg --version",
+             "valgrind --version", "qmake6 -query QT_VERSION"]
+    return (f"{found.group(1) if found else '?'}, {os.cpu_count()} cores, Linux "
+            f"{platform.release()}; " + ", ".join(version(tool) for tool in tools)
+            + f". Load at the end: {os.getloadavg()[0]:.1f}.")
+
+
+def table(rows: list[Row]) -> str:
+    """The rows as Markdown."""
+    head = ["operation", "against", "median", "least to most", "goal (bracket)", "verdict"]
+    lines = [head, ["---"] * len(head)] + [row.cells() for row in rows]
+    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
+
+
+def write_document(text: str) -> None:
+    """Puts the table into the document, between its marks."""
+    before, rest = DOCUMENT.read_text(encoding="utf-8").split(MARKS[0])
+    after = rest.split(MARKS[1])[1]
+    DOCUMENT.write_text(f"{before}{MARKS[0]}\n{text}\n{MARKS[1]}{after}", encoding="utf-8")
+
+
+def main() -> None:
+    """Measures, prints, writes."""
+    parser = argparse.ArgumentParser()
+    parser.add_argument("build", type=Path)
+    parser.add_argument("--core", action="store_true")
+    parser.add_argument("--rounds", type=int, default=7)
+    parser.add_argument("--only", default="")
+    given = parser.parse_args()
+    bench = Bench(given.build.resolve(), given.rounds, given.only)
+    bench.measure()
+    text = f"{table(bench.rows)}\n\n{given.rounds} rounds. {machine()}"
+    print(text)
+    if not given.only and not given.core:
+        write_document(text)
+
+
+main()

@@ -1,0 +1,103 @@
+// What a unit of work costs in instructions: the difference of two sizes, divided by what the
+// larger one has more. The figures are those of an everyday build (-O1) with GCC 12; a change that
+// needs more than 15 % more of them has to say why, here. Lower them when the code gets better.
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "measure/data/GeneratedFiles.h"
+#include "support/Measurement.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr double slack = 1.15;
+
+double difference(const std::vector<std::string> &large, const std::vector<std::string> &small)
+{
+    return static_cast<double>(instructionsOf(large) - instructionsOf(small));
+}
+
+double byteCountOf(const fs::path &folder)
+{
+    return static_cast<double>(fs::file_size(folder / "scan-history.json"));
+}
+
+/// What laying out needs for an item, without the making of the weights.
+double perItem(const std::string &count)
+{
+    return difference({"treemap", count}, {"weights", count}) / std::stod(count);
+}
+
+/// What an operation on a history needs for a scan, without the start of the program.
+double perScan(const std::string &verb, const fs::path &folder, double scanCount)
+{
+    return difference({verb, folder}, {"weights", "0"}) / scanCount;
+}
+
+} // namespace
+
+TEST(InstructionCountSlowTest, anEntryOfATranscriptsFolder)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::projects(folder.path() / "small", 1'000);
+    GeneratedFiles::projects(folder.path() / "large", 4'000);
+    const double cost = difference({"search", folder.path() / "large", "nothing"},
+                                   {"search", folder.path() / "small", "nothing"});
+    EXPECT_LT(cost / 3'000, 200 * slack);
+}
+
+TEST(InstructionCountSlowTest, aKilobyteOfATranscript)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::transcript(folder.path() / "small", 1'000'000);
+    GeneratedFiles::transcript(folder.path() / "large", 5'000'000);
+    const double cost = difference({"first-usage", folder.path() / "large"},
+                                   {"first-usage", folder.path() / "small"});
+    EXPECT_LT(cost / 4'000, 1'000 * slack);
+}
+
+TEST(InstructionCountSlowTest, aLineOfAnAnswer)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::answer(folder.path() / "small", 2'000);
+    GeneratedFiles::answer(folder.path() / "large", 12'000);
+    const double cost = difference({"attribution", folder.path() / "large"},
+                                   {"attribution", folder.path() / "small"});
+    EXPECT_LT(cost / 10'000, 1'000 * slack);
+}
+
+TEST(InstructionCountSlowTest, anItemOfATreemap)
+{
+    const double few = perItem("1000");
+    EXPECT_LT(few, 500 * slack);
+    EXPECT_LT(perItem("100000"), few * 1.7);
+}
+
+TEST(InstructionCountSlowTest, aByteOfAHistory)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::history(folder.path() / "small", 200);
+    GeneratedFiles::history(folder.path() / "large", 1'000);
+    const double cost = difference({"history-load", folder.path() / "large"},
+                                   {"history-load", folder.path() / "small"});
+    EXPECT_LT(cost / (byteCountOf(folder.path() / "large") - byteCountOf(folder.path() / "small")),
+              50 * slack);
+}
+
+TEST(InstructionCountSlowTest, aScanOfALongHistoryCostsLittleMoreThanOneOfAShort)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::history(folder.path() / "small", 200);
+    GeneratedFiles::history(folder.path() / "large", 10'000);
+    const double few = perScan("leaderboard", folder.path() / "small", 200);
+    EXPECT_LT(perScan("leaderboard", folder.path() / "large", 10'000), few * 1.5);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,140 @@
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "measure/data/GeneratedFiles.h"
+#include "measure/data/GeneratedText.h"
+#include "support/Measurement.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int64_t pieceSize = 65'536;
+
+std::string text(std::int64_t number)
+{
+    return std::to_string(number);
+}
+
+/// The counters of a scan of that many instruction files.
+std::map<std::string, std::int64_t> ofInstructions(std::int64_t fileCount,
+                                                   GeneratedFiles::Imports imports)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::instructions(folder.path(), fileCount, imports);
+    auto counters = measured({"instructions", folder.path()});
+    EXPECT_EQ(counters.at("outcome"), fileCount);
+    return counters;
+}
+
+/// The counters of some attempts to find a session among 2,500 entries in three folders.
+std::map<std::string, std::int64_t> ofAttempts(const std::string &session, int attempts)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::projects(folder.path() / "projects", 2'500);
+    return measured({"attempts", folder.path() / "projects", session, text(attempts)});
+}
+
+std::map<std::string, std::int64_t> ofFirstUsage(const fs::path &file)
+{
+    auto counters = measured({"first-usage", file});
+    EXPECT_EQ(counters.at("outcome"), 42'318);
+    return counters;
+}
+
+} // namespace
+
+TEST(OperationCountersTest, opensAndReadsEachInstructionFileOnce)
+{
+    for (const auto imports : {GeneratedFiles::Imports::flat, GeneratedFiles::Imports::crossed}) {
+        const auto counters = ofInstructions(80, imports);
+        EXPECT_EQ(counters.at("files-opened"), 80);
+        EXPECT_EQ(counters.at("reads"), 160) << "one with the content, one that finds the end";
+    }
+}
+
+TEST(OperationCountersTest, resolvesTheLinksOfAFolderOnceForAllItsFiles)
+{
+    const auto few = ofInstructions(20, GeneratedFiles::Imports::crossed);
+    const auto many = ofInstructions(80, GeneratedFiles::Imports::crossed);
+    EXPECT_EQ(many.at("paths-resolved"), few.at("paths-resolved"));
+}
+
+TEST(OperationCountersTest, listsEachFolderOnceForEachAttempt)
+{
+    const auto once = ofAttempts("nothing", 1);
+    EXPECT_EQ(once.at("outcome"), 0);
+    EXPECT_EQ(once.at("folders-listed"), 4);
+    EXPECT_EQ(once.at("files-opened"), 0);
+    EXPECT_EQ(ofAttempts("nothing", 3).at("folders-listed"), 12);
+}
+
+TEST(OperationCountersTest, looksAtNoEntryThatTheListingTellsEnoughOf)
+{
+    EXPECT_EQ(ofAttempts("nothing", 1).at("paths-looked-at"), 0);
+}
+
+TEST(OperationCountersTest, opensOneFileOfATranscriptsFolder)
+{
+    const auto counters = ofAttempts(GeneratedText::sessionName(GeneratedFiles::wantedSession), 3);
+    EXPECT_EQ(counters.at("outcome"), 42'318);
+    EXPECT_EQ(counters.at("files-opened"), 1);
+    EXPECT_LE(counters.at("folders-listed"), 4);
+}
+
+TEST(OperationCountersTest, readsATranscriptNoFurtherThanToItsFirstUsage)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "t.jsonl";
+    GeneratedFiles::transcript(file, 10 * pieceSize);
+    std::ofstream(file, std::ios::app) << std::string(100 * pieceSize, ' ');
+    const auto counters = ofFirstUsage(file);
+    EXPECT_EQ(counters.at("files-opened"), 1);
+    EXPECT_LE(counters.at("reads"), 12);
+    EXPECT_LE(counters.at("bytes-read"), 12 * pieceSize);
+}
+
+TEST(OperationCountersTest, readsALongLineOfAUserOnce)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "t.jsonl";
+    GeneratedFiles::longLineTranscript(file, 100 * pieceSize);
+    EXPECT_EQ(ofFirstUsage(file).at("bytes-read"), static_cast<std::int64_t>(fs::file_size(file)));
+}
+
+TEST(OperationCountersTest, needsNoMoreMemoryForALongerHead)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::transcript(folder.path() / "short.jsonl", 2 * pieceSize);
+    GeneratedFiles::transcript(folder.path() / "long.jsonl", 300 * pieceSize);
+    const auto small = ofFirstUsage(folder.path() / "short.jsonl").at("peak-kib");
+    EXPECT_LT(ofFirstUsage(folder.path() / "long.jsonl").at("peak-kib") - small, 1'024);
+}
+
+TEST(OperationCountersTest, readsAHistoryOnce)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::history(folder.path(), 50);
+    const auto size = static_cast<std::int64_t>(fs::file_size(folder.path() / "scan-history.json"));
+    const auto counters = measured({"history-load", folder.path()});
+    EXPECT_EQ(counters.at("outcome"), 50);
+    EXPECT_EQ(counters.at("files-opened"), 1);
+    EXPECT_EQ(counters.at("bytes-read"), size);
+}
+
+TEST(OperationCountersTest, readsEachByteOfACaptureOnce)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::record(folder.path() / "record", 20 * pieceSize);
+    const auto size = static_cast<std::int64_t>(fs::file_size(folder.path() / "record"));
+    const auto counters = measured({"capture", "/bin/cat", folder.path() / "record"});
+    EXPECT_EQ(counters.at("outcome"), size);
+    EXPECT_EQ(counters.at("bytes-read"), size);
+}
+
+} // namespace Loadwick

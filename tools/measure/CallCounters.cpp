@@ -1,0 +1,93 @@
+#include "measure/CallCounters.h"
+
+#include <cstdarg>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Loadwick {
+
+CallCounters &CallCounters::ofProcess() noexcept
+{
+    static CallCounters counters;
+    return counters;
+}
+
+void CallCounters::restart() noexcept
+{
+    for (std::atomic<std::int64_t> *counter : {&foldersListed, &entriesSeen, &filesOpened,
+                                               &pathsLookedAt, &pathsResolved, &reads, &bytesRead})
+        *counter = 0;
+}
+
+} // namespace Loadwick
+
+// The names are the linker's (--wrap): a call to `f` arrives at `__wrap_f`, and `__real_f` is the
+// system's own.
+extern "C" {
+
+DIR *__real_opendir(const char *path);
+dirent *__real_readdir(DIR *listing);
+int __real_open(const char *path, int flags, ...);
+ssize_t __real_read(int descriptor, void *buffer, size_t size);
+int __real_stat(const char *path, struct stat *status);
+int __real_fstatat(int folder, const char *path, struct stat *status, int flags);
+char *__real_realpath(const char *path, char *resolved);
+
+DIR *__wrap_opendir(const char *path)
+{
+    ++Loadwick::CallCounters::ofProcess().foldersListed;
+    return __real_opendir(path);
+}
+
+dirent *__wrap_readdir(DIR *listing)
+{
+    dirent *const entry = __real_readdir(listing);
+    if (entry != nullptr)
+        ++Loadwick::CallCounters::ofProcess().entriesSeen;
+    return entry;
+}
+
+int __wrap_open(const char *path, int flags, ...)
+{
+    ++Loadwick::CallCounters::ofProcess().filesOpened;
+    mode_t mode = 0;
+    if ((flags & O_CREAT) != 0) {
+        va_list arguments;
+        va_start(arguments, flags);
+        mode = va_arg(arguments, mode_t);
+        va_end(arguments);
+    }
+    return __real_open(path, flags, mode);
+}
+
+ssize_t __wrap_read(int descriptor, void *buffer, size_t size)
+{
+    const ssize_t count = __real_read(descriptor, buffer, size);
+    Loadwick::CallCounters &counters = Loadwick::CallCounters::ofProcess();
+    ++counters.reads;
+    if (count > 0)
+        counters.bytesRead += count;
+    return count;
+}
+
+int __wrap_stat(const char *path, struct stat *status)
+{
+    ++Loadwick::CallCounters::ofProcess().pathsLookedAt;
+    return __real_stat(path, status);
+}
+
+int __wrap_fstatat(int folder, const char *path, struct stat *status, int flags)
+{
+    ++Loadwick::CallCounters::ofProcess().pathsLookedAt;
+    return __real_fstatat(folder, path, status, flags);
+}
+
+char *__wrap_realpath(const char *path, char *resolved)
+{
+    ++Loadwick::CallCounters::ofProcess().pathsResolved;
+    return __real_realpath(path, resolved);
+}
+}

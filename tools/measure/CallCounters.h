@@ -1,0 +1,28 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+
+namespace Loadwick {
+
+/// What the core has asked of the system since the program began. The linker leads the core's calls
+/// through here; calls inside libraries of others, such as the loading of the program, do not
+/// count.
+struct CallCounters
+{
+    std::atomic<std::int64_t> foldersListed = 0;
+    std::atomic<std::int64_t> entriesSeen = 0; ///< "." and ".." among them
+    std::atomic<std::int64_t> filesOpened = 0; ///< folders and devices too, when opened as files
+    std::atomic<std::int64_t> pathsLookedAt = 0;
+    std::atomic<std::int64_t> pathsResolved = 0;
+    std::atomic<std::int64_t> reads = 0;
+    std::atomic<std::int64_t> bytesRead = 0;
+
+    /// Those of this process.
+    [[nodiscard]] static CallCounters &ofProcess() noexcept;
+
+    /// Forgets everything that was counted.
+    void restart() noexcept;
+};
+
+} // namespace Loadwick

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "history/RecordedScan.h"
+
+/// Made-up files, the same on every machine and in every run, except for their dates. The program
+/// ends when one cannot be written. Nothing is written again that stands there already.
+namespace Loadwick::GeneratedFiles {
+
+/// The session for which `projects` holds a transcript.
+inline constexpr std::int64_t wantedSession = 999'999'999;
+
+/// A transcripts folder with `entryCount` empty files, 1,000 to a folder, and in the middle one the
+/// transcript of `wantedSession`.
+void projects(const std::filesystem::path &root, std::int64_t entryCount);
+
+/// A transcript with a head of about `headBytes` of users' messages and then a usage.
+void transcript(const std::filesystem::path &file, std::int64_t headBytes);
+
+/// A transcript whose head is one line of `lineBytes`.
+void longLineTranscript(const std::filesystem::path &file, std::int64_t lineBytes);
+
+/// How instruction files stand to each other.
+enum class Imports
+{
+    flat,   ///< the first one imports all the others
+    crossed ///< each one imports four further ones, the next one, and the one that imports it
+};
+
+/// A home folder with a repository "home/repository" that has `fileCount` instruction files of
+/// about 2 KB.
+void instructions(const std::filesystem::path &folder, std::int64_t fileCount, Imports imports);
+
+/// The instruction files that `instructions` writes.
+[[nodiscard]] std::vector<std::filesystem::path>
+instructionPaths(const std::filesystem::path &folder, std::int64_t fileCount);
+
+/// An answer of `lineCount` categories as a file.
+void answer(const std::filesystem::path &file, std::int64_t lineCount);
+
+/// A record of the command's, as a file: its result is an answer of about `byteCount` bytes.
+void record(const std::filesystem::path &file, std::int64_t byteCount);
+
+/// A history of `scanCount` scans of forty repositories, nine categories in each scan.
+[[nodiscard]] std::vector<RecordedScan> scans(std::int64_t scanCount);
+
+/// The same as a history file in `folder`.
+void history(const std::filesystem::path &folder, std::int64_t scanCount);
+
+} // namespace Loadwick::GeneratedFiles
