@@ -1,10 +1,25 @@
 #include "probe/TranscriptPieces.h"
 
+#include <algorithm>
+
+#include <string.h> // memmem
+
 #include "probe/JsonText.h"
 
 namespace Loadwick {
 
 namespace {
+
+constexpr std::string_view assistant = "assistant";
+constexpr std::size_t overlap = assistant.size() - 1;
+
+/// Whether a line with this in it may be an assistant's message: that says so in this word, which
+/// JSON can spell otherwise only with \u. Nearly every other line is known by this unparsed.
+bool mayBeAssistants(std::string_view text) noexcept
+{
+    return ::memmem(text.data(), text.size(), assistant.data(), assistant.size()) != nullptr ||
+           text.find("\\u") != std::string_view::npos;
+}
 
 /// Comparing the value itself with a text would ask for memory where there is no way to say that
 /// there is none.
@@ -24,12 +39,14 @@ std::optional<ProbeUsage> TranscriptPieces::take(std::string_view piece)
             return usage;
         piece.remove_prefix(end + 1);
     }
-    append(piece);
+    pass(piece);
     return std::nullopt;
 }
 
 std::optional<ProbeUsage> TranscriptPieces::usageInLine(std::string_view line)
 {
+    if (!mayBeAssistants(line))
+        return std::nullopt;
     const auto record = jsonObjectOfScalars(
         line, {"type", "message.usage.input_tokens", "message.usage.cache_creation_input_tokens",
                "message.usage.cache_read_input_tokens", "message.usage.output_tokens"});
@@ -37,30 +54,42 @@ std::optional<ProbeUsage> TranscriptPieces::usageInLine(std::string_view line)
         return std::nullopt;
     const nlohmann::json *const type = member(*record, "type");
     const nlohmann::json *const message = member(*record, "message");
-    if (!isText(type, "assistant") || message == nullptr)
+    if (!isText(type, assistant) || message == nullptr)
         return std::nullopt;
     const nlohmann::json *const usage = member(*message, "usage");
     return usage != nullptr ? ProbeUsage::from(*usage) : std::nullopt;
 }
 
-std::optional<ProbeUsage> TranscriptPieces::completeLine(std::string_view tail)
+std::optional<ProbeUsage> TranscriptPieces::completeLine(std::string_view part)
 {
-    if (m_head.empty() && !m_isTooLong)
-        return usageInLine(tail);
-    append(tail);
-    const auto usage = m_isTooLong ? std::nullopt : usageInLine(m_head);
-    m_head.clear();
-    m_isTooLong = false;
+    const std::size_t size = m_lineSize + part.size();
+    const auto usage = m_lineSize == 0 ? usageInLine(part) : usageInLongLine(part);
+    m_lineBegin += static_cast<std::int64_t>(size) + 1;
+    m_lineSize = 0;
+    m_mayBeAssistants = false;
+    m_end.clear();
     return usage;
 }
 
-void TranscriptPieces::append(std::string_view part)
+std::optional<ProbeUsage> TranscriptPieces::usageInLongLine(std::string_view lastPart)
 {
-    m_isTooLong = m_isTooLong || m_head.size() + part.size() > longestLine;
-    if (m_isTooLong)
-        std::string().swap(m_head);
-    else
-        m_head.append(part);
+    pass(lastPart);
+    if (!m_mayBeAssistants || m_lineSize > longestLine)
+        return std::nullopt;
+    const auto line = m_again(m_lineBegin, m_lineSize);
+    return line ? usageInLine(*line) : std::nullopt;
+}
+
+void TranscriptPieces::pass(std::string_view part)
+{
+    m_lineSize += part.size();
+    if (m_mayBeAssistants)
+        return;
+    m_end.append(part.substr(0, overlap));
+    m_mayBeAssistants = mayBeAssistants(m_end) || mayBeAssistants(part);
+    if (part.size() > overlap)
+        m_end = part.substr(part.size() - overlap);
+    m_end.erase(0, m_end.size() - std::min(m_end.size(), overlap));
 }
 
 } // namespace Loadwick

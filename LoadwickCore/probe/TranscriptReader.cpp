@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 #include "probe/RegularFile.h"
 #include "probe/TextLines.h"
@@ -20,12 +21,17 @@ std::optional<ProbeUsage> firstAssistantUsageAtPath(const std::filesystem::path 
     auto file = RegularFile::open(path);
     if (!file)
         return std::nullopt;
-    TranscriptPieces pieces;
+    std::int64_t position = 0;
+    TranscriptPieces pieces([&](std::int64_t begin, std::size_t size) {
+        auto line = file->skipTo(begin) ? file->readUpTo(size) : std::nullopt;
+        return file->skipTo(position) ? line : std::nullopt;
+    });
     std::array<char, pieceSize> buffer;
     for (;;) {
         const auto count = file->read(buffer);
         if (!count)
             return std::nullopt;
+        position += static_cast<std::int64_t>(*count);
         if (*count == 0)
             return pieces.finish();
         if (const auto usage = pieces.take({buffer.data(), *count}))

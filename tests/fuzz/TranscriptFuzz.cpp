@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <random>
+#include <string>
 
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
@@ -15,10 +16,17 @@ namespace {
 
 using Usage = std::optional<ProbeUsage>;
 
+TranscriptPieces::Again againIn(std::string_view transcript)
+{
+    return [transcript](std::int64_t begin, std::size_t size) {
+        return std::string(transcript.substr(static_cast<std::size_t>(begin), size));
+    };
+}
+
 /// What the reader finds in pieces of random sizes, empty ones among them.
 Usage usageInPieces(std::string_view transcript, std::mt19937 random)
 {
-    TranscriptPieces pieces;
+    TranscriptPieces pieces(againIn(transcript));
     while (!transcript.empty()) {
         const std::size_t size = std::min<std::size_t>(random() % 40, transcript.size());
         if (const Usage usage = pieces.take(transcript.substr(0, size)))
@@ -63,7 +71,7 @@ void checkTranscript(std::string_view bytes)
     FuzzInput input(bytes);
     std::mt19937 random(static_cast<std::uint32_t>(input.takeInteger(1'000'000)));
     const std::string_view transcript = input.rest();
-    TranscriptPieces whole;
+    TranscriptPieces whole(againIn(transcript));
     Usage usage = whole.take(transcript);
     if (!usage)
         usage = whole.finish();

@@ -133,6 +133,44 @@ TEST(TranscriptReaderTest, reassemblesALineOfManyReads)
     EXPECT_EQ(usageOfFile(userLine + "\n" + line), inputOf(12));
 }
 
+TEST(TranscriptReaderTest, readsAWordThatIsSpelledWithEscapes)
+{
+    EXPECT_EQ(usageOf(R"({"type":"\u0061ssistant","message":{"usage":{"input_tokens":4,)"
+                      R"("output_tokens":1}}})"),
+              inputOf(4));
+    EXPECT_EQ(usageOf(R"({"type":"a\u0073\u0073istan\u0074","message":{"usage":)"
+                      R"({"input_tokens":5,"output_tokens":1}}})"),
+              inputOf(5));
+}
+
+TEST(TranscriptReaderTest, findsTheWordWhereverAReadEnds)
+{
+    const std::string line = assistantLine(9);
+    const std::size_t word = line.find("assistant");
+    for (std::size_t part = 0; part <= std::string_view("assistant").size(); ++part) {
+        // The line begins in the first read, and the second begins within the word.
+        const std::string filler = fillerOf(65'536 - word - part);
+        EXPECT_EQ(usageOfFile(filler + line + "\n"), inputOf(9)) << part;
+        EXPECT_EQ(usageOfFile(filler + line), inputOf(9)) << part;
+    }
+}
+
+TEST(TranscriptReaderTest, goesOnBehindALongLineThatOnlySaysTheWord)
+{
+    const std::string talk =
+        R"({"type":"user","x":"assistant)" + std::string(200'000, 'x') + "\"}\n";
+    EXPECT_EQ(usageOfFile(talk + userLine + "\n" + talk + assistantLine(3) + "\n" + talk),
+              inputOf(3));
+    EXPECT_EQ(usageOfFile(talk + talk), std::nullopt);
+}
+
+TEST(TranscriptReaderTest, forgetsTheWordOfALineThatHasEnded)
+{
+    const std::string talk =
+        R"({"type":"user","x":"assistant)" + std::string(100'000, 'x') + "\"}\n";
+    EXPECT_EQ(usageOfFile(talk + fillerOf(150'000) + assistantLine(6)), inputOf(6));
+}
+
 TEST(TranscriptReaderTest, endsALineOfAFileAtALineFeedOnly)
 {
     std::string line = assistantLine(13);
