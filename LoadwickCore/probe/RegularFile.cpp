@@ -52,10 +52,10 @@ bool RegularFile::Failure::isDenied() const noexcept
     return errorNumber == EACCES || errorNumber == EPERM;
 }
 
-std::optional<RegularFile> RegularFile::open(const std::filesystem::path &path, Failure *failure)
+std::optional<RegularFile> RegularFile::open(const std::string &path, Failure *failure)
 {
     // The system would cut the path at a NUL and open another file.
-    if (path.native().find('\0') != std::string::npos) {
+    if (path.find('\0') != std::string::npos) {
         report(failure, ENOENT);
         return std::nullopt;
     }
@@ -66,8 +66,7 @@ std::optional<RegularFile> RegularFile::open(const std::filesystem::path &path, 
     return openSeen(path, failure);
 }
 
-std::optional<RegularFile> RegularFile::openSeen(const std::filesystem::path &path,
-                                                 Failure *failure)
+std::optional<RegularFile> RegularFile::openSeen(const std::string &path, Failure *failure)
 {
     constexpr int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     const int descriptor = uninterrupted([&] { return ::open(path.c_str(), flags); });

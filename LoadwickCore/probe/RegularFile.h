@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <span>
 #include <string>
@@ -24,13 +23,14 @@ public:
         [[nodiscard]] bool isDenied() const noexcept;
     };
 
-    /// Follows links. On failure nothing, and the reason in `failure` when one is asked for.
-    [[nodiscard]] static std::optional<RegularFile> open(const std::filesystem::path &path,
+    /// `path` in bytes, as a `std::filesystem::path` gives them. Follows links. On failure nothing,
+    /// and the reason in `failure` when one is asked for.
+    [[nodiscard]] static std::optional<RegularFile> open(const std::string &path,
                                                          Failure *failure = nullptr);
 
     /// The same for a path that was just seen to lead to a regular file: it is looked at only
     /// behind the open descriptor.
-    [[nodiscard]] static std::optional<RegularFile> openSeen(const std::filesystem::path &path,
+    [[nodiscard]] static std::optional<RegularFile> openSeen(const std::string &path,
                                                              Failure *failure = nullptr);
 
     RegularFile(RegularFile &&other) noexcept;

@@ -124,6 +124,8 @@ std::string repairedUtf8(std::string_view bytes)
 
 bool isWhiteSpace(char32_t codePoint) noexcept
 {
+    if (codePoint < 0x80)
+        return codePoint == ' ' || (codePoint >= '\t' && codePoint <= '\r');
     return u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_WHITE_SPACE) != 0;
 }
 

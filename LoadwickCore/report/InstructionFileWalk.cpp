@@ -38,6 +38,14 @@ std::optional<RegularFile> opened(const std::string &url, mode_t type,
                            : RegularFile::open(url, &failure);
 }
 
+/// The bytes to read of a file: its own, where it tells how many it has, so that no read has to
+/// find the end; and enough to see that it is too long.
+std::size_t readLimit(const RegularFile &file)
+{
+    constexpr std::int64_t limit = InstructionFileScanner::importSearchLimit + 1;
+    return static_cast<std::size_t>(file.size() > 0 ? std::min(file.size(), limit) : limit);
+}
+
 /// Whether a path stays as it is when it is standardized behind a standard folder. No for some that
 /// would.
 bool isPlain(std::string_view path)
@@ -168,8 +176,7 @@ InstructionFileWalk::countedFile(const std::string &url, mode_t type, Instructio
     m_findings->add(tierOf(url, origin),
                     InstructionFileEstimate::fromPath(repairedUtf8(url), file->size()));
     SeenFile seen;
-    constexpr auto limit = static_cast<std::size_t>(InstructionFileScanner::importSearchLimit) + 1;
-    if (const std::optional<std::string> content = file->readUpTo(limit, &failure))
+    if (const std::optional<std::string> content = file->readUpTo(readLimit(*file), &failure))
         seen.importTokens = importTokensOf(*content);
     else
         seen.isReadDenied = failure.isDenied();
