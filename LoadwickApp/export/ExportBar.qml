@@ -13,9 +13,9 @@ RowLayout {
 
     PlainLabel {
         Layout.fillWidth: true
-        text: bar.exporter.outcome
+        text: bar.exporter ? bar.exporter.outcome : ""
         font: AppTheme.captionFont
-        color: bar.exporter.failed ? AppTheme.bandExcessiveText : AppTheme.secondaryText
+        color: bar.exporter && bar.exporter.failed ? AppTheme.bandExcessiveText : AppTheme.secondaryText
         wrapMode: Text.Wrap
     }
     PushButton {

@@ -7,7 +7,8 @@ ReportSurface {
     id: card
 
     required property TrendChartPresenter chart
-    required property PageExport exporter
+    // None: there is nothing to save from here.
+    property PageExport exporter: null
     readonly property bool isEmpty: card.chart.emptyText.length > 0
 
     TrendPlaceholder {
@@ -60,6 +61,6 @@ ReportSurface {
         Layout.fillWidth: true
         exporter: card.exporter
         chart: plot
-        visible: !card.isEmpty
+        visible: card.exporter !== null && !card.isEmpty
     }
 }
