@@ -17,7 +17,7 @@ Item {
     readonly property TextMenu menu: loader.item as TextMenu
     readonly property bool truncated: maximumLineCount > 0 && edit.lineCount > maximumLineCount
     // While it is read with the keyboard or selected, the text itself shows and not its short form.
-    readonly property bool isCutShort: truncated && !edit.activeFocus
+    readonly property bool isCutShort: truncated && !edit.activeFocus && !loader.isOpen
 
     implicitWidth: edit.implicitWidth
     implicitHeight: truncated ? Math.ceil(lineSpacing * maximumLineCount)
