@@ -20,7 +20,7 @@ enum class Mode
 /// One entry of the matrix: which call fails, in which operation, and how.
 struct Fault
 {
-    std::string operation;
+    std::string operation = {};
     Call call = Call::open;
     int errorNumber = 0;
     long nth = 1;

@@ -48,11 +48,13 @@ Matrix::Score Matrix::run(const Extent &extent)
         if (extent.operation && *extent.operation != kind.name)
             continue;
         const long before = m_score.failedCalls;
-        const Tally counted = countedIn(kind);
+        const std::optional<Tally> counted = countedIn(kind);
+        if (!counted)
+            continue; // it has a problem of its own, which every fault would only repeat
         if (extent.sampleSeed)
-            runSample(kind, counted, extent);
+            runSample(kind, *counted, extent);
         else
-            runAll(kind, counted);
+            runAll(kind, *counted);
         std::printf("%s: %ld calls failed\n", std::string(kind.name).c_str(),
                     m_score.failedCalls - before);
         std::fflush(stdout);
@@ -111,13 +113,13 @@ bool Matrix::fails(const OperationKind &kind, const Fault &fault)
     return verdict.tally.failed > 0 || verdict.problem;
 }
 
-Tally Matrix::countedIn(const OperationKind &kind)
+std::optional<Tally> Matrix::countedIn(const OperationKind &kind)
 {
     const Trial::Verdict verdict = Trial{.kind = kind}.run(m_workFolder);
-    if (verdict.problem)
-        m_score.problems.push_back(std::string(kind.name) +
-                                   " without a fault: " + *verdict.problem);
-    return verdict.tally;
+    if (!verdict.problem)
+        return verdict.tally;
+    m_score.problems.push_back(std::string(kind.name) + " without a fault: " + *verdict.problem);
+    return std::nullopt;
 }
 
 } // namespace Faults

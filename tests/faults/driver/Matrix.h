@@ -42,7 +42,8 @@ private:
     void runAll(const OperationKind &kind, const Tally &counted);
     void runSample(const OperationKind &kind, const Tally &counted, const Extent &extent);
     [[nodiscard]] bool fails(const OperationKind &kind, const Fault &fault);
-    [[nodiscard]] Tally countedIn(const OperationKind &kind);
+    /// How often each kind of call is made; nothing when the operation fails without a fault.
+    [[nodiscard]] std::optional<Tally> countedIn(const OperationKind &kind);
 
     std::filesystem::path m_workFolder;
     Score m_score;

@@ -1,0 +1,34 @@
+#include "faults/crashes/TracedWork.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "support/TemporaryFolder.h"
+
+namespace Faults {
+
+TEST(TracedWorkTest, killsBeforeAndBehindEachCall)
+{
+    const Loadwick::TemporaryFolder folder;
+    const std::filesystem::path path = folder.path() / "made";
+    const auto work = [&path] { close(open(path.c_str(), O_CREAT | O_WRONLY, 0600)); };
+    long kills = 0;
+    long killsWithoutFile = 0;
+    while (isKilledAt(kills + 1, work)) {
+        ++kills;
+        killsWithoutFile += std::filesystem::exists(path) ? 0 : 1;
+        std::filesystem::remove(path);
+    }
+    // Before the call that makes the file it is not there; behind it, and at the next, it is.
+    EXPECT_GE(killsWithoutFile, 1);
+    EXPECT_GE(kills - killsWithoutFile, 3);
+    EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+TEST(TracedWorkTest, leavesWorkAloneThatIsDoneBefore)
+{
+    EXPECT_FALSE(isKilledAt(1'000, [] {}));
+}
+
+} // namespace Faults
