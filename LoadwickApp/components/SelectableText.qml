@@ -68,8 +68,9 @@ Item {
         text: control.truncated ? control.text : ""
         font: control.font
         color: control.color
-        wrapMode: Text.WrapAnywhere
-        elide: Text.ElideRight
+        // On one line the end tells names apart as well as the beginning.
+        wrapMode: control.maximumLineCount === 1 ? Text.NoWrap : Text.WrapAnywhere
+        elide: control.maximumLineCount === 1 ? Text.ElideMiddle : Text.ElideRight
         maximumLineCount: Math.max(1, control.maximumLineCount)
         visible: control.isCutShort
         Accessible.ignored: true

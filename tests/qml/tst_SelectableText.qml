@@ -13,6 +13,7 @@ Item {
     SelectableText { id: twoFolders; y: 120; width: 150; text: "/home/somebody/Projects/harbor"; maximumLineCount: 2 }
 
     TextEdit { id: clipboard; y: 200; textFormat: TextEdit.PlainText }
+    SelectableText { id: name; y: 180; width: 90; text: "a-repository-with-a-name-2"; maximumLineCount: 1 }
 
     Shortcut { id: shortcut; sequence: "F6" }
     SignalSpy { id: presses; target: shortcut; signalName: "activated" }
@@ -67,6 +68,13 @@ Item {
             compare(edit(path).opacity, 0);
             verify(!shortForm(plain).visible);
             compare(edit(plain).opacity, 1);
+        }
+
+        function test_ofOneLineTheMiddleIsLeftOut() {
+            verify(shortForm(name).visible);
+            verify(shortForm(name).truncated);
+            compare(shortForm(name).elide, Text.ElideMiddle);
+            compare(shortForm(name).lineCount, 1);
         }
 
         function test_theTextItselfShowsWhileItIsRead() {
