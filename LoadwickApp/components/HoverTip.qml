@@ -1,28 +1,27 @@
 import QtQuick
 import Loadwick
 
-// Says more about the item it fills while the pointer is on it. The tool tip itself is made only
-// then, so that a long list of items costs none.
-Item {
+// Says more about the item it is in while the pointer is on that. The tool tip itself is made only
+// then, so that a long list of items costs next to nothing.
+HoverHandler {
     id: tip
 
     // Nothing is said while these are empty.
     required property string words
-    readonly property bool wanted: pointer.hovered && tip.words.length > 0
+    readonly property bool wanted: tip.hovered && tip.words.length > 0
+    property PlainToolTip shown: null
 
     function showOrHide() {
-        if (tip.wanted)
-            holder.setSource("PlainToolTip.qml", { parent: tip, words: tip.words, visible: true });
-        else
-            holder.source = "";
+        if (tip.shown)
+            tip.shown.destroy();
+        tip.shown = tip.wanted ? tip.make() : null;
     }
 
-    anchors.fill: parent
-    Accessible.ignored: true
+    function make() {
+        const maker = Qt.createComponent("PlainToolTip.qml");
+        return maker.createObject(tip.parent, { parent: tip.parent, words: tip.words, visible: true }) as PlainToolTip;
+    }
+
     onWantedChanged: tip.showOrHide()
     onWordsChanged: tip.showOrHide()
-
-    HoverHandler { id: pointer }
-
-    Loader { id: holder }
 }

@@ -24,7 +24,7 @@ Item {
         when: windowShown
 
         function toolTipOf(item) {
-            return item.children[0].item;
+            return item.shown;
         }
 
         function init() {
@@ -48,6 +48,16 @@ Item {
             mouseMove(silent, 20, 20);
             wait(50);
             compare(toolTipOf(nothing), null);
+        }
+
+        function test_otherWordsAreSaidAtOnce() {
+            mouseMove(wordy, 20, 20);
+            tryVerify(function () { return toolTipOf(tip) !== null; });
+            tip.words = "/srv/two";
+            compare(toolTipOf(tip).words, "/srv/two");
+            tip.words = "";
+            compare(toolTipOf(tip), null);
+            tip.words = "<b>/srv/one</b>";
         }
 
         function test_theToolTipGoesWithThePointer() {
