@@ -131,6 +131,10 @@ class AccessibleTree:
         command = ["xdotool", "getactivewindow", *size]
         subprocess.run(command, check=True, timeout=LIMIT_SECONDS)
 
+    def wait_until_inactive(self) -> None:
+        """Returns once the program knows that its window has not the keyboard."""
+        self._until("the window's rest", lambda: not self._is_active())
+
     def _is_active(self) -> bool:
         active = Atspi.StateType.ACTIVE
         return any(

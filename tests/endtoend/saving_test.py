@@ -1,0 +1,51 @@
+"""The real dialog for saving, from the command that opens it to the file."""
+
+from __future__ import annotations
+
+from endtoend_case import SCAN, EndToEndCase, main
+from program import Program
+from waiting import until
+
+
+class SavingTest(EndToEndCase):
+    """The toolkit's own dialog, which an X display without a desktop gets."""
+
+    def trends(self) -> Program:
+        """The Trends page of a repository that was scanned twice."""
+        program = self.open()
+        self.choose(program, self.home.make_repository("webshop"))
+        for count in (1, 2):
+            program.window.press(SCAN)
+            until("the recorded scan", lambda: len(self.home.scans()) == count)
+            program.window.wait_for("Scan complete")
+        program.window.key("ctrl+2")
+        return program
+
+    def test_the_data_is_saved_where_the_user_says(self) -> None:
+        program = self.trends()
+        program.window.press("Save Data…")
+        program.window.press("Save")
+        program.window.wait_for("Saved as loadwick-trend.csv.")
+        table = (self.home.path / "loadwick-trend.csv").read_bytes().split(b"\r\n")
+        self.assertEqual(table[0], b"Repository,Path,Date,Total tokens,Band")
+        self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
+
+    def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:
+        file = self.home.path / "loadwick-trend.png"
+        file.write_bytes(b"precious")
+        program = self.trends()
+        program.window.press("Save Chart…")
+        program.window.press("Save")
+        program.window.wait_for(f"{file} could not be written.")
+        self.assertEqual(file.read_bytes(), b"precious")
+
+    def test_thinking_better_of_it_saves_nothing(self) -> None:
+        program = self.trends()
+        program.window.press("Save Data…")
+        program.window.press("Cancel")
+        program.window.wait_until_gone("Cancel")
+        self.assertFalse((self.home.path / "loadwick-trend.csv").exists())
+
+
+if __name__ == "__main__":
+    main()
