@@ -112,6 +112,18 @@ Item {
             compare(pasted(), path.text);
         }
 
+        function test_theTextItselfShowsWhileItsMenuIsOpen() {
+            edit(path).forceActiveFocus();
+            edit(path).selectAll();
+            keyClick(Qt.Key_Menu);
+            tryVerify(() => path.menu !== null && path.menu.visible);
+            verify(!edit(path).activeFocus);
+            compare(edit(path).opacity, 1);
+            verify(!shortForm(path).visible);
+            keyClick(Qt.Key_Escape);
+            tryVerify(() => !path.menu.visible);
+        }
+
         function pasted() {
             clipboard.clear();
             clipboard.paste();
