@@ -5,7 +5,7 @@
 
 namespace Loadwick {
 
-/// The one question that the transcript search asks of a disk.
+/// What the transcript search asks of a disk.
 class FileSystem
 {
 public:
@@ -30,6 +30,10 @@ public:
     /// as what it leads to when that is a file, and as `other` when it leads to a folder. A folder
     /// that cannot be listed has no entries.
     virtual void list(const std::filesystem::path &folder, const Visitor &visit) const = 0;
+
+    /// Whether something answers to that path. A disk may take other names for the same, so only a
+    /// listing tells what is there.
+    [[nodiscard]] virtual bool mayHold(const std::filesystem::path &path) const = 0;
 };
 
 } // namespace Loadwick

@@ -4,6 +4,7 @@
 #include <string>
 
 #include <dirent.h>
+#include <sys/stat.h>
 
 #include "probe/FolderEntryKind.h"
 
@@ -46,6 +47,13 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
         if (visit(name, kind) == Walk::stop)
             return;
     }
+}
+
+bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
+{
+    struct stat status
+    {};
+    return ::stat(path.c_str(), &status) == 0;
 }
 
 } // namespace Loadwick

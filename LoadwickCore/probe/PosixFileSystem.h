@@ -10,6 +10,7 @@ class PosixFileSystem : public FileSystem
 {
 public:
     void list(const std::filesystem::path &folder, const Visitor &visit) const override;
+    [[nodiscard]] bool mayHold(const std::filesystem::path &path) const override;
 };
 
 } // namespace Loadwick

@@ -1,6 +1,6 @@
 #include "probe/TranscriptLocator.h"
 
-#include <vector>
+#include <deque>
 
 #include "probe/PathText.h"
 #include "probe/UnicodeText.h"
@@ -22,21 +22,21 @@ bool isPlainFileName(std::string_view name) noexcept
 }
 
 /// A walk through the folders below a root. The folders still to be listed are kept in a list of
-/// their own, so that no depth is too great.
+/// their own, so that no depth is too great; one that answers to the wanted name comes next.
 class Search
 {
 public:
-    Search(std::string wantedName, const fs::path &root)
-        : m_wantedName(std::move(wantedName)), m_pending{root}
+    Search(const FileSystem &fileSystem, std::string wantedName, const fs::path &root)
+        : m_fileSystem(fileSystem), m_wantedName(std::move(wantedName)), m_pending{root}
     {}
 
     /// A file of the wanted name, else another entry of that name, else nothing.
-    std::optional<fs::path> run(const FileSystem &fileSystem)
+    std::optional<fs::path> run()
     {
         while (!m_file && !m_pending.empty()) {
-            const fs::path folder = std::move(m_pending.back());
-            m_pending.pop_back();
-            fileSystem.list(folder, [&](const std::string &name, EntryKind kind) {
+            const fs::path folder = std::move(m_pending.front());
+            m_pending.pop_front();
+            m_fileSystem.list(folder, [&](const std::string &name, EntryKind kind) {
                 return visit(folder, name, kind);
             });
         }
@@ -49,7 +49,7 @@ private:
         if (name.starts_with('.'))
             return Walk::goOn;
         if (kind == EntryKind::folder)
-            m_pending.push_back(folder / name);
+            addPending(folder / name);
         if (name != m_wantedName)
             return Walk::goOn;
         if (kind == EntryKind::file) {
@@ -61,8 +61,17 @@ private:
         return Walk::goOn;
     }
 
+    void addPending(fs::path folder)
+    {
+        if (m_fileSystem.mayHold(folder / m_wantedName))
+            m_pending.push_front(std::move(folder));
+        else
+            m_pending.push_back(std::move(folder));
+    }
+
+    const FileSystem &m_fileSystem;
     std::string m_wantedName;
-    std::vector<fs::path> m_pending;
+    std::deque<fs::path> m_pending;
     std::optional<fs::path> m_file;
     std::optional<fs::path> m_otherEntry;
 };
@@ -95,7 +104,7 @@ find(std::string_view sessionID, const std::filesystem::path &root, const FileSy
 {
     if (!isPlainFileName(sessionID))
         return std::nullopt;
-    return Search(std::string(sessionID) + ".jsonl", root).run(fileSystem);
+    return Search(fileSystem, std::string(sessionID) + ".jsonl", root).run();
 }
 
 } // namespace Loadwick::TranscriptLocator

@@ -60,7 +60,7 @@ TEST(InstructionCountSlowTest, aKilobyteOfATranscript)
     GeneratedFiles::transcript(folder.path() / "large", 5'000'000);
     const double cost = difference({"first-usage", folder.path() / "large"},
                                    {"first-usage", folder.path() / "small"});
-    EXPECT_LT(cost / 4'000, 2'980 * slack);
+    EXPECT_LT(cost / 4'000, 1'610 * slack);
 }
 
 TEST(InstructionCountSlowTest, aLineOfAnAnswer)

@@ -102,4 +102,13 @@ TEST(PosixFileSystemTest, findsNothingInAFolderThatMayNotBeRead)
     EXPECT_TRUE(entriesOf(folder.path() / "sub").empty());
 }
 
+TEST(PosixFileSystemTest, holdsWhatAnswersToAPath)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("inner/file", "");
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "inner/file"));
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "inner"));
+    EXPECT_FALSE(PosixFileSystem().mayHold(folder.path() / "other/file"));
+}
+
 } // namespace Loadwick

@@ -28,6 +28,7 @@ public:
     {
         std::this_thread::sleep_for(std::chrono::milliseconds(800));
     }
+    [[nodiscard]] bool mayHold(const std::filesystem::path &) const override { return true; }
 };
 
 struct Run

@@ -192,6 +192,30 @@ TEST(TranscriptLocatorTest, stopsAtTheFirstFile)
     EXPECT_EQ(fileSystem.listed(), (std::vector<fs::path>{"/r"}));
 }
 
+TEST(TranscriptLocatorTest, listsNextTheFolderThatAnswersToTheName)
+{
+    InMemoryFileSystem fileSystem;
+    for (const char *folder : {"/r/a", "/r/b", "/r/c", "/r/d"})
+        fileSystem.add(folder, EntryKind::folder);
+    fileSystem.add("/r/c/s.jsonl", EntryKind::file);
+    EXPECT_EQ(TranscriptLocator::find("s", "/r", fileSystem), "/r/c/s.jsonl");
+    EXPECT_EQ(fileSystem.listed(), (std::vector<fs::path>{"/r", "/r/c"}));
+}
+
+TEST(TranscriptLocatorTest, believesAListingAlone)
+{
+    // A disk without letter case answers to a name that stands in no folder.
+    class AnsweringFileSystem : public InMemoryFileSystem
+    {
+    public:
+        [[nodiscard]] bool mayHold(const fs::path &) const override { return true; }
+    };
+    AnsweringFileSystem fileSystem;
+    fileSystem.add("/r/a", EntryKind::folder);
+    fileSystem.add("/r/a/S.jsonl", EntryKind::file);
+    EXPECT_FALSE(TranscriptLocator::find("s", "/r", fileSystem));
+}
+
 TEST(TranscriptLocatorTest, listsNoHiddenFolder)
 {
     InMemoryFileSystem fileSystem;

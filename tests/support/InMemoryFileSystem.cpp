@@ -1,5 +1,7 @@
 #include "support/InMemoryFileSystem.h"
 
+#include <algorithm>
+
 namespace Loadwick {
 
 void InMemoryFileSystem::add(const std::filesystem::path &path, EntryKind kind)
@@ -16,6 +18,14 @@ void InMemoryFileSystem::list(const std::filesystem::path &folder, const Visitor
     for (const auto &[name, kind] : entries->second)
         if (visit(name, kind) == Walk::stop)
             return;
+}
+
+bool InMemoryFileSystem::mayHold(const std::filesystem::path &path) const
+{
+    const auto entries = m_entries.find(path.parent_path());
+    return entries != m_entries.end() &&
+           std::any_of(entries->second.begin(), entries->second.end(),
+                       [&](const auto &entry) { return entry.first == path.filename(); });
 }
 
 } // namespace Loadwick

@@ -18,6 +18,7 @@ public:
     void add(const std::filesystem::path &path, EntryKind kind);
 
     void list(const std::filesystem::path &folder, const Visitor &visit) const override;
+    [[nodiscard]] bool mayHold(const std::filesystem::path &path) const override;
 
     /// The folders that were listed, in order.
     [[nodiscard]] const std::vector<std::filesystem::path> &listed() const { return m_listed; }

@@ -38,4 +38,13 @@ TEST(InMemoryFileSystemTest, stopsWhenToldAndNotesTheListing)
     EXPECT_EQ(fileSystem.listed(), (std::vector<std::filesystem::path>{"/r", "/missing"}));
 }
 
+TEST(InMemoryFileSystemTest, holdsWhatWasAdded)
+{
+    InMemoryFileSystem fileSystem;
+    fileSystem.add("/r/a", EntryKind::file);
+    EXPECT_TRUE(fileSystem.mayHold("/r/a"));
+    EXPECT_FALSE(fileSystem.mayHold("/r/b"));
+    EXPECT_FALSE(fileSystem.mayHold("/a"));
+}
+
 } // namespace Loadwick
