@@ -35,6 +35,7 @@ bool isAbandonedName(std::string_view name, std::string_view prefix)
 /// first; a file system without locks counts as locked.
 bool lockOwn(int descriptor)
 {
+    // not taken: another program would have to come within this call
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return false;
     struct stat status = {};

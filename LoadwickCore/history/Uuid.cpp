@@ -39,6 +39,7 @@ Uuid::Uuid(const std::array<std::uint8_t, 16> &bytes) noexcept : m_bytes(bytes) 
 Uuid Uuid::random()
 {
     std::array<std::uint8_t, 16> bytes{};
+    // not taken: a running system has random bytes
     if (getentropy(bytes.data(), bytes.size()) != 0)
         fatalError("the system gives no random bytes");
     bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0F) | 0x40); // version 4

@@ -13,6 +13,20 @@
 
 namespace Loadwick {
 
+namespace {
+
+/// How a child ended, once it has; a child that is not ours ended by itself.
+siginfo_t reapedEnd(pid_t processID) noexcept
+{
+    siginfo_t found{};
+    found.si_code = CLD_EXITED;
+    while (waitid(P_PID, static_cast<id_t>(processID), &found, WEXITED) != 0 && errno == EINTR) {
+    }
+    return found;
+}
+
+} // namespace
+
 ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams &streams,
                                  std::shared_ptr<Shutdown> shutdown)
 {
@@ -21,6 +35,7 @@ ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams
     if (!entry.isAnnounced())
         refuse();
     ChildProcess child(spawnSessionLeader(command, streams), std::move(entry));
+    // not taken: the end would have to be requested while the child is being spawned
     if (!child.m_entry.enter(child.m_processID))
         refuse();
     return child;
@@ -41,6 +56,7 @@ ChildProcess::~ChildProcess()
     if (m_processID == 0)
         return;
     signalGroup(SIGKILL);
+    // not taken: what survives SIGKILL is stuck inside the system
     if (waitUntil(deadlineAfter(survivalSeconds)))
         reap();
     else
@@ -61,12 +77,9 @@ void ChildProcess::signalGroup(int number) const noexcept
 
 ChildProcess::Ending ChildProcess::reap()
 {
-    siginfo_t found{};
     m_entry.leave();
-    while (waitid(P_PID, static_cast<id_t>(m_processID), &found, WEXITED) != 0 && errno == EINTR) {
-    }
-    m_processID = 0;
-    return {found.si_status, found.si_code == CLD_KILLED || found.si_code == CLD_DUMPED};
+    const siginfo_t found = reapedEnd(std::exchange(m_processID, 0));
+    return {found.si_status, found.si_code != CLD_EXITED};
 }
 
 // The number travels alone: a thread that cannot be started must not leave an owner behind whose
@@ -76,10 +89,7 @@ void ChildProcess::abandon(ChildProcess child) noexcept
     const pid_t processID = std::exchange(child.m_processID, 0);
     try {
         child.m_entry.leave();
-        std::thread([processID] {
-            while (waitpid(processID, nullptr, 0) < 0 && errno == EINTR) {
-            }
-        }).detach();
+        std::thread([processID] { reapedEnd(processID); }).detach();
     } catch (const std::exception &) { // no thread, or no memory for one
         return;
     }

@@ -74,6 +74,7 @@ bool stopAtTimeout(const ChildProcess &child, const Request &request, const Outp
 
 ChildProcess::Ending endingOf(ChildProcess child)
 {
+    // not taken: what survives SIGKILL is stuck inside the system
     if (!child.isRunning())
         return child.reap();
     ChildProcess::abandon(std::move(child));

@@ -62,6 +62,7 @@ bool StreamReaders::finish(double graceSeconds)
 {
     m_shared->deadline.setExpiry(deadlineAfter(graceSeconds));
     const bool inTime = m_shared->group.waitUntil(deadlineAfter(graceSeconds + finalWaitSeconds));
+    // not taken: a reader stops at its deadline unless the system lets it stand for a second
     return inTime && !m_shared->box.readersDidTimeOut();
 }
 

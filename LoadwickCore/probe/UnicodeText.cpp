@@ -172,6 +172,7 @@ std::string lowercased(std::string_view text)
     UErrorCode status = U_ZERO_ERROR;
     icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<int>(text.size())),
                               sink, nullptr, status);
+    // not taken: every text has a lower case
     if (U_FAILURE(status))
         fatalError("ICU could not lower-case a text");
     return lower;
@@ -193,8 +194,10 @@ std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)
     utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
     const std::unique_ptr<icu::BreakIterator> boundaries(
         icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    // not taken: the library brings the rules of the root locale
     if (U_SUCCESS(status))
         boundaries->setText(&source, status);
+    // not taken: the same
     if (U_FAILURE(status))
         fatalError("ICU offers no character boundaries");
     std::int32_t end = 0;

@@ -20,6 +20,7 @@ std::unique_ptr<icu::DateFormat> makeFormat(std::string_view skeleton, const std
     std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createInstanceForSkeleton(
         icu::UnicodeString::fromUTF8({skeleton.data(), static_cast<int32_t>(skeleton.size())}),
         icu::Locale(locale.c_str()), status));
+    // not taken: what a locale lacks, the root locale has
     if (U_FAILURE(status) || !format)
         fatalError("ICU could not format a date");
     return format;

@@ -40,6 +40,7 @@ std::string grouped(std::int64_t number, const TextLocale &locale)
     const auto figure = formatterFor(locale.numbers).formatInt(number, status);
     std::string text;
     figure.toString(status).toUTF8String(text);
+    // not taken: every integer can be written in every locale
     if (U_FAILURE(status))
         fatalError("ICU could not format an integer");
     return text;

@@ -155,4 +155,15 @@ TEST_F(ScanModelObserversTest, mayForgetTheHistoryAsItGrows)
     EXPECT_TRUE(harness.recorded().empty());
 }
 
+TEST_F(ScanModelObserversTest, findNoScanToStartUntilTheOutcomeHolds)
+{
+    std::vector<bool> could;
+    model.state().observe(
+        {.willChange = [&](const ScanState &) { could.push_back(model.canScan()); },
+         .didChange = [&] { could.push_back(model.canScan()); }});
+    harness.scanOnce(model);
+    // Chosen, scanning, done.
+    EXPECT_EQ(could, (std::vector<bool>{true, true, false, false, false, true}));
+}
+
 } // namespace Loadwick
