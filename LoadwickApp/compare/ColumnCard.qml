@@ -37,7 +37,7 @@ ReportSurface {
             model: card.column
             viewport: card.viewport
             shortCount: card.compare.isLarge ? 0 : 60
-            rowHeight: 36
+            rowHeight: AppTheme.barRowHeight
             delegate: ColumnBar { }
             fill: card.fill
         }

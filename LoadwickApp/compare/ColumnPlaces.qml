@@ -9,7 +9,7 @@ Item {
     required property ComparePresenter compare
     required property Flickable viewport
 
-    readonly property int leastWidth: 290
+    readonly property int leastWidth: AppTheme.scaled(290)
     readonly property real gap: AppTheme.cardSpace
     readonly property int count: grid.compare.columnCount
     readonly property int fitting: Math.max(1, Math.floor((grid.width + grid.gap) / (grid.leastWidth + grid.gap)))

@@ -9,7 +9,7 @@ ReportSurface {
     required property ComparePresenter compare
     required property PageExport exporter
     required property Flickable viewport
-    readonly property real nameWidth: Math.round(Math.min(200, 0.28 * card.width))
+    readonly property real nameWidth: Math.round(Math.min(AppTheme.scaled(200), 0.28 * card.width))
     // No figure is wider than that of the longest bar.
     readonly property real valueWidth: Math.ceil(widest.advanceWidth)
 
@@ -24,7 +24,7 @@ ReportSurface {
         Accessible.name: qsTr("Category for category")
         model: card.compare.combined
         viewport: card.viewport
-        rowHeight: 24
+        rowHeight: AppTheme.combinedRowHeight
         delegate: CombinedRow { }
         nameWidth: card.nameWidth
         valueWidth: card.valueWidth

@@ -49,7 +49,7 @@ Item {
             color: AppTheme.bandShapes[row.index]
         }
         PlainLabel {
-            Layout.preferredWidth: 84
+            Layout.preferredWidth: AppTheme.scaled(84)
             text: row.title
             font: AppTheme.bodyStrongFont
             color: AppTheme.bandTexts[row.index]

@@ -13,8 +13,8 @@ RowLayout {
     property color dot: "transparent"
     property bool heading: false
     // Too little room for a source on one line.
-    readonly property bool narrow: cells.width < 760
-    readonly property real rowHeight: cells.narrow ? 44 : 32
+    readonly property bool narrow: cells.width < AppTheme.scaled(760)
+    readonly property real rowHeight: AppTheme.scaled(cells.narrow ? 44 : 32)
     readonly property font wordFont: cells.heading ? AppTheme.captionStrongFont : AppTheme.bodyFont
 
     spacing: AppTheme.cardSpace
@@ -43,23 +43,25 @@ RowLayout {
     PlainLabel {
         objectName: "tokens"
         // A figure of any length pushes the name aside.
-        Layout.preferredWidth: Math.max(88, implicitWidth)
+        Layout.preferredWidth: Math.max(AppTheme.scaled(88), implicitWidth)
         horizontalAlignment: Text.AlignRight
+        LayoutMirroring.enabled: false
         text: cells.tokens
         font: cells.wordFont
         secondary: cells.heading
     }
     PlainLabel {
         objectName: "share"
-        Layout.preferredWidth: 56
+        Layout.preferredWidth: AppTheme.scaled(56)
         horizontalAlignment: Text.AlignRight
+        LayoutMirroring.enabled: false
         text: cells.share
         font: cells.wordFont
         secondary: cells.heading
     }
     PlainLabel {
         objectName: "source"
-        Layout.preferredWidth: cells.narrow ? 168 : 288
+        Layout.preferredWidth: cells.narrow ? Math.min(AppTheme.scaled(168), 200) : AppTheme.scaled(288)
         Layout.leftMargin: AppTheme.smallSpace
         text: cells.source
         font: cells.heading ? AppTheme.captionStrongFont : AppTheme.captionFont

@@ -38,12 +38,16 @@ Item {
                 tabStop: false
             }
             PlainLabel {
+                id: bytes
+
                 objectName: "size"
                 Layout.fillWidth: true
                 text: row.size
                 font: AppTheme.captionFont
                 color: row.isReadable ? AppTheme.secondaryText : AppTheme.bandHeavyText
                 elide: Text.ElideRight
+
+                HoverTip { words: bytes.truncated ? bytes.text : "" }
             }
         }
         ColumnLayout {
@@ -59,6 +63,7 @@ Item {
                 text: row.amount
                 font: AppTheme.bodyStrongFont
                 horizontalAlignment: Text.AlignRight
+                LayoutMirroring.enabled: false
             }
             PlainLabel {
                 objectName: "share"
@@ -67,6 +72,7 @@ Item {
                 font: AppTheme.captionFont
                 secondary: true
                 horizontalAlignment: Text.AlignRight
+                LayoutMirroring.enabled: false
             }
         }
     }

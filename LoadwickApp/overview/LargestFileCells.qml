@@ -41,16 +41,18 @@ Item {
             font: cells.isHeader ? cells.cellFont : AppTheme.bodyStrongFont
             secondary: cells.isHeader
             horizontalAlignment: Text.AlignRight
+            LayoutMirroring.enabled: false
         }
         PlainLabel {
             objectName: "share"
-            Layout.preferredWidth: AppTheme.figureColumn
-            Layout.minimumWidth: AppTheme.figureColumn
-            Layout.maximumWidth: AppTheme.figureColumn
+            Layout.preferredWidth: AppTheme.shareColumn
+            Layout.minimumWidth: AppTheme.shareColumn
+            Layout.maximumWidth: AppTheme.shareColumn
             text: cells.share
             font: cells.cellFont
             secondary: true
             horizontalAlignment: Text.AlignRight
+            LayoutMirroring.enabled: false
         }
     }
 }

@@ -31,7 +31,7 @@ ReportSurface {
         LargestFileCells {
             objectName: "header"
             Layout.fillWidth: true
-            Layout.preferredHeight: 28
+            Layout.preferredHeight: AppTheme.scaled(28)
             isHeader: true
             file: section.largest.fileHeader
             tokens: section.largest.tokensHeader

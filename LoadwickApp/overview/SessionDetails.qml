@@ -23,7 +23,7 @@ ColumnLayout {
             spacing: AppTheme.smallSpace
 
             PlainLabel {
-                Layout.preferredWidth: 132
+                Layout.preferredWidth: AppTheme.scaled(132)
                 Layout.alignment: Qt.AlignTop
                 text: row.label
                 font: AppTheme.subheadlineStrongFont

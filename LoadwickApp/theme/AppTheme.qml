@@ -7,6 +7,12 @@ QtObject {
     readonly property bool dark: Appearance.dark
     readonly property bool reduceMotion: Appearance.reduceMotion
     readonly property bool moreContrast: Appearance.moreContrast
+    // How much larger than usual words are wanted; what holds words grows with them.
+    readonly property real textScale: Appearance.textScale
+
+    function scaled(pixels) {
+        return Math.round(pixels * textScale);
+    }
 
     // Grounds, from the back to the front.
     readonly property color window: dark ? "#1B1B1E" : "#F4F4F6"
@@ -65,20 +71,20 @@ QtObject {
 
     // The family is the application's own; its figures are all equally wide, which makes it the font
     // of numbers too. It has no medium weight: what should be medium is semibold.
-    readonly property font heroMetricFont: Qt.font({ pixelSize: 46, weight: Font.DemiBold, letterSpacing: -0.5 })
-    readonly property font largeTitleFont: Qt.font({ pixelSize: 28, weight: Font.DemiBold, letterSpacing: -0.3 })
-    readonly property font gaugeFont: Qt.font({ pixelSize: 24, weight: Font.DemiBold })
-    readonly property font title2Font: Qt.font({ pixelSize: 20, weight: Font.DemiBold })
-    readonly property font title3Font: Qt.font({ pixelSize: 17 })
-    readonly property font title3StrongFont: Qt.font({ pixelSize: 17, weight: Font.DemiBold })
-    readonly property font headlineFont: Qt.font({ pixelSize: 17, weight: Font.DemiBold })
-    readonly property font emphasisFont: Qt.font({ pixelSize: 15, weight: Font.DemiBold })
-    readonly property font bodyFont: Qt.font({ pixelSize: 13 })
-    readonly property font bodyStrongFont: Qt.font({ pixelSize: 13, weight: Font.DemiBold })
-    readonly property font subheadlineFont: Qt.font({ pixelSize: 13 })
-    readonly property font subheadlineStrongFont: Qt.font({ pixelSize: 13, weight: Font.DemiBold })
-    readonly property font captionFont: Qt.font({ pixelSize: 12 })
-    readonly property font captionStrongFont: Qt.font({ pixelSize: 12, weight: Font.DemiBold })
+    readonly property font heroMetricFont: Qt.font({ pixelSize: scaled(46), weight: Font.DemiBold, letterSpacing: -0.5 })
+    readonly property font largeTitleFont: Qt.font({ pixelSize: scaled(28), weight: Font.DemiBold, letterSpacing: -0.3 })
+    readonly property font gaugeFont: Qt.font({ pixelSize: scaled(24), weight: Font.DemiBold })
+    readonly property font title2Font: Qt.font({ pixelSize: scaled(20), weight: Font.DemiBold })
+    readonly property font title3Font: Qt.font({ pixelSize: scaled(17) })
+    readonly property font title3StrongFont: Qt.font({ pixelSize: scaled(17), weight: Font.DemiBold })
+    readonly property font headlineFont: Qt.font({ pixelSize: scaled(17), weight: Font.DemiBold })
+    readonly property font emphasisFont: Qt.font({ pixelSize: scaled(15), weight: Font.DemiBold })
+    readonly property font bodyFont: Qt.font({ pixelSize: scaled(13) })
+    readonly property font bodyStrongFont: Qt.font({ pixelSize: scaled(13), weight: Font.DemiBold })
+    readonly property font subheadlineFont: Qt.font({ pixelSize: scaled(13) })
+    readonly property font subheadlineStrongFont: Qt.font({ pixelSize: scaled(13), weight: Font.DemiBold })
+    readonly property font captionFont: Qt.font({ pixelSize: scaled(12) })
+    readonly property font captionStrongFont: Qt.font({ pixelSize: scaled(12), weight: Font.DemiBold })
 
     readonly property int hairline: 1
     readonly property int tightSpace: 4
@@ -91,31 +97,35 @@ QtObject {
     readonly property int contentWidth: 1040
     // Of the column that shows the pages; no page is laid out in less.
     readonly property int detailMinimumWidth: 480
-    readonly property int stateWidth: 420
+    readonly property int stateWidth: scaled(420)
     // What words beside a figure need before they go below it.
-    readonly property int copyMinimumWidth: 280
-    readonly property int controlHeight: 32
+    readonly property int copyMinimumWidth: scaled(280)
+    readonly property int controlHeight: scaled(32)
     readonly property int iconSize: 16
     readonly property int dotSize: 8
     // How far an arrow key scrolls.
     readonly property int scrollStep: 48
     // The column of trend pills: wide enough for a change of six figures.
-    readonly property int trendWidth: 104
+    readonly property int trendWidth: scaled(104)
     readonly property int treemapWidth: 608
-    // A column of figures, and one of figures with their unit.
-    readonly property int figureColumn: 72
-    readonly property int amountColumn: 144
-    readonly property int tableRowHeight: 36
-    readonly property int fileRowHeight: 52
+    // A column of figures, one of shares "of total", and one of figures with their unit.
+    readonly property int figureColumn: scaled(72)
+    readonly property int shareColumn: scaled(104)
+    readonly property int amountColumn: scaled(144)
+    readonly property int tableRowHeight: scaled(36)
+    readonly property int fileRowHeight: scaled(52)
     // One line of a list of scans or repositories.
-    readonly property int listRowHeight: 48
+    readonly property int listRowHeight: scaled(48)
+    // A bar below its name and figure, and one beside them.
+    readonly property int barRowHeight: scaled(36)
+    readonly property int combinedRowHeight: scaled(24)
 
     readonly property int meterHeight: 16
     readonly property int meterTickWidth: 2
     readonly property int gaugeSide: 100
     readonly property int gaugeArcSide: 90
 
-    readonly property int sheetWidth: 560
+    readonly property int sheetWidth: scaled(560)
     readonly property int illustrationHeight: 140
     // How far a step of the walk-through comes from the side.
     readonly property int stepSlide: 16

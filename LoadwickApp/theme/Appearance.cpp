@@ -47,6 +47,19 @@ QColor Appearance::accent() const
     return m_source.wishes().accent.value_or(QColor());
 }
 
+double Appearance::textScale() const
+{
+    return m_textScale.value_or(m_source.wishes().textScale());
+}
+
+void Appearance::setTextScale(double scale)
+{
+    if (m_textScale == scale)
+        return;
+    m_textScale = scale;
+    Q_EMIT changed();
+}
+
 QColor Appearance::readable(const QColor &accent, const QList<QColor> &grounds, double tint) const
 {
     return readableAccent(accent, grounds, static_cast<float>(tint));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QColor>
 #include <QList>
 #include <QObject>
@@ -14,7 +16,8 @@ class AppearanceSource;
 
 /// Dark or light, moving or still, quiet or strong, as QML sees it: one object for each engine. The
 /// answers come from the AppearanceSource among the engine's children, or from the palette if there
-/// is none. Tests and makers of pictures say what they want with `scheme`, `motion` and `contrast`.
+/// is none. Tests and makers of pictures say what they want with `scheme`, `motion`, `contrast` and
+/// `textScale`.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -26,6 +29,8 @@ class Appearance : public QObject
     /// The accent of the user's desktop as it was chosen; only where the desktop has one.
     Q_PROPERTY(bool hasAccent READ hasAccent NOTIFY changed)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
+    /// See DesktopWishes::textScale.
+    Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY changed)
     Q_PROPERTY(Scheme scheme READ scheme WRITE setScheme NOTIFY changed)
     Q_PROPERTY(Motion motion READ motion WRITE setMotion NOTIFY changed)
     Q_PROPERTY(Contrast contrast READ contrast WRITE setContrast NOTIFY changed)
@@ -62,6 +67,8 @@ public:
     [[nodiscard]] bool moreContrast() const;
     [[nodiscard]] bool hasAccent() const;
     [[nodiscard]] QColor accent() const;
+    [[nodiscard]] double textScale() const;
+    void setTextScale(double scale);
     [[nodiscard]] Scheme scheme() const { return m_scheme; }
     void setScheme(Scheme scheme);
     [[nodiscard]] Motion motion() const { return m_motion; }
@@ -81,6 +88,7 @@ private:
     Scheme m_scheme = DesktopScheme;
     Motion m_motion = DesktopMotion;
     Contrast m_contrast = DesktopContrast;
+    std::optional<double> m_textScale; ///< absent: the desktop's
 };
 
 } // namespace Loadwick

@@ -1,5 +1,7 @@
 #include "theme/DesktopWishes.h"
 
+#include <algorithm>
+
 namespace Loadwick {
 
 DesktopWishes DesktopWishes::orElse(const DesktopWishes &other) const
@@ -7,7 +9,18 @@ DesktopWishes DesktopWishes::orElse(const DesktopWishes &other) const
     return {.dark = dark ? dark : other.dark,
             .reducedMotion = reducedMotion ? reducedMotion : other.reducedMotion,
             .moreContrast = moreContrast ? moreContrast : other.moreContrast,
-            .accent = accent ? accent : other.accent};
+            .accent = accent ? accent : other.accent,
+            .fontPoints = fontPoints ? fontPoints : other.fontPoints,
+            .textFactor = textFactor ? textFactor : other.textFactor};
+}
+
+double DesktopWishes::textScale() const
+{
+    constexpr double usualPoints = 10;
+    constexpr double mostUsualPoints = 11;
+    const double points = fontPoints.value_or(usualPoints);
+    const double ofFont = points > mostUsualPoints ? points / usualPoints : 1.0;
+    return std::clamp(ofFont * textFactor.value_or(1.0), 1.0, largestTextScale);
 }
 
 } // namespace Loadwick

@@ -49,6 +49,13 @@ std::optional<bool> isDark(const Entries &entries, const QByteArray &scheme)
     return scheme.isEmpty() ? std::nullopt : std::optional(scheme.toLower().contains("dark"));
 }
 
+/// "family,points,…"
+std::optional<double> points(const QByteArray &font)
+{
+    const double size = font.split(',').value(1).trimmed().toDouble();
+    return size > 0 ? std::optional(size) : std::nullopt;
+}
+
 std::optional<bool> isStill(const QByteArray &factor)
 {
     bool isNumber = false;
@@ -66,7 +73,8 @@ DesktopWishes wishes(std::string_view text)
     return {.dark = isDark(found, scheme),
             .reducedMotion = isStill(found.value("KDE/AnimationDurationFactor")),
             .moreContrast = hasStrongScheme ? std::optional(true) : std::nullopt,
-            .accent = color(found.value("General/AccentColor"))};
+            .accent = color(found.value("General/AccentColor")),
+            .fontPoints = points(found.value("General/font"))};
 }
 
 } // namespace Loadwick::KdeGlobals

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include <QDBusArgument>
 #include <QDBusVariant>
@@ -13,13 +14,15 @@ constexpr auto commonSpace = "org.freedesktop.appearance";
 constexpr auto gnomeSpace = "org.gnome.desktop.interface";
 constexpr auto gnomeAccessSpace = "org.gnome.desktop.a11y.interface";
 
-constexpr std::array<PortalAnswers::Key, 7> allKeys = {{
+constexpr std::array<PortalAnswers::Key, 9> allKeys = {{
     {commonSpace, "color-scheme"},
     {commonSpace, "contrast"},
     {commonSpace, "reduced-motion"},
     {commonSpace, "accent-color"},
     {gnomeSpace, "color-scheme"},
     {gnomeSpace, "enable-animations"},
+    {gnomeSpace, "font-name"},
+    {gnomeSpace, "text-scaling-factor"},
     {gnomeAccessSpace, "high-contrast"},
 }};
 
@@ -55,6 +58,23 @@ std::optional<bool> darkOfWord(const QVariant &value)
     if (value.toString() == QLatin1String("prefer-dark"))
         return true;
     return value.toString() == QLatin1String("prefer-light") ? std::optional(false) : std::nullopt;
+}
+
+/// Nobody reads words of no size.
+std::optional<double> positive(double number)
+{
+    return std::isfinite(number) && number > 0 ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> factor(const QVariant &value)
+{
+    return value.typeId() == QMetaType::Double ? positive(value.toDouble()) : std::nullopt;
+}
+
+/// "Cantarell 11": the points come last.
+std::optional<double> pointsOfFont(const QVariant &value)
+{
+    return positive(value.toString().section(QLatin1Char(' '), -1).toDouble());
 }
 
 /// Red, green and blue of sRGB; parts outside of 0 to 1 mean that none is set.
@@ -112,6 +132,10 @@ void PortalAnswers::takeGnome(const QString &name, const QVariant &value)
     } else if (name == QLatin1String("enable-animations")) {
         const std::optional<bool> animated = flag(value);
         m_gnome.reducedMotion = animated ? std::optional(!*animated) : std::nullopt;
+    } else if (name == QLatin1String("font-name")) {
+        m_gnome.fontPoints = pointsOfFont(value);
+    } else if (name == QLatin1String("text-scaling-factor")) {
+        m_gnome.textFactor = factor(value);
     }
 }
 

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void shapesOfABandAndItsTextDiffer();
     void thereAreFiveChartColors();
     void theHeroMetricIsLargeAndSemibold();
+    void wordsAndWhatHoldsThemGrowTogether();
     void nothingMovesWhenMotionIsUnwanted();
     void withMoreContrastLinesAndQuietWordsStandOut_data() { schemes(); }
     void withMoreContrastLinesAndQuietWordsStandOut();
@@ -234,6 +235,17 @@ void AppThemeTest::theHeroMetricIsLargeAndSemibold()
     const QFont hero = value(QStringLiteral("heroMetricFont")).value<QFont>();
     QCOMPARE(hero.pixelSize(), 46);
     QCOMPARE(hero.weight(), QFont::DemiBold);
+}
+
+void AppThemeTest::wordsAndWhatHoldsThemGrowTogether()
+{
+    m_desktop->wish({.fontPoints = 14});
+    QCOMPARE(value(QStringLiteral("bodyFont")).value<QFont>().pixelSize(), 18);
+    QCOMPARE(value(QStringLiteral("heroMetricFont")).value<QFont>().pixelSize(), 64);
+    QCOMPARE(value(QStringLiteral("controlHeight")).toInt(), 45);
+    QCOMPARE(value(QStringLiteral("cardSpace")).toInt(), 16);
+    appearance().setTextScale(1);
+    QCOMPARE(value(QStringLiteral("bodyFont")).value<QFont>().pixelSize(), 13);
 }
 
 void AppThemeTest::nothingMovesWhenMotionIsUnwanted()

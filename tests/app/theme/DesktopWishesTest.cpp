@@ -32,6 +32,34 @@ private Q_SLOTS:
     {
         QVERIFY(DesktopWishes{.dark = false} != DesktopWishes());
     }
+
+    void textGrowsWithTheDesktops_data()
+    {
+        QTest::addColumn<double>("points");
+        QTest::addColumn<double>("factor");
+        QTest::addColumn<double>("scale");
+        QTest::newRow("small") << 8.0 << 1.0 << 1.0;
+        QTest::newRow("usual") << 10.0 << 1.0 << 1.0;
+        QTest::newRow("as GNOME comes") << 11.0 << 1.0 << 1.0;
+        QTest::newRow("large") << 12.0 << 1.0 << 1.2;
+        QTest::newRow("fourteen points") << 14.0 << 1.0 << 1.4;
+        QTest::newRow("beyond") << 40.0 << 1.0 << 1.4;
+        QTest::newRow("by a factor") << 10.0 << 1.25 << 1.25;
+        QTest::newRow("by both") << 12.0 << 1.1 << 1.32;
+        QTest::newRow("a factor beyond") << 10.0 << 3.0 << 1.4;
+        QTest::newRow("made smaller") << 10.0 << 0.5 << 1.0;
+    }
+
+    void textGrowsWithTheDesktops()
+    {
+        QFETCH(const double, points);
+        QFETCH(const double, factor);
+        QFETCH(const double, scale);
+        const DesktopWishes wishes{.fontPoints = points, .textFactor = factor};
+        QCOMPARE(wishes.textScale(), scale);
+    }
+
+    void textStaysAsItIsWhereNothingWasSaid() { QCOMPARE(DesktopWishes().textScale(), 1.0); }
 };
 
 const RegisteredTest<DesktopWishesTest> registered("DesktopWishes");

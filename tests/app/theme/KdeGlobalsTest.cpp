@@ -60,6 +60,24 @@ private Q_SLOTS:
         QTEST(read.reducedMotion ? int(*read.reducedMotion) : -1, "reduced");
     }
 
+    void theGeneralFontTellsItsSize_data()
+    {
+        QTest::addColumn<QByteArray>("font");
+        QTest::addColumn<double>("points");
+        QTest::newRow("as it is written") << QByteArray("Noto Sans,14,-1,5,50,0,0,0,0,0") << 14.0;
+        QTest::newRow("parts of a point") << QByteArray("Noto Sans, 10.5,-1") << 10.5;
+        QTest::newRow("in pixels") << QByteArray("Noto Sans,-1,18,5") << -1.0;
+        QTest::newRow("a name alone") << QByteArray("Noto Sans") << -1.0;
+        QTest::newRow("no number") << QByteArray("Noto Sans,large") << -1.0;
+    }
+
+    void theGeneralFontTellsItsSize()
+    {
+        QFETCH(const QByteArray, font);
+        const auto read = KdeGlobals::wishes("[General]\nfont=" + font.toStdString() + "\n");
+        QTEST(read.fontPoints.value_or(-1), "points");
+    }
+
     void aHighContrastSchemeAsksForContrast()
     {
         const auto read = KdeGlobals::wishes("[General]\nColorScheme=BreezeHighContrast\n");

@@ -40,6 +40,8 @@ private Q_SLOTS:
     void wrappedValuesAreUnwrapped();
     void otherKeysSayNothing();
     void anAccentThatIsNoneSaysNothing();
+    void textSize_data();
+    void textSize();
     void everyKeyIsAskedFor();
 };
 
@@ -181,6 +183,39 @@ void PortalAnswersTest::anAccentThatIsNoneSaysNothing()
     QVERIFY(!answers.wishes().accent);
 }
 
+void PortalAnswersTest::textSize_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<double>("points");
+    QTest::addColumn<double>("factor");
+    const auto font = QStringLiteral("font-name");
+    const auto scaling = QStringLiteral("text-scaling-factor");
+    QTest::newRow("a font") << font << QVariant(QStringLiteral("Cantarell 11")) << 11.0 << -1.0;
+    QTest::newRow("a font of two words")
+        << font << QVariant(QStringLiteral("Noto Sans Bold 14")) << 14.0 << -1.0;
+    QTest::newRow("parts of a point")
+        << font << QVariant(QStringLiteral("Cantarell 10.5")) << 10.5 << -1.0;
+    QTest::newRow("no size") << font << QVariant(QStringLiteral("Cantarell")) << -1.0 << -1.0;
+    QTest::newRow("no font") << font << QVariant(QString()) << -1.0 << -1.0;
+    QTest::newRow("below nothing")
+        << font << QVariant(QStringLiteral("Cantarell -3")) << -1.0 << -1.0;
+    QTest::newRow("larger") << scaling << QVariant(1.25) << -1.0 << 1.25;
+    QTest::newRow("a word") << scaling << QVariant(QStringLiteral("1.25")) << -1.0 << -1.0;
+    QTest::newRow("nothing") << scaling << QVariant(0.0) << -1.0 << -1.0;
+    QTest::newRow("no number") << scaling << QVariant(qQNaN()) << -1.0 << -1.0;
+}
+
+void PortalAnswersTest::textSize()
+{
+    QFETCH(QString, name);
+    QFETCH(QVariant, value);
+    PortalAnswers answers;
+    answers.take(gnome, name, value);
+    QTEST(answers.wishes().fontPoints.value_or(-1), "points");
+    QTEST(answers.wishes().textFactor.value_or(-1), "factor");
+}
+
 void PortalAnswersTest::everyKeyIsAskedFor()
 {
     QStringList keys;
@@ -193,6 +228,8 @@ void PortalAnswersTest::everyKeyIsAskedFor()
                                 QStringLiteral("org.freedesktop.appearance accent-color"),
                                 QStringLiteral("org.gnome.desktop.interface color-scheme"),
                                 QStringLiteral("org.gnome.desktop.interface enable-animations"),
+                                QStringLiteral("org.gnome.desktop.interface font-name"),
+                                QStringLiteral("org.gnome.desktop.interface text-scaling-factor"),
                                 QStringLiteral("org.gnome.desktop.a11y.interface high-contrast")}));
 }
 
