@@ -35,7 +35,7 @@ ColumnLayout {
             Symbol {
                 name: "chevron.right"
                 tint: AppTheme.secondaryText
-                angle: section.isExpanded ? 90 : 0
+                angle: section.isExpanded ? 90 : head.mirrored ? 180 : 0
                 // Beside the title, not beside the middle of title and detail.
                 Layout.alignment: section.detail.length > 0 ? Qt.AlignTop : Qt.AlignVCenter
                 Layout.topMargin: section.detail.length > 0 ? AppTheme.tightSpace : 0

@@ -10,5 +10,7 @@ Label {
     font: AppTheme.bodyFont
     color: secondary ? AppTheme.secondaryText : AppTheme.text
     linkColor: color
+    // Where lines begin is the window's question, not that of the words in them.
+    horizontalAlignment: Text.AlignLeft
     lineHeight: 1.0
 }

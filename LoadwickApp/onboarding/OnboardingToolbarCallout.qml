@@ -13,6 +13,9 @@ Item {
     implicitHeight: bar.height + pointer.height + 20
     onIsBobbingChanged: if (!callout.isBobbing) callout.bob = 0
     Accessible.ignored: true
+    // The toolbar's end is the same in every language.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
 
     Rectangle {
         id: bar

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLocale>
 
 #include "shell/AccessiblePress.h"
 #include "shell/ModalGround.h"
@@ -19,6 +20,9 @@ void prepare()
 
 void apply(QGuiApplication &application)
 {
+    // Qt would go by the language of its own translations, of which there are none.
+    if (QLocale(QLocale().uiLanguages().value(0)).textDirection() == Qt::RightToLeft)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     ApplicationStyle::applyFont(application);
     // For the desktops that do not take it from the desktop entry.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Loadwick/application.png")));

@@ -10,6 +10,9 @@ Item {
     required property RecentRepositories recent
 
     implicitHeight: AppTheme.controlHeight + 2 * AppTheme.smallSpace
+    // At the top right in every language.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
 
     RowLayout {
         anchors { right: parent.right; rightMargin: AppTheme.cardSpace; verticalCenter: parent.verticalCenter }

@@ -21,6 +21,9 @@ ApplicationWindow {
     minimumWidth: 960
     minimumHeight: 640
     color: AppTheme.window
+    font: AppTheme.bodyFont
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     ModalGround {
         id: ground

@@ -26,7 +26,7 @@ PageAppear {
         ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
         ScrollBar.vertical: ThinScrollBar {
             parent: scroller
-            x: scroller.width - width
+            x: scroller.mirrored ? 0 : scroller.width - width
             height: scroller.height
         }
 

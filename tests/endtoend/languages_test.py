@@ -1,0 +1,64 @@
+"""The window in other languages: where it begins, and which words are written how."""
+
+from __future__ import annotations
+
+from typing import Any
+
+from accessible_tree import Atspi
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from program import Program, environment_for
+
+NOTHING_CHOSEN = "No repository selected"
+
+
+def place(item: Any) -> Any:
+    """Where the object is on the screen."""
+    return Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
+
+
+class LanguagesTest(EndToEndCase):
+    """Programs that find another language in their environment."""
+
+    def open_in(self, language: str, *options: str) -> Program:
+        """Opens the window in that language; it is closed at the end of the test."""
+        command = [str(programs() / "loadwick-endtoend"), *options]
+        environment = environment_for(self.home.path) | {"LC_ALL": f"{language}.UTF-8"}
+        program = Program(command, environment)
+        self.addCleanup(program.kill)
+        program.window.wait_for(CHOOSE, "push button")
+        return program
+
+    def start_of_words(self, program: Program) -> int:
+        """How far from the window's left edge the sidebar's first words may begin."""
+        words = place(program.window.wait_for(NOTHING_CHOSEN, "label"))
+        return int(words.x - place(program.window.wait_for("Loadwick", "frame")).x)
+
+    def test_the_window_follows_the_direction_of_writing(self) -> None:
+        english = self.start_of_words(self.open_in("en_US"))
+        self.assertLess(self.start_of_words(self.open_in("ar_EG")), english)
+        self.assertLess(self.start_of_words(self.open_in("en_US", "-reverse")), english)
+
+    def test_the_two_commands_stay_at_the_top_right(self) -> None:
+        for language in ("en_US", "ar_EG"):
+            with self.subTest(language):
+                window = self.open_in(language).window
+                frame = place(window.wait_for("Loadwick", "frame"))
+                choose = place(window.wait_for(CHOOSE, "push button"))
+                scan = place(window.wait_for("Scan", "push button"))
+                self.assertLess(choose.x, scan.x)
+                self.assertLess(frame.x + frame.width - (scan.x + scan.width), 40)
+                self.assertLess(scan.y - frame.y, 40)
+
+    def test_figures_are_written_as_the_language_writes_them(self) -> None:
+        repository = self.home.make_repository("webshop")
+        for language, total in (("de_DE", "42.318"), ("hi_IN", "42,318"), ("ar_EG", "٤٢٬٣١٨")):
+            with self.subTest(language):
+                program = self.open_in(language)
+                self.choose(program, repository)
+                program.window.press(SCAN)
+                program.window.wait_for("Scan complete")
+                program.window.wait_for(total)
+
+
+if __name__ == "__main__":
+    main()
