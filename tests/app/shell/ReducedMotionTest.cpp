@@ -1,0 +1,217 @@
+// Whether anything moves in the running window, seen frame by frame.
+#include <functional>
+
+#include <QTest>
+
+#include "support/FakeCompletionStore.h"
+#include "support/MotionSampler.h"
+#include "support/SampleHistories.h"
+#include "support/SampleScans.h"
+#include "support/TestRegistry.h"
+#include "support/VisualItems.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+// The charts take longest to arrive; a little under half of that shows whether they do.
+constexpr int stretchMilliseconds = 350;
+constexpr int pointedMilliseconds = 70;
+
+} // namespace
+
+class ReducedMotionTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void nothingMovesWhereMotionIsUnwanted_data() { changes(); }
+    void nothingMovesWhereMotionIsUnwanted();
+    void somethingMovesWhereMotionIsWanted_data() { changes(); }
+    void somethingMovesWhereMotionIsWanted();
+    void theSheetOnlyFadesWhereMotionIsUnwanted();
+    void theSheetMovesWhereMotionIsWanted();
+    void aScanStopsTurningOnceMotionIsUnwanted();
+
+private:
+    using Change = void (ReducedMotionTest::*)();
+
+    static void changes();
+    void open(Appearance::Motion motion, std::shared_ptr<FakeCompletionStore> store = {});
+    void openSheet(Appearance::Motion motion);
+    void settleAndBegin();
+    void rest();
+    QStringList movingDuring(Change change);
+
+    void showResult();
+    void showPages();
+    void scan();
+    void pointAtCards();
+    void openSections();
+    void walkThroughSheet();
+
+    std::unique_ptr<WindowFixture> m_window;
+    std::unique_ptr<MotionSampler> m_sampler;
+    QStringList m_moving; ///< in the stretches so far
+};
+
+void ReducedMotionTest::cleanup()
+{
+    m_sampler.reset();
+    m_window.reset();
+}
+
+void ReducedMotionTest::changes()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("a result arrives") << &ReducedMotionTest::showResult;
+    QTest::newRow("pages change") << &ReducedMotionTest::showPages;
+    QTest::newRow("a scan runs") << &ReducedMotionTest::scan;
+    QTest::newRow("the pointer crosses the cards") << &ReducedMotionTest::pointAtCards;
+    QTest::newRow("sections open") << &ReducedMotionTest::openSections;
+}
+
+void ReducedMotionTest::nothingMovesWhereMotionIsUnwanted()
+{
+    QFETCH(const Change, change);
+    open(Appearance::Reduced);
+    QCOMPARE(movingDuring(change).join(u' '), QString());
+}
+
+void ReducedMotionTest::somethingMovesWhereMotionIsWanted()
+{
+    QFETCH(const Change, change);
+    open(Appearance::Full);
+    QVERIFY(!movingDuring(change).isEmpty());
+}
+
+void ReducedMotionTest::theSheetOnlyFadesWhereMotionIsUnwanted()
+{
+    openSheet(Appearance::Reduced);
+    QStringList moving = movingDuring(&ReducedMotionTest::walkThroughSheet);
+    QVERIFY(moving.contains(QStringLiteral("OnboardingStepContent.opacity")));
+    // How strongly a dot stands out is what its opacity follows.
+    moving.removeIf([](const QString &name) {
+        return name.endsWith(QStringLiteral(".opacity")) ||
+               name == QStringLiteral("OnboardingStepDot.emphasis");
+    });
+    QCOMPARE(moving.join(u' '), QString());
+}
+
+void ReducedMotionTest::theSheetMovesWhereMotionIsWanted()
+{
+    openSheet(Appearance::Full);
+    const QStringList moving = movingDuring(&ReducedMotionTest::walkThroughSheet);
+    for (const char *name : {"OnboardingStepContent.opacity", "OnboardingStepDot.emphasis",
+                             "OnboardingLegendRow.rise", "OnboardingToolbarCallout.bob"})
+        QVERIFY2(moving.contains(QLatin1String(name)), name);
+}
+
+void ReducedMotionTest::aScanStopsTurningOnceMotionIsUnwanted()
+{
+    open(Appearance::Full);
+    QVERIFY(!movingDuring(&ReducedMotionTest::scan).isEmpty());
+    m_window->appearance().setMotion(Appearance::Reduced);
+    QCOMPARE(movingDuring(&ReducedMotionTest::rest).join(u' '), QString());
+}
+
+void ReducedMotionTest::open(Appearance::Motion motion, std::shared_ptr<FakeCompletionStore> store)
+{
+    m_window = std::make_unique<WindowFixture>(std::move(store));
+    m_window->appearance().setMotion(motion);
+    m_window->loadwick().model().history().set(SampleHistories::ofSize(12, 3, 6));
+    m_window->loadwick().model().select(RepoSelection::fromUrl("/home/someone/shop"));
+    m_sampler = std::make_unique<MotionSampler>(m_window->loadwick().window());
+    QTest::qWait(stretchMilliseconds);
+}
+
+void ReducedMotionTest::openSheet(Appearance::Motion motion)
+{
+    open(motion, std::make_shared<FakeCompletionStore>());
+    m_window->askForFirstLaunch();
+    QTRY_VERIFY(m_window->shows(QStringLiteral("Next")));
+    QTest::qWait(stretchMilliseconds);
+}
+
+// What the page was put into is not looked at.
+void ReducedMotionTest::settleAndBegin()
+{
+    QTest::qWait(2 * stretchMilliseconds);
+    m_sampler->begin();
+}
+
+// A stretch ends here: in the next one, what is laid out anew may settle again.
+void ReducedMotionTest::rest()
+{
+    QTest::qWait(stretchMilliseconds);
+    m_moving += m_sampler->moving();
+    m_sampler->begin();
+}
+
+QStringList ReducedMotionTest::movingDuring(Change change)
+{
+    m_moving.clear();
+    m_sampler->begin();
+    (this->*change)();
+    rest();
+    m_moving.removeDuplicates();
+    return m_moving;
+}
+
+void ReducedMotionTest::showResult()
+{
+    m_window->loadwick().model().state().set(ScanState::result(SampleScans::heavy().report()));
+}
+
+void ReducedMotionTest::showPages()
+{
+    for (const Qt::Key page : {Qt::Key_2, Qt::Key_3, Qt::Key_1}) {
+        m_window->press(page, Qt::ControlModifier);
+        rest();
+    }
+}
+
+void ReducedMotionTest::scan()
+{
+    m_window->loadwick().model().state().set(ScanState::scanning());
+}
+
+void ReducedMotionTest::pointAtCards()
+{
+    showResult();
+    settleAndBegin();
+    QQuickWindow &window = m_window->loadwick().window();
+    for (const QQuickItem *border : visibleItems(window.contentItem(), QStringLiteral("border"))) {
+        const QPoint corner = border->mapToScene(QPointF(4, 20)).toPoint();
+        if (corner.y() > window.height())
+            continue;
+        QTest::mouseMove(&window, corner);
+        QTest::qWait(pointedMilliseconds);
+    }
+}
+
+void ReducedMotionTest::openSections()
+{
+    showResult();
+    settleAndBegin();
+    const QQuickItem &root = *m_window->loadwick().window().contentItem();
+    for (QQuickItem *item : shownItems(root)) {
+        if (item->property("isExpanded").isValid())
+            item->setProperty("isExpanded", true);
+    }
+}
+
+void ReducedMotionTest::walkThroughSheet()
+{
+    for (int step = 0; step < m_window->loadwick().onboarding().stepCount(); ++step) {
+        m_window->press(Qt::Key_Return);
+        rest();
+    }
+}
+
+const RegisteredTest<ReducedMotionTest> registered("ReducedMotion");
+
+} // namespace Loadwick
+
+#include "ReducedMotionTest.moc"

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QStringList>
+
+class QQuickItem;
+
+namespace Loadwick {
+
+/// Looks at everything in a window before each of its frames: where each item is, how large, turned
+/// and opaque, and the numbers that the module's own types add, such as how far a chart has grown.
+/// What has values between its first and its last within one stretch of frames moves. Only what is
+/// laid out anew may take some frames to settle.
+class MotionSampler : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window outlives this object.
+    explicit MotionSampler(QQuickWindow &window);
+
+    /// Begins a stretch: what was seen before counts no more.
+    void begin();
+
+    /// Frames seen since then.
+    [[nodiscard]] int frameCount() const { return m_frameCount; }
+
+    /// "Type.property" of all that moved.
+    [[nodiscard]] QStringList moving() const;
+
+private:
+    struct Trace
+    {
+        QString name;
+        double last = 0;
+        int steps = 0;     ///< frames in which it had another value than before
+        int mostSteps = 0; ///< that it may take and stand still
+    };
+
+    void sample();
+    void sampleItem(const QQuickItem &item);
+    void sampleOwnNumbers(const QQuickItem &item);
+    void note(const QQuickItem &item, const char *property, double value);
+
+    QQuickWindow &m_window;
+    QHash<std::pair<const QQuickItem *, QByteArray>, Trace> m_traces;
+    int m_frameCount = 0;
+};
+
+} // namespace Loadwick
