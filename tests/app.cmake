@@ -61,6 +61,14 @@ endfunction()
 loadwick_qt_tests()
 loadwick_quick_tests()
 
+loadwick_app_test("shell/AccessMatrixAtTwiceTheScale" app_tests AccessMatrix)
+set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/AccessMatrixAtTwiceTheScale"
+             APPEND PROPERTY ENVIRONMENT_MODIFICATION QT_SCALE_FACTOR=set:2)
+# They wait for what arrives softly.
+foreach(test IN ITEMS AccessMatrix AccessMatrixAtTwiceTheScale ReducedMotion)
+    set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" APPEND PROPERTY LABELS slow)
+endforeach()
+
 # Looks at the sources, so one build runs it for all.
 set(check "${PROJECT_SOURCE_DIR}/tools/checks/plain-text")
 add_test(NAME app/lint-plain-text COMMAND "${check}")

@@ -16,6 +16,19 @@ QList<QQuickItem *> visibleItems(QQuickItem *root, const QString &objectName)
     return found;
 }
 
+QList<QQuickItem *> shownItems(const QQuickItem &root)
+{
+    QList<QQuickItem *> found;
+    const QList<QQuickItem *> children = root.childItems();
+    for (QQuickItem *child : children) {
+        if (!child->isVisible() || child->opacity() <= 0)
+            continue;
+        found.append(child);
+        found.append(shownItems(*child));
+    }
+    return found;
+}
+
 qreal rightEdge(const QQuickItem *item)
 {
     return item->mapToScene(QPointF(item->width(), 0)).x();

@@ -12,6 +12,7 @@
 #include "support/FakeProbe.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TemporaryFolder.h"
+#include "theme/Appearance.h"
 
 class QAccessibleInterface;
 
@@ -23,13 +24,15 @@ class WindowFixture
 {
 public:
     /// Without a store nobody is walked through.
-    explicit WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore = {});
+    explicit WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore = {},
+                           const TextLocale &locale = {});
     ~WindowFixture();
 
     WindowFixture(const WindowFixture &) = delete;
     WindowFixture &operator=(const WindowFixture &) = delete;
 
     [[nodiscard]] LoadwickWindow &loadwick() noexcept { return *m_loadwick; }
+    [[nodiscard]] Appearance &appearance() const;
     [[nodiscard]] FakeProbe &probe() noexcept { return *m_probe; }
     [[nodiscard]] FakeInstructionScanner &scanner() noexcept { return *m_scanner; }
     [[nodiscard]] FakeFolderChooser &chooser() noexcept { return *m_chooser; }

@@ -1,0 +1,271 @@
+// Every page in every look, moving and still, from left to right and from right to left: nothing is
+// clipped and everything has a name. CTest runs it a second time at twice the scale.
+#include <array>
+
+#include <QGuiApplication>
+#include <QTest>
+
+#include "support/FakeCompletionStore.h"
+#include "support/LayoutAudit.h"
+#include "support/SampleHistories.h"
+#include "support/SampleScans.h"
+#include "support/TestRegistry.h"
+#include "support/VisualItems.h"
+#include "support/WindowFixture.h"
+#include "theme/DesktopWishes.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr QSize smallest(960, 640);
+constexpr int arrivalMilliseconds = 450; // of a page, of a step, of a chart
+constexpr int settlingMilliseconds = 2'000;
+
+constexpr qsizetype leastTexts = 9; // of a failed scan, with the sidebar
+
+struct Look
+{
+    Appearance::Scheme scheme;
+    Appearance::Contrast contrast;
+};
+constexpr std::array<Look, 4> looks{{{Appearance::Light, Appearance::Standard},
+                                     {Appearance::Light, Appearance::More},
+                                     {Appearance::Dark, Appearance::Standard},
+                                     {Appearance::Dark, Appearance::More}}};
+
+qsizetype textCount(QQuickWindow &window)
+{
+    QList<QQuickItem *> items = shownItems(*window.contentItem());
+    items.removeIf([](const QQuickItem *item) { return !item->inherits("QQuickText"); });
+    return items.size();
+}
+
+} // namespace
+
+class AccessMatrixTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void everyPageIsWholeAndNamed_data();
+    void everyPageIsWholeAndNamed();
+    void theWalkThroughIsWholeAndNamed_data() { everyPageIsWholeAndNamed_data(); }
+    void theWalkThroughIsWholeAndNamed();
+    void everyPageIsWholeInTheLargestText_data() { directions(); }
+    void everyPageIsWholeInTheLargestText();
+    void theWalkThroughIsWholeInTheLargestText_data() { directions(); }
+    void theWalkThroughIsWholeInTheLargestText();
+    void theFiguresOfEveryLocaleFit_data();
+    void theFiguresOfEveryLocaleFit();
+
+private:
+    static void directions();
+    void open(Qt::LayoutDirection direction, Appearance::Motion motion,
+              const std::string &locale = "en_US");
+    void openWalkThrough(Qt::LayoutDirection direction, Appearance::Motion motion);
+    void use(const Look &look);
+    void visitPages();
+    void visitStates();
+    void visitFullPages();
+    void visitSteps();
+    void expandSections();
+    void arrive();
+    void verify();
+
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+void AccessMatrixTest::cleanup()
+{
+    m_window.reset();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+void AccessMatrixTest::directions()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+void AccessMatrixTest::everyPageIsWholeAndNamed_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<Appearance::Motion>("motion");
+    QTest::newRow("left to right, moving") << Qt::LeftToRight << Appearance::Full;
+    QTest::newRow("left to right, still") << Qt::LeftToRight << Appearance::Reduced;
+    QTest::newRow("right to left, moving") << Qt::RightToLeft << Appearance::Full;
+    QTest::newRow("right to left, still") << Qt::RightToLeft << Appearance::Reduced;
+}
+
+void AccessMatrixTest::everyPageIsWholeAndNamed()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const Appearance::Motion, motion);
+    open(direction, motion);
+    visitStates();
+    visitFullPages();
+    for (const Look &look : looks) {
+        use(look);
+        visitPages();
+    }
+}
+
+void AccessMatrixTest::theWalkThroughIsWholeAndNamed()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const Appearance::Motion, motion);
+    openWalkThrough(direction, motion);
+    visitSteps();
+}
+
+void AccessMatrixTest::everyPageIsWholeInTheLargestText()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    open(direction, Appearance::Reduced);
+    m_window->appearance().setTextScale(DesktopWishes::largestTextScale);
+    visitStates();
+    visitFullPages();
+}
+
+void AccessMatrixTest::theWalkThroughIsWholeInTheLargestText()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    openWalkThrough(direction, Appearance::Reduced);
+    m_window->appearance().setTextScale(DesktopWishes::largestTextScale);
+    visitSteps();
+}
+
+void AccessMatrixTest::theFiguresOfEveryLocaleFit_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("locale");
+    QTest::newRow("de_DE") << Qt::LeftToRight << QStringLiteral("de_DE");
+    QTest::newRow("hi_IN") << Qt::LeftToRight << QStringLiteral("hi_IN");
+    QTest::newRow("ar_EG") << Qt::RightToLeft << QStringLiteral("ar_EG");
+}
+
+void AccessMatrixTest::theFiguresOfEveryLocaleFit()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const QString, locale);
+    open(direction, Appearance::Reduced, locale.toStdString());
+    visitFullPages();
+}
+
+void AccessMatrixTest::open(Qt::LayoutDirection direction, Appearance::Motion motion,
+                            const std::string &locale)
+{
+    QGuiApplication::setLayoutDirection(direction);
+    m_window =
+        std::make_unique<WindowFixture>(nullptr, TextLocale{.numbers = locale, .dates = locale});
+    m_window->appearance().setMotion(motion);
+    m_window->loadwick().window().resize(smallest);
+}
+
+void AccessMatrixTest::openWalkThrough(Qt::LayoutDirection direction, Appearance::Motion motion)
+{
+    QGuiApplication::setLayoutDirection(direction);
+    m_window = std::make_unique<WindowFixture>(std::make_shared<FakeCompletionStore>());
+    m_window->appearance().setMotion(motion);
+    m_window->loadwick().window().resize(smallest);
+    m_window->askForFirstLaunch();
+    QTRY_VERIFY(m_window->shows(QStringLiteral("Next")));
+}
+
+void AccessMatrixTest::use(const Look &look)
+{
+    m_window->appearance().setScheme(look.scheme);
+    m_window->appearance().setContrast(look.contrast);
+}
+
+void AccessMatrixTest::visitPages()
+{
+    for (const int page : {1, 2, 0}) {
+        m_window->loadwick().content().setPageIndex(page);
+        verify();
+    }
+}
+
+// The Overview has one for each state of a scan; Trends and Compare have nothing to show yet.
+void AccessMatrixTest::visitStates()
+{
+    ScanModel &model = m_window->loadwick().model();
+    for (const int page : {1, 2, 0}) {
+        m_window->loadwick().content().setPageIndex(page);
+        arrive();
+        verify();
+    }
+    model.select(RepoSelection::fromUrl(SampleScans::excessive().repositoryPath));
+    model.state().set(ScanState::scanning());
+    verify();
+    model.state().set(ScanState::failed(ProbeError::notAuthenticated()));
+    verify();
+}
+
+void AccessMatrixTest::visitFullPages()
+{
+    ScanModel &model = m_window->loadwick().model();
+    model.history().set(SampleHistories::ofSize(31, 5, 8));
+    model.state().set(ScanState::result(SampleScans::excessive().report()));
+    for (const int page : {1, 2, 0}) {
+        m_window->loadwick().content().setPageIndex(page);
+        arrive();
+        verify();
+        expandSections();
+        verify();
+    }
+}
+
+void AccessMatrixTest::visitSteps()
+{
+    OnboardingPresenter &onboarding = m_window->loadwick().onboarding();
+    for (int step = 0; step < onboarding.stepCount(); ++step) {
+        while (onboarding.currentIndex() < step)
+            onboarding.advance();
+        arrive();
+        for (const Look &look : looks) {
+            use(look);
+            verify();
+        }
+    }
+}
+
+void AccessMatrixTest::expandSections()
+{
+    const QQuickItem &root = *m_window->loadwick().window().contentItem();
+    for (QQuickItem *item : shownItems(root)) {
+        if (item->property("isExpanded").isValid())
+            item->setProperty("isExpanded", true);
+    }
+}
+
+// Words that fade in are not there at first, and none of them would be missed.
+void AccessMatrixTest::arrive()
+{
+    QTest::qWait(arrivalMilliseconds);
+}
+
+// A layout takes a few frames to come to rest.
+void AccessMatrixTest::verify()
+{
+    if (QTest::currentTestFailed())
+        return;
+    QQuickWindow &window = m_window->loadwick().window();
+    QVERIFY(!window.grabWindow().isNull()); // lays out, paints
+    QStringList faults;
+    const bool isWhole = QTest::qWaitFor(
+        [&] {
+            faults = LayoutAudit::faults(window);
+            return faults.isEmpty() && textCount(window) >= leastTexts;
+        },
+        settlingMilliseconds);
+    QVERIFY2(isWhole, qPrintable(faults.join(u'\n')));
+}
+
+const RegisteredTest<AccessMatrixTest> registered("AccessMatrix");
+
+} // namespace Loadwick
+
+#include "AccessMatrixTest.moc"

@@ -1,0 +1,215 @@
+#include "support/LayoutAudit.h"
+
+#include <algorithm>
+#include <set>
+#include <vector>
+
+#include <QAccessible>
+#include <QQuickItem>
+
+#include "support/VisualItems.h"
+
+namespace Loadwick::LayoutAudit {
+namespace {
+
+constexpr double tolerance = 1.0; // pixels: widths of words are fractions, those of places are not
+constexpr double leastOverlap = 3.0; // of two lines that stand close
+constexpr int tipDistance = 4;       // how far up a tool tip may hang
+
+bool isText(const QQuickItem &item)
+{
+    return item.inherits("QQuickText");
+}
+
+double number(const QQuickItem &item, const char *property)
+{
+    return item.property(property).toDouble();
+}
+
+QString described(const QQuickItem &item)
+{
+    const QString text = item.property("text").toString().left(60);
+    const QString type = QString::fromLatin1(item.metaObject()->className()).section(u'_', 0, 0);
+    return QStringLiteral("%1 \"%2\"").arg(type, text);
+}
+
+/// Where the item's words are painted, in its own coordinates.
+QRectF words(const QQuickItem &text)
+{
+    const double width = number(text, "contentWidth");
+    const double height = number(text, "contentHeight");
+    const auto across = Qt::Alignment(text.property("effectiveHorizontalAlignment").toInt());
+    const auto down = Qt::Alignment(text.property("verticalAlignment").toInt());
+    const double spareWidth = text.width() - width;
+    const double spareHeight = text.height() - height;
+    const double left = across & Qt::AlignRight     ? spareWidth - number(text, "rightPadding")
+                        : across & Qt::AlignHCenter ? spareWidth / 2
+                                                    : number(text, "leftPadding");
+    const double top = down & Qt::AlignBottom    ? spareHeight
+                       : down & Qt::AlignVCenter ? spareHeight / 2
+                                                 : number(text, "topPadding");
+    return {left, top, width, height};
+}
+
+/// What the window and the items that clip leave of a place in the window.
+QRectF shownPart(const QQuickItem &item, QRectF place)
+{
+    for (const QQuickItem *holder = item.parentItem(); holder; holder = holder->parentItem()) {
+        if (holder->clip() || holder->parentItem() == nullptr)
+            place &= holder->mapRectToScene(holder->boundingRect());
+    }
+    return place;
+}
+
+bool isTip(const QObject &object)
+{
+    const QByteArray type = object.metaObject()->className();
+    return type.contains("ToolTip") || type.startsWith("HoverTip") ||
+           object.objectName() == QLatin1String("tip");
+}
+
+bool hasTip(const QQuickItem &item)
+{
+    const QQuickItem *holder = &item;
+    for (int distance = 0; holder != nullptr && distance < tipDistance; ++distance) {
+        const auto &parts = holder->children();
+        if (std::ranges::any_of(parts, [](const QObject *part) { return isTip(*part); }))
+            return true;
+        holder = holder->parentItem();
+    }
+    return false;
+}
+
+QStringList faultsOf(const QQuickItem &item)
+{
+    QStringList found;
+    if (item.property("truncated").toBool() && !hasTip(item))
+        found << described(item) + QStringLiteral(" is cut short without a tool tip");
+    if (!isText(item))
+        return found;
+    // Its bounding rectangle is that of the words.
+    const QRectF own =
+        QRectF(QPointF(), item.size()).adjusted(-tolerance, -tolerance, tolerance, tolerance);
+    const QRectF painted = words(item);
+    if (!own.contains(painted))
+        found << described(item) + QStringLiteral(" is larger than its place");
+    const QRectF scene = item.mapRectToScene(painted);
+    const QRectF shown = shownPart(item, scene);
+    if (!shown.isEmpty() && shown.width() < scene.width() - tolerance)
+        found << described(item) + QStringLiteral(" is cut off at a side");
+    if (scene.right() < 0 || scene.left() > item.window()->width())
+        found << described(item) + QStringLiteral(" is beside the window");
+    return found;
+}
+
+bool hasWords(const QQuickItem &item)
+{
+    return !item.property("text").toString().isEmpty();
+}
+
+bool isOnSheet(const QQuickItem &item)
+{
+    const QQuickItem *parent = item.parentItem();
+    return parent != nullptr && (parent->inherits("QQuickOverlay") || isOnSheet(*parent));
+}
+
+/// A text, and where in the window its words are painted.
+struct PaintedText
+{
+    const QQuickItem *item;
+    QRectF place;
+    bool isOnSheet;
+};
+
+/// A sheet covers what is below it.
+bool overlap(const PaintedText &first, const PaintedText &second)
+{
+    const QRectF common = first.place & second.place;
+    return first.isOnSheet == second.isOnSheet && common.width() >= leastOverlap &&
+           common.height() >= leastOverlap;
+}
+
+std::vector<PaintedText> paintedTexts(const QQuickWindow &window)
+{
+    std::vector<PaintedText> texts;
+    for (const QQuickItem *item : shownItems(*window.contentItem())) {
+        if (isText(*item) && hasWords(*item))
+            texts.push_back({.item = item,
+                             .place = shownPart(*item, item->mapRectToScene(words(*item))),
+                             .isOnSheet = isOnSheet(*item)});
+    }
+    return texts;
+}
+
+bool needsName(QAccessible::Role role)
+{
+    static const std::set<QAccessible::Role> spoken{
+        QAccessible::Button,   QAccessible::CheckBox,  QAccessible::Chart,
+        QAccessible::Dialog,   QAccessible::Document,  QAccessible::EditableText,
+        QAccessible::Graphic,  QAccessible::Grouping,  QAccessible::Heading,
+        QAccessible::Link,     QAccessible::List,      QAccessible::ListItem,
+        QAccessible::MenuItem, QAccessible::ScrollBar, QAccessible::StaticText,
+        QAccessible::Table,    QAccessible::Window,    QAccessible::ProgressBar};
+    return spoken.contains(role);
+}
+
+void findUnnamed(QAccessibleInterface &parent, QStringList &found)
+{
+    for (int index = 0; index < parent.childCount(); ++index) {
+        QAccessibleInterface *child = parent.child(index);
+        if (child == nullptr || child->state().invisible)
+            continue;
+        if (needsName(child->role()) && child->text(QAccessible::Name).isEmpty())
+            found << QStringLiteral("role %1 has no name: %2")
+                         .arg(child->role())
+                         .arg(QLatin1String(child->object()->metaObject()->className()));
+        findUnnamed(*child, found);
+    }
+}
+
+} // namespace
+
+QStringList clippedTexts(QQuickWindow &window)
+{
+    QStringList found;
+    for (const QQuickItem *item : shownItems(*window.contentItem())) {
+        if (hasWords(*item))
+            found += faultsOf(*item);
+    }
+    return found;
+}
+
+QStringList overlappingTexts(QQuickWindow &window)
+{
+    const std::vector<PaintedText> texts = paintedTexts(window);
+    QStringList found;
+    for (auto first = texts.cbegin(); first != texts.cend(); ++first) {
+        for (auto second = std::next(first); second != texts.cend(); ++second) {
+            if (overlap(*first, *second))
+                found << described(*first->item) + QStringLiteral(" overlaps ") +
+                             described(*second->item);
+        }
+    }
+    return found;
+}
+
+QStringList unnamedControls(QQuickWindow &window)
+{
+    QStringList found;
+    for (QQuickItem *item : shownItems(*window.contentItem())) {
+        if (!item->activeFocusOnTab() || !item->isEnabled())
+            continue;
+        QAccessibleInterface *control = QAccessible::queryAccessibleInterface(item);
+        if (control == nullptr || control->text(QAccessible::Name).isEmpty())
+            found << described(*item) + QStringLiteral(" has the keyboard and no name");
+    }
+    findUnnamed(*QAccessible::queryAccessibleInterface(&window), found);
+    return found;
+}
+
+QStringList faults(QQuickWindow &window)
+{
+    return clippedTexts(window) + overlappingTexts(window) + unnamedControls(window);
+}
+
+} // namespace Loadwick::LayoutAudit
