@@ -67,6 +67,7 @@ set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/AccessMatrixAtTwiceTheScale"
 # They wait for what arrives softly.
 foreach(test IN ITEMS AccessMatrix AccessMatrixAtTwiceTheScale ReducedMotion)
     set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" APPEND PROPERTY LABELS slow)
+    set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" PROPERTY TIMEOUT 600)
 endforeach()
 
 # Looks at the sources, so one build runs it for all.

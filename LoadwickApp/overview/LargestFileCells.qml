@@ -43,16 +43,22 @@ Item {
             horizontalAlignment: Text.AlignRight
             LayoutMirroring.enabled: false
         }
-        PlainLabel {
+        Item {
             objectName: "share"
-            Layout.preferredWidth: AppTheme.shareColumn
-            Layout.minimumWidth: AppTheme.shareColumn
-            Layout.maximumWidth: AppTheme.shareColumn
-            text: cells.share
-            font: cells.cellFont
-            secondary: true
-            horizontalAlignment: Text.AlignRight
-            LayoutMirroring.enabled: false
+            Layout.preferredWidth: AppTheme.figureColumn
+            Layout.minimumWidth: AppTheme.figureColumn
+            Layout.maximumWidth: AppTheme.figureColumn
+            implicitWidth: shareLabel.implicitWidth
+            implicitHeight: shareLabel.implicitHeight
+
+            PlainLabel {
+                id: shareLabel
+
+                anchors.right: parent.right
+                text: cells.share
+                font: cells.cellFont
+                secondary: true
+            }
         }
     }
 }

@@ -10,6 +10,8 @@ ListView {
     model: content.pages
     interactive: false
     keyNavigationEnabled: true
+    // The view's own mark of the current row is not to be seen, but would slide.
+    highlightMoveDuration: 0
     activeFocusOnTab: true
     spacing: 2
     clip: true

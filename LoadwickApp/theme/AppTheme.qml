@@ -110,7 +110,6 @@ QtObject {
     readonly property int treemapWidth: 608
     // A column of figures, one of shares "of total", and one of figures with their unit.
     readonly property int figureColumn: scaled(72)
-    readonly property int shareColumn: scaled(104)
     readonly property int amountColumn: scaled(144)
     readonly property int tableRowHeight: scaled(36)
     readonly property int fileRowHeight: scaled(52)

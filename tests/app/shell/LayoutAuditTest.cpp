@@ -46,7 +46,7 @@ void LayoutAuditTest::aTextInItsPlaceIsNoFault()
 {
     show("Text { text: 'Tokens' }\n"
          "Text { y: 40; width: 80; text: 'Tokens of the whole session'; wrapMode: Text.Wrap }\n"
-         "Button { y: 120; text: 'Scan' }");
+         "Button { y: 120; text: 'Scan'; Accessible.name: text }");
     QCOMPARE(LayoutAudit::faults(*m_window).join(u'\n'), QString());
 }
 
