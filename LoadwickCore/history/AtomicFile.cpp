@@ -31,6 +31,7 @@ std::optional<fs::path> linkTarget(fs::path path)
             return path;
         std::error_code failure;
         const fs::path next = fs::read_symlink(path, failure);
+        // not taken: the link would have to go between the two looks at it
         if (failure)
             return std::nullopt;
         // Not normalized: ".." behind a link to a folder means that folder's parent.

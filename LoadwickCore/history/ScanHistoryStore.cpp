@@ -41,6 +41,7 @@ std::optional<std::string> bytesOf(const fs::path &path, RegularFile::Failure &f
 
 std::vector<RecordedScan> scansIn(const std::string &bytes)
 {
+    // not taken: the file would have to grow beyond the limit while it is read
     if (bytes.size() > ScanHistoryStore::maximumBytes)
         return {};
     std::optional<ScanHistoryFile> file = ScanHistoryFile::decoded(bytes);

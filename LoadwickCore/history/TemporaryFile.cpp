@@ -56,6 +56,7 @@ bool writeAll(int descriptor, std::string_view bytes)
         const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
         if (written > 0)
             bytes.remove_prefix(static_cast<std::size_t>(written));
+        // not taken: a write of some bytes to a file writes some or fails
         else if (written == 0 || errno != EINTR)
             return false;
     }

@@ -61,6 +61,7 @@ std::optional<std::string> readEnd(RegularFile &file, std::size_t byteLimit)
     if (!file.skipTo(file.size() - static_cast<std::int64_t>(byteLimit)))
         return std::nullopt;
     auto end = file.readUpTo(byteLimit);
+    // not taken: the disk would have to fail behind the place that was gone to
     const std::size_t lineFeed = end ? end->find('\n') : std::string::npos;
     if (lineFeed == std::string::npos)
         return std::nullopt;

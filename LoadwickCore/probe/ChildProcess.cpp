@@ -15,11 +15,10 @@ namespace Loadwick {
 
 namespace {
 
-/// How a child ended, once it has; a child that is not ours ended by itself.
+/// How a child ended, once it has; nobody's end when the child is not ours (any more).
 siginfo_t reapedEnd(pid_t processID) noexcept
 {
     siginfo_t found{};
-    found.si_code = CLD_EXITED;
     while (waitid(P_PID, static_cast<id_t>(processID), &found, WEXITED) != 0 && errno == EINTR) {
     }
     return found;
@@ -79,7 +78,7 @@ ChildProcess::Ending ChildProcess::reap()
 {
     m_entry.leave();
     const siginfo_t found = reapedEnd(std::exchange(m_processID, 0));
-    return {found.si_status, found.si_code != CLD_EXITED};
+    return {found.si_status, found.si_pid != 0 && found.si_code != CLD_EXITED};
 }
 
 // The number travels alone: a thread that cannot be started must not leave an owner behind whose

@@ -21,6 +21,7 @@ FileDescriptor aboveStandardStreams(FileDescriptor descriptor)
     if (descriptor.number() > STDERR_FILENO)
         return descriptor;
     FileDescriptor higher = descriptor.duplicate();
+    // not taken: the last descriptors would have to be those of the standard streams
     if (!higher.isOpen())
         throw std::system_error(errno, std::generic_category());
     return higher;

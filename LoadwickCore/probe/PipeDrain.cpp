@@ -52,6 +52,7 @@ Step readOnce(int descriptor, std::span<char> buffer, const Sink &sink)
         sink(buffer.first(static_cast<std::size_t>(count)));
         return Step::goOn;
     }
+    // not taken: nobody else reads what poll has seen, and two of the numbers are one here
     if (count == 0 || (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR))
         return Step::stop;
     std::this_thread::sleep_for(backOff);

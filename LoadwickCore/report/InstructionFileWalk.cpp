@@ -119,6 +119,7 @@ void InstructionFileWalk::admit(const std::string &url, int depth, InstructionFi
         return;
     // On a shorter road than before, the imports that the depth limit cut off come into reach.
     seen->depth = depth;
+    // not taken: only a disk of the network denies what an open file holds
     if (seen->isReadDenied)
         m_findings->addUnreadable(repairedUtf8(url));
     for (const std::string &token : seen->importTokens) {

@@ -225,7 +225,8 @@ TEST(AtomicFileTest, takesNothingElseForATemporaryFile)
 {
     const TemporaryFolder folder;
     const Names others = {".file.json",        ".file.json.a1B2c",   ".file.json.a1B2c3d",
-                          ".file.json.a1-2c3", ".other.json.a1B2c3", "file.json.a1B2c3"};
+                          ".file.json.a1-2c3", ".other.json.a1B2c3", ".pile.json.a1B2c3",
+                          "file.json.a1B2c3"};
     for (const std::string &name : others)
         folder.write(name, "kept");
     fs::create_directory(folder.path() / ".file.json.folder");
@@ -242,7 +243,7 @@ TEST(AtomicFileTest, keepsTheOldFileAndNothingElseWhenTheDiskIsFull)
     const int status = exitStatusOf([&] {
         // A limit on the size of files stands in for a full disk: a short write, then an error.
         signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit = {10'000, 10'000};
+        const rlimit limit = {10'000, RLIM_INFINITY};
         setrlimit(RLIMIT_FSIZE, &limit);
         return AtomicFile::replace(path, large) ? 1 : 0;
     });

@@ -173,4 +173,13 @@ TEST(ChildProcessTest, leavesTheShutdownListBeforeItIsReaped)
     EXPECT_LT(watch.seconds(), 30);
 }
 
+TEST(ChildProcessTest, endsWithoutAStatusWhereTheSystemReapsItsChildrenItself)
+{
+    const auto usual = std::signal(SIGCHLD, SIG_IGN);
+    ChildProcess child = startHostile({"print", "", "", "143"});
+    EXPECT_TRUE(child.waitUntil(deadlineAfter(30)));
+    EXPECT_EQ(child.reap(), (Ending{.status = 0, .isBySignal = false}));
+    std::signal(SIGCHLD, usual);
+}
+
 } // namespace Loadwick

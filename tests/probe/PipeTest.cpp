@@ -66,4 +66,9 @@ TEST(PipeTest, saysWhyThereIsNone)
     EXPECT_EQ(reason, std::errc::too_many_files_open);
 }
 
+TEST(PipeTest, hasNoCapacityWhereItIsNotOpen)
+{
+    EXPECT_EQ(Pipe{}.capacity(), 0);
+}
+
 } // namespace Loadwick

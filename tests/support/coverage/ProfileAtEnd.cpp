@@ -11,8 +11,10 @@ extern "C" int __llvm_profile_write_file();
 extern "C" void _exit(int status)
 {
     // A full disk may have been played to this part of the program.
-    constexpr rlimit unlimited{RLIM_INFINITY, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &unlimited);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = limit.rlim_max;
+    setrlimit(RLIMIT_FSIZE, &limit);
     __llvm_profile_write_file();
     syscall(SYS_exit_group, status);
     __builtin_unreachable();
