@@ -64,6 +64,9 @@ loadwick_quick_tests()
 loadwick_app_test("shell/AccessMatrixAtTwiceTheScale" app_tests AccessMatrix)
 set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/AccessMatrixAtTwiceTheScale"
              APPEND PROPERTY ENVIRONMENT_MODIFICATION QT_SCALE_FACTOR=set:2)
+# Every frame takes an animation on by the same time, however long it took to draw.
+set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/ReducedMotion"
+             APPEND PROPERTY ENVIRONMENT_MODIFICATION QSG_FIXED_ANIMATION_STEP=set:1)
 # They wait for what arrives softly.
 foreach(test IN ITEMS AccessMatrix AccessMatrixAtTwiceTheScale ReducedMotion)
     set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" APPEND PROPERTY LABELS slow)
