@@ -16,11 +16,12 @@ constexpr std::size_t overlap = assistant.size() - 1;
 /// unparsed. Going on after a find lets the compiler look at many places at once.
 bool mayBeAssistants(std::string_view text) noexcept
 {
+    const auto is = [](char byte, char wanted) { return static_cast<unsigned>(byte == wanted); };
     unsigned char found = 0;
     for (std::size_t place = 0; place + 3 < text.size(); ++place) {
-        const int isEscape = (text[place] == '\\') & (text[place + 1] == 'u');
-        const int isPart = (text[place] == 's') & (text[place + 1] == 's') &
-                           (text[place + 2] == 'i') & (text[place + 3] == 's');
+        const unsigned isEscape = is(text[place], '\\') & is(text[place + 1], 'u');
+        const unsigned isPart = is(text[place], 's') & is(text[place + 1], 's') &
+                                is(text[place + 2], 'i') & is(text[place + 3], 's');
         found |= static_cast<unsigned char>(isEscape | isPart);
     }
     return found != 0;
