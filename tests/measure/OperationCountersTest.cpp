@@ -107,15 +107,6 @@ TEST(OperationCountersTest, readsALongLineOfAUserOnce)
     EXPECT_EQ(ofFirstUsage(file).at("bytes-read"), static_cast<std::int64_t>(fs::file_size(file)));
 }
 
-TEST(OperationCountersTest, needsNoMoreMemoryForALongerHead)
-{
-    const TemporaryFolder folder;
-    GeneratedFiles::transcript(folder.path() / "short.jsonl", 2 * pieceSize);
-    GeneratedFiles::transcript(folder.path() / "long.jsonl", 300 * pieceSize);
-    const auto small = ofFirstUsage(folder.path() / "short.jsonl").at("peak-kib");
-    EXPECT_LT(ofFirstUsage(folder.path() / "long.jsonl").at("peak-kib") - small, 1'024);
-}
-
 TEST(OperationCountersTest, readsAHistoryOnce)
 {
     const TemporaryFolder folder;
