@@ -24,7 +24,7 @@ class WatchedProgram(Program):
         self._log = home / f"{name}.log"
         self._log.touch()
         rules = {"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop=true"}
-        command = [str(programs() / "loadwick-endtoend")]
+        command = [str(programs() / "loadwick-endtoend"), "--beside-others"]
         super().__init__(command, environment_for(home) | rules, self._log)
 
     def frames(self) -> int:

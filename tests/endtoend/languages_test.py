@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from typing import Any
+from typing import Any, Optional
 
 from accessible_tree import Atspi
 from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
@@ -19,11 +19,16 @@ def place(item: Any) -> Any:
 class LanguagesTest(EndToEndCase):
     """Programs that find another language in their environment."""
 
+    _program: Optional[Program] = None
+
     def open_in(self, language: str, *options: str) -> Program:
-        """Opens the window in that language; it is closed at the end of the test."""
+        """Opens the window in that language instead of the one before, over the same data."""
+        if self._program:
+            self._program.kill()
         command = [str(programs() / "loadwick-endtoend"), *options]
         environment = environment_for(self.home.path) | {"LC_ALL": f"{language}.UTF-8"}
         program = Program(command, environment)
+        self._program = program
         self.addCleanup(program.kill)
         program.window.wait_for(CHOOSE, "push button")
         return program

@@ -3,6 +3,7 @@
 // folder dialog's twin answers with the bytes of the file "folder-to-choose" in that home.
 //   --platform-dialog   the real folder dialog instead of its twin
 //   --timeout SECONDS   how long a session may take (default 60)
+//   --beside-others     a window of its own where another one is open over the same data
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -28,6 +29,7 @@ using namespace Loadwick;
 struct Options
 {
     bool usesPlatformDialog = false;
+    bool opensBesideOthers = false; ///< over the same data
     double timeoutSeconds = 60.0;
 };
 
@@ -38,6 +40,8 @@ Options parsed(int argc, char **argv)
         const std::string_view argument = argv[index];
         if (argument == "--platform-dialog")
             options.usesPlatformDialog = true;
+        else if (argument == "--beside-others")
+            options.opensBesideOthers = true;
         else if (argument == "--timeout" && index + 1 < argc)
             options.timeoutSeconds = std::atof(argv[++index]);
     }
@@ -79,7 +83,8 @@ int main(int argc, char **argv)
             folder, runnerSettings(folder, options, std::move(shutdown)));
         made.completionStore = std::make_shared<PreferencesCompletionStore>(
             PreferencesCompletionStore::defaultFile(currentEnvironment()));
-        made.dataFolder = ScanHistoryStore::defaultDirectory(currentEnvironment());
+        if (!options.opensBesideOthers)
+            made.dataFolder = ScanHistoryStore::defaultDirectory(currentEnvironment());
         made.notices = [](const auto &dispatcher) {
             return std::make_unique<DesktopNoticeBoard>(dispatcher);
         };
