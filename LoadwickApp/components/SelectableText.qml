@@ -14,7 +14,8 @@ Item {
     // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
     property int maximumLineCount: 0
     readonly property real lineSpacing: edit.contentHeight / Math.max(1, edit.lineCount)
-    readonly property TextMenu menu: loader.item as TextMenu
+    // Not bound to the loader's item: Qt 6.4 turns that binding into C++ that does not compile.
+    property TextMenu menu: null
     readonly property bool truncated: maximumLineCount > 0 && edit.lineCount > maximumLineCount
     // While it is read with the keyboard or selected, the text itself shows and not its short form.
     readonly property bool isCutShort: truncated && !edit.activeFocus && !loader.isOpen
@@ -86,8 +87,10 @@ Item {
         property bool isOpen: false
 
         function openAt(x, y) {
-            if (!control.menu)
+            if (!control.menu) {
                 loader.setSource("TextMenu.qml", { edit: edit });
+                control.menu = loader.item as TextMenu;
+            }
             loader.isOpen = true;
             edit.forceActiveFocus(Qt.PopupFocusReason);
             control.menu.popup(edit, x, y);
