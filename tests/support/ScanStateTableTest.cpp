@@ -8,8 +8,8 @@ namespace {
 
 using Phase = ScanStateTable::Phase;
 
-const RepoSelection webshop = RepoSelection::fromUrl("/work/webshop");
-const RepoSelection other = RepoSelection::fromUrl("/work/other");
+const RepoSelection webshop = RepoSelection::fromUrl("/srv/webshop");
+const RepoSelection other = RepoSelection::fromUrl("/srv/other");
 
 std::chrono::sys_seconds at(int seconds)
 {
