@@ -1,7 +1,6 @@
 #include "probe/SlabParser.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -13,40 +12,51 @@ namespace Loadwick::SlabParser {
 
 namespace {
 
-constexpr std::string_view decoration = "-*`> ";
 constexpr char blank = ' ';
 
 /// No code point of more than this many bytes becomes an ASCII letter in lower case.
 constexpr std::size_t longestLetter = 4;
 
-std::string_view withoutDecoration(std::string_view line) noexcept
+constexpr bool isBlank(char byte) noexcept
 {
-    const std::size_t first = line.find_first_not_of(decoration);
-    if (first == std::string_view::npos)
-        return {};
-    return line.substr(first, line.find_last_not_of(decoration) - first + 1);
+    return byte == blank;
 }
 
-std::string_view withoutBlanksAtTheEnd(std::string_view text) noexcept
+constexpr bool isBlankOrTab(char byte) noexcept
 {
-    return text.substr(0, text.find_last_not_of(blank) + 1);
+    return byte == blank || byte == '\t';
 }
 
-/// Takes the first word off `rest`, and the blanks before it; empty when there is none.
+constexpr bool isDecoration(char byte) noexcept
+{
+    return byte == '-' || byte == '*' || byte == '`' || byte == '>' || byte == blank;
+}
+
+/// `text` without such bytes at both ends.
+template<typename Test>
+std::string_view stripped(std::string_view text, Test isUnwanted) noexcept
+{
+    while (!text.empty() && isUnwanted(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isUnwanted(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+/// Takes the first word off `rest`, which begins with no blank.
 std::string_view takeFirstWord(std::string_view &rest) noexcept
 {
-    rest.remove_prefix(std::min(rest.find_first_not_of(blank), rest.size()));
     const std::string_view word = rest.substr(0, rest.find(blank));
     rest.remove_prefix(word.size());
     return word;
 }
 
-/// The same from the end.
+/// Takes the last word off `rest`, and the blanks behind it; empty when there is none.
 std::string_view takeLastWord(std::string_view &rest) noexcept
 {
-    rest = withoutBlanksAtTheEnd(rest);
-    const std::size_t before = rest.find_last_of(blank);
-    const std::string_view word = rest.substr(before == std::string_view::npos ? 0 : before + 1);
+    while (rest.ends_with(blank))
+        rest.remove_suffix(1);
+    const std::string_view word = rest.substr(rest.rfind(blank) + 1);
     rest.remove_suffix(word.size());
     return word;
 }
@@ -63,31 +73,27 @@ bool isKeyword(std::string_view word, std::string_view keyword)
     return word.size() <= longestLetter * keyword.size() && lowercased(word) == keyword;
 }
 
-std::optional<std::int64_t> countIn(std::string_view word)
+/// The number that the digits of a word make, commas and underscores left out.
+std::optional<std::int64_t> countIn(std::string_view word) noexcept
 {
-    std::string digits(word);
-    std::erase_if(digits, [](char byte) { return byte == ',' || byte == '_'; });
-    if (digits.empty() || digits.find_first_not_of("0123456789") != std::string::npos)
-        return std::nullopt;
     std::int64_t count = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), count);
-    return error == std::errc() ? std::optional(count) : std::nullopt;
+    bool isEmpty = true;
+    for (const char byte : word) {
+        if (byte == ',' || byte == '_')
+            continue;
+        if (byte < '0' || byte > '9' || __builtin_mul_overflow(count, 10, &count) ||
+            __builtin_add_overflow(count, byte - '0', &count))
+            return std::nullopt;
+        isEmpty = false;
+    }
+    return isEmpty ? std::nullopt : std::optional(count);
 }
 
 std::string joinedByBlanks(std::string_view words)
 {
-    constexpr std::string_view twoBlanks = "  ";
-    words =
-        withoutBlanksAtTheEnd(words.substr(std::min(words.find_first_not_of(blank), words.size())));
-    if (words.find(twoBlanks) == std::string_view::npos)
-        return std::string(words);
-    std::string joined;
-    joined.reserve(words.size());
-    for (std::string_view word = takeFirstWord(words); !word.empty(); word = takeFirstWord(words)) {
-        if (!joined.empty())
-            joined.push_back(blank);
-        joined.append(word);
-    }
+    std::string joined(stripped(words, isBlank));
+    const auto areBlanks = [](char left, char right) { return left == blank && right == blank; };
+    joined.erase(std::unique(joined.begin(), joined.end(), areBlanks), joined.end());
     return joined;
 }
 
@@ -104,7 +110,7 @@ std::vector<SelfReportedSlab> parse(std::string_view text)
 
 std::optional<SelfReportedSlab> parseLine(std::string_view line)
 {
-    std::string_view rest = withoutDecoration(trimmedBlanks(line));
+    std::string_view rest = stripped(stripped(line, isBlankOrTab), isDecoration);
     if (!isKeyword(takeFirstWord(rest), "slab"))
         return std::nullopt;
     // The last "tokens" counts, so that a name may hold the word.

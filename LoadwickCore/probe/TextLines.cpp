@@ -1,6 +1,8 @@
 #include "probe/TextLines.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 namespace Loadwick {
 
@@ -9,10 +11,26 @@ namespace {
 constexpr std::string_view nextLine = "\xC2\x85";
 constexpr std::string_view separatorHead = "\xE2\x80"; // U+2028 and U+2029 end in A8 and A9
 
-/// Whether a line break may begin with that byte.
-constexpr bool mayBreak(char byte) noexcept
+/// Whether no line break begins with that byte: it is printable, and ASCII.
+constexpr bool isPlain(char byte) noexcept
 {
-    return (byte >= '\n' && byte <= '\r') || byte == '\xC2' || byte == '\xE2';
+    return byte >= ' ' && static_cast<unsigned char>(byte) < 0x80;
+}
+
+/// Bytes at the head of a text that are plain, looked at eight at a time as long as all eight are.
+std::size_t plainHead(std::string_view text) noexcept
+{
+    constexpr std::uint64_t everyByte = 0x0101010101010101;
+    std::size_t index = 0;
+    for (std::uint64_t eight = 0; text.size() - index >= sizeof eight; index += sizeof eight) {
+        std::memcpy(&eight, text.data() + index, sizeof eight);
+        // Below a blank the difference has the high bit, beyond ASCII the byte itself.
+        if ((((eight - everyByte * ' ') | eight) & (everyByte * 0x80)) != 0)
+            break;
+    }
+    while (index < text.size() && isPlain(text[index]))
+        ++index;
+    return index;
 }
 
 /// Bytes of the line break at `index`; 0 when there is none.
@@ -64,8 +82,9 @@ std::optional<std::string_view> takeLine(std::string_view &rest) noexcept
 {
     if (rest.empty())
         return std::nullopt;
-    for (std::size_t end = 0; end < rest.size(); ++end) {
-        const std::size_t length = mayBreak(rest[end]) ? breakLength(rest, end) : 0;
+    for (std::size_t end = plainHead(rest); end < rest.size();
+         end += 1 + plainHead(rest.substr(end + 1))) {
+        const std::size_t length = breakLength(rest, end);
         if (length > 0) {
             const std::string_view line = rest.substr(0, end);
             rest.remove_prefix(end + length);

@@ -1,5 +1,6 @@
 #include "probe/UnicodeText.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -71,6 +72,11 @@ std::string filtered(std::string_view text, Keep keep)
         index = point.end;
     }
     return kept;
+}
+
+constexpr char lowercasedAscii(char byte) noexcept
+{
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
 bool isLetterMarkOrNumber(UChar32 value)
@@ -162,9 +168,7 @@ std::string lowercased(std::string_view text)
     // ICU takes as long to begin as to lower-case a whole line of ASCII, as nearly all texts are.
     if (isAsciiAlone(text)) {
         std::string lower(text);
-        for (char &letter : lower)
-            if (letter >= 'A' && letter <= 'Z')
-                letter = static_cast<char>(letter - 'A' + 'a');
+        std::transform(lower.begin(), lower.end(), lower.begin(), lowercasedAscii);
         return lower;
     }
     std::string lower;
@@ -185,6 +189,22 @@ std::string lettersAndNumbers(std::string text)
         return text;
     }
     return filtered(text, isLetterMarkOrNumber);
+}
+
+void setSearchKey(std::string &key, std::string_view text)
+{
+    if (!isAsciiAlone(text)) {
+        key = lettersAndNumbers(lowercased(text));
+        return;
+    }
+    key.resize(text.size());
+    std::size_t size = 0;
+    for (const char byte : text) {
+        key[size] = lowercasedAscii(byte);
+        if (isLetterMarkOrNumber(byte))
+            ++size;
+    }
+    key.resize(size);
 }
 
 std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)

@@ -30,6 +30,10 @@ namespace Loadwick {
 /// in order. Ill-formed bytes are dropped.
 [[nodiscard]] std::string lettersAndNumbers(std::string text);
 
+/// Sets `key` to the letters, marks and numeric characters of `text` in lower case. Made for many
+/// texts, one after the other: `key` keeps its memory.
+void setSearchKey(std::string &key, std::string_view text);
+
 /// Bytes of the first `limit` user-perceived characters (extended grapheme clusters, UAX #29)
 /// of `text`; `text.size()` when it has no more than that. Reads no further than it must.
 [[nodiscard]] std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit);

@@ -117,15 +117,19 @@ AttributionOutcome attribute(std::int64_t total, std::span<const SelfReportedSla
 
 std::string normalize(std::string_view name)
 {
-    return lettersAndNumbers(lowercased(name));
+    std::string key;
+    setSearchKey(key, name);
+    return key;
 }
 
 std::vector<SelfReportedSlab> merged(std::span<const SelfReportedSlab> slabs)
 {
     std::vector<SelfReportedSlab> result;
     std::unordered_map<std::string, std::size_t> places;
+    std::string key;
     for (const SelfReportedSlab &slab : slabs) {
-        const auto [place, isNew] = places.try_emplace(normalize(slab.name), result.size());
+        setSearchKey(key, slab.name);
+        const auto [place, isNew] = places.try_emplace(key, result.size());
         if (isNew)
             result.push_back(slab);
         else

@@ -65,6 +65,17 @@ TEST(TextLinesTest, leavesHalfABreakAtTheEndAlone)
     EXPECT_EQ(linesOf("a\xC2"), (Lines{"a\xC2"}));
 }
 
+TEST(TextLinesTest, findsABreakAtEveryPlaceAndNothingThatResemblesOne)
+{
+    for (std::size_t length = 0; length < 40; ++length)
+        for (const std::string_view other : {"", "\t", "\x1F", "\x7F", "\u00A0", "\xFF", "\x8A"})
+            for (const std::string_view lineBreak : {"\n", "\r\n", "\v", "\u0085", "\u2029"}) {
+                const std::string line = std::string(length, ' ') + std::string(other) + "~";
+                const std::string text = line + std::string(lineBreak) + line;
+                EXPECT_EQ(linesOf(text), (Lines{line, line})) << text;
+            }
+}
+
 TEST(TextLinesTest, givesTheSameLinesFromTheEnd)
 {
     for (const std::string_view text :

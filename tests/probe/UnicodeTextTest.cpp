@@ -58,6 +58,16 @@ TEST(UnicodeTextTest, keepsLettersAndNumbers)
     EXPECT_EQ(lettersAndNumbers("Memory_files, №2: é日!"), "Memoryfiles2é日");
 }
 
+TEST(UnicodeTextTest, makesASearchKeyOfLettersAndNumbersInLowerCase)
+{
+    std::string key = "whatever stood there before";
+    for (const std::string_view text : {"Memory_files, 2: [x]!", "", "_",
+                                        "AZaz09@[`{/:", "Memory_files, №2: É日!", "É", "a\xFFZ"}) {
+        setSearchKey(key, text);
+        EXPECT_EQ(key, lettersAndNumbers(lowercased(text))) << text;
+    }
+}
+
 TEST(UnicodeTextTest, countsUserPerceivedCharacters)
 {
     const std::string_view family = "👩‍👩‍👧‍👦";
