@@ -14,6 +14,9 @@ namespace Loadwick {
 class RegularFile
 {
 public:
+    /// The folder of the process, as `openat` takes it.
+    static constexpr int currentFolder = -100;
+
     /// Why there is no file: an `errno` value; 0 means that the path leads to something that is no
     /// regular file.
     struct Failure
@@ -29,9 +32,9 @@ public:
                                                          Failure *failure = nullptr);
 
     /// The same for a path that was just seen to lead to a regular file: it is looked at only
-    /// behind the open descriptor.
-    [[nodiscard]] static std::optional<RegularFile> openSeen(const std::string &path,
-                                                             Failure *failure = nullptr);
+    /// behind the open descriptor. A relative path begins at the descriptor `folder`.
+    [[nodiscard]] static std::optional<RegularFile>
+    openSeen(const std::string &path, Failure *failure = nullptr, int folder = currentFolder);
 
     RegularFile(RegularFile &&other) noexcept;
     RegularFile &operator=(RegularFile &&other) noexcept;

@@ -1,11 +1,8 @@
 #include "report/InstructionFileWalk.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <unordered_set>
 #include <utility>
-
-#include <sys/stat.h>
 
 #include "probe/PathText.h"
 #include "probe/RegularFile.h"
@@ -15,28 +12,6 @@
 namespace Loadwick {
 
 namespace {
-
-std::optional<std::string> resolvedPath(const std::string &path)
-{
-    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
-                                                               &std::free);
-    return resolved ? std::optional<std::string>(resolved.get()) : std::nullopt;
-}
-
-/// The file type of what a path names, a link being one itself; 0 when nothing is there.
-mode_t typeOf(const std::string &path)
-{
-    struct stat status
-    {};
-    return ::lstat(path.c_str(), &status) == 0 ? status.st_mode & S_IFMT : 0;
-}
-
-std::optional<RegularFile> opened(const std::string &url, mode_t type,
-                                  RegularFile::Failure &failure)
-{
-    return type == S_IFREG ? RegularFile::openSeen(url, &failure)
-                           : RegularFile::open(url, &failure);
-}
 
 /// The bytes to read of a file: its own, where it tells how many it has, so that no read has to
 /// find the end; and enough to see that it is too long.
@@ -138,37 +113,24 @@ InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &
     // A system call would take a path with a NUL inside for a shorter one.
     if (url.find('\0') != std::string::npos)
         return nullptr;
-    const mode_t type = typeOf(url);
-    const std::string identity = identityPath(url, type);
-    auto seen = m_seen.find(identity);
+    // Two names of one file have one identity.
+    const InstructionFolders::Place place = m_folders.placeOf(url);
+    auto seen = m_seen.find(place.identityPath);
     if (seen == m_seen.end()) {
-        std::optional<SeenFile> file = countedFile(url, type, origin);
+        std::optional<SeenFile> file = countedFile(url, place, origin);
         if (!file)
             return nullptr;
-        seen = m_seen.emplace(identity, std::move(*file)).first;
+        seen = m_seen.emplace(place.identityPath, std::move(*file)).first;
     }
     return m_seenByURL.emplace(url, &seen->second).first->second;
 }
 
-/// Two names of one file have one identity. A path that leads nowhere is its own. The links of a
-/// folder are resolved once for all its files.
-std::string InstructionFileWalk::identityPath(const std::string &url, mode_t type)
-{
-    const std::string folder(folderPart(url));
-    if (folder.empty() || folder.size() == url.size() || type == 0 || type == S_IFLNK)
-        return resolvedPath(url).value_or(url);
-    auto resolved = m_resolvedFolders.find(folder);
-    if (resolved == m_resolvedFolders.end())
-        resolved = m_resolvedFolders.emplace(folder, resolvedPath(folder).value_or(folder)).first;
-    return (resolved->second.ends_with('/') ? resolved->second : resolved->second + "/")
-        .append(url, folder.size());
-}
-
 std::optional<InstructionFileWalk::SeenFile>
-InstructionFileWalk::countedFile(const std::string &url, mode_t type, InstructionFileTier origin)
+InstructionFileWalk::countedFile(const std::string &url, const InstructionFolders::Place &place,
+                                 InstructionFileTier origin)
 {
     RegularFile::Failure failure;
-    std::optional<RegularFile> file = opened(url, type, failure);
+    std::optional<RegularFile> file = InstructionFolders::opened(url, place, failure);
     if (!file) {
         if (isUnreadable(url, failure))
             m_findings->addUnreadable(repairedUtf8(url));
@@ -214,8 +176,11 @@ std::string InstructionFileWalk::importTarget(std::string_view token,
         return standardizedPath(m_home / token).native();
     }
     const std::string_view folder = folderPart(importer);
-    if (folder.starts_with('/') && isPlain(token))
-        return std::string(folder).append(token);
+    if (folder.starts_with('/') && isPlain(token)) {
+        std::string target;
+        target.reserve(folder.size() + token.size());
+        return target.append(folder).append(token);
+    }
     return standardizedPath(std::filesystem::path(folder) / token).native();
 }
 

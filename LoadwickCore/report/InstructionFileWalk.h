@@ -9,10 +9,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include <sys/types.h>
-
 #include "report/InstructionFileFindings.h"
 #include "report/InstructionFileScanner.h"
+#include "report/InstructionFolders.h"
 
 namespace Loadwick {
 
@@ -45,9 +44,9 @@ private:
     // as a file to open.
     void admit(const std::string &url, int depth, InstructionFileTier origin);
     [[nodiscard]] SeenFile *seenFile(const std::string &url, InstructionFileTier origin);
-    [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &url, mode_t type,
+    [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &url,
+                                                      const InstructionFolders::Place &place,
                                                       InstructionFileTier origin);
-    [[nodiscard]] std::string identityPath(const std::string &url, mode_t type);
     [[nodiscard]] std::vector<std::filesystem::path> ancestorFolders() const;
     [[nodiscard]] InstructionFileTier tierOf(std::string_view url,
                                              InstructionFileTier origin) const;
@@ -60,7 +59,7 @@ private:
     std::shared_ptr<InstructionFileFindings> m_findings;
     std::unordered_map<std::string, SeenFile> m_seen;        ///< by path with every link resolved
     std::unordered_map<std::string, SeenFile *> m_seenByURL; ///< the same by path as reached
-    std::unordered_map<std::string, std::string> m_resolvedFolders; ///< by path with a slash
+    InstructionFolders m_folders;
 };
 
 } // namespace Loadwick

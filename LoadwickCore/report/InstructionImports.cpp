@@ -12,12 +12,15 @@ namespace Loadwick::InstructionImports {
 namespace {
 
 constexpr std::size_t markerLength = 3;
+constexpr char sign = '@';
 
 /// The three characters that open or close a fence at the head of a line, or nothing.
 std::string_view fenceMarker(std::string_view line) noexcept
 {
-    const std::string_view head = trimmedBlanks(line).substr(0, markerLength);
-    return head == "```" || head == "~~~" ? head : std::string_view{};
+    while (line.starts_with(' ') || line.starts_with('\t'))
+        line.remove_prefix(1);
+    const bool isMarker = line.starts_with("```") || line.starts_with("~~~");
+    return isMarker ? line.substr(0, markerLength) : std::string_view{};
 }
 
 struct Character
@@ -54,7 +57,22 @@ std::string_view withoutClosingPunctuation(std::string_view token) noexcept
 
 bool isImport(std::string_view token) noexcept
 {
-    return !token.empty() && token.front() != '@' && token.find("://") == std::string_view::npos;
+    return !token.empty() && token.front() != sign && token.find("://") == std::string_view::npos;
+}
+
+void addTokens(std::vector<std::string_view> &tokens, std::string_view line)
+{
+    for (std::size_t end = 0; end < line.size();) {
+        const std::size_t start =
+            firstCharacter(line, end, [](Character character) { return !character.isSpace; });
+        end = firstCharacter(line, start, [](Character character) { return character.isSpace; });
+        const std::string_view word = line.substr(start, end - start);
+        if (!word.starts_with(sign))
+            continue;
+        const std::string_view token = withoutClosingPunctuation(word.substr(1));
+        if (isImport(token))
+            tokens.push_back(token);
+    }
 }
 
 } // namespace
@@ -62,6 +80,9 @@ bool isImport(std::string_view token) noexcept
 std::vector<std::string_view> tokensIn(std::string_view text)
 {
     std::vector<std::string_view> tokens;
+    std::size_t nextSign = text.find(sign);
+    if (nextSign == std::string_view::npos)
+        return tokens;
     std::string_view openMarker;
     std::size_t countBeforeFence = 0;
     for (std::size_t start = 0; start < text.size();) {
@@ -78,8 +99,10 @@ std::vector<std::string_view> tokensIn(std::string_view text)
             openMarker = marker;
             countBeforeFence = tokens.size();
         }
-        const std::vector<std::string_view> found = tokensInLine(line);
-        tokens.insert(tokens.end(), found.begin(), found.end());
+        if (nextSign < end) {
+            addTokens(tokens, line);
+            nextSign = text.find(sign, end);
+        }
     }
     return tokens;
 }
@@ -87,19 +110,7 @@ std::vector<std::string_view> tokensIn(std::string_view text)
 std::vector<std::string_view> tokensInLine(std::string_view line)
 {
     std::vector<std::string_view> tokens;
-    if (line.find('@') == std::string_view::npos)
-        return tokens;
-    for (std::size_t end = 0; end < line.size();) {
-        const std::size_t start =
-            firstCharacter(line, end, [](Character character) { return !character.isSpace; });
-        end = firstCharacter(line, start, [](Character character) { return character.isSpace; });
-        const std::string_view word = line.substr(start, end - start);
-        if (word.empty() || word.front() != '@')
-            continue;
-        const std::string_view token = withoutClosingPunctuation(word.substr(1));
-        if (isImport(token))
-            tokens.push_back(token);
-    }
+    addTokens(tokens, line);
     return tokens;
 }
 

@@ -15,6 +15,16 @@ using Faults::behind;
 using Faults::Call;
 using Faults::fails;
 
+namespace {
+
+/// A path that begins at a folder's descriptor belongs where the folder does.
+bool failsAt(Call call, int folder, const char *path) noexcept
+{
+    return folder == AT_FDCWD || path[0] == '/' ? fails(call, path) : fails(call, folder);
+}
+
+} // namespace
+
 extern "C" {
 
 int open(const char *path, int flags, ...)
@@ -43,7 +53,7 @@ int openat(int folder, const char *path, int flags, ...)
     va_start(rest, flags);
     const mode_t mode = va_arg(rest, mode_t);
     va_end(rest);
-    return fails(Call::open, path) ? -1 : next(folder, path, flags, mode);
+    return failsAt(Call::open, folder, path) ? -1 : next(folder, path, flags, mode);
 }
 
 FILE *fopen(const char *path, const char *mode)
@@ -78,7 +88,7 @@ int lstat(const char *path, struct stat *status) noexcept
 int fstatat(int folder, const char *path, struct stat *status, int flags) noexcept
 {
     static auto *const next = behind(fstatat, "fstatat");
-    return fails(Call::stat, path) ? -1 : next(folder, path, status, flags);
+    return failsAt(Call::stat, folder, path) ? -1 : next(folder, path, status, flags);
 }
 
 char *realpath(const char *path, char *resolved) noexcept
