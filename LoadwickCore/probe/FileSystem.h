@@ -31,9 +31,15 @@ public:
     /// that cannot be listed has no entries.
     virtual void list(const std::filesystem::path &folder, const Visitor &visit) const = 0;
 
-    /// Whether something answers to that path. A disk may take other names for the same, so only a
-    /// listing tells what is there.
+    /// Whether something may answer to that path. A disk may take other names for the same, so only
+    /// a listing tells what is there; no is certain.
     [[nodiscard]] virtual bool mayHold(const std::filesystem::path &path) const = 0;
+
+    /// Whether folders may stand in `folder`; no only where the disk keeps count of them.
+    [[nodiscard]] virtual bool mayHoldFolders(const std::filesystem::path & /*folder*/) const
+    {
+        return true;
+    }
 };
 
 } // namespace Loadwick

@@ -1,10 +1,15 @@
 #include "probe/PosixFileSystem.h"
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
 #include <memory>
 #include <string>
 
 #include <dirent.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 
 #include "probe/FolderEntryKind.h"
 
@@ -17,6 +22,12 @@ struct ListingCloser
     void operator()(DIR *listing) const noexcept { ::closedir(listing); }
 };
 using Listing = std::unique_ptr<DIR, ListingCloser>;
+
+/// File systems that give a folder a link for its name, one for its ".", and one for the ".." of
+/// each folder in it, and never two when there is one. Others give always one (btrfs), always two
+/// (some of the network), or what the layer on top has (overlays).
+constexpr std::array<decltype(statfs::f_type), 3> linkCounters{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,
+                                                               TMPFS_MAGIC};
 
 unsigned char typeOf([[maybe_unused]] const dirent &entry) noexcept
 {
@@ -51,9 +62,25 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
 
 bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
 {
+    // A link that leads nowhere is an entry too, and what cannot be looked at may be one.
     struct stat status
     {};
-    return ::stat(path.c_str(), &status) == 0;
+    return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;
+}
+
+bool PosixFileSystem::mayHoldFolders(const std::filesystem::path &folder) const
+{
+    // What cannot be had stays 0, which rules nothing out.
+    constexpr nlink_t linksWithoutFolders = 2;
+    struct stat status
+    {};
+    (void)::lstat(folder.c_str(), &status);
+    if (status.st_nlink != linksWithoutFolders)
+        return true;
+    struct statfs disk
+    {};
+    (void)::statfs(folder.c_str(), &disk);
+    return std::find(linkCounters.begin(), linkCounters.end(), disk.f_type) == linkCounters.end();
 }
 
 } // namespace Loadwick

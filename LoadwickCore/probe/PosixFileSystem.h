@@ -11,6 +11,7 @@ class PosixFileSystem : public FileSystem
 public:
     void list(const std::filesystem::path &folder, const Visitor &visit) const override;
     [[nodiscard]] bool mayHold(const std::filesystem::path &path) const override;
+    [[nodiscard]] bool mayHoldFolders(const std::filesystem::path &folder) const override;
 };
 
 } // namespace Loadwick

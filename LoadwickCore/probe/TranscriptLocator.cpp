@@ -22,7 +22,8 @@ bool isPlainFileName(std::string_view name) noexcept
 }
 
 /// A walk through the folders below a root. The folders still to be listed are kept in a list of
-/// their own, so that no depth is too great; one that answers to the wanted name comes next.
+/// their own, so that no depth is too great; one that answers to the wanted name comes next, and
+/// one that neither does nor holds folders need not be listed.
 class Search
 {
 public:
@@ -65,7 +66,7 @@ private:
     {
         if (m_fileSystem.mayHold(folder / m_wantedName))
             m_pending.push_front(std::move(folder));
-        else
+        else if (m_fileSystem.mayHoldFolders(folder))
             m_pending.push_back(std::move(folder));
     }
 

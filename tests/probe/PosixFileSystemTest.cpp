@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "support/EnvironmentSwap.h"
 #include "support/PlainPermissions.h"
 #include "support/TemporaryFolder.h"
 
@@ -109,6 +110,36 @@ TEST(PosixFileSystemTest, holdsWhatAnswersToAPath)
     EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "inner/file"));
     EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "inner"));
     EXPECT_FALSE(PosixFileSystem().mayHold(folder.path() / "other/file"));
+}
+
+TEST(PosixFileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
+{
+    const TemporaryFolder folder;
+    fs::create_symlink("missing", folder.path() / "link");
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "link"));
+    (void)folder.write("shut/file", "");
+    fs::permissions(folder.path() / "shut", fs::perms::owner_read);
+    const PlainPermissions plain;
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "shut/file"));
+}
+
+TEST(PosixFileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
+{
+    const EnvironmentSwap swap({"TMPDIR=/dev/shm"});
+    const TemporaryFolder folder;
+    (void)folder.write("flat/file", "");
+    (void)folder.write("deep/.hidden/file", "");
+    EXPECT_FALSE(PosixFileSystem().mayHoldFolders(folder.path() / "flat"));
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "deep"));
+    fs::remove_all(folder.path() / "deep/.hidden");
+    EXPECT_FALSE(PosixFileSystem().mayHoldFolders(folder.path() / "deep"));
+}
+
+TEST(PosixFileSystemTest, rulesNoFolderOutWhereNobodyKeepsCount)
+{
+    const TemporaryFolder folder;
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders("/proc/self/fd")) << "two links, and no such disk";
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "missing"));
 }
 
 } // namespace Loadwick

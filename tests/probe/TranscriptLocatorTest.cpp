@@ -216,6 +216,33 @@ TEST(TranscriptLocatorTest, believesAListingAlone)
     EXPECT_FALSE(TranscriptLocator::find("s", "/r", fileSystem));
 }
 
+TEST(TranscriptLocatorTest, passesOverAFolderThatHoldsNeitherTheNameNorFolders)
+{
+    class CountingFileSystem : public InMemoryFileSystem
+    {
+    public:
+        [[nodiscard]] bool mayHoldFolders(const fs::path &folder) const override
+        {
+            return folder == "/r/deep";
+        }
+    };
+    CountingFileSystem fileSystem;
+    for (const char *folder : {"/r/flat", "/r/deep", "/r/deep/flat", "/r/deep/wanted"})
+        fileSystem.add(folder, EntryKind::folder);
+    EXPECT_FALSE(TranscriptLocator::find("s", "/r", fileSystem));
+    EXPECT_EQ(fileSystem.listed(), (std::vector<fs::path>{"/r", "/r/deep"}));
+    fileSystem.add("/r/deep/wanted/s.jsonl", EntryKind::file);
+    EXPECT_EQ(TranscriptLocator::find("s", "/r", fileSystem), "/r/deep/wanted/s.jsonl");
+}
+
+TEST(TranscriptLocatorTest, findsALinkThatLeadsNowhereInAFolderWithoutFolders)
+{
+    const TemporaryFolder folder;
+    fs::create_directory(folder.path() / "flat");
+    fs::create_symlink("missing", folder.path() / "flat/s.jsonl");
+    EXPECT_EQ(found("s", folder.path()), folder.path() / "flat/s.jsonl");
+}
+
 TEST(TranscriptLocatorTest, listsNoHiddenFolder)
 {
     InMemoryFileSystem fileSystem;
