@@ -5,6 +5,7 @@
 
 #include "measure/data/GeneratedFiles.h"
 #include "measure/data/GeneratedText.h"
+#include "support/EnvironmentSwap.h"
 #include "support/Measurement.h"
 #include "support/TemporaryFolder.h"
 
@@ -32,12 +33,19 @@ std::map<std::string, std::int64_t> ofInstructions(std::int64_t fileCount,
     return counters;
 }
 
-/// The counters of some attempts to find a session among 1,100 entries in two folders.
-std::map<std::string, std::int64_t> ofAttempts(const std::string &session, int attempts)
+/// The counters of some attempts to find a session among 1,100 entries in two folders, on a disk
+/// that keeps count of a folder's folders. `inner` are folders to make in each of the two.
+std::map<std::string, std::int64_t> ofAttempts(const std::string &session, int attempts,
+                                               const std::vector<std::string> &inner = {})
 {
+    const EnvironmentSwap swap({"TMPDIR=/dev/shm"});
     const TemporaryFolder folder;
-    GeneratedFiles::projects(folder.path() / "projects", 1'100);
-    return measured({"attempts", folder.path() / "projects", session, text(attempts)});
+    const fs::path root = folder.path() / "projects";
+    GeneratedFiles::projects(root, 1'100);
+    for (const fs::directory_entry &project : fs::directory_iterator(root))
+        for (const std::string &name : inner)
+            fs::create_directory(project.path() / name);
+    return measured({"attempts", root, session, text(attempts)});
 }
 
 std::map<std::string, std::int64_t> ofFirstUsage(const fs::path &file)
@@ -65,18 +73,25 @@ TEST(OperationCountersTest, resolvesTheLinksOfAFolderOnceForAllItsFiles)
     EXPECT_EQ(many.at("paths-resolved"), few.at("paths-resolved"));
 }
 
-TEST(OperationCountersTest, listsEachFolderOnceForEachAttempt)
+TEST(OperationCountersTest, listsEachFolderOfFoldersOnceForEachAttempt)
 {
-    const auto once = ofAttempts("nothing", 1);
+    const auto once = ofAttempts("nothing", 1, {"inner", "other"});
     EXPECT_EQ(once.at("outcome"), 0);
-    EXPECT_EQ(once.at("folders-listed"), 3);
+    EXPECT_EQ(once.at("folders-listed"), 3) << "the root, and the two of the projects";
     EXPECT_EQ(once.at("files-opened"), 0);
-    EXPECT_EQ(ofAttempts("nothing", 3).at("folders-listed"), 9);
+    EXPECT_EQ(ofAttempts("nothing", 3, {"inner"}).at("folders-listed"), 9);
 }
 
-TEST(OperationCountersTest, asksEachFolderOnceForTheNameAndLooksAtNoEntry)
+TEST(OperationCountersTest, listsNoFolderThatHoldsFilesAlone)
 {
-    EXPECT_EQ(ofAttempts("nothing", 1).at("paths-looked-at"), 2);
+    const auto thrice = ofAttempts("nothing", 3);
+    EXPECT_EQ(thrice.at("folders-listed"), 3) << "the root";
+    EXPECT_EQ(thrice.at("entries-seen"), 3 * 4) << "and what stands in it";
+}
+
+TEST(OperationCountersTest, asksEachFolderForTheNameAndForFoldersAndLooksAtNoEntry)
+{
+    EXPECT_EQ(ofAttempts("nothing", 1).at("paths-looked-at"), 4);
 }
 
 TEST(OperationCountersTest, opensOneFileOfATranscriptsFolder)
@@ -105,6 +120,22 @@ TEST(OperationCountersTest, readsALongLineOfAUserOnce)
     const fs::path file = folder.path() / "t.jsonl";
     GeneratedFiles::longLineTranscript(file, 100 * pieceSize);
     EXPECT_EQ(ofFirstUsage(file).at("bytes-read"), static_cast<std::int64_t>(fs::file_size(file)));
+}
+
+TEST(OperationCountersTest, parsesNoLineOfATranscriptButTheAssistants)
+{
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "t.jsonl";
+    GeneratedFiles::transcript(file, 10 * pieceSize);
+    EXPECT_EQ(ofFirstUsage(file).at("lines-parsed"), 1);
+}
+
+TEST(OperationCountersTest, parsesEachLineOfAnAnswerOnce)
+{
+    const TemporaryFolder folder;
+    GeneratedFiles::answer(folder.path() / "answer", 300);
+    for (const char *verb : {"slab", "attribution"})
+        EXPECT_EQ(measured({verb, folder.path() / "answer"}).at("lines-parsed"), 300) << verb;
 }
 
 TEST(OperationCountersTest, readsAHistoryOnce)

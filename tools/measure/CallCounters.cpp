@@ -17,8 +17,9 @@ CallCounters &CallCounters::ofProcess() noexcept
 
 void CallCounters::restart() noexcept
 {
-    for (std::atomic<std::int64_t> *counter : {&foldersListed, &entriesSeen, &filesOpened,
-                                               &pathsLookedAt, &pathsResolved, &reads, &bytesRead})
+    for (std::atomic<std::int64_t> *counter :
+         {&foldersListed, &entriesSeen, &filesOpened, &pathsLookedAt, &pathsResolved, &linesParsed,
+          &reads, &bytesRead})
         *counter = 0;
 }
 
@@ -31,8 +32,10 @@ extern "C" {
 DIR *__real_opendir(const char *path);
 dirent *__real_readdir(DIR *listing);
 int __real_open(const char *path, int flags, ...);
+int __real_openat(int folder, const char *path, int flags, ...);
 ssize_t __real_read(int descriptor, void *buffer, size_t size);
 int __real_stat(const char *path, struct stat *status);
+int __real_lstat(const char *path, struct stat *status);
 int __real_fstatat(int folder, const char *path, struct stat *status, int flags);
 char *__real_realpath(const char *path, char *resolved);
 
@@ -52,7 +55,8 @@ dirent *__wrap_readdir(DIR *listing)
 
 int __wrap_open(const char *path, int flags, ...)
 {
-    ++Loadwick::CallCounters::ofProcess().filesOpened;
+    Loadwick::CallCounters &counters = Loadwick::CallCounters::ofProcess();
+    ++((flags & O_PATH) != 0 ? counters.pathsResolved : counters.filesOpened);
     mode_t mode = 0;
     if ((flags & O_CREAT) != 0) {
         va_list arguments;
@@ -61,6 +65,13 @@ int __wrap_open(const char *path, int flags, ...)
         va_end(arguments);
     }
     return __real_open(path, flags, mode);
+}
+
+/// The core creates no file this way.
+int __wrap_openat(int folder, const char *path, int flags, ...)
+{
+    ++Loadwick::CallCounters::ofProcess().filesOpened;
+    return __real_openat(folder, path, flags);
 }
 
 ssize_t __wrap_read(int descriptor, void *buffer, size_t size)
@@ -77,6 +88,12 @@ int __wrap_stat(const char *path, struct stat *status)
 {
     ++Loadwick::CallCounters::ofProcess().pathsLookedAt;
     return __real_stat(path, status);
+}
+
+int __wrap_lstat(const char *path, struct stat *status)
+{
+    ++Loadwick::CallCounters::ofProcess().pathsLookedAt;
+    return __real_lstat(path, status);
 }
 
 int __wrap_fstatat(int folder, const char *path, struct stat *status, int flags)

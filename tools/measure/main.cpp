@@ -45,6 +45,7 @@ void printCounters()
     print("files-opened", counters.filesOpened);
     print("paths-looked-at", counters.pathsLookedAt);
     print("paths-resolved", counters.pathsResolved);
+    print("lines-parsed", counters.linesParsed);
     print("reads", counters.reads);
     print("bytes-read", counters.bytesRead);
     print("peak-kib", peakMemory());
