@@ -55,7 +55,8 @@ class Bench:
         times: dict[str, list[float]] = {}
         for program in ["bench_core", "bench_spawn"]:
             if (self.programs / program).exists():
-                times |= benchmark(self.programs / program, self.build, self.count)
+                for row in {goal["id"] for goal in GOALS["in-process"]}:
+                    times |= benchmark(self.programs / program, self.build, self.count, row)
         for goal in GOALS["in-process"]:
             mine = goal.get("arguments", [""])[0]
             if f"{goal['id']}/ours{mine}" in times:

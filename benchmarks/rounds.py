@@ -53,15 +53,17 @@ def instructions(command: list[str]) -> int:
     return int(found.group(1))
 
 
-def benchmark(program: Path, folder: Path, count: int) -> dict[str, list[float]]:
-    """The times of a Google Benchmark program by name, one for each repetition."""
+def benchmark(program: Path, folder: Path, count: int, row: str) -> dict[str, list[float]]:
+    """The times of a row in a Google Benchmark program by name, one for each repetition. Rows run one
+    by one, so that what a row compares is measured within the same second."""
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
-        subprocess.run([program, f"--benchmark_repetitions={count}", "--benchmark_min_time=0.1",
-                        "--benchmark_enable_random_interleaving=true",
+        subprocess.run([program, f"--benchmark_filter=^{row}/", f"--benchmark_repetitions={count}",
+                        "--benchmark_min_time=0.1", "--benchmark_enable_random_interleaving=true",
                         f"--benchmark_out={out.name}", "--benchmark_out_format=json"],
                        cwd=folder, check=True, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL)
-        runs = json.loads(Path(out.name).read_text(encoding="utf-8"))["benchmarks"]
+        text = Path(out.name).read_text(encoding="utf-8")  # none where the program has no such row
+        runs = json.loads(text)["benchmarks"] if text else []
     times: dict[str, list[float]] = {}
     for run in runs:
         if run["run_type"] == "iteration":
