@@ -7,9 +7,11 @@
 #include <string>
 
 #include <dirent.h>
-#include <linux/magic.h>
 #include <sys/stat.h>
+#if defined(__linux__)
+#include <linux/magic.h>
 #include <sys/statfs.h>
+#endif
 
 #include "probe/FolderEntryKind.h"
 
@@ -23,11 +25,22 @@ struct ListingCloser
 };
 using Listing = std::unique_ptr<DIR, ListingCloser>;
 
-/// File systems that give a folder a link for its name, one for its ".", and one for the ".." of
-/// each folder in it, and never two when there is one. Others give always one (btrfs), always two
-/// (some of the network), or what the layer on top has (overlays).
-constexpr std::array<decltype(statfs::f_type), 3> linkCounters{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,
+/// Whether the disk that holds `folder` gives a folder a link for its name, one for its ".", and
+/// one for the ".." of each folder in it, and never two when there is one. Others give always one
+/// (btrfs), always two (some of the network), or what the layer on top has (overlays).
+bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) noexcept
+{
+#if defined(__linux__)
+    constexpr std::array<decltype(statfs::f_type), 3> counters{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,
                                                                TMPFS_MAGIC};
+    struct statfs disk
+    {};
+    (void)::statfs(folder.c_str(), &disk);
+    return std::find(counters.begin(), counters.end(), disk.f_type) != counters.end();
+#else
+    return false;
+#endif
+}
 
 unsigned char typeOf([[maybe_unused]] const dirent &entry) noexcept
 {
@@ -75,12 +88,7 @@ bool PosixFileSystem::mayHoldFolders(const std::filesystem::path &folder) const
     struct stat status
     {};
     (void)::lstat(folder.c_str(), &status);
-    if (status.st_nlink != linksWithoutFolders)
-        return true;
-    struct statfs disk
-    {};
-    (void)::statfs(folder.c_str(), &disk);
-    return std::find(linkCounters.begin(), linkCounters.end(), disk.f_type) == linkCounters.end();
+    return status.st_nlink != linksWithoutFolders || !countsFoldersAsLinks(folder);
 }
 
 } // namespace Loadwick
