@@ -69,7 +69,6 @@ std::optional<RegularFile> RegularFile::open(const std::string &path, Failure *f
 std::optional<RegularFile> RegularFile::openSeen(const std::string &path, Failure *failure,
                                                  int folder)
 {
-    static_assert(currentFolder == AT_FDCWD);
     constexpr int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     const int descriptor = uninterrupted([&] { return ::openat(folder, path.c_str(), flags); });
     if (descriptor < 0) {

@@ -6,6 +6,8 @@
 #include <span>
 #include <string>
 
+#include <fcntl.h>
+
 namespace Loadwick {
 
 /// A regular file, open for reading. Nothing else is ever opened for long: the path is looked at
@@ -15,7 +17,7 @@ class RegularFile
 {
 public:
     /// The folder of the process, as `openat` takes it.
-    static constexpr int currentFolder = -100;
+    static constexpr int currentFolder = AT_FDCWD;
 
     /// Why there is no file: an `errno` value; 0 means that the path leads to something that is no
     /// regular file.

@@ -11,6 +11,13 @@ namespace Loadwick {
 
 namespace {
 
+/// To go on from a folder, one need not be allowed to list it.
+#if defined(O_PATH)
+constexpr int folderFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+#else
+constexpr int folderFlags = O_SEARCH | O_DIRECTORY | O_CLOEXEC;
+#endif
+
 std::string resolvedPath(const std::string &path)
 {
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
@@ -39,7 +46,7 @@ InstructionFolders::Place InstructionFolders::placeOf(const std::string &url)
 {
     const std::size_t nameStart = url.rfind('/') + 1;
     const Folder &folder = folderAt(url.substr(0, nameStart));
-    Place place{.identityPath = {}, .type = 0, .folder = AT_FDCWD, .name = url};
+    Place place{.identityPath = {}, .type = 0, .folder = RegularFile::currentFolder, .name = url};
     if (folder.descriptor.isOpen()) {
         place.folder = folder.descriptor.number();
         place.name.erase(0, nameStart);
@@ -62,10 +69,9 @@ const InstructionFolders::Folder &InstructionFolders::folderAt(const std::string
     const auto known = m_folders.find(path);
     if (known != m_folders.end())
         return known->second;
-    constexpr int flags = O_PATH | O_DIRECTORY | O_CLOEXEC;
     const bool isHeld = m_folders.size() < heldLimit;
     Folder folder{.resolvedPath = withSlash(resolvedPath(path)),
-                  .descriptor = FileDescriptor(isHeld ? ::open(path.c_str(), flags) : -1)};
+                  .descriptor = FileDescriptor(isHeld ? ::open(path.c_str(), folderFlags) : -1)};
     return m_folders.emplace(path, std::move(folder)).first->second;
 }
 

@@ -24,10 +24,9 @@ public:
     /// A file that was looked at and not opened.
     struct Place
     {
-        std::string
-            identityPath; ///< with every link resolved; a path that leads nowhere is its own
-        mode_t type;      ///< a link being one itself; 0 when nothing is there
-        int folder;       ///< where `name` begins, as `openat` takes it
+        std::string identityPath; ///< no link in it; a path that leads nowhere is its own
+        mode_t type;              ///< a link being one itself; 0 when nothing is there
+        int folder;               ///< where `name` begins, as `openat` takes it
         std::string name;
     };
 
