@@ -14,7 +14,7 @@ constexpr std::string_view separatorHead = "\xE2\x80"; // U+2028 and U+2029 end 
 /// Whether no line break begins with that byte: it is printable, and ASCII.
 constexpr bool isPlain(char byte) noexcept
 {
-    return byte >= ' ' && static_cast<unsigned char>(byte) < 0x80;
+    return static_cast<unsigned char>(byte - ' ') < 0x80 - ' ';
 }
 
 /// Bytes at the head of a text that are plain, looked at eight at a time as long as all eight are.
