@@ -1,16 +1,17 @@
 import QtQuick
 import Loadwick
 
-// The words of a menu's item, in the middle of it.
+// The words of a menu's item, in the middle of it, and its mark at their end.
 Item {
     id: lines
 
     required property string title
     required property string detail
+    required property bool marked
 
     Column {
-        width: parent.width
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; right: lines.marked ? mark.left : parent.right; verticalCenter: parent.verticalCenter }
+        anchors.rightMargin: lines.marked ? AppTheme.smallSpace : 0
 
         PlainLabel {
             width: parent.width
@@ -29,5 +30,14 @@ Item {
             visible: lines.detail.length > 0
             Accessible.ignored: true
         }
+    }
+    Symbol {
+        id: mark
+
+        objectName: "mark"
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        name: "checkmark.circle.fill"
+        tint: AppTheme.accent
+        visible: lines.marked
     }
 }

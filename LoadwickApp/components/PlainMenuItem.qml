@@ -9,6 +9,8 @@ MenuItem {
     required property string title
     // A second, quieter line; none when empty.
     required property string detail
+    // The one of several that holds now.
+    property bool marked: false
 
     implicitHeight: item.detail.length > 0 ? 48 : AppTheme.controlHeight
     leftPadding: AppTheme.mediumSpace
@@ -18,10 +20,13 @@ MenuItem {
     opacity: item.enabled ? 1 : AppTheme.disabledOpacity
     Accessible.name: item.title
     Accessible.description: item.detail
+    Accessible.checkable: item.marked
+    Accessible.checked: item.marked
 
     contentItem: MenuLines {
         title: item.title
         detail: item.detail
+        marked: item.marked
     }
     background: Rectangle {
         radius: AppTheme.tightSpace

@@ -1,7 +1,8 @@
 import QtQuick
 import Loadwick
 
-// The repositories that can be chosen again; one whose folder is gone stands there disabled.
+// The repositories that can be chosen again. The one that is chosen has a mark, one whose folder is
+// gone stands there disabled.
 PlainMenu {
     id: menu
 
@@ -17,8 +18,10 @@ PlainMenu {
 
             required property int index
             required property bool isThere
+            required property bool isCurrent
 
             enabled: row.isThere
+            marked: row.isCurrent
             onTriggered: (row.menu as RecentMenu).recent.choose(row.index)
         }
     }

@@ -42,13 +42,22 @@ RecentRepositories::RecentRepositories(ScanModel &model, ContentPresenter &conte
     : m_model(model), m_content(content), m_dispatcher(std::move(dispatcher))
 {
     m_model.history().observe({.didChange = [this] { showHistory(); }});
+    m_model.selection().observe({.didChange = [this] { showSelection(); }});
     showHistory();
 }
 
 void RecentRepositories::showHistory()
 {
     m_rows.setRows(recentRows(m_model.history().get()));
+    showSelection();
     Q_EMIT changed();
+}
+
+void RecentRepositories::showSelection()
+{
+    const auto &selection = m_model.selection().get();
+    m_rows.setCurrent(selection ? std::optional<std::filesystem::path>(selection->path())
+                                : std::nullopt);
 }
 
 void RecentRepositories::look()
@@ -75,10 +84,15 @@ void RecentRepositories::lookFor(const std::filesystem::path &folder)
 
 void RecentRepositories::choose(int row)
 {
-    const auto &rows = m_rows.rows();
-    if (row < 0 || row >= count() || !rows[static_cast<std::size_t>(row)].isThere)
+    if (row < 0 || row >= count())
         return;
-    m_content.choose(std::filesystem::path(rows[static_cast<std::size_t>(row)].folder));
+    const RecentRows::Row chosen = m_rows.rows()[static_cast<std::size_t>(row)];
+    if (!chosen.isThere)
+        return;
+    if (chosen.isCurrent)
+        m_content.setPageIndex(AppPage::overview);
+    else
+        m_content.choose(chosen.folder);
 }
 
 } // namespace Loadwick

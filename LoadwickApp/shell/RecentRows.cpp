@@ -22,6 +22,14 @@ void RecentRows::setIsThere(const std::filesystem::path &folder, bool isThere)
     }
 }
 
+void RecentRows::setCurrent(const std::optional<std::filesystem::path> &folder)
+{
+    for (Row &row : m_rows)
+        row.isCurrent = row.folder == folder;
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {IsCurrent});
+}
+
 int RecentRows::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -39,6 +47,8 @@ QVariant RecentRows::data(const QModelIndex &index, int role) const
         return row.detail;
     case IsThere:
         return row.isThere;
+    case IsCurrent:
+        return row.isCurrent;
     default:
         return {};
     }
@@ -46,7 +56,7 @@ QVariant RecentRows::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> RecentRows::roleNames() const
 {
-    return {{Title, "title"}, {Detail, "detail"}, {IsThere, "isThere"}};
+    return {{Title, "title"}, {Detail, "detail"}, {IsThere, "isThere"}, {IsCurrent, "isCurrent"}};
 }
 
 } // namespace Loadwick

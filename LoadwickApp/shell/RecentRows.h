@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include <QAbstractListModel>
@@ -8,7 +9,7 @@
 
 namespace Loadwick {
 
-/// One row per repository that can be chosen again: "title", "detail" and "isThere".
+/// One row per repository that can be chosen again: "title", "detail", "isThere" and "isCurrent".
 class RecentRows final : public QAbstractListModel
 {
     Q_OBJECT
@@ -19,7 +20,8 @@ public:
         QString title;
         QString detail; ///< where it is
         std::filesystem::path folder;
-        bool isThere = false; ///< as far as is known
+        bool isThere = false;   ///< as far as is known
+        bool isCurrent = false; ///< the one that is chosen now
     };
 
     using QAbstractListModel::QAbstractListModel;
@@ -29,6 +31,8 @@ public:
 
     /// Every row of that folder.
     void setIsThere(const std::filesystem::path &folder, bool isThere);
+    /// Its row and no other; none: no row.
+    void setCurrent(const std::optional<std::filesystem::path> &folder);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
@@ -39,7 +43,8 @@ private:
     {
         Title = Qt::UserRole,
         Detail,
-        IsThere
+        IsThere,
+        IsCurrent
     };
 
     std::vector<Row> m_rows;

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "support/TestRegistry.h"
+#include "support/VisualItems.h"
 #include "support/WindowFixture.h"
 
 namespace Loadwick {
@@ -44,6 +45,40 @@ private Q_SLOTS:
         m_window->press(Qt::Key_Down);
         m_window->press(Qt::Key_Return);
         QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
+    }
+
+    void theOneThatIsChosenKeepsItsResult()
+    {
+        scan("one");
+        m_window->loadwick().content().setPageIndex(1);
+        openList();
+        m_window->press(Qt::Key_Down);
+        m_window->press(Qt::Key_Return);
+        QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Complete);
+        QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
+    }
+
+    void onlyTheOneThatIsChosenHasAMark()
+    {
+        scan("one");
+        scan("two");
+        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
+                                  std::make_shared<SteppingDispatcher>());
+        openList();
+        QCOMPARE(markedRows(recent), QStringList{QStringLiteral("two")});
+        QCOMPARE(marks().size(), 1);
+        m_window->press(Qt::Key_Escape);
+        m_window->choose(m_window->folder().path() / "one");
+        openList();
+        QCOMPARE(markedRows(recent), QStringList{QStringLiteral("one")});
+        QCOMPARE(marks().size(), 1);
+    }
+
+    void theDialogChoosesAnewWhatIsChosen()
+    {
+        scan("one");
+        m_window->choose(m_window->folder().path() / "one");
+        QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Idle);
     }
 
     void oneThatIsGoneIsShownDisabled()
@@ -127,6 +162,22 @@ private:
     {
         press(list);
         m_window->finishScan(); // what looks for the folders
+    }
+
+    [[nodiscard]] static QStringList markedRows(RecentRepositories &recent)
+    {
+        const QAbstractItemModel &rows = *recent.rows();
+        const QHash<int, QByteArray> roles = rows.roleNames();
+        QStringList marked;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            if (rows.index(row, 0).data(roles.key("isCurrent")).toBool())
+                marked.append(rows.index(row, 0).data(roles.key("title")).toString());
+        return marked;
+    }
+
+    [[nodiscard]] QList<QQuickItem *> marks() const
+    {
+        return visibleItems(m_window->loadwick().window().contentItem(), QStringLiteral("mark"));
     }
 
     void press(const QString &name)
