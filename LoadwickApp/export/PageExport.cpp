@@ -1,11 +1,11 @@
 #include "export/PageExport.h"
 
 #include <exception>
-#include <system_error>
 #include <utility>
 
 #include <QPointer>
 
+#include "export/SavingFailure.h"
 #include "history/AtomicFile.h"
 #include "probe/PathText.h"
 #include "shell/QtText.h"
@@ -13,13 +13,17 @@
 namespace Loadwick {
 namespace {
 
-bool writeFile(const FileSaver::Place &place, const QByteArray &bytes)
+/// Empty when the file is there.
+std::error_code writeFile(const FileSaver::Place &place, const QByteArray &bytes)
 {
-    std::error_code error;
-    const bool isTaken = !place.mayReplace && std::filesystem::exists(place.file, error);
-    return !isTaken && !bytes.isEmpty() &&
-           AtomicFile::replace(place.file,
-                               {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    std::error_code failure;
+    if (!place.mayReplace && std::filesystem::exists(place.file, failure))
+        return std::make_error_code(std::errc::file_exists);
+    if (bytes.isEmpty()) // a picture too large to be made
+        return std::make_error_code(std::errc::not_enough_memory);
+    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    static_cast<void>(AtomicFile::replace(place.file, content, failure));
+    return failure;
 }
 
 bool isDrawing(const std::filesystem::path &file)
@@ -68,21 +72,22 @@ void PageExport::write(const FileSaver::Place &place, const ChartFile::Bytes &by
     const QPointer<PageExport> page(this);
     try {
         m_dispatcher->runInBackground([page, place, bytes, dispatcher = m_dispatcher] {
-            dispatcher->postToInterface([page, place, isWritten = writeFile(place, bytes())] {
+            dispatcher->postToInterface([page, place, failure = writeFile(place, bytes())] {
                 if (page)
-                    page->tell(place, isWritten);
+                    page->tell(place, failure);
             });
         });
     } catch (const std::exception &) {
-        tell(place, false);
+        tell(place, std::make_error_code(std::errc::resource_unavailable_try_again));
     }
 }
 
-void PageExport::tell(const FileSaver::Place &place, bool isWritten)
+void PageExport::tell(const FileSaver::Place &place, const std::error_code &failure)
 {
-    m_failed = !isWritten;
-    m_outcome = isWritten ? tr("Saved as %1.").arg(qtText(pathText(place.file.filename())))
-                          : tr("%1 could not be written.").arg(qtText(pathText(place.file)));
+    m_failed = static_cast<bool>(failure);
+    m_outcome = m_failed ? tr("%1 could not be written: %2")
+                               .arg(qtText(pathText(place.file)), SavingFailure::reason(failure))
+                         : tr("Saved as %1.").arg(qtText(pathText(place.file.filename())));
     Q_EMIT changed();
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <system_error>
 
 #include <QColor>
 #include <QObject>
@@ -51,7 +52,7 @@ Q_SIGNALS:
 
 private:
     void write(const FileSaver::Place &place, const ChartFile::Bytes &bytes);
-    void tell(const FileSaver::Place &place, bool isWritten);
+    void tell(const FileSaver::Place &place, const std::error_code &failure);
 
     Contents m_contents;
     FileSaver &m_saver;

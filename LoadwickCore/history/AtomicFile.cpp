@@ -1,5 +1,6 @@
 #include "history/AtomicFile.h"
 
+#include <cerrno>
 #include <optional>
 
 #include <fcntl.h>
@@ -40,6 +41,21 @@ std::optional<fs::path> linkTarget(fs::path path)
     return std::nullopt;
 }
 
+/// Empty for a file, and where nothing is yet.
+std::error_code whyNotToReplace(const fs::path &path)
+{
+    std::error_code unknown;
+    switch (fs::symlink_status(path, unknown).type()) {
+    case fs::file_type::regular:
+    case fs::file_type::not_found:
+        return {};
+    case fs::file_type::directory:
+        return std::make_error_code(std::errc::is_a_directory);
+    default:
+        return unknown ? unknown : std::make_error_code(std::errc::not_supported);
+    }
+}
+
 /// Makes a rename or an unlink in the folder of `path` outlive a power cut, where the file system
 /// can.
 void syncFolderOf(const fs::path &path)
@@ -54,16 +70,26 @@ void syncFolderOf(const fs::path &path)
 
 bool replace(const fs::path &path, std::string_view bytes)
 {
+    std::error_code unheard;
+    return replace(path, bytes, unheard);
+}
+
+bool replace(const fs::path &path, std::string_view bytes, std::error_code &failure)
+{
     const std::optional<fs::path> target = linkTarget(path);
-    if (!target)
+    if (!target) {
+        failure = std::make_error_code(std::errc::too_many_symbolic_link_levels);
         return false;
+    }
     TemporaryFile::removeAbandoned(*target);
-    const fs::file_type type = typeOf(*target);
-    if (type != fs::file_type::regular && type != fs::file_type::not_found)
+    failure = whyNotToReplace(*target);
+    if (failure)
         return false;
     std::optional<TemporaryFile> file = TemporaryFile::createFor(*target);
-    if (!file || !file->write(bytes) || !file->replace(*target))
+    if (!file || !file->write(bytes) || !file->replace(*target)) {
+        failure.assign(errno, std::generic_category());
         return false;
+    }
     syncFolderOf(*target);
     return true;
 }

@@ -36,7 +36,10 @@ class SavingTest(EndToEndCase):
         program = self.trends()
         program.window.press("Save Chart…")
         program.window.press("Save")
-        program.window.wait_for(f"{file} could not be written.")
+        program.window.wait_for(
+            f"{file} could not be written: a file of that name is there already. "
+            "Choose another name."
+        )
         self.assertEqual(file.read_bytes(), b"precious")
 
     def test_thinking_better_of_it_saves_nothing(self) -> None:

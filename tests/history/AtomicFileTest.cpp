@@ -260,6 +260,50 @@ TEST(AtomicFileTest, failsWithoutTheFolder)
     EXPECT_TRUE(namesIn(folder.path()).empty());
 }
 
+TEST(AtomicFileTest, saysWhyTheFileIsNotThere)
+{
+    const TemporaryFolder folder;
+    folder.write("folder.csv/inner", "kept");
+    fs::create_symlink("loop.csv", folder.path() / "loop.csv");
+    ASSERT_EQ(mkfifo((folder.path() / "fifo.csv").c_str(), 0600), 0);
+    const auto failureAt = [&folder](const fs::path &name) {
+        std::error_code failure;
+        EXPECT_FALSE(AtomicFile::replace(folder.path() / name, "new", failure)) << name;
+        return failure;
+    };
+    EXPECT_EQ(failureAt("missing/file.csv"), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(failureAt("folder.csv/inner/file.csv"), std::errc::not_a_directory);
+    EXPECT_EQ(failureAt("folder.csv"), std::errc::is_a_directory);
+    EXPECT_EQ(failureAt("loop.csv"), std::errc::too_many_symbolic_link_levels);
+    EXPECT_EQ(failureAt("fifo.csv"), std::errc::not_supported);
+    EXPECT_EQ(failureAt(std::string(300, 'n')), std::errc::filename_too_long);
+}
+
+TEST(AtomicFileTest, saysThatTheSystemTookNoMoreBytes)
+{
+    const TemporaryFolder folder;
+    const fs::path path = folder.path() / "file.csv";
+    EXPECT_EQ(exitStatusOf([&path] {
+                  const rlimit small = {.rlim_cur = 4'096, .rlim_max = 4'096};
+                  setrlimit(RLIMIT_FSIZE, &small);
+                  static_cast<void>(signal(SIGXFSZ, SIG_IGN));
+                  std::error_code failure;
+                  const bool isWritten =
+                      AtomicFile::replace(path, std::string(10'000, 'x'), failure);
+                  return !isWritten && failure == std::errc::file_too_large ? 0 : 1;
+              }),
+              0);
+    EXPECT_TRUE(namesIn(folder.path()).empty());
+}
+
+TEST(AtomicFileTest, saysNothingAgainstAFileThatIsThere)
+{
+    const TemporaryFolder folder;
+    std::error_code failure = std::make_error_code(std::errc::io_error);
+    EXPECT_TRUE(AtomicFile::replace(folder.path() / "file.csv", "new", failure));
+    EXPECT_FALSE(failure);
+}
+
 TEST(AtomicFileTest, worksInTheCurrentFolder)
 {
     const TemporaryFolder folder;

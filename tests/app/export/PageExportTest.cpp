@@ -92,20 +92,22 @@ private Q_SLOTS:
         save("Save Data…", "trend.csv");
         QCOMPARE(content(file), QByteArray("precious"));
         QVERIFY(m_window->shows(QString::fromStdString(file.string()) +
-                                QStringLiteral(" could not be written.")));
+                                QStringLiteral(" could not be written: its folder is not there.")));
         m_mayReplace = true;
         save("Save Data…", "trend.csv");
         QVERIFY(content(file).startsWith("Repository,"));
         QVERIFY(m_window->shows(QStringLiteral("Saved as trend.csv.")));
     }
 
-    void aFailedWriteSaysSo()
+    void aFailedWriteSaysWhy()
     {
         m_window->loadwick().content().setPageIndex(1);
         const auto file = save("Save Chart…", "no such folder/trend.png");
         QVERIFY(!std::filesystem::exists(file));
-        QVERIFY(m_window->shows(QString::fromStdString(file.string()) +
-                                QStringLiteral(" could not be written.")));
+        QVERIFY(m_window->shows(
+            QString::fromStdString(file.string()) +
+            QStringLiteral(" could not be written: a file of that name is there already. "
+                           "Choose another name.")));
     }
 
     void thinkingBetterOfItSavesNothing()
