@@ -14,6 +14,8 @@ ReportSurface {
     readonly property real valueWidth: Math.ceil(widest.advanceWidth)
 
     SectionHeader {
+        id: header
+
         Layout.fillWidth: true
         title: qsTr("Category for category")
         detail: qsTr("Same categories, every recorded repository, on one axis. Totals are authoritative; the category splits are local estimates.")
@@ -65,6 +67,8 @@ ReportSurface {
         Layout.fillWidth: true
         exporter: card.exporter
         chart: picture
+        title: header.title
+        lines: [header.detail, card.compare.reading[0]]
     }
 
     CombinedPicture {

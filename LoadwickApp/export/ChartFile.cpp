@@ -9,31 +9,29 @@ namespace Loadwick::ChartFile {
 namespace {
 
 constexpr int pixelsPerPoint = 2;
-constexpr int margin = 16;
 constexpr int highestImage = 32'000; // above it, many programs open no picture
 
-QSize sizeWithMargin(const QQuickPaintedItem &chart)
+QSize sizeOf(const QQuickPaintedItem &chart, const PictureFrame &frame)
 {
-    const QSize size = chart.size().toSize() + QSize(2 * margin, 2 * margin);
-    return size.boundedTo(QSize(highestImage, highestImage) / pixelsPerPoint);
+    return frame.sizeAround(chart.size())
+        .boundedTo(QSize(highestImage, highestImage) / pixelsPerPoint);
 }
 
-void paint(QQuickPaintedItem &chart, QPainter &painter, const QColor &ground)
+void paint(QQuickPaintedItem &chart, const PictureFrame &frame, QPainter &painter)
 {
-    painter.fillRect(QRect(QPoint(0, 0), sizeWithMargin(chart)), ground);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(margin, margin);
+    frame.paint(painter, sizeOf(chart, frame));
     chart.paint(&painter);
 }
 
 } // namespace
 
-Bytes png(QQuickPaintedItem &chart, const QColor &ground)
+Bytes png(QQuickPaintedItem &chart, const PictureFrame &frame)
 {
-    QImage image(sizeWithMargin(chart) * pixelsPerPoint, QImage::Format_RGB32);
+    QImage image(sizeOf(chart, frame) * pixelsPerPoint, QImage::Format_RGB32);
     QPainter painter(&image);
     painter.scale(pixelsPerPoint, pixelsPerPoint);
-    paint(chart, painter, ground);
+    paint(chart, frame, painter);
     painter.end();
     return [image] {
         QBuffer file;
@@ -43,15 +41,16 @@ Bytes png(QQuickPaintedItem &chart, const QColor &ground)
     };
 }
 
-Bytes svg(QQuickPaintedItem &chart, const QColor &ground)
+Bytes svg(QQuickPaintedItem &chart, const PictureFrame &frame)
 {
     QBuffer file;
     QSvgGenerator generator;
     generator.setOutputDevice(&file);
-    generator.setSize(sizeWithMargin(chart));
-    generator.setViewBox(QRect(QPoint(0, 0), sizeWithMargin(chart)));
+    generator.setTitle(frame.title());
+    generator.setSize(sizeOf(chart, frame));
+    generator.setViewBox(QRect(QPoint(0, 0), sizeOf(chart, frame)));
     QPainter painter(&generator);
-    paint(chart, painter, ground);
+    paint(chart, frame, painter);
     painter.end();
     return [bytes = file.data()] { return bytes; };
 }

@@ -3,8 +3,9 @@
 #include <functional>
 
 #include <QByteArray>
-#include <QColor>
 #include <QQuickPaintedItem>
+
+#include "export/PictureFrame.h"
 
 /// Charts as files.
 namespace Loadwick::ChartFile {
@@ -12,10 +13,10 @@ namespace Loadwick::ChartFile {
 /// Makes the bytes of a file; may be called on any thread.
 using Bytes = std::function<QByteArray()>;
 
-/// The chart as it is now, in twice its size, on a ground of one colour.
-[[nodiscard]] Bytes png(QQuickPaintedItem &chart, const QColor &ground);
+/// The chart as it is now, in its frame, in twice its size.
+[[nodiscard]] Bytes png(QQuickPaintedItem &chart, const PictureFrame &frame);
 
 /// The same as a drawing of lines and letters.
-[[nodiscard]] Bytes svg(QQuickPaintedItem &chart, const QColor &ground);
+[[nodiscard]] Bytes svg(QQuickPaintedItem &chart, const PictureFrame &frame);
 
 } // namespace Loadwick::ChartFile

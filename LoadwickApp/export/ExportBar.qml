@@ -8,6 +8,9 @@ RowLayout {
 
     required property PageExport exporter
     required property PaintedItem chart
+    // What the picture says above the chart.
+    required property string title
+    required property list<string> lines
 
     spacing: AppTheme.mediumSpace
 
@@ -26,6 +29,18 @@ RowLayout {
     PushButton {
         title: qsTr("Save Chart…")
         outlined: true
-        onClicked: bar.exporter.saveChart(bar.chart, AppTheme.surface)
+        onClicked: bar.exporter.saveChart(bar.chart, frame)
+    }
+
+    PictureFrame {
+        id: frame
+
+        title: bar.title
+        lines: bar.lines
+        titleFont: AppTheme.headlineFont
+        font: AppTheme.subheadlineFont
+        textColor: AppTheme.text
+        secondaryTextColor: AppTheme.secondaryText
+        ground: AppTheme.surface
     }
 }

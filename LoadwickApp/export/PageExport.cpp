@@ -52,18 +52,19 @@ void PageExport::saveTable()
     });
 }
 
-void PageExport::saveChart(QQuickPaintedItem *chart, const QColor &ground)
+void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
 {
     const QPointer<PageExport> page(this);
     const QPointer<QQuickPaintedItem> shown(chart);
+    const QPointer<PictureFrame> around(frame);
     const FileSaver::Request request = {
         .title = tr("Save the chart"),
         .name = m_contents.name + QStringLiteral(".png"),
         .filters = {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)")}};
-    m_saver.open(request, [page, shown, ground](const FileSaver::Place &place) {
-        if (page && shown)
-            page->write(place, isDrawing(place.file) ? ChartFile::svg(*shown, ground)
-                                                     : ChartFile::png(*shown, ground));
+    m_saver.open(request, [page, shown, around](const FileSaver::Place &place) {
+        if (page && shown && around)
+            page->write(place, isDrawing(place.file) ? ChartFile::svg(*shown, *around)
+                                                     : ChartFile::png(*shown, *around));
     });
 }
 

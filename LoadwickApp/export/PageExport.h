@@ -5,7 +5,6 @@
 #include <string>
 #include <system_error>
 
-#include <QColor>
 #include <QObject>
 #include <QQuickPaintedItem>
 #include <QString>
@@ -13,6 +12,7 @@
 
 #include "export/ChartFile.h"
 #include "export/FileSaver.h"
+#include "export/PictureFrame.h"
 #include "model/TaskDispatcher.h"
 
 namespace Loadwick {
@@ -45,7 +45,7 @@ public:
     Q_INVOKABLE void saveTable();
 
     /// As a drawing where the file's name ends in ".svg", else as a picture.
-    Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, const QColor &ground);
+    Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, Loadwick::PictureFrame *frame);
 
 Q_SIGNALS:
     void changed();

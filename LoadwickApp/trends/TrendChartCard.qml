@@ -9,6 +9,8 @@ ReportSurface {
     required property TrendChartPresenter chart
     // None: there is nothing to save from here.
     property PageExport exporter: null
+    // What the page is about, for those who see the picture without it.
+    property string subject: ""
     readonly property bool isEmpty: card.chart.emptyText.length > 0
 
     TrendPlaceholder {
@@ -18,6 +20,8 @@ ReportSurface {
         visible: card.isEmpty
     }
     SectionHeader {
+        id: header
+
         Layout.fillWidth: true
         title: qsTr("Startup tokens per scan")
         detail: qsTr("Each point is one recorded scan; every total was reported by Claude.")
@@ -61,6 +65,8 @@ ReportSurface {
         Layout.fillWidth: true
         exporter: card.exporter
         chart: plot
+        title: header.title
+        lines: [card.subject, header.detail]
         visible: card.exporter !== null && !card.isEmpty
     }
 }

@@ -18,6 +18,7 @@ PageColumn {
         Layout.fillWidth: true
         chart: page.trends.chart
         exporter: page.exporter
+        subject: page.trends.detail
     }
     TrendSummaryCard {
         Layout.fillWidth: true

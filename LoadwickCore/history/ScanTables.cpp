@@ -14,7 +14,7 @@ namespace {
 
 void addHead(CsvTable &table)
 {
-    for (const std::string_view name : {"Repository", "Path", "Date", "Total tokens", "Band"})
+    for (const std::string_view name : {"Repository", "Path", "Date (UTC)", "Total tokens", "Band"})
         table.text(name);
 }
 
@@ -67,7 +67,7 @@ std::string categories(std::span<const RecordedScan> scans)
     CsvTable table;
     addHead(table);
     for (const std::string &name : axis)
-        table.text(name);
+        table.text(name + " tokens (estimate)");
     table.endRow();
     for (const RecordedScan &scan : scans) {
         addTotal(table, scan);

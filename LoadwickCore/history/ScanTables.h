@@ -14,7 +14,8 @@ namespace Loadwick::ScanTables {
 
 /// One row per scan, in the order given, and after its total one column per category of any of
 /// them, in the order of `ScanHistory::categoryAxis`; empty where the scan has no such category.
-/// Rows of one scan that share a name are summed. Overflow ends the program.
+/// Its head says that it holds estimates. Rows of one scan that share a name are summed. Overflow
+/// ends the program.
 [[nodiscard]] std::string categories(std::span<const RecordedScan> scans);
 
 } // namespace Loadwick::ScanTables

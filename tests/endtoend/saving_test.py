@@ -27,7 +27,7 @@ class SavingTest(EndToEndCase):
         program.window.press("Save")
         program.window.wait_for("Saved as loadwick-trend.csv.")
         table = (self.home.path / "loadwick-trend.csv").read_bytes().split(b"\r\n")
-        self.assertEqual(table[0], b"Repository,Path,Date,Total tokens,Band")
+        self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
 
     def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:

@@ -9,7 +9,7 @@
 namespace Loadwick {
 namespace {
 
-const std::string head = "Repository,Path,Date,Total tokens,Band";
+const std::string head = "Repository,Path,Date (UTC),Total tokens,Band";
 
 RecordedScanBuilder webshop()
 {
@@ -44,7 +44,7 @@ TEST(ScanTablesTest, categoriesHaveOneColumnEachTheHeaviestFirst)
         webshop().ofTotal(10).withCategory("Tools", 4).withCategory("Memory", 1).build(),
         webshop().named("api").ofTotal(20).withCategory("Memory", 9).build()};
     EXPECT_EQ(ScanTables::categories(scans),
-              head + ",Memory,Tools\r\n"
+              head + ",Memory tokens (estimate),Tools tokens (estimate)\r\n"
                      "webshop,/home/a/webshop,2026-03-04T09:15:27Z,10,Lean,1,4\r\n"
                      "api,/home/a/webshop,2026-03-04T09:15:27Z,20,Lean,9,\r\n");
 }
@@ -62,7 +62,7 @@ TEST(ScanTablesTest, namesFromOutsideAreNoFormulas)
         webshop().named("=cmd|' /C calc'!A0").ofTotal(1).withCategory("@SUM(1,2)", 1).build()};
     const std::string table = ScanTables::categories(scans);
     EXPECT_NE(table.find("\r\n'=cmd|"), std::string::npos);
-    EXPECT_NE(table.find(",\"'@SUM(1,2)\"\r\n"), std::string::npos);
+    EXPECT_NE(table.find(",\"'@SUM(1,2) tokens (estimate)\"\r\n"), std::string::npos);
 }
 
 } // namespace

@@ -1,0 +1,84 @@
+#include "export/PictureFrame.h"
+
+#include <cmath>
+
+#include <QGuiApplication>
+#include <QTextLayout>
+#include <QTextOption>
+
+namespace Loadwick {
+namespace {
+
+constexpr int margin = 16;
+constexpr double lineGap = 2;
+constexpr double chartGap = 16;
+
+/// Breaks the words into lines of that width at most and gives the height of all of them. A name
+/// from outside may be one long word, or hold line feeds.
+double layOut(QTextLayout &words, double width)
+{
+    QTextOption option(QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    words.setTextOption(option);
+    double height = 0;
+    words.beginLayout();
+    for (QTextLine line = words.createLine(); line.isValid(); line = words.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition(QPointF(0, height));
+        height += line.height();
+    }
+    words.endLayout();
+    return height;
+}
+
+QString withLines(QString words)
+{
+    return words.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
+}
+
+double heightOf(const QString &words, const QFont &font, double width)
+{
+    QTextLayout layout(withLines(words), font);
+    return layOut(layout, width);
+}
+
+/// Writes the words and moves the painter's origin below them.
+void write(QPainter &painter, const QString &words, const QFont &font, double width)
+{
+    QTextLayout layout(withLines(words), font);
+    const double height = layOut(layout, width);
+    layout.draw(&painter, QPointF(0, 0));
+    painter.translate(0, height + lineGap);
+}
+
+} // namespace
+
+QSize PictureFrame::sizeAround(const QSizeF &chart) const
+{
+    const double height = headingHeight(chart.width()) + chart.height();
+    return QSize(2 * margin, 2 * margin) +
+           QSize(static_cast<int>(std::round(chart.width())), static_cast<int>(std::ceil(height)));
+}
+
+void PictureFrame::paint(QPainter &painter, const QSize &size) const
+{
+    const double width = size.width() - 2 * margin;
+    painter.fillRect(QRect(QPoint(0, 0), size), m_ground);
+    painter.translate(margin, margin);
+    painter.setPen(m_textColor);
+    write(painter, m_title, m_titleFont, width);
+    painter.setPen(m_secondaryTextColor);
+    for (const QString &line : m_lines)
+        write(painter, line, m_font, width);
+    painter.translate(0, chartGap);
+}
+
+double PictureFrame::headingHeight(double width) const
+{
+    double height = heightOf(m_title, m_titleFont, width) + lineGap;
+    for (const QString &line : m_lines)
+        height += heightOf(line, m_font, width) + lineGap;
+    return height + chartGap;
+}
+
+} // namespace Loadwick

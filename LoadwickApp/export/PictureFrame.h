@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QList>
+#include <QObject>
+#include <QPainter>
+#include <QSize>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace Loadwick {
+
+/// What a saved picture of a chart has around the chart: a ground, a margin, and above the chart
+/// the words without which its figures say nothing elsewhere. Lengths are points.
+class PictureFrame : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString title MEMBER m_title REQUIRED)
+    /// Paragraphs below the title.
+    Q_PROPERTY(QList<QString> lines MEMBER m_lines REQUIRED)
+    Q_PROPERTY(QFont titleFont MEMBER m_titleFont)
+    Q_PROPERTY(QFont font MEMBER m_font)
+    Q_PROPERTY(QColor textColor MEMBER m_textColor)
+    Q_PROPERTY(QColor secondaryTextColor MEMBER m_secondaryTextColor)
+    Q_PROPERTY(QColor ground MEMBER m_ground)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] const QString &title() const { return m_title; }
+
+    /// Of a picture with a chart of that size.
+    [[nodiscard]] QSize sizeAround(const QSizeF &chart) const;
+
+    /// Fills a picture of that size, writes the words, and leaves the painter's origin where the
+    /// chart begins.
+    void paint(QPainter &painter, const QSize &size) const;
+
+private:
+    [[nodiscard]] double headingHeight(double width) const;
+
+    QString m_title;
+    QList<QString> m_lines;
+    QFont m_titleFont;
+    QFont m_font;
+    QColor m_textColor;
+    QColor m_secondaryTextColor;
+    QColor m_ground;
+};
+
+} // namespace Loadwick
