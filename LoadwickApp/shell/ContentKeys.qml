@@ -35,6 +35,13 @@ Item {
         stop.forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
+    // Gives the keyboard a place to begin, if nothing has it.
+    function begin() {
+        const item = keys.Window.activeFocusItem;
+        if (!keys.holds(keys.sidebar, item) && !keys.holds(keys.detail, item))
+            keys.detailStop().forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
     // Keys that go to a page that is not shown would be lost.
     function leaveHiddenPage() {
         const item = keys.Window.activeFocusItem;

@@ -15,6 +15,8 @@ SplitView {
     required property PageExport trendsExport
     required property PageExport compareExport
 
+    function takeKeyboard() { keys.begin(); }
+
     orientation: Qt.Horizontal
 
     handle: Rectangle {

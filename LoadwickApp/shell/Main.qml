@@ -32,6 +32,8 @@ ApplicationWindow {
         Accessible.role: Accessible.Pane
 
         ContentView {
+            id: contents
+
             anchors.fill: parent
             content: window.content
             overview: window.overview
@@ -54,10 +56,12 @@ ApplicationWindow {
         readonly property bool isWanted: window.onboarding.isPresented
 
         onIsWantedChanged: {
-            if (sheet.isWanted)
+            if (sheet.isWanted) {
                 sheet.setSource("OnboardingView.qml", { onboarding: window.onboarding });
-            else
+            } else {
                 sheet.source = "";
+                contents.takeKeyboard();
+            }
         }
     }
 }

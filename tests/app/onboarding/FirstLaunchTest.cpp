@@ -177,6 +177,37 @@ private Q_SLOTS:
                                 QStringLiteral("Next")}));
     }
 
+    void afterItTheKeyboardIsOnTheFirstThingToDo()
+    {
+        openSheet();
+        advance(4);
+        QTRY_COMPARE(focusedName(), QStringLiteral("Choose Repository…"));
+        m_window->chooser().answer = m_window->folder().path();
+        m_window->press(Qt::Key_Return);
+        QCOMPARE(m_window->chooser().openCount, 1);
+    }
+
+    void afterSkippingItTheKeyboardIsThereToo()
+    {
+        openSheet();
+        m_window->press(Qt::Key_Escape);
+        QTRY_COMPARE(focusedName(), QStringLiteral("Choose Repository…"));
+    }
+
+    void whoHadTheKeyboardBeforeHasItAgain()
+    {
+        open();
+        m_window->press(Qt::Key_F6); // into the sidebar or out of it
+        m_window->press(Qt::Key_F6);
+        const QString before = focusedName();
+        QVERIFY(!before.isEmpty());
+        QVERIFY(before != QStringLiteral("Choose Repository…"));
+        openSheet();
+        advance(4);
+        QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
+        QTRY_COMPARE(focusedName(), before);
+    }
+
 private:
     [[nodiscard]] bool shows(const char *name) const
     {
