@@ -13,6 +13,8 @@ Item {
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
     // Not in a list, which is one stop by itself.
     property bool tabStop: true
+    // Its folders stand from left to right, whatever they are written in; only to be looked at.
+    readonly property string shownText: "\u200E" + control.text.split("/").join("/\u200E")
     readonly property alias truncated: label.truncated
     readonly property alias selecting: edit.activeFocus
     readonly property alias selectedText: edit.selectedText
@@ -25,7 +27,7 @@ Item {
         id: label
 
         anchors.fill: parent
-        text: control.text
+        text: control.shownText
         font: control.font
         color: control.color
         elide: Text.ElideMiddle
@@ -84,7 +86,7 @@ Item {
 
         onWantedChanged: {
             if (tip.wanted)
-                tip.setSource("PlainToolTip.qml", { words: control.text, visible: true });
+                tip.setSource("PlainToolTip.qml", { words: control.shownText, visible: true });
             else
                 tip.source = "";
         }

@@ -12,4 +12,12 @@ namespace Loadwick {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+/// A path to be looked at, not to be copied: its folders stand from left to right, whatever they
+/// are written in.
+[[nodiscard]] inline QString shownPath(std::string_view utf8)
+{
+    const QChar mark(0x200E);
+    return mark + qtText(utf8).replace(QLatin1Char('/'), QString(QLatin1Char('/')) + mark);
+}
+
 } // namespace Loadwick

@@ -29,7 +29,7 @@ std::vector<RecentRows::Row> recentRows(std::span<const RecordedScan> history)
             break;
         if (listed.insert(scan.repositoryPath).second)
             rows.push_back({.title = qtText(scan.repositoryName),
-                            .detail = qtText(scan.repositoryPath),
+                            .detail = shownPath(scan.repositoryPath),
                             .folder = scan.repositoryPath});
     }
     return rows;

@@ -14,6 +14,10 @@ Item {
     ElidedPath { id: listed; y: 80; width: 200; text: scene.longPath; tabStop: false }
     ElidedPath { id: last; y: 120; width: 200; text: "/last" }
 
+    ElidedPath { id: hebrew; y: 160; width: 400; text: "/\u05D0\u05D1/\u05D2\u05D3/app" }
+    // Shows where each letter of a text stands.
+    TextInput { id: ruler; y: 200; width: 400 }
+
     TestCase {
         name: "ElidedPath"
         when: windowShown
@@ -41,6 +45,19 @@ Item {
         function test_showsMarkupLetterByLetter() {
             compare(label(brief).textFormat, Text.PlainText);
             compare(edit(brief).displayText, "/srv/<b>app</b>/CLAUDE.md");
+        }
+
+        function placeOf(words) {
+            return ruler.positionToRectangle(ruler.text.indexOf(words)).x;
+        }
+
+        function test_foldersStandFromLeftToRightInEveryScript() {
+            ruler.text = hebrew.text;
+            verify(placeOf("\u05D0") > placeOf("\u05D2")); // as it would be by itself
+            ruler.text = label(hebrew).text;
+            verify(placeOf("\u05D0") < placeOf("\u05D2"));
+            verify(placeOf("\u05D2") < placeOf("app"));
+            compare(edit(hebrew).text, hebrew.text); // what is copied is the path and nothing else
         }
 
         function test_aPressSelectsTheWholePath() {
@@ -110,7 +127,7 @@ Item {
             verify(!tip(deep));
             mouseMove(deep, 20, 5);
             tryVerify(() => tip(deep) && tip(deep).visible);
-            compare(tip(deep).words, scene.longPath);
+            compare(tip(deep).words, deep.shownText);
             mouseMove(scene, 490, 290);
             tryVerify(() => !tip(deep));
         }
@@ -125,7 +142,7 @@ Item {
             const path = createTemporaryQmlObject("import QtQuick; import Loadwick;"
                 + "ElidedPath { width: 100; text: '/a' }", scene);
             path.text = "/b";
-            compare(label(path).text, "/b");
+            compare(label(path).text, path.shownText);
             compare(edit(path).text, "/b");
         }
     }

@@ -81,6 +81,19 @@ private Q_SLOTS:
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Idle);
     }
 
+    void whereOneIsReadsFromLeftToRight()
+    {
+        scan("one");
+        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
+                                  std::make_shared<SteppingDispatcher>());
+        const QAbstractItemModel &rows = *recent.rows();
+        const QString detail = rows.index(0, 0).data(rows.roleNames().key("detail")).toString();
+        const QString path = QString::fromStdString((m_window->folder().path() / "one").string());
+        QVERIFY(detail.startsWith(QChar(0x200E)));
+        QCOMPARE(detail.count(QChar(0x200E)), path.count(u'/') + 1);
+        QCOMPARE(QString(detail).remove(QChar(0x200E)), path);
+    }
+
     void oneThatIsGoneIsShownDisabled()
     {
         scan("one");
