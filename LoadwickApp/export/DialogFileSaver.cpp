@@ -2,13 +2,10 @@
 
 #include <utility>
 
-#include <QQmlEngine>
-#include <QWindow>
 #include <QtGui/private/qguiapplication_p.h>
 #include <QtGui/qpa/qplatformtheme.h>
 
 #include "shell/FolderUrl.h"
-#include "shell/QmlObject.h"
 
 namespace Loadwick {
 namespace {
@@ -29,24 +26,21 @@ QUrl inFolder(const QUrl &folder, const QString &name)
 
 } // namespace
 
-DialogFileSaver::DialogFileSaver(QUrl startFolder) : m_startFolder(std::move(startFolder)) {}
-
-void DialogFileSaver::attach(QQmlEngine &engine, QWindow &window)
-{
-    m_engine = &engine;
-    m_window = &window;
-}
+DialogFileSaver::DialogFileSaver(QUrl startFolder)
+    : m_dialog(QStringLiteral("FileSaverDialog.qml"), std::move(startFolder))
+{}
 
 void DialogFileSaver::open(const Request &request, Chosen chosen)
 {
-    if (m_chosen || !makeDialog())
+    QObject *const dialog = m_chosen ? nullptr : m_dialog.madeFor(*this);
+    if (dialog == nullptr)
         return;
     m_chosen = std::move(chosen);
-    const QUrl folder = m_dialog->property("currentFolder").toUrl();
-    m_dialog->setProperty("title", request.title);
-    m_dialog->setProperty("nameFilters", request.filters);
-    m_dialog->setProperty("selectedFile", inFolder(folder, request.name));
-    QMetaObject::invokeMethod(m_dialog.get(), "open");
+    const QUrl folder = dialog->property("currentFolder").toUrl();
+    dialog->setProperty("title", request.title);
+    dialog->setProperty("nameFilters", request.filters);
+    dialog->setProperty("selectedFile", inFolder(folder, request.name));
+    m_dialog.open();
 }
 
 void DialogFileSaver::accept(const QUrl &file)
@@ -60,22 +54,6 @@ void DialogFileSaver::accept(const QUrl &file)
 void DialogFileSaver::reject()
 {
     m_chosen = {};
-}
-
-bool DialogFileSaver::makeDialog()
-{
-    if (m_dialog || !m_engine || !m_window)
-        return m_dialog != nullptr;
-    QString failure;
-    m_dialog =
-        qmlObject(*m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/FileSaverDialog.qml")),
-                  {{QStringLiteral("saver"), QVariant::fromValue(this)},
-                   {QStringLiteral("parentWindow"), QVariant::fromValue(m_window.data())},
-                   {QStringLiteral("currentFolder"), m_startFolder}},
-                  failure);
-    if (!m_dialog)
-        qWarning("%s", qPrintable(failure));
-    return m_dialog != nullptr;
 }
 
 } // namespace Loadwick

@@ -1,16 +1,11 @@
 #pragma once
 
-#include <memory>
-
 #include <QObject>
-#include <QPointer>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
 #include "export/FileSaver.h"
-
-class QQmlEngine;
-class QWindow;
+#include "shell/PlatformDialog.h"
 
 namespace Loadwick {
 
@@ -27,7 +22,7 @@ public:
     explicit DialogFileSaver(QUrl startFolder);
 
     /// Engine and window outlive this object's use.
-    void attach(QQmlEngine &engine, QWindow &window);
+    void attach(QQmlEngine &engine, QWindow &window) { m_dialog.attach(engine, window); }
 
     void open(const Request &request, Chosen chosen) override;
 
@@ -36,12 +31,7 @@ public:
     Q_INVOKABLE void reject();
 
 private:
-    [[nodiscard]] bool makeDialog();
-
-    QUrl m_startFolder;
-    QPointer<QQmlEngine> m_engine;
-    QPointer<QWindow> m_window;
-    std::unique_ptr<QObject> m_dialog;
+    PlatformDialog m_dialog;
     Chosen m_chosen;
 };
 

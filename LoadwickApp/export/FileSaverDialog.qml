@@ -5,12 +5,12 @@ import Loadwick
 FileDialog {
     id: dialog
 
-    required property DialogFileSaver saver
+    required property DialogFileSaver asker
 
     fileMode: FileDialog.SaveFile
     acceptLabel: qsTr("Save")
     modality: Qt.WindowModal
 
-    onAccepted: dialog.saver.accept(dialog.selectedFile)
-    onRejected: dialog.saver.reject()
+    onAccepted: dialog.asker.accept(dialog.selectedFile)
+    onRejected: dialog.asker.reject()
 }

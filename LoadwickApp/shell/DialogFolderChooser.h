@@ -1,16 +1,11 @@
 #pragma once
 
-#include <memory>
-
 #include <QObject>
-#include <QPointer>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
 #include "shell/FolderChooser.h"
-
-class QQmlEngine;
-class QWindow;
+#include "shell/PlatformDialog.h"
 
 namespace Loadwick {
 
@@ -26,7 +21,7 @@ public:
     explicit DialogFolderChooser(QUrl startFolder);
 
     /// Engine and window outlive this object's use.
-    void attach(QQmlEngine &engine, QWindow &window);
+    void attach(QQmlEngine &engine, QWindow &window) { m_dialog.attach(engine, window); }
 
     void open(Chosen chosen) override;
 
@@ -35,12 +30,7 @@ public:
     Q_INVOKABLE void reject();
 
 private:
-    [[nodiscard]] bool makeDialog();
-
-    QUrl m_startFolder;
-    QPointer<QQmlEngine> m_engine;
-    QPointer<QWindow> m_window;
-    std::unique_ptr<QObject> m_dialog;
+    PlatformDialog m_dialog;
     Chosen m_chosen;
 };
 

@@ -5,12 +5,12 @@ import Loadwick
 FolderDialog {
     id: dialog
 
-    required property DialogFolderChooser chooser
+    required property DialogFolderChooser asker
 
     title: qsTr("Choose a local repository to scan.")
     acceptLabel: qsTr("Choose")
     modality: Qt.WindowModal
 
-    onAccepted: dialog.chooser.accept(dialog.selectedFolder)
-    onRejected: dialog.chooser.reject()
+    onAccepted: dialog.asker.accept(dialog.selectedFolder)
+    onRejected: dialog.asker.reject()
 }

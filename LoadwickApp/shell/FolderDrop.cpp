@@ -1,7 +1,6 @@
 #include "shell/FolderDrop.h"
 
 #include <exception>
-#include <system_error>
 #include <utility>
 
 #include <QPointer>
@@ -9,15 +8,6 @@
 #include "shell/FolderUrl.h"
 
 namespace Loadwick {
-namespace {
-
-bool isFolder(const std::filesystem::path &path)
-{
-    std::error_code error;
-    return std::filesystem::is_directory(path, error);
-}
-
-} // namespace
 
 FolderDrop::FolderDrop(ContentPresenter &content, std::shared_ptr<TaskDispatcher> dispatcher)
     : m_content(content), m_dispatcher(std::move(dispatcher))

@@ -1,6 +1,7 @@
 #include "shell/FolderUrl.h"
 
 #include <string>
+#include <system_error>
 
 #include <QByteArray>
 #include <QUrl>
@@ -24,6 +25,12 @@ std::optional<std::filesystem::path> folderPath(const QUrl &url)
     if (bytes.isEmpty() || bytes.contains('\0'))
         return std::nullopt;
     return std::filesystem::path(bytes.toStdString());
+}
+
+bool isFolder(const std::filesystem::path &path)
+{
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
 }
 
 } // namespace Loadwick

@@ -3,22 +3,16 @@
 #include <exception>
 #include <set>
 #include <string>
-#include <system_error>
 #include <utility>
 
 #include <QPointer>
 
 #include "history/ScanHistory.h"
+#include "shell/FolderUrl.h"
 #include "shell/QtText.h"
 
 namespace Loadwick {
 namespace {
-
-bool isFolder(const std::filesystem::path &path)
-{
-    std::error_code error;
-    return std::filesystem::is_directory(path, error);
-}
 
 std::vector<RecentRows::Row> recentRows(std::span<const RecordedScan> history)
 {

@@ -36,8 +36,8 @@ public:
     /// Looks, in the background, which of the folders are there.
     Q_INVOKABLE void look();
 
-    /// Chooses the repository of that row, if its folder was there and no scan runs. The one that is
-    /// chosen already keeps its result, which the Overview then shows.
+    /// Chooses the repository of that row, if its folder was there and no scan runs. The one that
+    /// is chosen already keeps its result, which the Overview then shows.
     Q_INVOKABLE void choose(int row);
 
 Q_SIGNALS:

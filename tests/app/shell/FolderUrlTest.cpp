@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QUrl>
 
+#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
@@ -57,6 +58,14 @@ private Q_SLOTS:
     {
         QFETCH(const QUrl, url);
         QVERIFY(!folderPath(url));
+    }
+
+    void aFolderIsTold()
+    {
+        const TemporaryFolder folder;
+        QVERIFY(isFolder(folder.path()));
+        QVERIFY(!isFolder(folder.write("file", "")));
+        QVERIFY(!isFolder(folder.path() / "missing"));
     }
 };
 
