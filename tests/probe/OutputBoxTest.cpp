@@ -1,13 +1,9 @@
 #include "probe/OutputBox.h"
 
-#include <new>
 #include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-
-#include "support/Sanitizers.h"
 
 namespace Loadwick {
 
@@ -61,24 +57,6 @@ TEST(OutputBoxTest, isFilledByTwoThreadsAtOnce)
     error.join();
     EXPECT_EQ(box.take(Stream::standardOutput)->size(), 2000U);
     EXPECT_EQ(box.take(Stream::standardError)->size(), 3000U);
-}
-
-TEST(OutputBoxTest, saysWhenMemoryRanOutForEitherStream)
-{
-    if (isSanitized)
-        GTEST_SKIP() << "the sanitizers themselves need memory";
-    for (const Stream stream : {Stream::standardOutput, Stream::standardError}) {
-        OutputBox box(100);
-        EXPECT_FALSE(box.ranOutOfMemory());
-        rlimit usual{};
-        getrlimit(RLIMIT_AS, &usual);
-        const rlimit none{.rlim_cur = 1, .rlim_max = usual.rlim_max};
-        setrlimit(RLIMIT_AS, &none);
-        box.append(stream, std::string("lost"));
-        setrlimit(RLIMIT_AS, &usual);
-        EXPECT_TRUE(box.ranOutOfMemory());
-        EXPECT_THROW((void)box.take(stream), std::bad_alloc);
-    }
 }
 
 } // namespace Loadwick
