@@ -8,6 +8,7 @@
 #include "model/ScanOutcome.h"
 #include "probe/Fatal.h"
 #include "probe/FolderAccess.h"
+#include "probe/UnicodeText.h"
 #include "report/ScanReportBuilder.h"
 
 namespace Loadwick {
@@ -125,7 +126,9 @@ template<typename Stage, typename Next>
 void ScanModel::Internals::run(Stage stage, Next next)
 {
     try {
-        // All that brings the outcome back is made here: behind the stage there may be no memory.
+        // All that brings the outcome back, and puts it into words, is made and loaded here: behind
+        // the stage there may be no memory.
+        loadCharacterRules();
         const auto outcome = std::make_shared<std::optional<decltype(scanOutcomeOf(stage))>>();
         TaskDispatcher::Task arrival = [weak = weak_from_this(), next, outcome] {
             const std::shared_ptr<Internals> self = weak.lock();

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <new>
 
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
@@ -11,8 +12,6 @@
 #include <unicode/uchar.h>
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
-
-#include "probe/Fatal.h"
 
 namespace Loadwick {
 
@@ -99,6 +98,13 @@ std::size_t previousStart(std::string_view text, std::size_t end) noexcept
     return end - 1;
 }
 
+/// The library brings all that it needs, so there is one thing that it can lack.
+void requireSuccess(UErrorCode status)
+{
+    if (U_FAILURE(status))
+        throw std::bad_alloc();
+}
+
 } // namespace
 
 bool isUtf8(std::string_view bytes) noexcept
@@ -176,9 +182,7 @@ std::string lowercased(std::string_view text)
     UErrorCode status = U_ZERO_ERROR;
     icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<int>(text.size())),
                               sink, nullptr, status);
-    // not taken: every text has a lower case
-    if (U_FAILURE(status))
-        fatalError("ICU could not lower-case a text");
+    requireSuccess(status);
     return lower;
 }
 
@@ -211,15 +215,13 @@ std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)
 {
     UErrorCode status = U_ZERO_ERROR;
     UText source = UTEXT_INITIALIZER;
+    const std::unique_ptr<UText, decltype(&utext_close)> closing(&source, utext_close);
     utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
     const std::unique_ptr<icu::BreakIterator> boundaries(
         icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-    // not taken: the library brings the rules of the root locale
-    if (U_SUCCESS(status))
-        boundaries->setText(&source, status);
-    // not taken: the same
-    if (U_FAILURE(status))
-        fatalError("ICU offers no character boundaries");
+    requireSuccess(status);
+    boundaries->setText(&source, status);
+    requireSuccess(status);
     std::int32_t end = 0;
     for (std::size_t count = 0; count < limit; ++count) {
         const std::int32_t next = boundaries->next();
@@ -227,8 +229,12 @@ std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)
             break;
         end = next;
     }
-    utext_close(&source);
     return static_cast<std::size_t>(end);
+}
+
+void loadCharacterRules()
+{
+    static_cast<void>(byteCountOfCharacters("a", 1));
 }
 
 } // namespace Loadwick

@@ -23,7 +23,8 @@ namespace Loadwick {
 /// `text` without blanks and tabs at both ends; line breaks stay. A view into `text`.
 [[nodiscard]] std::string_view trimmedBlanks(std::string_view text) noexcept;
 
-/// `text` in lower case by the full Unicode mapping, independent of any locale.
+/// `text` in lower case by the full Unicode mapping, independent of any locale. Throws
+/// `std::bad_alloc`.
 [[nodiscard]] std::string lowercased(std::string_view text);
 
 /// The letters, their marks and the numeric characters of `text` (Unicode categories L, M and N),
@@ -35,7 +36,12 @@ namespace Loadwick {
 void setSearchKey(std::string &key, std::string_view text);
 
 /// Bytes of the first `limit` user-perceived characters (extended grapheme clusters, UAX #29)
-/// of `text`; `text.size()` when it has no more than that. Reads no further than it must.
+/// of `text`; `text.size()` when it has no more than that. Reads no further than it must. Throws
+/// `std::bad_alloc`, once the rules are loaded.
 [[nodiscard]] std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit);
+
+/// Loads the rules by which characters are counted, once for the program. ICU does not outlive want
+/// of memory while it loads them; do it where there is some.
+void loadCharacterRules();
 
 } // namespace Loadwick

@@ -1,5 +1,6 @@
 #include "model/ScanModel.h"
 
+#include <chrono>
 #include <fstream>
 
 #include <gtest/gtest.h>
@@ -127,6 +128,25 @@ TEST_F(ScanModelHistoryTest, recordsAScanAfterTheHistoryWasForgottenMeanwhile)
     harness.dispatcher->runAll();
     EXPECT_EQ(model.history().get().size(), 1U);
     EXPECT_EQ(harness.recorded().size(), 1U);
+}
+
+TEST_F(ScanModelHistoryTest, keepsBothScansWhenTheClockWasSetBackBetweenThem)
+{
+    ScanModel::Collaborators collaborators = harness.collaborators();
+    std::chrono::sys_seconds clock = Harness::now;
+    collaborators.now = [&clock] { return clock; };
+    ScanModel model(std::move(collaborators));
+    harness.scanOnce(model);
+    clock -= std::chrono::hours(1);
+    harness.scanOnce(model);
+    clock += std::chrono::hours(2);
+    harness.scanOnce(model);
+    const History &history = model.history().get();
+    ASSERT_EQ(history.size(), 3U);
+    EXPECT_EQ(history[0].date, Harness::now - std::chrono::hours(1));
+    EXPECT_EQ(history[1].date, Harness::now);
+    EXPECT_EQ(history[2].date, Harness::now + std::chrono::hours(1));
+    EXPECT_EQ(harness.recorded(), history);
 }
 
 } // namespace Loadwick

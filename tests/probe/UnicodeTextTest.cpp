@@ -1,6 +1,10 @@
 #include "probe/UnicodeText.h"
 
+#include <new>
+
 #include <gtest/gtest.h>
+
+#include "support/UnicodeMemory.h"
 
 namespace Loadwick {
 
@@ -80,6 +84,24 @@ TEST(UnicodeTextTest, countsUserPerceivedCharacters)
     EXPECT_EQ(byteCountOfCharacters("\r\nx", 1), 2U);
     const std::string mixed = "क्षि" + std::string(family) + "x";
     EXPECT_EQ(byteCountOfCharacters(mixed, 100), mixed.size());
+}
+
+TEST(UnicodeTextTest, saysThatThereWasNoMemoryToCountCharactersWhereverItRanOut)
+{
+    loadCharacterRules();
+    bool ranOut = true;
+    for (long grants = 0; ranOut; ++grants) {
+        ASSERT_LT(grants, 10'000);
+        const UnicodeMemory memory(grants);
+        try {
+            EXPECT_EQ(byteCountOfCharacters("e\xCC\x81z", 1), 3U);
+            EXPECT_FALSE(memory.ranOut());
+        } catch (const std::bad_alloc &) {
+            EXPECT_TRUE(memory.ranOut());
+        }
+        ranOut = memory.ranOut();
+    }
+    EXPECT_EQ(byteCountOfCharacters("e\xCC\x81z", 1), 3U);
 }
 
 } // namespace Loadwick

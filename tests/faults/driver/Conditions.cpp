@@ -125,6 +125,24 @@ constexpr std::array all{
     Condition{"two-megabytes-of-environment", fillEnvironment},
 };
 
+long problemsUnder(const Condition &condition, const std::filesystem::path &workFolder)
+{
+    long problems = 0;
+    for (const OperationKind &kind : allOperations()) {
+        const Trial trial{.kind = kind,
+                          .before = condition.begin,
+                          .after = condition.end,
+                          .meanwhile = condition.disturb};
+        const auto problem = trial.run(workFolder).problem;
+        if (!problem)
+            continue;
+        ++problems;
+        std::printf("PROBLEM %s, %s: %s\n", std::string(condition.name).c_str(),
+                    std::string(kind.name).c_str(), problem->c_str());
+    }
+    return problems;
+}
+
 } // namespace
 
 std::span<const Condition> conditions()
@@ -136,18 +154,12 @@ long runUnderConditions(const std::filesystem::path &workFolder)
 {
     long problems = 0;
     for (const Condition &condition : conditions()) {
-        for (const OperationKind &kind : allOperations()) {
-            const Trial trial{.kind = kind,
-                              .before = condition.begin,
-                              .after = condition.end,
-                              .meanwhile = condition.disturb};
-            const auto problem = trial.run(workFolder).problem;
-            if (!problem)
-                continue;
-            ++problems;
-            std::printf("PROBLEM %s, %s: %s\n", std::string(condition.name).c_str(),
-                        std::string(kind.name).c_str(), problem->c_str());
-        }
+        const auto start = std::chrono::steady_clock::now();
+        problems += problemsUnder(condition, workFolder);
+        const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
+        // At once, so that a run that is stopped has said how far it was.
+        std::printf("%s: %.1f s\n", std::string(condition.name).c_str(), duration.count());
+        std::fflush(stdout);
     }
     std::printf("%zu operations under %zu conditions, %ld problems\n", allOperations().size(),
                 conditions().size(), problems);

@@ -15,6 +15,11 @@ long countOf(const Tally &tally, Call call)
     return tally.matched.at(static_cast<std::size_t>(call));
 }
 
+bool isIn(const Matrix::Extent &extent, const CallRefusals &refusals)
+{
+    return !extent.call || *extent.call == refusals.name;
+}
+
 /// Each errno and mode of one kind of call, as the first call to fail.
 std::vector<Fault> firstFaults(const OperationKind &kind, const CallRefusals &refusals)
 {
@@ -33,8 +38,8 @@ std::vector<Fault> firstFaults(const OperationKind &kind, const CallRefusals &re
 std::vector<OperationKind> allOperations()
 {
     std::vector<OperationKind> all;
-    for (const auto kinds :
-         {historyOperations(), readingOperations(), processOperations(), scanOperations()})
+    for (const auto kinds : {historyOperations(), readingOperations(), textOperations(),
+                             processOperations(), scanOperations()})
         all.insert(all.end(), kinds.begin(), kinds.end());
     return all;
 }
@@ -54,7 +59,7 @@ Matrix::Score Matrix::run(const Extent &extent)
         if (extent.sampleSeed)
             runSample(kind, *counted, extent);
         else
-            runAll(kind, *counted);
+            runAll(kind, *counted, extent);
         std::printf("%s: %ld calls failed\n", std::string(kind.name).c_str(),
                     m_score.failedCalls - before);
         std::fflush(stdout);
@@ -76,10 +81,10 @@ bool Matrix::replay(const Fault &fault)
     return false;
 }
 
-void Matrix::runAll(const OperationKind &kind, const Tally &counted)
+void Matrix::runAll(const OperationKind &kind, const Tally &counted, const Extent &extent)
 {
     for (const CallRefusals &refusals : callRefusals())
-        if (countOf(counted, refusals.call) > 0)
+        if (isIn(extent, refusals) && countOf(counted, refusals.call) > 0)
             for (Fault fault : firstFaults(kind, refusals))
                 while (fails(kind, fault))
                     ++fault.nth;
@@ -89,6 +94,8 @@ void Matrix::runSample(const OperationKind &kind, const Tally &counted, const Ex
 {
     std::mt19937 random(*extent.sampleSeed);
     for (const CallRefusals &refusals : callRefusals()) {
+        if (!isIn(extent, refusals))
+            continue;
         std::vector<Fault> faults;
         for (Fault fault : firstFaults(kind, refusals))
             for (; fault.nth <= countOf(counted, refusals.call); ++fault.nth)

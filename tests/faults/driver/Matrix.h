@@ -20,6 +20,7 @@ public:
     struct Extent
     {
         std::optional<std::string> operation = {}; ///< all when absent
+        std::optional<std::string> call = {};      ///< the same for kinds of calls
         std::optional<unsigned> sampleSeed = {};   ///< everything when absent
         std::size_t sampleSize = 8;                ///< faults for each operation and kind of call
     };
@@ -39,7 +40,7 @@ public:
     [[nodiscard]] bool replay(const Fault &fault);
 
 private:
-    void runAll(const OperationKind &kind, const Tally &counted);
+    void runAll(const OperationKind &kind, const Tally &counted, const Extent &extent);
     void runSample(const OperationKind &kind, const Tally &counted, const Extent &extent);
     [[nodiscard]] bool fails(const OperationKind &kind, const Fault &fault);
     /// How often each kind of call is made; nothing when the operation fails without a fault.

@@ -45,9 +45,10 @@ struct OperationKind
     bool isThreaded = false;       ///< memory is wanted in the background only
 };
 
-/// Those on the history file, on other files, on processes, and the whole scan.
+/// Those on the history file, on other files, on texts, on processes, and the whole scan.
 [[nodiscard]] std::span<const OperationKind> historyOperations();
 [[nodiscard]] std::span<const OperationKind> readingOperations();
+[[nodiscard]] std::span<const OperationKind> textOperations();
 [[nodiscard]] std::span<const OperationKind> processOperations();
 [[nodiscard]] std::span<const OperationKind> scanOperations();
 

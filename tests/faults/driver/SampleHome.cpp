@@ -12,7 +12,7 @@ std::string resultRecord()
 {
     return R"({"type":"result","is_error":false,"num_turns":1,"session_id":")" +
            std::string(sessionID) +
-           R"(","result":"SLAB system prompt TOKENS 9000\nSLAB memory files TOKENS 700",)" +
+           R"(","result":"SLAB Système prompt TOKENS 9000\nSLAB memory files TOKENS 700",)" +
            R"("usage":{"input_tokens":11,"cache_creation_input_tokens":24300,)" +
            R"("cache_read_input_tokens":0,"output_tokens":40}})";
 }

@@ -15,7 +15,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "faults/driver/Progress.h"
 #include "faults/driver/Shim.h"
+#include "probe/Deadline.h"
+#include "probe/ExitWatch.h"
 #include "probe/Fatal.h"
 #include "probe/Pipe.h"
 #include "probe/ProbeError.h"
@@ -81,14 +84,16 @@ struct Report
     std::array<char, 400> problem{}; ///< empty when there is none
 };
 
-Report performed(const Trial &trial, const fs::path &home)
+Report performed(const Trial &trial, const fs::path &home, Progress &progress)
 {
+    progress.begin("making ready");
     if (trial.before)
         trial.before();
     const std::unique_ptr<Operation> operation = trial.kind.make(home);
     const Plan plan = planOf(trial, home);
     const Loadwick::ProcessCensus census = Loadwick::ProcessCensus::now();
     std::exception_ptr thrown;
+    progress.begin("performing");
     Shim::arm(plan);
     try {
         operation->perform();
@@ -96,6 +101,7 @@ Report performed(const Trial &trial, const fs::path &home)
         thrown = std::current_exception();
     }
     Report report{.tally = Shim::disarm()};
+    progress.begin("looking at what is left");
     if (trial.after)
         trial.after();
     const auto remains = remainsBeyond(census);
@@ -104,14 +110,16 @@ Report performed(const Trial &trial, const fs::path &home)
     return report;
 }
 
-[[noreturn]] void beChild(const Trial &trial, const fs::path &home, const Loadwick::Pipe &pipe)
+[[noreturn]] void beChild(const Trial &trial, const fs::path &home, Progress &progress,
+                          const Loadwick::Pipe &pipe)
 {
     if (trial.fault && getenv("LOADWICK_FAULTS_LOUD") == nullptr)
         dup2(open("/dev/null", O_WRONLY | O_CLOEXEC), STDERR_FILENO);
     clearenv();
     setenv("HOME", home.c_str(), 1);
     setenv("PATH", "/usr/bin:/bin", 1);
-    const Report report = performed(trial, home);
+    const Report report = performed(trial, home, progress);
+    progress.begin("ending");
     const ssize_t written = write(pipe.writeEnd.number(), &report, sizeof report);
     _exit(written == sizeof report ? 0 : 1);
 }
@@ -126,10 +134,10 @@ std::optional<Report> reportFrom(int descriptor, double limitSeconds)
     return report;
 }
 
-std::string deathOf(int status)
+std::string deathOf(int status, const std::string &place)
 {
     if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
-        return "it never came back";
+        return "it never came back from " + place;
     if (WIFSIGNALED(status))
         return std::string("ended by ") + strsignal(WTERMSIG(status));
     return "ended with status " + std::to_string(WEXITSTATUS(status));
@@ -143,22 +151,27 @@ Trial::Verdict Trial::run(const fs::path &workFolder) const
     const fs::path home = workFolder / std::to_string(++number);
     fs::create_directory(home);
     Loadwick::Pipe pipe = Loadwick::Pipe::open();
+    Progress progress;
     const pid_t child = fork();
     if (child < 0)
         Loadwick::fatalError("no process for a trial");
     if (child == 0)
-        beChild(*this, home, pipe);
+        beChild(*this, home, progress, pipe);
     pipe.writeEnd.reset();
     if (meanwhile)
         meanwhile(child);
     const std::optional<Report> report = reportFrom(pipe.readEnd.number(), limitSeconds);
-    if (!report)
+    const bool hasEnded =
+        report && Loadwick::ExitWatch(child).waitUntil(Loadwick::deadlineAfter(limitSeconds));
+    const std::string place = hasEnded ? std::string() : progress.of(child);
+    if (!hasEnded)
         kill(child, SIGKILL);
     int status = 0;
     waitpid(child, &status, 0);
-    fs::remove_all(home);
-    if (!report)
-        return {.tally = {}, .problem = deathOf(status)};
+    std::error_code ignored; // a child that was left behind may still write
+    fs::remove_all(home, ignored);
+    if (!hasEnded)
+        return {.tally = {}, .problem = deathOf(status, place)};
     const std::string problem = report->problem.data();
     return {.tally = report->tally,
             .problem = problem.empty() ? std::nullopt : std::optional(problem)};

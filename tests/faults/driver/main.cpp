@@ -3,6 +3,7 @@
 //   loadwick-faults                       the whole matrix
 //   loadwick-faults --sample SEED         a part of it, the same for the same seed
 //   loadwick-faults --operation NAME      one operation
+//   loadwick-faults --call NAME           one kind of call (both: that call in that operation)
 //   loadwick-faults --conditions          every operation where the world around it is odd
 //   loadwick-faults --record-in FOLDER    one scan; what became of the history there
 //   loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,once|always|burst
@@ -42,7 +43,7 @@ void preferMemoryForFiles()
 
 int usage()
 {
-    std::cerr << "usage: loadwick-faults [--sample SEED] [--operation NAME]\n"
+    std::cerr << "usage: loadwick-faults [--sample SEED] [--operation NAME] [--call NAME]\n"
                  "       loadwick-faults --conditions\n"
                  "       loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,MODE\n";
     return 2;
@@ -118,6 +119,8 @@ int main(int count, char **texts)
             extent.sampleSeed = static_cast<unsigned>(std::stoul(value));
         else if (arguments[index] == "--operation")
             extent.operation = value;
+        else if (arguments[index] == "--call")
+            extent.call = value;
         else if (arguments[index] == "--record-in")
             return recordIn(value);
         else

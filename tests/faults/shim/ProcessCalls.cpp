@@ -23,6 +23,10 @@ namespace {
 
 std::atomic<long> clockShift = 0; // seconds
 
+// Found at the start, not at the first call: two threads that find a function at the same time wait
+// for each other by this very call.
+auto *const nextSyscall = behind(syscall, "syscall");
+
 } // namespace
 
 extern "C" {
@@ -86,7 +90,6 @@ int waitid(idtype_t type, id_t id, siginfo_t *found, int options)
 
 long syscall(long number, ...) noexcept
 {
-    static auto *const next = behind(syscall, "syscall");
     va_list rest;
     va_start(rest, number);
     std::array<long, 6> values{};
@@ -95,7 +98,7 @@ long syscall(long number, ...) noexcept
     va_end(rest);
     if (number == SYS_pidfd_open && fails(Call::pidfdOpen))
         return -1;
-    return next(number, values[0], values[1], values[2], values[3], values[4], values[5]);
+    return nextSyscall(number, values[0], values[1], values[2], values[3], values[4], values[5]);
 }
 
 int clock_gettime(clockid_t clock, timespec *time) noexcept

@@ -1,0 +1,28 @@
+#include "support/UnicodeMemory.h"
+
+#include <gtest/gtest.h>
+
+#include "probe/UnicodeText.h"
+
+namespace Loadwick {
+
+TEST(UnicodeMemoryTest, isReachedByTheSearchForCharacters)
+{
+    loadCharacterRules();
+    const UnicodeMemory memory(0);
+    EXPECT_FALSE(memory.ranOut());
+    EXPECT_THROW(static_cast<void>(byteCountOfCharacters("é", 1)), std::bad_alloc);
+    EXPECT_TRUE(memory.ranOut());
+}
+
+TEST(UnicodeMemoryTest, isThereAgainAfterwards)
+{
+    {
+        const UnicodeMemory memory(1'000'000);
+        EXPECT_EQ(byteCountOfCharacters("éa", 1), 2U);
+        EXPECT_FALSE(memory.ranOut());
+    }
+    EXPECT_EQ(byteCountOfCharacters("éa", 1), 2U);
+}
+
+} // namespace Loadwick
