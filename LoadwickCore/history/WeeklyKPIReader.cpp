@@ -57,11 +57,9 @@ std::optional<WeeklyKPILine> parseLine(std::string_view line)
 /// The end of the file, from its first line feed on; nothing when it has none or fails to be read.
 std::optional<std::string> readEnd(RegularFile &file, std::size_t byteLimit)
 {
-    // not taken: a place inside a regular file can be gone to
     if (!file.skipTo(file.size() - static_cast<std::int64_t>(byteLimit)))
         return std::nullopt;
     auto end = file.readUpTo(byteLimit);
-    // not taken: the disk would have to fail behind the place that was gone to
     const std::size_t lineFeed = end ? end->find('\n') : std::string::npos;
     if (lineFeed == std::string::npos)
         return std::nullopt;

@@ -111,7 +111,6 @@ RegularFile::~RegularFile()
 
 bool RegularFile::skipTo(std::int64_t offset) noexcept
 {
-    // not taken: a regular file has every place up to its limit
     return offset >= 0 && ::lseek(m_descriptor, offset, SEEK_SET) == offset;
 }
 

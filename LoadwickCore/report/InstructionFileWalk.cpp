@@ -21,11 +21,11 @@ std::size_t readLimit(const RegularFile &file)
     return static_cast<std::size_t>(file.size() > 0 ? std::min(file.size(), limit) : limit);
 }
 
-/// Whether a path stays as it is when it is standardized behind a standard folder. No for some that
-/// would.
+/// Whether a path, which is not empty, stays as it is when it is standardized behind a standard
+/// folder. No for some that would.
 bool isPlain(std::string_view path)
 {
-    return !path.empty() && path.front() != '/' && path.front() != '.' && path.back() != '/' &&
+    return path.front() != '/' && path.front() != '.' && path.back() != '/' &&
            path.find("//") == std::string_view::npos && path.find("/.") == std::string_view::npos;
 }
 
@@ -176,7 +176,7 @@ std::string InstructionFileWalk::importTarget(std::string_view token,
         return standardizedPath(m_home / token).native();
     }
     const std::string_view folder = folderPart(importer);
-    if (folder.starts_with('/') && isPlain(token)) {
+    if (isPlain(token)) {
         std::string target;
         target.reserve(folder.size() + token.size());
         return target.append(folder).append(token);

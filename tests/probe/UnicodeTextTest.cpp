@@ -60,6 +60,7 @@ TEST(UnicodeTextTest, keepsLettersAndNumbers)
 {
     EXPECT_EQ(lettersAndNumbers("Memory_files, 2: [x]!"), "Memoryfiles2x");
     EXPECT_EQ(lettersAndNumbers("Memory_files, №2: é日!"), "Memoryfiles2é日");
+    EXPECT_EQ(lettersAndNumbers("/09:@AZ[`az{~"), "09AZaz");
 }
 
 TEST(UnicodeTextTest, makesASearchKeyOfLettersAndNumbersInLowerCase)

@@ -116,6 +116,31 @@ TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
     EXPECT_EQ(set.repositoryFiles[3].path, folder.path() / "repository/link/near.md");
 }
 
+TEST(InstructionFileWalkTest, takesAnImportWithASlashAtItsEndForTheFileOfThatName)
+{
+    const TemporaryFolder folder;
+    folder.write("repository/CLAUDE.md", "@notes/");
+    folder.write("repository/notes", "Be brief.\n");
+    const InstructionFileSet set = walked(folder, 5);
+    ASSERT_EQ(set.repositoryFiles.size(), 2U);
+    EXPECT_EQ(set.repositoryFiles[1].path, folder.path() / "repository/notes");
+}
+
+TEST(InstructionFileWalkTest, followsTheImportsOfARepositoryWhosePathIsRelative)
+{
+    const TemporaryFolder folder;
+    folder.write("repository/CLAUDE.md", "@docs/style.md @./tests.md");
+    folder.write("repository/docs/style.md", "Be brief.\n");
+    folder.write("repository/tests.md", "Test it.\n");
+    const auto repository = std::filesystem::relative(folder.path() / "repository");
+    const auto findings = std::make_shared<InstructionFileFindings>();
+    InstructionFileWalk({.home = folder.path() / "home"}, repository, findings).run();
+    const InstructionFileSet set = findings->set();
+    ASSERT_EQ(set.repositoryFiles.size(), 3U);
+    EXPECT_EQ(set.repositoryFiles[1].path, repository / "docs/style.md");
+    EXPECT_EQ(set.repositoryFiles[2].path, repository / "tests.md");
+}
+
 TEST(InstructionFileWalkTest, takesEverythingForTheRootsOwnWhenThatIsTheRepository)
 {
     const TemporaryFolder folder;

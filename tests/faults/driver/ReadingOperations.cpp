@@ -107,7 +107,7 @@ public:
                                   "{\"median_tokens_per_session\":7,\"tokens_per_pr\":8}\n");
     }
 
-    void perform() override { m_line = Loadwick::WeeklyKPIReader::read(m_path); }
+    void perform() override { m_line = Loadwick::WeeklyKPIReader::read(m_path, endSize); }
 
     std::optional<std::string> problem(Ending ending,
                                        const std::optional<Fault> &fault) const override
@@ -122,6 +122,9 @@ public:
     }
 
 private:
+    static constexpr std::size_t endSize =
+        80; // less than both lines, so that the end alone is read
+
     fs::path m_path;
     std::optional<Loadwick::WeeklyKPILine> m_line;
 };

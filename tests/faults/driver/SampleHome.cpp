@@ -47,10 +47,11 @@ fs::path writeTranscript(const fs::path &home)
     const fs::path root = home / ".claude/projects";
     write(root / "other/unrelated.jsonl", "{}\n");
     write(root / "webshop" / (std::string(sessionID) + ".jsonl"),
-          "{\"type\":\"user\"}\n"
-          R"({"type":"assistant","message":{"usage":{"input_tokens":10,)"
-          R"("cache_creation_input_tokens":24300,"cache_read_input_tokens":0}}})"
-          "\n");
+          // Longer than a piece, so that it is gone back to.
+          "{\"type\":\"user\"}\n{\"padding\":\"" + std::string(70'000, 'x') +
+              R"(","type":"assistant","message":{"usage":{"input_tokens":10,)"
+              R"("cache_creation_input_tokens":24300,"cache_read_input_tokens":0}}})"
+              "\n");
     return root;
 }
 
