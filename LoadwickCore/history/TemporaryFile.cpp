@@ -35,10 +35,11 @@ bool isAbandonedName(std::string_view name, std::string_view prefix)
 /// first; a file system without locks counts as locked.
 bool lockOwn(int descriptor)
 {
-    // not taken: another program would have to come within this call
+    // rarely taken: another program would have to come within this call
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return false;
     struct stat status = {};
+    // rarely taken: another program would have to come before this call
     return fstat(descriptor, &status) == 0 && status.st_nlink > 0;
 }
 
