@@ -284,7 +284,7 @@ TEST(AtomicFileTest, saysThatTheSystemTookNoMoreBytes)
     const TemporaryFolder folder;
     const fs::path path = folder.path() / "file.csv";
     EXPECT_EQ(exitStatusOf([&path] {
-                  const rlimit small = {.rlim_cur = 4'096, .rlim_max = 4'096};
+                  const rlimit small = {.rlim_cur = 4'096, .rlim_max = RLIM_INFINITY};
                   setrlimit(RLIMIT_FSIZE, &small);
                   static_cast<void>(signal(SIGXFSZ, SIG_IGN));
                   std::error_code failure;
