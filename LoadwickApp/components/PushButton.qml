@@ -72,8 +72,8 @@ AbstractButton {
 
     FocusRing { shown: control.visualFocus }
 
-    PlainToolTip {
+    LateToolTip {
         words: control.toolTip + (control.toolTip && control.shortcut ? "\n" : "") + control.shortcut
-        visible: words.length > 0 && (control.hovered || control.visualFocus)
+        wanted: control.hovered || control.visualFocus
     }
 }

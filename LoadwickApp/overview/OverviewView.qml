@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
 // What the one scan of the chosen repository measured, or why there is nothing to show.
@@ -17,24 +16,21 @@ Item {
         note: page.disclosure
         visible: page.overview.state === OverviewPresenter.Empty
     }
-    ScanLoadingState {
-        anchors.fill: parent
-        visible: page.overview.state === OverviewPresenter.Loading
+    // The others are made when they come, and a report anew each time, so that it arrives.
+    Loader {
+        id: loading
 
-        PlainLabel {
-            Layout.alignment: Qt.AlignHCenter
-            Layout.topMargin: AppTheme.smallSpace
-            text: page.overview.elapsed
-            font: AppTheme.emphasisFont
-        }
-    }
-    ScanFailureState {
         anchors.fill: parent
-        headline: page.overview.headline
-        detail: page.overview.detail
-        visible: page.overview.state === OverviewPresenter.Failure
+        active: page.overview.state === OverviewPresenter.Loading
+        Component.onCompleted: loading.setSource("OverviewLoading.qml", { overview: page.overview })
     }
-    // Made anew for each report, so that each one arrives.
+    Loader {
+        id: failure
+
+        anchors.fill: parent
+        active: page.overview.state === OverviewPresenter.Failure
+        Component.onCompleted: failure.setSource("OverviewFailure.qml", { overview: page.overview })
+    }
     Loader {
         id: report
 

@@ -25,10 +25,13 @@ Item {
             enabled: bar.content.canChoose
             onClicked: bar.content.chooseFolder()
         }
-        RecentButton {
+        Loader {
+            id: recentButton
+
             Layout.leftMargin: -AppTheme.smallSpace
-            content: bar.content
-            recent: bar.recent
+            active: bar.recent.count > 0
+            visible: active
+            Component.onCompleted: recentButton.setSource("RecentButton.qml", { content: bar.content, recent: bar.recent })
         }
         PushButton {
             title: bar.content.scanTitle

@@ -64,13 +64,13 @@ SplitView {
                 overview: view.overview
                 disclosure: view.content.allowanceDisclosure
             }
-            TrendsView {
-                trends: view.trends
-                exporter: view.trendsExport
+            LatePage {
+                id: trendsPage
+                onWanted: trendsPage.setSource("TrendsView.qml", { trends: view.trends, exporter: view.trendsExport })
             }
-            CompareView {
-                compare: view.compare
-                exporter: view.compareExport
+            LatePage {
+                id: comparePage
+                onWanted: comparePage.setSource("CompareView.qml", { compare: view.compare, exporter: view.compareExport })
             }
         }
         ContentKeys {

@@ -15,26 +15,9 @@ DropArea {
         target.folderDrop.take(drop.urls);
     }
 
-    Rectangle {
+    Loader {
         anchors { fill: parent; margins: AppTheme.smallSpace }
-        radius: AppTheme.cardRadius
-        color: Qt.alpha(AppTheme.window, 0.86)
-        border { width: 2; color: AppTheme.accent }
-        visible: target.containsDrag
-
-        Column {
-            anchors.centerIn: parent
-            spacing: AppTheme.cardSpace
-
-            StateIcon {
-                anchors.horizontalCenter: parent.horizontalCenter
-                symbol: "folder"
-                tint: AppTheme.accent
-            }
-            PlainLabel {
-                text: qsTr("Drop the folder to choose it")
-                font: AppTheme.headlineFont
-            }
-        }
+        active: target.containsDrag
+        source: "DropHint.qml"
     }
 }

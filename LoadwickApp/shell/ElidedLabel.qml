@@ -10,8 +10,8 @@ PlainLabel {
     Accessible.name: text
 
     HoverHandler { id: pointer }
-    PlainToolTip {
+    LateToolTip {
         words: label.text
-        visible: pointer.hovered && label.truncated
+        wanted: pointer.hovered && label.truncated
     }
 }

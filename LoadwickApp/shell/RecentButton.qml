@@ -8,6 +8,18 @@ AbstractButton {
 
     required property ContentPresenter content
     required property RecentRepositories recent
+    // Made when it is first asked for.
+    property RecentMenu menu: null
+    readonly property bool isOpen: button.menu !== null && button.menu.visible
+
+    function open() {
+        if (!button.menu) {
+            loader.setSource("RecentMenu.qml", { recent: button.recent });
+            button.menu = loader.item as RecentMenu;
+        }
+        button.recent.look();
+        button.menu.popup(button, button.width - button.menu.width, button.height + AppTheme.tightSpace);
+    }
 
     implicitWidth: AppTheme.controlHeight
     implicitHeight: AppTheme.controlHeight
@@ -15,16 +27,12 @@ AbstractButton {
     hoverEnabled: true
     enabled: button.content.canChoose
     opacity: enabled ? 1 : AppTheme.disabledOpacity
-    visible: button.recent.count > 0
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: qsTr("Scanned repositories")
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onDownPressed: button.clicked()
-    onClicked: {
-        button.recent.look();
-        menu.popup(button, button.width - menu.width, button.height + AppTheme.tightSpace);
-    }
+    onClicked: button.open()
 
     contentItem: Item {
         Symbol {
@@ -35,7 +43,7 @@ AbstractButton {
     }
     background: Rectangle {
         radius: AppTheme.controlRadius
-        color: button.down || menu.visible ? AppTheme.pressedFill
+        color: button.down || button.isOpen ? AppTheme.pressedFill
              : button.hovered ? AppTheme.hoverFill : "transparent"
     }
 
@@ -44,13 +52,10 @@ AbstractButton {
         cursorShape: Qt.PointingHandCursor
     }
     FocusRing { shown: button.visualFocus }
-    PlainToolTip {
+    LateToolTip {
         words: qsTr("Choose a repository that was scanned before")
-        visible: !menu.visible && (button.hovered || button.visualFocus)
+        wanted: !button.isOpen && (button.hovered || button.visualFocus)
     }
 
-    RecentMenu {
-        id: menu
-        recent: button.recent
-    }
+    Loader { id: loader }
 }

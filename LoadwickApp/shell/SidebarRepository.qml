@@ -24,21 +24,13 @@ ColumnLayout {
             font: AppTheme.emphasisFont
         }
     }
-    SelectableText {
+    Loader {
         id: path
 
         Layout.fillWidth: true
-        text: repository.content.repositoryDetail
-        font: AppTheme.captionFont
-        secondary: true
-        maximumLineCount: 2
-        visible: repository.content.hasRepository
-
-        HoverHandler { id: pointer }
-        PlainToolTip {
-            words: path.text
-            visible: pointer.hovered && path.truncated
-        }
+        active: repository.content.hasRepository
+        visible: active
+        Component.onCompleted: path.setSource("RepositoryPath.qml", { content: repository.content })
     }
     PlainLabel {
         Layout.fillWidth: true

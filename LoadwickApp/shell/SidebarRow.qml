@@ -59,8 +59,8 @@ T.ItemDelegate {
         onActivated: row.clicked()
     }
 
-    PlainToolTip {
+    LateToolTip {
         words: row.shortcut
-        visible: row.hovered
+        wanted: row.hovered
     }
 }

@@ -10,16 +10,23 @@ namespace Loadwick {
 void TrendSummaryPresenter::show(std::span<const LineSample> samples)
 {
     m_hasScans = !samples.empty();
-    const std::int64_t latest = m_hasScans ? samples.back().total : 0;
-    const std::int64_t earliest = m_hasScans ? samples.front().total : 0;
+    // The first figure of a program loads the locale's data, of which a start has no need.
+    if (m_hasScans)
+        word(samples);
+    Q_EMIT changed();
+}
+
+void TrendSummaryPresenter::word(std::span<const LineSample> samples)
+{
+    const std::int64_t latest = samples.back().total;
     const OpinionBand band = OpinionBand::band(latest);
     m_latest = qtText(NumberText::grouped(latest, m_locale));
     m_range = qtText(band.range(m_locale));
     m_band = band;
     m_bandTitle = qtText(band.title());
-    m_drift = qtText(NumberText::groupedChange(checkedDifference(latest, earliest), m_locale));
+    m_drift = qtText(
+        NumberText::groupedChange(checkedDifference(latest, samples.front().total), m_locale));
     m_driftCaption = tr("%1 recorded scans").arg(samples.size());
-    Q_EMIT changed();
 }
 
 } // namespace Loadwick

@@ -31,7 +31,7 @@ public:
     /// By date. A drift that does not fit 64 bits ends the program.
     void show(std::span<const LineSample> samples);
 
-    /// Whether there is anything to say.
+    /// Whether there is anything to say; the words below mean nothing otherwise.
     [[nodiscard]] bool hasScans() const noexcept { return m_hasScans; }
 
     [[nodiscard]] QString latest() const { return m_latest; } ///< tokens
@@ -47,6 +47,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void word(std::span<const LineSample> samples);
+
     TextLocale m_locale;
     bool m_hasScans = false;
     QString m_latest;

@@ -1,0 +1,133 @@
+// What a window is made of when it first shows: what is not to be seen then, is not there.
+#include <algorithm>
+#include <fstream>
+#include <string>
+
+#include <QQuickItem>
+#include <QTest>
+
+#include "shell/AppPage.h"
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr qsizetype mostObjects = 450;
+
+/// Whether the process has a library of that name.
+bool isLoaded(const std::string &library)
+{
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; std::getline(maps, line);) {
+        if (line.find(library) != std::string::npos)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+class FirstFrameTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<WindowFixture>();
+        QVERIFY(!window().grabWindow().isNull());
+    }
+    void cleanup() { m_window.reset(); }
+
+    void whatItDoesNotShowIsNotMade_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        for (const char *type :
+             {"TrendsView", "CompareView", "OverviewLoading", "OverviewFailure", "OverviewReport",
+              "RepositoryPath", "SelectableText", "RecentButton", "RecentMenu", "PlainToolTip",
+              "ConfirmationDialog", "OnboardingView"})
+            QTest::newRow(type) << QByteArray(type);
+    }
+
+    void whatItDoesNotShowIsNotMade()
+    {
+        QFETCH(const QByteArray, type);
+        QVERIFY(isMade("ScanEmptyState"));
+        QVERIFY(!isMade(type));
+    }
+
+    void theDialogsAreNotLoaded()
+    {
+        QVERIFY(isLoaded("libQt6QuickTemplates2"));
+        QVERIFY(!isLoaded("Dialogs"));
+        QVERIFY(!isLoaded("folderlistmodel"));
+    }
+
+    void itIsMadeOfFewObjects()
+    {
+        const qsizetype count = window().findChildren<QObject *>().size();
+        QVERIFY2(count > mostObjects / 2 && count <= mostObjects,
+                 qPrintable(QString::number(count)));
+    }
+
+    void aPageIsMadeWhenItIsFirstLookedAtAndStays_data()
+    {
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QByteArray>("type");
+        QTest::newRow("Trends") << static_cast<int>(AppPage::trends) << QByteArray("TrendsView");
+        QTest::newRow("Compare") << static_cast<int>(AppPage::compare) << QByteArray("CompareView");
+    }
+
+    void aPageIsMadeWhenItIsFirstLookedAtAndStays()
+    {
+        QFETCH(const int, page);
+        QFETCH(const QByteArray, type);
+        m_window->loadwick().content().setPageIndex(page);
+        const QObject *const made = find(type);
+        QVERIFY(made != nullptr);
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::overview));
+        m_window->loadwick().content().setPageIndex(page);
+        QCOMPARE(find(type), made);
+    }
+
+    void thePathIsMadeWithTheRepository()
+    {
+        m_window->choose(m_window->folder().path());
+        QVERIFY(isMade("RepositoryPath"));
+        QVERIFY(m_window->shows(m_window->loadwick().content().repositoryDetail()));
+    }
+
+    void aFailureIsMadeWhenItHappensAndGoesWithIt()
+    {
+        ScanModel &model = m_window->loadwick().model();
+        model.select(RepoSelection::fromUrl(m_window->folder().path()));
+        model.state().set(ScanState::failed(ProbeError::notAuthenticated()));
+        QVERIFY(isMade("OverviewFailure"));
+        model.state().set(ScanState::scanning());
+        QVERIFY(isMade("OverviewLoading"));
+        QTRY_VERIFY(!isMade("OverviewFailure"));
+    }
+
+private:
+    [[nodiscard]] QQuickWindow &window() const { return m_window->loadwick().window(); }
+
+    /// An object of that component; null while there is none.
+    [[nodiscard]] const QObject *find(const QByteArray &type) const
+    {
+        const QList<QObject *> objects = window().findChildren<QObject *>();
+        const auto found = std::ranges::find_if(objects, [&type](const QObject *object) {
+            return QByteArray(object->metaObject()->className()).startsWith(type + "_QMLTYPE");
+        });
+        return found == objects.end() ? nullptr : *found;
+    }
+    [[nodiscard]] bool isMade(const QByteArray &type) const { return find(type) != nullptr; }
+
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+const RegisteredTest<FirstFrameTest> registered("FirstFrame");
+
+} // namespace Loadwick
+
+#include "FirstFrameTest.moc"
