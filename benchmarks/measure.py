@@ -8,13 +8,12 @@ import os
 import platform
 import re
 import subprocess
-import tempfile
-import time
 from pathlib import Path
 
 from measured import Row, ratios
 from rounds import (benchmark, figures, in_process_row, instructions, pair_times,
                     window_lines)
+from window import startup_rows
 
 ROOT = Path(__file__).resolve().parents[1]
 GOALS = json.loads((ROOT / "benchmarks/goals.json").read_text(encoding="utf-8"))
@@ -109,21 +108,8 @@ class Bench:
                              "of 200", [scan(10_000) / scan(200)], 1.5, 1.5))
 
     def measure_startup(self) -> None:
-        """The window's first frame and its memory, beside a bare window's."""
-        taken: dict[str, list[list[float]]] = {"bare": [], "loadwick": []}
-        with tempfile.TemporaryDirectory() as home:
-            for turn in range(self.count + 1):
-                for window, lines in taken.items():
-                    began = {"HOME": home, "STARTUP_BEGAN": str(time.time_ns())}
-                    lines += window_lines([str(self.programs / f"startup_{window}")], began)[
-                        0 if turn else 1:]
-        ours, bare = taken["loadwick"], taken["bare"]
-        against = "a bare Controls window, same renderer"
-        self.rows.append(Row("exec to the first frame of the empty state", against,
-                             ratios([line[0] for line in ours], [line[0] for line in bare]), 1.5, 2))
-        self.rows.append(Row("resident memory of the empty state", against,
-                             [(mine[1] - other[1]) / 1024 for mine, other in zip(ours, bare)],
-                             8, 16, " MB more"))
+        """The window's first frame and its memory. Starts are short and vary: three of each."""
+        self.rows += startup_rows(self.programs, 3 * self.count)
 
     def measure_scan(self) -> None:
         """From the key to the first frame of the result."""

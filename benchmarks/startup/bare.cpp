@@ -5,13 +5,12 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickStyle>
 #include <QQuickWindow>
-
-#include "shell/ApplicationSetup.h"
 
 int main(int argc, char **argv)
 {
-    Loadwick::ApplicationSetup::prepare();
+    QQuickStyle::setStyle(QStringLiteral("Basic")); // ours
     QGuiApplication application(argc, argv);
     QQmlEngine engine;
     QQmlComponent component(&engine);
