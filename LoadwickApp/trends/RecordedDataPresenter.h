@@ -25,12 +25,14 @@ public:
     {}
 
     /// To be called whenever the model's history has changed.
-    void showHistory();
+    void showHistory() { Q_EMIT changed(); }
 
-    [[nodiscard]] QString storageNote() const { return m_storageNote; }
+    /// Worded when it is asked for: its figures load the locale's data, of which a start has no
+    /// need.
+    [[nodiscard]] QString storageNote() const;
 
     /// What deletes so many scans for good.
-    [[nodiscard]] QString deleteTitle() const { return m_deleteTitle; }
+    [[nodiscard]] QString deleteTitle() const;
     [[nodiscard]] bool canClear() const { return m_model.canClearHistory(); }
 
     /// Deletes every recorded scan.
@@ -42,8 +44,6 @@ Q_SIGNALS:
 private:
     ScanModel &m_model;
     TextLocale m_locale;
-    QString m_storageNote;
-    QString m_deleteTitle;
 };
 
 } // namespace Loadwick

@@ -13,7 +13,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr qsizetype mostObjects = 450;
+constexpr qsizetype mostObjects = 165;
 
 /// Whether the process has a library of that name.
 bool isLoaded(const std::string &library)
