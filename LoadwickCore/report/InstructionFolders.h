@@ -13,8 +13,8 @@
 namespace Loadwick {
 
 /// The folders of the files that one walk comes by. The way to a folder, with its links, is gone
-/// once for all its files: going it for each took half as long again as to open, read and close the
-/// file.
+/// once for all its files: going it for the look at each took a third as long as to open, read and
+/// close the file.
 class InstructionFolders
 {
 public:
