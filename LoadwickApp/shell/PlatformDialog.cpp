@@ -3,8 +3,9 @@
 #include <utility>
 
 #include <QQmlEngine>
-#include <QWindow>
+#include <QQuickWindow>
 
+#include "shell/PlainDialog.h"
 #include "shell/QmlObject.h"
 
 namespace Loadwick {
@@ -36,8 +37,11 @@ QObject *PlatformDialog::madeFor(QObject &asker)
 
 void PlatformDialog::open()
 {
-    if (m_dialog)
-        QMetaObject::invokeMethod(m_dialog.get(), "open");
+    if (!m_dialog)
+        return;
+    QMetaObject::invokeMethod(m_dialog.get(), "open");
+    if (auto *window = qobject_cast<QQuickWindow *>(m_window.data()))
+        PlainDialog::makeReachable(*window);
 }
 
 } // namespace Loadwick

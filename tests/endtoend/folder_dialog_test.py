@@ -18,6 +18,17 @@ class FolderDialogTest(EndToEndCase):
         program.window.wait_for("Scan complete")
         self.assertEqual([scan["repositoryName"] for scan in self.home.scans()], ["webshop"])
 
+    def test_a_folder_is_chosen_by_its_name_with_the_keyboard_alone(self) -> None:
+        self.home.make_repository("api")
+        self.home.make_repository("webshop")
+        program = self.open("--platform-dialog")
+        program.window.key("ctrl+o")
+        program.window.wait_for("webshop")
+        program.window.key("Down")
+        program.window.press("Choose")
+        program.window.wait_until_gone("Choose")
+        program.window.wait_for("webshop")
+
     def test_thinking_better_of_it_changes_nothing(self) -> None:
         self.home.make_repository("webshop")
         program = self.open("--platform-dialog")

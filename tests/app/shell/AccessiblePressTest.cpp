@@ -40,6 +40,15 @@ private Q_SLOTS:
         QVERIFY(!accessible(*button)->state().disabled);
     }
 
+    void aLineOfAFileDialogHasTheNameOfItsFile()
+    {
+        const auto line = make("ItemDelegate { property string fileName: 'webshop' }");
+        QCOMPARE(accessible(*line)->text(QAccessible::Name), QStringLiteral("webshop"));
+        const auto button = make("import QtQuick\n"
+                                 "Button { Accessible.name: 'Up'; property string fileName: 'a' }");
+        QCOMPARE(accessible(*button)->text(QAccessible::Name), QStringLiteral("Up"));
+    }
+
     void pressTriggersTheAction()
     {
         const auto button =

@@ -1,14 +1,17 @@
 #include "shell/DialogFolderChooser.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 
+#include <QAccessible>
 #include <QDir>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QTest>
 
 #include "support/TestRegistry.h"
+#include "support/VisualItems.h"
 #include "theme/ApplicationStyle.h"
 
 namespace Loadwick {
@@ -76,6 +79,24 @@ private Q_SLOTS:
         QVERIFY(m_chosen == std::filesystem::path("/srv/second"));
     }
 
+    void theKeyboardIsOnTheListOfFolders()
+    {
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        open();
+        QVERIFY(m_window->activeFocusItem() != nullptr);
+        const QQuickItem *place = m_window->activeFocusItem();
+        while (place != nullptr && place->objectName() != QStringLiteral("folderDialogListView"))
+            place = place->parentItem();
+        QVERIFY(place != nullptr);
+    }
+
+    void theButtonWithoutWordsHasAName()
+    {
+        open();
+        QVERIFY(isNamed(QStringLiteral("Folder above")));
+    }
+
     void withoutAWindowNobodyIsAsked()
     {
         DialogFolderChooser unattached{QUrl()};
@@ -84,6 +105,15 @@ private Q_SLOTS:
     }
 
 private:
+    [[nodiscard]] bool isNamed(const QString &name) const
+    {
+        const QList<QQuickItem *> items = shownItems(*m_window->contentItem());
+        return std::any_of(items.begin(), items.end(), [&name](QQuickItem *item) {
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
+            return accessible != nullptr && accessible->text(QAccessible::Name) == name;
+        });
+    }
+
     void open()
     {
         m_chooser->open([this](const std::filesystem::path &folder) { m_chosen = folder; });

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QQuickWindow>
+
+/// The dialogs that Qt draws inside the window where the desktop has none of its own.
+namespace Loadwick::PlainDialog {
+
+/// Gives the one that is open the keyboard, which Qt does only where its list has a line, and then
+/// moves it there; and names what has only a picture or stands beside its words. Does nothing when
+/// none is open.
+void makeReachable(QQuickWindow &window);
+
+} // namespace Loadwick::PlainDialog
