@@ -35,12 +35,36 @@ RowLayout {
             OnboardingLegendRow { index: 2; title: "Excessive"; detail: "over 60,000 tokens" }
         }
     }
-    PushButton {
-        title: "Clear Recorded Data…"
-        symbol: "trash"
-        outlined: true
-        toolTip: "A tool tip says more, in plain text."
-        onClicked: dialog.open()
+    ColumnLayout {
+        spacing: AppTheme.cardSpace
+
+        // As in a menu that is open: marked, under the pointer, gone.
+        Rectangle {
+            implicitWidth: 260
+            implicitHeight: items.implicitHeight + 2 * AppTheme.tightSpace
+            radius: AppTheme.controlRadius
+            color: AppTheme.surface
+            border { width: AppTheme.hairline; color: AppTheme.separator }
+
+            Column {
+                id: items
+
+                anchors { fill: parent; margins: AppTheme.tightSpace }
+
+                PlainMenuItem { width: parent.width; title: "harbor-api"; detail: "/home/someone/projects/harbor-api"; marked: true }
+                PlainMenuItem { width: parent.width; title: "webshop"; detail: "/home/someone/projects/with-a-long-name/webshop"; highlighted: true }
+                PlainMenuItem { width: parent.width; title: "old"; detail: "/home/someone/old"; enabled: false }
+                PlainMenuItem { width: parent.width; title: "Copy"; detail: "" }
+            }
+        }
+        MomentaryNote { words: "Copied"; visible: true }
+        PushButton {
+            title: "Clear Recorded Data…"
+            symbol: "trash"
+            outlined: true
+            toolTip: "A tool tip says more, in plain text."
+            onClicked: dialog.open()
+        }
     }
 
     ConfirmationDialog {
