@@ -44,9 +44,6 @@ private Q_SLOTS:
     {
         const auto line = make("ItemDelegate { property string fileName: 'webshop' }");
         QCOMPARE(accessible(*line)->text(QAccessible::Name), QStringLiteral("webshop"));
-        const auto button = make("import QtQuick\n"
-                                 "Button { Accessible.name: 'Up'; property string fileName: 'a' }");
-        QCOMPARE(accessible(*button)->text(QAccessible::Name), QStringLiteral("Up"));
     }
 
     void pressTriggersTheAction()
