@@ -1,6 +1,7 @@
 #include "icons/Symbol.h"
 
 #include "icons/SymbolCatalog.h"
+#include "icons/SymbolPictures.h"
 
 #include <QDebug>
 #include <QImage>
@@ -29,9 +30,9 @@ void Symbol::setName(const QString &name)
     if (m_name == name)
         return;
     m_name = name;
-    const QString file = SymbolCatalog::file(name);
-    m_drawing = file.isEmpty() ? nullptr : std::make_unique<QSvgRenderer>(file);
-    if (file.isEmpty() && !name.isEmpty())
+    m_file = SymbolCatalog::file(name);
+    m_drawing.reset();
+    if (m_file.isEmpty() && !name.isEmpty())
         qWarning() << "No drawing for the symbol" << name;
     Q_EMIT nameChanged();
     update();
@@ -59,16 +60,27 @@ void Symbol::paint(QPainter *painter)
 {
     const qreal side = std::min(width(), height());
     const int pixels = qRound(side * painter->deviceTransform().m11());
-    if (!m_drawing || pixels <= 0)
+    if (m_file.isEmpty() || pixels <= 0)
         return;
     const QRectF square((width() - side) / 2, (height() - side) / 2, side, side);
-    painter->drawImage(square, drawn(pixels));
+    painter->drawImage(square, picture(pixels));
+}
+
+// One that turns is another at every moment.
+QImage Symbol::picture(int side)
+{
+    if (!qFuzzyIsNull(m_angle))
+        return drawn(side);
+    const QString key = QStringLiteral("%1 %2 %3").arg(m_file).arg(side).arg(m_tint.rgba(), 0, 16);
+    return SymbolPictures::find(key, [this, side] { return drawn(side); });
 }
 
 // A drawing is black on nothing; the tint takes the place of the black. Drawn at the size in device
 // pixels and coloured as a whole, overlapping strokes of a translucent tint leave no seams.
-QImage Symbol::drawn(int side) const
+QImage Symbol::drawn(int side)
 {
+    if (!m_drawing)
+        m_drawing = std::make_unique<QSvgRenderer>(m_file);
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -42,10 +42,12 @@ Q_SIGNALS:
     void angleChanged();
 
 private:
-    [[nodiscard]] QImage drawn(int side) const;
+    [[nodiscard]] QImage picture(int side);
+    [[nodiscard]] QImage drawn(int side);
 
     QString m_name;
-    std::unique_ptr<QSvgRenderer> m_drawing;
+    QString m_file;                          ///< of the drawing, empty where there is none
+    std::unique_ptr<QSvgRenderer> m_drawing; ///< read when no picture of it is known
     QColor m_tint = Qt::black;
     qreal m_angle = 0;
 };
