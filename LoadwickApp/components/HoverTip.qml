@@ -8,6 +8,8 @@ HoverHandler {
 
     // Nothing is said while these are empty.
     required property string words
+    // What they are about: where many items are in one that answers the pointer for all.
+    property Item about: tip.parent
     readonly property bool wanted: tip.hovered && tip.words.length > 0
     property PlainToolTip shown: null
 
@@ -19,9 +21,10 @@ HoverHandler {
 
     function make() {
         const maker = Qt.createComponent("PlainToolTip.qml");
-        return maker.createObject(tip.parent, { parent: tip.parent, words: tip.words, visible: true }) as PlainToolTip;
+        return maker.createObject(tip.parent, { parent: tip.about, words: tip.words, visible: true }) as PlainToolTip;
     }
 
     onWantedChanged: tip.showOrHide()
     onWordsChanged: tip.showOrHide()
+    onAboutChanged: tip.showOrHide()
 }

@@ -42,6 +42,11 @@ FocusScope {
         return Math.max(0, Math.min(rows.count, Math.floor((pageY - list.pageTop) / list.rowHeight)));
     }
 
+    // The row at a height in the list, null where there is none or it is out of sight.
+    function rowUnder(y) {
+        return rows.itemAt(0.5 * rows.width, y);
+    }
+
     function goTo(index) {
         list.currentIndex = Math.max(0, Math.min(rows.count - 1, index));
         list.scrollTo(list.currentIndex);

@@ -1,9 +1,11 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as Templates
 import Loadwick
 
-// The one label of the window. Whatever it is given is shown letter by letter, never as markup.
-Label {
+// The one label of the window. Whatever it is given is shown letter by letter, never as markup. Of
+// the template, not of a style: a style's label makes a palette of its own, which costs more than the
+// label.
+Templates.Label {
     property bool secondary: false
 
     textFormat: Text.PlainText

@@ -9,23 +9,33 @@ Item {
     default property alias content: column.data
     property alias spacing: column.spacing
     property bool isHovering: pointer.hovered
+    property bool wasHovered: false
 
     implicitWidth: column.implicitWidth + 2 * AppTheme.cardPadding
     implicitHeight: column.implicitHeight + 2 * AppTheme.cardPadding
+    onIsHoveringChanged: card.wasHovered = true
 
     // Black at 0.16, blurred over 16, a third of that lower. The blur itself never changes: only
-    // its strength does, which costs nothing in any renderer.
-    BorderImage {
-        objectName: "shadow"
+    // its strength does, which costs nothing in any renderer. Made when a pointer first comes.
+    Loader {
         anchors { fill: parent; margins: -24; topMargin: -24 + 16 / 3; bottomMargin: -24 - 16 / 3 }
-        border { left: 50; top: 50; right: 50; bottom: 50 }
-        source: "qrc:/qt/qml/Loadwick/components/card-shadow.png"
-        opacity: card.isHovering ? 0.16 : 0
-        visible: opacity > 0
+        active: card.isHovering || card.wasHovered
+        sourceComponent: BorderImage {
+            id: shadow
 
-        Behavior on opacity {
-            enabled: !AppTheme.reduceMotion
-            NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
+            property bool isMade: false
+
+            objectName: "shadow"
+            border { left: 50; top: 50; right: 50; bottom: 50 }
+            source: "qrc:/qt/qml/Loadwick/components/card-shadow.png"
+            opacity: card.isHovering && shadow.isMade ? 0.16 : 0
+            visible: opacity > 0
+            Component.onCompleted: shadow.isMade = true
+
+            Behavior on opacity {
+                enabled: !AppTheme.reduceMotion
+                NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
+            }
         }
     }
 

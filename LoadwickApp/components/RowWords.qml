@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
 // A title over a quieter detail, each on one line; a tool tip holds what had to be left out, and
@@ -15,34 +14,30 @@ Item {
     readonly property string whole: !pair.cutShort ? pair.place
         : pair.place.length > 0 ? pair.both + "\n" + pair.place : pair.both
 
-    implicitWidth: lines.implicitWidth
-    implicitHeight: lines.implicitHeight
+    implicitWidth: Math.max(heading.implicitWidth, note.implicitWidth)
+    implicitHeight: heading.implicitHeight + note.implicitHeight
 
-    ColumnLayout {
-        id: lines
+    PlainLabel {
+        id: heading
 
-        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
-        spacing: 0
+        objectName: "title"
+        anchors { left: parent.left; right: parent.right; bottom: note.top }
+        text: pair.title
+        font: AppTheme.subheadlineStrongFont
+        elide: Text.ElideRight
+        maximumLineCount: 1
+    }
+    PlainLabel {
+        id: note
 
-        PlainLabel {
-            id: heading
-            objectName: "title"
-            Layout.fillWidth: true
-            text: pair.title
-            font: AppTheme.subheadlineStrongFont
-            elide: Text.ElideRight
-            maximumLineCount: 1
-        }
-        PlainLabel {
-            id: note
-            objectName: "detail"
-            Layout.fillWidth: true
-            text: pair.detail
-            font: AppTheme.captionFont
-            secondary: true
-            elide: Text.ElideRight
-            maximumLineCount: 1
-        }
+        objectName: "detail"
+        anchors { left: parent.left; right: parent.right }
+        y: 0.5 * (pair.height - pair.implicitHeight) + heading.implicitHeight
+        text: pair.detail
+        font: AppTheme.captionFont
+        secondary: true
+        elide: Text.ElideRight
+        maximumLineCount: 1
     }
 
     HoverTip { words: pair.whole }

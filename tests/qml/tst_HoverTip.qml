@@ -19,6 +19,14 @@ Item {
         HoverTip { id: nothing; words: "" }
     }
 
+    Item {
+        id: crowd
+        y: 120; width: 100; height: 40
+        Item { id: one; width: 50; height: 40 }
+        Item { id: other; x: 50; width: 50; height: 40 }
+        HoverTip { id: forAll; words: "Of one"; about: forAll.point.position.x < 50 ? one : other }
+    }
+
     TestCase {
         name: "HoverTip"
         when: windowShown
@@ -42,6 +50,13 @@ Item {
             tryCompare(toolTipOf(tip), "opened", true);
             compare(toolTipOf(tip).words, "<b>/srv/one</b>");
             compare(toolTipOf(tip).contentItem.textFormat, Text.PlainText);
+        }
+
+        function test_itStandsAtTheItemItIsAbout() {
+            mouseMove(crowd, 20, 20);
+            tryVerify(function () { return toolTipOf(forAll) !== null && toolTipOf(forAll).parent === one; });
+            mouseMove(crowd, 70, 20);
+            tryVerify(function () { return toolTipOf(forAll).parent === other; });
         }
 
         function test_withoutWordsThereIsNoToolTip() {

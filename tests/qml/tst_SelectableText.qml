@@ -12,6 +12,11 @@ Item {
 
     SelectableText { id: twoFolders; y: 120; width: 150; text: "/home/somebody/Projects/harbor"; maximumLineCount: 2 }
 
+    SelectableText { id: untouched; x: 220; y: 120; width: 150; text: "Fits"; maximumLineCount: 1 }
+    SelectableText { id: focused; x: 220; y: 210; width: 150; text: "Fits as well"; maximumLineCount: 1 }
+    Component { id: line; SelectableText { x: 220; y: 180; width: 150; text: "Fits too"; maximumLineCount: 1 } }
+    SelectableText { id: several; x: 220; y: 10; width: 150; text: "Several words that stand on several lines of one text" }
+
     TextEdit { id: clipboard; y: 200; textFormat: TextEdit.PlainText }
     SelectableText { id: name; y: 180; width: 90; text: "a-repository-with-a-name-2"; maximumLineCount: 1 }
 
@@ -23,7 +28,8 @@ Item {
         when: windowShown
 
         function edit(item) {
-            return item.children[0].children[0];
+            item.equip();
+            return item.reader.edit;
         }
 
         function test_showsMarkupLetterByLetter() {
@@ -55,8 +61,52 @@ Item {
             compare(edit(path).selectedText, path.text);
         }
 
+        function test_whatSelectsIsMadeForThePointer() {
+            mouseMove(scene, 390, 290);
+            const pointed = createTemporaryObject(line, scene);
+            compare(pointed.reader, null);
+            mouseMove(pointed, 4, 4);
+            verify(pointed.reader !== null);
+            mouseDoubleClickSequence(pointed, 10, 8);
+            compare(pointed.reader.edit.selectedText, "Fits");
+            mouseClick(pointed, 4, 4, Qt.RightButton);
+            tryVerify(() => pointed.reader.menu !== null && pointed.reader.menu.visible);
+            keyClick(Qt.Key_Escape);
+            tryVerify(() => !pointed.reader.menu.visible);
+        }
+
+        function test_whatSelectsIsMadeForTheKeyboard() {
+            compare(focused.reader, null);
+            verify(focused.activeFocusOnTab);
+            focused.forceActiveFocus(Qt.TabFocusReason);
+            verify(focused.reader.edit.activeFocus);
+            verify(!focused.activeFocusOnTab);
+            keyClick(Qt.Key_Backtab);
+            verify(!focused.reader.edit.activeFocus);
+            verify(!focused.activeFocus);
+        }
+
+        function test_assistiveTechnologyFindsOneText() {
+            compare(untouched.Accessible.role, Accessible.EditableText);
+            compare(untouched.Accessible.name, "Fits");
+            verify(untouched.Accessible.readOnly);
+            verify(!untouched.Accessible.ignored);
+            edit(plain);
+            verify(plain.Accessible.ignored);
+            compare(edit(plain).Accessible.name, plain.text);
+        }
+
+        // Otherwise the words would move under the pointer that selects them.
+        function test_whatSelectsTakesThePlaceOfWhatShows() {
+            for (const item of [plain, several]) {
+                compare(edit(item).lineCount, shortForm(item).lineCount);
+                fuzzyCompare(edit(item).contentHeight, shortForm(item).contentHeight, 0.5);
+                fuzzyCompare(edit(item).contentWidth, shortForm(item).contentWidth, 0.5);
+            }
+        }
+
         function shortForm(item) {
-            return findChild(item, "short");
+            return findChild(item, "shown");
         }
 
         function test_dotsStandForWhatIsLeftOut() {
@@ -94,19 +144,19 @@ Item {
             edit(plain).select(3, 4);
             mouseClick(edit(plain), 4, 4, Qt.RightButton);
             compare(edit(plain).selectedText, "a");
-            tryVerify(() => plain.menu !== null && plain.menu.visible);
-            compare(plain.menu.itemAt(0).text, "");
-            compare(plain.menu.itemAt(0).title, "Copy");
-            mouseClick(plain.menu.itemAt(0));
+            tryVerify(() => plain.reader.menu !== null && plain.reader.menu.visible);
+            compare(plain.reader.menu.itemAt(0).text, "");
+            compare(plain.reader.menu.itemAt(0).title, "Copy");
+            mouseClick(plain.reader.menu.itemAt(0));
             compare(pasted(), "a");
-            tryVerify(() => !plain.menu.visible);
+            tryVerify(() => !plain.reader.menu.visible);
         }
 
         function test_theContextMenuCopiesTheWholeWithoutASelection() {
             edit(path).forceActiveFocus();
             edit(path).deselect();
             keyClick(Qt.Key_Menu);
-            tryVerify(() => path.menu !== null && path.menu.visible);
+            tryVerify(() => path.reader.menu !== null && path.reader.menu.visible);
             keyClick(Qt.Key_Down);
             keyClick(Qt.Key_Return);
             compare(pasted(), path.text);
@@ -116,12 +166,12 @@ Item {
             edit(path).forceActiveFocus();
             edit(path).selectAll();
             keyClick(Qt.Key_Menu);
-            tryVerify(() => path.menu !== null && path.menu.visible);
+            tryVerify(() => path.reader.menu !== null && path.reader.menu.visible);
             verify(!edit(path).activeFocus);
             compare(edit(path).opacity, 1);
             verify(!shortForm(path).visible);
             keyClick(Qt.Key_Escape);
-            tryVerify(() => !path.menu.visible);
+            tryVerify(() => !path.reader.menu.visible);
         }
 
         function pasted() {

@@ -17,24 +17,33 @@ Item {
         name: "TrendPill"
         when: windowShown
 
+        function wordsOf(pill) {
+            return findChild(pill, "label");
+        }
+
         function test_aFirstScanIsAQuietMark() {
-            compare(findChild(first, "first").visible, true);
-            compare(findChild(first, "first").label, "First scan");
-            compare(findChild(first, "change").visible, false);
-            compare(first.implicitWidth, findChild(first, "first").implicitWidth);
+            compare(wordsOf(first).text, "First scan");
+            compare(wordsOf(first).font.weight, Font.Normal);
+            compare(wordsOf(first).color, AppTheme.secondaryText);
+            compare(first.color, AppTheme.quietFill);
+            compare(findChild(first, "symbol").visible, false);
+            compare(first.implicitWidth, wordsOf(first).width + 16);
+            compare(first.implicitHeight, wordsOf(first).height + 8);
         }
 
         function test_growthIsColouredAsAWarningAndShrinkageAsGoodNews() {
-            compare(findChild(grew, "change").tint, AppTheme.bandHeavyText);
-            compare(findChild(shrank, "change").tint, AppTheme.bandLeanText);
-            compare(findChild(unchanged, "change").tint, AppTheme.secondaryText);
+            compare(wordsOf(grew).color, AppTheme.bandHeavyText);
+            compare(wordsOf(shrank).color, AppTheme.bandLeanText);
+            compare(wordsOf(unchanged).color, AppTheme.secondaryText);
+            fuzzyCompare(grew.color.a, 0.12, 0.01);
         }
 
         function test_aChangeShowsItsWordsAndItsArrow() {
-            compare(findChild(grew, "change").title, "+1,234");
-            compare(findChild(grew, "change").symbol, "arrow.up.right");
-            compare(findChild(grew, "first").visible, false);
-            compare(grew.implicitHeight, findChild(grew, "change").implicitHeight);
+            compare(wordsOf(grew).text, "+1,234");
+            compare(wordsOf(grew).font.weight, Font.DemiBold);
+            compare(findChild(grew, "symbol").name, "arrow.up.right");
+            compare(findChild(grew, "symbol").visible, true);
+            compare(grew.implicitWidth, wordsOf(grew).width + 5 + 14 + 16);
         }
     }
 }
