@@ -11,27 +11,35 @@ ReportSurface {
     // Among all repositories: their colours start again when they are used up.
     required property int place
     required property Flickable viewport
+    required property BarStyle style
     readonly property color fill: AppTheme.chartColors[card.place % AppTheme.chartColors.length]
 
     Accessible.role: Accessible.Grouping
     Accessible.name: card.column.name
     Accessible.description: card.column.place
 
-    ColumnHead {
-        Layout.fillWidth: true
-        column: card.column
-        fill: card.fill
-    }
-    Hairline { Layout.fillWidth: true }
-    // As high as all bars are, also for a scan without any.
     Item {
         Layout.fillWidth: true
-        implicitHeight: Math.max(1, card.compare.categoryCount) * bars.rowHeight
+        implicitHeight: ends.y + ends.height
 
-        TintedList {
+        ColumnHead {
+            id: head
+
+            width: parent.width
+            column: card.column
+            fill: card.fill
+        }
+        Hairline {
+            id: line
+
+            y: head.height + card.spacing
+            width: parent.width
+        }
+        BarList {
             id: bars
 
             objectName: "bars"
+            y: line.y + line.height + card.spacing
             width: parent.width
             Accessible.name: card.column.chartName
             model: card.column
@@ -39,19 +47,27 @@ ReportSurface {
             shortCount: card.compare.isLarge ? 0 : 60
             rowHeight: AppTheme.barRowHeight
             delegate: ColumnBar { }
+            style: card.style
             fill: card.fill
         }
-        SelectableText {
-            objectName: "empty"
+        Loader {
+            y: bars.y
             width: parent.width
-            text: card.column.emptyText
-            secondary: true
-            visible: card.column.emptyText.length > 0
+            active: card.column.emptyText.length > 0
+            sourceComponent: SelectableText {
+                objectName: "empty"
+                text: card.column.emptyText
+                secondary: true
+            }
         }
-    }
-    ScaleEnds {
-        Layout.fillWidth: true
-        start: card.compare.scaleStart
-        end: card.compare.scaleEnd
+        ScaleEnds {
+            id: ends
+
+            // As far below as all bars reach, also for a scan without any.
+            y: bars.y + Math.max(1, card.compare.categoryCount) * bars.rowHeight + card.spacing
+            width: parent.width
+            start: card.compare.scaleStart
+            end: card.compare.scaleEnd
+        }
     }
 }

@@ -28,6 +28,7 @@ Loader {
         compare: cell.grid.compare,
         column: cell.grid.compare.column(cell.index),
         place: cell.index,
-        viewport: cell.grid.viewport
+        viewport: cell.grid.viewport,
+        style: cell.grid.style
     })
 }

@@ -1,66 +1,69 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
-// Whose card it is, when that was scanned, and the one number that is authoritative.
-ColumnLayout {
+// Whose card it is, when that was scanned, and the one number that is authoritative. Of anchors: of
+// nested layouts, each lays out all words anew.
+Item {
     id: head
 
     required property ColumnPresenter column
     required property color fill
     readonly property color bandColor: AppTheme.bandTexts[head.column.band]
 
-    spacing: AppTheme.tightSpace
+    implicitHeight: band.y + band.height
 
-    RowLayout {
-        Layout.fillWidth: true
-        spacing: AppTheme.smallSpace
+    Rectangle {
+        id: dot
 
-        Rectangle {
-            implicitWidth: 12
-            implicitHeight: 12
-            radius: 4
-            color: head.fill
-        }
-        SelectableText {
-            objectName: "name"
-            Layout.fillWidth: true
-            text: head.column.name
-            font: AppTheme.headlineFont
-            maximumLineCount: 1
-
-            HoverTip { words: head.column.name + "\n" + head.column.place }
-        }
+        anchors { left: parent.left; verticalCenter: name.verticalCenter }
+        width: 12
+        height: 12
+        radius: 4
+        color: head.fill
     }
     SelectableText {
-        Layout.fillWidth: true
+        id: name
+
+        objectName: "name"
+        anchors { left: dot.right; leftMargin: AppTheme.smallSpace; right: parent.right }
+        text: head.column.name
+        font: AppTheme.headlineFont
+        maximumLineCount: 1
+
+        HoverTip { words: head.column.name + "\n" + head.column.place }
+    }
+    SelectableText {
+        id: scanned
+
+        anchors { left: parent.left; right: parent.right; top: name.bottom; topMargin: AppTheme.tightSpace }
         text: head.column.scanned
         font: AppTheme.captionFont
         secondary: true
         maximumLineCount: 1
     }
-    RowLayout {
-        Layout.fillWidth: true
-        Layout.topMargin: AppTheme.smallSpace
-        spacing: AppTheme.smallSpace
+    Symbol {
+        id: mark
 
-        Symbol {
-            Layout.preferredWidth: 20
-            Layout.preferredHeight: 20
-            name: "scalemass"
-            tint: head.bandColor
-        }
-        SelectableText {
-            objectName: "total"
-            Layout.fillWidth: true
-            text: head.column.total
-            font: AppTheme.title2Font
-            color: head.bandColor
-            maximumLineCount: 1
-        }
+        anchors { left: parent.left; verticalCenter: total.verticalCenter }
+        width: 20
+        height: 20
+        name: "scalemass"
+        tint: head.bandColor
     }
     SelectableText {
-        Layout.fillWidth: true
+        id: total
+
+        objectName: "total"
+        anchors { left: mark.right; leftMargin: AppTheme.smallSpace; right: parent.right; top: scanned.bottom; topMargin: AppTheme.mediumSpace }
+        text: head.column.total
+        font: AppTheme.title2Font
+        color: head.bandColor
+        maximumLineCount: 1
+    }
+    SelectableText {
+        id: band
+
+        anchors { left: parent.left; right: parent.right; top: total.bottom; topMargin: AppTheme.tightSpace }
         text: head.column.bandText
         font: AppTheme.captionStrongFont
         color: head.bandColor

@@ -9,6 +9,9 @@ Item {
     required property ComparePresenter compare
     required property Flickable viewport
 
+    // Of all cards' bars.
+    readonly property BarStyle style: ThemedBarStyle { isMirrored: grid.LayoutMirroring.enabled }
+
     readonly property int leastWidth: AppTheme.scaled(290)
     readonly property real gap: AppTheme.cardSpace
     readonly property int count: grid.compare.columnCount

@@ -20,7 +20,7 @@ ReportSurface {
         title: qsTr("Category for category")
         detail: qsTr("Same categories, every recorded repository, on one axis. Totals are authoritative; the category splits are local estimates.")
     }
-    CombinedList {
+    BarList {
         objectName: "combined"
         Layout.fillWidth: true
         Accessible.name: qsTr("Category for category")
@@ -28,8 +28,11 @@ ReportSurface {
         viewport: card.viewport
         rowHeight: AppTheme.combinedRowHeight
         delegate: CombinedRow { }
-        nameWidth: card.nameWidth
-        valueWidth: card.valueWidth
+        style: ThemedBarStyle {
+            nameWidth: card.nameWidth
+            valueWidth: card.valueWidth
+            isMirrored: card.LayoutMirroring.enabled
+        }
     }
     PlainLabel {
         text: qsTr("No category estimates")

@@ -25,7 +25,11 @@ void write(QPainter &painter, const QRectF &place, Qt::Alignment alignment, cons
 
 } // namespace
 
-CombinedPicture::CombinedPicture(QQuickItem *parent) : QQuickPaintedItem(parent) {}
+// A window paints what is hidden too, and of many repositories this is a picture of a gigabyte.
+CombinedPicture::CombinedPicture(QQuickItem *parent) : QQuickPaintedItem(parent)
+{
+    setFlag(ItemHasContents, false);
+}
 
 void CombinedPicture::setRows(QAbstractItemModel *rows)
 {

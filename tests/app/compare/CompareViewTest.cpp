@@ -1,5 +1,6 @@
 #include <set>
 
+#include <QFontMetricsF>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -7,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "compare/BarRow.h"
 #include "compare/ComparePresenter.h"
 #include "export/PageExport.h"
 #include "support/FakeFileSaver.h"
@@ -18,6 +20,44 @@
 #include "theme/ApplicationStyle.h"
 
 namespace Loadwick {
+namespace {
+
+/// The rows with a bar below an item.
+QList<BarRow *> barsBelow(QQuickItem *root)
+{
+    QList<BarRow *> bars;
+    for (QQuickItem *item : visibleItems(root, QStringLiteral("bar")))
+        bars << qobject_cast<BarRow *>(item);
+    return bars;
+}
+
+void collectParts(const QObject &object, std::set<const QObject *> &parts)
+{
+    if (!parts.insert(&object).second)
+        return;
+    for (const QObject *child : object.children())
+        collectParts(*child, parts);
+    if (const auto *item = qobject_cast<const QQuickItem *>(&object)) {
+        const auto children = item->childItems();
+        for (const QQuickItem *child : children)
+            collectParts(*child, parts);
+    }
+}
+
+/// How many objects an item is made of: what it costs to make it, without a clock.
+std::size_t partCount(const QObject &item)
+{
+    std::set<const QObject *> parts;
+    collectParts(item, parts);
+    return parts.size();
+}
+
+QString nameOf(const QQuickItem &bar)
+{
+    return bar.property("name").toString();
+}
+
+} // namespace
 
 class CompareViewTest : public QObject
 {
@@ -41,6 +81,8 @@ private Q_SLOTS:
     void ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade();
     void aJumpMakesNoCardOnItsWay();
     void theLastLineOfTwoHundredRepositoriesCanBeScrolledTo();
+    void aCardIsMadeOfFewParts();
+    void aRowIsMadeOfFewParts();
 
 private:
     void record(std::vector<RecordedScan> scans)
@@ -102,7 +144,7 @@ void CompareViewTest::twoRepositoriesShowALeaderboardCardsAndOneChart()
     QCOMPARE(items("leaderboard").size(), 1);
     QCOMPARE(items("bars").size(), 2);
     QCOMPARE(items("combined").size(), 1);
-    QCOMPARE(items("track").size(), 2 * 6 + 2 * 6);
+    QCOMPARE(items("bar").size(), 2 * 6 + 2 * 6);
 }
 
 void CompareViewTest::theChartAppearsWithTheSecondRepository()
@@ -148,11 +190,11 @@ void CompareViewTest::aCategoryKeepsItsPlaceInEveryCard()
     record({RecordedScanBuilder().in("/a").withCategory("x", 9).withCategory("y", 5).build(),
             RecordedScanBuilder().in("/b").withCategory("y", 1).build()});
     const QList<QQuickItem *> bars = items("bars");
-    const auto first = visibleItems(bars[0], QStringLiteral("category"));
-    const auto second = visibleItems(bars[1], QStringLiteral("category"));
+    const auto first = barsBelow(bars[0]);
+    const auto second = barsBelow(bars[1]);
     QCOMPARE(first.size(), 2);
     QCOMPARE(second.size(), 2);
-    QCOMPARE(second[1]->property("text").toString(), QStringLiteral("y"));
+    QCOMPARE(nameOf(*second[1]), QStringLiteral("y"));
     QCOMPARE(first[1]->mapToScene({}).y(), second[1]->mapToScene({}).y());
 }
 
@@ -160,10 +202,10 @@ void CompareViewTest::equalTokensAreEquallyLongInEveryCard()
 {
     record({RecordedScanBuilder().in("/a").withCategory("x", 90).withCategory("y", 30).build(),
             RecordedScanBuilder().in("/b").withCategory("y", 30).build()});
-    const auto first = visibleItems(items("bars")[0], QStringLiteral("bar"));
-    const auto second = visibleItems(items("bars")[1], QStringLiteral("bar"));
-    QCOMPARE(first[1]->width(), second.last()->width());
-    QCOMPARE(first[0]->width(), first[0]->parentItem()->width());
+    const auto first = barsBelow(items("bars")[0]);
+    const auto second = barsBelow(items("bars")[1]);
+    QCOMPARE(first[1]->places().bar.width(), second.last()->places().bar.width());
+    QCOMPARE(first[0]->places().bar, first[0]->places().track);
 }
 
 void CompareViewTest::aScanWithoutCategoriesSaysSoOnItsCard()
@@ -178,13 +220,16 @@ void CompareViewTest::aScanWithoutCategoriesSaysSoOnItsCard()
 void CompareViewTest::figuresOfAListEndOnOneLine()
 {
     record(SampleHistories::ofSize(31, 5, 7));
-    for (const char *name : {"leaderboard", "combined"}) {
-        std::set<qreal> edges;
-        const auto values = visibleItems(items(name)[0], QStringLiteral("value"));
-        for (const QQuickItem *value : values)
-            edges.insert(rightEdge(value));
-        QCOMPARE(edges.size(), std::size_t(1));
-    }
+    std::set<qreal> ranked;
+    const auto values = visibleItems(items("leaderboard")[0], QStringLiteral("value"));
+    for (const QQuickItem *value : values)
+        ranked.insert(rightEdge(value));
+    QCOMPARE(ranked.size(), std::size_t(1));
+    std::set<qreal> combined;
+    const auto bars = barsBelow(items("combined")[0]);
+    for (const BarRow *bar : bars)
+        combined.insert(bar->mapRectToScene(bar->places().value).right());
+    QCOMPARE(combined.size(), std::size_t(1));
 }
 
 void CompareViewTest::aLongNameAndALongCategoryPushNoFigureOut()
@@ -195,11 +240,20 @@ void CompareViewTest::aLongNameAndALongCategoryPushNoFigureOut()
     record({RecordedScanBuilder().named(name).in("/a").withCategory(category, 9'876'543).build(),
             RecordedScanBuilder().in("/b").withCategory("x", 1).ofTotal(9'876'543).build()});
     const QList<QQuickItem *> values = items("value");
-    QCOMPARE(values.size(), 2 + 2 * 2 + 2 * 2);
+    QCOMPARE(values.size(), 2);
     for (const QQuickItem *value : values) {
         QVERIFY(rightEdge(value) <= 480 - 24 - 16);
         QVERIFY(!value->property("truncated").toBool());
         QVERIFY(value->width() >= value->implicitWidth());
+    }
+    const QList<BarRow *> bars = barsBelow(m_view->rootObject());
+    QCOMPARE(bars.size(), 2 * 2 + 2 * 2);
+    for (const BarRow *bar : bars) {
+        const QFontMetricsF metrics(bar->style()->valueFont);
+        const QRectF place = bar->places().value;
+        QVERIFY(bar->mapRectToScene(place).right() <= 480 - 24 - 16);
+        QVERIFY(place.width() >= metrics.horizontalAdvance(bar->property("value").toString()));
+        QVERIFY(bar->places().name.right() < place.left());
     }
 }
 
@@ -219,15 +273,15 @@ void CompareViewTest::ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade()
     record(SampleHistories::ofSize(200, 200, 50));
     QCOMPARE(m_compare->columnCount(), 200);
     QVERIFY(items("words").size() < 40);
-    QVERIFY2(items("track").size() < 200, qPrintable(QString::number(items("track").size())));
+    QVERIFY2(items("bar").size() < 200, qPrintable(QString::number(items("bar").size())));
     viewport()->setProperty("contentY", 200 * 48 + 3'000);
-    QTRY_VERIFY(!items("track").isEmpty());
+    QTRY_VERIFY(!items("bar").isEmpty());
     QTest::qWait(50);
-    QVERIFY2(items("track").size() < 400, qPrintable(QString::number(items("track").size())));
+    QVERIFY2(items("bar").size() < 400, qPrintable(QString::number(items("bar").size())));
     viewport()->setProperty("contentY", 0);
     QTest::qWait(50);
     viewport()->setProperty("contentY", 200 * 48 + 3'000);
-    QTRY_VERIFY2(!items("track").isEmpty(), "a card that was left can be come back to");
+    QTRY_VERIFY2(!items("bar").isEmpty(), "a card that was left can be come back to");
 }
 
 void CompareViewTest::aJumpMakesNoCardOnItsWay()
@@ -256,10 +310,30 @@ void CompareViewTest::theLastLineOfTwoHundredRepositoriesCanBeScrolledTo()
     const qreal end = viewport()->property("contentHeight").toReal() - viewport()->height();
     viewport()->setProperty("contentY", end);
     QTest::qWait(50);
-    const auto names = visibleItems(items("combined")[0], QStringLiteral("name"));
-    QVERIFY(!names.isEmpty());
+    const auto bars = barsBelow(items("combined")[0]);
+    QVERIFY(!bars.isEmpty());
     QVERIFY(m_compare->column(199) != nullptr);
-    QCOMPARE(names.last()->property("text").toString(), m_compare->column(199)->name());
+    QCOMPARE(nameOf(*bars.last()), m_compare->column(199)->name());
+}
+
+void CompareViewTest::aCardIsMadeOfFewParts()
+{
+    record(SampleHistories::ofSize(2, 2, 6));
+    const QQuickItem *card = items("cell").constFirst()->property("item").value<QQuickItem *>();
+    const std::size_t bars = 6 * partCount(*barsBelow(items("bars")[0]).constFirst());
+    const std::size_t count = partCount(*card) - bars;
+    QVERIFY2(count <= 100, qPrintable(QString::number(count)));
+}
+
+void CompareViewTest::aRowIsMadeOfFewParts()
+{
+    record(SampleHistories::ofSize(2, 2, 6));
+    const auto bars = barsBelow(m_view->rootObject());
+    for (const BarRow *bar : bars)
+        QVERIFY2(partCount(*bar) <= 3, qPrintable(QString::number(partCount(*bar))));
+    const QQuickItem *rank = items("rank").constFirst();
+    const std::size_t count = partCount(*rank->parentItem()->parentItem());
+    QVERIFY2(count <= 40, qPrintable(QString::number(count)));
 }
 
 const RegisteredTest<CompareViewTest> registered("CompareView");
