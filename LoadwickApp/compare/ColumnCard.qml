@@ -14,6 +14,7 @@ ReportSurface {
     required property BarStyle style
     readonly property color fill: AppTheme.chartColors[card.place % AppTheme.chartColors.length]
 
+    onColumnChanged: bars.currentIndex = -1
     Accessible.role: Accessible.Grouping
     Accessible.name: card.column.name
     Accessible.description: card.column.place

@@ -1,17 +1,21 @@
 import QtQuick
 import Loadwick
 
-// The place of one card in the grid. The card itself is made when it is wanted.
+// The place of one card in the grid. Of a large grid there are only as many as the page can show: each
+// takes the place of one that has left the page, and shows its repository instead.
 Loader {
     id: cell
 
     required property int index
     readonly property ColumnPlaces grid: cell.parent as ColumnPlaces
     readonly property int across: cell.index % cell.grid.acrossCount
-    readonly property int line: Math.floor(cell.index / cell.grid.acrossCount)
+    readonly property int line: cell.grid.lineOf(Math.floor(cell.index / cell.grid.acrossCount))
+    // Among all repositories.
+    readonly property int place: cell.line * cell.grid.acrossCount + cell.across
     readonly property real step: cell.grid.cardWidth + cell.grid.gap
+    // The last ones may not fill a line.
+    readonly property bool isKept: cell.index < cell.grid.keptLines * cell.grid.acrossCount
     readonly property bool isLast: cell.across === cell.grid.acrossCount - 1
-    readonly property bool isNear: Math.abs(cell.line - cell.grid.middleLine) <= cell.grid.linesAround
 
     objectName: "cell"
     x: (LayoutMirroring.enabled ? cell.grid.acrossCount - 1 - cell.across : cell.across) * cell.step
@@ -19,16 +23,17 @@ Loader {
     // The last one takes what the others leave of a whole.
     width: cell.isLast ? cell.grid.width - cell.across * cell.step : cell.grid.cardWidth
     height: cell.grid.cardHeight
+    visible: cell.place < cell.grid.count && cell.isKept
     // The first one says how high all are. The others are made between the frames: to make a whole
     // line of them takes longer than one.
-    asynchronous: cell.index > 0 && cell.grid.compare.isLarge
-    active: cell.index === 0 || !cell.grid.compare.isLarge || cell.isNear
+    asynchronous: cell.index > 0 && cell.grid.isLarge
+    active: cell.index === 0 || !cell.grid.isLarge || (cell.grid.isLaidOut && cell.isKept)
 
-    Component.onCompleted: cell.setSource("ColumnCard.qml", {
-        compare: cell.grid.compare,
-        column: cell.grid.compare.column(cell.index),
-        place: cell.index,
-        viewport: cell.grid.viewport,
+    sourceComponent: ColumnCard {
+        compare: cell.grid.compare
+        column: cell.grid.compare.column(Math.min(cell.place, cell.grid.count - 1))
+        place: cell.place
+        viewport: cell.grid.viewport
         style: cell.grid.style
-    })
+    }
 }

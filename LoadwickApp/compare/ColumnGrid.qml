@@ -1,8 +1,7 @@
 import QtQuick
 import Loadwick
 
-// The repositories' cards. All are equally high, so that of many only those are made that the page
-// shows or is about to show.
+// The repositories' cards. All are equally high, so that of many there are no more than a page can show.
 ColumnPlaces {
     id: grid
 
@@ -10,7 +9,7 @@ ColumnPlaces {
 
     Repeater {
         id: cards
-        model: grid.count
+        model: grid.keptCount
         ColumnCell { }
     }
 }

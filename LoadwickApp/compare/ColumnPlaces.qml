@@ -13,6 +13,8 @@ Item {
     readonly property BarStyle style: ThemedBarStyle { isMirrored: grid.LayoutMirroring.enabled }
 
     readonly property int leastWidth: AppTheme.scaled(290)
+    // No card is lower.
+    readonly property int leastHeight: AppTheme.scaled(200)
     readonly property real gap: AppTheme.cardSpace
     readonly property int count: grid.compare.columnCount
     readonly property int fitting: Math.max(1, Math.floor((grid.width + grid.gap) / (grid.leastWidth + grid.gap)))
@@ -23,15 +25,26 @@ Item {
     property real cardHeight: 0
     // Where the grid begins on the page: in a column that scrolls.
     readonly property real pageTop: grid.y + (grid.parent ? grid.parent.y : 0)
-    // The lines that are on the page or half a window above or below it: so many around the one in the
-    // middle. Only the middle moves; of two ends one would go first, and in between every card from
-    // here to there would be made.
     readonly property real lineStep: grid.cardHeight + grid.gap
     readonly property int middleLine: Math.floor((grid.viewport.contentY + 0.5 * grid.viewport.height - grid.pageTop) / grid.lineStep)
-    readonly property int linesAround: grid.isLaidOut ? Math.ceil(grid.viewport.height / grid.lineStep) : -1
+    // Of a large grid there are as many cards at a time as a screen can show, and two lines. The number
+    // does not lean on the width: with another number all would be made anew.
+    readonly property bool isLarge: grid.compare.isLarge
+    readonly property int mostAcross: Math.max(1, Math.floor((AppTheme.contentWidth + grid.gap) / (grid.leastWidth + grid.gap)))
+    readonly property int mostLines: Math.ceil(Math.max(Screen.height, grid.viewport.height) / grid.leastHeight) + 2
+    readonly property int keptCount: grid.isLarge ? Math.min(grid.count, grid.mostLines * grid.mostAcross) : grid.count
+    readonly property int keptLines: grid.keptCount === grid.count ? grid.lineCount : Math.floor(grid.keptCount / grid.acrossCount)
+    readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
     // Before the first frame nothing has its place or its height, and all cards would seem near.
     property int frameCount: 0
     readonly property bool isLaidOut: grid.frameCount > 1
+
+    // Where a kept line stands now: when the page moves on by a line, one of them moves and the others
+    // stay as they are.
+    function lineOf(keptLine) {
+        const ahead = (keptLine - grid.firstLine) % grid.keptLines;
+        return grid.firstLine + (ahead < 0 ? ahead + grid.keptLines : ahead);
+    }
 
     implicitHeight: Math.max(0, grid.lineCount * grid.lineStep - grid.gap)
 

@@ -34,14 +34,19 @@ ColumnLayout {
 
             Repeater {
                 model: [1, 0.62, 0.31, 0.004, 0]
-                TokenBar {
+                BarRow {
                     required property real modelData
                     required property int index
                     Layout.fillWidth: true
+                    implicitHeight: AppTheme.barRowHeight
+                    style: bars
+                    name: "Category " + index
+                    value: Math.round(24902 * modelData)
                     length: modelData
                     fill: AppTheme.chartColors[index % AppTheme.chartColors.length]
                 }
             }
+            ThemedBarStyle { id: bars }
             ScaleEnds { Layout.fillWidth: true; start: "0"; end: "24,902" }
         }
     }
