@@ -55,11 +55,11 @@ ReportSurface {
             y: bars.y
             width: parent.width
             active: card.column.emptyText.length > 0
-            sourceComponent: SelectableText {
-                objectName: "empty"
-                text: card.column.emptyText
+            Component.onCompleted: setSource("SelectableText.qml", {
+                objectName: "empty",
+                text: Qt.binding(() => card.column.emptyText),
                 secondary: true
-            }
+            })
         }
         ScaleEnds {
             id: ends

@@ -9,7 +9,8 @@ Loader {
     required property int index
     readonly property ColumnPlaces grid: cell.parent as ColumnPlaces
     readonly property int across: cell.index % cell.grid.acrossCount
-    readonly property int line: cell.grid.lineOf(Math.floor(cell.index / cell.grid.acrossCount))
+    readonly property int keptLine: Math.floor(cell.index / cell.grid.acrossCount)
+    readonly property int line: cell.grid.lineOf(cell.keptLine)
     // Among all repositories.
     readonly property int place: cell.line * cell.grid.acrossCount + cell.across
     readonly property real step: cell.grid.cardWidth + cell.grid.gap
@@ -24,16 +25,14 @@ Loader {
     width: cell.isLast ? cell.grid.width - cell.across * cell.step : cell.grid.cardWidth
     height: cell.grid.cardHeight
     visible: cell.place < cell.grid.count && cell.isKept
-    // The first one says how high all are. The others are made between the frames: to make a whole
-    // line of them takes longer than one.
-    asynchronous: cell.index > 0 && cell.grid.isLarge
-    active: cell.index === 0 || !cell.grid.isLarge || (cell.grid.isLaidOut && cell.isKept)
+    // The first one says how high all are. Of a large grid the others come line by line, one in a frame.
+    active: cell.index === 0 || !cell.grid.isLarge || (cell.isKept && cell.keptLine < cell.grid.madeLines)
 
-    sourceComponent: ColumnCard {
-        compare: cell.grid.compare
-        column: cell.grid.compare.column(Math.min(cell.place, cell.grid.count - 1))
-        place: cell.place
-        viewport: cell.grid.viewport
+    Component.onCompleted: cell.setSource("ColumnCard.qml", {
+        compare: cell.grid.compare,
+        column: Qt.binding(() => cell.grid.compare.column(Math.min(cell.place, cell.grid.count - 1))),
+        place: Qt.binding(() => cell.place),
+        viewport: cell.grid.viewport,
         style: cell.grid.style
-    }
+    })
 }

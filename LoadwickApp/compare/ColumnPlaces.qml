@@ -35,9 +35,10 @@ Item {
     readonly property int keptCount: grid.isLarge ? Math.min(grid.count, grid.mostLines * grid.mostAcross) : grid.count
     readonly property int keptLines: grid.keptCount === grid.count ? grid.lineCount : Math.floor(grid.keptCount / grid.acrossCount)
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
-    // Before the first frame nothing has its place or its height, and all cards would seem near.
+    // Before the first frame nothing has its place or its height. After it the lines are made.
     property int frameCount: 0
-    readonly property bool isLaidOut: grid.frameCount > 1
+    readonly property int madeLines: grid.frameCount - 1
+    readonly property bool isLaidOut: grid.madeLines > 0
 
     // Where a kept line stands now: when the page moves on by a line, one of them moves and the others
     // stay as they are.
@@ -49,7 +50,7 @@ Item {
     implicitHeight: Math.max(0, grid.lineCount * grid.lineStep - grid.gap)
 
     FrameAnimation {
-        running: !grid.isLaidOut
+        running: grid.madeLines < (grid.isLarge ? grid.keptLines : 1)
         onTriggered: grid.frameCount += 1
     }
 }

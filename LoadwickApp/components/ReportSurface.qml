@@ -9,35 +9,18 @@ Item {
     default property alias content: column.data
     property alias spacing: column.spacing
     property bool isHovering: pointer.hovered
-    property bool wasHovered: false
+    // Made when a pointer first comes.
+    property CardShadow shadow: null
+
+    function castShadow() {
+        if (card.isHovering && !card.shadow)
+            card.shadow = Qt.createComponent("CardShadow.qml").createObject(card, { shown: Qt.binding(() => card.isHovering) }) as CardShadow;
+    }
 
     implicitWidth: column.implicitWidth + 2 * AppTheme.cardPadding
     implicitHeight: column.implicitHeight + 2 * AppTheme.cardPadding
-    onIsHoveringChanged: card.wasHovered = true
-
-    // Black at 0.16, blurred over 16, a third of that lower. The blur itself never changes: only
-    // its strength does, which costs nothing in any renderer. Made when a pointer first comes.
-    Loader {
-        anchors { fill: parent; margins: -24; topMargin: -24 + 16 / 3; bottomMargin: -24 - 16 / 3 }
-        active: card.isHovering || card.wasHovered
-        sourceComponent: BorderImage {
-            id: shadow
-
-            property bool isMade: false
-
-            objectName: "shadow"
-            border { left: 50; top: 50; right: 50; bottom: 50 }
-            source: "qrc:/qt/qml/Loadwick/components/card-shadow.png"
-            opacity: card.isHovering && shadow.isMade ? 0.16 : 0
-            visible: opacity > 0
-            Component.onCompleted: shadow.isMade = true
-
-            Behavior on opacity {
-                enabled: !AppTheme.reduceMotion
-                NumberAnimation { duration: AppTheme.hoverDuration; easing.type: Easing.OutQuad }
-            }
-        }
-    }
+    onIsHoveringChanged: card.castShadow()
+    Component.onCompleted: card.castShadow()
 
     Rectangle {
         anchors.fill: parent
