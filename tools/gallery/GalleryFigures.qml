@@ -39,14 +39,13 @@ ColumnLayout {
                     required property int index
                     Layout.fillWidth: true
                     implicitHeight: AppTheme.barRowHeight
-                    style: bars
+                    style: ThemedBarStyle { }
                     name: "Category " + index
                     value: Math.round(24902 * modelData)
                     length: modelData
                     fill: AppTheme.chartColors[index % AppTheme.chartColors.length]
                 }
             }
-            ThemedBarStyle { id: bars }
             ScaleEnds { Layout.fillWidth: true; start: "0"; end: "24,902" }
         }
     }
