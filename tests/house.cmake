@@ -9,3 +9,7 @@ endforeach()
 add_test(NAME house/qmllint
          COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
 set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 900)
+
+# Builds the quick folders of the core once more, with counters, by clang.
+add_test(NAME house/coverage COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/coverage" --sample)
+set_tests_properties(house/coverage PROPERTIES LABELS house-coverage TIMEOUT 1800 RUN_SERIAL ON)
