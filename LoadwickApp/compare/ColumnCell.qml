@@ -10,7 +10,10 @@ Loader {
     readonly property ColumnPlaces grid: cell.parent as ColumnPlaces
     readonly property int across: cell.index % cell.grid.acrossCount
     readonly property int keptLine: Math.floor(cell.index / cell.grid.acrossCount)
-    readonly property int line: cell.grid.lineOf(cell.keptLine)
+    readonly property int nextLine: cell.grid.lineOf(cell.keptLine)
+    // Follows; of a large grid when it is this card's turn.
+    property int line: -1
+    readonly property bool isLate: cell.line !== cell.nextLine
     // Among all repositories.
     readonly property int place: cell.line * cell.grid.acrossCount + cell.across
     readonly property real step: cell.grid.cardWidth + cell.grid.gap
@@ -25,14 +28,37 @@ Loader {
     width: cell.isLast ? cell.grid.width - cell.across * cell.step : cell.grid.cardWidth
     height: cell.grid.cardHeight
     visible: cell.place < cell.grid.count && cell.isKept
-    // The first one says how high all are. Of a large grid the others come line by line, one in a frame.
-    active: cell.index === 0 || !cell.grid.isLarge || (cell.isKept && cell.keptLine < cell.grid.madeLines)
+    // The first one says how high all are.
+    active: cell.index === 0 || !cell.grid.isLarge || (cell.isKept && cell.index < cell.grid.madeCount)
 
-    Component.onCompleted: cell.setSource("ColumnCard.qml", {
-        compare: cell.grid.compare,
-        column: Qt.binding(() => cell.grid.compare.column(Math.min(cell.place, cell.grid.count - 1))),
-        place: Qt.binding(() => cell.place),
-        viewport: cell.grid.viewport,
-        style: cell.grid.style
-    })
+    function settle() {
+        cell.line = cell.nextLine;
+    }
+
+    onNextLineChanged: if (!cell.grid.isLarge) cell.settle()
+    // The grid has another number of columns.
+    onKeptLineChanged: Qt.callLater(cell.settle)
+    onIsLateChanged: if (cell.isLate) cell.grid.hasLateCards = true
+
+    Connections {
+        target: cell.grid
+
+        function onTurn(reach) {
+            if (cell.grid.isTaken || !cell.isLate || Math.abs(cell.nextLine - cell.grid.middleLine) > reach)
+                return;
+            cell.grid.isTaken = true;
+            cell.settle();
+        }
+    }
+
+    Component.onCompleted: {
+        cell.settle();
+        cell.setSource("ColumnCard.qml", {
+            compare: cell.grid.compare,
+            column: Qt.binding(() => cell.grid.compare.column(Math.min(cell.place, cell.grid.count - 1))),
+            place: Qt.binding(() => cell.place),
+            viewport: cell.grid.viewport,
+            style: cell.grid.style
+        });
+    }
 }

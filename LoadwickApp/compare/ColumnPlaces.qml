@@ -35,10 +35,11 @@ Item {
     readonly property int keptCount: grid.isLarge ? Math.min(grid.count, grid.mostLines * grid.mostAcross) : grid.count
     readonly property int keptLines: grid.keptCount === grid.count ? grid.lineCount : Math.floor(grid.keptCount / grid.acrossCount)
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
-    // Before the first frame nothing has its place or its height. After it the lines are made.
+    // Before the first frame nothing has its place or its height. After it the cards of a large grid
+    // are made, one in a frame: a whole line of them takes longer than a frame.
     property int frameCount: 0
-    readonly property int madeLines: grid.frameCount - 1
-    readonly property bool isLaidOut: grid.madeLines > 0
+    readonly property int madeCount: Math.max(0, grid.frameCount - 1) + 1
+    readonly property bool isLaidOut: grid.frameCount > 1
 
     // Where a kept line stands now: when the page moves on by a line, one of them moves and the others
     // stay as they are.
@@ -47,10 +48,28 @@ Item {
         return grid.firstLine + (ahead < 0 ? ahead + grid.keptLines : ahead);
     }
 
+    // Whether cards stand where they no longer belong, and whether one of them took this frame.
+    property bool hasLateCards: false
+    property bool isTaken: false
+
+    // The next card within so many lines of the page's middle may move on.
+    signal turn(reach: int)
+
     implicitHeight: Math.max(0, grid.lineCount * grid.lineStep - grid.gap)
 
     FrameAnimation {
-        running: grid.madeLines < (grid.isLarge ? grid.keptLines : 1)
+        running: !grid.isLaidOut || (grid.isLarge && grid.madeCount < grid.keptCount)
         onTriggered: grid.frameCount += 1
+    }
+    // One in a frame, those on the page first: to fill a whole line of cards anew takes longer.
+    FrameAnimation {
+        running: grid.hasLateCards
+        onTriggered: {
+            grid.isTaken = false;
+            grid.turn(1);
+            if (!grid.isTaken)
+                grid.turn(grid.lineCount);
+            grid.hasLateCards = grid.isTaken;
+        }
     }
 }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <set>
 
 #include <QFontMetricsF>
@@ -28,6 +29,14 @@ QList<BarRow *> barsBelow(QQuickItem *root)
     for (QQuickItem *item : visibleItems(root, QStringLiteral("bar")))
         bars << qobject_cast<BarRow *>(item);
     return bars;
+}
+
+std::set<int> placesOf(const QList<QQuickItem *> &cards)
+{
+    std::set<int> places;
+    for (const QQuickItem *card : cards)
+        places.insert(card->property("place").toInt());
+    return places;
 }
 
 void collectParts(const QObject &object, std::set<const QObject *> &parts)
@@ -80,11 +89,13 @@ private Q_SLOTS:
     void ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade();
     void scrollingMakesNoCards();
     void everyPlaceShowsItsOwnRepository();
+    void cardsMoveOnOneInAFrame();
     void theLastLineOfTwoHundredRepositoriesCanBeScrolledTo();
     void aCardIsMadeOfFewParts();
     void aRowIsMadeOfFewParts();
 
 private:
+    [[nodiscard]] bool cardsFillThePage();
     void record(std::vector<RecordedScan> scans)
     {
         m_scanning->model.history().set(std::move(scans));
@@ -139,6 +150,20 @@ QList<QQuickItem *> CompareViewTest::cards() const
         if (auto *card = cell->property("item").value<QQuickItem *>())
             made << card;
     return made;
+}
+
+// Whether the cards, each at a place of its own, reach from the top of the page to its bottom.
+bool CompareViewTest::cardsFillThePage()
+{
+    qreal filled = 0;
+    for (const QQuickItem *card : cards()) {
+        const QRectF shown = card->mapRectToItem(viewport(), card->boundingRect());
+        const qreal top = std::max(0.0, shown.top());
+        const qreal bottom = std::min(viewport()->height(), shown.bottom());
+        filled += std::max(0.0, bottom - top) * shown.width();
+    }
+    // Between cards there are gaps.
+    return filled > 0.85 * viewport()->height() * viewport()->width();
 }
 
 void CompareViewTest::oneRepositoryShowsNoLeaderboard()
@@ -316,22 +341,30 @@ void CompareViewTest::everyPlaceShowsItsOwnRepository()
     QVERIFY(cards().size() > 6);
     for (const qreal place : {12'000.0, 12'300.0, 20'000.0, 11'000.0}) {
         viewport()->setProperty("contentY", place);
-        QTest::qWait(20);
-        std::set<int> places;
-        qreal top = 1;
-        qreal bottom = 0;
-        for (const QQuickItem *card : cards()) {
-            const int column = card->property("place").toInt();
+        QTRY_VERIFY(cardsFillThePage());
+        for (const QQuickItem *card : cards())
             QCOMPARE(card->property("column").value<ColumnPresenter *>(),
-                     m_compare->column(column));
-            places.insert(column);
-            const QRectF shown = card->mapRectToItem(viewport(), card->boundingRect());
-            top = std::min(top, shown.top());
-            bottom = std::max(bottom, shown.bottom());
-        }
-        QCOMPARE(places.size(), static_cast<std::size_t>(cards().size()));
-        QVERIFY(top <= 0 && bottom >= viewport()->height());
+                     m_compare->column(card->property("place").toInt()));
+        QCOMPARE(placesOf(cards()).size(), static_cast<std::size_t>(cards().size()));
     }
+}
+
+void CompareViewTest::cardsMoveOnOneInAFrame()
+{
+    record(SampleHistories::ofSize(200, 200, 2));
+    QTRY_COMPARE(cards().size(), items("cell").size());
+    std::set<int> shown = placesOf(cards());
+    std::size_t most = 0;
+    const auto watching = connect(m_view.get(), &QQuickWindow::afterRendering, this, [&] {
+        const std::set<int> now = placesOf(cards());
+        most = std::max(most, static_cast<std::size_t>(std::ranges::count_if(
+                                  now, [&](int place) { return !shown.contains(place); })));
+        shown = now;
+    });
+    viewport()->setProperty("contentY", 12'000.0);
+    QTRY_VERIFY(cardsFillThePage());
+    disconnect(watching);
+    QCOMPARE(most, std::size_t{1});
 }
 
 void CompareViewTest::theLastLineOfTwoHundredRepositoriesCanBeScrolledTo()
