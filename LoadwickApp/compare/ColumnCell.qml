@@ -11,8 +11,9 @@ Loader {
     readonly property int across: cell.index % cell.grid.acrossCount
     readonly property int keptLine: Math.floor(cell.index / cell.grid.acrossCount)
     readonly property int nextLine: cell.grid.lineOf(cell.keptLine)
-    // Follows; of a large grid when it is this card's turn.
+    // Follows: of a large grid when it is this card's turn, or the number of columns has changed.
     property int line: -1
+    property int lineAcross: 0
     readonly property bool isLate: cell.line !== cell.nextLine
     // Among all repositories.
     readonly property int place: cell.line * cell.grid.acrossCount + cell.across
@@ -33,11 +34,10 @@ Loader {
 
     function settle() {
         cell.line = cell.nextLine;
+        cell.lineAcross = cell.grid.acrossCount;
     }
 
-    onNextLineChanged: if (!cell.grid.isLarge) cell.settle()
-    // The grid has another number of columns.
-    onKeptLineChanged: Qt.callLater(cell.settle)
+    onNextLineChanged: if (!cell.grid.isLarge || cell.lineAcross !== cell.grid.acrossCount) cell.settle()
     onIsLateChanged: if (cell.isLate) cell.grid.hasLateCards = true
 
     Connections {
