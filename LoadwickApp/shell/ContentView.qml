@@ -66,10 +66,12 @@ SplitView {
             }
             LatePage {
                 id: trendsPage
+                isLookedAt: pages.currentIndex === 1
                 onWanted: trendsPage.setSource("TrendsView.qml", { trends: view.trends, exporter: view.trendsExport })
             }
             LatePage {
                 id: comparePage
+                isLookedAt: pages.currentIndex === 2
                 onWanted: comparePage.setSource("CompareView.qml", { compare: view.compare, exporter: view.compareExport })
             }
         }
