@@ -11,9 +11,8 @@ Loader {
     readonly property int across: cell.index % cell.grid.acrossCount
     readonly property int keptLine: Math.floor(cell.index / cell.grid.acrossCount)
     readonly property int nextLine: cell.grid.lineOf(cell.keptLine)
-    // Follows: of a large grid when it is this card's turn, or the number of columns has changed.
+    // Follows: of a large grid when it is this card's turn.
     property int line: -1
-    property int lineAcross: 0
     readonly property bool isLate: cell.line !== cell.nextLine
     // Among all repositories.
     readonly property int place: cell.line * cell.grid.acrossCount + cell.across
@@ -34,15 +33,15 @@ Loader {
 
     function settle() {
         cell.line = cell.nextLine;
-        cell.lineAcross = cell.grid.acrossCount;
     }
 
-    onNextLineChanged: if (!cell.grid.isLarge || cell.lineAcross !== cell.grid.acrossCount) cell.settle()
+    onNextLineChanged: if (!cell.grid.isLarge) cell.settle()
     onIsLateChanged: if (cell.isLate) cell.grid.hasLateCards = true
 
     Connections {
         target: cell.grid
 
+        function onAcrossCountChanged() { cell.settle(); }
         function onTurn(reach) {
             if (cell.grid.isTaken || !cell.isLate || Math.abs(cell.nextLine - cell.grid.middleLine) > reach)
                 return;

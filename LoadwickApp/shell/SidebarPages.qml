@@ -10,8 +10,9 @@ ListView {
     model: content.pages
     interactive: false
     keyNavigationEnabled: true
-    // The view's own mark of the current row is not to be seen, but would slide.
+    // The view's own mark of the current row is not to be seen, but would slide and grow.
     highlightMoveDuration: 0
+    highlightResizeDuration: 0
     activeFocusOnTab: true
     spacing: 2
     clip: true
