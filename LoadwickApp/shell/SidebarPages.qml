@@ -11,8 +11,7 @@ ListView {
     interactive: false
     keyNavigationEnabled: true
     // The view's own mark of the current row is not to be seen, but would slide and grow.
-    highlightMoveDuration: 0
-    highlightResizeDuration: 0
+    highlightFollowsCurrentItem: false
     activeFocusOnTab: true
     spacing: 2
     clip: true
