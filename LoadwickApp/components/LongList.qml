@@ -132,6 +132,7 @@ FocusScope {
         interactive: false
         keyNavigationEnabled: false
         currentIndex: -1
+        highlightFollowsCurrentItem: false
         cacheBuffer: 0
         reuseItems: true
         onCountChanged: if (list.currentIndex >= rows.count) list.currentIndex = rows.count - 1
