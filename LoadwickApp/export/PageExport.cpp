@@ -42,7 +42,7 @@ void PageExport::saveTable()
 {
     const QPointer<PageExport> page(this);
     const FileSaver::Request request = {.title = tr("Save the data"),
-                                        .name = m_contents.name + QStringLiteral(".csv"),
+                                        .name = m_contents.name() + QStringLiteral(".csv"),
                                         .filters = {tr("Comma-separated values (*.csv)")}};
     m_saver.open(request, [page](const FileSaver::Place &place) {
         if (page)
@@ -59,7 +59,7 @@ void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
     const QPointer<PictureFrame> around(frame);
     const FileSaver::Request request = {
         .title = tr("Save the chart"),
-        .name = m_contents.name + QStringLiteral(".png"),
+        .name = m_contents.name() + QStringLiteral(".png"),
         .filters = {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)")}};
     m_saver.open(request, [page, shown, around](const FileSaver::Place &place) {
         if (page && shown && around)

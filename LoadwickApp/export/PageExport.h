@@ -32,7 +32,7 @@ class PageExport final : public QObject
 public:
     struct Contents
     {
-        QString name; ///< of the files, without their ending
+        std::function<QString()> name; ///< of the files, without their ending
         std::function<std::string()> table;
     };
 

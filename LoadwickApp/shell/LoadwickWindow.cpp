@@ -7,6 +7,7 @@
 
 #include "desktop/DesktopNoticeBoard.h"
 #include "export/DialogFileSaver.h"
+#include "export/FileName.h"
 #include "history/WeeklyKPIReader.h"
 #include "onboarding/PreferencesCompletionStore.h"
 #include "probe/Fatal.h"
@@ -132,12 +133,14 @@ void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatc
 {
     m_folderDrop = std::make_unique<FolderDrop>(*m_content, dispatcher);
     m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher);
+    const auto trendName = [this] {
+        return FileName::suggested(QStringLiteral("loadwick-trend"), m_trends->repositoryName());
+    };
     m_trendsExport = std::make_unique<PageExport>(
-        PageExport::Contents{.name = QStringLiteral("loadwick-trend"),
-                             .table = [this] { return m_trends->table(); }},
+        PageExport::Contents{.name = trendName, .table = [this] { return m_trends->table(); }},
         *m_saver, dispatcher);
     m_compareExport = std::make_unique<PageExport>(
-        PageExport::Contents{.name = QStringLiteral("loadwick-comparison"),
+        PageExport::Contents{.name = [] { return QStringLiteral("loadwick-comparison"); },
                              .table = [this] { return m_compare->table(); }},
         *m_saver, dispatcher);
 }

@@ -48,7 +48,8 @@ std::string TrendsPresenter::table() const
 void TrendsPresenter::showRepository()
 {
     const std::vector<RecordedScan> scans = shownScans();
-    m_detail = pageDetail(scans.empty() ? QString() : qtText(scans.back().repositoryName));
+    m_repositoryName = scans.empty() ? QString() : qtText(scans.back().repositoryName);
+    m_detail = pageDetail(m_repositoryName);
     if (m_model.history().get().empty())
         m_chart.showNoHistory();
     else

@@ -41,6 +41,9 @@ public:
     /// The scans of the chart for other programs, as `ScanTables::totals` gives them.
     [[nodiscard]] std::string table() const;
 
+    /// The repository that the page is about; empty when none was scanned.
+    [[nodiscard]] QString repositoryName() const { return m_repositoryName; }
+
 Q_SIGNALS:
     void changed();
 
@@ -50,6 +53,7 @@ private:
     void showHistory();
 
     ScanModel &m_model;
+    QString m_repositoryName;
     QString m_detail;
     TrendChartPresenter m_chart;
     TrendSummaryPresenter m_summary;

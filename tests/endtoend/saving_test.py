@@ -25,13 +25,13 @@ class SavingTest(EndToEndCase):
         program = self.trends()
         program.window.press("Save Data…")
         program.window.press("Save")
-        program.window.wait_for("Saved as loadwick-trend.csv.")
-        table = (self.home.path / "loadwick-trend.csv").read_bytes().split(b"\r\n")
+        program.window.wait_for("Saved as loadwick-trend-webshop.csv.")
+        table = (self.home.path / "loadwick-trend-webshop.csv").read_bytes().split(b"\r\n")
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
 
     def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:
-        file = self.home.path / "loadwick-trend.png"
+        file = self.home.path / "loadwick-trend-webshop.png"
         file.write_bytes(b"precious")
         program = self.trends()
         program.window.press("Save Chart…")
@@ -47,7 +47,7 @@ class SavingTest(EndToEndCase):
         program.window.press("Save Data…")
         program.window.press("Cancel")
         program.window.wait_until_gone("Cancel")
-        self.assertFalse((self.home.path / "loadwick-trend.csv").exists())
+        self.assertFalse((self.home.path / "loadwick-trend-webshop.csv").exists())
 
 
 if __name__ == "__main__":

@@ -38,7 +38,7 @@ private Q_SLOTS:
     {
         m_window->loadwick().content().setPageIndex(1);
         const auto file = save("Save Data…", "trend.csv");
-        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-trend.csv"));
+        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-trend-two.csv"));
         const QList<QByteArray> lines = content(file).split('\n');
         QCOMPARE(lines.size(), 4); // the head, two scans, and nothing after the last line's end
         QCOMPARE(lines[0], QByteArray("Repository,Path,Date (UTC),Total tokens,Band\r"));
@@ -134,7 +134,7 @@ private Q_SLOTS:
         press("Save Data…");
         m_window->finishScan();
         QVERIFY(m_window->saver().asked.has_value());
-        QVERIFY(!m_window->shows(QStringLiteral("Saved as loadwick-trend.csv.")));
+        QVERIFY(!m_window->shows(QStringLiteral("Saved as loadwick-trend-two.csv.")));
     }
 
     void theWindowMayGoBeforeTheFileIsWritten()
