@@ -9,6 +9,8 @@ ToolTip {
     required property string words
 
     delay: 600
+    // What has the keyboard keeps it, and a tool tip would lie over the page as long.
+    timeout: 10000
     padding: AppTheme.smallSpace
     contentItem: PlainLabel {
         text: control.words

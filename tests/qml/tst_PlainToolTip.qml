@@ -21,6 +21,17 @@ Item {
             compare(tip.contentItem.text, "<img src=x>");
         }
 
+        function test_goesByItselfWhereTheKeyboardStays() {
+            const tip = createTemporaryQmlObject(
+                "import QtQuick; import Loadwick; PlainToolTip { words: 'a'; delay: 0; timeout: 50 }", scene);
+            tip.visible = true;
+            tryCompare(tip, "opened", true);
+            tryCompare(tip, "visible", false);
+            const usual = createTemporaryQmlObject(
+                "import QtQuick; import Loadwick; PlainToolTip { words: 'a' }", scene);
+            compare(usual.timeout, 10000);
+        }
+
         function test_isNeverWiderThanAComfortableLine() {
             const tip = createTemporaryQmlObject("import QtQuick; import Loadwick; PlainToolTip { words: '"
                                                  + "word ".repeat(80) + "' }", scene);
