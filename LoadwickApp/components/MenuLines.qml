@@ -8,6 +8,7 @@ Item {
     required property string title
     required property string detail
     required property bool marked
+    required property bool usable
 
     Column {
         anchors { left: parent.left; right: lines.marked ? mark.left : parent.right; verticalCenter: parent.verticalCenter }
@@ -16,6 +17,7 @@ Item {
         PlainLabel {
             width: parent.width
             text: lines.title
+            opacity: lines.usable ? 1 : AppTheme.disabledOpacity
             elide: Text.ElideMiddle
             maximumLineCount: 1
             Accessible.ignored: true

@@ -7,7 +7,8 @@ MenuItem {
     id: item
 
     required property string title
-    // A second, quieter line; none when empty.
+    // A second, quieter line; none when empty. It may say why the item is disabled, and stays
+    // readable then.
     required property string detail
     // The one of several that holds now.
     property bool marked: false
@@ -17,7 +18,6 @@ MenuItem {
     rightPadding: AppTheme.mediumSpace
     topPadding: 0
     bottomPadding: 0
-    opacity: item.enabled ? 1 : AppTheme.disabledOpacity
     Accessible.name: item.title
     Accessible.description: item.detail
     Accessible.checkable: item.marked
@@ -27,6 +27,7 @@ MenuItem {
         title: item.title
         detail: item.detail
         marked: item.marked
+        usable: item.enabled
     }
     background: Rectangle {
         radius: AppTheme.tightSpace

@@ -2,7 +2,7 @@ import QtQuick
 import Loadwick
 
 // The repositories that can be chosen again. The one that is chosen has a mark, one whose folder is
-// gone stands there disabled.
+// gone stands there disabled and says so.
 PlainMenu {
     id: menu
 

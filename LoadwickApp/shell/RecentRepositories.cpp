@@ -23,7 +23,7 @@ std::vector<RecentRows::Row> recentRows(std::span<const RecordedScan> history)
             break;
         if (listed.insert(scan.repositoryPath).second)
             rows.push_back({.title = qtText(scan.repositoryName),
-                            .detail = shownPath(scan.repositoryPath),
+                            .place = shownPath(scan.repositoryPath),
                             .folder = scan.repositoryPath});
     }
     return rows;
@@ -81,7 +81,7 @@ void RecentRepositories::choose(int row)
     if (row < 0 || row >= count())
         return;
     const RecentRows::Row chosen = m_rows.rows()[static_cast<std::size_t>(row)];
-    if (!chosen.isThere)
+    if (!chosen.isThere.value_or(false))
         return;
     if (chosen.isCurrent)
         m_content.setPageIndex(AppPage::overview);

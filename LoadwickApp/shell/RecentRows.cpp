@@ -3,6 +3,15 @@
 #include <utility>
 
 namespace Loadwick {
+namespace {
+
+QString detailOf(const RecentRows::Row &row)
+{
+    const bool isGone = !row.isThere.value_or(true);
+    return isGone ? RecentRows::tr("Folder not found: %1").arg(row.place) : row.place;
+}
+
+} // namespace
 
 void RecentRows::setRows(std::vector<Row> rows)
 {
@@ -18,7 +27,7 @@ void RecentRows::setIsThere(const std::filesystem::path &folder, bool isThere)
             continue;
         m_rows[place].isThere = isThere;
         const QModelIndex changed = index(static_cast<int>(place));
-        Q_EMIT dataChanged(changed, changed, {IsThere});
+        Q_EMIT dataChanged(changed, changed, {IsThere, Detail});
     }
 }
 
@@ -44,9 +53,9 @@ QVariant RecentRows::data(const QModelIndex &index, int role) const
     case Title:
         return row.title;
     case Detail:
-        return row.detail;
+        return detailOf(row);
     case IsThere:
-        return row.isThere;
+        return row.isThere.value_or(false);
     case IsCurrent:
         return row.isCurrent;
     default:

@@ -9,7 +9,8 @@
 
 namespace Loadwick {
 
-/// One row per repository that can be chosen again: "title", "detail", "isThere" and "isCurrent".
+/// One row per repository that can be chosen again: "title", "detail" (where it is, or was),
+/// "isThere" and "isCurrent".
 class RecentRows final : public QAbstractListModel
 {
     Q_OBJECT
@@ -18,9 +19,9 @@ public:
     struct Row
     {
         QString title;
-        QString detail; ///< where it is
+        QString place; ///< where it is, as text
         std::filesystem::path folder;
-        bool isThere = false;   ///< as far as is known
+        std::optional<bool> isThere = {}; ///< none until it was looked for
         bool isCurrent = false; ///< the one that is chosen now
     };
 

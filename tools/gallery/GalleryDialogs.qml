@@ -53,7 +53,7 @@ RowLayout {
 
                 PlainMenuItem { width: parent.width; title: "harbor-api"; detail: "/home/someone/projects/harbor-api"; marked: true }
                 PlainMenuItem { width: parent.width; title: "webshop"; detail: "/home/someone/projects/with-a-long-name/webshop"; highlighted: true }
-                PlainMenuItem { width: parent.width; title: "old"; detail: "/home/someone/old"; enabled: false }
+                PlainMenuItem { width: parent.width; title: "old"; detail: "Folder not found: /home/someone/projects/that/were/moved/old"; enabled: false }
                 PlainMenuItem { width: parent.width; title: "Copy"; detail: "" }
             }
         }

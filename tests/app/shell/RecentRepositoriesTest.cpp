@@ -11,6 +11,7 @@ namespace Loadwick {
 namespace {
 
 const auto list = QStringLiteral("Scanned repositories");
+const auto notFound = QStringLiteral("Folder not found: ");
 
 } // namespace
 
@@ -86,8 +87,7 @@ private Q_SLOTS:
         scan("one");
         RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
                                   std::make_shared<SteppingDispatcher>());
-        const QAbstractItemModel &rows = *recent.rows();
-        const QString detail = rows.index(0, 0).data(rows.roleNames().key("detail")).toString();
+        const QString detail = firstDetail(recent);
         const QString path = QString::fromStdString((m_window->folder().path() / "one").string());
         QVERIFY(detail.startsWith(QChar(0x200E)));
         QCOMPARE(detail.count(QChar(0x200E)), path.count(u'/') + 1);
@@ -107,15 +107,55 @@ private Q_SLOTS:
                 m_window->folder().path() / "two");
     }
 
+    void oneThatIsGoneSaysSo()
+    {
+        scan("one");
+        scan("two"); // the sidebar names it
+        openList();
+        QVERIFY(!spokenDetail(QStringLiteral("one")).contains(notFound));
+        m_window->press(Qt::Key_Escape);
+        std::filesystem::remove_all(m_window->folder().path() / "one");
+        openList();
+        QVERIFY(spokenDetail(QStringLiteral("one")).startsWith(notFound));
+        QVERIFY(spokenDetail(QStringLiteral("one")).endsWith(QStringLiteral("one")));
+    }
+
+    // Its words would be as hard to read as those that nobody can press.
+    void whyOneCannotBeChosenIsNotFaint()
+    {
+        scan("one");
+        std::filesystem::remove_all(m_window->folder().path() / "one");
+        openList();
+        QList<QQuickItem *> lines = shownItems(*m_window->loadwick().window().contentItem());
+        lines.removeIf([](const QQuickItem *item) {
+            return !item->property("text").toString().startsWith(notFound);
+        });
+        QCOMPARE(lines.size(), 1);
+        for (const QQuickItem *item = lines.constFirst(); item != nullptr;
+             item = item->parentItem())
+            QCOMPARE(item->opacity(), 1.0);
+    }
+
+    void nothingIsSaidOfOneThatWasNotLookedFor()
+    {
+        scan("one");
+        std::filesystem::remove_all(m_window->folder().path() / "one");
+        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
+                                  std::make_shared<SteppingDispatcher>());
+        QVERIFY(!firstDetail(recent).contains(notFound));
+    }
+
     void oneThatIsBackCanBeChosen()
     {
         scan("one");
+        scan("two"); // the sidebar names it
         std::filesystem::remove_all(m_window->folder().path() / "one");
         openList();
         m_window->press(Qt::Key_Escape);
         std::filesystem::create_directory(m_window->folder().path() / "one");
         openList();
         QVERIFY(m_window->isPressable(QStringLiteral("one")));
+        QVERIFY(!spokenDetail(QStringLiteral("one")).contains(notFound));
     }
 
     void eachIsListedOnceTheLastScannedFirst()
@@ -186,6 +226,18 @@ private:
             if (rows.index(row, 0).data(roles.key("isCurrent")).toBool())
                 marked.append(rows.index(row, 0).data(roles.key("title")).toString());
         return marked;
+    }
+
+    [[nodiscard]] static QString firstDetail(RecentRepositories &recent)
+    {
+        const QAbstractItemModel &rows = *recent.rows();
+        return rows.index(0, 0).data(rows.roleNames().key("detail")).toString();
+    }
+
+    [[nodiscard]] QString spokenDetail(const QString &name) const
+    {
+        QAccessibleInterface *row = m_window->find(name);
+        return row == nullptr ? QString() : row->text(QAccessible::Description);
     }
 
     [[nodiscard]] QList<QQuickItem *> marks() const
