@@ -22,7 +22,7 @@ public:
         QString place; ///< where it is, as text
         std::filesystem::path folder;
         std::optional<bool> isThere = {}; ///< none until it was looked for
-        bool isCurrent = false; ///< the one that is chosen now
+        bool isCurrent = false;           ///< the one that is chosen now
     };
 
     using QAbstractListModel::QAbstractListModel;

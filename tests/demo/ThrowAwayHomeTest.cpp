@@ -33,6 +33,17 @@ TEST(ThrowAwayHomeTest, holdsAHistoryOfSeveralRepositories)
     EXPECT_EQ(repositories.count(home.repository().string()), 1u);
 }
 
+TEST(ThrowAwayHomeTest, holdsEveryRepositoryOfItsHistory)
+{
+    const ThrowAwayHome home;
+    const InstructionFileScanner scanner({.home = home.path().string()});
+    for (const RecordedScan &scan : ScanHistoryStore(home.historyFolder()).load()) {
+        const InstructionFileSet files = scanner.scanSynchronously(scan.repositoryPath);
+        EXPECT_GE(files.repositoryFiles.size(), 1u) << scan.repositoryPath;
+        EXPECT_EQ(files.inheritedFiles.size(), 1u) << scan.repositoryPath;
+    }
+}
+
 TEST(ThrowAwayHomeTest, keepsItsHistoryWhereTheProgramLooksForIt)
 {
     const ThrowAwayHome home;

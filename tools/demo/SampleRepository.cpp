@@ -91,4 +91,13 @@ std::filesystem::path writeInto(const std::filesystem::path &home)
     return repository;
 }
 
+void writeSmallInto(const std::filesystem::path &folder)
+{
+    if (std::filesystem::exists(folder))
+        return;
+    writeSampleFile(folder / ".git" / "HEAD", "ref: refs/heads/main\n");
+    writeSampleFile(folder / "CLAUDE.md",
+                    rules("Working here", "Run the tests before and after, and say both.", 24));
+}
+
 } // namespace Loadwick::SampleRepository

@@ -11,5 +11,9 @@ namespace SampleRepository {
 /// repository's folder.
 std::filesystem::path writeInto(const std::filesystem::path &home);
 
+/// Writes a repository with one instruction file of its own into `folder`; leaves one alone that is
+/// there.
+void writeSmallInto(const std::filesystem::path &folder);
+
 } // namespace SampleRepository
 } // namespace Loadwick

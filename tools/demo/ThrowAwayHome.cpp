@@ -33,8 +33,10 @@ ThrowAwayHome::ThrowAwayHome()
 {
     m_standIn.install();
     m_standIn.play({.outcome = "transcript", .seconds = "3", .message = {}});
-    SampleHistory::writeInto(historyFolder(),
-                             SampleHistory::scans(m_path / "Projects", wholeSecondsNow()));
+    const auto scans = SampleHistory::scans(m_path / "Projects", wholeSecondsNow());
+    SampleHistory::writeInto(historyFolder(), scans);
+    for (const RecordedScan &scan : scans)
+        SampleRepository::writeSmallInto(scan.repositoryPath);
 }
 
 ThrowAwayHome::~ThrowAwayHome()

@@ -7,8 +7,8 @@
 namespace Loadwick {
 
 /// A home folder in the temporary folder that holds all that the demonstration shows: a sample
-/// repository, a recorded history and the stand-in for `claude`. Removed with all that is in it at
-/// the end.
+/// repository, a recorded history with every other repository that it names, and the stand-in for
+/// `claude`. Removed with all that is in it at the end.
 class ThrowAwayHome
 {
 public:
