@@ -66,7 +66,7 @@ ReportSurface {
         exporter: card.exporter
         chart: plot
         title: header.title
-        lines: [card.subject, header.detail]
+        lines: [card.subject, card.chart.period, header.detail]
         visible: card.exporter !== null && !card.isEmpty
     }
 }

@@ -33,7 +33,7 @@ void TrendChartPresenter::showNoHistory()
     setWords({},
              tr("Scans are recorded locally as you run them. Run one scan, then "
                 "another, and the trend appears here."),
-             {});
+             {}, {});
 }
 
 void TrendChartPresenter::show(std::span<const RecordedScan> scans)
@@ -43,19 +43,21 @@ void TrendChartPresenter::show(std::span<const RecordedScan> scans)
         setWords({},
                  tr("Nothing recorded for this repository yet. Scan it twice and its "
                     "trend appears here."),
-                 {});
+                 {}, {});
     else if (scans.size() == 1)
-        setWords(tr("One scan recorded"), oneScanText(scans.front()), {});
+        setWords(tr("One scan recorded"), oneScanText(scans.front()), {}, {});
     else
-        setWords({}, {}, summaryOf(scans.back().repositoryName));
+        setWords({}, {}, summaryOf(scans.back().repositoryName),
+                 periodOf(m_line.geometry().samples()));
 }
 
 void TrendChartPresenter::setWords(const QString &emptyTitle, const QString &emptyText,
-                                   const QString &summary)
+                                   const QString &summary, const QString &period)
 {
     m_emptyTitle = emptyTitle;
     m_emptyText = emptyText;
     m_summary = summary;
+    m_period = period;
     Q_EMIT changed();
 }
 
@@ -83,6 +85,15 @@ QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
              qtText(DateText::day(samples.back().date, m_locale)), figure(lowest->total),
              figure(highest->total), figure(OpinionBand::heavyThreshold),
              figure(OpinionBand::excessiveThreshold));
+}
+
+QString TrendChartPresenter::periodOf(const std::vector<LineSample> &samples) const
+{
+    const QString count = QString::number(samples.size());
+    const QString first = qtText(DateText::day(samples.front().date, m_locale));
+    const QString last = qtText(DateText::day(samples.back().date, m_locale));
+    return first == last ? tr("%1 scans on %2.").arg(count, first)
+                         : tr("%1 scans from %2 to %3.").arg(count, first, last);
 }
 
 } // namespace Loadwick

@@ -21,6 +21,7 @@ class TrendChartPresenter final : public QObject
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
+    Q_PROPERTY(QString period READ period NOTIFY changed)
     Q_PROPERTY(Loadwick::TrendLine *line READ line CONSTANT)
 
 public:
@@ -37,20 +38,25 @@ public:
 
     /// The chart in words.
     [[nodiscard]] QString summary() const { return m_summary; }
+    /// Of which days the scans are: an axis of hours names none. Empty when there is no line.
+    [[nodiscard]] QString period() const { return m_period; }
     [[nodiscard]] TrendLine *line() { return &m_line; }
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void setWords(const QString &emptyTitle, const QString &emptyText, const QString &summary);
+    void setWords(const QString &emptyTitle, const QString &emptyText, const QString &summary,
+                  const QString &period);
     [[nodiscard]] QString oneScanText(const RecordedScan &scan) const;
     [[nodiscard]] QString summaryOf(const std::string &repositoryName) const;
+    [[nodiscard]] QString periodOf(const std::vector<LineSample> &samples) const;
 
     TextLocale m_locale;
     QString m_emptyTitle;
     QString m_emptyText;
     QString m_summary;
+    QString m_period;
     TrendLine m_line;
 };
 

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QTest>
 
+#include "report/DateText.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 
@@ -92,6 +93,16 @@ private Q_SLOTS:
         for (const char *words : {">Startup tokens per scan<", "two: startup context over time",
                                   "every total was reported by Claude."})
             QVERIFY2(drawing.contains(words), words);
+    }
+
+    // The axis of a single day's scans has hours alone.
+    void aTrendSaysOfWhichDayItIs()
+    {
+        m_window->loadwick().content().setPageIndex(1);
+        const QByteArray drawing = content(save("Save Chart…", "trend.svg"));
+        const auto moment = m_window->loadwick().model().history().get().back().date;
+        QVERIFY(drawing.contains(DateText::day(moment, TextLocale()).c_str()));
+        QVERIFY(drawing.contains("2 scans "));
     }
 
     void aComparisonSaysWhatItShows()

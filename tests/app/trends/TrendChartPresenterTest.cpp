@@ -1,5 +1,7 @@
 #include "trends/TrendChartPresenter.h"
 
+#include <optional>
+
 #include <QSignalSpy>
 #include <QTest>
 
@@ -14,6 +16,8 @@ class TrendChartPresenterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_zone.emplace("UTC"); }
+
     void saysHowATrendComesAboutWhileNothingIsRecorded()
     {
         TrendChartPresenter chart{TextLocale()};
@@ -87,6 +91,47 @@ private Q_SLOTS:
                                 "begins at 30,000, the Excessive band above 60,000."));
     }
 
+    void saysOnWhichDaysItWasScanned_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<int>("hoursBetween");
+        QTest::addColumn<QString>("period");
+        QTest::newRow("one day") << QStringLiteral("en_US") << QStringLiteral("UTC") << 3
+                                 << QStringLiteral("2 scans on Mar 4, 2026.");
+        QTest::newRow("over midnight")
+            << QStringLiteral("en_US") << QStringLiteral("UTC") << 15
+            << QStringLiteral("2 scans from Mar 4, 2026 to Mar 5, 2026.");
+        QTest::newRow("over a year") << QStringLiteral("en_US") << QStringLiteral("UTC") << 24 * 365
+                                     << QStringLiteral("2 scans from Mar 4, 2026 to Mar 4, 2027.");
+        QTest::newRow("over midnight in Auckland")
+            << QStringLiteral("en_US") << QStringLiteral("Pacific/Auckland") << 3
+            << QStringLiteral("2 scans from Mar 4, 2026 to Mar 5, 2026.");
+        QTest::newRow("de_DE") << QStringLiteral("de_DE") << QStringLiteral("UTC") << 3
+                               << QStringLiteral("2 scans on 4. März 2026.");
+    }
+
+    void saysOnWhichDaysItWasScanned()
+    {
+        QFETCH(const QString, locale);
+        QFETCH(const QString, zone);
+        QFETCH(const int, hoursBetween);
+        QFETCH(const QString, period);
+        m_zone.emplace(qPrintable(zone));
+        TrendChartPresenter chart(TextLocale::fromEnvironment({{"LANG", locale.toStdString()}}));
+        chart.show(std::vector{RecordedScanBuilder().at(morning).build(),
+                               RecordedScanBuilder().at(morning + 3'600 * hoursBetween).build()});
+        QCOMPARE(chart.period(), period);
+    }
+
+    void withoutALineThereIsNoPeriod()
+    {
+        TrendChartPresenter chart{TextLocale()};
+        chart.show(twoScans());
+        chart.show(std::vector{RecordedScanBuilder().build()});
+        QCOMPARE(chart.period(), QString());
+    }
+
     void forgetsTheLineWithTheHistory()
     {
         TrendChartPresenter chart{TextLocale()};
@@ -99,16 +144,17 @@ private Q_SLOTS:
     }
 
 private:
+    static constexpr std::int64_t morning = 1'772'615'727; // 9:15 on Mar 4, 2026
+
     static std::vector<RecordedScan> twoScans()
     {
-        constexpr std::int64_t morning = 1'772'615'727;
         RecordedScanBuilder builder;
         builder.named("web%1shop");
         return {builder.at(morning).ofTotal(31'000).build(),
                 builder.at(morning + 2 * 86'400).ofTotal(28'500).build()};
     }
 
-    const TimeZone m_utc{"UTC"};
+    std::optional<TimeZone> m_zone;
 };
 
 const RegisteredTest<TrendChartPresenterTest> registered("TrendChartPresenter");
