@@ -1,5 +1,6 @@
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -59,6 +60,15 @@ std::filesystem::path TemporaryFolder::writeScript(const std::filesystem::path &
     const std::filesystem::path path = write(relative, text);
     std::filesystem::permissions(path, std::filesystem::perms::owner_all);
     return path;
+}
+
+std::vector<std::string> namesIn(const std::filesystem::path &folder)
+{
+    std::vector<std::string> names;
+    for (const auto &entry : std::filesystem::directory_iterator(folder))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 std::string contentOf(const std::filesystem::path &path)

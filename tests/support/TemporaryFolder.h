@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Loadwick {
 
@@ -30,6 +31,9 @@ public:
 private:
     std::filesystem::path m_path;
 };
+
+/// What lies directly in a folder, in alphabetical order.
+[[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path &folder);
 
 /// The bytes of a file; ends the test program when it cannot be read.
 [[nodiscard]] std::string contentOf(const std::filesystem::path &path);

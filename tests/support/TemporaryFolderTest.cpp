@@ -25,4 +25,14 @@ TEST(TemporaryFolderTest, writesScriptsThatCanBeExecuted)
               std::filesystem::perms::none);
 }
 
+TEST(TemporaryFolderTest, namesWhatLiesInAFolderInOrder)
+{
+    const TemporaryFolder folder;
+    EXPECT_TRUE(namesIn(folder.path()).empty());
+    folder.write("b", "");
+    folder.write("a/inner", "");
+    folder.write(".hidden", "");
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{".hidden", "a", "b"}));
+}
+
 } // namespace Loadwick
