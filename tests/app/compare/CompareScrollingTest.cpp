@@ -1,0 +1,162 @@
+#include <algorithm>
+#include <set>
+
+#include <QTest>
+
+#include "support/ComparePage.h"
+#include "support/SampleHistories.h"
+#include "support/TestRegistry.h"
+
+namespace Loadwick {
+namespace {
+
+std::set<int> placesOf(const QList<QQuickItem *> &cards)
+{
+    std::set<int> places;
+    for (const QQuickItem *card : cards)
+        places.insert(card->property("place").toInt());
+    return places;
+}
+
+} // namespace
+
+/// The page with more than it can show at once.
+class CompareScrollingTest : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void notePlaces();
+
+private Q_SLOTS:
+    void init() { m_page = std::make_unique<ComparePage>(); }
+    void cleanup() { m_page.reset(); }
+    void theScrollPositionStaysWhenAScanEnds();
+    void ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade();
+    void scrollingMakesNoCards();
+    void everyPlaceShowsItsOwnRepository();
+    void cardsMoveOnOneInAFrame();
+    void theLastLineOfTwoHundredRepositoriesCanBeScrolledTo();
+
+private:
+    [[nodiscard]] bool cardsFillThePage();
+
+    std::unique_ptr<ComparePage> m_page;
+    std::set<int> m_shownPlaces; ///< when it was the cards' turn last
+    std::size_t m_mostNewPlaces = 0;
+};
+
+// Between two turns of the cards.
+void CompareScrollingTest::notePlaces()
+{
+    const std::set<int> now = placesOf(m_page->cards());
+    const auto isNew = [&](int place) { return !m_shownPlaces.contains(place); };
+    const auto count = static_cast<std::size_t>(std::ranges::count_if(now, isNew));
+    m_mostNewPlaces = std::max(m_mostNewPlaces, count);
+    m_shownPlaces = now;
+}
+
+// Whether the cards, each at a place of its own, reach from the top of the page to its bottom.
+bool CompareScrollingTest::cardsFillThePage()
+{
+    qreal filled = 0;
+    for (const QQuickItem *card : m_page->cards()) {
+        const QRectF shown = card->mapRectToItem(m_page->viewport(), card->boundingRect());
+        const qreal top = std::max(0.0, shown.top());
+        const qreal bottom = std::min(m_page->viewport()->height(), shown.bottom());
+        filled += std::max(0.0, bottom - top) * shown.width();
+    }
+    // Between cards there are gaps.
+    return filled > 0.85 * m_page->viewport()->height() * m_page->viewport()->width();
+}
+
+void CompareScrollingTest::theScrollPositionStaysWhenAScanEnds()
+{
+    m_page->record(SampleHistories::ofSize(30, 5, 7));
+    m_page->viewport()->setProperty("contentY", 420);
+    QTest::qWait(20);
+    m_page->record(SampleHistories::ofSize(31, 5, 7));
+    QTest::qWait(50);
+    QCOMPARE(m_page->viewport()->property("contentY").toInt(), 420);
+    QCOMPARE(m_page->items("bars").size(), 5);
+}
+
+void CompareScrollingTest::ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 50));
+    QCOMPARE(m_page->compare().columnCount(), 200);
+    QVERIFY(m_page->items("words").size() < 40);
+    QVERIFY2(m_page->items("bar").size() < 200,
+             qPrintable(QString::number(m_page->items("bar").size())));
+    m_page->viewport()->setProperty("contentY", 200 * 48 + 3'000);
+    QTRY_VERIFY(!m_page->items("bar").isEmpty());
+    QTest::qWait(50);
+    QVERIFY2(m_page->items("bar").size() < 400,
+             qPrintable(QString::number(m_page->items("bar").size())));
+    m_page->viewport()->setProperty("contentY", 0);
+    QTest::qWait(50);
+    m_page->viewport()->setProperty("contentY", 200 * 48 + 3'000);
+    QTRY_VERIFY2(!m_page->items("bar").isEmpty(), "a card that was left can be come back to");
+}
+
+void CompareScrollingTest::scrollingMakesNoCards()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 2));
+    QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
+    QVERIFY(m_page->cards().size() > 6);
+    const QList<QQuickItem *> before = m_page->cards();
+    QVERIFY2(before.size() < 40, qPrintable(QString::number(before.size())));
+    for (const qreal place : {12'000.0, 12'240.0, 20'000.0, 11'000.0}) {
+        m_page->viewport()->setProperty("contentY", place);
+        QTest::qWait(20);
+        QCOMPARE(m_page->cards(), before);
+    }
+}
+
+// Wherever the page is, the cards it shows are those that belong there.
+void CompareScrollingTest::everyPlaceShowsItsOwnRepository()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 2));
+    QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
+    QVERIFY(m_page->cards().size() > 6);
+    for (const qreal place : {12'000.0, 12'300.0, 20'000.0, 11'000.0}) {
+        m_page->viewport()->setProperty("contentY", place);
+        QTRY_VERIFY(cardsFillThePage());
+        for (const QQuickItem *card : m_page->cards())
+            QCOMPARE(card->property("column").value<ColumnPresenter *>(),
+                     m_page->compare().column(card->property("place").toInt()));
+        QCOMPARE(placesOf(m_page->cards()).size(),
+                 static_cast<std::size_t>(m_page->cards().size()));
+    }
+}
+
+void CompareScrollingTest::cardsMoveOnOneInAFrame()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 2));
+    QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
+    QObject *grid = m_page->items("cell").constFirst()->parentItem();
+    m_shownPlaces = placesOf(m_page->cards());
+    connect(grid, SIGNAL(turn(int)), this, SLOT(notePlaces()));
+    m_page->viewport()->setProperty("contentY", 12'000.0);
+    QTRY_VERIFY(cardsFillThePage());
+    QCOMPARE(m_mostNewPlaces, std::size_t{1});
+}
+
+void CompareScrollingTest::theLastLineOfTwoHundredRepositoriesCanBeScrolledTo()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 50));
+    const qreal end =
+        m_page->viewport()->property("contentHeight").toReal() - m_page->viewport()->height();
+    m_page->viewport()->setProperty("contentY", end);
+    QTest::qWait(50);
+    const auto bars = ComparePage::barsBelow(m_page->items("combined")[0]);
+    QVERIFY(!bars.isEmpty());
+    QVERIFY(m_page->compare().column(199) != nullptr);
+    QCOMPARE(bars.last()->property("name").toString(), m_page->compare().column(199)->name());
+}
+
+const RegisteredTest<CompareScrollingTest> registered("CompareScrolling");
+
+} // namespace Loadwick
+
+#include "CompareScrollingTest.moc"

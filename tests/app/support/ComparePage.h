@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QList>
+#include <QQuickItem>
+#include <QQuickView>
+
+#include "compare/BarRow.h"
+#include "compare/ComparePresenter.h"
+#include "export/PageExport.h"
+#include "support/FakeFileSaver.h"
+#include "support/ScanningModel.h"
+
+namespace Loadwick {
+
+/// The Compare page over a history that a test records, shown in a window of its own.
+class ComparePage
+{
+public:
+    ComparePage();
+
+    [[nodiscard]] QQuickView &view() noexcept { return m_view; }
+    [[nodiscard]] ComparePresenter &compare() noexcept { return m_compare; }
+
+    /// Takes the place of what was recorded; the page follows.
+    void record(std::vector<RecordedScan> scans);
+
+    /// The visible items of that object name, in the order of the page.
+    [[nodiscard]] QList<QQuickItem *> items(const char *name) const;
+    /// The rows with a bar below an item.
+    [[nodiscard]] static QList<BarRow *> barsBelow(QQuickItem *root);
+    /// The cards that were made, in the order of their places in the grid.
+    [[nodiscard]] QList<QQuickItem *> cards() const;
+    /// What scrolls; there is one as soon as two repositories are recorded.
+    [[nodiscard]] QQuickItem *viewport() const;
+
+private:
+    ScanningModel m_scanning;
+    ComparePresenter m_compare;
+    FakeFileSaver m_saver;
+    PageExport m_export;
+    QQuickView m_view;
+};
+
+} // namespace Loadwick
