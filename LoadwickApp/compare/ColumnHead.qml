@@ -1,8 +1,9 @@
 import QtQuick
 import Loadwick
 
-// Whose card it is, when that was scanned, and the one number that is authoritative. Of anchors: of
-// nested layouts, each lays out all words anew.
+// Whose card it is, when that was scanned, and the one number that is authoritative. One stop: of many
+// cards, four would be a long way; from the name, the arrows go through the other words. Of anchors:
+// of nested layouts, each lays out all words anew.
 Item {
     id: head
 
@@ -29,6 +30,7 @@ Item {
         text: head.column.name
         font: AppTheme.headlineFont
         maximumLineCount: 1
+        KeyNavigation.down: scanned
 
         HoverTip { words: head.column.name + "\n" + head.column.place }
     }
@@ -37,6 +39,8 @@ Item {
 
         anchors { left: parent.left; right: parent.right; top: name.bottom; topMargin: AppTheme.tightSpace }
         text: head.column.scanned
+        tabStop: false
+        KeyNavigation.down: total
         font: AppTheme.captionFont
         secondary: true
         maximumLineCount: 1
@@ -56,6 +60,8 @@ Item {
         objectName: "total"
         anchors { left: mark.right; leftMargin: AppTheme.smallSpace; right: parent.right; top: scanned.bottom; topMargin: AppTheme.mediumSpace }
         text: head.column.total
+        tabStop: false
+        KeyNavigation.down: band
         font: AppTheme.title2Font
         color: head.bandColor
         maximumLineCount: 1
@@ -65,6 +71,7 @@ Item {
 
         anchors { left: parent.left; right: parent.right; top: total.bottom; topMargin: AppTheme.tightSpace }
         text: head.column.bandText
+        tabStop: false
         font: AppTheme.captionStrongFont
         color: head.bandColor
         maximumLineCount: 1

@@ -14,6 +14,8 @@ Item {
     property int horizontalAlignment: Text.AlignLeft
     // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
     property int maximumLineCount: 0
+    // Else the keyboard comes by the arrows, from a text that is one: see KeyNavigation.
+    property bool tabStop: true
     readonly property real lineSpacing: words.contentHeight / Math.max(1, words.lineCount)
     readonly property bool truncated: words.truncated
     // While it is read with the keyboard or selected, the text itself shows and not its short form.
@@ -32,7 +34,8 @@ Item {
                 color: Qt.binding(() => control.color),
                 horizontalAlignment: Qt.binding(() => control.horizontalAlignment),
                 wrapMode: Qt.binding(() => control.fits ? TextEdit.Wrap : TextEdit.WrapAnywhere),
-                isCut: Qt.binding(() => control.truncated)
+                isCut: Qt.binding(() => control.truncated),
+                tabStop: Qt.binding(() => control.tabStop)
             }) as TextReader;
     }
 
@@ -43,7 +46,7 @@ Item {
     implicitWidth: words.implicitWidth
     implicitHeight: Math.ceil(words.contentHeight)
     // Qt keeps it true for what has the focus.
-    activeFocusOnTab: reader === null || control.activeFocus
+    activeFocusOnTab: (control.tabStop && reader === null) || control.activeFocus
     Accessible.role: Accessible.EditableText
     Accessible.readOnly: true
     Accessible.focusable: true

@@ -13,6 +13,7 @@ Item {
     required property int wrapMode
     // Only its first lines have a place.
     required property bool isCut
+    required property bool tabStop
     readonly property TextEdit edit: words
     readonly property bool isRead: words.activeFocus || reader.isMenuOpen
     // Not bound to the loader's item: Qt 6.4 turns that binding into C++ that does not compile.
@@ -43,7 +44,8 @@ Item {
         readOnly: true
         selectByMouse: true
         persistentSelection: true
-        activeFocusOnTab: true
+        // From what is no stop, Qt would go back to the first one of all.
+        activeFocusOnTab: reader.tabStop || words.activeFocus
         wrapMode: reader.wrapMode
         horizontalAlignment: reader.horizontalAlignment
         font: reader.font
@@ -55,6 +57,7 @@ Item {
 
         Accessible.role: Accessible.EditableText
         Accessible.readOnly: true
+        Accessible.focusable: true
         Accessible.name: reader.text
 
         onActiveFocusChanged: if (!words.activeFocus && !reader.isMenuOpen) words.deselect()

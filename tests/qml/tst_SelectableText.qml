@@ -17,6 +17,15 @@ Item {
     Component { id: line; SelectableText { x: 220; y: 180; width: 150; text: "Fits too"; maximumLineCount: 1 } }
     SelectableText { id: several; x: 220; y: 10; width: 150; text: "Several words that stand on several lines of one text" }
 
+    FocusScope {
+        x: 10
+        y: 240
+
+        SelectableText { id: firstOfTwo; width: 150; text: "The stop"; KeyNavigation.down: secondOfTwo }
+        SelectableText { id: secondOfTwo; y: 24; width: 150; text: "Beside it"; tabStop: false }
+        SelectableText { id: afterTwo; x: 160; width: 150; text: "The next stop" }
+    }
+
     TextEdit { id: clipboard; y: 200; textFormat: TextEdit.PlainText }
     SelectableText { id: name; y: 180; width: 90; text: "a-repository-with-a-name-2"; maximumLineCount: 1 }
 
@@ -207,6 +216,38 @@ Item {
             keyClick(Qt.Key_Tab);
             verify(edit(path).activeFocus);
             compare(edit(plain).selectedText, "");
+        }
+
+        function test_whatIsNoStopIsPassedByAndReachedWithTheArrows() {
+            edit(firstOfTwo).forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Tab);
+            verify(afterTwo.isRead);
+            keyClick(Qt.Key_Backtab);
+            verify(firstOfTwo.isRead);
+            keyClick(Qt.Key_Down);
+            verify(secondOfTwo.isRead);
+            verify(!firstOfTwo.isRead);
+            keyClick(Qt.Key_Up);
+            verify(firstOfTwo.isRead);
+        }
+
+        function test_whatIsNoStopIsAWayToTheNextOne() {
+            secondOfTwo.forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Tab);
+            verify(afterTwo.isRead);
+            secondOfTwo.forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Backtab);
+            verify(firstOfTwo.isRead);
+            verify(!secondOfTwo.activeFocusOnTab);
+            verify(!secondOfTwo.reader.edit.activeFocusOnTab);
+        }
+
+        function test_whatIsNoStopIsSelectedWithThePointerAndSpoken() {
+            compare(secondOfTwo.Accessible.role, Accessible.EditableText);
+            verify(secondOfTwo.Accessible.focusable);
+            mouseDoubleClickSequence(edit(secondOfTwo), 10, 8);
+            compare(edit(secondOfTwo).selectedText, "Beside");
+            verify(edit(secondOfTwo).Accessible.focusable);
         }
 
         function test_isSelectedWithThePointer() {
