@@ -17,13 +17,6 @@ bool asksBeforeReplacing()
     return theme != nullptr && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
 }
 
-QUrl inFolder(const QUrl &folder, const QString &name)
-{
-    QUrl file = folder;
-    file.setPath(folder.path() + QLatin1Char('/') + name);
-    return file;
-}
-
 } // namespace
 
 DialogFileSaver::DialogFileSaver(QUrl startFolder)
@@ -39,7 +32,7 @@ void DialogFileSaver::open(const Request &request, Chosen chosen)
     const QUrl folder = dialog->property("currentFolder").toUrl();
     dialog->setProperty("title", request.title);
     dialog->setProperty("nameFilters", request.filters);
-    dialog->setProperty("selectedFile", inFolder(folder, request.name));
+    dialog->setProperty("selectedFile", fileUrl(folder, request.name));
     m_dialog.open();
 }
 

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include <QByteArray>
+#include <QString>
 #include <QUrl>
 
 namespace Loadwick {
@@ -25,6 +26,11 @@ std::optional<std::filesystem::path> folderPath(const QUrl &url)
     if (bytes.isEmpty() || bytes.contains('\0'))
         return std::nullopt;
     return std::filesystem::path(bytes.toStdString());
+}
+
+QUrl fileUrl(const QUrl &folder, const QString &name)
+{
+    return QUrl::fromEncoded(folder.toEncoded() + '/' + QUrl::toPercentEncoding(name));
 }
 
 bool isFolder(const std::filesystem::path &path)

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+class QString;
 class QUrl;
 
 namespace Loadwick {
@@ -10,6 +11,9 @@ namespace Loadwick {
 /// The local path that a URL names, byte for byte: a percent-encoded byte that is not UTF-8 stays
 /// that byte. Nothing when the URL names no file of this machine, or holds a NUL.
 [[nodiscard]] std::optional<std::filesystem::path> folderPath(const QUrl &url);
+
+/// A file of that name in a folder, whatever letters the name has.
+[[nodiscard]] QUrl fileUrl(const QUrl &folder, const QString &name);
 
 /// Whether a folder is there now. Asks its disk, which may take any time.
 [[nodiscard]] bool isFolder(const std::filesystem::path &path);

@@ -2,9 +2,14 @@
 
 #include <QCoreApplication>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
+#include <QtQuick/private/qquicktextinput_p.h>
+#include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
+#include <QtQuickTemplates2/private/qquickdialogbuttonbox_p.h>
 #include <QtQuickTemplates2/private/qquickoverlay_p.h>
 #include <QtQuickTemplates2/private/qquickoverlay_p_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
+
+#include "shell/FolderUrl.h"
 
 namespace Loadwick::PlainDialog {
 namespace {
@@ -41,6 +46,38 @@ void nameParts(const QQuickPopup &dialog, QQuickItem *fileName)
              QCoreApplication::translate("PlainDialog", "Folder above"));
 }
 
+QQuickAbstractButton *acceptingButton(const QQuickPopup &dialog)
+{
+    const auto *box =
+        qobject_cast<QQuickDialogButtonBox *>(partOf(dialog, "QQuickDialogButtonBox"));
+    return box != nullptr ? box->standardButton(QPlatformDialogHelper::Open) : nullptr;
+}
+
+// Qt leaves Enter in the name without an answer.
+void acceptByEnter(const QQuickPopup &dialog, const QQuickTextInput &name)
+{
+    QQuickAbstractButton *button = acceptingButton(dialog);
+    if (button == nullptr)
+        return;
+    // One dialog is opened many times.
+    QObject::disconnect(&name, &QQuickTextInput::accepted, button, nullptr);
+    QObject::connect(&name, &QQuickTextInput::accepted, button, [button] {
+        if (button->isEnabled())
+            Q_EMIT button->clicked();
+    });
+}
+
+// Qt itself takes what is typed for an address: of no scheme, and only as far as a "#".
+void takeTypedName(QQuickPopup &dialog, const QQuickTextInput &name)
+{
+    QObject::disconnect(&name, &QQuickTextInput::textEdited, nullptr, nullptr);
+    QObject::connect(&name, &QQuickTextInput::textEdited, &dialog, [&dialog, &name] {
+        const QUrl folder = dialog.property("currentFolder").toUrl();
+        dialog.setProperty("selectedFile",
+                           name.text().isEmpty() ? QUrl() : fileUrl(folder, name.text()));
+    });
+}
+
 } // namespace
 
 void makeReachable(QQuickWindow &window)
@@ -51,6 +88,10 @@ void makeReachable(QQuickWindow &window)
             continue;
         auto *fileName = popup->findChild<QQuickItem *>(QStringLiteral("fileNameTextField"));
         nameParts(*popup, fileName);
+        if (const auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
+            acceptByEnter(*popup, *name);
+            takeTypedName(*popup, *name);
+        }
         popup->forceActiveFocus(Qt::PopupFocusReason);
         if (fileName != nullptr && fileName->isVisible())
             fileName->forceActiveFocus(Qt::PopupFocusReason);

@@ -30,6 +30,15 @@ class SavingTest(EndToEndCase):
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
 
+    def test_enter_saves_under_the_name_that_was_typed(self) -> None:
+        program = self.trends()
+        program.window.press("Save Data…")
+        program.window.wait_for("File name")
+        for key in ("ctrl+a", "a", "numbersign", "1", "Return"):
+            program.window.key(key)
+        program.window.wait_for("Saved as a#1.")
+        self.assertTrue((self.home.path / "a#1").exists())
+
     def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:
         file = self.home.path / "loadwick-trend-webshop.png"
         file.write_bytes(b"precious")

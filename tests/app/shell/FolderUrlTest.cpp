@@ -60,6 +60,27 @@ private Q_SLOTS:
         QVERIFY(!folderPath(url));
     }
 
+    void aFileInAFolderKeepsEveryByteAndLetter_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << QStringLiteral("figures.csv");
+        QTest::newRow("hash and question mark") << QStringLiteral("what?#1.csv");
+        QTest::newRow("percent") << QStringLiteral("100%41.csv");
+        QTest::newRow("umlaut") << QStringLiteral("Büro.csv");
+        QTest::newRow("blank") << QStringLiteral(" a b ");
+    }
+
+    void aFileInAFolderKeepsEveryByteAndLetter()
+    {
+        QFETCH(const QString, name);
+        const QUrl url = fileUrl(QUrl::fromEncoded("file:///srv/caf%E9%231"), name);
+        QCOMPARE(url.fileName(), name);
+        const auto path = folderPath(url);
+        QVERIFY(path);
+        QVERIFY(path->parent_path() == "/srv/caf\xE9#1");
+        QCOMPARE(QString::fromStdString(path->filename().string()), name);
+    }
+
     void aFolderIsTold()
     {
         const TemporaryFolder folder;
