@@ -27,6 +27,14 @@ WeeklyKPILine sampleWeek()
             .timestamp = "2026-03-09T06:00:00Z"};
 }
 
+/// A scan that has ended is recorded.
+std::vector<RecordedScan> historyOf(const Scene &scene)
+{
+    if (!scene.report)
+        return scene.history;
+    return {RecordedScan::fromReport(*scene.report, {}, Uuid::random())};
+}
+
 } // namespace
 
 Stage::Stage() : m_loadwick(collaborators(m_folder.path()))
@@ -39,7 +47,7 @@ void Stage::show(const Scene &scene)
 {
     ScanModel &model = m_loadwick.model();
     model.state().set(ScanState::idle());
-    model.history().set(scene.history);
+    model.history().set(historyOf(scene));
     if (scene.report) {
         model.select(RepoSelection::fromUrl(scene.report->repositoryPath));
         model.state().set(ScanState::result(*scene.report));
