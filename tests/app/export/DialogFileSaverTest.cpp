@@ -28,6 +28,7 @@ private Q_SLOTS:
     void enterSavesUnderTheNameThatWasTyped_data();
     void enterSavesUnderTheNameThatWasTyped();
     void theButtonSavesUnderTheNameThatWasTyped();
+    void aNameTypedInAnotherFolderIsSavedThere();
     void withoutANameThereIsNoAnswer();
     void enterAnswersOnceHoweverOftenItWasAsked();
     void escapeSavesNothing();
@@ -37,6 +38,8 @@ private Q_SLOTS:
 private:
     void open();
     [[nodiscard]] QString focusedName() const;
+    /// Of the control with that text as its property; null when none shows.
+    [[nodiscard]] QPoint middleOf(const char *property, const char *text) const;
     /// In place of the name that stands there.
     void type(const QByteArray &name);
     void press(Qt::Key key) { QTest::keyClick(m_window.get(), key); }
@@ -102,6 +105,15 @@ QString DialogFileSaverTest::focusedName() const
     return item == nullptr ? QString() : item->objectName();
 }
 
+QPoint DialogFileSaverTest::middleOf(const char *property, const char *text) const
+{
+    for (const QQuickItem *item : shownItems(*m_window->contentItem()))
+        if (item->inherits("QQuickControl") || item->inherits("QQuickTextField"))
+            if (item->property(property).toString() == QLatin1String(text))
+                return item->mapRectToScene(item->boundingRect()).center().toPoint();
+    return {};
+}
+
 std::filesystem::path DialogFileSaverTest::suggested() const
 {
     return m_folder->path() / "figures.csv";
@@ -153,16 +165,24 @@ void DialogFileSaverTest::theButtonSavesUnderTheNameThatWasTyped()
 {
     open();
     type("what #1.csv");
-    QList<QQuickItem *> buttons = shownItems(*m_window->contentItem());
-    buttons.removeIf([](const QQuickItem *item) {
-        return !item->inherits("QQuickAbstractButton") ||
-               item->property("text").toString() != QStringLiteral("Save");
-    });
-    QCOMPARE(buttons.size(), 1);
-    const QRectF place = buttons.constFirst()->mapRectToScene(buttons[0]->boundingRect());
-    QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, place.center().toPoint());
+    QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middleOf("text", "Save"));
     QVERIFY(m_place);
     QVERIFY(m_place->file == m_folder->path() / "what #1.csv");
+}
+
+void DialogFileSaverTest::aNameTypedInAnotherFolderIsSavedThere()
+{
+    std::filesystem::create_directory(m_folder->path() / "other #1");
+    open();
+    QTRY_VERIFY(!middleOf("fileName", "other #1").isNull()); // the list is filled late
+    QTest::mouseDClick(m_window.get(), Qt::LeftButton, {}, middleOf("fileName", "other #1"));
+    QTRY_VERIFY(middleOf("fileName", "other #1").isNull());
+    QTest::mouseClick(m_window.get(), Qt::LeftButton, {},
+                      middleOf("objectName", "fileNameTextField"));
+    type("a.csv");
+    press(Qt::Key_Return);
+    QVERIFY(m_place);
+    QVERIFY(m_place->file == m_folder->path() / "other #1" / "a.csv");
 }
 
 void DialogFileSaverTest::withoutANameThereIsNoAnswer()
