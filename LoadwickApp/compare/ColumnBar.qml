@@ -20,4 +20,7 @@ BarRow {
     fill: row.bars ? row.bars.fill : "transparent"
     Accessible.role: Accessible.ListItem
     Accessible.name: row.spoken
+    // One that waits to be used again is not there.
+    ListView.onPooled: row.visible = false
+    ListView.onReused: row.visible = true
 }

@@ -7,14 +7,19 @@ ReportSurface {
     id: card
 
     required property ComparePresenter compare
-    required property ColumnPresenter column
     // Among all repositories: their colours start again when they are used up.
     required property int place
     required property Flickable viewport
     required property BarStyle style
+    // Whether it has rows before the page comes near: cards come near three at a time.
+    required property bool isFilled
+    readonly property ColumnPresenter column: ColumnPresenter {
+        compare: card.compare
+        number: card.place
+    }
     readonly property color fill: AppTheme.chartColors[card.place % AppTheme.chartColors.length]
 
-    onColumnChanged: bars.currentIndex = -1
+    onPlaceChanged: bars.currentIndex = -1
     Accessible.role: Accessible.Grouping
     Accessible.name: card.column.name
     Accessible.description: card.column.place
@@ -46,6 +51,7 @@ ReportSurface {
             model: card.column
             viewport: card.viewport
             shortCount: card.compare.isLarge ? 0 : 60
+            isReached: card.isFilled
             rowHeight: AppTheme.barRowHeight
             delegate: ColumnBar { }
             style: card.style

@@ -54,10 +54,10 @@ Loader {
         cell.settle();
         cell.setSource("ColumnCard.qml", {
             compare: cell.grid.compare,
-            column: Qt.binding(() => cell.grid.compare.column(Math.min(cell.place, cell.grid.count - 1))),
             place: Qt.binding(() => cell.place),
             viewport: cell.grid.viewport,
-            style: cell.grid.style
+            style: cell.grid.style,
+            isFilled: Qt.binding(() => cell.index < cell.grid.filledCount)
         });
     }
 }

@@ -31,14 +31,19 @@ Item {
     // does not lean on the width: with another number all would be made anew.
     readonly property bool isLarge: grid.compare.isLarge
     readonly property int mostAcross: Math.max(1, Math.floor((AppTheme.contentWidth + grid.gap) / (grid.leastWidth + grid.gap)))
-    readonly property int mostLines: Math.ceil(Math.max(Screen.height, grid.viewport.height) / grid.leastHeight) + 2
+    readonly property int mostLines: Math.ceil(grid.screenHeight / grid.leastHeight) + 2
+    readonly property real screenHeight: Math.max(Screen.height, grid.viewport.height)
     readonly property int keptCount: grid.isLarge ? Math.min(grid.count, grid.mostLines * grid.mostAcross) : grid.count
-    readonly property int keptLines: grid.keptCount === grid.count ? grid.lineCount : Math.floor(grid.keptCount / grid.acrossCount)
+    // Of high cards a screen shows fewer.
+    readonly property int neededLines: grid.cardHeight > 0 ? Math.ceil(grid.screenHeight / grid.lineStep) + 2 : 1
+    readonly property int keptLines: grid.isLarge ? Math.min(grid.lineCount, grid.neededLines, Math.floor(grid.keptCount / grid.acrossCount)) : grid.lineCount
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
+    readonly property int cardCount: Math.min(grid.count, grid.keptLines * grid.acrossCount)
     // Before the first frame nothing has its place or its height. After it the cards of a large grid
-    // are made, one in a frame: a whole line of them takes longer than a frame.
+    // are made, in one frame a card, in the next its rows: more at once takes longer than a frame.
     property int frameCount: 0
-    readonly property int madeCount: Math.max(0, grid.frameCount - 1) + 1
+    readonly property int filledCount: Math.floor(0.5 * grid.frameCount)
+    readonly property int madeCount: Math.floor(0.5 * Math.max(0, grid.frameCount - 1)) + 1
     readonly property bool isLaidOut: grid.frameCount > 1
 
     // Where a kept line stands now: when the page moves on by a line, one of them moves and the others
@@ -58,7 +63,7 @@ Item {
     implicitHeight: Math.max(0, grid.lineCount * grid.lineStep - grid.gap)
 
     FrameAnimation {
-        running: !grid.isLaidOut || (grid.isLarge && grid.madeCount < grid.keptCount)
+        running: !grid.isLaidOut || (grid.isLarge && grid.filledCount < grid.cardCount)
         onTriggered: grid.frameCount += 1
     }
     // One in a frame, those on the page first: to fill a whole line of cards anew takes longer.

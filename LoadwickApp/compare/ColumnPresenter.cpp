@@ -8,17 +8,59 @@
 #include "shell/QtText.h"
 
 namespace Loadwick {
+namespace {
+
+// A scan without categories has no bars to list, although the axis has rows.
+int rowCountOf(const Comparison &comparison, std::size_t column)
+{
+    return comparison.bars.hasBars(column) ? static_cast<int>(comparison.bars.rowCount()) : 0;
+}
+
+} // namespace
 
 ColumnPresenter::ColumnPresenter(TextLocale locale, QObject *parent)
     : QAbstractListModel(parent), m_locale(std::move(locale))
 {}
 
+void ColumnPresenter::setCompare(ComparePresenter *compare)
+{
+    if (m_compare == compare)
+        return;
+    if (m_compare)
+        m_compare->disconnect(this);
+    m_compare = compare;
+    if (!m_compare)
+        return;
+    m_locale = m_compare->locale();
+    connect(m_compare, &ComparePresenter::changed, this, &ColumnPresenter::follow);
+    follow();
+}
+
+void ColumnPresenter::setNumber(int number)
+{
+    if (m_number == number)
+        return;
+    m_number = number;
+    follow();
+}
+
+void ColumnPresenter::follow()
+{
+    if (m_compare && m_number >= 0 && m_number < m_compare->columnCount())
+        show(m_compare->comparison(), static_cast<std::size_t>(m_number));
+}
+
 void ColumnPresenter::show(std::shared_ptr<const Comparison> comparison, std::size_t column)
 {
-    beginResetModel();
+    const bool keepsRows = rowCount() == rowCountOf(*comparison, column);
+    if (!keepsRows)
+        beginResetModel();
     m_comparison = std::move(comparison);
     m_column = column;
-    endResetModel();
+    if (!keepsRows)
+        endResetModel();
+    else if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
     Q_EMIT changed();
 }
 
@@ -71,12 +113,9 @@ QString ColumnPresenter::chartName() const
         .arg(name(), qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale)));
 }
 
-// A scan without categories has no bars to list, although the axis has rows.
 int ColumnPresenter::rowCount(const QModelIndex &parent) const
 {
-    if (parent.isValid() || !m_comparison || !m_comparison->bars.hasBars(m_column))
-        return 0;
-    return static_cast<int>(m_comparison->bars.rowCount());
+    return parent.isValid() || !m_comparison ? 0 : rowCountOf(*m_comparison, m_column);
 }
 
 QVariant ColumnPresenter::data(const QModelIndex &index, int role) const

@@ -4,20 +4,23 @@
 #include <memory>
 
 #include <QAbstractListModel>
+#include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-#include "compare/Comparison.h"
+#include "compare/ComparePresenter.h"
 #include "report/TextLocale.h"
 
 namespace Loadwick {
 
 /// One repository's card: what its latest scan measured, and as rows its bars, one for each
-/// category of the axis that all cards share.
-class ColumnPresenter final : public QAbstractListModel
+/// category of the axis that all cards share. A card that is given another repository keeps its
+/// rows, which then say something else: to make rows anew takes longer than a frame has.
+class ColumnPresenter : public QAbstractListModel
 {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Made by the Compare page's presenter.")
+    Q_PROPERTY(Loadwick::ComparePresenter *compare READ compare WRITE setCompare REQUIRED)
+    Q_PROPERTY(int number READ number WRITE setNumber REQUIRED)
     Q_PROPERTY(QString name READ name NOTIFY changed)
     Q_PROPERTY(QString place READ place NOTIFY changed)
     Q_PROPERTY(QString scanned READ scanned NOTIFY changed)
@@ -37,7 +40,15 @@ public:
         Spoken      ///< the whole row in words
     };
 
-    explicit ColumnPresenter(TextLocale locale, QObject *parent = nullptr);
+    explicit ColumnPresenter(TextLocale locale = {}, QObject *parent = nullptr);
+
+    /// Whose repositories it shows, in whose locale; what it shows follows them.
+    [[nodiscard]] ComparePresenter *compare() const { return m_compare; }
+    void setCompare(ComparePresenter *compare);
+
+    /// Which of them; with a number that is none of theirs it goes on showing what it did.
+    [[nodiscard]] int number() const { return m_number; }
+    void setNumber(int number);
 
     /// Shows the comparison's column at `column`. The comparison is one of several owners' and does
     /// not change.
@@ -65,7 +76,10 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] const RecordedScan &scan() const { return m_comparison->columns.at(m_column); }
+    void follow();
 
+    QPointer<ComparePresenter> m_compare;
+    int m_number = -1;
     TextLocale m_locale;
     std::shared_ptr<const Comparison> m_comparison; ///< none before the first is shown
     std::size_t m_column = 0;

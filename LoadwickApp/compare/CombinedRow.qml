@@ -25,4 +25,7 @@ BarRow {
     Accessible.role: row.isCategory ? Accessible.Heading : Accessible.ListItem
     Accessible.name: row.spoken
     Accessible.description: row.place
+    // One that waits to be used again is not there.
+    ListView.onPooled: row.visible = false
+    ListView.onReused: row.visible = true
 }

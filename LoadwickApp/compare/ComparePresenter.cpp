@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include <QQmlEngine>
-
 #include "history/ScanTables.h"
 #include "report/NumberText.h"
 #include "shell/QtText.h"
@@ -23,10 +21,9 @@ ComparePresenter::ComparePresenter(ScanModel &model, TextLocale locale)
     showHistory();
 }
 
-ColumnPresenter *ComparePresenter::column(int index) const
+int ComparePresenter::columnCount() const
 {
-    return index >= 0 && index < m_columnCount ? m_columns[static_cast<std::size_t>(index)].get()
-                                               : nullptr;
+    return static_cast<int>(m_comparison->columns.size());
 }
 
 int ComparePresenter::categoryCount() const
@@ -80,7 +77,6 @@ void ComparePresenter::showHistory()
     }
     m_leaderboard.setEntries(m_comparison->leaderboard);
     m_combined.show(m_comparison);
-    showColumns();
     Q_EMIT changed();
 }
 
@@ -98,19 +94,6 @@ void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)
         tr("%1 measured %2 tokens. Choose a second repository and scan it to compare the two.")
             .arg(qtText(latest.repositoryName),
                  qtText(NumberText::grouped(latest.total, m_locale)));
-}
-
-// Cards are kept and shown anew rather than replaced: what is on the page stays where it is.
-void ComparePresenter::showColumns()
-{
-    const std::size_t count = m_comparison->columns.size();
-    while (m_columns.size() < count) {
-        m_columns.push_back(std::make_unique<ColumnPresenter>(m_locale));
-        QQmlEngine::setObjectOwnership(m_columns.back().get(), QQmlEngine::CppOwnership);
-    }
-    for (std::size_t column = 0; column < count; ++column)
-        m_columns[column]->show(m_comparison, column);
-    m_columnCount = static_cast<int>(count);
 }
 
 } // namespace Loadwick

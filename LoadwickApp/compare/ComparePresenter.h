@@ -2,15 +2,14 @@
 
 #include <memory>
 #include <span>
-#include <vector>
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-#include "compare/ColumnPresenter.h"
 #include "compare/CombinedRows.h"
+#include "compare/Comparison.h"
 #include "compare/LeaderboardRows.h"
 #include "model/ScanModel.h"
 #include "report/TextLocale.h"
@@ -45,10 +44,10 @@ public:
     [[nodiscard]] QAbstractItemModel *leaderboard() { return &m_leaderboard; }
 
     /// How many repositories there are; 0 when there is nothing to compare.
-    [[nodiscard]] int columnCount() const { return m_columnCount; }
-    /// The card at `index`, which lives as long as the presenter and is given another repository
-    /// when the history changes; null for an index that is none of them.
-    Q_INVOKABLE Loadwick::ColumnPresenter *column(int index) const;
+    [[nodiscard]] int columnCount() const;
+    /// What they are, for their cards. It does not change: `changed` tells of another one.
+    [[nodiscard]] std::shared_ptr<const Comparison> comparison() const { return m_comparison; }
+    [[nodiscard]] const TextLocale &locale() const { return m_locale; }
 
     /// How many rows each card has.
     [[nodiscard]] int categoryCount() const;
@@ -73,7 +72,6 @@ Q_SIGNALS:
 private:
     void showHistory();
     void showWhyEmpty(std::span<const RecordedScan> columns);
-    void showColumns();
 
     ScanModel &m_model;
     TextLocale m_locale;
@@ -82,8 +80,6 @@ private:
     std::shared_ptr<const Comparison> m_comparison;
     LeaderboardRows m_leaderboard;
     CombinedRows m_combined;
-    std::vector<std::unique_ptr<ColumnPresenter>> m_columns; ///< as many as there ever were
-    int m_columnCount = 0;
 };
 
 } // namespace Loadwick

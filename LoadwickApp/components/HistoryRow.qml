@@ -25,6 +25,9 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.title
     Accessible.description: row.place
+    // One that waits to be used again is not there.
+    ListView.onPooled: row.visible = false
+    ListView.onReused: row.visible = true
 
     RowLayout {
         id: line

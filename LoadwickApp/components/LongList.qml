@@ -9,6 +9,8 @@ FocusScope {
 
     property alias model: rows.model
     property alias delegate: rows.delegate
+    // Whether the page has been near it. Before, it has no rows.
+    property alias isReached: rows.isReached
     readonly property alias count: rows.count
     required property real rowHeight
     // What scrolls the page.
@@ -28,18 +30,6 @@ FocusScope {
         for (let item = list as Item; item && item !== list.viewport.contentItem; item = item.parent)
             top += item.y;
         return top;
-    }
-    readonly property bool isShort: rows.count <= list.shortCount
-    // The rows that the page shows, or all of a short list. The number does not lean on the first
-    // row: the two change one after the other, and in between the list would be as high as the jump.
-    readonly property int firstRow: list.isShort ? 0 : list.rowAt(list.viewport.contentY)
-    readonly property int shownRows: list.isShort
-        ? rows.count
-        : Math.min(rows.count, list.rowAt(list.viewport.contentY + list.viewport.height) + 1)
-            - list.rowAt(list.viewport.contentY)
-
-    function rowAt(pageY) {
-        return Math.max(0, Math.min(rows.count, Math.floor((pageY - list.pageTop) / list.rowHeight)));
     }
 
     // The row at a height in the list, null where there is none or it is out of sight.
@@ -71,11 +61,8 @@ FocusScope {
 
     // The row in which something has the focus, as after a press on it; -1 where the row itself has.
     function pressedRow() {
-        let item = list.Window.activeFocusItem;
-        const isInside = item && item.parent !== rows.contentItem;
-        while (item && item.parent !== rows.contentItem)
-            item = item.parent;
-        return item && isInside ? rows.indexAt(0, item.y) : -1;
+        const row = rows.focusedRow();
+        return row && row !== list.Window.activeFocusItem ? rows.indexAt(0, row.y) : -1;
     }
 
     function indexAfterKey(key) {
@@ -121,20 +108,15 @@ FocusScope {
         visible: list.markedIndex >= 0
     }
 
-    ListView {
+    LongListRows {
         id: rows
 
         objectName: "rows"
         width: parent.width
-        y: list.firstRow * list.rowHeight
-        height: list.shownRows * list.rowHeight
-        contentY: y
-        interactive: false
-        keyNavigationEnabled: false
-        currentIndex: -1
-        highlightFollowsCurrentItem: false
-        cacheBuffer: 0
-        reuseItems: true
+        rowHeight: list.rowHeight
+        page: list.viewport
+        pageTop: list.pageTop
+        shortCount: list.shortCount
         onCountChanged: if (list.currentIndex >= rows.count) list.currentIndex = rows.count - 1
     }
 

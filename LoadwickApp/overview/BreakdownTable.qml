@@ -50,6 +50,9 @@ ColumnLayout {
             height: cells.rowHeight
             Accessible.role: Accessible.ListItem
             Accessible.name: row.sentence
+            // One that waits to be used again is not there.
+            ListView.onPooled: row.visible = false
+            ListView.onReused: row.visible = true
 
             BreakdownCells {
                 id: cells

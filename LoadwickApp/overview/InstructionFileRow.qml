@@ -18,6 +18,9 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.words
     Accessible.focusable: true
+    // One that waits to be used again is not there.
+    ListView.onPooled: row.visible = false
+    ListView.onReused: row.visible = true
 
     Hairline {
         width: parent.width

@@ -60,6 +60,9 @@ ReportSurface {
                 Accessible.role: Accessible.ListItem
                 Accessible.name: cells.words
                 Accessible.focusable: true
+                // One that waits to be used again is not there.
+                ListView.onPooled: cells.visible = false
+                ListView.onReused: cells.visible = true
 
                 Hairline {
                     width: parent.width

@@ -47,8 +47,13 @@ Item {
                         Accessible.role: Accessible.ListItem
                         Accessible.name: "Row " + row.index
                         TextInput { objectName: "words" + row.index; width: 100; text: "Words" }
-                        Component.onCompleted: scene.made += 1
+                        Component.onCompleted: {
+                            scene.made += 1;
+                            scene.makings += 1;
+                        }
                         Component.onDestruction: scene.made -= 1
+                        ListView.onPooled: row.visible = false
+                        ListView.onReused: row.visible = true
                     }
                 }
             }
@@ -62,6 +67,8 @@ Item {
     }
 
     property int made: 0
+    // Ever.
+    property int makings: 0
 
     SignalSpy { id: copied; target: list; signalName: "copyRequested" }
 
@@ -141,6 +148,49 @@ Item {
             }
         }
 
+        // A row of 30 leaves the page with each step but the first ones and another one comes.
+        function test_takesRowsThatHaveLeftThePageForThoseThatCome() {
+            show(10000);
+            page.contentY = 3000;
+            waitForRendering(scene);
+            page.contentY += 90;
+            const before = scene.makings;
+            for (let step = 0; step < 40; ++step) {
+                page.contentY += step % 2 ? 85 : 95;
+                waitForRendering(scene, 50);
+                compare(shownRows(), expectedRows());
+            }
+            verify(scene.makings - before < 15, scene.makings - before + " rows made");
+        }
+
+        function test_makesNextToNoRowsBeforeThePageComesNear() {
+            head.height = 9000;
+            list.isReached = false;
+            waitForRendering(scene);
+            show(10000);
+            verify(scene.made < 3, scene.made + " rows");
+            page.contentY = 8500;
+            compare(shownRows(), []);
+            verify(scene.made > 9, scene.made + " rows");
+            page.contentY = 8800;
+            compare(shownRows(), expectedRows());
+        }
+
+        function test_aPressedRowThatLeavesGivesTheFocusBackToTheList() {
+            show(10000);
+            page.contentY = 3000;
+            waitForRendering(scene);
+            press(100);
+            page.contentY = 3900;
+            waitForRendering(scene);
+            verify(list.activeFocus);
+            compare(findChild(list, "rows").focusedRow(), null);
+            page.contentY = 3000;
+            waitForRendering(scene);
+            compare(findChild(list, "rows").focusedRow(), null);
+            compare(list.currentIndex, 100);
+        }
+
         function test_followsWhatStandsAboveItOnThePage() {
             show(10000);
             page.contentY = 3000;
@@ -165,13 +215,6 @@ Item {
             page.contentY = 700;
             compare(scene.made, 60);
             compare(shownRows(), expectedRows());
-        }
-
-        function test_aLongListBelowTheFoldMakesNextToNoRows() {
-            head.height = 900;
-            waitForRendering(scene);
-            show(10000);
-            verify(scene.made < 3, scene.made + " rows");
         }
 
         function test_takesOtherRowsAtOnce() {

@@ -151,6 +151,21 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 2);
     }
 
+    void keepsItsRowsWhenItIsGivenAnotherRepository()
+    {
+        const QAbstractItemModelTester tester(m_column.get());
+        m_column->show(comparison(), 0);
+        const QSignalSpy reset(m_column.get(), &ColumnPresenter::modelReset);
+        const QSignalSpy changed(m_column.get(), &ColumnPresenter::dataChanged);
+        m_column->show(comparison(), 1);
+        QCOMPARE(reset.size(), 0);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed[0][0].toModelIndex().row(), 0);
+        QCOMPARE(changed[0][1].toModelIndex().row(), 1);
+        m_column->show(comparison(), 2);
+        QCOMPARE(reset.size(), 1);
+    }
+
 private:
     [[nodiscard]] QVariant value(int row, ColumnPresenter::Role role) const
     {

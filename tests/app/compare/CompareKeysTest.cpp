@@ -66,7 +66,7 @@ QString CompareKeysTest::focused()
 
 QStringList CompareKeysTest::words(int card)
 {
-    const ColumnPresenter *column = m_page->compare().column(card);
+    const auto column = m_page->said(card);
     return {column->name(), column->scanned(), column->total(), column->bandText()};
 }
 
@@ -80,8 +80,8 @@ void CompareKeysTest::theHeadOfACardIsOneStop()
 {
     goTo(0);
     press(Qt::Key_Tab);
-    const QModelIndex bar = m_page->compare().column(0)->index(0);
-    QCOMPARE(focused(), bar.data(ColumnPresenter::Spoken).toString());
+    const auto card = m_page->said(0);
+    QCOMPARE(focused(), card->index(0).data(ColumnPresenter::Spoken).toString());
     press(Qt::Key_Tab);
     QCOMPARE(focused(), words(1)[0]);
     press(Qt::Key_Backtab);

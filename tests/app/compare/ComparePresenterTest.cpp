@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "compare/ColumnPresenter.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/SampleHistories.h"
 #include "support/ScanningModel.h"
@@ -77,7 +78,6 @@ private Q_SLOTS:
         QCOMPARE(m_compare->leaderboard()->rowCount(), 0);
         QCOMPARE(m_compare->combined()->rowCount(), 0);
         QCOMPARE(m_compare->columnCount(), 0);
-        QCOMPARE(m_compare->column(0), nullptr);
     }
 
     void twoRepositoriesHaveALeaderboardCardsAndACombinedChart()
@@ -87,37 +87,49 @@ private Q_SLOTS:
         QCOMPARE(m_compare->columnCount(), 2);
         QCOMPARE(m_compare->categoryCount(), 2);
         QCOMPARE(m_compare->combined()->rowCount(), 2 * 3);
-        QCOMPARE(m_compare->column(0)->place(), QStringLiteral("/a"));
-        QCOMPARE(m_compare->column(1)->place(), QStringLiteral("/b"));
-        QCOMPARE(m_compare->column(2), nullptr);
-        QCOMPARE(m_compare->column(-1), nullptr);
+        QCOMPARE(card(0)->place(), QStringLiteral("/a"));
+        QCOMPARE(card(1)->place(), QStringLiteral("/b"));
+        QCOMPARE(card(2)->place(), QString());
+        QCOMPARE(card(-1)->place(), QString());
     }
 
     void cardsStandByNameHoweverHeavyTheyAre()
     {
         record({RecordedScanBuilder().named("z").in("/z").ofTotal(9).build(),
                 RecordedScanBuilder().named("a").in("/a").ofTotal(1).build()});
-        QCOMPARE(m_compare->column(0)->name(), QStringLiteral("a"));
-        QCOMPARE(m_compare->column(1)->name(), QStringLiteral("z"));
+        QCOMPARE(card(0)->name(), QStringLiteral("a"));
+        QCOMPARE(card(1)->name(), QStringLiteral("z"));
     }
 
-    void aCardStaysTheSameObjectWhenAScanIsAdded()
+    void aCardFollowsItsRepositoryWhenAScanIsAdded()
     {
         std::vector<RecordedScan> scans = twoRepositories();
         record(scans);
-        const ColumnPresenter *const first = m_compare->column(0);
+        const auto first = card(0);
         scans.push_back(RecordedScanBuilder().in("/a").at(1'800'000'000).ofTotal(5).build());
         record(scans);
-        QCOMPARE(m_compare->column(0), first);
         QCOMPARE(first->total(), QStringLiteral("5"));
     }
 
-    void cardsOfRepositoriesThatAreGoneAreNotGiven()
+    void aCardTakesAnotherRepositoryAndItsLocaleIsThePages()
+    {
+        ComparePresenter local(m_scanning->model,
+                               TextLocale::fromEnvironment({{"LC_ALL", "de_DE"}}));
+        record({RecordedScanBuilder().in("/a").ofTotal(1'000).build(),
+                RecordedScanBuilder().in("/b").ofTotal(2'000).build()});
+        const auto first = card(0, local);
+        QCOMPARE(first->total(), QStringLiteral("1.000"));
+        first->setNumber(1);
+        QCOMPARE(first->total(), QStringLiteral("2.000"));
+    }
+
+    void aCardWhoseRepositoryIsGoneHarmsNothing()
     {
         record(twoRepositories());
+        const auto last = card(1);
         record({});
         QCOMPARE(m_compare->columnCount(), 0);
-        QCOMPARE(m_compare->column(1), nullptr);
+        QCOMPARE(last->place(), QStringLiteral("/b"));
         QCOMPARE(m_compare->leaderboard()->rowCount(), 0);
     }
 
@@ -160,6 +172,16 @@ private:
     {
         return {RecordedScanBuilder().in("/b").withCategory("Tools", 1'234'567).build(),
                 RecordedScanBuilder().in("/a").withCategory("Memory", 7).build()};
+    }
+
+    std::unique_ptr<ColumnPresenter> card(int number) { return card(number, *m_compare); }
+
+    static std::unique_ptr<ColumnPresenter> card(int number, ComparePresenter &compare)
+    {
+        auto card = std::make_unique<ColumnPresenter>();
+        card->setNumber(number);
+        card->setCompare(&compare);
+        return card;
     }
 
     void record(std::vector<RecordedScan> scans)

@@ -26,6 +26,14 @@ ComparePage::ComparePage()
         qFatal("The page does not show.");
 }
 
+std::unique_ptr<ColumnPresenter> ComparePage::said(int number)
+{
+    auto card = std::make_unique<ColumnPresenter>();
+    card->setNumber(number);
+    card->setCompare(&m_compare);
+    return card;
+}
+
 void ComparePage::record(std::vector<RecordedScan> scans)
 {
     m_scanning.model.history().set(std::move(scans));

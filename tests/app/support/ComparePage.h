@@ -8,6 +8,7 @@
 #include <QQuickView>
 
 #include "compare/BarRow.h"
+#include "compare/ColumnPresenter.h"
 #include "compare/ComparePresenter.h"
 #include "export/PageExport.h"
 #include "support/FakeFileSaver.h"
@@ -23,6 +24,9 @@ public:
 
     [[nodiscard]] QQuickView &view() noexcept { return m_view; }
     [[nodiscard]] ComparePresenter &compare() noexcept { return m_compare; }
+
+    /// What the card of that number says, by a presenter of its own.
+    [[nodiscard]] std::unique_ptr<ColumnPresenter> said(int number);
 
     /// Takes the place of what was recorded; the page follows.
     void record(std::vector<RecordedScan> scans);

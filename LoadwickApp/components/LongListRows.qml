@@ -1,0 +1,64 @@
+import QtQuick
+
+// The rows of a LongList that exist: those that the page can show, or all of a short list; none before
+// the page comes near. A row that has left the page comes again as another one, which costs a fraction
+// of a new one; so the view must keep its size and its place while the page scrolls, since Qt lets go
+// of all rows in waiting when either changes.
+ListView {
+    id: rows
+
+    required property real rowHeight
+    required property Flickable page
+    // Where the list begins on the page.
+    required property real pageTop
+    required property int shortCount
+    readonly property bool isShort: rows.count <= rows.shortCount
+    readonly property bool isNear: rows.page.contentY + 2 * rows.page.height > rows.pageTop
+        && rows.page.contentY - rows.page.height < rows.pageTop + rows.count * rows.rowHeight
+    property bool isReached: false
+    readonly property int pageRows: Math.ceil(rows.page.height / rows.rowHeight) + 1
+    readonly property int shownRows: rows.isShort ? rows.count : rows.isReached ? Math.min(rows.count, rows.pageRows) : 0
+    readonly property int firstRow: rows.isShort ? 0 : Math.min(rows.count - rows.shownRows, rows.rowAt(rows.page.contentY))
+
+    function rowAt(pageY) {
+        return Math.max(0, Math.min(rows.count, Math.floor((pageY - rows.pageTop) / rows.rowHeight)));
+    }
+
+    function placeRows() {
+        rows.contentY = rows.firstRow * rows.rowHeight;
+    }
+
+    // The row that has the focus, or in which something has; null for none.
+    function focusedRow() {
+        let item = rows.Window.activeFocusItem;
+        while (item && item.parent !== rows.contentItem)
+            item = item.parent;
+        return item;
+    }
+
+    // From a row that leaves: it comes again as another one.
+    function takeFocusBack() {
+        const row = rows.activeFocus ? rows.focusedRow() : null;
+        const place = row ? Math.round(row.y / rows.rowHeight) : -1;
+        if (row && (place < rows.firstRow || place >= rows.firstRow + rows.shownRows))
+            rows.Window.activeFocusItem.focus = false;
+    }
+
+    height: rows.shownRows * rows.rowHeight
+    transform: Translate { y: rows.contentY }
+    interactive: false
+    keyNavigationEnabled: false
+    currentIndex: -1
+    highlightFollowsCurrentItem: false
+    cacheBuffer: 0
+    reuseItems: true
+
+    onIsNearChanged: if (rows.isNear) rows.isReached = true
+    onRowHeightChanged: rows.placeRows()
+    onFirstRowChanged: {
+        rows.takeFocusBack();
+        rows.placeRows();
+    }
+    // A view with another model starts at its top again.
+    onContentYChanged: rows.placeRows()
+}
