@@ -11,6 +11,7 @@ import subprocess
 from pathlib import Path
 
 from measured import Row, ratios
+from pages import frame_rows, idle_rows
 from rounds import (benchmark, figures, in_process_row, instructions, pair_times,
                     window_lines)
 from window import startup_rows
@@ -118,6 +119,12 @@ class Bench:
                              "the stand-in alone and one frame",
                              [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more"))
 
+    def measure_pages(self) -> None:
+        """The frames of the pages and the rest of the window. A round of them takes a minute and
+        its frames are many: three do."""
+        self.rows += idle_rows(self.programs, min(self.count, 3))
+        self.rows += frame_rows(self.programs, min(self.count, 3))
+
     def measure(self) -> None:
         """Everything that is built and asked for."""
         self.make_data()
@@ -133,6 +140,8 @@ class Bench:
             self.measure_startup()
         if self.wants("scan") and (self.programs / "scan_to_result").exists():
             self.measure_scan()
+        if self.wants("pages") and (self.programs / "frames_overview").exists():
+            self.measure_pages()
 
 
 def version(command: str) -> str:

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <limits>
 
+#include <QCoreApplication>
+#include <QMouseEvent>
 #include <QQuickItem>
 
 #include "pictures/PageViewport.h"
@@ -16,8 +18,12 @@ using Milliseconds = FrameMeter::Milliseconds;
 using Frames = PageCosts::Frames;
 
 constexpr Milliseconds entrance{1'100}; // longer than the longest spring
+constexpr Milliseconds settling{200};
 constexpr int scrollSteps = 120;
 constexpr double wheelStep = 240; // pixels in a frame: 20 pages in a second
+constexpr int hoverScreens = 3;   // the charts of every page are within them
+constexpr int hoverSweeps = 3;    // over a screen, from side to side
+constexpr int hoverSteps = 20;    // in a sweep
 // Of an everyday build, which runs the pages uncompiled; a release is meant to need half of it.
 constexpr Milliseconds firstLimit{200};
 constexpr Milliseconds frameLimit{16.7}; // 60 frames in a second
@@ -40,10 +46,49 @@ Frames scroll(QQuickWindow &window, FrameMeter &meter, double greatestStep)
     return meter.frames();
 }
 
+void movePointer(QQuickWindow &window, const QPointF &place)
+{
+    QMouseEvent event(QEvent::MouseMove, place, window.mapToGlobal(place), Qt::NoButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+// A frame for each step, also where the pointer changes nothing.
+void sweep(QQuickWindow &window, const FrameMeter &meter, const QRectF &screen)
+{
+    for (int step = 0; step < hoverSweeps * hoverSteps; ++step) {
+        const double down = (step + 0.5) / (hoverSweeps * hoverSteps);
+        const double across = (step % hoverSteps + 0.5) / hoverSteps;
+        movePointer(window, {screen.left() + across * screen.width(),
+                             screen.top() + down * screen.height()});
+        window.update();
+        meter.waitForFrame();
+    }
+}
+
+Frames hover(QQuickWindow &window, FrameMeter &meter)
+{
+    QQuickItem *viewport = pageViewport(window);
+    if (viewport == nullptr)
+        return {};
+    const QRectF screen = viewport->mapRectToScene(viewport->boundingRect());
+    Frames frames;
+    for (int count = 0; count < hoverScreens; ++count) {
+        const double top = std::min(hiddenHeight(*viewport), count * viewport->height());
+        viewport->setProperty("contentY", top);
+        FrameMeter::run(settling);
+        meter.restart();
+        sweep(window, meter, screen);
+        append(frames, meter.frames());
+    }
+    movePointer(window, {-1, -1});
+    return frames;
+}
+
 void measure(Stage &stage, FrameMeter &meter, const Scene &scene, PageCosts &costs)
 {
     stage.show({.page = AppPage::overview, .subject = "nothing"});
-    FrameMeter::run(Milliseconds(200));
+    FrameMeter::run(settling);
     meter.restart();
     stage.show(scene);
     FrameMeter::run(entrance);
@@ -51,6 +96,7 @@ void measure(Stage &stage, FrameMeter &meter, const Scene &scene, PageCosts &cos
     append(costs.arriving, {meter.frames().begin() + 1, meter.frames().end()});
     append(costs.scrolling, scroll(stage.window(), meter, wheelStep));
     append(costs.dragging, scroll(stage.window(), meter, std::numeric_limits<double>::max()));
+    append(costs.hovering, hover(stage.window(), meter));
 }
 
 void printLine(const char *what, const Frames &frames)
@@ -74,7 +120,7 @@ PageCosts PageCosts::measured(Stage &stage, const Scene &scene, int rounds)
 bool PageCosts::areLow() const
 {
     return percentile(first, 0.5) < firstLimit && percentile(arriving, 0.99) < frameLimit &&
-           percentile(scrolling, 0.99) < frameLimit;
+           percentile(scrolling, 0.99) < frameLimit && percentile(hovering, 0.99) < frameLimit;
 }
 
 void PageCosts::print() const
@@ -83,6 +129,7 @@ void PageCosts::print() const
     printLine("arriving", arriving);
     printLine("scrolling", scrolling);
     printLine("dragging", dragging);
+    printLine("hovering", hovering);
     std::fflush(stdout);
 }
 

@@ -8,8 +8,8 @@
 namespace Loadwick {
 
 /// What the frames of one page cost: the first, each while the page arrives, each while it is
-/// scrolled as fast as a wheel can, and each while its scroll bar is dragged from the top to the
-/// end.
+/// scrolled as fast as a wheel can, each while its scroll bar is dragged from the top to the end,
+/// and each while the pointer crosses all that it shows.
 struct PageCosts
 {
     using Frames = std::vector<FrameMeter::Milliseconds>;
@@ -18,6 +18,7 @@ struct PageCosts
     Frames arriving;
     Frames scrolling;
     Frames dragging;
+    Frames hovering;
 
     /// Of the scene's page, come to from another one, that often.
     [[nodiscard]] static PageCosts measured(Stage &stage, const Scene &scene, int rounds);
