@@ -18,14 +18,14 @@ QString nameOf(QObject *object)
 
 } // namespace
 
-/// The page with the keyboard alone.
+/// The page with the keyboard alone. Nothing in it changes, so one serves all.
 class CompareKeysTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_page.reset(); }
+    void initTestCase();
+    void cleanupTestCase() { m_page.reset(); }
     void theHeadOfACardIsOneStop();
     void theArrowsGoThroughTheHeadOfACard();
     void theWayGoesOnFromWhereTheArrowsLed_data();
@@ -45,7 +45,7 @@ private:
     std::unique_ptr<ComparePage> m_page;
 };
 
-void CompareKeysTest::init()
+void CompareKeysTest::initTestCase()
 {
     m_page = std::make_unique<ComparePage>();
     m_page->view().requestActivate();
