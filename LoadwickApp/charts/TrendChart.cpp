@@ -1,5 +1,6 @@
 #include "charts/TrendChart.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 
 namespace Loadwick {
@@ -33,7 +34,21 @@ QString TrendChart::readout() const
 void TrendChart::paint(QPainter *painter)
 {
     if (m_line != nullptr)
-        picture().paint(*painter, currentMark() < markCount() ? currentMark() : -1);
+        picture().paint(*painter, currentMark() < markCount() ? currentMark() : -1,
+                        scansFor(*painter));
+}
+
+// The pointer singles out another scan with each step; all of them are painted but once. Where a
+// drawing is wanted and no pixels, none are kept.
+const QImage &TrendChart::scansFor(const QPainter &painter)
+{
+    static const QImage none;
+    if (painter.paintEngine()->type() != QPaintEngine::Raster)
+        return none;
+    const qreal pixelsPerPoint = painter.deviceTransform().m11();
+    if (m_scans.isNull() || m_scans.devicePixelRatio() != pixelsPerPoint)
+        m_scans = picture().paintedScans(pixelsPerPoint);
+    return m_scans;
 }
 
 int TrendChart::markCount() const
@@ -61,6 +76,7 @@ void TrendChart::geometryChange(const QRectF &newGeometry, const QRectF &oldGeom
 void TrendChart::redraw()
 {
     m_picture.reset();
+    m_scans = {};
     update();
 }
 

@@ -57,9 +57,11 @@ private:
     void showOtherScans();
     [[nodiscard]] TrendStyle style() const;
     [[nodiscard]] const TrendPicture &picture() const;
+    [[nodiscard]] const QImage &scansFor(const QPainter &painter);
 
     TrendLine *m_line = nullptr;
     mutable std::optional<TrendPicture> m_picture; ///< made when it is first needed
+    QImage m_scans; ///< the picture's, in pixels; null until they are painted
     QFont m_font;
     QColor m_lineColor;
     QColor m_heavyColor;

@@ -73,7 +73,8 @@ double crisp(double position)
 } // namespace
 
 TrendPicture::TrendPicture(const TrendLine &line, const TrendStyle &style, const QSizeF &size)
-    : m_line(line),
+    : m_size(size),
+      m_line(line),
       m_style(style),
       m_totals(line.geometry().upperBound(), mostIntervals),
       m_totalLabels(labelsOf(m_totals, line.locale())),
@@ -90,7 +91,7 @@ TrendPicture::TrendPicture(const TrendLine &line, const TrendStyle &style, const
                                 });
 }
 
-void TrendPicture::paint(QPainter &painter, int mark) const
+void TrendPicture::paint(QPainter &painter, int mark, const QImage &scans) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(m_style.font);
@@ -99,10 +100,25 @@ void TrendPicture::paint(QPainter &painter, int mark) const
     paintThresholds(painter);
     if (mark >= 0)
         paintMark(painter, static_cast<std::size_t>(mark));
-    paintLine(painter);
-    paintPoints(painter, mark);
-    if (mark >= 0)
-        paintReadout(painter, static_cast<std::size_t>(mark));
+    if (scans.isNull())
+        paintScans(painter);
+    else
+        painter.drawImage(QPointF(), scans);
+    if (mark < 0)
+        return;
+    paintMarkedPoint(painter, static_cast<std::size_t>(mark));
+    paintReadout(painter, static_cast<std::size_t>(mark));
+}
+
+QImage TrendPicture::paintedScans(qreal pixelsPerPoint) const
+{
+    QImage image((m_size * pixelsPerPoint).toSize(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(pixelsPerPoint);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintScans(painter);
+    return image;
 }
 
 void TrendPicture::paintTotals(QPainter &painter) const
@@ -165,31 +181,28 @@ void TrendPicture::paintThresholds(QPainter &painter) const
     nameOne(names.upper, m_style.excessiveName, OpinionBand::excessive);
 }
 
-void TrendPicture::paintLine(QPainter &painter) const
+void TrendPicture::paintScans(QPainter &painter) const
 {
+    const std::vector<LinePoint> &points = m_line.geometry().points();
     QPolygonF line;
-    for (const LinePoint &point : m_line.geometry().points())
+    for (const LinePoint &point : points)
         line.append(place(point));
     QPen pen(m_style.line, lineWidth);
     pen.setJoinStyle(Qt::RoundJoin);
     painter.setPen(pen);
     painter.drawPolyline(line);
-}
-
-void TrendPicture::paintPoints(QPainter &painter, int mark) const
-{
-    const std::vector<LinePoint> &points = m_line.geometry().points();
     const double radius = points.size() < denseFrom ? pointRadius : densePointRadius;
     painter.setPen(QPen(m_style.ground, 1.5));
     painter.setBrush(m_style.line);
-    for (const LinePoint &point : points)
-        painter.drawEllipse(place(point), radius, radius);
-    if (mark < 0)
-        return;
+    for (const QPointF &point : line)
+        painter.drawEllipse(point, radius, radius);
+}
+
+void TrendPicture::paintMarkedPoint(QPainter &painter, std::size_t mark) const
+{
     painter.setPen(QPen(m_style.line, lineWidth));
     painter.setBrush(m_style.ground);
-    painter.drawEllipse(place(points[static_cast<std::size_t>(mark)]), pointRadius + 1,
-                        pointRadius + 1);
+    painter.drawEllipse(place(m_line.geometry().points()[mark]), pointRadius + 1, pointRadius + 1);
 }
 
 void TrendPicture::paintMark(QPainter &painter, std::size_t mark) const

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPicture>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -92,6 +93,17 @@ int heightOf(const QColor &color, const QImage &picture)
     return -1;
 }
 
+/// The smallest that holds all pixels of that colour.
+QRect boxOf(const QColor &color, const QImage &picture)
+{
+    QRect box;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixelColor(x, y) == color)
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
+
 } // namespace
 
 class TrendChartTest : public QObject
@@ -179,6 +191,42 @@ private Q_SLOTS:
         QVERIFY(at.picture() != before);
         (void)at.afterKey(Qt::Key_Escape);
         QCOMPARE(at.picture(), before);
+    }
+
+    void theScansStayWhereTheyAreInAPictureOfMorePixels()
+    {
+        ChartWindow at;
+        at.show({10'000, 20'000, 30'000});
+        const QImage before = at.picture();
+        QImage fine(2 * width, 2 * height, QImage::Format_RGB32);
+        fine.setDevicePixelRatio(2);
+        fine.fill(Qt::white);
+        QPainter painter(&fine);
+        at.chart.paint(&painter);
+        painter.end();
+        fine.setDevicePixelRatio(1);
+        QCOMPARE(heightOf(heavyColor, fine.scaled(width, height)), heightOf(heavyColor, before));
+        const QRect drawn = boxOf(lineColor, fine);
+        const QRect expected = boxOf(lineColor, before);
+        QVERIFY(std::abs(drawn.left() / 2 - expected.left()) <= 1);
+        QVERIFY(std::abs(drawn.bottom() / 2 - expected.bottom()) <= 1);
+        QCOMPARE(at.picture(), before);
+    }
+
+    void aDrawingHoldsNoPixels()
+    {
+        ChartWindow at;
+        at.show({10'000, 20'000, 30'000});
+        (void)at.picture();
+        QPicture drawing;
+        QPainter painter(&drawing);
+        at.chart.paint(&painter);
+        painter.end();
+        QImage image(width, height, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter(&image).drawPicture(0, 0, drawing);
+        QCOMPARE(boxOf(lineColor, image), boxOf(lineColor, at.picture()));
+        QVERIFY2(drawing.size() < 100'000, qPrintable(QString::number(drawing.size())));
     }
 
     void anotherHistoryLetsGoOfTheScan()
