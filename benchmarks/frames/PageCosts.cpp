@@ -117,6 +117,15 @@ PageCosts PageCosts::measured(Stage &stage, const Scene &scene, int rounds)
     return costs;
 }
 
+void PageCosts::add(const PageCosts &other)
+{
+    append(first, other.first);
+    append(arriving, other.arriving);
+    append(scrolling, other.scrolling);
+    append(dragging, other.dragging);
+    append(hovering, other.hovering);
+}
+
 bool PageCosts::areLow() const
 {
     return percentile(first, 0.5) < firstLimit && percentile(arriving, 0.99) < frameLimit &&

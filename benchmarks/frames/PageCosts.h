@@ -23,6 +23,9 @@ struct PageCosts
     /// Of the scene's page, come to from another one, that often.
     [[nodiscard]] static PageCosts measured(Stage &stage, const Scene &scene, int rounds);
 
+    /// Adds those of another page.
+    void add(const PageCosts &other);
+
     /// Whether nobody waits for the page and nothing on it stutters.
     [[nodiscard]] bool areLow() const;
 

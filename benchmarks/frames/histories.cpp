@@ -1,6 +1,6 @@
 // Measures Trends and Compare as frames_overview measures the Overview, with sample histories.
 // Usage: frames_histories [--check] [ROUNDS [NAME...]] One paragraph for each page and history,
-// named like "compare-200x50": 200 scans of 200 repositories with 50 categories each.
+// named like "compare-200x50": 200 scans of 200 repositories with 50 categories each; one for all.
 #include <cstdio>
 #include <utility>
 
@@ -42,6 +42,7 @@ int main(int argc, char *argv[])
     Stage stage;
     appearanceOf(stage.window()).setMotion(Appearance::Full);
     bool areLow = true;
+    PageCosts all;
     for (const Scene &scene : scenes()) {
         if (!arguments.isWanted(scene.name()))
             continue;
@@ -49,6 +50,9 @@ int main(int argc, char *argv[])
         std::printf("%s\n", scene.name().c_str());
         costs.print();
         areLow = costs.areLow() && areLow;
+        all.add(costs);
     }
+    std::puts("all");
+    all.print();
     return arguments.isCheck() && !areLow ? 1 : 0;
 }
