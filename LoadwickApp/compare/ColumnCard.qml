@@ -51,7 +51,7 @@ ReportSurface {
             model: card.column
             viewport: card.viewport
             shortCount: card.compare.isLarge ? 0 : 60
-            isReached: card.isFilled
+            isFilled: card.isFilled
             rowHeight: AppTheme.barRowHeight
             delegate: ColumnBar { }
             style: card.style

@@ -9,8 +9,8 @@ FocusScope {
 
     property alias model: rows.model
     property alias delegate: rows.delegate
-    // Whether the page has been near it. Before, it has no rows.
-    property alias isReached: rows.isReached
+    // Whether it has all rows that a page can show before any of them is seen.
+    property alias isFilled: rows.isFilled
     readonly property alias count: rows.count
     required property real rowHeight
     // What scrolls the page.

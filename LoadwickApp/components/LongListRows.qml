@@ -1,9 +1,9 @@
 import QtQuick
 
-// The rows of a LongList that exist: those that the page can show, or all of a short list; none before
-// the page comes near. A row that has left the page comes again as another one, which costs a fraction
-// of a new one; so the view must keep its size and its place while the page scrolls, since Qt lets go
-// of all rows in waiting when either changes.
+// The rows of a LongList that exist: as many as the page has ever shown of it at once, or all of a
+// short list. A row that has left the page comes again as another one, which costs a fraction of a new
+// one; so the view must keep its size and its place while the page scrolls, since Qt lets go of all
+// rows in waiting when either changes.
 ListView {
     id: rows
 
@@ -13,11 +13,15 @@ ListView {
     required property real pageTop
     required property int shortCount
     readonly property bool isShort: rows.count <= rows.shortCount
-    readonly property bool isNear: rows.page.contentY + 2 * rows.page.height > rows.pageTop
-        && rows.page.contentY - rows.page.height < rows.pageTop + rows.count * rows.rowHeight
-    property bool isReached: false
-    readonly property int pageRows: Math.ceil(rows.page.height / rows.rowHeight) + 1
-    readonly property int shownRows: rows.isShort ? rows.count : rows.isReached ? Math.min(rows.count, rows.pageRows) : 0
+    // Whether it has all rows that a page can show before any of them is seen.
+    property bool isFilled: false
+    // None while rows have no height yet.
+    readonly property int pageRows: rows.rowHeight > 0 ? Math.ceil(rows.page.height / rows.rowHeight) + 1 : 0
+    readonly property int seenRows: rows.isFilled
+        ? rows.pageRows
+        : rows.rowAt(rows.page.contentY + rows.page.height + rows.rowHeight) - rows.rowAt(rows.page.contentY)
+    property int mostSeenRows: 0
+    readonly property int shownRows: rows.isShort ? rows.count : Math.min(rows.count, rows.pageRows, Math.max(rows.seenRows, rows.mostSeenRows))
     readonly property int firstRow: rows.isShort ? 0 : Math.min(rows.count - rows.shownRows, rows.rowAt(rows.page.contentY))
 
     function rowAt(pageY) {
@@ -53,7 +57,7 @@ ListView {
     cacheBuffer: 0
     reuseItems: true
 
-    onIsNearChanged: if (rows.isNear) rows.isReached = true
+    onSeenRowsChanged: rows.mostSeenRows = Math.max(rows.mostSeenRows, rows.seenRows)
     onRowHeightChanged: rows.placeRows()
     onFirstRowChanged: {
         rows.takeFocusBack();

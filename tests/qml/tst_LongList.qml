@@ -79,6 +79,8 @@ Item {
         function init() {
             list.model = 0;
             list.currentIndex = -1;
+            list.rowHeight = 30;
+            list.isFilled = false;
             head.height = 120;
             page.contentY = 0;
             before.forceActiveFocus();
@@ -163,17 +165,31 @@ Item {
             verify(scene.makings - before < 15, scene.makings - before + " rows made");
         }
 
-        function test_makesNextToNoRowsBeforeThePageComesNear() {
+        function test_makesNextToNoRowsBeforeThePageShowsThem_data() {
+            return [{ tag: "of use soon", isFilled: true, most: 12 }, { tag: "perhaps never", isFilled: false, most: 2 }];
+        }
+
+        function test_makesNextToNoRowsBeforeThePageShowsThem(data) {
+            list.isFilled = data.isFilled;
             head.height = 9000;
-            list.isReached = false;
+            findChild(list, "rows").mostSeenRows = 0;
             waitForRendering(scene);
             show(10000);
-            verify(scene.made < 3, scene.made + " rows");
-            page.contentY = 8500;
             compare(shownRows(), []);
-            verify(scene.made > 9, scene.made + " rows");
+            verify(scene.made <= data.most, scene.made + " rows");
+            compare(scene.made > 9, data.isFilled);
             page.contentY = 8800;
             compare(shownRows(), expectedRows());
+            list.isFilled = false;
+        }
+
+        function test_rowsWithoutAHeightAreNone() {
+            list.rowHeight = 0;
+            show(10000);
+            verify(scene.made < 3, scene.made + " rows");
+            list.rowHeight = 30;
+            compare(shownRows(), expectedRows());
+            verify(scene.made < 100, scene.made + " rows");
         }
 
         function test_aPressedRowThatLeavesGivesTheFocusBackToTheList() {
