@@ -9,8 +9,10 @@ Item {
     required property string symbol
     required property color color
     required property font font
+    // Kept free for other words.
+    property real leastTextWidth: 0
 
-    implicitWidth: line.implicitWidth
+    implicitWidth: line.implicitWidth + Math.max(0, face.leastTextWidth - words.implicitWidth)
     implicitHeight: line.implicitHeight
 
     Row {
@@ -25,6 +27,8 @@ Item {
             visible: face.symbol.length > 0
         }
         PlainLabel {
+            id: words
+
             anchors.verticalCenter: parent.verticalCenter
             text: face.title
             font: face.font

@@ -18,6 +18,8 @@ AbstractButton {
     property bool destructive: false
     // Edged with a line at rest, for a button that stands alone on a card.
     property bool outlined: false
+    // Of a button whose title changes: it keeps its width, and what is beside it its place.
+    property real leastTextWidth: 0
     readonly property bool filled: (prominent || destructive) && enabled
     readonly property color wordColor: filled ? AppTheme.accentText : AppTheme.text
 
@@ -38,6 +40,7 @@ AbstractButton {
 
     contentItem: ButtonFace {
         title: control.title
+        leastTextWidth: control.leastTextWidth
         symbol: control.symbol
         color: control.wordColor
         font: control.filled ? AppTheme.bodyStrongFont : AppTheme.bodyFont

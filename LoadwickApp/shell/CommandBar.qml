@@ -35,6 +35,7 @@ Item {
         }
         PushButton {
             title: bar.content.scanTitle
+            leastTextWidth: Math.ceil(longestScanTitle.advanceWidth)
             symbol: "waveform.path.ecg"
             shortcut: "Ctrl+R"
             toolTip: bar.content.allowanceDisclosure
@@ -42,5 +43,13 @@ Item {
             enabled: bar.content.canScan
             onClicked: bar.content.scan()
         }
+    }
+
+    // A second press where "Choose" was is not to start a scan.
+    TextMetrics {
+        id: longestScanTitle
+
+        font: AppTheme.bodyStrongFont
+        text: bar.content.longestScanTitle
     }
 }

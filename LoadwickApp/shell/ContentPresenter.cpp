@@ -1,5 +1,6 @@
 #include "shell/ContentPresenter.h"
 
+#include <algorithm>
 #include <variant>
 
 #include "shell/QtText.h"
@@ -115,6 +116,13 @@ QString ContentPresenter::scanTitle() const
     if (m_model.state().get().isScanning())
         return tr("Scanning…");
     return hasRepository() ? tr("Scan Again") : tr("Scan");
+}
+
+QString ContentPresenter::longestScanTitle()
+{
+    return std::max(
+        {tr("Scanning…"), tr("Scan Again"), tr("Scan")},
+        [](const QString &one, const QString &other) { return one.size() < other.size(); });
 }
 
 QString ContentPresenter::allowanceDisclosure() const

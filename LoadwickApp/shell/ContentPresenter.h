@@ -30,6 +30,7 @@ class ContentPresenter final : public QObject
     Q_PROPERTY(bool canScan READ canScan NOTIFY commandsChanged)
     Q_PROPERTY(bool scanIsNextStep READ scanIsNextStep NOTIFY commandsChanged)
     Q_PROPERTY(QString scanTitle READ scanTitle NOTIFY commandsChanged)
+    Q_PROPERTY(QString longestScanTitle READ longestScanTitle CONSTANT)
     Q_PROPERTY(QString allowanceDisclosure READ allowanceDisclosure CONSTANT)
     Q_PROPERTY(QAbstractItemModel *pages READ pages CONSTANT)
     Q_PROPERTY(int pageIndex READ pageIndex WRITE setPageIndex NOTIFY pageIndexChanged)
@@ -60,6 +61,8 @@ public:
     /// A scan can be started, and the selection has no result yet that it would compete with.
     [[nodiscard]] bool scanIsNextStep() const;
     [[nodiscard]] QString scanTitle() const;
+    /// Of all that it can be.
+    [[nodiscard]] static QString longestScanTitle();
     [[nodiscard]] QString allowanceDisclosure() const;
 
     /// One row per page, "title", "symbol" and "shortcut", in the order of the sidebar.

@@ -38,6 +38,20 @@ Item {
             compare(presses.count, 1);
         }
 
+        function test_keepsItsWidthForTheLongestOfItsTitles() {
+            const before = neighbour.width;
+            neighbour.title = "Copy";
+            tryVerify(() => neighbour.width < before);
+            neighbour.leastTextWidth = 200;
+            tryVerify(() => neighbour.width > 200);
+            const wide = neighbour.width;
+            neighbour.title = "Copy Summary";
+            waitForRendering(scene);
+            compare(neighbour.width, wide);
+            neighbour.leastTextWidth = 0;
+            tryCompare(neighbour, "width", before);
+        }
+
         function test_isNotPressedWhileDisabled() {
             button.enabled = false;
             mouseClick(button);
