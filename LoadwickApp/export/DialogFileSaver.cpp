@@ -17,6 +17,15 @@ bool asksBeforeReplacing()
     return theme != nullptr && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
 }
 
+/// That of the kind of file which is chosen in the dialog, with its dot; empty for none.
+QString chosenEnding(const QObject &dialog)
+{
+    const auto *kind = dialog.property("selectedNameFilter").value<QObject *>();
+    const QStringList endings =
+        kind != nullptr ? kind->property("extensions").toStringList() : QStringList();
+    return endings.isEmpty() ? QString() : QLatin1Char('.') + endings.first();
+}
+
 } // namespace
 
 DialogFileSaver::DialogFileSaver(QUrl startFolder)
@@ -39,9 +48,15 @@ void DialogFileSaver::open(const Request &request, Chosen chosen)
 void DialogFileSaver::accept(const QUrl &file)
 {
     const Chosen chosen = std::exchange(m_chosen, {});
-    const auto path = folderPath(file);
-    if (chosen && path)
-        chosen({.file = *path, .mayReplace = asksBeforeReplacing()});
+    const QObject *const dialog = m_dialog.madeFor(*this);
+    auto path = folderPath(file);
+    if (!chosen || !path || dialog == nullptr)
+        return;
+    const bool isWhole = path->has_extension();
+    if (!isWhole)
+        *path += chosenEnding(*dialog).toStdString();
+    // Nobody was asked about a file of the longer name.
+    chosen({.file = *path, .mayReplace = isWhole && asksBeforeReplacing()});
 }
 
 void DialogFileSaver::reject()

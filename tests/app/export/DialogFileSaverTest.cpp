@@ -29,6 +29,7 @@ private Q_SLOTS:
     void enterSavesUnderTheNameThatWasTyped();
     void theButtonSavesUnderTheNameThatWasTyped();
     void aNameTypedInAnotherFolderIsSavedThere();
+    void aNameWithoutAnEndingTakesThatOfTheKindOfFile();
     void withoutANameThereIsNoAnswer();
     void enterAnswersOnceHoweverOftenItWasAsked();
     void escapeSavesNothing();
@@ -149,6 +150,7 @@ void DialogFileSaverTest::enterSavesUnderTheNameThatWasTyped_data()
     QTest::newRow("plain") << QByteArray("a.csv");
     QTest::newRow("hash") << QByteArray("what #1.csv");
     QTest::newRow("percent") << QByteArray("100%41.csv");
+    QTest::newRow("other ending") << QByteArray("a.txt");
 }
 
 void DialogFileSaverTest::enterSavesUnderTheNameThatWasTyped()
@@ -168,6 +170,16 @@ void DialogFileSaverTest::theButtonSavesUnderTheNameThatWasTyped()
     QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middleOf("text", "Save"));
     QVERIFY(m_place);
     QVERIFY(m_place->file == m_folder->path() / "what #1.csv");
+}
+
+void DialogFileSaverTest::aNameWithoutAnEndingTakesThatOfTheKindOfFile()
+{
+    open();
+    type("all");
+    press(Qt::Key_Return);
+    QTRY_VERIFY(m_place.has_value());
+    QCOMPARE(m_place->file, m_folder->path() / "all.csv");
+    QVERIFY(!m_place->mayReplace);
 }
 
 void DialogFileSaverTest::aNameTypedInAnotherFolderIsSavedThere()
