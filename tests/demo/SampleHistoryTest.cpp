@@ -1,8 +1,12 @@
 #include "demo/SampleHistory.h"
 
+#include <cctype>
 #include <set>
 
 #include <gtest/gtest.h>
+
+#include "demo/StandIn.h"
+#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 
@@ -28,6 +32,21 @@ TEST(SampleHistoryTest, splitsEachTotalWithoutARest)
             sum += category.tokens;
         EXPECT_EQ(sum, scan.total) << scan.repositoryName;
     }
+}
+
+// Else each repository that is scanned during the demonstration would have rows of its own.
+TEST(SampleHistoryTest, namesCategoriesAsTheStandInDoes)
+{
+    const TemporaryFolder home;
+    const StandIn standIn(home.path());
+    standIn.install();
+    const std::string answer = contentOf(standIn.executable());
+    for (const RecordedScan &scan : SampleHistory::scans("/projects", now))
+        for (const RecordedCategory &category : scan.categories)
+            if (std::islower(static_cast<unsigned char>(category.name.front())) != 0) {
+                EXPECT_NE(answer.find("SLAB " + category.name + " TOKENS"), std::string::npos)
+                    << category.name;
+            }
 }
 
 TEST(SampleHistoryTest, showsEveryBand)

@@ -38,12 +38,12 @@ struct Part
 };
 
 constexpr std::array<Part, 7> parts{{
-    {"System tools", 386},
-    {"MCP tools", 181},
+    {"system tools", 386},
+    {"mcp tools", 181},
     {"Repository instructions", 94},
-    {"System prompt", 76},
+    {"system prompt", 76},
     {"Personal instructions", 38},
-    {"Custom agents", 29},
+    {"custom agents", 29},
     {"Inherited project instructions", 11},
 }};
 
