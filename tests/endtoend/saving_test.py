@@ -36,8 +36,8 @@ class SavingTest(EndToEndCase):
         program.window.wait_for("File name")
         for key in ("ctrl+a", "a", "numbersign", "1", "Return"):
             program.window.key(key)
-        program.window.wait_for("Saved as a#1.")
-        self.assertTrue((self.home.path / "a#1").exists())
+        program.window.wait_for("Saved as a#1.csv.")
+        self.assertTrue((self.home.path / "a#1.csv").exists())
 
     def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:
         file = self.home.path / "loadwick-trend-webshop.png"
