@@ -1,10 +1,16 @@
 import QtQuick
 import Loadwick
 
-// Says that what is dragged over the window would be taken.
+// Says whether what is dragged over the window, or was dropped, is taken.
 Rectangle {
+    id: hint
+
+    required property string words
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: hint.words
     radius: AppTheme.cardRadius
-    color: Qt.alpha(AppTheme.window, 0.86)
+    color: Qt.alpha(AppTheme.window, 0.95)
     border { width: 2; color: AppTheme.accent }
 
     Column {
@@ -17,7 +23,9 @@ Rectangle {
             tint: AppTheme.accent
         }
         PlainLabel {
-            text: qsTr("Drop the folder to choose it")
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: hint.words
+            Accessible.ignored: true
             font: AppTheme.headlineFont
         }
     }

@@ -1,23 +1,37 @@
 import QtQuick
 import Loadwick
 
-// Where a folder can be dropped: the whole of what it is laid over. It shows that it would be taken.
+// Where a folder can be dropped: the whole of what it is laid over. It shows that it would be taken,
+// and for a moment why it was not.
 DropArea {
-    id: target
+    id: area
 
     required property FolderDrop folderDrop
     // Whether a sheet lies over the window; nothing behind it is to be reached.
     required property ModalGround ground
+    readonly property string words: area.containsDrag ? qsTr("Drop the folder to choose it")
+        : qsTr("Only a folder can be chosen. Drop the folder that the file is in.")
 
-    onEntered: drag => { drag.accepted = !target.ground.isCovered() && target.folderDrop.accepts(drag.urls); }
+    onEntered: drag => { drag.accepted = !area.ground.isCovered() && area.folderDrop.accepts(drag.urls); }
     onDropped: drop => {
-        drop.accepted = target.folderDrop.accepts(drop.urls);
-        target.folderDrop.take(drop.urls);
+        drop.accepted = area.folderDrop.accepts(drop.urls);
+        area.folderDrop.take(drop.urls);
     }
 
     Loader {
+        id: hint
+
         anchors { fill: parent; margins: AppTheme.smallSpace }
-        active: target.containsDrag
-        source: "DropHint.qml"
+        active: area.containsDrag || refusal.running
+        Component.onCompleted: hint.setSource("DropHint.qml", { words: Qt.binding(() => area.words) })
+    }
+    Timer {
+        id: refusal
+        interval: 2 * AppTheme.noteDuration
+    }
+    Connections {
+        target: area.folderDrop
+
+        function onRefused() { refusal.restart(); }
     }
 }

@@ -26,11 +26,11 @@ void FolderDrop::take(const QList<QUrl> &urls)
     const QPointer<FolderDrop> drop(this);
     try {
         m_dispatcher->runInBackground([drop, place = *place, dispatcher = m_dispatcher] {
-            if (!isFolder(place))
-                return;
-            dispatcher->postToInterface([drop, place] {
-                if (drop)
+            dispatcher->postToInterface([drop, place, isChoosable = isFolder(place)] {
+                if (drop && isChoosable)
                     drop->m_content.choose(place);
+                else if (drop)
+                    Q_EMIT drop->refused();
             });
         });
     } catch (const std::exception &) {

@@ -29,9 +29,13 @@ public:
     /// is a folder is not known yet, since asking its disk may take any time.
     Q_INVOKABLE bool accepts(const QList<QUrl> &urls) const;
 
-    /// Chooses what was dropped once it turns out to be a folder; does nothing if it is none, or if
-    /// a scan was started meanwhile.
+    /// Chooses what was dropped once it turns out to be a folder, unless a scan was started
+    /// meanwhile.
     Q_INVOKABLE void take(const QList<QUrl> &urls);
+
+Q_SIGNALS:
+    /// What was dropped is no folder.
+    void refused();
 
 private:
     [[nodiscard]] std::optional<std::filesystem::path> onlyPlace(const QList<QUrl> &urls) const;

@@ -95,10 +95,13 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     const TextLocale locale = collaborators.locale;
     const std::filesystem::path home = collaborators.home;
     const MakeNoticeBoard notices = collaborators.notices;
+    const QString title = collaborators.title;
     makeModel(std::move(collaborators));
     makePresenters(locale, home);
     makeCommands(dispatcher);
     makeWindow();
+    if (!title.isEmpty())
+        m_window->setTitle(title);
     attachDialogs();
     if (notices)
         putNoticesOn(notices(dispatcher));

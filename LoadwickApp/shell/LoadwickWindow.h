@@ -57,6 +57,7 @@ public:
         MakeNoticeBoard notices = {};    ///< none: the program says nothing outside its window
         /// A second program over the same folder shows this one's window; empty: it opens its own.
         std::filesystem::path dataFolder = {};
+        QString title = {}; ///< of the window; empty: the program's name
 
         /// Those of the running program: the user's own home, environment and disk.
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);

@@ -113,6 +113,22 @@ private Q_SLOTS:
         QVERIFY(!says());
     }
 
+    void theWindowSaysWhyAFileIsNotTaken()
+    {
+        const auto says = [this] {
+            return m_window->shows(QStringLiteral("Only a folder can be chosen. Drop the folder "
+                                                  "that the file is in."));
+        };
+        QVERIFY(drop({urlOf(m_window->folder().write("CLAUDE.md", "Be brief.\n"))}));
+        m_window->finishScan();
+        QTRY_VERIFY(says());
+        QVERIFY(drag({urlOf(m_window->folder().path())}));
+        QVERIFY(!says());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&m_window->loadwick().window(), &leave);
+        QTRY_VERIFY_WITH_TIMEOUT(!says(), 8'000);
+    }
+
     void theWindowMayGoBeforeTheFolderIsLookedAt()
     {
         QVERIFY(drop({urlOf(m_window->folder().path())}));
