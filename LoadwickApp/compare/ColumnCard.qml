@@ -19,7 +19,7 @@ ReportSurface {
     }
     readonly property color fill: AppTheme.chartColors[card.place % AppTheme.chartColors.length]
 
-    onPlaceChanged: bars.currentIndex = -1
+    onPlaceChanged: bars.begin()
     Accessible.role: Accessible.Grouping
     Accessible.name: card.column.name
     Accessible.description: card.column.place

@@ -36,7 +36,8 @@ Item {
     readonly property int keptCount: grid.isLarge ? Math.min(grid.count, grid.mostLines * grid.mostAcross) : grid.count
     // Of high cards a screen shows fewer.
     readonly property int neededLines: grid.cardHeight > 0 ? Math.ceil(grid.screenHeight / grid.lineStep) + 2 : 1
-    readonly property int keptLines: grid.isLarge ? Math.min(grid.lineCount, grid.neededLines, Math.floor(grid.keptCount / grid.acrossCount)) : grid.lineCount
+    readonly property int mostKeptLines: grid.keptCount === grid.count ? grid.lineCount : Math.floor(grid.keptCount / grid.acrossCount)
+    readonly property int keptLines: grid.isLarge ? Math.min(grid.neededLines, grid.mostKeptLines) : grid.lineCount
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
     readonly property int cardCount: Math.min(grid.count, grid.keptLines * grid.acrossCount)
     // Before the first frame nothing has its place or its height. After it the cards of a large grid

@@ -3,7 +3,7 @@ import Loadwick
 
 // Rows of one height inside a scrolling page, as many as there are: only those exist that the page
 // shows, except in a short list, which a screen reader is to find whole. The delegate is `rowHeight`
-// high and names itself for assistive technology.
+// high, names itself for assistive technology, and hides itself while it waits to be used again.
 FocusScope {
     id: list
 
@@ -30,6 +30,12 @@ FocusScope {
         for (let item = list as Item; item && item !== list.viewport.contentItem; item = item.parent)
             top += item.y;
         return top;
+    }
+
+    // Before its rows are those of something else: nobody is to be left on one of them.
+    function begin() {
+        rows.takeFocusBack();
+        list.currentIndex = -1;
     }
 
     // The row at a height in the list, null where there is none or it is out of sight.

@@ -41,10 +41,15 @@ ListView {
     }
 
     // From a row that leaves: it comes again as another one.
-    function takeFocusBack() {
+    function takeFocusFromLeaving() {
         const row = rows.activeFocus ? rows.focusedRow() : null;
         const place = row ? Math.round(row.y / rows.rowHeight) : -1;
         if (row && (place < rows.firstRow || place >= rows.firstRow + rows.shownRows))
+            rows.takeFocusBack();
+    }
+
+    function takeFocusBack() {
+        if (rows.activeFocus && rows.focusedRow())
             rows.Window.activeFocusItem.focus = false;
     }
 
@@ -60,9 +65,10 @@ ListView {
     onSeenRowsChanged: rows.mostSeenRows = Math.max(rows.mostSeenRows, rows.seenRows)
     onRowHeightChanged: rows.placeRows()
     onFirstRowChanged: {
-        rows.takeFocusBack();
+        rows.takeFocusFromLeaving();
         rows.placeRows();
     }
+    onShownRowsChanged: rows.takeFocusFromLeaving()
     // A view with another model starts at its top again.
     onContentYChanged: rows.placeRows()
 }

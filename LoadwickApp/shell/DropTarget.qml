@@ -10,10 +10,11 @@ DropArea {
     // Whether a sheet lies over the window; nothing behind it is to be reached.
     required property ModalGround ground
     readonly property string words: area.containsDrag ? qsTr("Drop the folder to choose it")
-        : qsTr("Only a folder can be chosen. Drop the folder that the file is in.")
+        : qsTr("Only a folder can be chosen.")
 
     onEntered: drag => { drag.accepted = !area.ground.isCovered() && area.folderDrop.accepts(drag.urls); }
     onDropped: drop => {
+        refusal.stop();
         drop.accepted = area.folderDrop.accepts(drop.urls);
         area.folderDrop.take(drop.urls);
     }

@@ -35,6 +35,9 @@ private Q_SLOTS:
     void ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade();
     void scrollingMakesNoCards();
     void everyPlaceShowsItsOwnRepository();
+    void fewHighCardsAreAllThere_data();
+    void fewHighCardsAreAllThere();
+    void aCardThatMovesOnGivesTheFocusBack();
     void cardsMoveOnOneInAFrame();
     void theLastLineOfTwoHundredRepositoriesCanBeScrolledTo();
 
@@ -128,6 +131,39 @@ void CompareScrollingTest::everyPlaceShowsItsOwnRepository()
         QCOMPARE(placesOf(m_page->cards()).size(),
                  static_cast<std::size_t>(m_page->cards().size()));
     }
+}
+
+void CompareScrollingTest::fewHighCardsAreAllThere_data()
+{
+    QTest::addColumn<int>("repositories");
+    QTest::addColumn<int>("categories");
+    QTest::newRow("last line not full") << 3 << 41;
+    QTest::newRow("three lines") << 5 << 25;
+    QTest::newRow("two") << 2 << 80;
+}
+
+void CompareScrollingTest::fewHighCardsAreAllThere()
+{
+    QFETCH(const int, repositories);
+    QFETCH(const int, categories);
+    m_page->record(SampleHistories::ofSize(repositories, repositories, categories));
+    QVERIFY(m_page->compare().isLarge());
+    QTRY_COMPARE(m_page->cards().size(), repositories);
+    QCOMPARE(placesOf(m_page->cards()).size(), static_cast<std::size_t>(repositories));
+}
+
+// The rows stay, and say something else.
+void CompareScrollingTest::aCardThatMovesOnGivesTheFocusBack()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 2));
+    QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
+    QQuickItem *card = m_page->cards().constFirst();
+    ComparePage::barsBelow(card).constFirst()->forceActiveFocus();
+    QTest::qWait(100); // the page follows the focus
+    const int before = card->property("place").toInt();
+    m_page->viewport()->setProperty("contentY", 20'000.0);
+    QTRY_VERIFY(card->property("place").toInt() != before);
+    QVERIFY(qobject_cast<BarRow *>(m_page->view().activeFocusItem()) == nullptr);
 }
 
 void CompareScrollingTest::cardsMoveOnOneInAFrame()

@@ -116,17 +116,25 @@ private Q_SLOTS:
     void theWindowSaysWhyAFileIsNotTaken()
     {
         const auto says = [this] {
-            return m_window->shows(QStringLiteral("Only a folder can be chosen. Drop the folder "
-                                                  "that the file is in."));
+            return m_window->shows(QStringLiteral("Only a folder can be chosen."));
         };
         QVERIFY(drop({urlOf(m_window->folder().write("CLAUDE.md", "Be brief.\n"))}));
         m_window->finishScan();
         QTRY_VERIFY(says());
-        QVERIFY(drag({urlOf(m_window->folder().path())}));
+        QVERIFY(drop({urlOf(m_window->folder().path())}));
         QVERIFY(!says());
-        QDragLeaveEvent leave;
-        QCoreApplication::sendEvent(&m_window->loadwick().window(), &leave);
-        QTRY_VERIFY_WITH_TIMEOUT(!says(), 8'000);
+        m_window->finishScan();
+        QVERIFY(isChosen(m_window->folder().path()));
+        QVERIFY(!says());
+    }
+
+    void theWordOnAFileGoesByItself()
+    {
+        const QString word = QStringLiteral("Only a folder can be chosen.");
+        QVERIFY(drop({urlOf(m_window->folder().path() / "gone")}));
+        m_window->finishScan();
+        QTRY_VERIFY(m_window->shows(word));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_window->shows(word), 8'000);
     }
 
     void theWindowMayGoBeforeTheFolderIsLookedAt()
