@@ -4,6 +4,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -21,7 +22,11 @@ class ThreadDispatcher : public TaskDispatcher
 public:
     ~ThreadDispatcher() override { joinAll(); }
 
-    void runInBackground(Task task) override { m_threads.emplace_back(std::move(task)); }
+    void runInBackground(Task task) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_threads.emplace_back(std::move(task));
+    }
 
     void postToInterface(Task task) override
     {
@@ -40,14 +45,21 @@ public:
         task();
     }
 
+    // A task may start another one, and the last to let go of the dispatcher may be one of its own.
     void joinAll()
     {
-        for (std::thread &thread : m_threads)
-            thread.join();
-        m_threads.clear();
+        for (std::vector<std::thread> threads = taken(); !threads.empty(); threads = taken())
+            for (std::thread &thread : threads)
+                thread.get_id() == std::this_thread::get_id() ? thread.detach() : thread.join();
     }
 
 private:
+    std::vector<std::thread> taken()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(m_threads, {});
+    }
+
     std::mutex m_mutex;
     std::condition_variable m_arrived;
     std::deque<Task> m_posted;
