@@ -129,6 +129,18 @@ TEST_F(StandInTest, playsEveryFailureOfASession)
     }
 }
 
+TEST_F(StandInTest, measuresNoFolderButThoseItIsToldOf)
+{
+    const TemporaryFolder elsewhere;
+    standIn.play({.outcome = "transcript", .onlyBelow = home.path()});
+    EXPECT_EQ(run().authoritativeTotal, 42'318);
+
+    repository = elsewhere.path();
+    const std::optional<ProbeError> error = failure(settings());
+    ASSERT_TRUE(error.has_value());
+    EXPECT_NE(error->detail().find("This is the demonstration"), std::string::npos);
+}
+
 TEST_F(StandInTest, hangsUntilTheTimeOut)
 {
     for (const char *outcome : {"hang", "stubborn"}) {

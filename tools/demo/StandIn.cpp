@@ -28,6 +28,8 @@ void StandIn::play(const Scenario &scenario) const
     std::string text = "outcome=" + scenario.outcome + "\nseconds=" + scenario.seconds + "\n";
     if (!scenario.message.empty())
         text += "message=" + scenario.message + "\n";
+    if (!scenario.onlyBelow.empty())
+        text += "only_below=" + scenario.onlyBelow.string() + "\n";
     writeSampleFile(share() / "scenario", text);
 }
 

@@ -17,6 +17,8 @@ public:
         std::string outcome = "transcript";
         std::string seconds = "0";
         std::string message = {}; ///< empty: the stand-in's own words
+        /// Sessions anywhere else fail, and say why; empty: none does.
+        std::filesystem::path onlyBelow = {};
     };
 
     /// Touches nothing yet.

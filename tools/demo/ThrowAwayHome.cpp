@@ -32,7 +32,7 @@ ThrowAwayHome::ThrowAwayHome()
     : m_path(newFolder()), m_repository(SampleRepository::writeInto(m_path)), m_standIn(m_path)
 {
     m_standIn.install();
-    m_standIn.play({.outcome = "transcript", .seconds = "3", .message = {}});
+    m_standIn.play({.outcome = "transcript", .seconds = "3", .onlyBelow = m_path});
     const auto scans = SampleHistory::scans(m_path / "Projects", wholeSecondsNow());
     SampleHistory::writeInto(historyFolder(), scans);
     for (const RecordedScan &scan : scans)

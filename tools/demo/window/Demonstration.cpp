@@ -59,7 +59,7 @@ void performScans(LoadwickWindow &loadwick, const ThrowAwayHome &home,
     waitFor<ScanState::Result>(loadwick, "the scan's result");
     pictures.take("result");
 
-    home.standIn().play({.outcome = "signed-out", .seconds = "0", .message = {}});
+    home.standIn().play({.outcome = "signed-out"});
     press(loadwick, "Scan Again");
     waitFor<ScanState::Failed>(loadwick, "the scan's failure");
     pictures.take("failure");
