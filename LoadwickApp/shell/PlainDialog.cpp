@@ -4,15 +4,19 @@
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 #include <QtQuick/private/qquicktextinput_p.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
-#include <QtQuickTemplates2/private/qquickdialogbuttonbox_p.h>
 #include <QtQuickTemplates2/private/qquickoverlay_p.h>
 #include <QtQuickTemplates2/private/qquickoverlay_p_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
 #include "shell/FolderUrl.h"
+#include "shell/PlainDialogParts.h"
+#include "shell/PlainFolderDialog.h"
 
 namespace Loadwick::PlainDialog {
 namespace {
+
+using PlainDialogParts::acceptingButton;
+using PlainDialogParts::partOf;
 
 bool isPlainDialog(const QQuickPopup &popup)
 {
@@ -20,20 +24,9 @@ bool isPlainDialog(const QQuickPopup &popup)
            (popup.inherits("QQuickFileDialogImpl") || popup.inherits("QQuickFolderDialogImpl"));
 }
 
-QObject *partOf(const QQuickPopup &dialog, const char *type)
-{
-    const QList<QObject *> parts = dialog.findChildren<QObject *>();
-    for (QObject *part : parts)
-        if (part->inherits(type))
-            return part;
-    return nullptr;
-}
-
 void name(QObject *item, const QString &words)
 {
-    QObject *attached =
-        item != nullptr ? qmlAttachedPropertiesObject<QQuickAccessibleAttached>(item) : nullptr;
-    if (auto *accessible = qobject_cast<QQuickAccessibleAttached *>(attached))
+    if (auto *accessible = PlainDialogParts::accessible(item))
         accessible->setName(words);
 }
 
@@ -41,16 +34,8 @@ void nameParts(const QQuickPopup &dialog, QQuickItem *fileName)
 {
     name(fileName, QCoreApplication::translate("PlainDialog", "File name"));
     name(partOf(dialog, "QQuickComboBox"), QCoreApplication::translate("PlainDialog", "Filter"));
-    if (const QObject *bar = partOf(dialog, "QQuickFolderBreadcrumbBar"))
-        name(bar->property("upButton").value<QQuickItem *>(),
-             QCoreApplication::translate("PlainDialog", "Folder above"));
-}
-
-QQuickAbstractButton *acceptingButton(const QQuickPopup &dialog)
-{
-    const auto *box =
-        qobject_cast<QQuickDialogButtonBox *>(partOf(dialog, "QQuickDialogButtonBox"));
-    return box != nullptr ? box->standardButton(QPlatformDialogHelper::Open) : nullptr;
+    name(PlainDialogParts::partOfPathBar(dialog, "upButton"),
+         QCoreApplication::translate("PlainDialog", "Folder above"));
 }
 
 // Qt leaves Enter in the name without an answer.
@@ -92,6 +77,8 @@ void makeReachable(QQuickWindow &window)
             acceptByEnter(*popup, *name);
             takeTypedName(*popup, *name);
         }
+        if (popup->inherits("QQuickFolderDialogImpl"))
+            PlainFolderDialog::takeOver(*popup);
         popup->forceActiveFocus(Qt::PopupFocusReason);
         if (fileName != nullptr && fileName->isVisible())
             fileName->forceActiveFocus(Qt::PopupFocusReason);

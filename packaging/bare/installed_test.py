@@ -29,6 +29,7 @@ class InstalledTest(EndToEndCase):
         self.home.make_repository("webshop")
         program = self.open()
         program.window.press(CHOOSE)
+        program.window.press("webshop")
         program.window.press("Choose")
         program.window.wait_for("webshop")
         program.window.press(SCAN)

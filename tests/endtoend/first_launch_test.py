@@ -57,6 +57,7 @@ class FirstLaunchTest(EndToEndCase):
             window.wait_for(words)
         window.press("Got it")
         window.press(CHOOSE)
+        window.press("webshop")
         window.press("Choose")
         window.wait_for("webshop")
         window.press(SCAN)
