@@ -8,6 +8,7 @@
 #include <QtQuickTemplates2/private/qquickoverlay_p_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
+#include "shell/EnterPress.h"
 #include "shell/FolderUrl.h"
 #include "shell/PlainDialogParts.h"
 #include "shell/PlainFolderDialog.h"
@@ -73,6 +74,7 @@ void makeReachable(QQuickWindow &window)
             continue;
         auto *fileName = popup->findChild<QQuickItem *>(QStringLiteral("fileNameTextField"));
         nameParts(*popup, fileName);
+        EnterPress::takeOver(*popup);
         if (const auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
             acceptByEnter(*popup, *name);
             takeTypedName(*popup, *name);

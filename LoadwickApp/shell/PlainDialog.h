@@ -6,9 +6,9 @@
 namespace Loadwick::PlainDialog {
 
 /// Gives the one that is open the keyboard, which Qt does only where its list has a line, and then
-/// moves it there; names what has only a picture or stands beside its words; lets Enter in the name
-/// of a file do what the button does, and takes a name as it is typed; has the folder dialog choose
-/// what it shows. Does nothing when none is open.
+/// moves it there; names what has only a picture or stands beside its words; lets Enter press the
+/// button that has the keyboard and, in the name of a file, the one that saves; takes a name as it
+/// is typed; has the folder dialog choose what it shows. Does nothing when none is open.
 void makeReachable(QQuickWindow &window);
 
 } // namespace Loadwick::PlainDialog
