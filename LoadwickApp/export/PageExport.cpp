@@ -28,7 +28,7 @@ std::error_code writeFile(const FileSaver::Place &place, const QByteArray &bytes
 
 bool isDrawing(const std::filesystem::path &file)
 {
-    return file.extension() == ".svg" || file.extension() == ".SVG";
+    return qtText(pathText(file)).endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
 }
 
 } // namespace

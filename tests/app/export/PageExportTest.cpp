@@ -77,10 +77,18 @@ private Q_SLOTS:
         QVERIFY(colorCount(image) > 20);
     }
 
+    void anEndingOfADrawingGivesADrawing_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *name : {"trend.svg", "v1.2.Svg"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
     void anEndingOfADrawingGivesADrawing()
     {
+        QFETCH(const QByteArray, name);
         m_window->loadwick().content().setPageIndex(1);
-        const QByteArray drawing = content(save("Save Chart…", "trend.svg"));
+        const QByteArray drawing = content(save("Save Chart…", name.toStdString()));
         QVERIFY(drawing.startsWith("<?xml"));
         QVERIFY(drawing.contains("<svg"));
         QVERIFY(drawing.contains("Excessive"));
