@@ -70,7 +70,8 @@ void DialogFileSaver::accept(const QUrl &file)
     auto path = folderPath(file);
     if (!chosen || !path || dialog == nullptr)
         return;
-    const QString missing = hasEnding(*path, *dialog) ? QString() : chosenEnding(*dialog);
+    const bool isWhole = !path->has_filename() || hasEnding(*path, *dialog); // or names a folder
+    const QString missing = isWhole ? QString() : chosenEnding(*dialog);
     *path += missing.toStdString();
     // Nobody was asked about a file of the longer name.
     chosen({.file = *path, .mayReplace = missing.isEmpty() && asksBeforeReplacing()});

@@ -86,9 +86,10 @@ void PageExport::write(const FileSaver::Place &place, const ChartFile::Bytes &by
 void PageExport::tell(const FileSaver::Place &place, const std::error_code &failure)
 {
     m_failed = static_cast<bool>(failure);
-    m_outcome = m_failed ? tr("%1 could not be written: %2")
-                               .arg(qtText(pathText(place.file)), SavingFailure::reason(failure))
-                         : tr("Saved as %1.").arg(qtText(pathText(place.file.filename())));
+    const QString file = qtText(pathText(place.file));
+    m_outcome = m_failed
+                    ? tr("%1 could not be written: %2").arg(file, SavingFailure::reason(failure))
+                    : tr("Saved as %1.").arg(file);
     Q_EMIT changed();
 }
 

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include <QByteArray>
+#include <QDir>
 #include <QString>
 #include <QUrl>
 
@@ -31,6 +32,16 @@ std::optional<std::filesystem::path> folderPath(const QUrl &url)
 QUrl fileUrl(const QUrl &folder, const QString &name)
 {
     return QUrl::fromEncoded(folder.toEncoded() + '/' + QUrl::toPercentEncoding(name));
+}
+
+QUrl typedFileUrl(const QUrl &folder, const QString &text)
+{
+    const bool isBelowHome = text.startsWith(QLatin1String("~/"));
+    const QString path = isBelowHome ? QDir::homePath() + text.mid(1) : text;
+    const QByteArray encoded = QUrl::toPercentEncoding(path, "/");
+    return QUrl::fromEncoded(path.startsWith(QLatin1Char('/'))
+                                 ? "file://" + encoded
+                                 : folder.toEncoded() + '/' + encoded);
 }
 
 bool isFolder(const std::filesystem::path &path)

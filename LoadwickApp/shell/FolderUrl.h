@@ -15,6 +15,10 @@ namespace Loadwick {
 /// A file of that name in a folder, whatever letters the name has.
 [[nodiscard]] QUrl fileUrl(const QUrl &folder, const QString &name);
 
+/// The file that somebody means who types that while a folder is shown: a path from the root, one
+/// from the home folder ("~/…"), or a name in the folder, which may have folders below it in front.
+[[nodiscard]] QUrl typedFileUrl(const QUrl &folder, const QString &text);
+
 /// Whether a folder is there now. Asks its disk, which may take any time.
 [[nodiscard]] bool isFolder(const std::filesystem::path &path);
 

@@ -39,28 +39,44 @@ void nameParts(const QQuickPopup &dialog, QQuickItem *fileName)
          QCoreApplication::translate("PlainDialog", "Folder above"));
 }
 
-// Qt leaves Enter in the name without an answer.
+// Qt itself takes what is typed for an address: of no scheme, only as far as a "#", and below the
+// folder even where it is a whole path.
+void forgetAnswers(const QQuickTextInput &name)
+{
+    // Also ours of an earlier opening.
+    QObject::disconnect(&name, &QQuickTextInput::textEdited, nullptr, nullptr);
+    QObject::disconnect(&name, &QQuickTextInput::editingFinished, nullptr, nullptr);
+    QObject::disconnect(&name, &QQuickTextInput::accepted, nullptr, nullptr);
+}
+
 void acceptByEnter(const QQuickPopup &dialog, const QQuickTextInput &name)
 {
     QQuickAbstractButton *button = acceptingButton(dialog);
     if (button == nullptr)
         return;
-    // One dialog is opened many times.
-    QObject::disconnect(&name, &QQuickTextInput::accepted, button, nullptr);
     QObject::connect(&name, &QQuickTextInput::accepted, button, [button] {
         if (button->isEnabled())
             Q_EMIT button->clicked();
     });
 }
 
-// Qt itself takes what is typed for an address: of no scheme, and only as far as a "#".
-void takeTypedName(QQuickPopup &dialog, const QQuickTextInput &name)
+// The field shows the last part of the file that is selected, and a path that is typed is more.
+void keepText(QQuickTextInput &field, const QString &text, int cursor)
 {
-    QObject::disconnect(&name, &QQuickTextInput::textEdited, nullptr, nullptr);
+    if (field.text() == text)
+        return;
+    field.setText(text);
+    field.setCursorPosition(cursor);
+}
+
+void takeTypedName(QQuickPopup &dialog, QQuickTextInput &name)
+{
     QObject::connect(&name, &QQuickTextInput::textEdited, &dialog, [&dialog, &name] {
+        const QString text = name.text();
+        const int cursor = name.cursorPosition();
         const QUrl folder = dialog.property("currentFolder").toUrl();
-        dialog.setProperty("selectedFile",
-                           name.text().isEmpty() ? QUrl() : fileUrl(folder, name.text()));
+        dialog.setProperty("selectedFile", text.isEmpty() ? QUrl() : typedFileUrl(folder, text));
+        keepText(name, text, cursor);
     });
 }
 
@@ -75,7 +91,8 @@ void makeReachable(QQuickWindow &window)
         auto *fileName = popup->findChild<QQuickItem *>(QStringLiteral("fileNameTextField"));
         nameParts(*popup, fileName);
         EnterPress::takeOver(*popup);
-        if (const auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
+        if (auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
+            forgetAnswers(*name);
             acceptByEnter(*popup, *name);
             takeTypedName(*popup, *name);
         }

@@ -25,8 +25,9 @@ class SavingTest(EndToEndCase):
         program = self.trends()
         program.window.press("Save Data…")
         program.window.press("Save")
-        program.window.wait_for("Saved as loadwick-trend-webshop.csv.")
-        table = (self.home.path / "loadwick-trend-webshop.csv").read_bytes().split(b"\r\n")
+        file = self.home.path / "loadwick-trend-webshop.csv"
+        program.window.wait_for(f"Saved as {file}.")
+        table = file.read_bytes().split(b"\r\n")
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
 
@@ -36,8 +37,9 @@ class SavingTest(EndToEndCase):
         program.window.wait_for("File name")
         for key in ("ctrl+a", "a", "numbersign", "1", "Return"):
             program.window.key(key)
-        program.window.wait_for("Saved as a#1.csv.")
-        self.assertTrue((self.home.path / "a#1.csv").exists())
+        file = self.home.path / "a#1.csv"
+        program.window.wait_for(f"Saved as {file}.")
+        self.assertTrue(file.exists())
 
     def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:
         file = self.home.path / "loadwick-trend-webshop.png"

@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(lines[0], QByteArray("Repository,Path,Date (UTC),Total tokens,Band\r"));
         QVERIFY(lines[1].startsWith("two,"));
         QVERIFY(lines[1].endsWith(",27654,Lean\r"));
-        QVERIFY(m_window->shows(QStringLiteral("Saved as trend.csv.")));
+        QVERIFY(m_window->shows(savedAs(file)));
     }
 
     void theComparisonIsSavedWithItsCategories()
@@ -129,13 +129,21 @@ private Q_SLOTS:
         m_mayReplace = true;
         save("Save Data…", "trend.csv");
         QVERIFY(content(file).startsWith("Repository,"));
-        QVERIFY(m_window->shows(QStringLiteral("Saved as trend.csv.")));
+        QVERIFY(m_window->shows(savedAs(file)));
+    }
+
+    void aFailedWriteSaysWhy_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *name : {"no such folder/trend.png", "no such folder/"})
+            QTest::newRow(name) << QByteArray(name);
     }
 
     void aFailedWriteSaysWhy()
     {
+        QFETCH(const QByteArray, name);
         m_window->loadwick().content().setPageIndex(1);
-        const auto file = save("Save Chart…", "no such folder/trend.png");
+        const auto file = save("Save Chart…", name.toStdString());
         QVERIFY(!std::filesystem::exists(file));
         QVERIFY(m_window->shows(QString::fromStdString(file.string()) +
                                 QStringLiteral(" could not be written: its folder is not there.")));
@@ -147,7 +155,7 @@ private Q_SLOTS:
         press("Save Data…");
         m_window->finishScan();
         QVERIFY(m_window->saver().asked.has_value());
-        QVERIFY(!m_window->shows(QStringLiteral("Saved as loadwick-trend-two.csv.")));
+        QVERIFY(!m_window->shows(savedAs(m_window->folder().path() / "loadwick-trend-two.csv")));
     }
 
     void theWindowMayGoBeforeTheFileIsWritten()
@@ -162,6 +170,11 @@ private Q_SLOTS:
     }
 
 private:
+    static QString savedAs(const std::filesystem::path &file)
+    {
+        return QStringLiteral("Saved as %1.").arg(QString::fromStdString(file.string()));
+    }
+
     void scan(const std::string &name)
     {
         std::filesystem::create_directory(m_window->folder().path() / name);

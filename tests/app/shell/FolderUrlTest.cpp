@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include <QDir>
 #include <QTest>
 #include <QUrl>
 
@@ -58,6 +59,33 @@ private Q_SLOTS:
     {
         QFETCH(const QUrl, url);
         QVERIFY(!folderPath(url));
+    }
+
+    void whatIsTypedIsAPathOrANameInTheFolder_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("path");
+        const QString home = QDir::homePath();
+        const auto row = [](const char *name, const char *text, const QString &path) {
+            QTest::newRow(name) << QString::fromUtf8(text) << path;
+        };
+        row("name", "c.png", QStringLiteral("/srv/a#b/c.png"));
+        row("hash and percent", "what?#1 100%41", QStringLiteral("/srv/a#b/what?#1 100%41"));
+        row("folder below", "sub/c.png", QStringLiteral("/srv/a#b/sub/c.png"));
+        row("from the root", "/tmp/x#1/c.png", QStringLiteral("/tmp/x#1/c.png"));
+        row("from the home", "~/c%41.png", home + QStringLiteral("/c%41.png"));
+        row("tilde in a name", "~c.png", QStringLiteral("/srv/a#b/~c.png"));
+        row("a folder", "/tmp/x/", QStringLiteral("/tmp/x/"));
+        row("folder above", "../c.png", QStringLiteral("/srv/a#b/../c.png"));
+    }
+
+    void whatIsTypedIsAPathOrANameInTheFolder()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, path);
+        const auto file = folderPath(typedFileUrl(QUrl::fromEncoded("file:///srv/a%23b"), text));
+        QVERIFY(file);
+        QCOMPARE(QString::fromStdString(file->string()), path);
     }
 
     void aFileInAFolderKeepsEveryByteAndLetter_data()
