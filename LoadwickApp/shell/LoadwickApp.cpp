@@ -7,6 +7,7 @@
 #include "desktop/SingleInstance.h"
 #include "desktop/WindowActivation.h"
 #include "shell/ApplicationSetup.h"
+#include "shell/FirstSize.h"
 #include "shell/ProgramEnd.h"
 #include "shell/ProgramSignals.h"
 
@@ -27,6 +28,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
                      [&window = loadwick.window()](const QByteArray &token) {
                          WindowActivation::bringToFront(window, token);
                      });
+    FirstSize::putOn(loadwick.window());
     loadwick.window().show();
     loadwick.window().requestActivate();
     const int status = QGuiApplication::exec();
