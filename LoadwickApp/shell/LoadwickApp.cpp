@@ -1,5 +1,6 @@
 #include "shell/LoadwickApp.h"
 
+#include <optional>
 #include <utility>
 
 #include <QGuiApplication>
@@ -7,6 +8,7 @@
 #include "desktop/SingleInstance.h"
 #include "desktop/WindowActivation.h"
 #include "shell/ApplicationSetup.h"
+#include "shell/DisplayFailure.h"
 #include "shell/FirstSize.h"
 #include "shell/ProgramEnd.h"
 #include "shell/ProgramSignals.h"
@@ -17,7 +19,9 @@ namespace {
 int runWindow(int argc, char **argv, const MakeCollaborators &make,
               const std::shared_ptr<Shutdown> &shutdown)
 {
+    std::optional<DisplayFailure> displayFailure(std::in_place);
     QGuiApplication application(argc, argv);
+    displayFailure.reset();
     ApplicationSetup::apply(application);
     LoadwickWindow::Collaborators collaborators = make(shutdown);
     const SingleInstance instance(collaborators.dataFolder);
