@@ -1,5 +1,6 @@
 #include "shell/LoadwickApp.h"
 
+#include <cstdio>
 #include <optional>
 #include <utility>
 
@@ -25,8 +26,11 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
     ApplicationSetup::apply(application);
     LoadwickWindow::Collaborators collaborators = make(shutdown);
     const SingleInstance instance(collaborators.dataFolder);
-    if (instance.isAnswered())
+    if (instance.isAnswered()) {
+        std::puts("Loadwick is open already: its window was asked to come to the front.");
+        std::fflush(stdout); // the program's end does without
         return 0;
+    }
     LoadwickWindow loadwick(std::move(collaborators));
     QObject::connect(&instance, &SingleInstance::windowWanted, &loadwick.window(),
                      [&window = loadwick.window()](const QByteArray &token) {

@@ -14,13 +14,15 @@ from waiting import LIMIT_SECONDS
 class SecondStartTest(EndToEndCase):
     """Two programs and one home, or two."""
 
-    def start_again(self) -> subprocess.CompletedProcess[bytes]:
+    def start_again(self) -> subprocess.CompletedProcess[str]:
         """Starts the program once more on the same home and waits for its end."""
         return subprocess.run(
             [str(programs() / "loadwick-endtoend")],
             env=environment_for(self.home.path),
             timeout=LIMIT_SECONDS,
             check=False,
+            stdout=subprocess.PIPE,
+            text=True,
         )
 
     def test_the_first_window_comes_back(self) -> None:
@@ -28,7 +30,9 @@ class SecondStartTest(EndToEndCase):
         minimize = ["xdotool", "getactivewindow", "windowminimize"]
         program.window.key("ctrl+1")  # once the window is active
         subprocess.run(minimize, check=True, timeout=LIMIT_SECONDS)
-        self.assertEqual(self.start_again().returncode, 0)
+        second = self.start_again()
+        self.assertEqual(second.returncode, 0)
+        self.assertIn("Loadwick is open already", second.stdout)
         program.window.key("ctrl+2")
         program.window.wait_for("Recorded data")
         self.assertIsNone(program.process.poll())
