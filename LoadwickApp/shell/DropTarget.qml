@@ -9,10 +9,21 @@ DropArea {
     required property FolderDrop folderDrop
     // Whether a sheet lies over the window; nothing behind it is to be reached.
     required property ModalGround ground
-    readonly property string words: area.containsDrag ? qsTr("Drop the folder to choose it")
-        : qsTr("Only a folder can be chosen.")
+    property string objection: ""
+    readonly property string words: area.containsDrag ? qsTr("Drop a folder here to choose it") : area.objection
 
-    onEntered: drag => { drag.accepted = !area.ground.isCovered() && area.folderDrop.accepts(drag.urls); }
+    function refuse(words) {
+        area.objection = words;
+        refusal.restart();
+    }
+
+    onEntered: drag => {
+        const isCovered = area.ground.isCovered();
+        const words = isCovered ? "" : area.folderDrop.objection(drag.urls);
+        drag.accepted = !isCovered && area.folderDrop.accepts(drag.urls);
+        if (words.length > 0)
+            area.refuse(words);
+    }
     onDropped: drop => {
         refusal.stop();
         drop.accepted = area.folderDrop.accepts(drop.urls);
@@ -33,6 +44,6 @@ DropArea {
     Connections {
         target: area.folderDrop
 
-        function onRefused() { refusal.restart(); }
+        function onRefused() { area.refuse(qsTr("Only a folder can be chosen.")); }
     }
 }

@@ -18,6 +18,16 @@ bool FolderDrop::accepts(const QList<QUrl> &urls) const
     return onlyPlace(urls).has_value();
 }
 
+QString FolderDrop::objection(const QList<QUrl> &urls) const
+{
+    if (urls.isEmpty() || accepts(urls))
+        return {};
+    if (!m_content.canChoose())
+        return tr("A folder can be chosen when the scan has ended.");
+    return urls.size() > 1 ? tr("Only one folder can be chosen at a time.")
+                           : tr("Only a folder of this computer can be chosen.");
+}
+
 void FolderDrop::take(const QList<QUrl> &urls)
 {
     const auto place = onlyPlace(urls);

@@ -29,6 +29,10 @@ public:
     /// is a folder is not known yet, since asking its disk may take any time.
     Q_INVOKABLE bool accepts(const QList<QUrl> &urls) const;
 
+    /// Why what is dragged may not be dropped, for the user to read. Empty where it may, and where
+    /// it is nothing that has a place.
+    Q_INVOKABLE QString objection(const QList<QUrl> &urls) const;
+
     /// Chooses what was dropped once it turns out to be a folder, unless a scan was started
     /// meanwhile.
     Q_INVOKABLE void take(const QList<QUrl> &urls);

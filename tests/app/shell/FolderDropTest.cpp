@@ -101,7 +101,7 @@ private Q_SLOTS:
     void theWindowSaysThatItWouldBeTaken()
     {
         const auto says = [this] {
-            return m_window->shows(QStringLiteral("Drop the folder to choose it"));
+            return m_window->shows(QStringLiteral("Drop a folder here to choose it"));
         };
         QVERIFY(!says());
         QVERIFY(drag({urlOf(m_window->folder().path())}));
@@ -126,6 +126,36 @@ private Q_SLOTS:
         m_window->finishScan();
         QVERIFY(isChosen(m_window->folder().path()));
         QVERIFY(!says());
+    }
+
+    void theWindowSaysWhyADragIsNotTaken_data()
+    {
+        QTest::addColumn<QList<QUrl>>("urls");
+        QTest::addColumn<bool>("scans");
+        QTest::addColumn<QString>("words");
+        const QUrl folder(QStringLiteral("file:///tmp"));
+        const QUrl far(QStringLiteral("https://localhost/tmp"));
+        const QString one = QStringLiteral("Only one folder can be chosen at a time.");
+        const QString local = QStringLiteral("Only a folder of this computer can be chosen.");
+        const QString later = QStringLiteral("A folder can be chosen when the scan has ended.");
+        QTest::newRow("two folders") << QList<QUrl>{folder, folder} << false << one;
+        QTest::newRow("an address") << QList<QUrl>{far} << false << local;
+        QTest::newRow("while scanning") << QList<QUrl>{folder} << true << later;
+    }
+
+    void theWindowSaysWhyADragIsNotTaken()
+    {
+        QFETCH(const QList<QUrl>, urls);
+        QFETCH(const bool, scans);
+        QFETCH(const QString, words);
+        if (scans) {
+            m_window->choose(m_window->folder().path());
+            m_window->press(Qt::Key_R, Qt::ControlModifier);
+        }
+        QVERIFY(!drag(urls));
+        QVERIFY(m_window->shows(words));
+        m_window->finishScan();
+        QVERIFY(m_window->shows(words));
     }
 
     void theWordOnAFileGoesByItself()
