@@ -56,4 +56,14 @@ PageAppear {
         enabled: page.visible && !scroller.activeFocus
         onActivated: scroll.press(Qt.Key_PageDown)
     }
+    Shortcut {
+        sequences: ["Home"]
+        enabled: page.visible && !scroller.activeFocus
+        onActivated: scroll.press(Qt.Key_Home)
+    }
+    Shortcut {
+        sequences: ["End"]
+        enabled: page.visible && !scroller.activeFocus
+        onActivated: scroll.press(Qt.Key_End)
+    }
 }

@@ -19,8 +19,12 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Pages")
 
+    function isOwnKey(key) { return key === Qt.Key_Home || key === Qt.Key_End; }
+
+    // Elsewhere these scroll the page.
+    Keys.onShortcutOverride: event => { event.accepted = list.isOwnKey(event.key); }
     Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        event.accepted = list.isOwnKey(event.key);
         if (event.accepted)
             list.currentIndex = event.key === Qt.Key_Home ? 0 : list.count - 1;
     }

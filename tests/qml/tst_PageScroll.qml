@@ -79,6 +79,10 @@ Item {
             compare(page.viewport.contentY, 350 - 32);
             keyClick(Qt.Key_PageUp);
             compare(page.viewport.contentY, 0);
+            keyClick(Qt.Key_End);
+            compare(page.viewport.contentY, end);
+            keyClick(Qt.Key_Home);
+            compare(page.viewport.contentY, 0);
         }
 
         function test_aHiddenPageDoesNotScroll() {
