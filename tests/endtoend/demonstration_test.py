@@ -94,7 +94,7 @@ class DemonstrationTest(unittest.TestCase):
             window = until("the demonstration's process", lambda: child_of(demo.pid))
             tree = AccessibleTree(window)
             tree.wait_for(CHOOSE, "push button")
-            tree.wait_for("Loadwick (demonstration)", "frame")
+            tree.wait_for("Demonstration of Loadwick", "frame")
             demo.send_signal(signal.SIGTERM)
             demo.wait(30)
         self.assert_untouched()

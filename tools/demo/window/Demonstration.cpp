@@ -71,7 +71,7 @@ void show(int argc, char **argv, const ThrowAwayHome &home)
 {
     LoadwickApp::run(argc, argv, [&home](std::shared_ptr<Shutdown> shutdown) {
         LoadwickWindow::Collaborators made = collaborators(home, std::move(shutdown));
-        made.title = QStringLiteral("Loadwick (demonstration)");
+        made.title = QStringLiteral("Demonstration of Loadwick");
         const std::filesystem::path projects = home.repository().parent_path();
         made.folderChooser = std::make_unique<DialogFolderChooser>(
             QUrl::fromLocalFile(QString::fromStdString(projects.string())));
