@@ -24,8 +24,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "${loaded}")
-# Without one of them the folder dialog is Qt's own; without zsh its log-in shell cannot be asked.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme | xdg-desktop-portal")
+# Without the theme the dialogs for folders and files are Qt's own; without the portal the window does
+# not hear whether the desktop is dark; without zsh its log-in shell cannot be asked.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme, xdg-desktop-portal")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS zsh)
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "measures how much of a Claude Code session's context is gone at its start
