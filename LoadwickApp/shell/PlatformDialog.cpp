@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 
 #include "shell/PlainDialog.h"
+#include "shell/PlainDialogText.h"
 #include "shell/QmlObject.h"
 
 namespace Loadwick {
@@ -24,6 +25,7 @@ QObject *PlatformDialog::madeFor(QObject &asker)
 {
     if (m_dialog || !m_engine || !m_window)
         return m_dialog.get();
+    PlainDialogText::takeOver(*m_engine);
     QString failure;
     m_dialog = qmlObject(*m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/") + m_page),
                          {{QStringLiteral("asker"), QVariant::fromValue(&asker)},

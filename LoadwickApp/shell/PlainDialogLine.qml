@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Dialogs.quickimpl
+import Loadwick
+
+// A folder or file in the list of a dialog that Qt draws inside the window.
+FileDialogDelegate {
+    id: line
+
+    required property int index
+    required property string fileName
+    required property url fileUrl
+    required property double fileSize
+    required property date fileModified
+    required property bool fileIsDir
+    // Qt sets it.
+    property int fileDetailRowWidth: 0
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: AppTheme.tableRowHeight
+    leftPadding: AppTheme.mediumSpace
+    rightPadding: AppTheme.cardSpace
+    topPadding: 0
+    bottomPadding: 0
+    file: line.fileUrl
+    Accessible.name: line.fileName
+
+    contentItem: PlainDialogLineFace {
+        name: line.fileName
+        isFolder: line.fileIsDir
+        byteCount: line.fileSize
+        modified: line.fileModified
+    }
+
+    background: Rectangle {
+        color: line.highlighted ? AppTheme.selectionFill
+             : line.down ? AppTheme.pressedFill
+             : line.hovered || line.visualFocus ? AppTheme.hoverFill : "transparent"
+    }
+}
