@@ -10,6 +10,7 @@
 
 #include "shell/EnterPress.h"
 #include "shell/FolderUrl.h"
+#include "shell/PlainDialogLook.h"
 #include "shell/PlainDialogParts.h"
 #include "shell/PlainFolderDialog.h"
 
@@ -91,6 +92,7 @@ void makeReachable(QQuickWindow &window)
         auto *fileName = popup->findChild<QQuickItem *>(QStringLiteral("fileNameTextField"));
         nameParts(*popup, fileName);
         EnterPress::takeOver(*popup);
+        PlainDialogLook::takeOver(*popup);
         if (auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
             forgetAnswers(*name);
             acceptByEnter(*popup, *name);

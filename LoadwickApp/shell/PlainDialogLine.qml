@@ -32,6 +32,7 @@ FileDialogDelegate {
     }
 
     background: Rectangle {
+        radius: AppTheme.controlRadius
         color: line.highlighted ? AppTheme.selectionFill
              : line.down ? AppTheme.pressedFill
              : line.hovered || line.visualFocus ? AppTheme.hoverFill : "transparent"

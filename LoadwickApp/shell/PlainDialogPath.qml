@@ -44,6 +44,8 @@ FolderBreadcrumbBar {
         color: AppTheme.secondaryText
     }
     upButton: ToolButton {
+        id: up
+
         x: bar.leftPadding
         y: bar.topPadding
         icon {
@@ -55,6 +57,11 @@ FolderBreadcrumbBar {
         width: AppTheme.controlHeight
         height: AppTheme.controlHeight
         focusPolicy: Qt.TabFocus
+        background: Rectangle {
+            radius: AppTheme.controlRadius
+            color: up.down ? AppTheme.pressedFill : up.hovered ? AppTheme.hoverFill : "transparent"
+            border { width: up.visualFocus ? 2 : 0; color: AppTheme.accent }
+        }
     }
     textField: TextField {
         text: (bar.dialog as FileDialogImpl)?.selectedFile
