@@ -12,6 +12,13 @@ namespace {
 
 QtMessageHandler previousHandler = nullptr;
 
+QByteArray reason()
+{
+    return qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
+               ? QByteArray("no display answers.")
+               : QByteArray("the platform that QT_QPA_PLATFORM names cannot be used.");
+}
+
 QByteArray setting(const char *variable)
 {
     const QByteArray value = qgetenv(variable);
@@ -24,9 +31,8 @@ void report(QtMsgType type, const QMessageLogContext &context, const QString &me
         previousHandler(type, context, message);
         return;
     }
-    const QByteArray words = "Loadwick cannot open its window: no display answers." +
-                             setting("DISPLAY") + setting("WAYLAND_DISPLAY") +
-                             setting("QT_QPA_PLATFORM") + "\n";
+    const QByteArray words = "Loadwick cannot open its window: " + reason() + setting("DISPLAY") +
+                             setting("WAYLAND_DISPLAY") + setting("QT_QPA_PLATFORM") + "\n";
     std::fputs(words.constData(), stderr);
     std::_Exit(EXIT_FAILURE);
 }

@@ -34,19 +34,31 @@ class SmallScreenTest(EndToEndCase):
 class NoDisplayTest(EndToEndCase):
     """Without a display that answers."""
 
-    def test_it_says_which_display_does_not_answer(self) -> None:
+    def last_words(self, variable: str, value: str) -> str:
+        """The last line on standard error of a start that fails, with this environment."""
+        environment = environment_for(self.home.path)
+        del environment["QT_QPA_PLATFORM"]
         answer = subprocess.run(
             [str(programs() / "loadwick-endtoend")],
-            env=environment_for(self.home.path) | {"DISPLAY": ":987"},
+            env=environment | {variable: value},
             capture_output=True,
             text=True,
             timeout=LIMIT_SECONDS,
             check=False,
         )
         self.assertEqual(answer.returncode, 1)
-        self.assertIn("no display answers", answer.stderr)
-        self.assertIn('DISPLAY is ":987"', answer.stderr)
         self.assertNotIn("Reinstalling", answer.stderr)
+        return answer.stderr.splitlines()[-1]
+
+    def test_it_says_which_display_does_not_answer(self) -> None:
+        words = self.last_words("DISPLAY", ":987")
+        self.assertIn("no display answers", words)
+        self.assertIn('DISPLAY is ":987"', words)
+
+    def test_it_says_which_platform_cannot_be_used(self) -> None:
+        words = self.last_words("QT_QPA_PLATFORM", "nonsense")
+        self.assertIn("the platform that QT_QPA_PLATFORM names cannot be used", words)
+        self.assertIn('QT_QPA_PLATFORM is "nonsense"', words)
 
 
 if __name__ == "__main__":
