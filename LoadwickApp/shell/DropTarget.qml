@@ -12,17 +12,18 @@ DropArea {
     property string objection: ""
     readonly property string words: area.containsDrag ? qsTr("Drop a folder here to choose it") : area.objection
 
-    function refuse(words) {
-        area.objection = words;
+    function refuse(why) {
+        area.objection = why;
         refusal.restart();
     }
 
     onEntered: drag => {
         const isCovered = area.ground.isCovered();
-        const words = isCovered ? "" : area.folderDrop.objection(drag.urls);
+        const why = isCovered ? "" : area.folderDrop.objection(drag.urls);
         drag.accepted = !isCovered && area.folderDrop.accepts(drag.urls);
-        if (words.length > 0)
-            area.refuse(words);
+        refusal.stop();
+        if (why.length > 0)
+            area.refuse(why);
     }
     onDropped: drop => {
         refusal.stop();

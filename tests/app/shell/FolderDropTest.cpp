@@ -106,8 +106,7 @@ private Q_SLOTS:
         QVERIFY(!says());
         QVERIFY(drag({urlOf(m_window->folder().path())}));
         QVERIFY(says());
-        QDragLeaveEvent leave;
-        QCoreApplication::sendEvent(&m_window->loadwick().window(), &leave);
+        leave();
         QVERIFY(!says());
         QVERIFY(!drag({}));
         QVERIFY(!says());
@@ -154,8 +153,12 @@ private Q_SLOTS:
         }
         QVERIFY(!drag(urls));
         QVERIFY(m_window->shows(words));
-        m_window->finishScan();
-        QVERIFY(m_window->shows(words));
+        if (scans)
+            m_window->finishScan();
+        leave();
+        QVERIFY(drag({urlOf(m_window->folder().path())}));
+        leave();
+        QVERIFY(!m_window->shows(words));
     }
 
     void theWordOnAFileGoesByItself()
@@ -183,6 +186,12 @@ private:
                               Qt::NoModifier);
         QCoreApplication::sendEvent(&m_window->loadwick().window(), &event);
         return event.isAccepted();
+    }
+
+    void leave()
+    {
+        QDragLeaveEvent event;
+        QCoreApplication::sendEvent(&m_window->loadwick().window(), &event);
     }
 
     bool drop(const QList<QUrl> &urls)
