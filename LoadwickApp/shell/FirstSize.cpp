@@ -5,8 +5,7 @@
 namespace Loadwick::FirstSize {
 namespace {
 
-constexpr int titleBarHeight =
-    40; // of the desktop's, which is not known before the window is shown
+constexpr int titleBarHeight = 40; // the true one is not known before the window is shown
 
 } // namespace
 
