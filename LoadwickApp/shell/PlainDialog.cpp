@@ -13,6 +13,7 @@
 #include "shell/PlainDialogLook.h"
 #include "shell/PlainDialogParts.h"
 #include "shell/PlainFolderDialog.h"
+#include "shell/PlainSaveDialog.h"
 
 namespace Loadwick::PlainDialog {
 namespace {
@@ -97,6 +98,7 @@ void makeReachable(QQuickWindow &window)
             forgetAnswers(*name);
             acceptByEnter(*popup, *name);
             takeTypedName(*popup, *name);
+            PlainSaveDialog::takeOver(*popup);
         }
         if (popup->inherits("QQuickFolderDialogImpl"))
             PlainFolderDialog::takeOver(*popup);

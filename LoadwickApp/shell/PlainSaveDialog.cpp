@@ -1,0 +1,79 @@
+#include "shell/PlainSaveDialog.h"
+
+#include <QDir>
+#include <QUrl>
+#include <QtQuickTemplates2/private/qquickpopup_p.h>
+
+#include "shell/FolderUrl.h"
+
+namespace Loadwick {
+namespace {
+
+QString localPath(const QQuickPopup &dialog, const char *property)
+{
+    return QDir::cleanPath(dialog.property(property).toUrl().toLocalFile());
+}
+
+} // namespace
+
+void PlainSaveDialog::takeOver(QQuickPopup &dialog)
+{
+    auto *taken = dialog.findChild<PlainSaveDialog *>(QString(), Qt::FindDirectChildrenOnly);
+    if (taken == nullptr)
+        taken = new PlainSaveDialog(dialog);
+    taken->takeSuggestedName();
+}
+
+PlainSaveDialog::PlainSaveDialog(QQuickPopup &dialog)
+    : QObject(&dialog),
+      m_dialog(dialog),
+      m_field(dialog.findChild<QQuickItem *>(QStringLiteral("fileNameTextField"))),
+      m_list(dialog.findChild<QQuickItem *>(QStringLiteral("fileDialogListView")))
+{
+    // By name: Qt tells these signals to QML alone.
+    connect(&dialog, SIGNAL(currentFolderChanged(QUrl)), this, SLOT(keepName()));
+    connect(&dialog, SIGNAL(selectedFileChanged(QUrl)), this, SLOT(takeNameOfLine()));
+}
+
+void PlainSaveDialog::takeSuggestedName()
+{
+    m_suggested = m_field ? m_field->property("text").toString() : QString();
+    m_name = m_suggested;
+    m_typedPath.clear();
+    // Each opening takes the answers of an earlier one off the field.
+    connect(m_field, SIGNAL(textEdited()), this, SLOT(takeTypedName()), Qt::UniqueConnection);
+}
+
+void PlainSaveDialog::takeTypedName()
+{
+    m_name = m_field->property("text").toString().section(QLatin1Char('/'), -1);
+    m_typedPath = localPath(m_dialog, "selectedFile");
+}
+
+void PlainSaveDialog::takeNameOfLine()
+{
+    const auto *line = m_list ? m_list->property("currentItem").value<QQuickItem *>() : nullptr;
+    if (line == nullptr || line->property("fileIsDir").toBool())
+        return;
+    if (line->property("file") == m_dialog.property("selectedFile"))
+        m_name = line->property("fileName").toString();
+}
+
+void PlainSaveDialog::keepName()
+{
+    if (!m_dialog.isVisible())
+        return;
+    if (isShownBecauseTyped())
+        m_name = m_suggested;
+    if (m_list)
+        m_list->setProperty("currentIndex", -1); // Qt highlights a line unasked
+    const QUrl folder = m_dialog.property("currentFolder").toUrl();
+    m_dialog.setProperty("selectedFile", m_name.isEmpty() ? QUrl() : fileUrl(folder, m_name));
+}
+
+bool PlainSaveDialog::isShownBecauseTyped() const
+{
+    return !m_typedPath.isEmpty() && m_typedPath == localPath(m_dialog, "currentFolder");
+}
+
+} // namespace Loadwick
