@@ -1,6 +1,7 @@
 #include "shell/PlainFolderDialog.h"
 
 #include <QUrl>
+#include <QVariant>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
@@ -8,6 +9,11 @@
 #include "shell/PlainDialogParts.h"
 
 namespace Loadwick {
+namespace {
+
+constexpr int nothing = -1; // is highlighted
+
+} // namespace
 
 void PlainFolderDialog::takeOver(QQuickPopup &dialog)
 {
@@ -21,12 +27,15 @@ PlainFolderDialog::PlainFolderDialog(QQuickPopup &dialog)
     : QObject(&dialog),
       m_dialog(dialog),
       m_list(dialog.findChild<QQuickItem *>(QStringLiteral("folderDialogListView"))),
+      m_folders(m_list ? m_list->property("model").value<QAbstractItemModel *>() : nullptr),
       m_pathField(PlainDialogParts::partOfPathBar(dialog, "textField")),
       m_button(PlainDialogParts::acceptingButton(dialog))
 {
     // By name: Qt tells these signals to QML alone.
     connect(&dialog, SIGNAL(currentFolderChanged(QUrl)), this, SLOT(chooseShownFolder()));
     connect(&dialog, SIGNAL(selectedFolderChanged(QUrl)), this, SLOT(sayWhatIsChosen()));
+    if (m_folders)
+        connect(m_folders, SIGNAL(statusChanged()), this, SLOT(keepChoice()));
     if (!m_pathField)
         return;
     connect(m_pathField, &QQuickItem::visibleChanged, this,
@@ -37,12 +46,36 @@ PlainFolderDialog::PlainFolderDialog(QQuickPopup &dialog)
 
 void PlainFolderDialog::chooseShownFolder()
 {
-    if (m_list)
-        m_list->setProperty("currentIndex", -1);
     if (!m_pathField || !m_pathField->isVisible())
         focusList();
-    m_dialog.setProperty("selectedFolder", m_dialog.property("currentFolder"));
+    choose(m_dialog.property("currentFolder").toUrl(), nothing);
     sayWhatIsChosen();
+}
+
+// The model empties and fills itself when a folder comes or goes, and then also tells that it is
+// ready; the list follows later, by highlighting its first line.
+void PlainFolderDialog::keepChoice()
+{
+    const QUrl chosen = m_dialog.property("selectedFolder").toUrl();
+    QMetaObject::invokeMethod(m_list, "forceLayout");
+    const int line = lineOf(chosen);
+    choose(line == nothing ? m_dialog.property("currentFolder").toUrl() : chosen, line);
+}
+
+void PlainFolderDialog::choose(const QUrl &folder, int line)
+{
+    if (m_list)
+        m_list->setProperty("currentIndex", line);
+    m_dialog.setProperty("selectedFolder", folder);
+}
+
+int PlainFolderDialog::lineOf(const QUrl &folder) const
+{
+    const int role = m_folders->roleNames().key("fileUrl");
+    for (int line = 0; line < m_folders->rowCount(); ++line)
+        if (m_folders->index(line, 0).data(role).toUrl() == folder)
+            return line;
+    return nothing;
 }
 
 void PlainFolderDialog::sayWhatIsChosen()

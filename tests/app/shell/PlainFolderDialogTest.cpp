@@ -2,155 +2,81 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
-#include <string>
 
 #include <QAccessible>
 #include <QTest>
 
-#include "shell/DialogFolderChooser.h"
-#include "support/DialogWindow.h"
+#include "support/FolderDialogWindow.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
 
-/// Over a folder with the folders "bare" and "repository", of which the second has "docs" and
-/// "src".
 class PlainFolderDialogTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { m_window = std::make_unique<FolderDialogWindow>(); }
+    void cleanup() { m_window.reset(); }
     void theFolderThatIsShownIsChosenUnlessALineIsHighlighted();
-    void aFolderWithoutFoldersIsChosenFromWithin_data();
     void aFolderWithoutFoldersIsChosenFromWithin();
-    void aFolderWithFoldersIsChosenFromWithin_data();
     void aFolderWithFoldersIsChosenFromWithin();
     void aLineThatTheUserHighlightsIsChosen_data();
     void aLineThatTheUserHighlightsIsChosen();
     void aFolderIsChosenFromWithinAfterALineWasHighlightedAndLeft();
     void theFolderAboveIsChosenFromWithin();
-    void aPathThatIsNotThereLeavesTheFolderThatIsShown();
-    void theKeyboardIsOnTheListAfterThePathField_data();
-    void theKeyboardIsOnTheListAfterThePathField();
     void nothingIsHighlightedWhenTheDialogOpensAgain();
+    void whatIsHighlightedStaysSoWhenFoldersComeAndGo_data();
+    void whatIsHighlightedStaysSoWhenFoldersComeAndGo();
+    void theArrowsGoOnFromThereWhenAFolderHasCome();
+    void theFolderThatIsShownIsChosenOnceTheHighlightedOneIsGone();
+    void nothingIsHighlightedWhenAFolderComes();
+    void theFirstFolderToComeIsNotHighlighted();
     void theButtonSaysToScreenReadersWhatItChooses();
 
 private:
-    void open();
-    /// By a double click, or by the path field.
-    void enter(const char *way, const QString &name);
-    void enterPath(const std::string &path);
-    [[nodiscard]] QQuickItem *line(const char *name) const;
-    [[nodiscard]] QQuickItem *button() const;
-    [[nodiscard]] bool isHighlighted() const;
-    [[nodiscard]] std::filesystem::path root() const { return m_window->folder().path(); }
-    /// By the button.
-    [[nodiscard]] std::filesystem::path choose();
+    void enter(const char *name);
+    [[nodiscard]] std::filesystem::path root() const { return m_window->root(); }
+    [[nodiscard]] QString said() const;
 
-    std::unique_ptr<DialogWindow> m_window;
-    std::unique_ptr<DialogFolderChooser> m_chooser;
-    std::optional<std::filesystem::path> m_chosen;
+    std::unique_ptr<FolderDialogWindow> m_window;
 };
 
-void PlainFolderDialogTest::init()
+void PlainFolderDialogTest::enter(const char *name)
 {
-    m_window = std::make_unique<DialogWindow>();
-    for (const char *folder : {"bare", "repository/docs", "repository/src"})
-        std::filesystem::create_directories(root() / folder);
-    m_chooser = std::make_unique<DialogFolderChooser>(m_window->folderUrl());
-    m_chooser->attach(m_window->engine(), m_window->window());
-    m_chosen.reset();
+    m_window->doubleClick(m_window->line(name));
+    QTRY_VERIFY(m_window->line(name) == nullptr);
 }
 
-void PlainFolderDialogTest::cleanup()
+QString PlainFolderDialogTest::said() const
 {
-    m_chooser.reset();
-    m_window.reset();
-}
-
-void PlainFolderDialogTest::open()
-{
-    m_chooser->open([this](const std::filesystem::path &folder) { m_chosen = folder; });
-    QTRY_VERIFY(line("repository") != nullptr); // the list is filled late
-}
-
-void PlainFolderDialogTest::enter(const char *way, const QString &name)
-{
-    if (QLatin1String(way) == QLatin1String("path"))
-        return enterPath((root() / name.toStdString()).string());
-    m_window->doubleClick(m_window->find("fileName", name));
-    QTRY_VERIFY(m_window->find("fileName", name) == nullptr);
-}
-
-void PlainFolderDialogTest::enterPath(const std::string &path)
-{
-    m_window->press(Qt::Key_L, Qt::ControlModifier);
-    m_window->type(QByteArray::fromStdString(path));
-    m_window->press(Qt::Key_Return);
-}
-
-QQuickItem *PlainFolderDialogTest::line(const char *name) const
-{
-    return m_window->find("fileName", QString::fromLatin1(name));
-}
-
-QQuickItem *PlainFolderDialogTest::button() const
-{
-    return m_window->find("text", QStringLiteral("Choose"));
-}
-
-bool PlainFolderDialogTest::isHighlighted() const
-{
-    return m_window->find("highlighted", QStringLiteral("true")) != nullptr;
-}
-
-std::filesystem::path PlainFolderDialogTest::choose()
-{
-    m_window->click(button());
-    return m_chosen.value_or("");
+    return QAccessible::queryAccessibleInterface(m_window->button())
+        ->text(QAccessible::Description);
 }
 
 void PlainFolderDialogTest::theFolderThatIsShownIsChosenUnlessALineIsHighlighted()
 {
-    open();
-    QVERIFY(!isHighlighted());
-    QCOMPARE(choose(), root());
-}
-
-void PlainFolderDialogTest::aFolderWithoutFoldersIsChosenFromWithin_data()
-{
-    QTest::addColumn<QByteArray>("way");
-    QTest::newRow("double click") << QByteArray("click");
-    QTest::newRow("path") << QByteArray("path");
+    m_window->open();
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(m_window->choose(), root());
 }
 
 void PlainFolderDialogTest::aFolderWithoutFoldersIsChosenFromWithin()
 {
-    QFETCH(const QByteArray, way);
-    open();
-    enter(way.constData(), QStringLiteral("bare"));
-    QTRY_VERIFY(line("repository") == nullptr);
-    QVERIFY(button()->isEnabled());
-    QCOMPARE(choose(), root() / "bare");
-}
-
-void PlainFolderDialogTest::aFolderWithFoldersIsChosenFromWithin_data()
-{
-    aFolderWithoutFoldersIsChosenFromWithin_data();
+    m_window->open();
+    enter("bare");
+    QVERIFY(m_window->button()->isEnabled());
+    QCOMPARE(m_window->choose(), root() / "bare");
 }
 
 void PlainFolderDialogTest::aFolderWithFoldersIsChosenFromWithin()
 {
-    QFETCH(const QByteArray, way);
-    open();
-    enter(way.constData(), QStringLiteral("repository"));
-    QTRY_VERIFY(line("src") != nullptr);
-    QVERIFY(!isHighlighted());
-    QVERIFY(button()->isEnabled());
-    QCOMPARE(choose(), root() / "repository");
+    m_window->open();
+    enter("repository");
+    QTRY_VERIFY(m_window->line("src") != nullptr);
+    QCOMPARE(m_window->highlighted(), QString());
+    QVERIFY(m_window->button()->isEnabled());
+    QCOMPARE(m_window->choose(), root() / "repository");
 }
 
 void PlainFolderDialogTest::aLineThatTheUserHighlightsIsChosen_data()
@@ -164,88 +90,119 @@ void PlainFolderDialogTest::aLineThatTheUserHighlightsIsChosen_data()
 void PlainFolderDialogTest::aLineThatTheUserHighlightsIsChosen()
 {
     QFETCH(const int, steps);
-    open();
-    enter("click", QStringLiteral("repository"));
-    QTRY_VERIFY(line("src") != nullptr);
+    m_window->open();
+    enter("repository");
+    QTRY_VERIFY(m_window->line("src") != nullptr);
     if (steps == 0)
-        m_window->click(line("src"));
+        m_window->click(m_window->line("src"));
     for (int step = 0; step < steps; ++step)
         m_window->press(Qt::Key_Down);
-    QVERIFY(isHighlighted());
-    QCOMPARE(choose(), root() / "repository" / (steps == 1 ? "docs" : "src"));
+    const char *name = steps == 1 ? "docs" : "src";
+    QCOMPARE(m_window->highlighted(), QString::fromLatin1(name));
+    QCOMPARE(m_window->choose(), root() / "repository" / name);
 }
 
 void PlainFolderDialogTest::aFolderIsChosenFromWithinAfterALineWasHighlightedAndLeft()
 {
-    open();
+    m_window->open();
     m_window->press(Qt::Key_Down);
     m_window->press(Qt::Key_Down);
-    QVERIFY(isHighlighted());
+    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
     m_window->press(Qt::Key_Return);
-    QTRY_VERIFY(line("src") != nullptr);
-    QVERIFY(!isHighlighted());
-    QCOMPARE(choose(), root() / "repository");
+    QTRY_VERIFY(m_window->line("src") != nullptr);
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(m_window->choose(), root() / "repository");
 }
 
 void PlainFolderDialogTest::theFolderAboveIsChosenFromWithin()
 {
-    open();
-    enter("click", QStringLiteral("repository"));
+    m_window->open();
+    enter("repository");
     m_window->click(m_window->findNamed(QStringLiteral("Folder above")));
-    QTRY_VERIFY(line("repository") != nullptr);
-    QVERIFY(!isHighlighted());
-    QCOMPARE(choose(), root());
-}
-
-void PlainFolderDialogTest::aPathThatIsNotThereLeavesTheFolderThatIsShown()
-{
-    open();
-    enterPath((root() / "nowhere").string());
-    QVERIFY(line("repository") != nullptr);
-    QCOMPARE(choose(), root());
-}
-
-void PlainFolderDialogTest::theKeyboardIsOnTheListAfterThePathField_data()
-{
-    QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("return") << Qt::Key_Return;
-    QTest::newRow("escape") << Qt::Key_Escape;
-}
-
-void PlainFolderDialogTest::theKeyboardIsOnTheListAfterThePathField()
-{
-    QFETCH(const Qt::Key, key);
-    open();
-    m_window->press(Qt::Key_L, Qt::ControlModifier);
-    QVERIFY(!button()->isEnabled()); // it is not said yet which folder is meant
-    m_window->press(key);
-    QCOMPARE(m_window->focusedName(), QStringLiteral("folderDialogListView"));
-    m_window->press(Qt::Key_Down);
-    QCOMPARE(choose(), root() / "bare");
+    QTRY_VERIFY(m_window->line("repository") != nullptr);
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(m_window->choose(), root());
 }
 
 void PlainFolderDialogTest::nothingIsHighlightedWhenTheDialogOpensAgain()
 {
-    open();
+    m_window->open();
     m_window->press(Qt::Key_Down);
     m_window->press(Qt::Key_Escape);
-    QVERIFY(!m_chosen);
-    open();
-    QVERIFY(!isHighlighted());
-    QCOMPARE(choose(), root());
+    QVERIFY(!m_window->chosen());
+    m_window->open();
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(m_window->choose(), root());
+}
+
+void PlainFolderDialogTest::whatIsHighlightedStaysSoWhenFoldersComeAndGo_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("before it") << QByteArray("aaa");
+    QTest::newRow("behind it") << QByteArray("zz");
+}
+
+void PlainFolderDialogTest::whatIsHighlightedStaysSoWhenFoldersComeAndGo()
+{
+    QFETCH(const QByteArray, name);
+    m_window->open();
+    m_window->click(m_window->line("repository"));
+    std::filesystem::create_directory(root() / name.toStdString());
+    QTRY_VERIFY(m_window->line(name.constData()) != nullptr);
+    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
+    std::filesystem::remove(root() / "bare");
+    QTRY_VERIFY(m_window->line("bare") == nullptr);
+    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
+    QCOMPARE(m_window->choose(), root() / "repository");
+}
+
+void PlainFolderDialogTest::theArrowsGoOnFromThereWhenAFolderHasCome()
+{
+    m_window->open();
+    m_window->press(Qt::Key_Down);
+    std::filesystem::create_directory(root() / "aaa");
+    QTRY_VERIFY(m_window->line("aaa") != nullptr);
+    m_window->press(Qt::Key_Down);
+    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
+    QCOMPARE(m_window->choose(), root() / "repository");
+}
+
+void PlainFolderDialogTest::theFolderThatIsShownIsChosenOnceTheHighlightedOneIsGone()
+{
+    m_window->open();
+    m_window->click(m_window->line("bare"));
+    std::filesystem::rename(root() / "bare", root() / "barn");
+    QTRY_VERIFY(m_window->line("barn") != nullptr);
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(said(), QString::fromStdString(root().string()));
+    QCOMPARE(m_window->choose(), root());
+}
+
+void PlainFolderDialogTest::nothingIsHighlightedWhenAFolderComes()
+{
+    m_window->open();
+    std::filesystem::create_directory(root() / "aaa");
+    QTRY_VERIFY(m_window->line("aaa") != nullptr);
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(m_window->choose(), root());
+}
+
+void PlainFolderDialogTest::theFirstFolderToComeIsNotHighlighted()
+{
+    m_window->open();
+    enter("bare");
+    std::filesystem::create_directory(root() / "bare" / "first");
+    QTRY_VERIFY(m_window->line("first") != nullptr);
+    QCOMPARE(m_window->highlighted(), QString());
+    QCOMPARE(m_window->choose(), root() / "bare");
 }
 
 void PlainFolderDialogTest::theButtonSaysToScreenReadersWhatItChooses()
 {
-    const auto said = [this] {
-        return std::filesystem::path(QAccessible::queryAccessibleInterface(button())
-                                         ->text(QAccessible::Description)
-                                         .toStdString());
-    };
-    open();
-    QCOMPARE(said(), root());
+    m_window->open();
+    QCOMPARE(said(), QString::fromStdString(root().string()));
     m_window->press(Qt::Key_Down);
-    QCOMPARE(said(), root() / "bare");
+    QCOMPARE(said(), QString::fromStdString((root() / "bare").string()));
 }
 
 const RegisteredTest<PlainFolderDialogTest> registered("PlainFolderDialog");
