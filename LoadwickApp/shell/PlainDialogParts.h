@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 class QObject;
 class QQuickAbstractButton;
 class QQuickAccessibleAttached;

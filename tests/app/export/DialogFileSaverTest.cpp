@@ -29,10 +29,6 @@ private Q_SLOTS:
     void enterSavesUnderTheNameThatWasTyped();
     void theButtonSavesUnderTheNameThatWasTyped();
     void aNameTypedInAnotherFolderIsSavedThere();
-    void aNameWithoutAnEndingTakesThatOfTheKindOfFile_data();
-    void aNameWithoutAnEndingTakesThatOfTheKindOfFile();
-    void everyKindThatIsOfferedIsAnEnding_data();
-    void everyKindThatIsOfferedIsAnEnding();
     void withoutANameThereIsNoAnswer();
     void enterAnswersOnceHoweverOftenItWasAsked();
     void escapeSavesNothing();
@@ -55,7 +51,6 @@ private:
     std::unique_ptr<DialogFileSaver> m_saver;
     std::optional<FileSaver::Place> m_place;
     int m_answerCount = 0;
-    QStringList m_kinds;
 };
 
 void DialogFileSaverTest::init()
@@ -73,7 +68,6 @@ void DialogFileSaverTest::init()
     m_saver->attach(*m_engine, *m_window);
     m_place.reset();
     m_answerCount = 0;
-    m_kinds = {QStringLiteral("Comma-separated values (*.csv)")};
 }
 
 void DialogFileSaverTest::cleanup()
@@ -88,7 +82,7 @@ void DialogFileSaverTest::open()
 {
     m_saver->open({.title = QStringLiteral("Save the data"),
                    .name = QStringLiteral("figures.csv"),
-                   .filters = m_kinds},
+                   .filters = {QStringLiteral("Comma-separated values (*.csv)")}},
                   [this](const FileSaver::Place &place) {
                       m_place = place;
                       ++m_answerCount;
@@ -176,47 +170,6 @@ void DialogFileSaverTest::theButtonSavesUnderTheNameThatWasTyped()
     QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middleOf("text", "Save"));
     QVERIFY(m_place);
     QVERIFY(m_place->file == m_folder->path() / "what #1.csv");
-}
-
-void DialogFileSaverTest::aNameWithoutAnEndingTakesThatOfTheKindOfFile_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::newRow("no dot") << QByteArray("all");
-    QTest::newRow("a version") << QByteArray("notes v1.2");
-    QTest::newRow("of another kind") << QByteArray("a.txt");
-    QTest::newRow("no dot before the ending") << QByteArray("mycsv");
-}
-
-void DialogFileSaverTest::aNameWithoutAnEndingTakesThatOfTheKindOfFile()
-{
-    QFETCH(const QByteArray, name);
-    open();
-    type(name);
-    press(Qt::Key_Return);
-    QTRY_VERIFY(m_place.has_value());
-    QCOMPARE(m_place->file, m_folder->path() / (name.toStdString() + ".csv"));
-    QVERIFY(!m_place->mayReplace);
-}
-
-void DialogFileSaverTest::everyKindThatIsOfferedIsAnEnding_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("file");
-    QTest::newRow("the usual one") << QByteArray("x.png") << QByteArray("x.png");
-    QTest::newRow("another one") << QByteArray("x.SVG") << QByteArray("x.SVG");
-    QTest::newRow("none of them") << QByteArray("x.csv") << QByteArray("x.csv.png");
-}
-
-void DialogFileSaverTest::everyKindThatIsOfferedIsAnEnding()
-{
-    QFETCH(const QByteArray, name);
-    QFETCH(const QByteArray, file);
-    m_kinds = {QStringLiteral("PNG picture (*.png)"), QStringLiteral("SVG drawing (*.svg)")};
-    open();
-    type(name);
-    press(Qt::Key_Return);
-    QTRY_VERIFY(m_place.has_value());
-    QCOMPARE(m_place->file, m_folder->path() / file.toStdString());
 }
 
 void DialogFileSaverTest::aNameTypedInAnotherFolderIsSavedThere()
