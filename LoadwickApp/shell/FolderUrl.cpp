@@ -17,6 +17,19 @@ bool isOnThisMachine(const QUrl &url)
     return url.isLocalFile() && (host.isEmpty() || host == QLatin1String("localhost"));
 }
 
+/// Nothing for what is no address of a file of this machine. Not left to QUrl: a file has neither
+/// query nor fragment, and of what was typed "#", "?" and a lone "%" belong to a name.
+std::optional<std::filesystem::path> addressedPath(const QString &text)
+{
+    const QLatin1String scheme("file://");
+    const QByteArray place = text.mid(scheme.size()).toUtf8();
+    const qsizetype root = place.indexOf('/');
+    const bool isHere = root == 0 || place.startsWith("localhost/");
+    if (!text.startsWith(scheme, Qt::CaseInsensitive) || !isHere)
+        return std::nullopt;
+    return std::filesystem::path(QByteArray::fromPercentEncoding(place.mid(root)).toStdString());
+}
+
 } // namespace
 
 std::optional<std::filesystem::path> folderPath(const QUrl &url)
@@ -34,10 +47,18 @@ QUrl fileUrl(const QUrl &folder, const QString &name)
     return QUrl::fromEncoded(folder.toEncoded() + '/' + QUrl::toPercentEncoding(name));
 }
 
+QUrl pathUrl(const std::filesystem::path &path)
+{
+    return QUrl::fromEncoded("file://" +
+                             QByteArray::fromStdString(path.string()).toPercentEncoding("/"));
+}
+
 QUrl typedFileUrl(const QUrl &folder, const QString &text)
 {
-    const bool isBelowHome = text.startsWith(QLatin1String("~/"));
-    const QString path = isBelowHome ? QDir::homePath() + text.mid(1) : text;
+    if (const auto addressed = addressedPath(text))
+        return pathUrl(*addressed);
+    const bool isFromHome = text == QLatin1String("~") || text.startsWith(QLatin1String("~/"));
+    const QString path = isFromHome ? QDir::homePath() + text.mid(1) : text;
     const QByteArray encoded = QUrl::toPercentEncoding(path, "/");
     return QUrl::fromEncoded(path.startsWith(QLatin1Char('/'))
                                  ? "file://" + encoded

@@ -74,6 +74,11 @@ private Q_SLOTS:
         row("folder below", "sub/c.png", QStringLiteral("/srv/a#b/sub/c.png"));
         row("from the root", "/tmp/x#1/c.png", QStringLiteral("/tmp/x#1/c.png"));
         row("from the home", "~/c%41.png", home + QStringLiteral("/c%41.png"));
+        row("the home", "~", home);
+        row("address", "file:///tmp/x/c.png", QStringLiteral("/tmp/x/c.png"));
+        row("encoded address", "FILE://localhost/a%20b%231", QStringLiteral("/a b#1"));
+        row("address with odd letters", "file:///a b#1?2/100%", QStringLiteral("/a b#1?2/100%"));
+        row("address elsewhere", "file://server/c", QStringLiteral("/srv/a#b/file://server/c"));
         row("tilde in a name", "~c.png", QStringLiteral("/srv/a#b/~c.png"));
         row("a folder", "/tmp/x/", QStringLiteral("/tmp/x/"));
         row("folder above", "../c.png", QStringLiteral("/srv/a#b/../c.png"));
@@ -86,6 +91,23 @@ private Q_SLOTS:
         const auto file = folderPath(typedFileUrl(QUrl::fromEncoded("file:///srv/a%23b"), text));
         QVERIFY(file);
         QCOMPARE(QString::fromStdString(file->string()), path);
+    }
+
+    void aPathKeepsEveryByteInItsAddress_data()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::newRow("plain") << QByteArray("/srv/webshop");
+        QTest::newRow("not UTF-8") << QByteArray("/srv/caf\xE9");
+        QTest::newRow("letters of addresses") << QByteArray("/srv/what?#1 100%25");
+        QTest::newRow("root") << QByteArray("/");
+    }
+
+    void aPathKeepsEveryByteInItsAddress()
+    {
+        QFETCH(const QByteArray, path);
+        const auto found = folderPath(pathUrl(path.toStdString()));
+        QVERIFY(found);
+        QCOMPARE(QByteArray::fromStdString(found->string()), path);
     }
 
     void aFileInAFolderKeepsEveryByteAndLetter_data()

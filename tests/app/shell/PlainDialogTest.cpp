@@ -29,6 +29,7 @@ private Q_SLOTS:
     void aFileThatIsThereIsNotReplacedByItsPath();
     void aFolderThatIsTypedIsShownAndNotSaved_data();
     void aFolderThatIsTypedIsShownAndNotSaved();
+    void aTildeShowsTheHomeFolder();
     void aFolderThatIsNotThereIsNoName();
     void aPathLeavesTheFolderThatIsShown();
 
@@ -91,6 +92,7 @@ void PlainDialogTest::aPathThatIsTypedIsSavedThere_data()
     QTest::newRow("from the root") << QByteArray("%/sub/c.png") << QByteArray("sub/c.png");
     QTest::newRow("from the home") << QByteArray("~/sub/c.png") << QByteArray("sub/c.png");
     QTest::newRow("below the folder") << QByteArray("sub/c.png") << QByteArray("sub/c.png");
+    QTest::newRow("address") << QByteArray("file://%/sub/c.png") << QByteArray("sub/c.png");
     QTest::newRow("hash") << QByteArray("sub/#1.png") << QByteArray("sub/#1.png");
     QTest::newRow("without an ending") << QByteArray("%/sub/c") << QByteArray("sub/c.png");
     QTest::newRow("dot in a folder's name") << QByteArray("v1.2/c") << QByteArray("v1.2/c.png");
@@ -162,6 +164,19 @@ void PlainDialogTest::aFolderThatIsTypedIsShownAndNotSaved()
     type(text.constData());
     QVERIFY(save().empty());
     QTRY_VERIFY(m_window->find("fileName", QStringLiteral("here.png")) != nullptr);
+}
+
+void PlainDialogTest::aTildeShowsTheHomeFolder()
+{
+    std::filesystem::create_directory(root() / "sub" / "within");
+    open();
+    type("sub");
+    QVERIFY(save().empty());
+    QTRY_VERIFY(m_window->find("fileName", QStringLiteral("within")) != nullptr);
+    m_window->click(m_window->find("objectName", QStringLiteral("fileNameTextField")));
+    type("~");
+    QVERIFY(save().empty());
+    QTRY_VERIFY(m_window->find("fileName", QStringLiteral("sub")) != nullptr);
 }
 
 void PlainDialogTest::aFolderThatIsNotThereIsNoName()
