@@ -64,7 +64,24 @@ FolderBreadcrumbBar {
         }
     }
     textField: TextField {
+        id: field
+
+        // Why what was typed is not taken.
+        property string objection: ""
+
         text: (bar.dialog as FileDialogImpl)?.selectedFile
               ?? (bar.dialog as FolderDialogImpl).currentFolder
+        rightPadding: field.leftPadding + (field.objection ? words.width + AppTheme.smallSpace : 0)
+        Accessible.name: qsTr("Path")
+        Accessible.description: field.objection
+
+        SilentText {
+            id: words
+
+            anchors { right: parent.right; rightMargin: field.leftPadding; verticalCenter: parent.verticalCenter }
+            text: field.objection
+            font: AppTheme.captionFont
+            color: AppTheme.bandExcessiveText
+        }
     }
 }

@@ -3,10 +3,12 @@
 #include <QUrl>
 #include <QVariant>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
+#include <QtQuick/private/qquicktextinput_p.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
 #include "shell/PlainDialogParts.h"
+#include "shell/PlainFolderPath.h"
 
 namespace Loadwick {
 namespace {
@@ -40,8 +42,10 @@ PlainFolderDialog::PlainFolderDialog(QQuickPopup &dialog)
         return;
     connect(m_pathField, &QQuickItem::visibleChanged, this,
             &PlainFolderDialog::leaveHiddenPathField);
-    // Where Qt highlighted a line on the way, the field was hidden too early and shows again.
-    connect(m_pathField, SIGNAL(accepted()), this, SLOT(focusList()));
+    auto *path = new PlainFolderPath(dialog, qobject_cast<QQuickTextInput *>(m_pathField.data()));
+    path->setParent(this);
+    connect(path, &PlainFolderPath::entered, this, &PlainFolderDialog::chooseShownFolder);
+    connect(path, &PlainFolderPath::entered, this, &PlainFolderDialog::focusList);
 }
 
 void PlainFolderDialog::chooseShownFolder()
