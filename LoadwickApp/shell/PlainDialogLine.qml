@@ -22,10 +22,10 @@ FileDialogDelegate {
     topPadding: 0
     bottomPadding: 0
     file: line.fileUrl
-    Accessible.name: line.fileName
+    Accessible.name: ShownName.of(line.fileName)
 
     contentItem: PlainDialogLineFace {
-        name: line.fileName
+        name: ShownName.of(line.fileName)
         isFolder: line.fileIsDir
         byteCount: line.fileSize
         modified: line.fileModified

@@ -34,7 +34,7 @@ FolderBreadcrumbBar {
         required property int index
         required property string folderName
 
-        title: folderName
+        title: ShownName.of(folderName)
     }
     separatorDelegate: IconImage {
         source: "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/crumb-separator-icon-round.png"
