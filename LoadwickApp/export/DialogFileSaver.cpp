@@ -1,13 +1,12 @@
 #include "export/DialogFileSaver.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QtGui/private/qguiapplication_p.h>
-#include <QtGui/qpa/qplatformdialoghelper.h>
 #include <QtGui/qpa/qplatformtheme.h>
 
 #include "probe/PathText.h"
+#include "shell/FileKinds.h"
 #include "shell/FolderUrl.h"
 #include "shell/QtText.h"
 
@@ -19,29 +18,6 @@ bool asksBeforeReplacing()
 {
     const QPlatformTheme *theme = QGuiApplicationPrivate::platformTheme();
     return theme != nullptr && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
-}
-
-/// That of the kind of file which is chosen in the dialog, with its dot; empty for none.
-QString chosenEnding(const QObject &dialog)
-{
-    const auto *kind = dialog.property("selectedNameFilter").value<QObject *>();
-    const QStringList endings =
-        kind != nullptr ? kind->property("extensions").toStringList() : QStringList();
-    return endings.isEmpty() ? QString() : QLatin1Char('.') + endings.first();
-}
-
-/// Whether the name ends like one of the kinds of file that the dialog offers. Another dot in it is
-/// no ending: the "2" of "notes v1.2" names no kind of file.
-bool hasEnding(const std::filesystem::path &file, const QObject &dialog)
-{
-    const QString name = qtText(pathText(file.filename()));
-    const QStringList kinds = dialog.property("nameFilters").toStringList();
-    return std::any_of(kinds.begin(), kinds.end(), [&name](const QString &kind) {
-        const QStringList patterns = QPlatformFileDialogHelper::cleanFilterList(kind);
-        return std::any_of(patterns.begin(), patterns.end(), [&name](const QString &pattern) {
-            return name.endsWith(pattern.mid(1), Qt::CaseInsensitive); // without its asterisk
-        });
-    });
 }
 
 } // namespace
@@ -70,8 +46,9 @@ void DialogFileSaver::accept(const QUrl &file)
     auto path = folderPath(file);
     if (!chosen || !path || dialog == nullptr)
         return;
-    const bool isWhole = !path->has_filename() || hasEnding(*path, *dialog); // or names a folder
-    const QString missing = isWhole ? QString() : chosenEnding(*dialog);
+    const QString name = qtText(pathText(path->filename())); // empty for a folder
+    const bool isWhole = name.isEmpty() || !FileKinds::endingOf(name, *dialog).isEmpty();
+    const QString missing = isWhole ? QString() : FileKinds::chosenEnding(*dialog);
     *path += missing.toStdString();
     // Nobody was asked about a file of the longer name.
     chosen({.file = *path, .mayReplace = missing.isEmpty() && asksBeforeReplacing()});

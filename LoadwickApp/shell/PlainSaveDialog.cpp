@@ -4,6 +4,7 @@
 #include <QUrl>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
+#include "shell/FileKinds.h"
 #include "shell/FolderUrl.h"
 
 namespace Loadwick {
@@ -12,6 +13,16 @@ namespace {
 QString localPath(const QQuickPopup &dialog, const char *property)
 {
     return QDir::cleanPath(dialog.property(property).toUrl().toLocalFile());
+}
+
+/// A name with another of the endings on offer gets that of the kind that is chosen.
+QString ofChosenKind(QString name, const QQuickPopup &dialog)
+{
+    const QString ending = FileKinds::endingOf(name, dialog);
+    const QString chosen = FileKinds::chosenEnding(dialog);
+    if (!ending.isEmpty() && !chosen.isEmpty() && ending.compare(chosen, Qt::CaseInsensitive) != 0)
+        name.replace(name.size() - ending.size(), ending.size(), chosen);
+    return name;
 }
 
 } // namespace
@@ -33,6 +44,8 @@ PlainSaveDialog::PlainSaveDialog(QQuickPopup &dialog)
     // By name: Qt tells these signals to QML alone.
     connect(&dialog, SIGNAL(currentFolderChanged(QUrl)), this, SLOT(keepName()));
     connect(&dialog, SIGNAL(selectedFileChanged(QUrl)), this, SLOT(takeNameOfLine()));
+    if (auto *kind = dialog.property("selectedNameFilter").value<QObject *>())
+        connect(kind, SIGNAL(extensionsChanged(QStringList)), this, SLOT(takeKind()));
 }
 
 void PlainSaveDialog::takeSuggestedName()
@@ -69,6 +82,20 @@ void PlainSaveDialog::keepName()
         m_list->setProperty("currentIndex", -1); // Qt highlights a line unasked
     const QUrl folder = m_dialog.property("currentFolder").toUrl();
     m_dialog.setProperty("selectedFile", m_name.isEmpty() ? QUrl() : fileUrl(folder, m_name));
+}
+
+void PlainSaveDialog::takeKind()
+{
+    const bool isPath = m_field && m_field->property("text").toString().contains(QLatin1Char('/'));
+    if (!m_dialog.isVisible() || isPath)
+        return;
+    m_suggested = ofChosenKind(m_suggested, m_dialog);
+    const QString name = ofChosenKind(m_name, m_dialog);
+    if (name == m_name)
+        return;
+    m_name = name;
+    m_dialog.setProperty("selectedFile",
+                         fileUrl(m_dialog.property("currentFolder").toUrl(), m_name));
 }
 
 bool PlainSaveDialog::isShownBecauseTyped() const

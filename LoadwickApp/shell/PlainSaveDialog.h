@@ -11,7 +11,8 @@ namespace Loadwick {
 
 /// In the dialog that Qt draws inside the window to save a file, the name outlives a change of
 /// folder: the one that was suggested, typed or taken from a file of the list. Qt by itself puts
-/// that of a folder in its place, or none. Belongs to the dialog.
+/// that of a folder in its place, or none. The ending of the name follows the kind of file that is
+/// chosen. Belongs to the dialog.
 class PlainSaveDialog final : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void takeTypedName();
     void takeNameOfLine();
     void keepName();
+    void takeKind();
 
 private:
     explicit PlainSaveDialog(QQuickPopup &dialog);

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void noNameStaysNoName();
     void afterAFolderThatWasTypedTheSuggestedNameIsThere();
     void theNextOpeningSuggestsItsOwnName();
+    void theEndingFollowsTheKindThatIsChosen_data();
+    void theEndingFollowsTheKindThatIsChosen();
 
 private:
     void open(const QString &name = QStringLiteral("figures.csv"));
@@ -46,6 +48,7 @@ private:
     std::unique_ptr<DialogWindow> m_window;
     std::unique_ptr<DialogFileSaver> m_saver;
     std::optional<FileSaver::Place> m_place;
+    QStringList m_kinds;
 };
 
 void PlainSaveDialogTest::init()
@@ -56,6 +59,8 @@ void PlainSaveDialogTest::init()
     m_window->folder().write("sub/other.csv", "");
     m_saver = std::make_unique<DialogFileSaver>(m_window->folderUrl());
     m_saver->attach(m_window->engine(), m_window->window());
+    m_window->folder().write("drawn.svg", "");
+    m_kinds = {QStringLiteral("Comma-separated values (*.csv)")};
     m_place.reset();
 }
 
@@ -67,9 +72,7 @@ void PlainSaveDialogTest::cleanup()
 
 void PlainSaveDialogTest::open(const QString &name)
 {
-    m_saver->open({.title = QStringLiteral("Save the data"),
-                   .name = name,
-                   .filters = {QStringLiteral("Comma-separated values (*.csv)")}},
+    m_saver->open({.title = QStringLiteral("Save the data"), .name = name, .filters = m_kinds},
                   [this](const FileSaver::Place &place) { m_place = place; });
     QTRY_COMPARE(m_window->focusedName(), QStringLiteral("fileNameTextField"));
     QTRY_VERIFY(line("sub") != nullptr || line("within") != nullptr); // the list is filled late
@@ -207,6 +210,31 @@ void PlainSaveDialogTest::theNextOpeningSuggestsItsOwnName()
     m_window->click(m_window->findNamed(QStringLiteral("Folder above")));
     QTRY_VERIFY(line("old.csv") != nullptr);
     QCOMPARE(name(), QStringLiteral("next.csv"));
+}
+
+void PlainSaveDialogTest::theEndingFollowsTheKindThatIsChosen_data()
+{
+    QTest::addColumn<QByteArray>("typed");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("as suggested") << QByteArray() << QStringLiteral("chart.svg");
+    QTest::newRow("of that kind") << QByteArray("mine.svg") << QStringLiteral("mine.svg");
+    QTest::newRow("of the other") << QByteArray("mine.PNG") << QStringLiteral("mine.svg");
+    QTest::newRow("of none") << QByteArray("notes v1.2") << QStringLiteral("notes v1.2");
+    QTest::newRow("a path") << QByteArray("sub/mine.png") << QStringLiteral("sub/mine.png");
+}
+
+void PlainSaveDialogTest::theEndingFollowsTheKindThatIsChosen()
+{
+    QFETCH(const QByteArray, typed);
+    QFETCH(const QString, expected);
+    m_kinds = {QStringLiteral("Picture (*.png)"), QStringLiteral("SVG drawing (*.svg)")};
+    open(QStringLiteral("chart.png"));
+    if (!typed.isEmpty())
+        type(typed.constData());
+    m_window->find("displayText", m_kinds.first())->forceActiveFocus();
+    m_window->press(Qt::Key_Down);
+    QTRY_VERIFY(line("drawn.svg") != nullptr);
+    QCOMPARE(name(), expected);
 }
 
 const RegisteredTest<PlainSaveDialogTest> registered("PlainSaveDialog");
