@@ -34,7 +34,12 @@ FileDialogDelegate {
     background: Rectangle {
         radius: AppTheme.controlRadius
         color: line.highlighted ? AppTheme.selectionFill
-             : line.down ? AppTheme.pressedFill
-             : line.hovered || line.visualFocus ? AppTheme.hoverFill : "transparent"
+             : line.down ? AppTheme.pressedFill : "transparent"
+
+        // Only what is highlighted is filled, or a line under the pointer would look chosen.
+        FocusRing {
+            anchors.margins: -2
+            shown: line.visualFocus
+        }
     }
 }
