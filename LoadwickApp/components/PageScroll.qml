@@ -55,7 +55,21 @@ Item {
             scroll.reveal(item);
     }
 
+    // What was just opened comes into sight with its head.
+    function revealOpened() {
+        const item = scroll.Window.activeFocusItem;
+        const section = item ? item.parent as CollapsibleSection : null;
+        if (section && section.isExpanded && !pointer.active && scroll.holds(section))
+            scroll.reveal(section);
+    }
+
     Window.onActiveFocusItemChanged: afterwards.restart()
+
+    Connections {
+        target: scroll.viewport
+
+        function onContentHeightChanged() { scroll.revealOpened(); }
+    }
 
     // The pointer below hears of its press only after what it has pressed.
     Timer {

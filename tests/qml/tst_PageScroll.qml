@@ -28,6 +28,12 @@ Item {
             activeFocusOnTab: true
         }
         Button { id: last; text: "Last"; implicitHeight: 40 }
+        CollapsibleSection {
+            id: section
+            title: "More"
+
+            Item { implicitWidth: 100; implicitHeight: 200 }
+        }
     }
 
     TestCase {
@@ -102,6 +108,17 @@ Item {
             keyClick(Qt.Key_Backtab);
             verify(first.activeFocus);
             tryVerify(() => isInSight(first));
+        }
+
+        function test_whatIsOpenedComesIntoSight() {
+            keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Tab);
+            tryVerify(() => isInSight(section));
+            keyClick(Qt.Key_Space);
+            verify(section.isExpanded);
+            tryVerify(() => section.height > 200 && isInSight(section));
+            section.isExpanded = false;
         }
 
         function test_whatIsHigherThanThePageStaysWhereItIs() {
