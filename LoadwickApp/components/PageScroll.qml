@@ -9,6 +9,8 @@ Item {
     readonly property real farthest: Math.max(0, scroll.viewport.contentHeight - scroll.viewport.height)
     // What was at the edge stays in sight.
     readonly property real pageStep: scroll.viewport.height - AppTheme.wideSpace
+    // The section that has the keyboard, if it was open when the page last changed its height.
+    property Item opened: null
 
     function moveTo(y) {
         scroll.viewport.contentY = Math.max(0, Math.min(scroll.farthest, y));
@@ -55,12 +57,14 @@ Item {
             scroll.reveal(item);
     }
 
-    // What was just opened comes into sight with its head.
+    // What was just opened comes into sight with its head, once: other changes of the page move nothing.
     function revealOpened() {
         const item = scroll.Window.activeFocusItem;
         const section = item ? item.parent as CollapsibleSection : null;
-        if (section && section.isExpanded && !pointer.active && scroll.holds(section))
-            scroll.reveal(section);
+        const opened = section && section.isExpanded && scroll.holds(section) ? section : null;
+        if (opened && opened !== scroll.opened && !pointer.active)
+            scroll.reveal(opened);
+        scroll.opened = opened;
     }
 
     Window.onActiveFocusItemChanged: afterwards.restart()

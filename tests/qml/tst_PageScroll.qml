@@ -118,7 +118,13 @@ Item {
             keyClick(Qt.Key_Space);
             verify(section.isExpanded);
             tryVerify(() => section.height > 200 && isInSight(section));
+            page.viewport.contentY = 0;
+            tall.implicitHeight += 50;
+            wait(50);
+            compare(page.viewport.contentY, 0);
+            tall.implicitHeight -= 50;
             section.isExpanded = false;
+            wait(50);
         }
 
         function test_whatIsHigherThanThePageStaysWhereItIs() {
