@@ -17,8 +17,8 @@ Item {
     IconImage {
         anchors.verticalCenter: parent.verticalCenter
         width: AppTheme.iconSize
-        source: "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/"
-                + (face.isFolder ? "folder" : "file") + "-icon-round.png"
+        source: face.isFolder ? "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/folder-icon-round.png"
+            : "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/file-icon-round.png"
         sourceSize { width: AppTheme.iconSize; height: AppTheme.iconSize }
         color: AppTheme.secondaryText
     }
