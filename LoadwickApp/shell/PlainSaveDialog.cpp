@@ -59,6 +59,7 @@ void PlainSaveDialog::takeSuggestedName()
 
 void PlainSaveDialog::takeTypedName()
 {
+    leaveLine();
     m_name = m_field->property("text").toString().section(QLatin1Char('/'), -1);
     m_typedPath = localPath(m_dialog, "selectedFile");
 }
@@ -68,8 +69,10 @@ void PlainSaveDialog::takeNameOfLine()
     const auto *line = m_list ? m_list->property("currentItem").value<QQuickItem *>() : nullptr;
     if (line == nullptr || line->property("fileIsDir").toBool())
         return;
-    if (line->property("file") == m_dialog.property("selectedFile"))
-        m_name = line->property("fileName").toString();
+    if (line->property("file") != m_dialog.property("selectedFile"))
+        return;
+    m_name = line->property("fileName").toString();
+    m_typedPath.clear();
 }
 
 void PlainSaveDialog::keepName()
@@ -78,14 +81,14 @@ void PlainSaveDialog::keepName()
         return;
     if (isShownBecauseTyped())
         m_name = m_suggested;
-    if (m_list)
-        m_list->setProperty("currentIndex", -1); // Qt highlights a line unasked
+    leaveLine();
     const QUrl folder = m_dialog.property("currentFolder").toUrl();
     m_dialog.setProperty("selectedFile", m_name.isEmpty() ? QUrl() : fileUrl(folder, m_name));
 }
 
 void PlainSaveDialog::takeKind()
 {
+    leaveLine();
     const bool isPath = m_field && m_field->property("text").toString().contains(QLatin1Char('/'));
     if (!m_dialog.isVisible() || isPath)
         return;
@@ -96,6 +99,13 @@ void PlainSaveDialog::takeKind()
     m_name = name;
     m_dialog.setProperty("selectedFile",
                          fileUrl(m_dialog.property("currentFolder").toUrl(), m_name));
+}
+
+// Else Qt takes the first line's name as soon as the list is filled anew.
+void PlainSaveDialog::leaveLine()
+{
+    if (m_list)
+        m_list->setProperty("currentIndex", -1);
 }
 
 bool PlainSaveDialog::isShownBecauseTyped() const

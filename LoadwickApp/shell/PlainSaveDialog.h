@@ -30,6 +30,7 @@ private Q_SLOTS:
 
 private:
     explicit PlainSaveDialog(QQuickPopup &dialog);
+    void leaveLine();
     /// Whether the folder that is shown was typed in place of a name.
     [[nodiscard]] bool isShownBecauseTyped() const;
 

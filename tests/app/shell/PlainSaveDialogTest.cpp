@@ -60,6 +60,7 @@ void PlainSaveDialogTest::init()
     m_saver = std::make_unique<DialogFileSaver>(m_window->folderUrl());
     m_saver->attach(m_window->engine(), m_window->window());
     m_window->folder().write("drawn.svg", "");
+    m_window->folder().write("old.png", "");
     m_kinds = {QStringLiteral("Comma-separated values (*.csv)")};
     m_place.reset();
 }
@@ -220,6 +221,7 @@ void PlainSaveDialogTest::theEndingFollowsTheKindThatIsChosen_data()
     QTest::newRow("of that kind") << QByteArray("mine.svg") << QStringLiteral("mine.svg");
     QTest::newRow("of the other") << QByteArray("mine.PNG") << QStringLiteral("mine.svg");
     QTest::newRow("of none") << QByteArray("notes v1.2") << QStringLiteral("notes v1.2");
+    QTest::newRow("of a line") << QByteArray("the line") << QStringLiteral("old.svg");
     QTest::newRow("a path") << QByteArray("sub/mine.png") << QStringLiteral("sub/mine.png");
 }
 
@@ -229,7 +231,9 @@ void PlainSaveDialogTest::theEndingFollowsTheKindThatIsChosen()
     QFETCH(const QString, expected);
     m_kinds = {QStringLiteral("Picture (*.png)"), QStringLiteral("SVG drawing (*.svg)")};
     open(QStringLiteral("chart.png"));
-    if (!typed.isEmpty())
+    if (typed == "the line")
+        m_window->click(line("old.png"));
+    else if (!typed.isEmpty())
         type(typed.constData());
     m_window->find("displayText", m_kinds.first())->forceActiveFocus();
     m_window->press(Qt::Key_Down);
