@@ -9,8 +9,9 @@ Item {
     readonly property real farthest: Math.max(0, scroll.viewport.contentHeight - scroll.viewport.height)
     // What was at the edge stays in sight.
     readonly property real pageStep: scroll.viewport.height - AppTheme.wideSpace
-    // The section that has the keyboard, if it was open when the page last changed its height.
-    property Item opened: null
+    // Whose head has the keyboard, and whether it was opened since the page last changed its height.
+    property CollapsibleSection section: null
+    property bool isOpening: false
 
     function moveTo(y) {
         scroll.viewport.contentY = Math.max(0, Math.min(scroll.farthest, y));
@@ -57,18 +58,29 @@ Item {
             scroll.reveal(item);
     }
 
-    // What was just opened comes into sight with its head, once: other changes of the page move nothing.
-    function revealOpened() {
+    function noteSection() {
         const item = scroll.Window.activeFocusItem;
-        const section = item ? item.parent as CollapsibleSection : null;
-        const opened = section && section.isExpanded && scroll.holds(section) ? section : null;
-        if (opened && opened !== scroll.opened && !pointer.active)
-            scroll.reveal(opened);
-        scroll.opened = opened;
+        scroll.section = item && scroll.holds(item) ? item.parent as CollapsibleSection : null;
+        scroll.isOpening = false;
     }
 
-    Window.onActiveFocusItemChanged: afterwards.restart()
+    // What was just opened comes into sight with its head.
+    function revealOpened() {
+        if (scroll.isOpening && !pointer.active)
+            scroll.reveal(scroll.section);
+        scroll.isOpening = false;
+    }
 
+    Window.onActiveFocusItemChanged: {
+        scroll.noteSection();
+        afterwards.restart();
+    }
+
+    Connections {
+        target: scroll.section
+
+        function onIsExpandedChanged() { scroll.isOpening = scroll.section.isExpanded; }
+    }
     Connections {
         target: scroll.viewport
 

@@ -118,6 +118,9 @@ Item {
             keyClick(Qt.Key_Space);
             verify(section.isExpanded);
             tryVerify(() => section.height > 200 && isInSight(section));
+            last.forceActiveFocus();
+            section.children[0].forceActiveFocus();
+            wait(20);
             page.viewport.contentY = 0;
             tall.implicitHeight += 50;
             wait(50);
