@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QRegularExpression>
 #include <QString>
 #include <QUrl>
 
@@ -18,7 +19,8 @@ bool isOnThisMachine(const QUrl &url)
 }
 
 /// Nothing for what is no address of a file of this machine. Not left to QUrl: a file has neither
-/// query nor fragment, and of what was typed "#", "?" and a lone "%" belong to a name.
+/// query nor fragment, and of what was typed "#" and "?" belong to a name. So does each "%" where
+/// one of them is no escape.
 std::optional<std::filesystem::path> addressedPath(const QString &text)
 {
     const QLatin1String scheme("file://");
@@ -27,7 +29,10 @@ std::optional<std::filesystem::path> addressedPath(const QString &text)
     const bool isHere = root == 0 || place.startsWith("localhost/");
     if (!text.startsWith(scheme, Qt::CaseInsensitive) || !isHere)
         return std::nullopt;
-    return std::filesystem::path(QByteArray::fromPercentEncoding(place.mid(root)).toStdString());
+    static const QRegularExpression loosePercent(QStringLiteral("%(?![0-9A-Fa-f]{2})"));
+    const QByteArray path = place.mid(root);
+    return std::filesystem::path(
+        (text.contains(loosePercent) ? path : QByteArray::fromPercentEncoding(path)).toStdString());
 }
 
 } // namespace

@@ -78,6 +78,8 @@ private Q_SLOTS:
         row("address", "file:///tmp/x/c.png", QStringLiteral("/tmp/x/c.png"));
         row("encoded address", "FILE://localhost/a%20b%231", QStringLiteral("/a b#1"));
         row("address with odd letters", "file:///a b#1?2/100%", QStringLiteral("/a b#1?2/100%"));
+        row("address with a loose percent", "file:///tmp/50% of%20it",
+            QStringLiteral("/tmp/50% of%20it"));
         row("address elsewhere", "file://server/c", QStringLiteral("/srv/a#b/file://server/c"));
         row("tilde in a name", "~c.png", QStringLiteral("/srv/a#b/~c.png"));
         row("a folder", "/tmp/x/", QStringLiteral("/tmp/x/"));
