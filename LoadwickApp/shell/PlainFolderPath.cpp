@@ -32,6 +32,8 @@ void PlainFolderPath::take()
         enter(shown);
     else if (const auto path = folderPath(typedFileUrl(shown, text)))
         ask(text, standardizedPath(*path));
+    else
+        object(tr("There is no such folder."));
 }
 
 void PlainFolderPath::ask(const QString &text, const std::filesystem::path &path)
