@@ -149,10 +149,10 @@ void PlainFolderDialogTest::whatIsHighlightedStaysSoWhenFoldersComeAndGo()
     m_window->click(m_window->line("repository"));
     std::filesystem::create_directory(root() / name.toStdString());
     QTRY_VERIFY(m_window->line(name.constData()) != nullptr);
-    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
+    QTRY_COMPARE(m_window->highlighted(), QStringLiteral("repository"));
     std::filesystem::remove(root() / "bare");
     QTRY_VERIFY(m_window->line("bare") == nullptr);
-    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
+    QTRY_COMPARE(m_window->highlighted(), QStringLiteral("repository"));
     QCOMPARE(m_window->choose(), root() / "repository");
 }
 
@@ -163,7 +163,7 @@ void PlainFolderDialogTest::theArrowsGoOnFromThereWhenAFolderHasCome()
     std::filesystem::create_directory(root() / "aaa");
     QTRY_VERIFY(m_window->line("aaa") != nullptr);
     m_window->press(Qt::Key_Down);
-    QCOMPARE(m_window->highlighted(), QStringLiteral("repository"));
+    QTRY_COMPARE(m_window->highlighted(), QStringLiteral("repository"));
     QCOMPARE(m_window->choose(), root() / "repository");
 }
 
@@ -173,7 +173,7 @@ void PlainFolderDialogTest::theFolderThatIsShownIsChosenOnceTheHighlightedOneIsG
     m_window->click(m_window->line("bare"));
     std::filesystem::rename(root() / "bare", root() / "barn");
     QTRY_VERIFY(m_window->line("barn") != nullptr);
-    QCOMPARE(m_window->highlighted(), QString());
+    QTRY_COMPARE(m_window->highlighted(), QString());
     QCOMPARE(said(), QString::fromStdString(root().string()));
     QCOMPARE(m_window->choose(), root());
 }
@@ -183,7 +183,7 @@ void PlainFolderDialogTest::nothingIsHighlightedWhenAFolderComes()
     m_window->open();
     std::filesystem::create_directory(root() / "aaa");
     QTRY_VERIFY(m_window->line("aaa") != nullptr);
-    QCOMPARE(m_window->highlighted(), QString());
+    QTRY_COMPARE(m_window->highlighted(), QString());
     QCOMPARE(m_window->choose(), root());
 }
 
@@ -193,7 +193,7 @@ void PlainFolderDialogTest::theFirstFolderToComeIsNotHighlighted()
     enter("bare");
     std::filesystem::create_directory(root() / "bare" / "first");
     QTRY_VERIFY(m_window->line("first") != nullptr);
-    QCOMPARE(m_window->highlighted(), QString());
+    QTRY_COMPARE(m_window->highlighted(), QString());
     QCOMPARE(m_window->choose(), root() / "bare");
 }
 
