@@ -12,6 +12,7 @@
 #include "shell/FolderUrl.h"
 #include "shell/PlainDialogLook.h"
 #include "shell/PlainDialogParts.h"
+#include "shell/PlainDialogTabs.h"
 #include "shell/PlainFolderDialog.h"
 #include "shell/PlainSaveDialog.h"
 
@@ -90,10 +91,11 @@ void makeReachable(QQuickWindow &window)
     for (QQuickPopup *popup : popups) {
         if (!isPlainDialog(*popup))
             continue;
-        auto *fileName = popup->findChild<QQuickItem *>(QStringLiteral("fileNameTextField"));
+        QQuickItem *fileName = PlainDialogParts::nameField(*popup);
         nameParts(*popup, fileName);
         EnterPress::takeOver(*popup);
         PlainDialogLook::takeOver(*popup);
+        PlainDialogTabs::takeOver(*popup);
         if (auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
             forgetAnswers(*name);
             acceptByEnter(*popup, *name);

@@ -21,8 +21,16 @@ FileDialogDelegate {
     rightPadding: AppTheme.cardSpace
     topPadding: 0
     bottomPadding: 0
+    // The arrow keys lead from line to line.
+    focusPolicy: Qt.ClickFocus
     file: line.fileUrl
     Accessible.name: ShownName.of(line.fileName)
+
+    // Where Tab leads the list knows, for whichever line.
+    Component.onCompleted: {
+        line.KeyNavigation.tab = null;
+        line.KeyNavigation.backtab = null;
+    }
 
     contentItem: PlainDialogLineFace {
         name: ShownName.of(line.fileName)
@@ -38,7 +46,9 @@ FileDialogDelegate {
 
         // Only what is highlighted is filled, or a line under the pointer would look chosen.
         FocusRing {
-            anchors.margins: -2
+            // The list cuts off what is around a line.
+            anchors.margins: 0
+            radius: AppTheme.controlRadius
             shown: line.visualFocus
         }
     }

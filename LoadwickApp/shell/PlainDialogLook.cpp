@@ -11,7 +11,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr auto objectName = "plainDialogPalette";
+constexpr auto objectName = "plainDialogDress";
 
 // What stands below the list inherits no palette from the dialog, nor does the list of a box.
 QObjectList partsWithAPalette(QQuickPopup &dialog)
@@ -26,16 +26,17 @@ QObjectList partsWithAPalette(QQuickPopup &dialog)
     return parts;
 }
 
-void colour(QQmlEngine &engine, QObject &part)
+/// `page` is of ours, and describes what belongs to the part.
+void dress(QQmlEngine &engine, QObject &part, const QString &page)
 {
     QString failure;
-    auto palette =
-        qmlObject(engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/PlainDialogPalette.qml")),
+    auto dress =
+        qmlObject(engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/") + page),
                   {{QStringLiteral("part"), QVariant::fromValue<QObject *>(&part)}}, failure);
-    if (!palette)
+    if (!dress)
         return qWarning("%s", qPrintable(failure));
-    palette->setObjectName(QLatin1String(objectName));
-    palette.release()->setParent(&part);
+    dress->setObjectName(QLatin1String(objectName));
+    dress.release()->setParent(&part);
 }
 
 } // namespace
@@ -43,12 +44,13 @@ void colour(QQmlEngine &engine, QObject &part)
 void PlainDialogLook::takeOver(QQuickPopup &dialog)
 {
     QQmlEngine *engine = qmlEngine(&dialog);
-    const auto *palette = dialog.findChild<QObject *>(QLatin1String(objectName));
-    if (engine == nullptr || palette != nullptr)
+    const auto *worn = dialog.findChild<QObject *>(QLatin1String(objectName));
+    if (engine == nullptr || worn != nullptr)
         return;
     const QObjectList parts = partsWithAPalette(dialog);
     for (QObject *part : parts)
-        colour(*engine, *part);
+        dress(*engine, *part, QStringLiteral("PlainDialogPalette.qml"));
+    dress(*engine, *dialog.contentItem(), QStringLiteral("PlainDialogList.qml"));
 }
 
 } // namespace Loadwick

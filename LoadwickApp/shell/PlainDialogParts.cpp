@@ -23,6 +23,11 @@ QQuickAbstractButton *acceptingButton(const QQuickPopup &dialog)
     return box != nullptr ? box->standardButton(QPlatformDialogHelper::Open) : nullptr;
 }
 
+QQuickItem *nameField(const QQuickPopup &dialog)
+{
+    return dialog.findChild<QQuickItem *>(QStringLiteral("fileNameTextField"));
+}
+
 QQuickItem *partOfPathBar(const QQuickPopup &dialog, const char *property)
 {
     const QObject *bar = partOf(dialog, "QQuickFolderBreadcrumbBar");

@@ -15,6 +15,9 @@ namespace Loadwick::PlainDialogParts {
 /// The button that ends the dialog with an answer; null when there is none.
 [[nodiscard]] QQuickAbstractButton *acceptingButton(const QQuickPopup &dialog);
 
+/// What the name of a file is typed into; null in a dialog for folders.
+[[nodiscard]] QQuickItem *nameField(const QQuickPopup &dialog);
+
 /// That property of the bar with the path of the folder that is shown; null when there is none.
 [[nodiscard]] QQuickItem *partOfPathBar(const QQuickPopup &dialog, const char *property);
 

@@ -2,12 +2,15 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Controls.impl
 import QtQuick.Dialogs.quickimpl
+import QtQuick.Templates as Templates
 import Loadwick
 
 // The folder that a dialog shows which Qt draws inside the window: a button for it and for each of
 // those above, and a field to type a path into.
 FolderBreadcrumbBar {
     id: bar
+
+    readonly property Item list: (bar.dialog as Templates.Popup)?.contentItem ?? null
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
                    + (bar.upButton ? bar.upButton.implicitWidth + bar.upButtonSpacing : 0)
@@ -30,11 +33,21 @@ FolderBreadcrumbBar {
         interactive: false
         clip: true
     }
-    buttonDelegate: PushButton {
+    buttonDelegate: PlainDialogPathButton {
+        id: part
+
         required property int index
         required property string folderName
 
-        title: ShownName.of(folderName)
+        // Of the last one. Between two there is a separator.
+        KeyNavigation.tab: part.index * 2 === bar.count - 1 ? bar.list : null
+        Accessible.name: ShownName.of(part.folderName)
+        contentItem: SilentText {
+            text: ShownName.of(part.folderName)
+            font: AppTheme.bodyFont
+            color: AppTheme.text
+            verticalAlignment: Text.AlignVCenter
+        }
     }
     separatorDelegate: IconImage {
         source: "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/crumb-separator-icon-round.png"
@@ -43,24 +56,15 @@ FolderBreadcrumbBar {
         height: AppTheme.controlHeight
         color: AppTheme.secondaryText
     }
-    upButton: ToolButton {
-        id: up
-
+    upButton: PlainDialogPathButton {
         x: bar.leftPadding
         y: bar.topPadding
-        icon {
-            source: "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/up-icon-round.png"
-            width: AppTheme.iconSize
-            height: AppTheme.iconSize
-            color: AppTheme.text
-        }
         width: AppTheme.controlHeight
-        height: AppTheme.controlHeight
-        focusPolicy: Qt.TabFocus
-        background: Rectangle {
-            radius: AppTheme.controlRadius
-            color: up.down ? AppTheme.pressedFill : up.hovered ? AppTheme.hoverFill : "transparent"
-            border { width: up.visualFocus ? 2 : 0; color: AppTheme.accent }
+        padding: AppTheme.smallSpace
+        contentItem: IconImage {
+            source: "qrc:/qt-project.org/imports/QtQuick/Dialogs/quickimpl/images/up-icon-round.png"
+            sourceSize { width: AppTheme.iconSize; height: AppTheme.iconSize }
+            color: AppTheme.text
         }
     }
     textField: TextField {
@@ -72,6 +76,7 @@ FolderBreadcrumbBar {
         text: (bar.dialog as FileDialogImpl)?.selectedFile
               ?? (bar.dialog as FolderDialogImpl).currentFolder
         rightPadding: field.leftPadding + (field.objection ? words.width + AppTheme.smallSpace : 0)
+        KeyNavigation.tab: bar.list
         Accessible.name: qsTr("Path")
         Accessible.description: field.objection
 

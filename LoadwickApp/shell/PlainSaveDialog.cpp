@@ -6,6 +6,7 @@
 
 #include "shell/FileKinds.h"
 #include "shell/FolderUrl.h"
+#include "shell/PlainDialogParts.h"
 
 namespace Loadwick {
 namespace {
@@ -38,7 +39,7 @@ void PlainSaveDialog::takeOver(QQuickPopup &dialog)
 PlainSaveDialog::PlainSaveDialog(QQuickPopup &dialog)
     : QObject(&dialog),
       m_dialog(dialog),
-      m_field(dialog.findChild<QQuickItem *>(QStringLiteral("fileNameTextField"))),
+      m_field(PlainDialogParts::nameField(dialog)),
       m_list(dialog.findChild<QQuickItem *>(QStringLiteral("fileDialogListView")))
 {
     // By name: Qt tells these signals to QML alone.
