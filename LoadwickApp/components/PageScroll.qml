@@ -66,7 +66,7 @@ Item {
 
     // What was just opened comes into sight with its head.
     function revealOpened() {
-        if (scroll.isOpening && !pointer.active)
+        if (scroll.isOpening && scroll.section && !pointer.active)
             scroll.reveal(scroll.section);
         scroll.isOpening = false;
     }
