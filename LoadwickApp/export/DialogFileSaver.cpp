@@ -5,8 +5,8 @@
 #include <QtGui/private/qguiapplication_p.h>
 #include <QtGui/qpa/qplatformtheme.h>
 
+#include "dialogs/FileKinds.h"
 #include "probe/PathText.h"
-#include "shell/FileKinds.h"
 #include "shell/FolderUrl.h"
 #include "shell/QtText.h"
 

@@ -4,8 +4,8 @@
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
+#include "dialogs/PlatformDialog.h"
 #include "export/FileSaver.h"
-#include "shell/PlatformDialog.h"
 
 namespace Loadwick {
 

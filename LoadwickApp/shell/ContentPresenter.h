@@ -6,9 +6,9 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "dialogs/FolderChooser.h"
 #include "model/ScanModel.h"
 #include "shell/AppPage.h"
-#include "shell/FolderChooser.h"
 #include "shell/TextRows.h"
 
 namespace Loadwick {

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "desktop/DesktopNoticeBoard.h"
+#include "dialogs/DialogFolderChooser.h"
 #include "export/DialogFileSaver.h"
 #include "export/FileName.h"
 #include "history/WeeklyKPIReader.h"
@@ -14,7 +15,6 @@
 #include "probe/ProbeRunner.h"
 #include "probe/ProcessContext.h"
 #include "report/InstructionFileScanner.h"
-#include "shell/DialogFolderChooser.h"
 #include "shell/QmlObject.h"
 #include "shell/QtTaskDispatcher.h"
 #include "theme/ApplicationStyle.h"

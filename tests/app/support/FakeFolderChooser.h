@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "shell/FolderChooser.h"
+#include "dialogs/FolderChooser.h"
 
 namespace Loadwick {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/DialogFolderChooser.h"
+#include "dialogs/DialogFolderChooser.h"
 #include "support/DialogWindow.h"
 
 namespace Loadwick {

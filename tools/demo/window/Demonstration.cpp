@@ -14,8 +14,8 @@
 #include "demo/window/EventWait.h"
 #include "demo/window/GivenFolderChooser.h"
 #include "demo/window/PictureSeries.h"
+#include "dialogs/DialogFolderChooser.h"
 #include "shell/ApplicationSetup.h"
-#include "shell/DialogFolderChooser.h"
 #include "shell/LoadwickApp.h"
 
 namespace Loadwick::Demonstration {

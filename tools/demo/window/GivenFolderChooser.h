@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-#include "shell/FolderChooser.h"
+#include "dialogs/FolderChooser.h"
 
 namespace Loadwick {
 

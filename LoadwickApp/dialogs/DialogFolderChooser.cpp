@@ -1,4 +1,4 @@
-#include "shell/DialogFolderChooser.h"
+#include "dialogs/DialogFolderChooser.h"
 
 #include <utility>
 

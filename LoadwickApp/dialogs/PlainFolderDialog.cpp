@@ -1,4 +1,4 @@
-#include "shell/PlainFolderDialog.h"
+#include "dialogs/PlainFolderDialog.h"
 
 #include <QUrl>
 #include <QVariant>
@@ -7,8 +7,8 @@
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include "shell/PlainDialogParts.h"
-#include "shell/PlainFolderPath.h"
+#include "dialogs/PlainDialogParts.h"
+#include "dialogs/PlainFolderPath.h"
 
 namespace Loadwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/PlainDialogParts.h"
+#include "dialogs/PlainDialogParts.h"
 
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>

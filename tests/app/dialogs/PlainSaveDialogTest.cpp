@@ -1,4 +1,4 @@
-#include "shell/PlainSaveDialog.h"
+#include "dialogs/PlainSaveDialog.h"
 
 #include <filesystem>
 #include <memory>

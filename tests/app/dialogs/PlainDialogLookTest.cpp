@@ -1,4 +1,4 @@
-#include "shell/PlainDialogLook.h"
+#include "dialogs/PlainDialogLook.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -8,8 +8,8 @@
 #include <QImage>
 #include <QTest>
 
+#include "dialogs/DialogFolderChooser.h"
 #include "export/DialogFileSaver.h"
-#include "shell/DialogFolderChooser.h"
 #include "support/DialogWindow.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"

@@ -4,8 +4,8 @@
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
-#include "shell/FolderChooser.h"
-#include "shell/PlatformDialog.h"
+#include "dialogs/FolderChooser.h"
+#include "dialogs/PlatformDialog.h"
 
 namespace Loadwick {
 

@@ -1,12 +1,12 @@
-#include "shell/PlatformDialog.h"
+#include "dialogs/PlatformDialog.h"
 
 #include <utility>
 
 #include <QQmlEngine>
 #include <QQuickWindow>
 
-#include "shell/PlainDialog.h"
-#include "shell/PlainDialogText.h"
+#include "dialogs/PlainDialog.h"
+#include "dialogs/PlainDialogText.h"
 #include "shell/QmlObject.h"
 
 namespace Loadwick {

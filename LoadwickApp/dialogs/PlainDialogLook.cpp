@@ -1,11 +1,11 @@
-#include "shell/PlainDialogLook.h"
+#include "dialogs/PlainDialogLook.h"
 
 #include <QQmlEngine>
 #include <QUrl>
 #include <QVariant>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include "shell/PlainDialogParts.h"
+#include "dialogs/PlainDialogParts.h"
 #include "shell/QmlObject.h"
 
 namespace Loadwick {

@@ -1,4 +1,4 @@
-#include "shell/PlainDialogTabs.h"
+#include "dialogs/PlainDialogTabs.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -7,7 +7,7 @@
 #include <QtQuickTemplates2/private/qquickcontainer_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include "shell/PlainDialogParts.h"
+#include "dialogs/PlainDialogParts.h"
 
 namespace Loadwick {
 namespace {

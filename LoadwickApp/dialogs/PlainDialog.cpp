@@ -1,4 +1,4 @@
-#include "shell/PlainDialog.h"
+#include "dialogs/PlainDialog.h"
 
 #include <QCoreApplication>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
@@ -8,13 +8,13 @@
 #include <QtQuickTemplates2/private/qquickoverlay_p_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include "shell/EnterPress.h"
+#include "dialogs/EnterPress.h"
+#include "dialogs/PlainDialogLook.h"
+#include "dialogs/PlainDialogParts.h"
+#include "dialogs/PlainDialogTabs.h"
+#include "dialogs/PlainFolderDialog.h"
+#include "dialogs/PlainSaveDialog.h"
 #include "shell/FolderUrl.h"
-#include "shell/PlainDialogLook.h"
-#include "shell/PlainDialogParts.h"
-#include "shell/PlainDialogTabs.h"
-#include "shell/PlainFolderDialog.h"
-#include "shell/PlainSaveDialog.h"
 
 namespace Loadwick::PlainDialog {
 namespace {

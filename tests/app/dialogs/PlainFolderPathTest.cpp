@@ -1,4 +1,4 @@
-#include "shell/PlainFolderPath.h"
+#include "dialogs/PlainFolderPath.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,12 +1,12 @@
-#include "shell/PlainSaveDialog.h"
+#include "dialogs/PlainSaveDialog.h"
 
 #include <QDir>
 #include <QUrl>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include "shell/FileKinds.h"
+#include "dialogs/FileKinds.h"
+#include "dialogs/PlainDialogParts.h"
 #include "shell/FolderUrl.h"
-#include "shell/PlainDialogParts.h"
 
 namespace Loadwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/FileKinds.h"
+#include "dialogs/FileKinds.h"
 
 #include <QStringList>
 #include <QVariant>

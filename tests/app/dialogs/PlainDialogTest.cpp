@@ -1,4 +1,4 @@
-#include "shell/PlainDialog.h"
+#include "dialogs/PlainDialog.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "shell/EnterPress.h"
+#include "dialogs/EnterPress.h"
 
 #include <QKeyEvent>
 #include <QQuickWindow>

@@ -1,4 +1,4 @@
-#include "shell/PlainDialogText.h"
+#include "dialogs/PlainDialogText.h"
 
 #include <QQmlEngine>
 

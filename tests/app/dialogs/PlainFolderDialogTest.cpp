@@ -1,4 +1,4 @@
-#include "shell/PlainFolderDialog.h"
+#include "dialogs/PlainFolderDialog.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "shell/EnterPress.h"
+#include "dialogs/EnterPress.h"
 
 #include <filesystem>
 #include <memory>
@@ -6,8 +6,8 @@
 
 #include <QTest>
 
+#include "dialogs/DialogFolderChooser.h"
 #include "export/DialogFileSaver.h"
-#include "shell/DialogFolderChooser.h"
 #include "support/DialogWindow.h"
 #include "support/TestRegistry.h"
 

@@ -1,4 +1,4 @@
-#include "shell/PlainDialogTabs.h"
+#include "dialogs/PlainDialogTabs.h"
 
 #include <algorithm>
 #include <memory>

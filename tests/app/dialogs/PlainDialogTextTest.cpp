@@ -1,4 +1,4 @@
-#include "shell/PlainDialogText.h"
+#include "dialogs/PlainDialogText.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -8,8 +8,8 @@
 #include <QTcpServer>
 #include <QTest>
 
+#include "dialogs/DialogFolderChooser.h"
 #include "export/DialogFileSaver.h"
-#include "shell/DialogFolderChooser.h"
 #include "shell/QtText.h"
 #include "support/DialogWindow.h"
 #include "support/TestRegistry.h"

@@ -1,4 +1,4 @@
-#include "shell/ShownName.h"
+#include "dialogs/ShownName.h"
 
 namespace Loadwick {
 namespace {
