@@ -11,11 +11,17 @@ function(loadwick_qt_strictness target)
                                                  QT_NO_KEYWORDS)
 endfunction()
 
-# A newly globbed file does not by itself make CMake 3.25 run moc again; a list that changes with the
-# files does.
+# A newly globbed file does not by itself make CMake 3.25 run moc again, as none of the files that it
+# has read changed; without the stamp of its last run it does.
 function(loadwick_moc_follows target)
     set(list "${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt")
-    list(JOIN ARGN "\n" names)
-    file(CONFIGURE OUTPUT "${list}" CONTENT "${names}\n")
-    set_property(TARGET ${target} APPEND PROPERTY AUTOGEN_TARGET_DEPENDS "${list}")
+    set(known)
+    if(EXISTS "${list}")
+        file(STRINGS "${list}" known)
+    endif()
+    if(NOT "${known}" STREQUAL "${ARGN}")
+        list(JOIN ARGN "\n" names)
+        file(WRITE "${list}" "${names}\n")
+        file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
+    endif()
 endfunction()
