@@ -9,6 +9,7 @@
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
 #include "dialogs/EnterPress.h"
+#include "dialogs/ListedFolder.h"
 #include "dialogs/PlainDialogLook.h"
 #include "dialogs/PlainDialogParts.h"
 #include "dialogs/PlainDialogTabs.h"
@@ -96,6 +97,7 @@ void makeReachable(QQuickWindow &window)
         EnterPress::takeOver(*popup);
         PlainDialogLook::takeOver(*popup);
         PlainDialogTabs::takeOver(*popup);
+        ListedFolder::takeOver(*popup);
         if (auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
             forgetAnswers(*name);
             acceptByEnter(*popup, *name);

@@ -19,7 +19,7 @@ Item {
         anchors.centerIn: parent
         // Neither what is hidden nor what may not be looked into is in the list.
         text: face.showsFiles ? qsTr("Nothing to show") : qsTr("No folders to show")
-        visible: face.part.count === 0 && face.folders.status === FolderListModel.Ready
+        visible: face.part.count === 0 && face.folders.status !== FolderListModel.Loading
         secondary: true
     }
     // A line that is highlighted shows the keyboard itself.
