@@ -26,28 +26,19 @@ FileDialogDelegate {
     file: line.fileUrl
     Accessible.name: ShownName.of(line.fileName)
 
-    // Without a question to the disk: the folder may be gone, and then shows nothing.
-    function enterFolder() {
-        const folders = line.dialog as FolderDialogImpl;
-        if (folders)
-            folders.currentFolder = line.fileUrl;
-        else
-            (line.dialog as FileDialogImpl).currentFolder = line.fileUrl;
-    }
-
     function answerKey(event) {
         event.accepted = line.fileIsDir;
         if (line.fileIsDir && !event.isAutoRepeat)
-            line.enterFolder();
+            FolderLine.enter(line);
     }
 
-    onDoubleClicked: if (line.fileIsDir) line.enterFolder()
+    onDoubleClicked: if (line.fileIsDir) FolderLine.enter(line)
     Keys.onReturnPressed: event => line.answerKey(event)
     Keys.onEnterPressed: event => line.answerKey(event)
     Keys.onSpacePressed: event => line.answerKey(event)
     Component.onCompleted: {
         if (line.fileIsDir)
-            DoubleClick.takeFromQt(line);
+            FolderLine.takeFromQt(line);
         // Where Tab leads the list knows, for whichever line.
         line.KeyNavigation.tab = null;
         line.KeyNavigation.backtab = null;
