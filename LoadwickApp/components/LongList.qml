@@ -71,7 +71,13 @@ FocusScope {
         return row && row !== list.Window.activeFocusItem ? rows.indexAt(0, row.y) : -1;
     }
 
+    // NaN for a key that moves nothing, as at the end of the list: the page may have a use for it.
     function indexAfterKey(key) {
+        const index = Math.max(0, Math.min(rows.count - 1, list.indexBeyond(key)));
+        return index === list.currentIndex ? NaN : index;
+    }
+
+    function indexBeyond(key) {
         const page = Math.max(1, Math.floor(list.viewport.height / list.rowHeight) - 1);
         switch (key) {
         case Qt.Key_Up: return list.currentIndex - 1;

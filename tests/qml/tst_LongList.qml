@@ -8,6 +8,9 @@ Item {
     width: 400
     height: 400
 
+    property string keysLeft: ""
+    Keys.onPressed: event => { scene.keysLeft += event.key + " "; }
+
     Button {
         id: before
         y: -50
@@ -283,6 +286,38 @@ Item {
             compare(list.currentIndex, 999);
             keyClick(Qt.Key_Home);
             compare(list.currentIndex, 0);
+        }
+
+        function test_keysThatMoveNothingAreLeftToThePage_data() {
+            return [
+                { tag: "up", rows: 3, way: Qt.Key_Home, key: Qt.Key_Up },
+                { tag: "page up", rows: 3, way: Qt.Key_Home, key: Qt.Key_PageUp },
+                { tag: "home", rows: 3, way: Qt.Key_Home, key: Qt.Key_Home },
+                { tag: "down", rows: 3, way: Qt.Key_End, key: Qt.Key_Down },
+                { tag: "page down", rows: 3, way: Qt.Key_End, key: Qt.Key_PageDown },
+                { tag: "end", rows: 3, way: Qt.Key_End, key: Qt.Key_End },
+                { tag: "page down in one row", rows: 1, way: Qt.Key_Home, key: Qt.Key_PageDown }
+            ];
+        }
+
+        function test_keysThatMoveNothingAreLeftToThePage(data) {
+            show(data.rows);
+            list.forceActiveFocus();
+            keyClick(data.way);
+            const index = list.currentIndex;
+            scene.keysLeft = "";
+            keyClick(data.key);
+            compare(list.currentIndex, index);
+            compare(scene.keysLeft, data.key + " ");
+        }
+
+        function test_keysThatMoveAreNotLeftToThePage() {
+            show(1000);
+            list.forceActiveFocus();
+            scene.keysLeft = "";
+            for (const key of [Qt.Key_Down, Qt.Key_PageDown, Qt.Key_End, Qt.Key_Up, Qt.Key_PageUp, Qt.Key_Home])
+                keyClick(key);
+            compare(scene.keysLeft, "");
         }
 
         function test_scrollsThePageToTheCurrentRow_data() {
