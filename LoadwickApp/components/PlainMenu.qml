@@ -4,6 +4,8 @@ import Loadwick
 
 // A menu of plain items, on a card that floats.
 Menu {
+    id: menu
+
     padding: AppTheme.tightSpace
 
     background: Rectangle {
@@ -11,4 +13,5 @@ Menu {
         color: AppTheme.surface
         border { width: AppTheme.hairline; color: AppTheme.separator }
     }
+    contentItem: PlainMenuRows { menu: menu }
 }
