@@ -9,6 +9,7 @@
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
 #include "dialogs/EnterPress.h"
+#include "dialogs/ListKeys.h"
 #include "dialogs/ListedFolder.h"
 #include "dialogs/PlainDialogLook.h"
 #include "dialogs/PlainDialogParts.h"
@@ -98,6 +99,7 @@ void makeReachable(QQuickWindow &window)
         PlainDialogLook::takeOver(*popup);
         PlainDialogTabs::takeOver(*popup);
         ListedFolder::takeOver(*popup);
+        ListKeys::takeOver(*popup);
         if (auto *name = qobject_cast<QQuickTextInput *>(fileName)) {
             forgetAnswers(*name);
             acceptByEnter(*popup, *name);
