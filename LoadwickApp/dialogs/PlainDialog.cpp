@@ -85,6 +85,14 @@ void takeTypedName(QQuickPopup &dialog, QQuickTextInput &name)
     });
 }
 
+// What is typed takes the place of the name that is suggested.
+void beginWithName(QQuickItem &field)
+{
+    field.forceActiveFocus(Qt::PopupFocusReason);
+    if (auto *name = qobject_cast<QQuickTextInput *>(&field))
+        name->selectAll();
+}
+
 } // namespace
 
 void makeReachable(QQuickWindow &window)
@@ -110,7 +118,7 @@ void makeReachable(QQuickWindow &window)
             PlainFolderDialog::takeOver(*popup);
         popup->forceActiveFocus(Qt::PopupFocusReason);
         if (fileName != nullptr && fileName->isVisible())
-            fileName->forceActiveFocus(Qt::PopupFocusReason);
+            beginWithName(*fileName);
     }
 }
 

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void theKeyboardIsOnTheName();
+    void whatIsTypedAtOnceReplacesTheName();
     void enterInTheNameSaves_data();
     void enterInTheNameSaves();
     void enterSavesUnderTheNameThatWasTyped_data();
@@ -124,6 +125,19 @@ void DialogFileSaverTest::theKeyboardIsOnTheName()
     open();
     QCOMPARE(m_window->activeFocusItem()->property("text").toString(),
              QStringLiteral("figures.csv"));
+}
+
+void DialogFileSaverTest::whatIsTypedAtOnceReplacesTheName()
+{
+    // At the second opening as at the first.
+    for (const QByteArray &name : {QByteArray("a.csv"), QByteArray("b.csv")}) {
+        open();
+        for (const char letter : name)
+            QTest::keyClick(m_window.get(), letter);
+        press(Qt::Key_Return);
+        QVERIFY(m_place);
+        QCOMPARE(m_place->file, m_folder->path() / name.toStdString());
+    }
 }
 
 void DialogFileSaverTest::enterInTheNameSaves_data()
