@@ -30,6 +30,13 @@ bool isPlainDialog(const QQuickPopup &popup)
            (popup.inherits("QQuickFileDialogImpl") || popup.inherits("QQuickFolderDialogImpl"));
 }
 
+// Qt leaves the rest of the window within reach, and takes a press on it for the dialog's end.
+void standInFront(QQuickPopup &dialog)
+{
+    dialog.setClosePolicy(QQuickPopup::CloseOnEscape);
+    dialog.setModal(true);
+}
+
 void name(QObject *item, const QString &words)
 {
     if (auto *accessible = PlainDialogParts::accessible(item))
@@ -101,6 +108,7 @@ void makeReachable(QQuickWindow &window)
     for (QQuickPopup *popup : popups) {
         if (!isPlainDialog(*popup))
             continue;
+        standInFront(*popup);
         QQuickItem *fileName = PlainDialogParts::nameField(*popup);
         nameParts(*popup, fileName);
         EnterPress::takeOver(*popup);

@@ -38,6 +38,13 @@ bool hasWords(const QQuickItem &item)
            !item.property("text").toString().isEmpty();
 }
 
+/// Of a field all of it is selected, or nothing.
+QColor colourOfWords(const QQuickItem &item)
+{
+    const bool isSelected = !item.property("selectedText").toString().isEmpty();
+    return item.property(isSelected ? "selectedTextColor" : "color").value<QColor>();
+}
+
 } // namespace
 
 /// Both dialogs, dark and light, as they are seen.
@@ -132,7 +139,7 @@ QStringList PlainDialogLookTest::unreadable()
             continue;
         const QRect place = item->mapRectToScene(item->boundingRect()).toRect();
         const QColor ground = groundOf(picture, place.intersected(picture.rect()));
-        const QColor colour = blended(item->property("color").value<QColor>(), ground);
+        const QColor colour = blended(colourOfWords(*item), ground);
         if (contrast(colour, ground) < leastForText)
             names.append(item->property("text").toString());
     }

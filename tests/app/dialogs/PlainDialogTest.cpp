@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include <QQmlComponent>
 #include <QTest>
 
 #include "export/DialogFileSaver.h"
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void aTildeShowsTheHomeFolder();
     void aFolderThatIsNotThereIsNoName();
     void aPathLeavesTheFolderThatIsShown();
+    void aPressBesideItLeavesItOpen();
+    void whatIsBehindItIsOutOfReach();
 
 private:
     void open();
@@ -195,6 +198,34 @@ void PlainDialogTest::aPathLeavesTheFolderThatIsShown()
     QCOMPARE(m_window->window().activeFocusItem()->property("text").toString(),
              QStringLiteral("trend.png"));
     QCOMPARE(save(), root() / "trend.png");
+}
+
+void PlainDialogTest::aPressBesideItLeavesItOpen()
+{
+    open();
+    type("other.png");
+    QTest::mouseClick(&m_window->window(), Qt::LeftButton, {}, QPoint(2, 2));
+    QVERIFY(save() == root() / "other.png");
+}
+
+void PlainDialogTest::whatIsBehindItIsOutOfReach()
+{
+    QQmlComponent button(&m_window->engine());
+    button.setData("import QtQuick.Controls\nButton { property bool wasPressed: false; width: 40;"
+                   " height: 40; onClicked: wasPressed = true }",
+                   {});
+    const std::unique_ptr<QObject> behind(button.create());
+    qobject_cast<QQuickItem *>(behind.get())->setParentItem(m_window->window().contentItem());
+    const auto press = [&] {
+        QTest::mouseClick(&m_window->window(), Qt::LeftButton, {}, QPoint(20, 20));
+    };
+    open();
+    press();
+    QVERIFY(!behind->property("wasPressed").toBool());
+    m_window->press(Qt::Key_Escape);
+    QTRY_VERIFY(m_window->focusedName() != QStringLiteral("fileNameTextField"));
+    press();
+    QTRY_VERIFY(behind->property("wasPressed").toBool());
 }
 
 const RegisteredTest<PlainDialogTest> registered("PlainDialog");
