@@ -8,8 +8,6 @@
 namespace Loadwick {
 namespace {
 
-constexpr int nothingThere = 0; // FolderListModel.Null
-
 QUrl addressOfAddress(const QUrl &folder)
 {
     return QUrl::fromLocalFile(folder.path(QUrl::FullyEncoded));
@@ -28,19 +26,17 @@ void ListedFolder::takeOver(QQuickPopup &dialog)
 ListedFolder::ListedFolder(QQuickPopup &dialog, QObject &folders)
     : QObject(&dialog), m_dialog(dialog), m_folders(folders)
 {
-    // By name: Qt tells these signals to QML alone. The first of them does not come when one folder
-    // after another is not found.
-    connect(&folders, SIGNAL(statusChanged()), this, SLOT(find()));
-    connect(&folders, SIGNAL(rowCountChanged()), this, SLOT(find()));
+    // By name: Qt tells this signal to QML alone, and to the page of the dialog before us: the
+    // model has its folder by then.
+    connect(&dialog, SIGNAL(currentFolderChanged(QUrl)), this, SLOT(find()));
     find();
 }
 
 void ListedFolder::find()
 {
     const QUrl folder = m_dialog.property("currentFolder").toUrl();
-    const bool isRefused = m_folders.property("status").toInt() == nothingThere &&
-                           m_folders.property("folder").toUrl() == folder;
-    if (isRefused && folder.isLocalFile() && addressOfAddress(folder) != folder)
+    const bool isMistaken = folder.isLocalFile() && addressOfAddress(folder) != folder;
+    if (isMistaken && m_folders.property("folder").toUrl() == folder)
         m_folders.setProperty("folder", addressOfAddress(folder));
 }
 

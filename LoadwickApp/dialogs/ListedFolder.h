@@ -7,8 +7,8 @@ class QQuickPopup;
 namespace Loadwick {
 
 /// Has the list of a dialog that Qt draws inside the window show what is in a folder with "#", "?"
-/// or "%" in its path. The model of the list takes the path of its folder for an address once more,
-/// and so finds none. Belongs to the dialog.
+/// or "%" in its path. The model of the list, in Qt 6.4, takes the path of its folder for an
+/// address once more, and so finds another folder or none. Belongs to the dialog.
 class ListedFolder final : public QObject
 {
     Q_OBJECT

@@ -36,6 +36,7 @@ private:
     /// By the way of the test's row, at once: the list has not heard of what happened.
     void enterBare();
     /// In the folder of the window, with the folder "inner" in it; the name of the test's row.
+    /// Beside it are folders with "other" in them, for which the name could be mistaken.
     QByteArray make();
 
     std::unique_ptr<FolderDialogWindow> m_window;
@@ -44,14 +45,27 @@ private:
 void ListedFolderTest::names()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char *name : {"c#", "a?b", "100%", "100%25", "a%23b", "a b", "a:b", "~"})
-        QTest::newRow(name) << QByteArray(name);
+    QTest::addColumn<QByteArray>("mistaken");
+    const auto add = [](const char *name, const char *mistaken) {
+        QTest::newRow(name) << QByteArray(name) << QByteArray(mistaken);
+    };
+    add("c#", "c");
+    add("a?b", "a");
+    add("100%", "100");
+    add("100%25", "100%");
+    add("a%23b", "a#b");
+    add("a%20b", "a b");
+    add("a b", "a");
+    add("a:b", "b");
+    add("~", "a");
 }
 
 QByteArray ListedFolderTest::make()
 {
     QFETCH(const QByteArray, name);
+    QFETCH(const QByteArray, mistaken);
     std::filesystem::create_directories(m_window->root() / name.toStdString() / "inner");
+    std::filesystem::create_directories(m_window->root() / mistaken.toStdString() / "other");
     return name;
 }
 
@@ -63,6 +77,7 @@ void ListedFolderTest::showsWhatIsInAFolderWhateverItsName()
     QTRY_VERIFY((line = m_window->find("fileName", QString::fromUtf8(name))) != nullptr);
     m_window->doubleClick(line);
     QTRY_VERIFY(m_window->line("inner") != nullptr);
+    QVERIFY(m_window->line("other") == nullptr);
     QCOMPARE(m_window->choose(), m_window->root() / name.toStdString());
 }
 
@@ -72,6 +87,7 @@ void ListedFolderTest::showsWhatIsInAFolderThatIsTyped()
     m_window->open();
     m_window->enterPath("./" + name.toStdString());
     QTRY_VERIFY(m_window->line("inner") != nullptr);
+    QVERIFY(m_window->line("other") == nullptr);
     m_window->press(Qt::Key_Down);
     QCOMPARE(m_window->choose(), m_window->root() / name.toStdString() / "inner");
 }
@@ -87,6 +103,7 @@ void ListedFolderTest::theSaveDialogShowsIt()
                 .filters = {QStringLiteral("Comma-separated values (*.csv)")}},
                [&saved](const FileSaver::Place &place) { saved = place.file; });
     QTRY_VERIFY(m_window->line("inner") != nullptr);
+    QVERIFY(m_window->line("other") == nullptr);
     m_window->press(Qt::Key_Return);
     QCOMPARE(saved, folder / "figures.csv");
 }
