@@ -24,11 +24,12 @@ FolderBreadcrumbBar {
         border { width: AppTheme.hairline; color: AppTheme.separator }
     }
     contentItem: ListView {
+        id: parts
+
         implicitHeight: AppTheme.controlHeight
         currentIndex: bar.currentIndex
         model: bar.contentModel
         orientation: ListView.Horizontal
-        snapMode: ListView.SnapToItem
         highlightMoveDuration: 0
         interactive: false
         clip: true
@@ -41,6 +42,8 @@ FolderBreadcrumbBar {
 
         // Of the last one. Between two there is a separator.
         KeyNavigation.tab: part.index * 2 === bar.count - 1 ? bar.list : null
+        // Of a path that is wider than the bar.
+        onActiveFocusChanged: if (part.activeFocus) parts.positionViewAtIndex(part.index * 2, ListView.Contain)
         Accessible.name: ShownName.of(part.folderName)
         contentItem: SilentText {
             text: ShownName.of(part.folderName)

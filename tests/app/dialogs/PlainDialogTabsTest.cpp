@@ -27,6 +27,8 @@ private Q_SLOTS:
     void theSaveDialogIsGoneRound();
     void theListLeadsToTheAnswerWhicheverButtonHadTheKeyboardBefore();
     void aPathThatIsTypedLeadsToTheList();
+    void thePartOfALongPathThatHasTheKeyboardIsInSight_data() { directions(); }
+    void thePartOfALongPathThatHasTheKeyboardIsInSight();
     void aListWithoutAHighlightedLineShowsThatItHasTheKeyboard();
     void anEmptyListSaysSo();
 
@@ -182,6 +184,29 @@ void PlainDialogTabsTest::aPathThatIsTypedLeadsToTheList()
     m_window->press(Qt::Key_Tab);
     QCOMPARE(focused(), QStringLiteral("list"));
     QVERIFY(m_window->findNamed(QStringLiteral("Path")) == nullptr);
+}
+
+void PlainDialogTabsTest::thePartOfALongPathThatHasTheKeyboardIsInSight()
+{
+    const std::string name(40, 'n');
+    const std::filesystem::path folder = m_window->root() / name / name / name / "end";
+    std::filesystem::create_directories(folder);
+    m_window->open();
+    m_window->enterPath(folder.string());
+    QTRY_VERIFY(m_window->findNamed(QStringLiteral("No folders to show")) != nullptr);
+    int parts = 0;
+    for (int count = 0; count < 12; ++count, step()) {
+        const QQuickItem *part = m_window->window().activeFocusItem();
+        if (!part->property("folderName").isValid())
+            continue;
+        ++parts;
+        const QQuickItem *path = part->parentItem()->parentItem();
+        // The path stands at whole pixels.
+        const QRectF sight = path->boundingRect().adjusted(-1, 0, 1, 0);
+        QVERIFY2(sight.contains(part->mapRectToItem(path, part->boundingRect())),
+                 qPrintable(focused()));
+    }
+    QCOMPARE(parts, 7);
 }
 
 void PlainDialogTabsTest::aListWithoutAHighlightedLineShowsThatItHasTheKeyboard()

@@ -223,7 +223,7 @@ void PlainDialogTest::whatIsBehindItIsOutOfReach()
     press();
     QVERIFY(!behind->property("wasPressed").toBool());
     m_window->press(Qt::Key_Escape);
-    QTRY_VERIFY(m_window->focusedName() != QStringLiteral("fileNameTextField"));
+    QTRY_VERIFY(m_window->find("text", QStringLiteral("Cancel")) == nullptr);
     press();
     QTRY_VERIFY(behind->property("wasPressed").toBool());
 }
