@@ -11,6 +11,8 @@ AbstractButton {
     // Made when it is first asked for.
     property RecentMenu menu: null
     readonly property bool isOpen: button.menu !== null && button.menu.visible
+    // Since the pointer or the keyboard came here: there is nothing left to explain.
+    property bool wasOpen: false
 
     function open() {
         if (!button.menu) {
@@ -33,6 +35,9 @@ AbstractButton {
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onDownPressed: button.clicked()
     onClicked: button.open()
+    onIsOpenChanged: if (button.isOpen) button.wasOpen = true
+    onActiveFocusChanged: if (!button.activeFocus && !button.isOpen) button.wasOpen = false
+    onHoveredChanged: if (!button.isOpen) button.wasOpen = false
 
     contentItem: Item {
         Symbol {
@@ -54,7 +59,7 @@ AbstractButton {
     FocusRing { shown: button.visualFocus }
     LateToolTip {
         words: qsTr("Choose a repository that was scanned before")
-        wanted: !button.isOpen && (button.hovered || button.visualFocus)
+        wanted: button.enabled && !button.wasOpen && (button.hovered || button.visualFocus)
     }
 
     Loader { id: loader }

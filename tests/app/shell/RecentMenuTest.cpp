@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 
@@ -6,6 +7,7 @@
 
 #include "shell/RecentRepositories.h"
 #include "support/TestRegistry.h"
+#include "support/VisualItems.h"
 #include "support/WindowFixture.h"
 
 namespace Loadwick {
@@ -20,8 +22,11 @@ private Q_SLOTS:
     void cleanup() { m_window.reset(); }
     void theKeysOfAPageGoToItsEnds_data();
     void theKeysOfAPageGoToItsEnds();
+    void itsButtonIsExplainedUntilItWasOpen();
 
 private:
+    [[nodiscard]] QPoint middleOf(const QString &name) const;
+    [[nodiscard]] bool isExplained() const;
     void scan(const char *name);
     void open();
     [[nodiscard]] static QString titleOf(RecentRepositories &recent, int row);
@@ -76,6 +81,42 @@ void RecentMenuTest::theKeysOfAPageGoToItsEnds()
     m_window->press(Qt::Key_Return);
     QCOMPARE(m_window->loadwick().model().selection().get()->path(),
              m_window->folder().path() / titleOf(recent, row).toStdString());
+}
+
+QPoint RecentMenuTest::middleOf(const QString &name) const
+{
+    const auto *item = qobject_cast<QQuickItem *>(m_window->find(name)->object());
+    return item->mapRectToScene(item->boundingRect()).center().toPoint();
+}
+
+bool RecentMenuTest::isExplained() const
+{
+    const QList<QQuickItem *> items = shownItems(*m_window->loadwick().window().contentItem());
+    return std::any_of(items.begin(), items.end(), [](const QQuickItem *item) {
+        return item->property("text").toString() ==
+               QStringLiteral("Choose a repository that was scanned before");
+    });
+}
+
+void RecentMenuTest::itsButtonIsExplainedUntilItWasOpen()
+{
+    constexpr int longerThanTheDelay = 1000; // milliseconds
+    QQuickWindow &window = m_window->loadwick().window();
+    scan("one");
+    scan("two");
+    const QPoint button = middleOf(QStringLiteral("Scanned repositories"));
+    QTest::mouseMove(&window, button);
+    QTRY_VERIFY(isExplained());
+    QTest::mouseClick(&window, Qt::LeftButton, {}, button);
+    QVERIFY(!isExplained());
+    m_window->finishScan(); // what looks for the folders
+    m_window->press(Qt::Key_Down);
+    m_window->press(Qt::Key_Return);
+    QTest::qWait(longerThanTheDelay); // the pointer is still there
+    QVERIFY(!isExplained());
+    QTest::mouseMove(&window, QPoint(1, 1));
+    QTest::mouseMove(&window, button);
+    QTRY_VERIFY(isExplained());
 }
 
 const RegisteredTest<RecentMenuTest> registered("RecentMenu");
