@@ -1,5 +1,7 @@
 #include "trends/TrendsPresenter.h"
 
+#include <utility>
+
 #include "history/ScanHistory.h"
 #include "history/ScanTables.h"
 #include "shell/QtText.h"
@@ -31,13 +33,17 @@ TrendsPresenter::TrendsPresenter(ScanModel &model, const TextLocale &locale)
     showHistory();
 }
 
+std::optional<std::string> TrendsPresenter::shownRepository() const
+{
+    const auto &selection = m_model.selection().get();
+    return selection ? selection->path()
+                     : ScanHistory::mostRecentRepositoryPath(m_model.history().get());
+}
+
 std::vector<RecordedScan> TrendsPresenter::shownScans() const
 {
-    const std::vector<RecordedScan> &history = m_model.history().get();
-    const auto &selection = m_model.selection().get();
-    const auto path =
-        selection ? selection->path() : ScanHistory::mostRecentRepositoryPath(history);
-    return path ? ScanHistory::scans(history, *path) : std::vector<RecordedScan>();
+    const auto path = shownRepository();
+    return path ? ScanHistory::scans(m_model.history().get(), *path) : std::vector<RecordedScan>();
 }
 
 std::string TrendsPresenter::table() const
@@ -56,6 +62,8 @@ void TrendsPresenter::showRepository()
         m_chart.show(scans);
     m_summary.show(m_chart.line()->geometry().samples());
     Q_EMIT changed();
+    if (std::exchange(m_repository, shownRepository()) != m_repository)
+        Q_EMIT repositoryChanged();
 }
 
 void TrendsPresenter::showHistory()

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <string>
+#include <vector>
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -46,13 +50,18 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// The page is about another repository than before.
+    void repositoryChanged();
 
 private:
+    /// Its path.
+    [[nodiscard]] std::optional<std::string> shownRepository() const;
     [[nodiscard]] std::vector<RecordedScan> shownScans() const;
     void showRepository();
     void showHistory();
 
     ScanModel &m_model;
+    std::optional<std::string> m_repository;
     QString m_repositoryName;
     QString m_detail;
     TrendChartPresenter m_chart;

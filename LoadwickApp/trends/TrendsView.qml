@@ -9,6 +9,12 @@ PageColumn {
     required property TrendsPresenter trends
     required property PageExport exporter
 
+    Connections {
+        target: page.trends
+
+        // From its beginning.
+        function onRepositoryChanged() { page.viewport.contentY = 0; }
+    }
     PageHeader {
         Layout.fillWidth: true
         title: qsTr("Trends")

@@ -150,6 +150,16 @@ private Q_SLOTS:
         QCOMPARE(flickable->property("contentY").toDouble(), 300.0);
     }
 
+    void anotherRepositoryIsShownFromItsBeginning()
+    {
+        recordMany();
+        QQuickItem *flickable = viewport();
+        QTRY_VERIFY(flickable->property("contentHeight").toDouble() - flickable->height() > 300);
+        flickable->setProperty("contentY", 300);
+        m_window->loadwick().model().select(RepoSelection::fromUrl(m_window->folder().path()));
+        QTRY_COMPARE(flickable->property("contentY").toDouble(), 0.0);
+    }
+
     void theChartIsOneGraphicThatTheKeysRead()
     {
         recordMany();
