@@ -31,6 +31,8 @@ FolderBreadcrumbBar {
         model: bar.contentModel
         orientation: ListView.Horizontal
         highlightMoveDuration: 0
+        // All parts have their places, however far they are out of sight.
+        cacheBuffer: 100000
         interactive: false
         clip: true
     }
