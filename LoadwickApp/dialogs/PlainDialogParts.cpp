@@ -1,5 +1,7 @@
 #include "dialogs/PlainDialogParts.h"
 
+#include <QAbstractItemModel>
+#include <QUrl>
 #include <QtQuick/private/qquickaccessibleattached_p.h>
 #include <QtQuickTemplates2/private/qquickabstractbutton_p.h>
 #include <QtQuickTemplates2/private/qquickdialogbuttonbox_p.h>
@@ -21,6 +23,15 @@ QQuickAbstractButton *acceptingButton(const QQuickPopup &dialog)
     const auto *box =
         qobject_cast<QQuickDialogButtonBox *>(partOf(dialog, "QQuickDialogButtonBox"));
     return box != nullptr ? box->standardButton(QPlatformDialogHelper::Open) : nullptr;
+}
+
+int lineOf(const QUrl &file, const QAbstractItemModel &list)
+{
+    const int role = list.roleNames().key("fileUrl");
+    for (int line = 0; line < list.rowCount(); ++line)
+        if (list.index(line, 0).data(role).toUrl() == file)
+            return line;
+    return -1;
 }
 
 QQuickItem *nameField(const QQuickPopup &dialog)

@@ -1,10 +1,12 @@
 #pragma once
 
+class QAbstractItemModel;
 class QObject;
 class QQuickAbstractButton;
 class QQuickAccessibleAttached;
 class QQuickItem;
 class QQuickPopup;
+class QUrl;
 
 /// What the dialogs that Qt draws inside the window are made of.
 namespace Loadwick::PlainDialogParts {
@@ -14,6 +16,9 @@ namespace Loadwick::PlainDialogParts {
 
 /// The button that ends the dialog with an answer; null when there is none.
 [[nodiscard]] QQuickAbstractButton *acceptingButton(const QQuickPopup &dialog);
+
+/// The place of a folder or file in the list of a dialog; -1 when it is not there.
+[[nodiscard]] int lineOf(const QUrl &file, const QAbstractItemModel &list);
 
 /// What the name of a file is typed into; null in a dialog for folders.
 [[nodiscard]] QQuickItem *nameField(const QQuickPopup &dialog);

@@ -62,7 +62,7 @@ void PlainFolderDialog::keepChoice()
 {
     const QUrl chosen = m_dialog.property("selectedFolder").toUrl();
     QMetaObject::invokeMethod(m_list, "forceLayout");
-    const int line = lineOf(chosen);
+    const int line = PlainDialogParts::lineOf(chosen, *m_folders);
     choose(line == nothing ? m_dialog.property("currentFolder").toUrl() : chosen, line);
 }
 
@@ -71,15 +71,6 @@ void PlainFolderDialog::choose(const QUrl &folder, int line)
     if (m_list)
         m_list->setProperty("currentIndex", line);
     m_dialog.setProperty("selectedFolder", folder);
-}
-
-int PlainFolderDialog::lineOf(const QUrl &folder) const
-{
-    const int role = m_folders->roleNames().key("fileUrl");
-    for (int line = 0; line < m_folders->rowCount(); ++line)
-        if (m_folders->index(line, 0).data(role).toUrl() == folder)
-            return line;
-    return nothing;
 }
 
 void PlainFolderDialog::sayWhatIsChosen()

@@ -33,7 +33,6 @@ private:
     explicit PlainFolderDialog(QQuickPopup &dialog);
 
     void choose(const QUrl &folder, int line);
-    [[nodiscard]] int lineOf(const QUrl &folder) const;
 
     QQuickPopup &m_dialog;
     QPointer<QQuickItem> m_list;

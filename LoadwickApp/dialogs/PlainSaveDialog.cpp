@@ -40,17 +40,33 @@ PlainSaveDialog::PlainSaveDialog(QQuickPopup &dialog)
     : QObject(&dialog),
       m_dialog(dialog),
       m_field(PlainDialogParts::nameField(dialog)),
-      m_list(dialog.findChild<QQuickItem *>(QStringLiteral("fileDialogListView")))
+      m_list(dialog.findChild<QQuickItem *>(QStringLiteral("fileDialogListView"))),
+      m_files(m_list ? m_list->property("model").value<QAbstractItemModel *>() : nullptr)
 {
     // By name: Qt tells these signals to QML alone.
     connect(&dialog, SIGNAL(currentFolderChanged(QUrl)), this, SLOT(keepName()));
     connect(&dialog, SIGNAL(selectedFileChanged(QUrl)), this, SLOT(takeNameOfLine()));
+    if (m_files) {
+        m_files->setProperty("showDirsFirst", true);
+        connect(m_files, SIGNAL(statusChanged()), this, SLOT(keepLine()));
+    }
     if (auto *kind = dialog.property("selectedNameFilter").value<QObject *>())
         connect(kind, SIGNAL(extensionsChanged(QStringList)), this, SLOT(takeKind()));
 }
 
+// Qt highlights a line by its number in a list of its own, which is sorted in another way.
+void PlainSaveDialog::keepLine()
+{
+    if (!m_list || !m_files)
+        return;
+    QMetaObject::invokeMethod(m_list, "forceLayout");
+    const QUrl file = m_dialog.property("selectedFile").toUrl();
+    m_list->setProperty("currentIndex", PlainDialogParts::lineOf(file, *m_files));
+}
+
 void PlainSaveDialog::takeSuggestedName()
 {
+    keepLine(); // that of an earlier opening may be another one's by now
     m_suggested = m_field ? m_field->property("text").toString() : QString();
     m_name = m_suggested;
     m_typedPath.clear();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemModel>
 #include <QObject>
 #include <QPointer>
 #include <QQuickItem>
@@ -12,7 +13,8 @@ namespace Loadwick {
 /// In the dialog that Qt draws inside the window to save a file, the name outlives a change of
 /// folder: the one that was suggested, typed or taken from a file of the list. Qt by itself puts
 /// that of a folder in its place, or none. The ending of the name follows the kind of file that is
-/// chosen. Belongs to the dialog.
+/// chosen. Nothing is highlighted in the list but by the user, and folders stand first in it.
+/// Belongs to the dialog.
 class PlainSaveDialog final : public QObject
 {
     Q_OBJECT
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void takeNameOfLine();
     void keepName();
     void takeKind();
+    void keepLine();
 
 private:
     explicit PlainSaveDialog(QQuickPopup &dialog);
@@ -37,6 +40,7 @@ private:
     QQuickPopup &m_dialog;
     QPointer<QQuickItem> m_field;
     QPointer<QQuickItem> m_list;
+    QPointer<QAbstractItemModel> m_files;
     QString m_suggested;
     QString m_name;
     QString m_typedPath;
