@@ -10,6 +10,10 @@ namespace Loadwick::FileKinds {
 /// That of the kind which is chosen in the dialog, with its dot; empty for none.
 [[nodiscard]] QString chosenEnding(const QObject &dialog);
 
+/// Chooses the kind whose ending the name has; without one the first. Gives its place in the list
+/// of the kinds.
+int chooseKindOf(const QString &name, const QObject &dialog);
+
 /// The end of the name that is the ending of one of the kinds, as it is written there; empty for
 /// none. Another dot is no ending: the "2" of "notes v1.2" names no kind of file.
 [[nodiscard]] QString endingOf(const QString &name, const QObject &dialog);

@@ -69,6 +69,9 @@ void PlainSaveDialog::takeSuggestedName()
     keepLine(); // that of an earlier opening may be another one's by now
     m_suggested = m_field ? m_field->property("text").toString() : QString();
     m_name = m_suggested;
+    const int kind = FileKinds::chooseKindOf(m_suggested, m_dialog);
+    if (QObject *kinds = PlainDialogParts::partOf(m_dialog, "QQuickComboBox"))
+        kinds->setProperty("currentIndex", kind);
     m_typedPath.clear();
     // Each opening takes the answers of an earlier one off the field.
     connect(m_field, SIGNAL(textEdited()), this, SLOT(takeTypedName()), Qt::UniqueConnection);

@@ -35,6 +35,7 @@ void DialogFileSaver::open(const Request &request, Chosen chosen)
     const QUrl folder = dialog->property("currentFolder").toUrl();
     dialog->setProperty("title", request.title);
     dialog->setProperty("nameFilters", request.filters);
+    (void)FileKinds::chooseKindOf(request.name, *dialog);
     dialog->setProperty("selectedFile", fileUrl(folder, request.name));
     m_dialog.open();
 }

@@ -24,6 +24,9 @@ private Q_SLOTS:
     void nothingIsHighlighted();
     void nothingElseThanTheFileIsHighlightedOnceItWasSaved();
     void foldersStandFirst();
+    void theKindIsThatOfTheName();
+    void theKindIsThatOfTheNameAfterAnotherWasChosen();
+    void theKindIsTheFirstForANameOfNone();
 
 private:
     void open(const QString &name);
@@ -120,6 +123,38 @@ void PlainSaveDialogOpeningTest::foldersStandFirst()
     open(QStringLiteral("trend.png"));
     QCOMPARE(lines(), QStringList({QStringLiteral("first"), QStringLiteral("sub"),
                                    QStringLiteral("old.png")}));
+}
+
+void PlainSaveDialogOpeningTest::theKindIsThatOfTheName()
+{
+    open(QStringLiteral("trend.svg"));
+    QCOMPARE(chosenKind(), QStringLiteral("SVG drawing (*.svg)"));
+    m_window->press(Qt::Key_Escape);
+    open(QStringLiteral("trend.png"));
+    QCOMPARE(chosenKind(), QStringLiteral("PNG picture (*.png)"));
+}
+
+void PlainSaveDialogOpeningTest::theKindIsThatOfTheNameAfterAnotherWasChosen()
+{
+    open(QStringLiteral("trend.png"));
+    m_window->press(Qt::Key_Tab);
+    m_window->press(Qt::Key_Down);
+    QCOMPARE(chosenKind(), QStringLiteral("SVG drawing (*.svg)"));
+    m_window->click(m_window->find("text", QStringLiteral("Save")));
+    QCOMPARE(m_saved, m_window->folder().path() / "trend.svg");
+    open(QStringLiteral("trend.png"));
+    QCOMPARE(chosenKind(), QStringLiteral("PNG picture (*.png)"));
+    QTRY_VERIFY(lines().contains(QStringLiteral("old.png")));
+    m_window->press(Qt::Key_Return);
+    QCOMPARE(m_saved, m_window->folder().path() / "trend.png");
+}
+
+void PlainSaveDialogOpeningTest::theKindIsTheFirstForANameOfNone()
+{
+    open(QStringLiteral("trend.svg"));
+    m_window->press(Qt::Key_Escape);
+    open(QStringLiteral("trend"));
+    QCOMPARE(chosenKind(), QStringLiteral("PNG picture (*.png)"));
 }
 
 const RegisteredTest<PlainSaveDialogOpeningTest> registered("PlainSaveDialogOpening");
