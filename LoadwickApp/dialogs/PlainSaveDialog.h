@@ -13,8 +13,8 @@ namespace Loadwick {
 /// In the dialog that Qt draws inside the window to save a file, the name outlives a change of
 /// folder: the one that was suggested, typed or taken from a file of the list. Qt by itself puts
 /// that of a folder in its place, or none. The ending of the name follows the kind of file that is
-/// chosen. Nothing is highlighted in the list but by the user, and folders stand first in it.
-/// Belongs to the dialog.
+/// chosen. Folders stand first in the list, and of the files the one is highlighted whose name is
+/// shown. Belongs to the dialog.
 class PlainSaveDialog final : public QObject
 {
     Q_OBJECT

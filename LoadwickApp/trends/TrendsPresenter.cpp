@@ -62,8 +62,11 @@ void TrendsPresenter::showRepository()
         m_chart.show(scans);
     m_summary.show(m_chart.line()->geometry().samples());
     Q_EMIT changed();
-    if (std::exchange(m_repository, shownRepository()) != m_repository)
-        Q_EMIT repositoryChanged();
+    auto repository = shownRepository();
+    if (repository == m_repository)
+        return;
+    m_repository = std::move(repository);
+    Q_EMIT repositoryChanged();
 }
 
 void TrendsPresenter::showHistory()
