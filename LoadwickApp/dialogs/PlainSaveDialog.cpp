@@ -59,9 +59,15 @@ void PlainSaveDialog::keepLine()
 {
     if (!m_list || !m_files)
         return;
-    QMetaObject::invokeMethod(m_list, "forceLayout");
     const QUrl file = m_dialog.property("selectedFile").toUrl();
+    const QString name = m_name;
+    const QString typedPath = m_typedPath;
+    // With a line highlighted, a list that was filled anew now takes its first one.
+    QMetaObject::invokeMethod(m_list, "forceLayout");
     m_list->setProperty("currentIndex", PlainDialogParts::lineOf(file, *m_files));
+    m_dialog.setProperty("selectedFile", file);
+    m_name = name;
+    m_typedPath = typedPath;
 }
 
 void PlainSaveDialog::takeSuggestedName()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void cleanup();
     void nothingIsHighlighted();
     void nothingElseThanTheFileIsHighlightedOnceItWasSaved();
+    void theNameStaysWhenFilesComeAndGo();
     void foldersStandFirst();
     void theKindIsThatOfTheName();
     void theKindIsThatOfTheNameAfterAnotherWasChosen();
@@ -31,6 +32,7 @@ private Q_SLOTS:
 private:
     void open(const QString &name);
     [[nodiscard]] QString chosenKind() const;
+    [[nodiscard]] QString name() const;
     [[nodiscard]] QStringList lines() const;
     /// Empty when no line is.
     [[nodiscard]] QString highlighted() const;
@@ -76,6 +78,13 @@ QString PlainSaveDialogOpeningTest::chosenKind() const
     return {};
 }
 
+QString PlainSaveDialogOpeningTest::name() const
+{
+    return m_window->find("objectName", QStringLiteral("fileNameTextField"))
+        ->property("text")
+        .toString();
+}
+
 QStringList PlainSaveDialogOpeningTest::lines() const
 {
     (void)m_window->window().grabWindow(); // a list places its lines when it is drawn
@@ -118,11 +127,28 @@ void PlainSaveDialogOpeningTest::nothingElseThanTheFileIsHighlightedOnceItWasSav
     }
 }
 
+void PlainSaveDialogOpeningTest::theNameStaysWhenFilesComeAndGo()
+{
+    open(QStringLiteral("trend.png"));
+    m_window->click(m_window->find("fileName", QStringLiteral("old.png")));
+    QCOMPARE(name(), QStringLiteral("old.png"));
+    m_window->folder().write("aaa.png", "");
+    QTRY_VERIFY(lines().contains(QStringLiteral("aaa.png")));
+    QTRY_COMPARE(highlighted(), QStringLiteral("old.png"));
+    QCOMPARE(name(), QStringLiteral("old.png"));
+    std::filesystem::remove(m_window->folder().path() / "old.png");
+    QTRY_VERIFY(!lines().contains(QStringLiteral("old.png")));
+    QTRY_COMPARE(highlighted(), QString());
+    QCOMPARE(name(), QStringLiteral("old.png"));
+    m_window->click(m_window->find("text", QStringLiteral("Save")));
+    QCOMPARE(m_saved, m_window->folder().path() / "old.png");
+}
+
 void PlainSaveDialogOpeningTest::foldersStandFirst()
 {
     open(QStringLiteral("trend.png"));
-    QCOMPARE(lines(), QStringList({QStringLiteral("first"), QStringLiteral("sub"),
-                                   QStringLiteral("old.png")}));
+    QTRY_COMPARE(lines(), QStringList({QStringLiteral("first"), QStringLiteral("sub"),
+                                       QStringLiteral("old.png")}));
 }
 
 void PlainSaveDialogOpeningTest::theKindIsThatOfTheName()
