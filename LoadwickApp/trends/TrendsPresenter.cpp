@@ -66,7 +66,8 @@ void TrendsPresenter::showRepository()
     if (repository == m_repository)
         return;
     m_repository = std::move(repository);
-    Q_EMIT repositoryChanged();
+    if (m_repository)
+        Q_EMIT repositoryChanged();
 }
 
 void TrendsPresenter::showHistory()

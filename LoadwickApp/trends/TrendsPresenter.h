@@ -50,7 +50,7 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The page is about another repository than before.
+    /// The page is about another repository than before, and not about none.
     void repositoryChanged();
 
 private:
