@@ -53,8 +53,10 @@ ListKeys::ListKeys(QQuickPopup &dialog) : QObject(&dialog), m_list(*dialog.conte
 
 bool ListKeys::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
     const int count = m_list.property("count").toInt();
-    if (event->type() == QEvent::KeyPress && m_list.hasActiveFocus() && count > 0)
+    if (m_list.hasActiveFocus() && count > 0)
         if (const auto line = lineAfterKey(static_cast<const QKeyEvent *>(event)->key(), m_list)) {
             m_list.setProperty("currentIndex", std::clamp(*line, 0, count - 1));
             return true;
