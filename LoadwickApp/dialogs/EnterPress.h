@@ -7,7 +7,7 @@ class QQuickPopup;
 namespace Loadwick {
 
 /// In a dialog that Qt draws inside the window, Enter presses the button that has the keyboard, as
-/// the space bar does; Qt has no answer to it. A line of a list is no button: Qt itself enters it.
+/// the space bar does; Qt has no answer to it. A line of a list is no button: its own page answers.
 /// Belongs to the dialog.
 class EnterPress final : public QObject
 {
