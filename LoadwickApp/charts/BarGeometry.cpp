@@ -5,7 +5,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "probe/CheckedSum.h"
+#include "text/CheckedSum.h"
 
 namespace Loadwick {
 namespace {

@@ -4,7 +4,7 @@
 #include <set>
 
 #include "charts/DateStep.h"
-#include "report/DateText.h"
+#include "text/DateText.h"
 
 namespace Loadwick {
 namespace {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "charts/DateTick.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

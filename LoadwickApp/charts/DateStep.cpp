@@ -4,8 +4,8 @@
 
 #include <unicode/gregocal.h>
 
-#include "probe/Fatal.h"
-#include "report/DateText.h"
+#include "text/DateText.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 namespace {

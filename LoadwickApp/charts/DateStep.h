@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -1,8 +1,8 @@
 #include "charts/TrendLine.h"
 
-#include "report/DateText.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/DateText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 

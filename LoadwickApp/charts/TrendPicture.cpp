@@ -6,10 +6,10 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "base/QtText.h"
 #include "charts/DateAxisScale.h"
-#include "report/NumberText.h"
 #include "report/OpinionBand.h"
-#include "shell/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

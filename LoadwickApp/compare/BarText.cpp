@@ -2,8 +2,8 @@
 
 #include <QCoreApplication>
 
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick::BarText {
 

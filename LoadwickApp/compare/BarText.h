@@ -5,7 +5,7 @@
 
 #include <QString>
 
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 /// What is said of one bar.
 namespace Loadwick::BarText {

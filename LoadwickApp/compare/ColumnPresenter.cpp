@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "base/QtText.h"
 #include "compare/BarText.h"
-#include "report/DateText.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "text/DateText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

@@ -8,7 +8,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "compare/ComparePresenter.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

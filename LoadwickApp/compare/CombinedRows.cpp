@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "base/QtText.h"
 #include "compare/BarText.h"
-#include "shell/QtText.h"
 
 namespace Loadwick {
 

@@ -6,7 +6,7 @@
 
 #include "charts/GroupedRows.h"
 #include "compare/Comparison.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

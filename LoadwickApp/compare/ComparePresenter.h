@@ -12,7 +12,7 @@
 #include "compare/Comparison.h"
 #include "compare/LeaderboardRows.h"
 #include "model/ScanModel.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/QtText.h"
 #include "components/TrendMark.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,7 +5,7 @@
 #include <QAbstractListModel>
 
 #include "history/LeaderboardEntry.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

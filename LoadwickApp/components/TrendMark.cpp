@@ -1,7 +1,7 @@
 #include "components/TrendMark.h"
 
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

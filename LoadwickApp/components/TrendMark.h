@@ -8,7 +8,7 @@
 
 #include "components/TrendKind.h"
 #include "history/TrendDirection.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

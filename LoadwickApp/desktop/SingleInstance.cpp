@@ -7,7 +7,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "probe/Deadline.h"
+#include "process/Deadline.h"
 
 namespace Loadwick {
 namespace {

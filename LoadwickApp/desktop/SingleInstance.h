@@ -8,7 +8,7 @@
 #include <QSocketNotifier>
 
 #include "desktop/LocalAddress.h"
-#include "probe/FileDescriptor.h"
+#include "posix/FileDescriptor.h"
 
 namespace Loadwick {
 

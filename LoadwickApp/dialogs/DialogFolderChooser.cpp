@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "shell/FolderUrl.h"
+#include "base/FolderUrl.h"
 
 namespace Loadwick {
 

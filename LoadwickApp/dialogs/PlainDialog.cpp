@@ -8,6 +8,7 @@
 #include <QtQuickTemplates2/private/qquickoverlay_p_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
+#include "base/FolderUrl.h"
 #include "dialogs/EnterPress.h"
 #include "dialogs/ListKeys.h"
 #include "dialogs/ListedFolder.h"
@@ -16,7 +17,6 @@
 #include "dialogs/PlainDialogTabs.h"
 #include "dialogs/PlainFolderDialog.h"
 #include "dialogs/PlainSaveDialog.h"
-#include "shell/FolderUrl.h"
 
 namespace Loadwick::PlainDialog {
 namespace {

@@ -5,8 +5,8 @@
 #include <QVariant>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
+#include "base/QmlObject.h"
 #include "dialogs/PlainDialogParts.h"
-#include "shell/QmlObject.h"
 
 namespace Loadwick {
 namespace {

@@ -6,9 +6,9 @@
 #include <QtQuick/private/qquicktextinput_p.h>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
-#include "probe/PathText.h"
-#include "shell/FolderUrl.h"
-#include "shell/QtTaskDispatcher.h"
+#include "base/FolderUrl.h"
+#include "base/QtTaskDispatcher.h"
+#include "text/PathText.h"
 
 namespace Loadwick {
 

@@ -4,9 +4,9 @@
 #include <QUrl>
 #include <QtQuickTemplates2/private/qquickpopup_p.h>
 
+#include "base/FolderUrl.h"
 #include "dialogs/FileKinds.h"
 #include "dialogs/PlainDialogParts.h"
-#include "shell/FolderUrl.h"
 
 namespace Loadwick {
 namespace {

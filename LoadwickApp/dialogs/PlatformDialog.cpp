@@ -5,9 +5,9 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 
+#include "base/QmlObject.h"
 #include "dialogs/PlainDialog.h"
 #include "dialogs/PlainDialogText.h"
-#include "shell/QmlObject.h"
 
 namespace Loadwick {
 

@@ -5,10 +5,10 @@
 #include <QtGui/private/qguiapplication_p.h>
 #include <QtGui/qpa/qplatformtheme.h>
 
+#include "base/FolderUrl.h"
+#include "base/QtText.h"
 #include "dialogs/FileKinds.h"
-#include "probe/PathText.h"
-#include "shell/FolderUrl.h"
-#include "shell/QtText.h"
+#include "text/PathText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,10 +5,10 @@
 
 #include <QPointer>
 
+#include "base/QtText.h"
 #include "export/SavingFailure.h"
-#include "history/AtomicFile.h"
-#include "probe/PathText.h"
-#include "shell/QtText.h"
+#include "posix/AtomicFile.h"
+#include "text/PathText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <QPointer>
 
+#include "base/QtText.h"
 #include "report/OpinionBand.h"
-#include "shell/QtText.h"
 
 namespace Loadwick {
 namespace {

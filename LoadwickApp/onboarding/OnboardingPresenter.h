@@ -8,10 +8,10 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/TextRows.h"
 #include "model/OnboardingFlow.h"
 #include "model/TaskDispatcher.h"
 #include "onboarding/OnboardingStepTexts.h"
-#include "shell/TextRows.h"
 
 namespace Loadwick {
 

@@ -1,6 +1,6 @@
 #include "onboarding/OnboardingStepTexts.h"
 
-#include "shell/QtText.h"
+#include "base/QtText.h"
 
 namespace Loadwick {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "model/OnboardingCompletionStore.h"
-#include "probe/ProcessContext.h"
+#include "posix/ProcessContext.h"
 
 namespace Loadwick {
 

@@ -1,10 +1,10 @@
 #include "overview/BandTexts.h"
 
+#include "base/QtText.h"
 #include "overview/HeadroomScore.h"
 #include "report/BandScale.h"
-#include "report/NumberText.h"
 #include "report/OpinionBand.h"
-#include "shell/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 #include "report/ScanReport.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -7,8 +7,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "overview/BreakdownRows.h"
 #include "report/ScanReport.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

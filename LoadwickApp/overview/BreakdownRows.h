@@ -7,7 +7,7 @@
 
 #include "report/ScanReport.h"
 #include "report/SlabAttribution.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -1,6 +1,6 @@
 #include "overview/InstructionFilePlaces.h"
 
-#include "probe/PathText.h"
+#include "text/PathText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,9 +5,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "base/QtText.h"
 #include "overview/ShareText.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

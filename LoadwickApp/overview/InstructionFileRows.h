@@ -8,7 +8,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "overview/ListedFile.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "probe/CheckedSum.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/CheckedSum.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

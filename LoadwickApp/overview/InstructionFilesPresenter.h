@@ -7,7 +7,7 @@
 
 #include "overview/InstructionFileRows.h"
 #include "report/ScanReport.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

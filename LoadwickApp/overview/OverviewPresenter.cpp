@@ -6,8 +6,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "base/QtText.h"
 #include "overview/ElapsedTime.h"
-#include "shell/QtText.h"
 
 namespace Loadwick {
 

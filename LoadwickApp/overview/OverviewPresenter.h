@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/TextRows.h"
 #include "model/ScanModel.h"
 #include "overview/BandPresenter.h"
 #include "overview/BreakdownPresenter.h"
@@ -15,8 +16,7 @@
 #include "overview/LargestFilesPresenter.h"
 #include "overview/ReportTexts.h"
 #include "overview/WeeklyPresenter.h"
-#include "report/TextLocale.h"
-#include "shell/TextRows.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -1,7 +1,7 @@
 #include "overview/ReportTexts.h"
 
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,10 +5,10 @@
 
 #include <QPointer>
 
+#include "base/QtText.h"
 #include "history/WeeklyKPIReader.h"
-#include "probe/BoundedCall.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "process/BoundedCall.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

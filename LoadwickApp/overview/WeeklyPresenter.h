@@ -10,7 +10,7 @@
 
 #include "history/WeeklyKPILine.h"
 #include "model/TaskDispatcher.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

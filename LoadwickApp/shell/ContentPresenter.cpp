@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <variant>
 
-#include "shell/QtText.h"
+#include "base/QtText.h"
 
 namespace Loadwick {
 namespace {

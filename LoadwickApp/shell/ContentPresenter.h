@@ -6,10 +6,10 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/TextRows.h"
 #include "dialogs/FolderChooser.h"
 #include "model/ScanModel.h"
 #include "shell/AppPage.h"
-#include "shell/TextRows.h"
 
 namespace Loadwick {
 

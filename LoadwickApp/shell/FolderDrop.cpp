@@ -5,7 +5,7 @@
 
 #include <QPointer>
 
-#include "shell/FolderUrl.h"
+#include "base/FolderUrl.h"
 
 namespace Loadwick {
 

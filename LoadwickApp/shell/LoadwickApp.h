@@ -3,7 +3,7 @@
 #include <functional>
 #include <memory>
 
-#include "probe/Shutdown.h"
+#include "process/Shutdown.h"
 #include "shell/LoadwickWindow.h"
 
 /// The application from its first line to its last.

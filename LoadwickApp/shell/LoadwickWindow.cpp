@@ -5,18 +5,18 @@
 #include <QDir>
 #include <QUrl>
 
+#include "base/QmlObject.h"
+#include "base/QtTaskDispatcher.h"
 #include "desktop/DesktopNoticeBoard.h"
 #include "dialogs/DialogFolderChooser.h"
 #include "export/DialogFileSaver.h"
 #include "export/FileName.h"
 #include "history/WeeklyKPIReader.h"
 #include "onboarding/PreferencesCompletionStore.h"
-#include "probe/Fatal.h"
+#include "posix/ProcessContext.h"
 #include "probe/ProbeRunner.h"
-#include "probe/ProcessContext.h"
 #include "report/InstructionFileScanner.h"
-#include "shell/QmlObject.h"
-#include "shell/QtTaskDispatcher.h"
+#include "text/Fatal.h"
 #include "theme/ApplicationStyle.h"
 #include "theme/DesktopAppearanceSource.h"
 

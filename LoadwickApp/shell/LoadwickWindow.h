@@ -10,7 +10,6 @@
 
 #include "compare/ComparePresenter.h"
 #include "desktop/NoticeBoard.h"
-#include "desktop/ScanNotices.h"
 #include "dialogs/FolderChooser.h"
 #include "export/FileSaver.h"
 #include "export/PageExport.h"
@@ -18,11 +17,12 @@
 #include "model/ScanModel.h"
 #include "onboarding/OnboardingPresenter.h"
 #include "overview/OverviewPresenter.h"
-#include "probe/Shutdown.h"
-#include "report/TextLocale.h"
+#include "process/Shutdown.h"
 #include "shell/ContentPresenter.h"
 #include "shell/FolderDrop.h"
 #include "shell/RecentRepositories.h"
+#include "shell/ScanNotices.h"
+#include "text/TextLocale.h"
 #include "theme/AppearanceSource.h"
 #include "trends/TrendsPresenter.h"
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "probe/Shutdown.h"
+#include "process/Shutdown.h"
 
 /// How the program ends: within one second and without its child processes, whatever is blocked.
 namespace Loadwick::ProgramEnd {

@@ -9,8 +9,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "probe/Fatal.h"
 #include "shell/ProgramEnd.h"
+#include "text/Fatal.h"
 
 namespace Loadwick::ProgramSignals {
 namespace {

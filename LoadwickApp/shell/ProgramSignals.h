@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "probe/Shutdown.h"
+#include "process/Shutdown.h"
 
 /// How the program answers the system's signals.
 namespace Loadwick::ProgramSignals {

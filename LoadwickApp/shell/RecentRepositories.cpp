@@ -7,9 +7,9 @@
 
 #include <QPointer>
 
+#include "base/FolderUrl.h"
+#include "base/QtText.h"
 #include "history/ScanHistory.h"
-#include "shell/FolderUrl.h"
-#include "shell/QtText.h"
 
 namespace Loadwick {
 namespace {

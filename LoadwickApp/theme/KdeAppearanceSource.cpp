@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QStandardPaths>
 
-#include "probe/RegularFile.h"
+#include "posix/RegularFile.h"
 #include "theme/KdeGlobals.h"
 
 namespace Loadwick {

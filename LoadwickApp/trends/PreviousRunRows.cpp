@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "report/DateText.h"
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/DateText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 

@@ -3,8 +3,8 @@
 #include <set>
 #include <string_view>
 
-#include "report/NumberText.h"
-#include "shell/QtText.h"
+#include "base/QtText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

@@ -5,7 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "model/ScanModel.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "report/DateText.h"
-#include "report/NumberText.h"
+#include "base/QtText.h"
 #include "report/OpinionBand.h"
-#include "shell/QtText.h"
+#include "text/DateText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {

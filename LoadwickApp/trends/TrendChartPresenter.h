@@ -8,7 +8,7 @@
 
 #include "charts/TrendLine.h"
 #include "history/RecordedScan.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

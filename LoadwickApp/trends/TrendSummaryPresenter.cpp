@@ -1,9 +1,9 @@
 #include "trends/TrendSummaryPresenter.h"
 
-#include "probe/CheckedSum.h"
-#include "report/NumberText.h"
+#include "base/QtText.h"
 #include "report/OpinionBand.h"
-#include "shell/QtText.h"
+#include "text/CheckedSum.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 

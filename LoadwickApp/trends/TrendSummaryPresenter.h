@@ -7,7 +7,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "charts/LineSample.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

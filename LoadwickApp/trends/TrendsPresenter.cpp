@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/QtText.h"
 #include "history/ScanHistory.h"
 #include "history/ScanTables.h"
-#include "shell/QtText.h"
 
 namespace Loadwick {
 namespace {

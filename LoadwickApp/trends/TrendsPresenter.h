@@ -9,7 +9,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "model/ScanModel.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 #include "trends/PreviousRunsPresenter.h"
 #include "trends/RecordedDataPresenter.h"
 #include "trends/TrendChartPresenter.h"

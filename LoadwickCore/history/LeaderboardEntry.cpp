@@ -1,6 +1,6 @@
 #include "history/LeaderboardEntry.h"
 
-#include "probe/CheckedSum.h"
+#include "text/CheckedSum.h"
 
 namespace Loadwick {
 

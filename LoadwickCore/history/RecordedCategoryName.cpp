@@ -1,6 +1,6 @@
 #include "history/RecordedCategoryName.h"
 
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick::RecordedCategoryName {
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "history/RecordedCategory.h"
-#include "history/Uuid.h"
 #include "report/OpinionBand.h"
 #include "report/ScanReport.h"
+#include "text/Uuid.h"
 
 namespace Loadwick {
 

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "probe/CheckedSum.h"
+#include "text/CheckedSum.h"
 
 namespace Loadwick::ScanHistory {
 

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "history/IsoDate.h"
-#include "history/JsonWriter.h"
-#include "probe/JsonText.h"
+#include "text/IsoDate.h"
+#include "json/JsonText.h"
+#include "json/JsonWriter.h"
 
 namespace Loadwick {
 

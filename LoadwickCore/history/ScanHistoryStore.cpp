@@ -11,9 +11,9 @@
 #include <tuple>
 #include <utility>
 
-#include "history/AtomicFile.h"
 #include "history/ScanHistoryFile.h"
-#include "probe/RegularFile.h"
+#include "posix/AtomicFile.h"
+#include "posix/RegularFile.h"
 
 namespace Loadwick {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "history/RecordedScan.h"
-#include "probe/ProcessContext.h"
+#include "posix/ProcessContext.h"
 
 namespace Loadwick {
 

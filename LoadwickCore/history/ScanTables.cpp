@@ -4,10 +4,10 @@
 #include <string_view>
 #include <vector>
 
-#include "history/CsvTable.h"
-#include "history/IsoDate.h"
 #include "history/ScanHistory.h"
-#include "probe/CheckedSum.h"
+#include "text/CheckedSum.h"
+#include "text/CsvTable.h"
+#include "text/IsoDate.h"
 
 namespace Loadwick::ScanTables {
 namespace {

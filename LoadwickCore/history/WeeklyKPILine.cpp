@@ -1,7 +1,7 @@
 #include "history/WeeklyKPILine.h"
 
 #include "history/WeeklyKPIReader.h"
-#include "probe/CheckedSum.h"
+#include "text/CheckedSum.h"
 
 namespace Loadwick {
 

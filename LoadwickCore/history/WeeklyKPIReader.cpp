@@ -2,10 +2,10 @@
 
 #include <limits>
 
-#include "probe/JsonText.h"
-#include "probe/RegularFile.h"
-#include "probe/TextLines.h"
-#include "probe/UnicodeText.h"
+#include "posix/RegularFile.h"
+#include "text/TextLines.h"
+#include "text/UnicodeText.h"
+#include "json/JsonText.h"
 
 namespace Loadwick::WeeklyKPIReader {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

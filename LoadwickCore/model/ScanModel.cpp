@@ -6,10 +6,10 @@
 #include <variant>
 
 #include "model/ScanOutcome.h"
-#include "probe/Fatal.h"
 #include "probe/FolderAccess.h"
-#include "probe/UnicodeText.h"
 #include "report/ScanReportBuilder.h"
+#include "text/Fatal.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

@@ -10,11 +10,11 @@
 #include "history/RecordedScan.h"
 #include "history/ScanHistoryStore.h"
 #include "model/Published.h"
-#include "model/RepoSelection.h"
 #include "model/ScanState.h"
 #include "model/TaskDispatcher.h"
 #include "probe/ProbeRunning.h"
 #include "report/InstructionFileScanning.h"
+#include "report/RepoSelection.h"
 
 namespace Loadwick {
 

@@ -6,7 +6,7 @@
 #include <variant>
 
 #include "probe/ProbeError.h"
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

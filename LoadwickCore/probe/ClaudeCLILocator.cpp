@@ -6,9 +6,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "probe/ChildSupervision.h"
 #include "probe/ProbeError.h"
-#include "probe/UnicodeText.h"
+#include "process/ChildSupervision.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick::ClaudeCLILocator {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "probe/Shutdown.h"
+#include "process/Shutdown.h"
 
 /// Finds the `claude` executable.
 namespace Loadwick::ClaudeCLILocator {

@@ -6,8 +6,8 @@
 
 #include <dirent.h>
 
-#include "probe/BoundedCall.h"
-#include "probe/PathText.h"
+#include "process/BoundedCall.h"
+#include "text/PathText.h"
 
 namespace Loadwick::FolderAccess {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "probe/ProcessContext.h"
+#include "posix/ProcessContext.h"
 
 /// The environment that a probe's child inherits.
 namespace Loadwick::ProbeEnvironment {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <utility>
 
-#include "probe/JsonText.h"
 #include "probe/ProbeError.h"
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
+#include "json/JsonText.h"
 
 namespace Loadwick::ProbeOutputParser {
 

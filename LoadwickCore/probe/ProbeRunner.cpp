@@ -3,18 +3,18 @@
 #include <chrono>
 #include <utility>
 
-#include "probe/BoundedCall.h"
-#include "probe/ChildSupervision.h"
-#include "probe/JsonText.h"
-#include "probe/PathText.h"
-#include "probe/PosixFileSystem.h"
+#include "posix/PosixFileSystem.h"
 #include "probe/ProbeEnvironment.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeOutputParser.h"
 #include "probe/SlabParser.h"
 #include "probe/TranscriptLocator.h"
 #include "probe/TranscriptSearch.h"
-#include "probe/UnicodeText.h"
+#include "process/BoundedCall.h"
+#include "process/ChildSupervision.h"
+#include "text/PathText.h"
+#include "text/UnicodeText.h"
+#include "json/JsonText.h"
 
 namespace Loadwick {
 

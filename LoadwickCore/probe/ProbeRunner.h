@@ -9,13 +9,13 @@
 #include <string_view>
 #include <vector>
 
+#include "posix/FileSystem.h"
+#include "posix/ProcessContext.h"
 #include "probe/ClaudeCLILocator.h"
-#include "probe/Execution.h"
-#include "probe/FileSystem.h"
 #include "probe/ProbeRunning.h"
 #include "probe/ProbeUsage.h"
-#include "probe/ProcessContext.h"
-#include "probe/Shutdown.h"
+#include "process/Execution.h"
+#include "process/Shutdown.h"
 
 namespace Loadwick {
 

@@ -1,7 +1,7 @@
 #include "probe/ProbeUsage.h"
 
-#include "probe/CheckedSum.h"
-#include "probe/JsonText.h"
+#include "text/CheckedSum.h"
+#include "json/JsonText.h"
 
 namespace Loadwick {
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "probe/TextLines.h"
-#include "probe/UnicodeText.h"
+#include "text/TextLines.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick::SlabParser {
 

@@ -1,6 +1,6 @@
 #include "probe/TotalSource.h"
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

@@ -2,8 +2,8 @@
 
 #include <deque>
 
-#include "probe/PathText.h"
-#include "probe/UnicodeText.h"
+#include "text/PathText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick::TranscriptLocator {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "probe/FileSystem.h"
-#include "probe/ProcessContext.h"
+#include "posix/FileSystem.h"
+#include "posix/ProcessContext.h"
 
 /// Finds the transcript file of a session.
 namespace Loadwick::TranscriptLocator {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "probe/JsonText.h"
+#include "json/JsonText.h"
 
 namespace Loadwick {
 

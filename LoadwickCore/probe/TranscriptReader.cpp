@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "probe/RegularFile.h"
-#include "probe/TextLines.h"
+#include "posix/RegularFile.h"
 #include "probe/TranscriptPieces.h"
+#include "text/TextLines.h"
 
 namespace Loadwick::TranscriptReader {
 

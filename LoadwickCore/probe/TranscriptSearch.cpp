@@ -3,9 +3,9 @@
 #include <chrono>
 #include <cmath>
 
-#include "probe/Fatal.h"
 #include "probe/TranscriptLocator.h"
 #include "probe/TranscriptReader.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

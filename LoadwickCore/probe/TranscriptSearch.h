@@ -5,10 +5,10 @@
 #include <optional>
 #include <string>
 
-#include "probe/Deadline.h"
-#include "probe/FileSystem.h"
+#include "posix/FileSystem.h"
 #include "probe/ProbeUsage.h"
-#include "probe/Shutdown.h"
+#include "process/Deadline.h"
+#include "process/Shutdown.h"
 
 namespace Loadwick {
 

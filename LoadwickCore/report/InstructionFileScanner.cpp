@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "probe/BoundedCall.h"
+#include "process/BoundedCall.h"
 #include "report/InstructionFileFindings.h"
 #include "report/InstructionFileWalk.h"
 

@@ -1,7 +1,7 @@
 #include "report/InstructionFileSet.h"
 
-#include "probe/CheckedSum.h"
 #include "report/ScanReport.h"
+#include "text/CheckedSum.h"
 
 namespace Loadwick {
 

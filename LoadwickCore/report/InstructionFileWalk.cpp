@@ -4,10 +4,10 @@
 #include <unordered_set>
 #include <utility>
 
-#include "probe/PathText.h"
-#include "probe/RegularFile.h"
-#include "probe/UnicodeText.h"
+#include "posix/RegularFile.h"
 #include "report/InstructionImports.h"
+#include "text/PathText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

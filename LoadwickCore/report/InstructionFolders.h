@@ -7,8 +7,8 @@
 
 #include <sys/types.h>
 
-#include "probe/FileDescriptor.h"
-#include "probe/RegularFile.h"
+#include "posix/FileDescriptor.h"
+#include "posix/RegularFile.h"
 
 namespace Loadwick {
 

@@ -5,7 +5,7 @@
 
 #include <unicode/utf8.h>
 
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick::InstructionImports {
 

@@ -1,6 +1,6 @@
 #include "report/OpinionBand.h"
 
-#include "report/NumberText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 

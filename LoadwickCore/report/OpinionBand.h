@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "probe/CheckedSum.h"
-#include "report/NumberText.h"
+#include "text/CheckedSum.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 

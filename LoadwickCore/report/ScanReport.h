@@ -11,7 +11,7 @@
 #include "report/OpinionBand.h"
 #include "report/OverAttributionSource.h"
 #include "report/SlabAttribution.h"
-#include "report/TextLocale.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/RepoSelection.h"
 #include "probe/ProbeResult.h"
 #include "report/InstructionFileSet.h"
+#include "report/RepoSelection.h"
 #include "report/ScanReport.h"
 
 /// The one place where a probe's result, the chosen repository and its files become a report.

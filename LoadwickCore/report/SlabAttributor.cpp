@@ -5,8 +5,8 @@
 #include <unordered_set>
 #include <utility>
 
-#include "probe/CheckedSum.h"
-#include "probe/UnicodeText.h"
+#include "text/CheckedSum.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick::SlabAttributor {
 

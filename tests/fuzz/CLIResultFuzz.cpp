@@ -8,7 +8,7 @@
 #include "fuzz/UsageOracle.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeOutputParser.h"
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

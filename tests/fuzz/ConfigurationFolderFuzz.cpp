@@ -3,10 +3,10 @@
 
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
-#include "probe/PathText.h"
-#include "probe/ProcessContext.h"
+#include "posix/ProcessContext.h"
 #include "probe/TranscriptLocator.h"
-#include "probe/UnicodeText.h"
+#include "text/PathText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

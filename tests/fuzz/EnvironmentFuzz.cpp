@@ -9,7 +9,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "probe/ProbeEnvironment.h"
 #include "probe/TranscriptLocator.h"
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

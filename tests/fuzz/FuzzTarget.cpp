@@ -1,6 +1,6 @@
 #include "fuzz/FuzzTarget.h"
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

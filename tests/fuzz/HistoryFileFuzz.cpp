@@ -4,9 +4,9 @@
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/JsonOracle.h"
-#include "history/IsoDate.h"
 #include "history/ScanHistoryFile.h"
-#include "probe/UnicodeText.h"
+#include "text/IsoDate.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

@@ -4,8 +4,8 @@
 
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
-#include "probe/UnicodeText.h"
 #include "report/InstructionImports.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

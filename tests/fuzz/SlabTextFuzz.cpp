@@ -6,8 +6,8 @@
 
 #include "fuzz/FuzzTarget.h"
 #include "probe/SlabParser.h"
-#include "probe/TextLines.h"
-#include "probe/UnicodeText.h"
+#include "text/TextLines.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

@@ -6,7 +6,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "history/RecordedCategoryName.h"
 #include "probe/ProbeError.h"
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

@@ -5,7 +5,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/JsonOracle.h"
 #include "history/WeeklyKPIReader.h"
-#include "probe/TextLines.h"
+#include "text/TextLines.h"
 
 namespace Loadwick {
 

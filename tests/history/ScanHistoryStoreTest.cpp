@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include "history/ScanHistoryFile.h"
-#include "probe/FileDescriptor.h"
+#include "posix/FileDescriptor.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/TemporaryFolder.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "probe/PosixFileSystem.h"
+#include "posix/PosixFileSystem.h"
 #include "probe/ProbeError.h"
 #include "support/Stopwatch.h"
 #include "support/TemporaryFolder.h"

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "probe/PosixFileSystem.h"
+#include "posix/PosixFileSystem.h"
 #include "support/EnvironmentSwap.h"
 #include "support/InMemoryFileSystem.h"
 #include "support/PlainPermissions.h"

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "probe/PosixFileSystem.h"
+#include "posix/PosixFileSystem.h"
 #include "support/Stopwatch.h"
 #include "support/TemporaryFolder.h"
 

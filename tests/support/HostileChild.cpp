@@ -4,8 +4,8 @@
 
 #include <unistd.h>
 
-#include "probe/Fatal.h"
-#include "probe/Pipe.h"
+#include "process/Pipe.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

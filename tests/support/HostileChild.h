@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "probe/ChildProcess.h"
 #include "probe/ProbeRunner.h"
+#include "process/ChildProcess.h"
 
 namespace Loadwick {
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "probe/FileSystem.h"
+#include "posix/FileSystem.h"
 
 namespace Loadwick {
 

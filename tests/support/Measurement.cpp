@@ -2,8 +2,8 @@
 
 #include <sstream>
 
-#include "probe/Fatal.h"
 #include "probe/ProbeRunner.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

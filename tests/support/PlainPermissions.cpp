@@ -8,7 +8,7 @@
 #include <unistd.h>
 #endif
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "history/RecordedScan.h"
-#include "model/RepoSelection.h"
 #include "model/ScanState.h"
 #include "probe/ProbeError.h"
+#include "report/RepoSelection.h"
 
 namespace Loadwick {
 

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "report/DateText.h"
+#include "text/DateText.h"
 
 namespace Loadwick {
 

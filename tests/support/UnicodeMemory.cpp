@@ -5,7 +5,7 @@
 
 #include <unicode/uclean.h>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

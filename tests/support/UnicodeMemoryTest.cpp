@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "probe/ProbeRunner.h"
-#include "probe/Shutdown.h"
+#include "process/Shutdown.h"
 
 namespace Loadwick {
 

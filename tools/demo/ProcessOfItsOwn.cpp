@@ -8,7 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 #ifdef __linux__
 #include <sys/prctl.h>

@@ -8,7 +8,7 @@
 #include "demo/SampleFile.h"
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
-#include "probe/PathText.h"
+#include "text/PathText.h"
 
 namespace Loadwick::SampleHistory {
 

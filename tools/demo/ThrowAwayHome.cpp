@@ -6,7 +6,7 @@
 
 #include "demo/SampleHistory.h"
 #include "demo/SampleRepository.h"
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

@@ -1,8 +1,8 @@
 // Counts the lines that the core parses. The linker leads `takeLine` and `jsonObjectOfScalars`
 // through here, as CallCounters.cpp has it lead calls of the system.
 #include "measure/CallCounters.h"
-#include "probe/JsonText.h"
-#include "probe/TextLines.h"
+#include "text/TextLines.h"
+#include "json/JsonText.h"
 
 namespace Loadwick {
 

@@ -12,10 +12,10 @@
 #include "demo/window/WindowAppearance.h"
 #include "pictures/Stage.h"
 #include "pictures/WalkThrough.h"
-#include "probe/Fatal.h"
 #include "shell/ApplicationSetup.h"
 #include "support/SampleHistories.h"
 #include "support/SampleScans.h"
+#include "text/Fatal.h"
 #include "theme/DesktopWishes.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "shell/QtTaskDispatcher.h"
+#include "base/QtTaskDispatcher.h"
 #include "support/PrivateBus.h"
 #include "support/StandInNotifications.h"
 #include "support/SteppingDispatcher.h"

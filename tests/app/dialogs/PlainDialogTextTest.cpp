@@ -8,9 +8,9 @@
 #include <QTcpServer>
 #include <QTest>
 
+#include "base/QtText.h"
 #include "dialogs/DialogFolderChooser.h"
 #include "export/DialogFileSaver.h"
-#include "shell/QtText.h"
 #include "support/DialogWindow.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"

@@ -7,9 +7,9 @@
 #include <QImage>
 #include <QTest>
 
-#include "report/DateText.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
+#include "text/DateText.h"
 
 namespace Loadwick {
 namespace {

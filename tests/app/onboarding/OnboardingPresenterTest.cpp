@@ -4,7 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "shell/QtText.h"
+#include "base/QtText.h"
 #include "support/FakeCompletionStore.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"

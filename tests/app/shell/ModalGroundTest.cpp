@@ -5,7 +5,7 @@
 #include <QQuickWindow>
 #include <QTest>
 
-#include "shell/QmlObject.h"
+#include "base/QmlObject.h"
 #include "support/TestRegistry.h"
 #include "theme/ApplicationStyle.h"
 

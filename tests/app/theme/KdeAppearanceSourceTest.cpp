@@ -1,6 +1,6 @@
 #include "theme/KdeAppearanceSource.h"
 
-#include "shell/QtTaskDispatcher.h"
+#include "base/QtTaskDispatcher.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"

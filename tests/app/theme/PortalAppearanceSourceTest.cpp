@@ -1,6 +1,6 @@
 #include "theme/PortalAppearanceSource.h"
 
-#include "shell/QtTaskDispatcher.h"
+#include "base/QtTaskDispatcher.h"
 #include "support/PrivateBus.h"
 #include "support/StandInPortal.h"
 #include "support/SteppingDispatcher.h"

@@ -6,7 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Faults {
 

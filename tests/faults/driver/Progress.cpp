@@ -6,7 +6,7 @@
 
 #include <sys/mman.h>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Faults {
 

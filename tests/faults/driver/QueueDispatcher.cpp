@@ -3,7 +3,7 @@
 #include <thread>
 #include <utility>
 
-#include "probe/Deadline.h"
+#include "process/Deadline.h"
 
 namespace Faults {
 

@@ -5,7 +5,7 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Faults::Shim {
 

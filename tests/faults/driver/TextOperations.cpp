@@ -5,7 +5,7 @@
 #include "history/RecordedCategoryName.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeOutputParser.h"
-#include "probe/UnicodeText.h"
+#include "text/UnicodeText.h"
 
 namespace Faults {
 

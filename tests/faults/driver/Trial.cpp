@@ -17,12 +17,12 @@
 
 #include "faults/driver/Progress.h"
 #include "faults/driver/Shim.h"
-#include "probe/Deadline.h"
-#include "probe/ExitWatch.h"
-#include "probe/Fatal.h"
-#include "probe/Pipe.h"
 #include "probe/ProbeError.h"
+#include "process/Deadline.h"
+#include "process/ExitWatch.h"
+#include "process/Pipe.h"
 #include "support/ProcessCensus.h"
+#include "text/Fatal.h"
 
 namespace Faults {
 

@@ -4,7 +4,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

@@ -3,7 +3,7 @@
 #include <iostream>
 #include <utility>
 
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

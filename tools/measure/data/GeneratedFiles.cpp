@@ -9,7 +9,7 @@
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
 #include "measure/data/GeneratedText.h"
-#include "probe/Fatal.h"
+#include "text/Fatal.h"
 
 namespace Loadwick::GeneratedFiles {
 

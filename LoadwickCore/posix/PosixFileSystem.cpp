@@ -1,0 +1,94 @@
+#include "posix/PosixFileSystem.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <string>
+
+#include <dirent.h>
+#include <sys/stat.h>
+#if defined(__linux__)
+#include <linux/magic.h>
+#include <sys/statfs.h>
+#endif
+
+#include "posix/FolderEntryKind.h"
+
+namespace Loadwick {
+
+namespace {
+
+struct ListingCloser
+{
+    void operator()(DIR *listing) const noexcept { ::closedir(listing); }
+};
+using Listing = std::unique_ptr<DIR, ListingCloser>;
+
+/// Whether the disk that holds `folder` gives a folder a link for its name, one for its ".", and
+/// one for the ".." of each folder in it, and never two when there is one. Others give always one
+/// (btrfs), always two (some of the network), or what the layer on top has (overlays).
+bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) noexcept
+{
+#if defined(__linux__)
+    constexpr std::array<decltype(statfs::f_type), 3> counters{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,
+                                                               TMPFS_MAGIC};
+    struct statfs disk
+    {};
+    (void)::statfs(folder.c_str(), &disk);
+    return std::find(counters.begin(), counters.end(), disk.f_type) != counters.end();
+#else
+    return false;
+#endif
+}
+
+unsigned char typeOf([[maybe_unused]] const dirent &entry) noexcept
+{
+#ifdef _DIRENT_HAVE_D_TYPE
+    return entry.d_type;
+#else
+    return 0; // DT_UNKNOWN
+#endif
+}
+
+} // namespace
+
+void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &visit) const
+{
+    // The system would cut the path at a NUL and list another folder.
+    if (folder.native().find('\0') != std::string::npos)
+        return;
+    const Listing listing(::opendir(folder.c_str()));
+    if (!listing)
+        return;
+    std::string name; // one for all entries: making a text for each took half of the time
+    while (const dirent *const entry = ::readdir(listing.get())) {
+        name = entry->d_name;
+        if (name == "." || name == "..")
+            continue;
+        const EntryKind kind =
+            folderEntryKind(::dirfd(listing.get()), entry->d_name, typeOf(*entry));
+        if (visit(name, kind) == Walk::stop)
+            return;
+    }
+}
+
+bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
+{
+    // A link that leads nowhere is an entry too, and what cannot be looked at may be one.
+    struct stat status
+    {};
+    return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;
+}
+
+bool PosixFileSystem::mayHoldFolders(const std::filesystem::path &folder) const
+{
+    // What cannot be had stays 0, which rules nothing out.
+    constexpr nlink_t linksWithoutFolders = 2;
+    struct stat status
+    {};
+    (void)::lstat(folder.c_str(), &status);
+    return status.st_nlink != linksWithoutFolders || !countsFoldersAsLinks(folder);
+}
+
+} // namespace Loadwick

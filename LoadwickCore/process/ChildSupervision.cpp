@@ -1,0 +1,103 @@
+#include "process/ChildSupervision.h"
+
+#include <algorithm>
+#include <csignal>
+#include <new>
+#include <utility>
+
+#include "process/Pipe.h"
+#include "process/ProcessTermination.h"
+#include "process/StreamReaders.h"
+
+namespace Loadwick::ChildSupervision {
+
+namespace {
+
+constexpr double memoryCheckSeconds = 0.1;
+
+struct StartedChild
+{
+    FileDescriptor standardOutput;
+    FileDescriptor standardError;
+    ChildProcess process;
+};
+
+// Our copies of the write ends close here, else no stream would ever end.
+StartedChild startPiped(const Request &request)
+{
+    Pipe output = Pipe::open();
+    Pipe error = request.capture == Capture::bothStreams ? Pipe::open() : Pipe{};
+    const ChildStreams streams{output.writeEnd.number(), error.writeEnd.number()};
+    return {std::move(output.readEnd), std::move(error.readEnd),
+            ChildProcess::start(request.command, streams, request.shutdown)};
+}
+
+StartedChild start(const Request &request)
+{
+    try {
+        return startPiped(request);
+    } catch (const std::system_error &error) {
+        throw StartFailed(error.code());
+    }
+}
+
+void startReaders(StreamReaders &readers, const StartedChild &child)
+{
+    readers.start(child.standardOutput, OutputBox::Stream::standardOutput);
+    if (child.standardError.isOpen())
+        readers.start(child.standardError, OutputBox::Stream::standardError);
+}
+
+// True when the child ended before `timeout`. Once its output is lost there is nothing left to wait
+// for.
+bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &box)
+{
+    while (!child.waitUntil(std::min(timeout, deadlineAfter(memoryCheckSeconds)))) {
+        if (box.ranOutOfMemory())
+            throw std::bad_alloc();
+        if (std::chrono::steady_clock::now() >= timeout)
+            return false;
+    }
+    return true;
+}
+
+// True when the time-out found the child running. Without a limit on the wait for its death, one
+// that is stuck inside the system would hold the scan for ever.
+bool stopAtTimeout(const ChildProcess &child, const Request &request, const OutputBox &box)
+{
+    if (endsBefore(deadlineAfter(request.timeoutSeconds), child, box))
+        return false;
+    ProcessTermination::terminateThenKill(child, request.killGraceSeconds);
+    (void)child.waitUntil(deadlineAfter(ChildProcess::survivalSeconds));
+    return true;
+}
+
+ChildProcess::Ending endingOf(ChildProcess child)
+{
+    // not taken: what survives SIGKILL is stuck inside the system
+    if (!child.isRunning())
+        return child.reap();
+    ChildProcess::abandon(std::move(child));
+    return {SIGKILL, true};
+}
+
+} // namespace
+
+Outcome run(const Request &request)
+{
+    StreamReaders readers(request.captureLimit);
+    StartedChild child = start(request);
+    startReaders(readers, child);
+
+    Outcome outcome;
+    outcome.terminationRequested = stopAtTimeout(child.process, request, readers.box());
+    outcome.readersTimedOut = !readers.finish(request.readerGraceSeconds);
+    if (outcome.terminationRequested)
+        ProcessTermination::sweepGroup(child.process);
+    outcome.ending = endingOf(std::move(child.process));
+    outcome.standardOutput = readers.box().take(OutputBox::Stream::standardOutput);
+    outcome.standardError = readers.box().take(OutputBox::Stream::standardError);
+    return outcome;
+}
+
+} // namespace Loadwick::ChildSupervision

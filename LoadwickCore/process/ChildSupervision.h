@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "process/ChildCommand.h"
+#include "process/ChildProcess.h"
+#include "process/Shutdown.h"
+
+/// Runs one child under deadlines, so that neither it nor anything it starts can keep us waiting.
+namespace Loadwick::ChildSupervision {
+
+enum class Capture
+{
+    bothStreams,
+    standardOutputOnly ///< standard error goes to the null device
+};
+
+struct Request
+{
+    ChildCommand command;
+    double timeoutSeconds;
+    double killGraceSeconds;   ///< between SIGTERM and SIGKILL
+    double readerGraceSeconds; ///< for the streams, after the child's end
+    std::size_t captureLimit;  ///< bytes kept of each stream
+    Capture capture = Capture::bothStreams;
+    std::shared_ptr<Shutdown> shutdown; ///< may be absent
+};
+
+struct Outcome
+{
+    ChildProcess::Ending ending; ///< by SIGKILL for a child that survived it and was abandoned
+    std::optional<std::string> standardOutput; ///< bytes; nothing when they exceeded the limit
+    std::optional<std::string> standardError;
+    bool terminationRequested = false; ///< the time-out found the child running
+    bool readersTimedOut = false;      ///< a stream had not ended when its reader had to stop
+};
+
+/// There is no child: no pipe, no such executable, no such folder, or the program is ending.
+class StartFailed : public std::system_error
+{
+public:
+    using std::system_error::system_error;
+};
+
+/// Blocking, for at most all durations of `request`, a second for the readers,
+/// `ChildProcess::survivalSeconds` and `ProcessTermination::sweepGraceSeconds` together. Throws
+/// `StartFailed`, and `std::system_error` or `std::bad_alloc` when threads or memory run out; the
+/// child is then killed at once.
+[[nodiscard]] Outcome run(const Request &request);
+
+} // namespace Loadwick::ChildSupervision

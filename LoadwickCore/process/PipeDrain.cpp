@@ -1,0 +1,80 @@
+#include "process/PipeDrain.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <thread>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace Loadwick::PipeDrain {
+
+namespace {
+
+enum class Readiness
+{
+    readable,
+    notYet,
+    failed
+};
+
+enum class Step
+{
+    goOn,
+    stop
+};
+
+void makeNonBlocking(int descriptor) noexcept
+{
+    const int flags = fcntl(descriptor, F_GETFL);
+    if (flags >= 0)
+        fcntl(descriptor, F_SETFL, flags | O_NONBLOCK);
+}
+
+Readiness waitForInput(int descriptor, const ReaderDeadline &deadline)
+{
+    const auto expiry = deadline.expiry();
+    const int milliseconds =
+        expiry ? millisecondsUntil(*expiry, pollInterval) : static_cast<int>(pollInterval.count());
+    pollfd input{descriptor, POLLIN, 0};
+    const int count = poll(&input, 1, milliseconds);
+    if (count > 0)
+        return Readiness::readable;
+    return count == 0 || errno == EINTR ? Readiness::notYet : Readiness::failed;
+}
+
+Step readOnce(int descriptor, std::span<char> buffer, const Sink &sink)
+{
+    const ssize_t count = read(descriptor, buffer.data(), buffer.size());
+    if (count > 0) {
+        sink(buffer.first(static_cast<std::size_t>(count)));
+        return Step::goOn;
+    }
+    // not taken: nobody else reads what poll has seen, and two of the numbers are one here
+    if (count == 0 || (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR))
+        return Step::stop;
+    std::this_thread::sleep_for(backOff);
+    return Step::goOn;
+}
+
+} // namespace
+
+bool run(FileDescriptor descriptor, const ReaderDeadline &deadline, const Sink &sink)
+{
+    const FileDescriptor input = std::move(descriptor);
+    std::array<char, bufferSize> buffer;
+    makeNonBlocking(input.number());
+    while (!deadline.hasPassed()) {
+        const Readiness readiness = waitForInput(input.number(), deadline);
+        if (readiness == Readiness::failed)
+            return false;
+        if (readiness == Readiness::readable &&
+            readOnce(input.number(), buffer, sink) == Step::stop)
+            return false;
+    }
+    return true;
+}
+
+} // namespace Loadwick::PipeDrain

@@ -1,0 +1,64 @@
+#include "text/NumberText.h"
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+#include <unicode/bytestream.h>
+#include <unicode/numberformatter.h>
+
+#include "text/Fatal.h"
+
+namespace Loadwick::NumberText {
+
+namespace {
+
+using Formatter = icu::number::LocalizedNumberFormatter;
+
+/// The formatter of the locale that this thread asked for last: a page writes hundreds of figures
+/// in one locale, and building a formatter costs far more than using it.
+const Formatter &formatterFor(const std::string &locale)
+{
+    struct Cached
+    {
+        std::string locale;
+        Formatter formatter;
+    };
+    thread_local Cached cached;
+    if (cached.locale != locale || locale.empty()) {
+        cached.formatter = icu::number::NumberFormatter::withLocale(icu::Locale(locale.c_str()));
+        cached.locale = locale;
+    }
+    return cached.formatter;
+}
+
+} // namespace
+
+std::string grouped(std::int64_t number, const TextLocale &locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const auto figure = formatterFor(locale.numbers).formatInt(number, status);
+    std::string text;
+    figure.toString(status).toUTF8String(text);
+    // not taken: every integer can be written in every locale
+    if (U_FAILURE(status))
+        fatalError("ICU could not format an integer");
+    return text;
+}
+
+std::string groupedChange(std::int64_t change, const TextLocale &locale)
+{
+    const std::string figure = grouped(change, locale);
+    return change < 0 ? figure : std::string(1, '+').append(figure);
+}
+
+std::string oneDecimal(double number)
+{
+    // Sign, every digit before the point of the largest double, the point and one digit.
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 8> digits{};
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                       std::chars_format::fixed, 1);
+    return {digits.data(), written.ptr};
+}
+
+} // namespace Loadwick::NumberText

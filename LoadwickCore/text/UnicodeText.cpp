@@ -1,0 +1,240 @@
+#include "text/UnicodeText.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <new>
+
+#include <unicode/brkiter.h>
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/uchar.h>
+#include <unicode/utext.h>
+#include <unicode/utf8.h>
+
+namespace Loadwick {
+
+namespace {
+
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+
+struct CodePoint
+{
+    UChar32 value; // negative when ill-formed
+    std::size_t end;
+};
+
+/// Decodes the code point that begins at `start`; the ICU macro consumes a maximal ill-formed part.
+CodePoint codePointAt(std::string_view text, std::size_t start) noexcept
+{
+    UChar32 value = 0;
+    std::size_t index = start;
+    U8_NEXT(reinterpret_cast<const std::uint8_t *>(text.data()), index, text.size(), value);
+    return {value, index};
+}
+
+constexpr bool isAscii(char byte) noexcept
+{
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+/// Bytes at the head of a text that are ASCII, looked at eight at a time as long as all eight are.
+std::size_t asciiHead(std::string_view text) noexcept
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t index = 0;
+    for (std::uint64_t eight = 0; text.size() - index >= sizeof eight; index += sizeof eight) {
+        std::memcpy(&eight, text.data() + index, sizeof eight);
+        if ((eight & highBits) != 0)
+            break;
+    }
+    while (index < text.size() && isAscii(text[index]))
+        ++index;
+    return index;
+}
+
+bool isAsciiAlone(std::string_view text) noexcept
+{
+    return asciiHead(text) == text.size();
+}
+
+template<typename Keep>
+std::string filtered(std::string_view text, Keep keep)
+{
+    std::string kept;
+    kept.reserve(text.size());
+    for (std::size_t index = 0; index < text.size();) {
+        const CodePoint point = codePointAt(text, index);
+        if (point.value >= 0 && keep(point.value))
+            kept.append(text.substr(index, point.end - index));
+        index = point.end;
+    }
+    return kept;
+}
+
+constexpr char lowercasedAscii(char byte) noexcept
+{
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
+bool isLetterMarkOrNumber(UChar32 value)
+{
+    if (value < 0x80)
+        return (value >= '0' && value <= '9') || (value >= 'a' && value <= 'z') ||
+               (value >= 'A' && value <= 'Z');
+    return (U_GET_GC_MASK(value) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+}
+
+/// Index of the first byte of the code point that ends before `end`.
+std::size_t previousStart(std::string_view text, std::size_t end) noexcept
+{
+    const std::size_t lowest = end >= 4 ? end - 4 : 0;
+    for (std::size_t start = end; start-- > lowest;) {
+        const CodePoint point = codePointAt(text, start);
+        if (point.end == end && point.value >= 0)
+            return start;
+    }
+    return end - 1;
+}
+
+/// The library brings all that it needs, so there is one thing that it can lack.
+void requireSuccess(UErrorCode status)
+{
+    if (U_FAILURE(status))
+        throw std::bad_alloc();
+}
+
+} // namespace
+
+bool isUtf8(std::string_view bytes) noexcept
+{
+    std::size_t index = asciiHead(bytes);
+    while (index < bytes.size()) {
+        const CodePoint point = codePointAt(bytes, index);
+        if (point.value < 0)
+            return false;
+        index = point.end + asciiHead(bytes.substr(point.end));
+    }
+    return true;
+}
+
+std::string repairedUtf8(std::string_view bytes)
+{
+    if (isUtf8(bytes))
+        return std::string(bytes);
+    std::string repaired;
+    repaired.reserve(bytes.size());
+    for (std::size_t index = 0; index < bytes.size();) {
+        const CodePoint point = codePointAt(bytes, index);
+        const std::string_view piece = bytes.substr(index, point.end - index);
+        repaired.append(point.value >= 0 ? piece : replacementCharacter);
+        index = point.end;
+    }
+    return repaired;
+}
+
+bool isWhiteSpace(char32_t codePoint) noexcept
+{
+    if (codePoint < 0x80)
+        return codePoint == ' ' || (codePoint >= '\t' && codePoint <= '\r');
+    return u_hasBinaryProperty(static_cast<UChar32>(codePoint), UCHAR_WHITE_SPACE) != 0;
+}
+
+std::string_view trimmed(std::string_view text) noexcept
+{
+    const auto isSpace = [](UChar32 value) {
+        return value >= 0 && isWhiteSpace(static_cast<char32_t>(value));
+    };
+    while (!text.empty()) {
+        const CodePoint point = codePointAt(text, 0);
+        if (!isSpace(point.value))
+            break;
+        text.remove_prefix(point.end);
+    }
+    while (!text.empty()) {
+        const std::size_t start = previousStart(text, text.size());
+        if (!isSpace(codePointAt(text, start).value))
+            break;
+        text.remove_suffix(text.size() - start);
+    }
+    return text;
+}
+
+std::string_view trimmedBlanks(std::string_view text) noexcept
+{
+    const std::size_t first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos)
+        return text.substr(text.size());
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+std::string lowercased(std::string_view text)
+{
+    // ICU takes as long to begin as to lower-case a whole line of ASCII, as nearly all texts are.
+    if (isAsciiAlone(text)) {
+        std::string lower(text);
+        std::transform(lower.begin(), lower.end(), lower.begin(), lowercasedAscii);
+        return lower;
+    }
+    std::string lower;
+    icu::StringByteSink<std::string> sink(&lower, static_cast<std::int32_t>(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(text.data(), static_cast<int>(text.size())),
+                              sink, nullptr, status);
+    requireSuccess(status);
+    return lower;
+}
+
+std::string lettersAndNumbers(std::string text)
+{
+    if (isAsciiAlone(text)) {
+        std::erase_if(text, [](char byte) { return !isLetterMarkOrNumber(byte); });
+        return text;
+    }
+    return filtered(text, isLetterMarkOrNumber);
+}
+
+void setSearchKey(std::string &key, std::string_view text)
+{
+    if (!isAsciiAlone(text)) {
+        key = lettersAndNumbers(lowercased(text));
+        return;
+    }
+    key.resize(text.size());
+    std::size_t size = 0;
+    for (const char byte : text) {
+        key[size] = lowercasedAscii(byte);
+        if (isLetterMarkOrNumber(byte))
+            ++size;
+    }
+    key.resize(size);
+}
+
+std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    UText source = UTEXT_INITIALIZER;
+    const std::unique_ptr<UText, decltype(&utext_close)> closing(&source, utext_close);
+    utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
+    const std::unique_ptr<icu::BreakIterator> boundaries(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    requireSuccess(status);
+    boundaries->setText(&source, status);
+    requireSuccess(status);
+    std::int32_t end = 0;
+    for (std::size_t count = 0; count < limit; ++count) {
+        const std::int32_t next = boundaries->next();
+        if (next == icu::BreakIterator::DONE)
+            break;
+        end = next;
+    }
+    return static_cast<std::size_t>(end);
+}
+
+void loadCharacterRules()
+{
+    static_cast<void>(byteCountOfCharacters("a", 1));
+}
+
+} // namespace Loadwick

@@ -1,0 +1,145 @@
+#include "posix/PosixFileSystem.h"
+
+#include <map>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "support/EnvironmentSwap.h"
+#include "support/PlainPermissions.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using EntryKind = FileSystem::EntryKind;
+using Entries = std::map<std::string, EntryKind>;
+
+Entries entriesOf(const fs::path &folder)
+{
+    Entries entries;
+    PosixFileSystem().list(folder, [&](const std::string &name, EntryKind kind) {
+        entries.emplace(name, kind);
+        return FileSystem::Walk::goOn;
+    });
+    return entries;
+}
+
+} // namespace
+
+TEST(PosixFileSystemTest, tellsFilesFromFolders)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("file", "");
+    (void)folder.write("sub/inner", "");
+    (void)folder.write(".hidden", "");
+    EXPECT_EQ(entriesOf(folder.path()), (Entries{{"file", EntryKind::file},
+                                                 {"sub", EntryKind::folder},
+                                                 {".hidden", EntryKind::file}}));
+}
+
+TEST(PosixFileSystemTest, takesALinkForTheFileItLeadsTo)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("file", "");
+    fs::create_directory(folder.path() / "sub");
+    fs::create_symlink("file", folder.path() / "toFile");
+    fs::create_symlink("sub", folder.path() / "toFolder");
+    fs::create_symlink("missing", folder.path() / "toNothing");
+    fs::create_symlink("toItself", folder.path() / "toItself");
+    const Entries entries = entriesOf(folder.path());
+    EXPECT_EQ(entries.at("toFile"), EntryKind::file);
+    EXPECT_EQ(entries.at("toFolder"), EntryKind::other);
+    EXPECT_EQ(entries.at("toNothing"), EntryKind::other);
+    EXPECT_EQ(entries.at("toItself"), EntryKind::other);
+}
+
+TEST(PosixFileSystemTest, takesAFifoForNoFile)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
+    EXPECT_EQ(entriesOf(folder.path()), (Entries{{"fifo", EntryKind::other}}));
+}
+
+TEST(PosixFileSystemTest, givesNamesAsBytes)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("caf\xE9", "");
+    EXPECT_EQ(entriesOf(folder.path()), (Entries{{"caf\xE9", EntryKind::file}}));
+}
+
+TEST(PosixFileSystemTest, stopsWhenToldTo)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("a", "");
+    (void)folder.write("b", "");
+    int visits = 0;
+    PosixFileSystem().list(folder.path(), [&](const std::string &, EntryKind) {
+        ++visits;
+        return FileSystem::Walk::stop;
+    });
+    EXPECT_EQ(visits, 1);
+}
+
+TEST(PosixFileSystemTest, findsNothingInWhatCannotBeListed)
+{
+    const TemporaryFolder folder;
+    EXPECT_TRUE(entriesOf(folder.path() / "missing").empty());
+    EXPECT_TRUE(entriesOf(folder.write("file", "")).empty());
+    EXPECT_TRUE(entriesOf(folder.path().string() + std::string(1, '\0')).empty());
+    EXPECT_TRUE(entriesOf("").empty());
+}
+
+TEST(PosixFileSystemTest, findsNothingInAFolderThatMayNotBeRead)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("sub/file", "");
+    fs::permissions(folder.path() / "sub", fs::perms::none);
+    const PlainPermissions plain;
+    EXPECT_TRUE(entriesOf(folder.path() / "sub").empty());
+}
+
+TEST(PosixFileSystemTest, holdsWhatAnswersToAPath)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("inner/file", "");
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "inner/file"));
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "inner"));
+    EXPECT_FALSE(PosixFileSystem().mayHold(folder.path() / "other/file"));
+}
+
+TEST(PosixFileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
+{
+    const TemporaryFolder folder;
+    fs::create_symlink("missing", folder.path() / "link");
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "link"));
+    (void)folder.write("shut/file", "");
+    fs::permissions(folder.path() / "shut", fs::perms::owner_read);
+    const PlainPermissions plain;
+    EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "shut/file"));
+}
+
+TEST(PosixFileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
+{
+    const EnvironmentSwap swap({"TMPDIR=/dev/shm"});
+    const TemporaryFolder folder;
+    (void)folder.write("flat/file", "");
+    (void)folder.write("deep/.hidden/file", "");
+    EXPECT_FALSE(PosixFileSystem().mayHoldFolders(folder.path() / "flat"));
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "deep"));
+    fs::remove_all(folder.path() / "deep/.hidden");
+    EXPECT_FALSE(PosixFileSystem().mayHoldFolders(folder.path() / "deep"));
+}
+
+TEST(PosixFileSystemTest, rulesNoFolderOutWhereNobodyKeepsCount)
+{
+    const TemporaryFolder folder;
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders("/proc/self/fd")) << "two links, and no such disk";
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "missing"));
+}
+
+} // namespace Loadwick

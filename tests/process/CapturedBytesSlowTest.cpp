@@ -1,0 +1,34 @@
+#include "process/CapturedBytes.h"
+
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/PeakMemory.h"
+#include "support/Sanitizers.h"
+
+namespace Loadwick {
+
+TEST(CapturedBytesSlowTest, takesLittleMoreMemoryThanItHolds)
+{
+    if (isSanitized)
+        GTEST_SKIP() << "a sanitizer's own memory counts too";
+    constexpr std::size_t chunkCount = 3200;
+    const std::vector<char> chunk(65'536, 'x');
+    const std::size_t captured = chunkCount * chunk.size();
+    CapturedBytes bytes(captured);
+    const PeakMemory whileCapturing;
+    for (std::size_t count = 0; count < chunkCount; ++count)
+        bytes.append(chunk);
+    const std::size_t capturing = whileCapturing.growthInBytes();
+
+    const PeakMemory whileJoining;
+    const std::optional<std::string> text = std::move(bytes).join();
+    const std::size_t joining = whileJoining.growthInBytes();
+
+    EXPECT_EQ(text->size(), captured);
+    EXPECT_LT(capturing, captured * 11 / 10);
+    EXPECT_LT(joining, captured / 10);
+}
+
+} // namespace Loadwick

@@ -1,0 +1,185 @@
+#include "process/ChildProcess.h"
+
+#include <csignal>
+#include <system_error>
+
+#include <gtest/gtest.h>
+
+#include "support/HostileChild.h"
+#include "support/ProcessCensus.h"
+#include "support/Stopwatch.h"
+#include "support/TemporaryFolder.h"
+
+namespace Loadwick {
+
+using Ending = ChildProcess::Ending;
+
+namespace {
+
+ChildCommand hostileCommand(std::vector<std::string> arguments)
+{
+    return {hostileChildPath(), std::move(arguments), {}, std::nullopt};
+}
+
+ChildProcess startHostile(std::vector<std::string> arguments)
+{
+    return ChildProcess::start(hostileCommand(std::move(arguments)), {}, nullptr);
+}
+
+std::error_code startFailure(const ChildCommand &command,
+                             const std::shared_ptr<Shutdown> &shutdown = nullptr)
+{
+    try {
+        (void)ChildProcess::start(command, {}, shutdown);
+    } catch (const std::system_error &error) {
+        return error.code();
+    }
+    return {};
+}
+
+bool exists(pid_t process)
+{
+    return kill(process, 0) == 0;
+}
+
+} // namespace
+
+TEST(ChildProcessTest, tellsTheExitStatus)
+{
+    ChildProcess child = startHostile({"print", "", "", "143"});
+    EXPECT_EQ(child.reap(), (Ending{143, false}));
+}
+
+TEST(ChildProcessTest, tellsTheSignalThatEndedIt)
+{
+    ChildProcess child = startHostile({"close-output"});
+    EXPECT_TRUE(child.isRunning());
+    child.signal(SIGUSR1);
+    EXPECT_EQ(child.reap(), (Ending{SIGUSR1, true}));
+}
+
+TEST(ChildProcessTest, isSeenToEndWithoutBeingReaped)
+{
+    ChildProcess child = startHostile({"print", "", "", "0"});
+    ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));
+    EXPECT_FALSE(child.isRunning());
+    EXPECT_TRUE(exists(child.processID()));
+    EXPECT_EQ(child.reap(), (Ending{0, false}));
+}
+
+TEST(ChildProcessTest, isWaitedForUntilADeadline)
+{
+    const ChildProcess child = startHostile({"close-output"});
+    const Stopwatch watch;
+    EXPECT_FALSE(child.waitUntil(deadlineAfter(0.03)));
+    EXPECT_GE(watch.seconds(), 0.03);
+}
+
+TEST(ChildProcessTest, isRunningWhileItIsStopped)
+{
+    const ChildProcess child = startHostile({"stop"});
+    EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
+    EXPECT_TRUE(child.isRunning());
+}
+
+TEST(ChildProcessTest, isKilledAndReapedWhenItsOwnerGoes)
+{
+    const ProcessCensus before = ProcessCensus::now();
+    pid_t processID = 0;
+    {
+        const ChildProcess child = startHostile({"ignore-term"});
+        processID = child.processID();
+    }
+    EXPECT_FALSE(exists(processID));
+    EXPECT_TRUE(ProcessCensus::now().isWithin(before));
+}
+
+TEST(ChildProcessTest, hasOneOwnerAtATime)
+{
+    ChildProcess first = startHostile({"close-output"});
+    const pid_t processID = first.processID();
+    {
+        const ChildProcess second = std::move(first);
+        EXPECT_EQ(second.processID(), processID);
+        EXPECT_TRUE(exists(processID));
+    }
+    EXPECT_FALSE(exists(processID));
+    first.signal(SIGKILL);
+    first.signalGroup(SIGKILL);
+}
+
+TEST(ChildProcessTest, isReapedInTheBackgroundWhenItIsAbandoned)
+{
+    const ProcessCensus before = ProcessCensus::now();
+    ChildProcess child = startHostile({"close-output"});
+    const pid_t processID = child.processID();
+    ChildProcess::abandon(std::move(child));
+    EXPECT_TRUE(exists(processID));
+    kill(processID, SIGKILL);
+    EXPECT_TRUE(eventually([&] { return !exists(processID); }));
+    EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
+}
+
+TEST(ChildProcessTest, saysWhyItCouldNotStart)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(startFailure({folder.path() / "none", {}, {}, std::nullopt}),
+              std::errc::no_such_file_or_directory);
+    EXPECT_EQ(startFailure({folder.write("plain", "text"), {}, {}, std::nullopt}),
+              std::errc::permission_denied);
+    EXPECT_EQ(startFailure({folder.writeScript("broken", "\x7F"
+                                                         "ELF truncated"),
+                            {},
+                            {},
+                            {}}),
+              std::errc::executable_format_error);
+    EXPECT_EQ(startFailure({hostileChildPath(), {}, {}, folder.path() / "gone"}),
+              std::errc::no_such_file_or_directory);
+}
+
+TEST(ChildProcessTest, refusesTextsThatTheSystemWouldCut)
+{
+    using namespace std::string_literals;
+    EXPECT_EQ(startFailure({hostileChildPath() + "\0x"s, {}, {}, std::nullopt}),
+              std::errc::no_such_file_or_directory);
+    EXPECT_EQ(startFailure({hostileChildPath(), {}, {}, "/\0x"s}),
+              std::errc::no_such_file_or_directory);
+    EXPECT_EQ(startFailure({hostileChildPath(), {"a\0b"s}, {}, std::nullopt}),
+              std::errc::invalid_argument);
+}
+
+TEST(ChildProcessTest, leavesNothingBehindWhenItCannotStart)
+{
+    const ProcessCensus before = ProcessCensus::now();
+    EXPECT_TRUE(startFailure({"/nowhere/claude", {}, {}, std::nullopt}));
+    EXPECT_TRUE(ProcessCensus::now().isWithin(before));
+}
+
+TEST(ChildProcessTest, doesNotStartOnceTheProgramEnds)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    shutdown->request();
+    EXPECT_EQ(startFailure(hostileCommand({"close-output"}), shutdown),
+              std::errc::operation_canceled);
+}
+
+TEST(ChildProcessTest, leavesTheShutdownListBeforeItIsReaped)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    ChildProcess child = ChildProcess::start(hostileCommand({"print", "", "", "0"}), {}, shutdown);
+    (void)child.reap();
+    const Stopwatch watch;
+    shutdown->stopChildren(std::chrono::seconds(60));
+    EXPECT_LT(watch.seconds(), 30);
+}
+
+TEST(ChildProcessTest, endsWithoutAStatusWhereTheSystemReapsItsChildrenItself)
+{
+    const auto usual = std::signal(SIGCHLD, SIG_IGN);
+    ChildProcess child = startHostile({"print", "", "", "143"});
+    EXPECT_TRUE(child.waitUntil(deadlineAfter(30)));
+    EXPECT_EQ(child.reap(), (Ending{.status = 0, .isBySignal = false}));
+    std::signal(SIGCHLD, usual);
+}
+
+} // namespace Loadwick

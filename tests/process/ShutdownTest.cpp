@@ -1,0 +1,131 @@
+#include "process/Shutdown.h"
+
+#include <atomic>
+#include <thread>
+
+#include <csignal>
+
+#include <gtest/gtest.h>
+
+#include "process/ChildProcess.h"
+#include "support/HostileChild.h"
+#include "support/Stopwatch.h"
+
+namespace Loadwick {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+ChildProcess startChild(std::vector<std::string> arguments,
+                        const std::shared_ptr<Shutdown> &shutdown)
+{
+    return ChildProcess::start({hostileChildPath(), std::move(arguments), {}, std::nullopt}, {},
+                               shutdown);
+}
+
+} // namespace
+
+TEST(ShutdownTest, sleepsForTheWholeDurationWhenNobodyAsksForTheEnd)
+{
+    Shutdown shutdown;
+    const Stopwatch watch;
+    EXPECT_FALSE(shutdown.waitFor(30ms));
+    EXPECT_GE(watch.seconds(), 0.03);
+}
+
+TEST(ShutdownTest, wakesEveryWaitNowAndLater)
+{
+    Shutdown shutdown;
+    std::atomic<int> woken = 0;
+    const auto wait = [&] { woken += shutdown.waitFor(60s) ? 1 : 0; };
+    std::thread first(wait);
+    std::thread second(wait);
+    EXPECT_FALSE(shutdown.isRequested());
+    shutdown.request();
+    first.join();
+    second.join();
+    EXPECT_EQ(woken, 2);
+    EXPECT_TRUE(shutdown.waitFor(60s));
+    EXPECT_TRUE(shutdown.isRequested());
+}
+
+TEST(ShutdownTest, takesNoChildOnceTheEndWasRequested)
+{
+    Shutdown shutdown;
+    EXPECT_TRUE(shutdown.announce());
+    shutdown.request();
+    EXPECT_FALSE(shutdown.announce());
+    EXPECT_FALSE(shutdown.add(4'000'000));
+    shutdown.withdraw();
+}
+
+TEST(ShutdownTest, returnsAtOnceWithoutChildren)
+{
+    Shutdown shutdown;
+    const Stopwatch watch;
+    shutdown.stopChildren(60s);
+    EXPECT_LT(watch.seconds(), 30);
+    EXPECT_TRUE(shutdown.isRequested());
+}
+
+TEST(ShutdownTest, waitsForAChildThatIsJustBeingStarted)
+{
+    Shutdown shutdown;
+    ASSERT_TRUE(shutdown.announce());
+    std::thread starter([&] {
+        std::this_thread::sleep_for(30ms);
+        shutdown.withdraw();
+    });
+    const Stopwatch watch;
+    shutdown.stopChildren(60s);
+    EXPECT_GE(watch.seconds(), 0.02);
+    EXPECT_LT(watch.seconds(), 30);
+    starter.join();
+}
+
+TEST(ShutdownTest, asksChildrenToEndAndReturnsWhenTheyAreReaped)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    std::thread owner([child = startChild({"close-output"}, shutdown)]() mutable {
+        EXPECT_TRUE(child.waitUntil(deadlineAfter(60)));
+        EXPECT_EQ(child.reap(), (ChildProcess::Ending{SIGTERM, true}));
+    });
+    const Stopwatch watch;
+    shutdown->stopChildren(60s);
+    EXPECT_LT(watch.seconds(), 30);
+    owner.join();
+}
+
+TEST(ShutdownTest, killsAChildThatIgnoresTheRequest)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    ChildProcess child = startHostileChild({"ignore-term"}, shutdown);
+    const Stopwatch watch;
+    shutdown->stopChildren(100ms);
+    EXPECT_GE(watch.seconds(), 0.1);
+    ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));
+    EXPECT_EQ(child.reap(), (ChildProcess::Ending{SIGKILL, true}));
+}
+
+TEST(ShutdownTest, signalsNoGroupThatWasTakenOff)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    const ChildProcess child = startChild({"close-output"}, nullptr);
+    ASSERT_TRUE(shutdown->add(child.processID()));
+    shutdown->remove(child.processID());
+    shutdown->stopChildren(0s);
+    EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
+}
+
+TEST(ShutdownTest, signalsNobodyWhereThereIsNoGroup)
+{
+    // The groups 0 and 1 would be our own and everybody.
+    Shutdown shutdown;
+    EXPECT_TRUE(shutdown.add(0));
+    EXPECT_TRUE(shutdown.add(1));
+    shutdown.stopChildren(0ms);
+    EXPECT_TRUE(shutdown.isRequested());
+}
+
+} // namespace Loadwick

@@ -1,0 +1,108 @@
+#include "text/UnicodeText.h"
+
+#include <new>
+
+#include <gtest/gtest.h>
+
+#include "support/UnicodeMemory.h"
+
+namespace Loadwick {
+
+TEST(UnicodeTextTest, tellsUtf8FromOtherBytes)
+{
+    EXPECT_TRUE(isUtf8(""));
+    EXPECT_TRUE(isUtf8("plain, é, 日本, 👩‍👩‍👧‍👦"));
+    EXPECT_FALSE(isUtf8("half \xE2\x82"));
+    EXPECT_FALSE(isUtf8("overlong \xC0\xAF"));
+    EXPECT_FALSE(isUtf8("surrogate \xED\xA0\x80"));
+    EXPECT_FALSE(isUtf8("\xFF"));
+}
+
+TEST(UnicodeTextTest, findsWhatIsNotUtf8BehindAsciiOfAnyLength)
+{
+    for (std::size_t length = 0; length < 40; ++length) {
+        const std::string ascii(length, 'a');
+        EXPECT_TRUE(isUtf8(ascii + "\xC3\xA9" + ascii)) << length;
+        EXPECT_FALSE(isUtf8(ascii + "\xA9" + ascii)) << length;
+        EXPECT_FALSE(isUtf8(ascii + "\xC3")) << length;
+    }
+}
+
+TEST(UnicodeTextTest, putsReplacementCharactersForWhatIsNotUtf8)
+{
+    EXPECT_EQ(repairedUtf8("a\xFFz"), "a\xEF\xBF\xBDz");
+    EXPECT_EQ(repairedUtf8("a\xE2\x82z"), "a\xEF\xBF\xBDz");
+    EXPECT_EQ(repairedUtf8("fine é"), "fine é");
+}
+
+TEST(UnicodeTextTest, trimsEveryKindOfWhiteSpace)
+{
+    EXPECT_EQ(trimmed(" \t\r\n\xC2\xA0 a b \xE2\x80\xA8\xE3\x80\x80\xC2\x85"), "a b");
+    EXPECT_EQ(trimmed(" \n "), "");
+    EXPECT_EQ(trimmed(""), "");
+    EXPECT_EQ(trimmed("\xFF"), "\xFF");
+    EXPECT_EQ(trimmed(" é "), "é");
+}
+
+TEST(UnicodeTextTest, trimsBlanksAndTabsOnly)
+{
+    EXPECT_EQ(trimmedBlanks(" \ta\n\t "), "a\n");
+    EXPECT_EQ(trimmedBlanks(" \t"), "");
+}
+
+TEST(UnicodeTextTest, lowersLettersOfEveryScript)
+{
+    EXPECT_EQ(lowercased("SLAB ÄΩЖ"), "slab äωж");
+    EXPECT_EQ(lowercased(""), "");
+}
+
+TEST(UnicodeTextTest, keepsLettersAndNumbers)
+{
+    EXPECT_EQ(lettersAndNumbers("Memory_files, 2: [x]!"), "Memoryfiles2x");
+    EXPECT_EQ(lettersAndNumbers("Memory_files, №2: é日!"), "Memoryfiles2é日");
+    EXPECT_EQ(lettersAndNumbers("/09:@AZ[`az{~"), "09AZaz");
+}
+
+TEST(UnicodeTextTest, makesASearchKeyOfLettersAndNumbersInLowerCase)
+{
+    std::string key = "whatever stood there before";
+    for (const std::string_view text : {"Memory_files, 2: [x]!", "", "_",
+                                        "AZaz09@[`{/:", "Memory_files, №2: É日!", "É", "a\xFFZ"}) {
+        setSearchKey(key, text);
+        EXPECT_EQ(key, lettersAndNumbers(lowercased(text))) << text;
+    }
+}
+
+TEST(UnicodeTextTest, countsUserPerceivedCharacters)
+{
+    const std::string_view family = "👩‍👩‍👧‍👦";
+    EXPECT_EQ(byteCountOfCharacters("abc", 2), 2U);
+    EXPECT_EQ(byteCountOfCharacters("abc", 3), 3U);
+    EXPECT_EQ(byteCountOfCharacters("abc", 9), 3U);
+    EXPECT_EQ(byteCountOfCharacters("abc", 0), 0U);
+    EXPECT_EQ(byteCountOfCharacters(family, 1), family.size());
+    EXPECT_EQ(byteCountOfCharacters("e\xCC\x81z", 1), 3U);
+    EXPECT_EQ(byteCountOfCharacters("\r\nx", 1), 2U);
+    const std::string mixed = "क्षि" + std::string(family) + "x";
+    EXPECT_EQ(byteCountOfCharacters(mixed, 100), mixed.size());
+}
+
+TEST(UnicodeTextTest, saysThatThereWasNoMemoryToCountCharactersWhereverItRanOut)
+{
+    loadCharacterRules();
+    bool ranOut = true;
+    for (long grants = 0; ranOut; ++grants) {
+        ASSERT_LT(grants, 10'000);
+        const UnicodeMemory memory(grants);
+        try {
+            EXPECT_EQ(byteCountOfCharacters("e\xCC\x81z", 1), 3U);
+            EXPECT_FALSE(memory.ranOut());
+        } catch (const std::bad_alloc &) {
+            EXPECT_TRUE(memory.ranOut());
+        }
+        ranOut = memory.ranOut();
+    }
+    EXPECT_EQ(byteCountOfCharacters("e\xCC\x81z", 1), 3U);
+}
+
+} // namespace Loadwick

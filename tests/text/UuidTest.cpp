@@ -1,0 +1,67 @@
+#include "text/Uuid.h"
+
+#include <set>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace Loadwick {
+
+TEST(UuidTest, readsItsTextInEitherCaseAndWritesItInUpperCase)
+{
+    const std::string upper = "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A92";
+    const auto fromUpper = Uuid::fromText(upper);
+    const auto fromLower = Uuid::fromText("6f1c2b0a-8e55-4c2d-9a61-3b7d1e0f4a92");
+    ASSERT_TRUE(fromUpper && fromLower);
+    EXPECT_EQ(fromUpper->text(), upper);
+    EXPECT_EQ(*fromUpper, *fromLower);
+}
+
+TEST(UuidTest, readsTheLowestAndTheHighest)
+{
+    for (const std::string text :
+         {"00000000-0000-0000-0000-000000000000", "FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF"}) {
+        const auto uuid = Uuid::fromText(text);
+        ASSERT_TRUE(uuid) << text;
+        EXPECT_EQ(uuid->text(), text);
+    }
+}
+
+TEST(UuidTest, readsNothingButTheCanonicalForm)
+{
+    for (const std::string text : {
+             "",
+             "6F1C2B0A8E554C2D9A613B7D1E0F4A92",
+             "{6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A92}",
+             "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A9",
+             "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A922",
+             " 6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A9",
+             "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A9G",
+             "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A9g",
+             "6F1C2B0A-8E55-4C2D-9A613-B7D1E0F4A92",
+             "6F1C2B0A_8E55_4C2D_9A61_3B7D1E0F4A92",
+             "6F1C2B0-A8E55-4C2D-9A61-3B7D1E0F4A92",
+             "-6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A9",
+             "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A\xC3\xA9",
+         })
+        EXPECT_FALSE(Uuid::fromText(text)) << text;
+}
+
+TEST(UuidTest, makesRandomOnesThatDiffer)
+{
+    std::set<Uuid> seen;
+    for (int count = 0; count < 1'000; ++count)
+        seen.insert(Uuid::random());
+    EXPECT_EQ(seen.size(), 1'000U);
+}
+
+TEST(UuidTest, marksRandomOnesAsVersionFour)
+{
+    const std::string text = Uuid::random().text();
+    ASSERT_EQ(text.size(), 36U);
+    EXPECT_EQ(text[14], '4');
+    EXPECT_NE(std::string("89AB").find(text[19]), std::string::npos);
+    EXPECT_EQ(Uuid::fromText(text)->text(), text);
+}
+
+} // namespace Loadwick
