@@ -14,7 +14,7 @@
 #include "history/ScanHistory.h"
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
-#include "measure/data/GeneratedFiles.h"
+#include "samples/GeneratedFiles.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include <unistd.h>
 
 #include "ScratchFolder.h"
-#include "measure/data/GeneratedFiles.h"
 #include "report/InstructionFileScanner.h"
+#include "samples/GeneratedFiles.h"
 
 namespace {
 

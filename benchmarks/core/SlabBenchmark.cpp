@@ -8,9 +8,9 @@
 
 #include <benchmark/benchmark.h>
 
-#include "measure/data/GeneratedText.h"
 #include "probe/SlabParser.h"
 #include "report/SlabAttributor.h"
+#include "samples/GeneratedText.h"
 
 namespace {
 

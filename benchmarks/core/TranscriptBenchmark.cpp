@@ -5,8 +5,8 @@
 #include <benchmark/benchmark.h>
 
 #include "ScratchFolder.h"
-#include "measure/data/GeneratedFiles.h"
 #include "probe/TranscriptReader.h"
+#include "samples/GeneratedFiles.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "measure/data/GeneratedText.h"
 #include "report/TreemapLayout.h"
+#include "samples/GeneratedText.h"
 
 namespace {
 

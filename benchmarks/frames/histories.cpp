@@ -9,8 +9,8 @@
 #include "FrameArguments.h"
 #include "PageCosts.h"
 #include "demo/window/WindowAppearance.h"
+#include "samples/SampleHistories.h"
 #include "shell/ApplicationSetup.h"
-#include "support/SampleHistories.h"
 
 namespace {
 

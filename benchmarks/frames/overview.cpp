@@ -12,8 +12,8 @@
 #include "FrameArguments.h"
 #include "PageCosts.h"
 #include "demo/window/WindowAppearance.h"
+#include "samples/SampleScans.h"
 #include "shell/ApplicationSetup.h"
-#include "support/SampleScans.h"
 
 namespace {
 

@@ -14,12 +14,12 @@
 #include <QKeyEvent>
 #include <QTimer>
 
-#include "demo/Confinement.h"
 #include "demo/ProcessOfItsOwn.h"
-#include "demo/ThrowAwayHome.h"
 #include "demo/window/ConfinedWindow.h"
 #include "demo/window/EventWait.h"
 #include "demo/window/GivenFolderChooser.h"
+#include "samples/Confinement.h"
+#include "samples/ThrowAwayHome.h"
 #include "shell/ApplicationSetup.h"
 
 namespace {

@@ -14,12 +14,12 @@
 #include <string_view>
 #include <utility>
 
-#include "demo/Confinement.h"
 #include "demo/window/ConfinedWindow.h"
 #include "demo/window/GivenFolderChooser.h"
 #include "desktop/DesktopNoticeBoard.h"
 #include "history/ScanHistoryStore.h"
 #include "onboarding/PreferencesCompletionStore.h"
+#include "samples/Confinement.h"
 #include "shell/LoadwickApp.h"
 
 namespace {

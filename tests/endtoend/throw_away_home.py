@@ -9,7 +9,7 @@ import tempfile
 from pathlib import Path
 from typing import Any
 
-STAND_IN = Path(__file__).resolve().parents[2] / "tools" / "demo" / "claude"
+STAND_IN = Path(__file__).resolve().parents[2] / "samples" / "claude"
 
 
 class ThrowAwayHome:

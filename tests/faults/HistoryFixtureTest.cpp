@@ -7,7 +7,7 @@
 
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Faults {
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Faults {
 

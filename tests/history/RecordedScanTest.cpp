@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "samples/SampleReport.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/SampleReport.h"
 
 namespace Loadwick {
 

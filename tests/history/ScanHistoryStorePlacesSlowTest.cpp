@@ -10,9 +10,9 @@
 
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
+#include "samples/TemporaryFolder.h"
 #include "support/PlainPermissions.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/TemporaryFolder.h"
 
 // What takes processes of its own, or a limit on memory that no sanitizer lives with.
 

@@ -11,8 +11,8 @@
 
 #include "history/ScanHistoryFile.h"
 #include "posix/FileDescriptor.h"
+#include "samples/TemporaryFolder.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

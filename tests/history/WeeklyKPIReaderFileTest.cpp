@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

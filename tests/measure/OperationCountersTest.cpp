@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include "measure/data/GeneratedFiles.h"
-#include "measure/data/GeneratedText.h"
+#include "measure/Measurement.h"
+#include "samples/GeneratedFiles.h"
+#include "samples/GeneratedText.h"
+#include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
-#include "support/Measurement.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "measure/data/GeneratedFiles.h"
-#include "support/Measurement.h"
-#include "support/TemporaryFolder.h"
+#include "measure/Measurement.h"
+#include "samples/GeneratedFiles.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

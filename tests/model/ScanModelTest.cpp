@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 #include "support/ScanModelHarness.h"
 
 namespace Loadwick {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

@@ -12,7 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -9,7 +9,7 @@
 #include <sys/un.h>
 
 #include "posix/FileDescriptor.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

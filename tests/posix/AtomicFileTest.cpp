@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "posix/FileDescriptor.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -11,7 +11,7 @@
 #include <unistd.h>
 
 #include "posix/FileDescriptor.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

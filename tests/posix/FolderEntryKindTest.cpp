@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 
 #include "posix/FileDescriptor.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

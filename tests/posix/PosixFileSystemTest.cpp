@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

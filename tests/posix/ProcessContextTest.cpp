@@ -6,8 +6,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

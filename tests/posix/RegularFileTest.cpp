@@ -11,8 +11,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

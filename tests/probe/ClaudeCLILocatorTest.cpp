@@ -4,9 +4,9 @@
 #include <sys/stat.h>
 
 #include "probe/ProbeError.h"
+#include "samples/TemporaryFolder.h"
 #include "support/ProcessCensus.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

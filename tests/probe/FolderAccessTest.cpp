@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

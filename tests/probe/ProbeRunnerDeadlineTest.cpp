@@ -5,8 +5,8 @@
 #include "posix/PosixFileSystem.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeRunner.h"
+#include "samples/TemporaryFolder.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -6,12 +6,12 @@
 
 #include "probe/ProbeOutputParser.h"
 #include "probe/ProbeRunner.h"
+#include "samples/TemporaryFolder.h"
 #include "support/HostileChild.h"
 #include "support/PeakMemory.h"
 #include "support/ProcessCensus.h"
 #include "support/Sanitizers.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -4,10 +4,10 @@
 
 #include "probe/ProbeError.h"
 #include "probe/ProbeRunner.h"
+#include "samples/TemporaryFolder.h"
 #include "support/HostileChild.h"
 #include "support/ProcessCensus.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

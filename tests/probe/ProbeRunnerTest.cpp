@@ -4,8 +4,8 @@
 
 #include "posix/PosixFileSystem.h"
 #include "probe/ProbeError.h"
+#include "samples/TemporaryFolder.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

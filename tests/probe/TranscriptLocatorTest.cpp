@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 
 #include "posix/PosixFileSystem.h"
+#include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
 #include "support/InMemoryFileSystem.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 #include "support/TranscriptLines.h"
 
 namespace Loadwick {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 #include "support/TranscriptLines.h"
 
 namespace Loadwick {

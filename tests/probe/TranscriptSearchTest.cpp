@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "posix/PosixFileSystem.h"
+#include "samples/TemporaryFolder.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -5,10 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/HostileChild.h"
 #include "support/ProcessCensus.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

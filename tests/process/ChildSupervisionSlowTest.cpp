@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/MemoryShortage.h"
 #include "support/ProcessCensus.h"
 #include "support/Sanitizers.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -8,11 +8,11 @@
 #include <pthread.h>
 #include <unistd.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/HostileChild.h"
 #include "support/ProcessCensus.h"
 #include "support/Sanitizers.h"
 #include "support/Stopwatch.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

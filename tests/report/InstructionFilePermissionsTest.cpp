@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "report/InstructionFileScanner.h"
+#include "samples/TemporaryFolder.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

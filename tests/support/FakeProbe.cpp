@@ -1,6 +1,6 @@
 #include "support/FakeProbe.h"
 
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

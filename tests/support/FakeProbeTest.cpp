@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "probe/ProbeError.h"
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "report/InstructionFileScanner.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

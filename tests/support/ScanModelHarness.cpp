@@ -1,7 +1,7 @@
 #include "support/ScanModelHarness.h"
 
 #include "report/ScanReportBuilder.h"
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

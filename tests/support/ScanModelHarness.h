@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "model/ScanModel.h"
+#include "samples/TemporaryFolder.h"
 #include "support/FakeInstructionScanner.h"
 #include "support/FakeProbe.h"
 #include "support/SteppingDispatcher.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

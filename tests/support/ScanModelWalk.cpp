@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "probe/FolderAccess.h"
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

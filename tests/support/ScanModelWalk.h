@@ -7,9 +7,9 @@
 #include <string>
 
 #include "model/ScanModel.h"
+#include "samples/TemporaryFolder.h"
 #include "support/ScanModelHarness.h"
 #include "support/ScanStateTable.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <iostream>
 
-#include "demo/Confinement.h"
 #include "demo/ProcessOfItsOwn.h"
-#include "demo/ThrowAwayHome.h"
 #include "demo/window/Demonstration.h"
+#include "samples/Confinement.h"
+#include "samples/ThrowAwayHome.h"
 
 namespace {
 

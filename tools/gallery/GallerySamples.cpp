@@ -1,8 +1,8 @@
 #include "GallerySamples.h"
 
 #include "history/ScanHistory.h"
-#include "support/SampleHistories.h"
-#include "support/SampleScans.h"
+#include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
 
 namespace Loadwick {
 namespace {

@@ -6,8 +6,6 @@
 
 #include "history/ScanHistory.h"
 #include "history/ScanHistoryStore.h"
-#include "measure/data/GeneratedFiles.h"
-#include "measure/data/GeneratedText.h"
 #include "posix/PosixFileSystem.h"
 #include "posix/RegularFile.h"
 #include "probe/ProbeOutputParser.h"
@@ -19,6 +17,8 @@
 #include "report/InstructionFileScanner.h"
 #include "report/SlabAttributor.h"
 #include "report/TreemapLayout.h"
+#include "samples/GeneratedFiles.h"
+#include "samples/GeneratedText.h"
 
 namespace Loadwick {
 

@@ -1,7 +1,7 @@
 #include "pictures/Scene.h"
 
-#include "support/SampleHistories.h"
-#include "support/SampleScans.h"
+#include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
 
 namespace Loadwick {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "pictures/Scene.h"
+#include "samples/TemporaryFolder.h"
 #include "shell/LoadwickWindow.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -12,9 +12,9 @@
 #include "demo/window/WindowAppearance.h"
 #include "pictures/Stage.h"
 #include "pictures/WalkThrough.h"
+#include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
 #include "shell/ApplicationSetup.h"
-#include "support/SampleHistories.h"
-#include "support/SampleScans.h"
 #include "text/Fatal.h"
 #include "theme/DesktopWishes.h"
 

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QUrl>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

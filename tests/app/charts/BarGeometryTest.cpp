@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "history/ScanHistory.h"
+#include "samples/SampleHistories.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/SampleHistories.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

@@ -3,8 +3,8 @@
 #include <QTest>
 
 #include "compare/ColumnPresenter.h"
+#include "samples/SampleHistories.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/SampleHistories.h"
 #include "support/ScanningModel.h"
 #include "support/TestRegistry.h"
 

@@ -3,8 +3,8 @@
 
 #include <QTest>
 
+#include "samples/SampleHistories.h"
 #include "support/ComparePage.h"
-#include "support/SampleHistories.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

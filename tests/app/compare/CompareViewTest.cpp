@@ -3,9 +3,9 @@
 #include <QFontMetricsF>
 #include <QTest>
 
+#include "samples/SampleHistories.h"
 #include "support/ComparePage.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/SampleHistories.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 

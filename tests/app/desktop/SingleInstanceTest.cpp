@@ -9,8 +9,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
-#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

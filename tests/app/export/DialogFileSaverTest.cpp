@@ -7,7 +7,7 @@
 #include <QQuickWindow>
 #include <QTest>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "theme/ApplicationStyle.h"

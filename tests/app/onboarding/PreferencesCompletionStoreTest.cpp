@@ -7,8 +7,8 @@
 
 #include <sys/stat.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/PlainPermissions.h"
-#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

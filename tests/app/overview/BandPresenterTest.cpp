@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

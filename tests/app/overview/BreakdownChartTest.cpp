@@ -2,8 +2,8 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include "samples/SampleReport.h"
 #include "support/BreakdownWindow.h"
-#include "support/SampleReport.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

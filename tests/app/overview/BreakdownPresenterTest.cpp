@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "report/SlabAttributor.h"
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

@@ -6,9 +6,9 @@
 #include <QSet>
 #include <QTest>
 
+#include "samples/SampleReport.h"
+#include "samples/SampleScans.h"
 #include "support/BreakdownWindow.h"
-#include "support/SampleReport.h"
-#include "support/SampleScans.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

@@ -3,9 +3,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "samples/SampleReport.h"
+#include "samples/SampleScans.h"
 #include "support/ProcessorTime.h"
-#include "support/SampleReport.h"
-#include "support/SampleScans.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

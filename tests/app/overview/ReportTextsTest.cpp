@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

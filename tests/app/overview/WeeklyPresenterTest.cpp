@@ -3,8 +3,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "samples/TemporaryFolder.h"
 #include "support/SteppingDispatcher.h"
-#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

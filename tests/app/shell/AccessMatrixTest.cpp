@@ -5,10 +5,10 @@
 #include <QGuiApplication>
 #include <QTest>
 
+#include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
 #include "support/FakeCompletionStore.h"
 #include "support/LayoutAudit.h"
-#include "support/SampleHistories.h"
-#include "support/SampleScans.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"

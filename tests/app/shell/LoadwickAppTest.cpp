@@ -18,11 +18,11 @@
 #include <sys/types.h>
 #include <unistd.h>
 
+#include "samples/TemporaryFolder.h"
 #include "support/FakeFolderChooser.h"
 #include "support/FakeInstructionScanner.h"
 #include "support/FakeProbe.h"
 #include "support/StandInProgram.h"
-#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

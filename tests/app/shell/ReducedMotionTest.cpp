@@ -4,10 +4,10 @@
 #include <QDeadlineTimer>
 #include <QTest>
 
+#include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
 #include "support/FakeCompletionStore.h"
 #include "support/MotionSampler.h"
-#include "support/SampleHistories.h"
-#include "support/SampleScans.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"

@@ -5,7 +5,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -4,7 +4,7 @@
 #include <QProcess>
 #include <QString>
 
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

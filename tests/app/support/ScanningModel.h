@@ -3,10 +3,10 @@
 #include <memory>
 
 #include "model/ScanModel.h"
+#include "samples/TemporaryFolder.h"
 #include "support/FakeInstructionScanner.h"
 #include "support/FakeProbe.h"
 #include "support/SteppingDispatcher.h"
-#include "support/TemporaryFolder.h"
 
 namespace Loadwick {
 

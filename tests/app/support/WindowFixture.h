@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include "samples/TemporaryFolder.h"
 #include "shell/LoadwickWindow.h"
 #include "support/FakeFileSaver.h"
 #include "support/FakeFolderChooser.h"
@@ -11,7 +12,6 @@
 #include "support/FakeNoticeBoard.h"
 #include "support/FakeProbe.h"
 #include "support/SteppingDispatcher.h"
-#include "support/TemporaryFolder.h"
 #include "theme/Appearance.h"
 
 class QAccessibleInterface;

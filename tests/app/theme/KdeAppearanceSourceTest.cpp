@@ -1,8 +1,8 @@
 #include "theme/KdeAppearanceSource.h"
 
 #include "base/QtTaskDispatcher.h"
+#include "samples/TemporaryFolder.h"
 #include "support/SteppingDispatcher.h"
-#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 #include <fstream>

@@ -2,11 +2,11 @@
 
 #include <QTest>
 
+#include "samples/TemporaryFolder.h"
 #include "support/FakeInstructionScanner.h"
 #include "support/FakeProbe.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/SteppingDispatcher.h"
-#include "support/TemporaryFolder.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

@@ -4,9 +4,9 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include "samples/SampleReport.h"
 #include "shell/AppPage.h"
 #include "support/RecordedScanBuilder.h"
-#include "support/SampleReport.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 

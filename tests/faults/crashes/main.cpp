@@ -14,7 +14,7 @@
 #include "faults/crashes/TracedWork.h"
 #include "faults/driver/HistoryFixture.h"
 #include "history/ScanHistoryStore.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace {
 

@@ -26,7 +26,7 @@
 #include "faults/driver/Matrix.h"
 #include "faults/driver/Shim.h"
 #include "history/ScanHistoryStore.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 namespace {
 

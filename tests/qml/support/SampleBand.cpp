@@ -1,6 +1,6 @@
 #include "SampleBand.h"
 
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

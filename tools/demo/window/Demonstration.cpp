@@ -8,13 +8,13 @@
 #include <QGuiApplication>
 #include <QUrl>
 
-#include "demo/Confinement.h"
 #include "demo/window/ButtonPress.h"
 #include "demo/window/ConfinedWindow.h"
 #include "demo/window/EventWait.h"
 #include "demo/window/GivenFolderChooser.h"
 #include "demo/window/PictureSeries.h"
 #include "dialogs/DialogFolderChooser.h"
+#include "samples/Confinement.h"
 #include "shell/ApplicationSetup.h"
 #include "shell/LoadwickApp.h"
 

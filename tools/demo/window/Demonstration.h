@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "demo/ThrowAwayHome.h"
+#include "samples/ThrowAwayHome.h"
 
 namespace Loadwick {
 

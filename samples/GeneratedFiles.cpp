@@ -1,4 +1,4 @@
-#include "measure/data/GeneratedFiles.h"
+#include "samples/GeneratedFiles.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
-#include "measure/data/GeneratedText.h"
+#include "samples/GeneratedText.h"
 #include "text/Fatal.h"
 
 namespace Loadwick::GeneratedFiles {

@@ -1,5 +1,6 @@
-#include "support/SampleScans.h"
+#include "samples/SampleScans.h"
 
+#include <algorithm>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -14,6 +15,21 @@ std::int64_t sumOfRows(const ScanReport &report)
     for (const SlabAttribution &row : report.rows)
         sum += row.tokens;
     return sum;
+}
+
+bool allBelow(const std::vector<InstructionFileEstimate> &files, const std::string &folder)
+{
+    return std::all_of(files.begin(), files.end(), [&](const InstructionFileEstimate &file) {
+        return file.path.starts_with(folder + "/");
+    });
+}
+
+std::set<std::string> pathsOf(const InstructionFileSet &files)
+{
+    std::set<std::string> paths;
+    for (const InstructionFileEstimate &file : files.allFiles())
+        paths.insert(file.path);
+    return paths;
 }
 
 } // namespace
@@ -36,7 +52,7 @@ TEST(SampleScansTest, addUpUnlessTheyAreOverAttributed)
     }
 }
 
-TEST(SampleScansTest, nameTheirOneSpecialThing)
+TEST(SampleScansTest, haveTheOneThingThatTheirNameSays)
 {
     EXPECT_FALSE(SampleScans::notSelfReported().report().categoriesSelfReported);
     EXPECT_TRUE(SampleScans::notSelfReported().report().unreportedCategoryFilesNote());
@@ -47,7 +63,7 @@ TEST(SampleScansTest, nameTheirOneSpecialThing)
     EXPECT_FALSE(SampleScans::lean().report().unreadableFilesNote());
 }
 
-TEST(SampleScansTest, haveNamesOfTheirOwn)
+TEST(SampleScansTest, haveDistinctNames)
 {
     std::set<std::string> names;
     for (const SampleScan &scan : SampleScans::all())
@@ -55,10 +71,27 @@ TEST(SampleScansTest, haveNamesOfTheirOwn)
     EXPECT_EQ(names.size(), 6U);
 }
 
-TEST(SampleScansTest, areAlwaysTheSame)
+TEST(SampleScansTest, haveEachFileInTheFolderOfItsTierOnce)
 {
-    EXPECT_EQ(SampleScans::excessive().report(), SampleScans::excessive().report());
-    EXPECT_EQ(SampleScans::ofSize(9, 9).report(), SampleScans::ofSize(9, 9).report());
+    for (const SampleScan &scan :
+         {SampleScans::lean(), SampleScans::excessive(), SampleScans::ofSize(1, 1'000)}) {
+        EXPECT_TRUE(allBelow(scan.files.repositoryFiles, scan.repositoryPath)) << scan.name;
+        EXPECT_TRUE(allBelow(scan.files.inheritedFiles, "/home/someone/projects")) << scan.name;
+        EXPECT_TRUE(allBelow(scan.files.personalFiles, "/home/someone/.claude")) << scan.name;
+        EXPECT_EQ(pathsOf(scan.files).size(), scan.files.allFiles().size()) << scan.name;
+    }
+}
+
+TEST(SampleScansTest, listUnreadablePathsInAscendingOrderAndOneThatIsEstimatedToo)
+{
+    const InstructionFileSet files = SampleScans::excessive().files;
+    const std::vector<std::string> &unreadable = files.unreadablePaths;
+    EXPECT_EQ(unreadable.size(), 4U);
+    EXPECT_TRUE(std::is_sorted(unreadable.begin(), unreadable.end()));
+    const std::set<std::string> estimated = pathsOf(files);
+    EXPECT_EQ(std::count_if(unreadable.begin(), unreadable.end(),
+                            [&](const std::string &path) { return estimated.contains(path); }),
+              1);
 }
 
 TEST(SampleScansTest, growToTheSizeAsked)

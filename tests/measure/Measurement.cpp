@@ -1,4 +1,4 @@
-#include "support/Measurement.h"
+#include "measure/Measurement.h"
 
 #include <sstream>
 

@@ -6,22 +6,22 @@
 
 namespace Loadwick {
 
-/// The stand-in for the `claude` command inside one throw-away home. The program itself stands in
-/// tools/demo/claude; this class puts it where the ordinary search looks and tells it what to do.
+/// The stand-in for the `claude` command inside one throw-away home. This class copies the program,
+/// samples/claude, to where the ordinary search looks and tells it what to do.
 class StandIn
 {
 public:
-    /// What one session of the stand-in does; tools/demo/claude lists the outcomes.
+    /// What one session of the stand-in does; samples/claude lists the outcomes.
     struct Scenario
     {
         std::string outcome = "transcript";
         std::string seconds = "0";
         std::string message = {}; ///< empty: the stand-in's own words
-        /// Sessions anywhere else fail, and say why; empty: none does.
+        /// Sessions in any other folder fail and say why; empty: sessions work everywhere.
         std::filesystem::path onlyBelow = {};
     };
 
-    /// Touches nothing yet.
+    /// Touches nothing yet; see `install`.
     explicit StandIn(std::filesystem::path home);
 
     [[nodiscard]] std::filesystem::path executable() const;
@@ -29,14 +29,14 @@ public:
     /// Copies the program into the home.
     void install() const;
 
-    /// What the sessions do that start from now on.
+    /// Decides what every session does that starts from now on.
     void play(const Scenario &scenario) const;
 
     /// Keeps running sessions from ending until `release`.
     void hold() const;
     void release() const;
 
-    /// The process ids of all sessions so far, in the order of their starts.
+    /// The process ids of all sessions so far, in order of their starts.
     [[nodiscard]] std::vector<int> runs() const;
 
 private:

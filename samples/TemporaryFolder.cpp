@@ -1,4 +1,4 @@
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,10 +13,9 @@ namespace {
 
 std::filesystem::path newFolder()
 {
-    std::string pattern =
-        (std::filesystem::temp_directory_path() / "loadwick-test-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / "loadwick-XXXXXX").string();
     if (mkdtemp(pattern.data()) == nullptr)
-        fatalError("no temporary folder for a test");
+        fatalError("no temporary folder");
     return std::filesystem::canonical(pattern);
 }
 
@@ -45,12 +44,7 @@ std::filesystem::path TemporaryFolder::write(const std::filesystem::path &relati
                                              std::string_view bytes) const
 {
     const std::filesystem::path path = m_path / relative;
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream file(path, std::ios::binary);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (!file)
-        fatalError("a test file could not be written");
+    writeFile(path, bytes);
     return path;
 }
 
@@ -60,6 +54,16 @@ std::filesystem::path TemporaryFolder::writeScript(const std::filesystem::path &
     const std::filesystem::path path = write(relative, text);
     std::filesystem::permissions(path, std::filesystem::perms::owner_all);
     return path;
+}
+
+void writeFile(const std::filesystem::path &path, std::string_view bytes)
+{
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file)
+        fatalError("a sample file could not be written");
 }
 
 std::vector<std::string> namesIn(const std::filesystem::path &folder)
@@ -75,7 +79,7 @@ std::string contentOf(const std::filesystem::path &path)
 {
     std::ifstream file(path, std::ios::binary);
     if (!file)
-        fatalError("a test file could not be read");
+        fatalError("a sample file could not be read");
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

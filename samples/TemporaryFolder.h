@@ -7,8 +7,7 @@
 
 namespace Loadwick {
 
-/// An empty folder of its own for one test, removed with all that is in it (also what has been
-/// made unreadable) at the end.
+/// A new empty folder, removed at the end with everything in it, even what was made unreadable.
 class TemporaryFolder
 {
 public:
@@ -20,7 +19,7 @@ public:
 
     [[nodiscard]] const std::filesystem::path &path() const noexcept { return m_path; }
 
-    /// Writes a file below the folder, with the folders above it; gives its path.
+    /// Writes a file below the folder, with its parent folders; returns its path.
     std::filesystem::path write(const std::filesystem::path &relative,
                                 std::string_view bytes) const;
 
@@ -32,10 +31,13 @@ private:
     std::filesystem::path m_path;
 };
 
-/// What lies directly in a folder, in alphabetical order.
+/// Writes a file with its parent folders; ends the program when it cannot be written.
+void writeFile(const std::filesystem::path &path, std::string_view bytes);
+
+/// The entries of a folder in alphabetical order.
 [[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path &folder);
 
-/// The bytes of a file; ends the test program when it cannot be read.
+/// The bytes of a file; ends the program when it cannot be read.
 [[nodiscard]] std::string contentOf(const std::filesystem::path &path);
 
 } // namespace Loadwick

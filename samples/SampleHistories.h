@@ -1,6 +1,8 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -8,25 +10,29 @@
 
 namespace Loadwick {
 
-/// A recorded history with a name of what is special about it.
+/// A recorded history with a name for what is special about it.
 struct SampleHistory
 {
     std::string name;                ///< lower case, words joined by hyphens
     std::vector<RecordedScan> scans; ///< oldest first
 };
 
-/// Made-up histories that tests, pictures and measurements share. Their scans end in March 2026;
-/// identifiers are random.
+/// Made-up histories. Identifiers are random.
 namespace SampleHistories {
 
 /// No scan, one, two equal ones, two repositories, 30 scans of one repository, 31 over five, and
-/// 200 over 30 repositories, in that order.
+/// 200 over 30 repositories, in that order. Each ends in March 2026.
 [[nodiscard]] std::vector<SampleHistory> all();
 
-/// `scanCount` scans that take turns among `repositoryCount` repositories, each with
-/// `categoryCount` categories.
+/// `scanCount` scans that rotate through `repositoryCount` repositories, each with `categoryCount`
+/// categories. The last one is of March 2026.
 [[nodiscard]] std::vector<RecordedScan> ofSize(std::int64_t scanCount, std::int64_t repositoryCount,
                                                std::int64_t categoryCount);
+
+/// What the demonstration has recorded: scans of five repositories in `projects` over the ten weeks
+/// before `now`, oldest first.
+[[nodiscard]] std::vector<RecordedScan> ofTenWeeks(const std::filesystem::path &projects,
+                                                   std::chrono::sys_seconds now);
 
 } // namespace SampleHistories
 } // namespace Loadwick

@@ -1,4 +1,4 @@
-#include "demo/Confinement.h"
+#include "samples/Confinement.h"
 
 #include <cstdlib>
 #include <map>
@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include "demo/ThrowAwayHome.h"
 #include "probe/ProbeError.h"
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
+#include "samples/ThrowAwayHome.h"
 
 namespace Loadwick {
 

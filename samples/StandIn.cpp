@@ -1,10 +1,10 @@
-#include "demo/StandIn.h"
+#include "samples/StandIn.h"
 
 #include <fstream>
 #include <string_view>
 #include <utility>
 
-#include "demo/SampleFile.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 
@@ -30,12 +30,12 @@ void StandIn::play(const Scenario &scenario) const
         text += "message=" + scenario.message + "\n";
     if (!scenario.onlyBelow.empty())
         text += "only_below=" + scenario.onlyBelow.string() + "\n";
-    writeSampleFile(share() / "scenario", text);
+    writeFile(share() / "scenario", text);
 }
 
 void StandIn::hold() const
 {
-    writeSampleFile(share() / "hold", "");
+    writeFile(share() / "hold", "");
 }
 
 void StandIn::release() const

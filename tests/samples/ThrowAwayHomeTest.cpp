@@ -1,4 +1,4 @@
-#include "demo/ThrowAwayHome.h"
+#include "samples/ThrowAwayHome.h"
 
 #include <set>
 #include <string>

@@ -10,20 +10,20 @@
 
 namespace Loadwick {
 
-/// What one scan of a repository found, with the words of a real one: names, paths and sizes as
-/// people have them. All of it is made up.
+/// What one scan of a repository found: names, paths and sizes as people have them, all made up.
 struct SampleScan
 {
-    std::string name; ///< what it is a sample of: lower case, words joined by hyphens
+    std::string name; ///< what is special about it: lower case, words joined by hyphens
     std::string repositoryPath;
     ProbeResult probe;
     InstructionFileSet files;
 
-    /// What the program makes of it.
+    /// The report that the program makes of it.
     [[nodiscard]] ScanReport report() const;
 };
 
-/// The samples that tests, pictures and measurements share.
+/// The repositories lie in /home/someone/projects, with inherited files in that folder and personal
+/// ones in /home/someone/.claude.
 namespace SampleScans {
 
 [[nodiscard]] SampleScan lean();
@@ -39,8 +39,8 @@ namespace SampleScans {
 /// The six above, in that order.
 [[nodiscard]] std::vector<SampleScan> all();
 
-/// Of any size: `categoryCount` categories that the session reported, `fileCount` files spread over
-/// the three tiers. The breakdown has one more row for each tier with files, and the remainder.
+/// `categoryCount` categories that the session reported, `fileCount` files spread over the three
+/// tiers. The breakdown has one more row for each tier with files, and the remainder.
 [[nodiscard]] SampleScan ofSize(std::int64_t categoryCount, std::int64_t fileCount);
 
 } // namespace SampleScans

@@ -1,4 +1,4 @@
-#include "demo/Confinement.h"
+#include "samples/Confinement.h"
 
 #include <algorithm>
 #include <array>

@@ -1,14 +1,35 @@
-#include "support/SampleHistories.h"
+#include "samples/SampleHistories.h"
 
 #include <algorithm>
+#include <cctype>
 #include <map>
 #include <set>
 
 #include <gtest/gtest.h>
 
+#include "samples/StandIn.h"
+#include "samples/TemporaryFolder.h"
+
 namespace Loadwick {
 
 namespace {
+
+constexpr std::chrono::sys_seconds now{std::chrono::seconds(1'780'000'000)};
+
+bool isOldestFirst(const std::vector<RecordedScan> &scans)
+{
+    return std::is_sorted(scans.begin(), scans.end(), [](const auto &left, const auto &right) {
+        return left.date < right.date;
+    });
+}
+
+std::size_t bandCount(const std::vector<RecordedScan> &scans)
+{
+    std::set<OpinionBand::Value> bands;
+    for (const RecordedScan &scan : scans)
+        bands.insert(scan.band());
+    return bands.size();
+}
 
 std::size_t repositoryCount(const std::vector<RecordedScan> &scans)
 {
@@ -45,18 +66,16 @@ TEST(SampleHistoriesTest, haveTheScansAndRepositoriesTheirNamesSay)
 TEST(SampleHistoriesTest, runFromTheOldestToTheNewest)
 {
     for (const SampleHistory &history : SampleHistories::all())
-        EXPECT_TRUE(std::is_sorted(
-            history.scans.begin(), history.scans.end(),
-            [](const RecordedScan &a, const RecordedScan &b) { return a.date < b.date; }))
-            << history.name;
+        EXPECT_TRUE(isOldestFirst(history.scans)) << history.name;
+    const std::vector<RecordedScan> demonstration = SampleHistories::ofTenWeeks("/projects", now);
+    EXPECT_TRUE(isOldestFirst(demonstration));
+    EXPECT_LT(demonstration.back().date, now);
 }
 
 TEST(SampleHistoriesTest, coverAllBands)
 {
-    std::set<OpinionBand::Value> bands;
-    for (const RecordedScan &scan : SampleHistories::ofSize(200, 30, 1))
-        bands.insert(scan.band());
-    EXPECT_EQ(bands.size(), 3U);
+    EXPECT_EQ(bandCount(SampleHistories::ofSize(200, 30, 1)), 3U);
+    EXPECT_EQ(bandCount(SampleHistories::ofTenWeeks("/projects", now)), 3U);
 }
 
 TEST(SampleHistoriesTest, growIntoTheNextBandAndComeBack)
@@ -92,7 +111,27 @@ TEST(SampleHistoriesTest, keepTwoEqualScansEqual)
 {
     const SampleHistory history = SampleHistories::all().at(2);
     EXPECT_EQ(history.scans.front().total, history.scans.back().total);
-    EXPECT_LT(history.scans.front().date, history.scans.back().date);
+}
+
+TEST(SampleHistoriesTest, splitEachTotalOfTheDemonstrationWholly)
+{
+    for (const RecordedScan &scan : SampleHistories::ofTenWeeks("/projects", now))
+        EXPECT_EQ(sumOfCategories(scan), scan.total) << scan.repositoryName;
+}
+
+// Otherwise each repository that is scanned during the demonstration would get rows of its own.
+TEST(SampleHistoriesTest, nameCategoriesOfTheDemonstrationAsTheStandInDoes)
+{
+    const TemporaryFolder home;
+    const StandIn standIn(home.path());
+    standIn.install();
+    const std::string answer = contentOf(standIn.executable());
+    for (const RecordedScan &scan : SampleHistories::ofTenWeeks("/projects", now))
+        for (const RecordedCategory &category : scan.categories)
+            if (std::islower(static_cast<unsigned char>(category.name.front())) != 0) {
+                EXPECT_NE(answer.find("SLAB " + category.name + " TOKENS"), std::string::npos)
+                    << category.name;
+            }
 }
 
 } // namespace Loadwick

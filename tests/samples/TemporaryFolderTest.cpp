@@ -1,4 +1,4 @@
-#include "support/TemporaryFolder.h"
+#include "samples/TemporaryFolder.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "measure/data/GeneratedText.h"
+#include "samples/GeneratedText.h"
 
 #include <array>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "demo/StandIn.h"
+#include "samples/StandIn.h"
 
 #include <array>
 #include <chrono>
@@ -11,11 +11,10 @@
 
 #include <gtest/gtest.h>
 
-#include "demo/Confinement.h"
-#include "demo/SampleFile.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeRunner.h"
-#include "support/TemporaryFolder.h"
+#include "samples/Confinement.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick {
 

@@ -1,4 +1,4 @@
-#include "support/SampleReport.h"
+#include "samples/SampleReport.h"
 
 namespace Loadwick {
 

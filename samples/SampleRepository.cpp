@@ -1,9 +1,9 @@
-#include "demo/SampleRepository.h"
+#include "samples/SampleRepository.h"
 
 #include <string>
 #include <string_view>
 
-#include "demo/SampleFile.h"
+#include "samples/TemporaryFolder.h"
 
 namespace Loadwick::SampleRepository {
 
@@ -59,19 +59,18 @@ std::string rules(std::string_view title, std::string_view rule, int count)
 
 void writeDocuments(const std::filesystem::path &folder)
 {
-    writeSampleFile(folder / "architecture.md",
-                    rules("Architecture",
-                          "A folder knows only the folders below it: the planner "
-                          "knows no store, a store knows no handler.",
-                          44));
-    writeSampleFile(folder / "testing.md",
-                    rules("Testing",
-                          "A test says in its name what it shows, and fails when that "
-                          "is no longer so.",
-                          31));
-    writeSampleFile(
-        folder / "review.md",
-        rules("Review", "Read the tests first; what they do not say is not promised.", 18));
+    writeFile(folder / "architecture.md",
+              rules("Architecture",
+                    "A folder knows only the folders below it: the planner "
+                    "knows no store, a store knows no handler.",
+                    44));
+    writeFile(folder / "testing.md",
+              rules("Testing",
+                    "A test says in its name what it shows, and fails when that "
+                    "is no longer so.",
+                    31));
+    writeFile(folder / "review.md",
+              rules("Review", "Read the tests first; what they do not say is not promised.", 18));
 }
 
 } // namespace
@@ -79,15 +78,15 @@ void writeDocuments(const std::filesystem::path &folder)
 std::filesystem::path writeInto(const std::filesystem::path &home)
 {
     const std::filesystem::path repository = home / "Projects" / "harbor-api";
-    writeSampleFile(repository / ".git" / "HEAD", "ref: refs/heads/main\n");
-    writeSampleFile(repository / "CLAUDE.md", overview);
-    writeSampleFile(repository / "CLAUDE.local.md", local);
-    writeSampleFile(repository / "AGENTS.md", agents);
+    writeFile(repository / ".git" / "HEAD", "ref: refs/heads/main\n");
+    writeFile(repository / "CLAUDE.md", overview);
+    writeFile(repository / "CLAUDE.local.md", local);
+    writeFile(repository / "AGENTS.md", agents);
     writeDocuments(repository / "docs");
-    writeSampleFile(home / "Projects" / "CLAUDE.md", inherited);
-    writeSampleFile(home / ".claude" / "CLAUDE.md", personal);
-    writeSampleFile(home / ".claude" / "notes" / "writing.md",
-                    rules("Writing", "One thought to a sentence, one subject to a paragraph.", 26));
+    writeFile(home / "Projects" / "CLAUDE.md", inherited);
+    writeFile(home / ".claude" / "CLAUDE.md", personal);
+    writeFile(home / ".claude" / "notes" / "writing.md",
+              rules("Writing", "One thought to a sentence, one subject to a paragraph.", 26));
     return repository;
 }
 
@@ -95,9 +94,9 @@ void writeSmallInto(const std::filesystem::path &folder)
 {
     if (std::filesystem::exists(folder))
         return;
-    writeSampleFile(folder / ".git" / "HEAD", "ref: refs/heads/main\n");
-    writeSampleFile(folder / "CLAUDE.md",
-                    rules("Working here", "Run the tests before and after, and say both.", 24));
+    writeFile(folder / ".git" / "HEAD", "ref: refs/heads/main\n");
+    writeFile(folder / "CLAUDE.md",
+              rules("Working here", "Run the tests before and after, and say both.", 24));
 }
 
 } // namespace Loadwick::SampleRepository
