@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "charts/BarGeometry.h"
-#include "history/LeaderboardEntry.h"
+#include "history/ScanHistory.h"
 #include "history/RecordedScan.h"
 
 namespace Loadwick {

@@ -4,7 +4,7 @@
 
 #include <QAbstractListModel>
 
-#include "history/LeaderboardEntry.h"
+#include "history/ScanHistory.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {

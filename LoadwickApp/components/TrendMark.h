@@ -7,7 +7,7 @@
 #include <QString>
 
 #include "components/TrendKind.h"
-#include "history/TrendDirection.h"
+#include "history/ScanHistory.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {

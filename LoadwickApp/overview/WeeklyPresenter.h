@@ -8,7 +8,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "history/WeeklyKPILine.h"
+#include "history/WeeklyKPIReader.h"
 #include "model/TaskDispatcher.h"
 #include "text/TextLocale.h"
 

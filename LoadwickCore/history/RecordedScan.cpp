@@ -1,6 +1,7 @@
 #include "history/RecordedScan.h"
 
-#include "history/RecordedCategoryName.h"
+#include "report/ScanReport.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 
@@ -19,5 +20,50 @@ RecordedScan RecordedScan::fromReport(const ScanReport &report, std::chrono::sys
             {.name = RecordedCategoryName::storable(row.name), .tokens = row.tokens});
     return scan;
 }
+
+namespace RecordedCategoryName {
+
+namespace {
+
+/// Whether a word's last dot stands inside it, with nothing but letters (with their marks) and
+/// digits behind it.
+bool endsLikeFileName(std::string_view word)
+{
+    const std::size_t dot = word.rfind('.');
+    if (dot == std::string_view::npos || dot == 0 || dot + 1 == word.size())
+        return false;
+    const std::string_view extension = word.substr(dot + 1);
+    return lettersAndNumbers(std::string(extension)) == extension;
+}
+
+bool exceedsLimit(std::string_view name)
+{
+    // A character takes a byte at least, which spares most names the search for boundaries.
+    return name.size() > limit && byteCountOfCharacters(name, limit) < name.size();
+}
+
+} // namespace
+
+std::string storable(std::string_view name)
+{
+    const std::string_view kept = trimmed(name);
+    const bool isWithheld = kept.empty() || looksLikePath(kept) || exceedsLimit(kept);
+    return std::string(isWithheld ? withheld : kept);
+}
+
+bool looksLikePath(std::string_view name)
+{
+    if (name.find_first_of("/\\~") != std::string_view::npos)
+        return true;
+    while (!name.empty()) {
+        const std::string_view word = name.substr(0, name.find(' '));
+        if (endsLikeFileName(word))
+            return true;
+        name.remove_prefix(word.size() < name.size() ? word.size() + 1 : name.size());
+    }
+    return false;
+}
+
+} // namespace RecordedCategoryName
 
 } // namespace Loadwick

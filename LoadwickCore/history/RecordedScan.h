@@ -3,14 +3,24 @@
 #include <chrono>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "history/RecordedCategory.h"
 #include "report/OpinionBand.h"
-#include "report/ScanReport.h"
 #include "text/Uuid.h"
 
 namespace Loadwick {
+
+struct ScanReport;
+
+/// One category of a recorded scan.
+struct RecordedCategory
+{
+    std::string name; ///< made safe for storage by `RecordedCategoryName`
+    std::int64_t tokens;
+
+    friend bool operator==(const RecordedCategory &, const RecordedCategory &) = default;
+};
 
 /// One scan as the history keeps it: totals and category names, never contents of a file.
 struct RecordedScan
@@ -29,5 +39,19 @@ struct RecordedScan
 
     friend bool operator==(const RecordedScan &, const RecordedScan &) = default;
 };
+
+/// Keeps local paths and file names that a model printed as category names out of the history.
+namespace RecordedCategoryName {
+
+inline constexpr std::string_view withheld = "Other (name withheld)";
+inline constexpr int limit = 80; ///< user-perceived characters
+
+/// `name` trimmed, or `withheld` when it is then empty, looks like a path, or exceeds `limit`.
+[[nodiscard]] std::string storable(std::string_view name);
+
+/// Whether a name holds "/", "\" or "~", or a word that ends like a file name with an extension.
+[[nodiscard]] bool looksLikePath(std::string_view name);
+
+} // namespace RecordedCategoryName
 
 } // namespace Loadwick

@@ -8,23 +8,40 @@
 
 #include "text/CheckedSum.h"
 
-namespace Loadwick::ScanHistory {
+namespace Loadwick {
+
+std::optional<TrendDirection> LeaderboardEntry::trend() const noexcept
+{
+    if (!previousTotal)
+        return std::nullopt;
+    if (latest.total == *previousTotal)
+        return TrendDirection::flat;
+    return latest.total > *previousTotal ? TrendDirection::up : TrendDirection::down;
+}
+
+std::optional<std::int64_t> LeaderboardEntry::delta() const noexcept
+{
+    if (!previousTotal)
+        return std::nullopt;
+    return checkedDifference(latest.total, *previousTotal);
+}
+
+namespace ScanHistory {
 
 namespace {
 
-/// Place in time; identifiers of equal dates sort as their texts do, which are fixed in length and
-/// whose digits stand in the order of the bytes.
-auto placeInTime(const RecordedScan &scan)
+/// Identifiers sort as their texts do: those are fixed in length, and their digits sort as bytes.
+auto dateKey(const RecordedScan &scan)
 {
     return std::tie(scan.date, scan.id);
 }
 
-auto placeByName(const RecordedScan &scan)
+auto nameKey(const RecordedScan &scan)
 {
     return std::tie(scan.repositoryName, scan.repositoryPath);
 }
 
-/// What the leaderboard knows of one repository while it walks the scans.
+/// One repository, as far as the leaderboard has read the scans.
 struct Standing
 {
     const RecordedScan *latest = nullptr;
@@ -34,9 +51,9 @@ struct Standing
     void take(const RecordedScan &scan)
     {
         ++scanCount;
-        if (latest == nullptr || placeInTime(scan) >= placeInTime(*latest))
+        if (latest == nullptr || dateKey(scan) >= dateKey(*latest))
             previous = std::exchange(latest, &scan);
-        else if (previous == nullptr || placeInTime(scan) >= placeInTime(*previous))
+        else if (previous == nullptr || dateKey(scan) >= dateKey(*previous))
             previous = &scan;
     }
 
@@ -53,7 +70,7 @@ bool isHeavier(const Standing &left, const Standing &right)
 {
     if (left.latest->total != right.latest->total)
         return left.latest->total > right.latest->total;
-    return placeByName(*left.latest) < placeByName(*right.latest);
+    return nameKey(*left.latest) < nameKey(*right.latest);
 }
 
 std::vector<RecordedScan> copies(const std::vector<const RecordedScan *> &scans)
@@ -74,7 +91,7 @@ std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans)
     for (const RecordedScan &scan : scans)
         order.push_back(&scan);
     std::stable_sort(order.begin(), order.end(), [](const auto *left, const auto *right) {
-        return placeInTime(*left) > placeInTime(*right);
+        return dateKey(*left) > dateKey(*right);
     });
     return copies(order);
 }
@@ -91,9 +108,8 @@ std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scan
     order.reserve(latest.size());
     for (const auto &[path, scan] : latest)
         order.push_back(scan);
-    std::sort(order.begin(), order.end(), [](const auto *left, const auto *right) {
-        return placeByName(*left) < placeByName(*right);
-    });
+    std::sort(order.begin(), order.end(),
+              [](const auto *left, const auto *right) { return nameKey(*left) < nameKey(*right); });
     return copies(order);
 }
 
@@ -151,4 +167,6 @@ std::vector<std::string> categoryAxis(std::span<const RecordedScan> scans)
     return names;
 }
 
-} // namespace Loadwick::ScanHistory
+} // namespace ScanHistory
+
+} // namespace Loadwick

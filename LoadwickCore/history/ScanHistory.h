@@ -1,26 +1,56 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "history/LeaderboardEntry.h"
 #include "history/RecordedScan.h"
 
-/// Questions to a list of recorded scans, in any order unless said otherwise. A repository is told
-/// apart by its path alone; names and paths are compared byte by byte. Every order is total.
+namespace Loadwick {
+
+/// How a repository's total changed from one scan to the next. A single token counts.
+enum class TrendDirection
+{
+    up,
+    down,
+    flat
+};
+
+/// One repository among all that have been scanned.
+struct LeaderboardEntry
+{
+    RecordedScan latest;
+    std::optional<std::int64_t> previousTotal; ///< tokens; nothing for the first scan
+    std::int64_t scanCount;                    ///< at least 1
+
+    /// From the previous total to the latest; nothing for the first scan.
+    [[nodiscard]] std::optional<TrendDirection> trend() const noexcept;
+
+    /// The latest total minus the previous one; nothing for the first scan. Overflow ends the
+    /// program.
+    [[nodiscard]] std::optional<std::int64_t> delta() const noexcept;
+
+    friend bool operator==(const LeaderboardEntry &, const LeaderboardEntry &) = default;
+};
+
+} // namespace Loadwick
+
+/// Queries over a list of recorded scans, in any order unless said otherwise. A repository is
+/// identified by its path alone; names and paths are compared byte by byte. Every order is total.
 namespace Loadwick::ScanHistory {
 
 /// All scans, by date and, where dates are equal, by the text of their identifier; descending.
 [[nodiscard]] std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans);
 
-/// The latest scan of each repository, by name and then by path; of equal dates the first met.
+/// The latest scan of each repository, by name and then by path; the first one where dates are
+/// equal.
 [[nodiscard]] std::vector<RecordedScan> latestPerRepository(std::span<const RecordedScan> scans);
 
-/// One entry per repository, the heaviest latest total first, then by name and path. Of equal dates
-/// the scan whose identifier's text sorts last is the latest.
+/// One entry per repository, the heaviest latest total first, then by name and path. Where dates
+/// are equal, the scan whose identifier's text sorts last is the latest.
 [[nodiscard]] std::vector<LeaderboardEntry> leaderboard(std::span<const RecordedScan> scans);
 
 /// The scans of one repository, in the order of the list.

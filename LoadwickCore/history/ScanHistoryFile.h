@@ -16,11 +16,11 @@ struct ScanHistoryFile
     std::int64_t version;            ///< schema version
     std::vector<RecordedScan> scans; ///< oldest first
 
-    /// Reads the file's JSON. One bad record (a key missing, a wrong type, a malformed date or
+    /// Reads the file's JSON. One bad record (a missing key, a wrong type, a malformed date or
     /// identifier) makes the whole file unreadable; unknown keys are ignored.
     [[nodiscard]] static std::optional<ScanHistoryFile> decoded(std::string_view json);
 
-    /// UTF-8 JSON, two blanks an indent, keys in alphabetical order, `"key" : value`.
+    /// UTF-8 JSON, indented by two blanks, keys in alphabetical order, `"key" : value`.
     [[nodiscard]] std::string encoded() const;
 
     friend bool operator==(const ScanHistoryFile &, const ScanHistoryFile &) = default;

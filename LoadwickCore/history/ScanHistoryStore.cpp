@@ -24,13 +24,13 @@ namespace fs = std::filesystem;
 constexpr int attempts = 4;
 constexpr std::chrono::milliseconds pause(1);
 
-bool isPassing(int errorNumber)
+bool isTransient(int errorNumber)
 {
-    constexpr std::array passing = {EINTR, EAGAIN, EMFILE, ENFILE, ENOMEM};
-    return std::find(passing.begin(), passing.end(), errorNumber) != passing.end();
+    constexpr std::array transient = {EINTR, EAGAIN, EMFILE, ENFILE, ENOMEM};
+    return std::find(transient.begin(), transient.end(), errorNumber) != transient.end();
 }
 
-/// At most one byte more than the store takes, so that a file that grew too long shows as one.
+/// Reads at most one byte beyond the limit, which shows that a file grew too long.
 std::optional<std::string> bytesOf(const fs::path &path, RegularFile::Failure &failure)
 {
     std::optional<RegularFile> file = RegularFile::open(path, &failure);
@@ -41,7 +41,7 @@ std::optional<std::string> bytesOf(const fs::path &path, RegularFile::Failure &f
 
 std::vector<RecordedScan> scansIn(const std::string &bytes)
 {
-    // not taken: the file would have to grow beyond the limit while it is read
+    // unreachable: the file would have to grow beyond the limit while it is read
     if (bytes.size() > ScanHistoryStore::maximumBytes)
         return {};
     std::optional<ScanHistoryFile> file = ScanHistoryFile::decoded(bytes);
@@ -50,16 +50,15 @@ std::vector<RecordedScan> scansIn(const std::string &bytes)
     return std::move(file->scans);
 }
 
-/// A history that cannot be read is overwritten by the next scan; a fault that passes must not cost
-/// the user the history. Nothing when such a fault does not pass in time: the scans are not known
-/// then. Throws `std::bad_alloc`.
-std::optional<std::vector<RecordedScan>> patientlyReadScansIn(const fs::path &path)
+/// The next scan overwrites a history that cannot be read, so a transient shortage must not look
+/// like one. Nothing when the shortage outlasts every attempt. Throws `std::bad_alloc`.
+std::optional<std::vector<RecordedScan>> readScansWithRetry(const fs::path &path)
 {
     for (int attempt = 1; attempt <= attempts; ++attempt) {
         RegularFile::Failure failure;
         if (const std::optional<std::string> bytes = bytesOf(path, failure))
             return scansIn(*bytes);
-        if (!isPassing(failure.errorNumber))
+        if (!isTransient(failure.errorNumber))
             return std::vector<RecordedScan>();
         std::this_thread::sleep_for(pause);
     }
@@ -122,7 +121,7 @@ std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan)
 std::optional<std::vector<RecordedScan>> ScanHistoryStore::knownScans() const
 {
     try {
-        std::optional<std::vector<RecordedScan>> scans = patientlyReadScansIn(m_fileURL);
+        std::optional<std::vector<RecordedScan>> scans = readScansWithRetry(m_fileURL);
         if (scans)
             order(*scans);
         return scans;

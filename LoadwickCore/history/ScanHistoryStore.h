@@ -12,17 +12,18 @@
 
 namespace Loadwick {
 
-/// Owns the history file. Keeps no list between calls: each one reads the file afresh. Reports no
-/// error: an unreadable history is an empty one, and a failed write leaves the old file. A want
-/// that passes (of memory, of descriptors) makes no history unreadable. A history file that is a
-/// link is read and written through it. Belongs to the interface thread; two programs writing at
-/// once overwrite each other, but whole.
+/// Owns the history file. Keeps no list between calls: each one reads the file. Reports no error:
+/// an unreadable history is an empty one, and a failed write leaves the old file. A transient
+/// shortage (memory, descriptors) does not count as unreadable. A history file that is a link is
+/// read and written through it. Belongs to the interface thread; of two programs that write at the
+/// same time, one overwrites the other's whole file.
 class ScanHistoryStore
 {
 public:
     static constexpr std::int64_t schemaVersion = 1;
     static constexpr std::size_t maximumScans = 200;
-    static constexpr std::size_t maximumBytes = std::size_t{256} << 20; ///< read of a file
+    static constexpr std::size_t maximumBytes = std::size_t{256}
+                                                << 20; ///< a longer file is unreadable
     static constexpr std::string_view fileName = "scan-history.json";
     static constexpr std::string_view directoryName = "Loadwick";
 
@@ -37,21 +38,21 @@ public:
     [[nodiscard]] const std::filesystem::path &directory() const noexcept { return m_directory; }
     [[nodiscard]] const std::filesystem::path &fileURL() const noexcept { return m_fileURL; }
 
-    /// The recorded scans, oldest first (by date, then repository name, then as they stood).
+    /// The recorded scans, oldest first (by date, then repository name, then file order).
     [[nodiscard]] std::vector<RecordedScan> load() const;
 
-    /// Adds a scan, keeps the newest `maximumScans`, writes the file and gives the list as it was
-    /// meant to be written, whether or not writing succeeded. While a want that passes keeps the
-    /// recorded scans from being read, nothing is written, and the list holds `scan` alone. Throws
-    /// `std::bad_alloc`, and leaves the old file, when there is no memory for the list itself.
+    /// Adds a scan, keeps the newest `maximumScans`, writes the file and gives the new list,
+    /// whether or not writing succeeded. While a transient shortage keeps the recorded scans from
+    /// being read, nothing is written, and the list holds `scan` alone. Throws `std::bad_alloc`,
+    /// and leaves the old file, when there is no memory for the list itself.
     [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan);
 
-    /// Deletes the file; when that is a link, what it leads to, so that nothing recorded is left
-    /// and the next scan is recorded there again. Never fails, and never removes a folder.
+    /// Deletes the file. When that is a link, deletes its target and keeps the link, so that the
+    /// next scan is recorded there again. Never fails, and never removes a folder.
     void clear();
 
 private:
-    /// Nothing when a want that passes keeps them from being read.
+    /// Nothing while a transient shortage keeps them from being read.
     [[nodiscard]] std::optional<std::vector<RecordedScan>> knownScans() const;
     void write(const std::vector<RecordedScan> &scans) const;
 

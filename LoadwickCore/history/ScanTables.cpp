@@ -12,7 +12,7 @@
 namespace Loadwick::ScanTables {
 namespace {
 
-void addHead(CsvTable &table)
+void addHeader(CsvTable &table)
 {
     for (const std::string_view name : {"Repository", "Path", "Date (UTC)", "Total tokens", "Band"})
         table.text(name);
@@ -52,7 +52,7 @@ void addCategories(CsvTable &table, const RecordedScan &scan, std::span<const st
 std::string totals(std::span<const RecordedScan> scans)
 {
     CsvTable table;
-    addHead(table);
+    addHeader(table);
     table.endRow();
     for (const RecordedScan &scan : scans) {
         addTotal(table, scan);
@@ -65,7 +65,7 @@ std::string categories(std::span<const RecordedScan> scans)
 {
     const std::vector<std::string> axis = ScanHistory::categoryAxis(scans);
     CsvTable table;
-    addHead(table);
+    addHeader(table);
     for (const std::string &name : axis)
         table.text(name + " tokens (estimate)");
     table.endRow();

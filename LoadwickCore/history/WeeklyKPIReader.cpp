@@ -3,11 +3,24 @@
 #include <limits>
 
 #include "posix/RegularFile.h"
+#include "text/CheckedSum.h"
 #include "text/TextLines.h"
 #include "text/UnicodeText.h"
 #include "json/JsonText.h"
 
-namespace Loadwick::WeeklyKPIReader {
+namespace Loadwick {
+
+std::int64_t WeeklyKPILine::medianDelta() const noexcept
+{
+    return checkedDifference(medianTokensPerSession, WeeklyKPIReader::medianTokensPerSessionTarget);
+}
+
+std::int64_t WeeklyKPILine::tokensPerPRDelta() const noexcept
+{
+    return checkedDifference(tokensPerPR, WeeklyKPIReader::tokensPerPRTarget);
+}
+
+namespace WeeklyKPIReader {
 
 namespace {
 
@@ -30,7 +43,7 @@ std::optional<std::int64_t> comparedFigure(const nlohmann::json &object, std::st
 
 std::optional<WeeklyKPILine> parseLine(std::string_view line)
 {
-    // A log may hold millions of blank lines: each of them is to cost less than a JSON reader.
+    // A log may hold millions of blank lines: skipping one must cost less than a JSON reader.
     if (!trimmed(line).starts_with('{'))
         return std::nullopt;
     const auto object =
@@ -54,7 +67,8 @@ std::optional<WeeklyKPILine> parseLine(std::string_view line)
                          .timestamp = wordsOf(*object, "timestamp")};
 }
 
-/// The end of the file, from its first line feed on; nothing when it has none or fails to be read.
+/// The last bytes of the file, after their first line feed; nothing without one or on a failed
+/// read.
 std::optional<std::string> readEnd(RegularFile &file, std::size_t byteLimit)
 {
     if (!file.skipTo(file.size() - static_cast<std::int64_t>(byteLimit)))
@@ -94,4 +108,6 @@ std::optional<WeeklyKPILine> parseLatest(std::string_view text)
     return std::nullopt;
 }
 
-} // namespace Loadwick::WeeklyKPIReader
+} // namespace WeeklyKPIReader
+
+} // namespace Loadwick

@@ -7,10 +7,31 @@
 #include <string>
 #include <string_view>
 
-#include "history/WeeklyKPILine.h"
+namespace Loadwick {
 
-/// Reads the newest usable line of the weekly token log: JSON Lines, UTF-8, written by another tool
-/// while we may be reading. Whatever cannot be read yields nothing.
+/// One week of the token log that another of the user's tools writes.
+struct WeeklyKPILine
+{
+    std::int64_t medianTokensPerSession;
+    std::int64_t tokensPerPR; ///< tokens for each merged pull request
+    std::optional<std::int64_t> totalTokens;
+    std::optional<std::int64_t> mergedPRs;
+    std::string windowStart; ///< this and the next two exactly as logged
+    std::string windowEnd;
+    std::string timestamp; ///< when the line was written
+
+    /// The figure minus its target. Overflow ends the program, but no line that the reader gives
+    /// overflows.
+    [[nodiscard]] std::int64_t medianDelta() const noexcept;
+    [[nodiscard]] std::int64_t tokensPerPRDelta() const noexcept;
+
+    friend bool operator==(const WeeklyKPILine &, const WeeklyKPILine &) = default;
+};
+
+} // namespace Loadwick
+
+/// Reads the newest usable line of the weekly token log: JSON Lines, UTF-8, possibly being written
+/// at the same time. Whatever cannot be read yields nothing.
 namespace Loadwick::WeeklyKPIReader {
 
 inline constexpr std::int64_t medianTokensPerSessionTarget = 27'510'462;
@@ -20,13 +41,12 @@ inline constexpr std::string_view targetsSource =
 
 inline constexpr std::size_t maximumBytes = std::size_t{64} << 20;
 
-/// Where the log lies under a home folder, which is given without a slash at its end.
+/// The log's path under a home folder, which is given without a trailing slash.
 [[nodiscard]] std::string defaultPath(std::string_view home);
 
-/// The newest usable line of the file; nothing when it cannot be read, is no regular file or no
-/// UTF-8. Of a file longer than `byteLimit` only the last so many bytes are read, and of those what
-/// stands before the first line feed is left out. Blocks on the disk: call it off the interface
-/// thread.
+/// The newest usable line of the file; nothing when it cannot be read, is no regular file or is not
+/// UTF-8. Only the last `byteLimit` bytes of a longer file are read, and those up to the first line
+/// feed are skipped. Blocks on the disk: call it off the interface thread.
 [[nodiscard]] std::optional<WeeklyKPILine> read(const std::filesystem::path &path,
                                                 std::size_t byteLimit = maximumBytes);
 

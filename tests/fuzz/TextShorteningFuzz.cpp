@@ -4,7 +4,7 @@
 
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
-#include "history/RecordedCategoryName.h"
+#include "history/RecordedScan.h"
 #include "probe/ProbeError.h"
 #include "text/UnicodeText.h"
 

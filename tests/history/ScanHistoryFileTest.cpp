@@ -134,14 +134,14 @@ TEST(ScanHistoryFileTest, takesTheLastOfDuplicateKeys)
     EXPECT_FALSE(isReadable(R"({"version":1,"scans":[],"scans":0})"));
 }
 
-TEST(ScanHistoryFileTest, givesEveryVersionAsItStands)
+TEST(ScanHistoryFileTest, givesAnyVersionUnchanged)
 {
     EXPECT_EQ(ScanHistoryFile::decoded(R"({"scans":[],"version":2})")->version, 2);
     EXPECT_EQ(ScanHistoryFile::decoded(R"({"scans":[],"version":-9223372036854775808})")->version,
               std::numeric_limits<std::int64_t>::min());
 }
 
-TEST(ScanHistoryFileTest, wantsEveryKey)
+TEST(ScanHistoryFileTest, requiresEveryKey)
 {
     for (const std::string key :
          {"categories", "date", "id", "repositoryName", "repositoryPath", "total"})
@@ -156,7 +156,7 @@ TEST(ScanHistoryFileTest, wantsEveryKey)
     EXPECT_FALSE(isReadable(R"({"version":1})"));
 }
 
-TEST(ScanHistoryFileTest, wantsEveryTypeAsItIs)
+TEST(ScanHistoryFileTest, requiresEveryType)
 {
     for (const std::string key : {"date", "id", "repositoryName", "repositoryPath"})
         for (const nlohmann::json &value :
@@ -177,7 +177,7 @@ TEST(ScanHistoryFileTest, wantsEveryTypeAsItIs)
     EXPECT_FALSE(isReadable(R"({"scans":[],"version":true})"));
 }
 
-TEST(ScanHistoryFileTest, wantsDatesAndIdentifiersStrictly)
+TEST(ScanHistoryFileTest, readsDatesAndIdentifiersStrictly)
 {
     for (const std::string date : {"", "2026-03-04", "2026-03-04T09:15:27", "2026-02-30T09:15:27Z",
                                    "2026-03-04T09:15:27.5Z", "2026-03-04T09:15:27+01:00"})
@@ -186,7 +186,7 @@ TEST(ScanHistoryFileTest, wantsDatesAndIdentifiersStrictly)
         EXPECT_FALSE(isReadable(withMember("id", id))) << id;
 }
 
-TEST(ScanHistoryFileTest, readsNothingThatIsNotJson)
+TEST(ScanHistoryFileTest, rejectsWhatIsNotJson)
 {
     for (const std::string_view json :
          {std::string_view(""), std::string_view("[]"), std::string_view("null"),

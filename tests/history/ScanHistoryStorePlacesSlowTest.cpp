@@ -14,7 +14,7 @@
 #include "support/PlainPermissions.h"
 #include "support/RecordedScanBuilder.h"
 
-// What takes processes of its own, or a limit on memory that no sanitizer lives with.
+// Tests that need processes of their own, or a memory limit that no sanitizer survives.
 
 namespace Loadwick {
 

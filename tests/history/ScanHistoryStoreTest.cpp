@@ -57,7 +57,14 @@ Scans recordedIn(const fs::path &path)
 
 } // namespace
 
-TEST(ScanHistoryStoreTest, keepsItsFileInTheUsersDataFolder)
+class ScanHistoryStoreTest : public testing::Test
+{
+protected:
+    const TemporaryFolder folder;
+    ScanHistoryStore store{folder.path()};
+};
+
+TEST_F(ScanHistoryStoreTest, keepsItsFileInTheUsersDataFolder)
 {
     using Store = ScanHistoryStore;
     EXPECT_EQ(Store::defaultDirectory({{"HOME", "/home/a"}}), "/home/a/.local/share/Loadwick");
@@ -69,30 +76,25 @@ TEST(ScanHistoryStoreTest, keepsItsFileInTheUsersDataFolder)
     EXPECT_EQ(Store("/data/Loadwick").fileURL(), "/data/Loadwick/scan-history.json");
 }
 
-TEST(ScanHistoryStoreTest, createsNothingByItself)
+TEST_F(ScanHistoryStoreTest, createsNothingByItself)
 {
-    const TemporaryFolder folder;
-    const ScanHistoryStore store(folder.path() / "a/b");
-    EXPECT_TRUE(store.load().empty());
+    EXPECT_TRUE(ScanHistoryStore(folder.path() / "a/b").load().empty());
     EXPECT_FALSE(fs::exists(folder.path() / "a"));
 }
 
-TEST(ScanHistoryStoreTest, createsTheFolderAndTheFileAtTheFirstAppend)
+TEST_F(ScanHistoryStoreTest, createsTheFolderAndTheFileAtTheFirstAppend)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path() / "a/b");
+    ScanHistoryStore nested(folder.path() / "a/b");
     const RecordedScan scan = scanAt(1);
-    EXPECT_EQ(store.append(scan), Scans{scan});
-    EXPECT_EQ(ScanHistoryFile::decoded(contentOf(store.fileURL())),
+    EXPECT_EQ(nested.append(scan), Scans{scan});
+    EXPECT_EQ(ScanHistoryFile::decoded(contentOf(nested.fileURL())),
               (ScanHistoryFile{.version = 1, .scans = {scan}}));
-    EXPECT_EQ(static_cast<unsigned>(fs::status(store.fileURL()).permissions()), 0600U);
-    EXPECT_EQ(store.load(), Scans{scan});
+    EXPECT_EQ(static_cast<unsigned>(fs::status(nested.fileURL()).permissions()), 0600U);
+    EXPECT_EQ(nested.load(), Scans{scan});
 }
 
-TEST(ScanHistoryStoreTest, readsTheFileAfreshEveryTime)
+TEST_F(ScanHistoryStoreTest, readsTheFileEveryTime)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     const RecordedScan own = scanAt(1);
     const RecordedScan foreign = scanAt(2);
     EXPECT_EQ(store.append(own).size(), 1U);
@@ -100,11 +102,9 @@ TEST(ScanHistoryStoreTest, readsTheFileAfreshEveryTime)
     EXPECT_EQ(store.load(), (Scans{own, foreign}));
 }
 
-TEST(ScanHistoryStoreTest, countsAnotherVersionAsEmptyAndOverwritesIt)
+TEST_F(ScanHistoryStoreTest, countsAnotherVersionAsEmptyAndOverwritesIt)
 {
     for (const std::int64_t version : {0, 2, -1}) {
-        const TemporaryFolder folder;
-        ScanHistoryStore store(folder.path());
         write(store, {.version = version, .scans = {scanAt(1)}});
         EXPECT_TRUE(store.load().empty());
         const RecordedScan scan = scanAt(2);
@@ -114,30 +114,24 @@ TEST(ScanHistoryStoreTest, countsAnotherVersionAsEmptyAndOverwritesIt)
     }
 }
 
-TEST(ScanHistoryStoreTest, countsAFileInWhichOneScanLacksItsTotalAsEmpty)
+TEST_F(ScanHistoryStoreTest, countsAFileInWhichOneScanLacksItsTotalAsEmpty)
 {
-    const TemporaryFolder folder;
-    const ScanHistoryStore store(folder.path());
     std::string json = ScanHistoryFile{.version = 1, .scans = scansAt(1, 3)}.encoded();
     json.replace(json.rfind("\"total\""), 7, "\"tota1\"");
     folder.write("scan-history.json", json);
     EXPECT_TRUE(store.load().empty());
 }
 
-TEST(ScanHistoryStoreTest, countsWhatIsNotJsonAsEmptyAndOverwritesIt)
+TEST_F(ScanHistoryStoreTest, countsWhatIsNotJsonAsEmptyAndOverwritesIt)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     folder.write("scan-history.json", "{\"scans\" : [");
     EXPECT_TRUE(store.load().empty());
     EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
     EXPECT_EQ(store.load().size(), 1U);
 }
 
-TEST(ScanHistoryStoreTest, keepsTheNewestTwoHundredScans)
+TEST_F(ScanHistoryStoreTest, keepsTheNewestTwoHundredScans)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     const Scans before = scansAt(1, 200);
     write(store, {.version = 1, .scans = before});
     const RecordedScan added = scanAt(1'000);
@@ -148,28 +142,22 @@ TEST(ScanHistoryStoreTest, keepsTheNewestTwoHundredScans)
     EXPECT_EQ(store.load(), after);
 }
 
-TEST(ScanHistoryStoreTest, dropsAScanThatIsOlderThanTwoHundredOthers)
+TEST_F(ScanHistoryStoreTest, dropsAScanThatIsOlderThanTwoHundredOthers)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     const Scans before = scansAt(1, 200);
     write(store, {.version = 1, .scans = before});
     EXPECT_EQ(store.append(scanAt(0)), before);
 }
 
-TEST(ScanHistoryStoreTest, trimsALongerFileAtTheNextAppendOnly)
+TEST_F(ScanHistoryStoreTest, trimsALongerFileAtTheNextAppendOnly)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     write(store, {.version = 1, .scans = scansAt(1, 250)});
     EXPECT_EQ(store.load().size(), 250U);
     EXPECT_EQ(store.append(scanAt(1'000)).size(), 200U);
 }
 
-TEST(ScanHistoryStoreTest, ordersScansByDateThenByRepositoryName)
+TEST_F(ScanHistoryStoreTest, ordersScansByDateThenByRepositoryName)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     const RecordedScan late = scanAt(9, "a");
     const RecordedScan laterName = scanAt(5, "b");
     const RecordedScan earlierName = scanAt(5, "B");
@@ -177,41 +165,35 @@ TEST(ScanHistoryStoreTest, ordersScansByDateThenByRepositoryName)
     EXPECT_EQ(store.load(), (Scans{earlierName, laterName, late}));
 }
 
-TEST(ScanHistoryStoreTest, keepsTheOrderOfScansThatAreEqualInBoth)
+TEST_F(ScanHistoryStoreTest, keepsTheOrderOfScansThatAreEqualInBoth)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     const Scans equals = {scanAt(5), scanAt(5), scanAt(5)};
     write(store, {.version = 1, .scans = {equals[0], equals[1]}});
     EXPECT_EQ(store.append(equals[2]), equals);
     EXPECT_EQ(store.load(), equals);
 }
 
-TEST(ScanHistoryStoreTest, givesTheListThatItMeantToWriteWhenItCannot)
+TEST_F(ScanHistoryStoreTest, givesTheNewListEvenWhenWritingFails)
 {
-    const TemporaryFolder folder;
     folder.write("file", "in the way");
-    ScanHistoryStore store(folder.path() / "file");
+    ScanHistoryStore nested(folder.path() / "file");
     const RecordedScan scan = scanAt(1);
-    EXPECT_EQ(store.append(scan), Scans{scan});
-    EXPECT_TRUE(store.load().empty());
-    store.clear();
+    EXPECT_EQ(nested.append(scan), Scans{scan});
+    EXPECT_TRUE(nested.load().empty());
+    nested.clear();
     EXPECT_EQ(contentOf(folder.path() / "file"), "in the way");
 }
 
-TEST(ScanHistoryStoreTest, clearsAMissingFileWithoutAWord)
+TEST_F(ScanHistoryStoreTest, clearsAMissingFileSilently)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path() / "missing");
-    store.clear();
+    ScanHistoryStore nested(folder.path() / "missing");
+    nested.clear();
     EXPECT_FALSE(fs::exists(folder.path() / "missing"));
 }
 
-TEST(ScanHistoryStoreTest, clearsWhatItRecorded)
+TEST_F(ScanHistoryStoreTest, clearsWhatItRecorded)
 {
-    const TemporaryFolder folder;
     folder.write("neighbour", "kept");
-    ScanHistoryStore store(folder.path());
     static_cast<void>(store.append(scanAt(1)));
     store.clear();
     EXPECT_FALSE(fs::exists(store.fileURL()));
@@ -219,21 +201,17 @@ TEST(ScanHistoryStoreTest, clearsWhatItRecorded)
     EXPECT_TRUE(fs::exists(folder.path() / "neighbour"));
 }
 
-TEST(ScanHistoryStoreTest, leavesAFolderInThePlaceOfTheFileAlone)
+TEST_F(ScanHistoryStoreTest, leavesAFolderWithTheFilesNameAlone)
 {
-    const TemporaryFolder folder;
     folder.write("scan-history.json/inner", "kept");
-    ScanHistoryStore store(folder.path());
     EXPECT_TRUE(store.load().empty());
     EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
     store.clear();
     EXPECT_EQ(contentOf(folder.path() / "scan-history.json/inner"), "kept");
 }
 
-TEST(ScanHistoryStoreTest, neverWaitsForAFifoInThePlaceOfTheFile)
+TEST_F(ScanHistoryStoreTest, neverWaitsForAFifoWithTheFilesName)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     ASSERT_EQ(mkfifo(store.fileURL().c_str(), 0600), 0);
     EXPECT_TRUE(store.load().empty());
     EXPECT_EQ(store.append(scanAt(1)).size(), 1U);
@@ -243,14 +221,11 @@ TEST(ScanHistoryStoreTest, neverWaitsForAFifoInThePlaceOfTheFile)
     EXPECT_TRUE(fs::is_regular_file(store.fileURL()));
 }
 
-TEST(ScanHistoryStoreTest, readsWritesAndClearsThroughALink)
+TEST_F(ScanHistoryStoreTest, readsWritesAndClearsThroughALink)
 {
-    const TemporaryFolder folder;
     const fs::path target = folder.path() / "synced/history.json";
     fs::create_directories(target.parent_path());
-    fs::create_directories(folder.path() / "data");
-    ScanHistoryStore store(folder.path() / "data");
-    fs::create_symlink("../synced/history.json", store.fileURL());
+    fs::create_symlink("synced/history.json", store.fileURL());
     const RecordedScan scan = scanAt(1);
     EXPECT_TRUE(store.load().empty());
     EXPECT_EQ(store.append(scan), Scans{scan});
@@ -262,10 +237,8 @@ TEST(ScanHistoryStoreTest, readsWritesAndClearsThroughALink)
     EXPECT_TRUE(fs::is_symlink(store.fileURL()));
 }
 
-TEST(ScanHistoryStoreTest, overwritesAFileThatNobodyMayRead)
+TEST_F(ScanHistoryStoreTest, overwritesAFileThatNobodyMayRead)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     static_cast<void>(store.append(scanAt(1)));
     fs::permissions(store.fileURL(), fs::perms::none);
     const bool isReadableAnyway = access(store.fileURL().c_str(), R_OK) == 0; // as root
@@ -274,29 +247,23 @@ TEST(ScanHistoryStoreTest, overwritesAFileThatNobodyMayRead)
     EXPECT_EQ(recordedIn(store.fileURL()), after);
 }
 
-TEST(ScanHistoryStoreTest, removesATemporaryFileThatACrashLeft)
+TEST_F(ScanHistoryStoreTest, removesATemporaryFileThatACrashLeft)
 {
-    const TemporaryFolder folder;
     folder.write(".scan-history.json.a1B2c3", "half");
-    ScanHistoryStore store(folder.path());
     static_cast<void>(store.append(scanAt(1)));
     EXPECT_FALSE(fs::exists(folder.path() / ".scan-history.json.a1B2c3"));
 }
 
-TEST(ScanHistoryStoreTest, countsAFileBeyondItsLimitAsEmpty)
+TEST_F(ScanHistoryStoreTest, countsAFileBeyondItsLimitAsEmpty)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     write(store, {.version = 1, .scans = {scanAt(1)}});
     EXPECT_EQ(store.load().size(), 1U);
     fs::resize_file(store.fileURL(), ScanHistoryStore::maximumBytes + 1); // sparse
     EXPECT_TRUE(store.load().empty());
 }
 
-TEST(ScanHistoryStoreTest, outlastsAMomentWithoutFreeDescriptors)
+TEST_F(ScanHistoryStoreTest, retriesWhenDescriptorsRunOutForAMoment)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     static_cast<void>(store.append(scanAt(1)));
     getrlimit(RLIMIT_NOFILE, &generousLimit);
     // At a limit of the next free number nothing can be opened any more.
@@ -316,10 +283,8 @@ TEST(ScanHistoryStoreTest, outlastsAMomentWithoutFreeDescriptors)
     EXPECT_EQ(loaded.size(), 1U);
 }
 
-TEST(ScanHistoryStoreTest, recordsNothingWhileTheRecordedScansCannotBeRead)
+TEST_F(ScanHistoryStoreTest, recordsNothingWhileTheRecordedScansCannotBeRead)
 {
-    const TemporaryFolder folder;
-    ScanHistoryStore store(folder.path());
     static_cast<void>(store.append(scanAt(1)));
     getrlimit(RLIMIT_NOFILE, &generousLimit);
     rlimit tight = generousLimit;

@@ -39,6 +39,13 @@ std::vector<RecordedScan> latestOf(const std::vector<LeaderboardEntry> &entries)
     return latest;
 }
 
+LeaderboardEntry entryOf(std::int64_t total, std::optional<std::int64_t> previousTotal)
+{
+    return {.latest = RecordedScanBuilder().ofTotal(total).build(),
+            .previousTotal = previousTotal,
+            .scanCount = previousTotal ? 2 : 1};
+}
+
 } // namespace
 
 TEST(ScanHistoryTest, findsNothingInAnEmptyList)
@@ -195,6 +202,37 @@ TEST(ScanHistoryTest, aCategorySumThatDoesNotFitEndsTheProgram)
     const std::vector scans = {
         RecordedScanBuilder().withCategory("tools", largest).withCategory("tools", 1).build()};
     EXPECT_DEATH((void)ScanHistory::categoryAxis(scans), "does not fit 64 bits");
+}
+
+TEST(ScanHistoryTest, aFirstScanHasNoTrendAndNoDelta)
+{
+    const LeaderboardEntry first = entryOf(30'000, std::nullopt);
+    EXPECT_EQ(first.trend(), std::nullopt);
+    EXPECT_EQ(first.delta(), std::nullopt);
+}
+
+TEST(ScanHistoryTest, oneTokenDecidesTheTrend)
+{
+    struct Case
+    {
+        std::int64_t total;
+        TrendDirection trend;
+        std::int64_t delta;
+    };
+    for (const Case &expected : {Case{30'001, TrendDirection::up, 1},
+                                 {29'999, TrendDirection::down, -1},
+                                 {30'000, TrendDirection::flat, 0}}) {
+        EXPECT_EQ(entryOf(expected.total, 30'000).trend(), expected.trend);
+        EXPECT_EQ(entryOf(expected.total, 30'000).delta(), expected.delta);
+    }
+    EXPECT_EQ(entryOf(0, 0).trend(), TrendDirection::flat);
+}
+
+TEST(ScanHistoryTest, aDeltaThatDoesNotFitEndsTheProgram)
+{
+    const LeaderboardEntry entry = entryOf(std::numeric_limits<std::int64_t>::min(), 1);
+    EXPECT_EQ(entry.trend(), TrendDirection::down);
+    EXPECT_DEATH((void)entry.delta(), "does not fit 64 bits");
 }
 
 } // namespace Loadwick

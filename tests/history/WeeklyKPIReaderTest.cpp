@@ -4,8 +4,14 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "samples/TemporaryFolder.h"
+#include "support/PlainPermissions.h"
 
 namespace Loadwick {
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -27,9 +33,42 @@ WeeklyKPILine parsed(std::string_view rest)
     return WeeklyKPIReader::parseLatest(lineOf(1, rest)).value();
 }
 
+/// A usable line of 51 bytes with its line feed and a median of one digit.
+std::string loggedLine(int median)
+{
+    return R"({"median_tokens_per_session":)" + std::to_string(median) + R"(,"tokens_per_pr":22})" +
+           "\n";
+}
+
+std::optional<std::int64_t> medianAt(const fs::path &path,
+                                     std::size_t byteLimit = WeeklyKPIReader::maximumBytes)
+{
+    const auto line = WeeklyKPIReader::read(path, byteLimit);
+    return line ? std::optional(line->medianTokensPerSession) : std::nullopt;
+}
+
+WeeklyKPILine figures(std::int64_t median, std::int64_t tokensPerPR)
+{
+    return {.medianTokensPerSession = median,
+            .tokensPerPR = tokensPerPR,
+            .totalTokens = std::nullopt,
+            .mergedPRs = std::nullopt,
+            .windowStart = "unknown",
+            .windowEnd = "unknown",
+            .timestamp = "unknown"};
+}
+
 } // namespace
 
-TEST(WeeklyKPIReaderTest, readsEveryField)
+class WeeklyKPIReaderTest : public testing::Test
+{
+protected:
+    fs::path write(std::string_view text) { return m_folder.write("weekly.jsonl", text); }
+
+    TemporaryFolder m_folder;
+};
+
+TEST_F(WeeklyKPIReaderTest, readsEveryField)
 {
     const WeeklyKPILine expected{.medianTokensPerSession = 27'510'462,
                                  .tokensPerPR = 37'000'000,
@@ -46,25 +85,25 @@ TEST(WeeklyKPIReaderTest, readsEveryField)
               expected);
 }
 
-TEST(WeeklyKPIReaderTest, theLastUsableLineWinsWhateverItsDate)
+TEST_F(WeeklyKPIReaderTest, theLastUsableLineWinsWhateverItsDate)
 {
     EXPECT_EQ(
         medianIn(lineOf(1, R"(,"timestamp":"2030")") + "\n" + lineOf(2, R"(,"timestamp":"2020")")),
         2);
 }
 
-TEST(WeeklyKPIReaderTest, aLineThatIsCutOffGivesWayToTheOneBefore)
+TEST_F(WeeklyKPIReaderTest, aLineThatIsCutOffGivesWayToTheOneBefore)
 {
     EXPECT_EQ(medianIn(lineOf(1) + "\n" + lineOf(2).substr(0, 40)), 1);
 }
 
-TEST(WeeklyKPIReaderTest, aLineWithoutBothRequiredFiguresIsSkipped)
+TEST_F(WeeklyKPIReaderTest, aLineWithoutBothRequiredFiguresIsSkipped)
 {
     EXPECT_EQ(medianIn(lineOf(1) + "\n{\"median_tokens_per_session\":2}"), 1);
     EXPECT_EQ(medianIn(lineOf(1) + "\n{\"tokens_per_pr\":2}"), 1);
 }
 
-TEST(WeeklyKPIReaderTest, aRequiredFigureThatIsNoIntegerIsSkipped)
+TEST_F(WeeklyKPIReaderTest, aRequiredFigureThatIsNoIntegerIsSkipped)
 {
     for (const char *figure : {"\"2\"", "2.5", "2.0", "2e3", "null", "true", "[2]", "{}",
                                "9223372036854775808", "-9223372036854775808"})
@@ -74,7 +113,7 @@ TEST(WeeklyKPIReaderTest, aRequiredFigureThatIsNoIntegerIsSkipped)
             << figure;
 }
 
-TEST(WeeklyKPIReaderTest, theLargestAndTheSmallestComparableFiguresCount)
+TEST_F(WeeklyKPIReaderTest, theLargestAndTheSmallestComparableFiguresCount)
 {
     EXPECT_EQ(medianIn(lineOf(9'223'372'036'854'775'807)), 9'223'372'036'854'775'807);
     const auto least = WeeklyKPIReader::parseLatest(lineOf(-9'223'372'036'827'265'346)).value();
@@ -82,13 +121,13 @@ TEST(WeeklyKPIReaderTest, theLargestAndTheSmallestComparableFiguresCount)
     EXPECT_EQ(medianIn(lineOf(-9'223'372'036'827'265'347)), std::nullopt);
 }
 
-TEST(WeeklyKPIReaderTest, aLineThatIsNoObjectIsSkipped)
+TEST_F(WeeklyKPIReaderTest, aLineThatIsNoObjectIsSkipped)
 {
     for (const char *line : {"[1]", "1", "\"text\"", "null", "words", "{", "{} {}"})
         EXPECT_EQ(medianIn(lineOf(1) + "\n" + line), 1) << line;
 }
 
-TEST(WeeklyKPIReaderTest, missingWordsReadUnknown)
+TEST_F(WeeklyKPIReaderTest, missingWordsReadUnknown)
 {
     const WeeklyKPILine line = parsed("");
     EXPECT_EQ(line.windowStart, "unknown");
@@ -96,7 +135,7 @@ TEST(WeeklyKPIReaderTest, missingWordsReadUnknown)
     EXPECT_EQ(line.timestamp, "unknown");
 }
 
-TEST(WeeklyKPIReaderTest, wordsOfAnotherTypeReadUnknown)
+TEST_F(WeeklyKPIReaderTest, wordsOfAnotherTypeReadUnknown)
 {
     const WeeklyKPILine line = parsed(R"(,"window":{"start":17,"end":["x"]},"timestamp":null)");
     EXPECT_EQ(line.windowStart, "unknown");
@@ -106,19 +145,19 @@ TEST(WeeklyKPIReaderTest, wordsOfAnotherTypeReadUnknown)
         EXPECT_EQ(parsed(std::string(",\"window\":") + window).windowStart, "unknown") << window;
 }
 
-TEST(WeeklyKPIReaderTest, oneWordOfTheWindowStandsWithoutTheOther)
+TEST_F(WeeklyKPIReaderTest, oneWordOfTheWindowStandsWithoutTheOther)
 {
     const WeeklyKPILine line = parsed(R"(,"window":{"end":"Sunday"})");
     EXPECT_EQ(line.windowStart, "unknown");
     EXPECT_EQ(line.windowEnd, "Sunday");
 }
 
-TEST(WeeklyKPIReaderTest, emptyWordsStayEmpty)
+TEST_F(WeeklyKPIReaderTest, emptyWordsStayEmpty)
 {
     EXPECT_EQ(parsed(R"(,"timestamp":"")").timestamp, "");
 }
 
-TEST(WeeklyKPIReaderTest, optionalFiguresOfAnotherTypeAreAbsent)
+TEST_F(WeeklyKPIReaderTest, optionalFiguresOfAnotherTypeAreAbsent)
 {
     const WeeklyKPILine line = parsed(R"(,"total_tokens":"5","merged_prs":1.5)");
     EXPECT_EQ(line.totalTokens, std::nullopt);
@@ -126,30 +165,125 @@ TEST(WeeklyKPIReaderTest, optionalFiguresOfAnotherTypeAreAbsent)
     EXPECT_EQ(line.medianTokensPerSession, 1);
 }
 
-TEST(WeeklyKPIReaderTest, theLastOfTwoEqualKeysCounts)
+TEST_F(WeeklyKPIReaderTest, theLastOfTwoEqualKeysCounts)
 {
     EXPECT_EQ(medianIn(lineOf(1, R"(,"median_tokens_per_session":7)")), 7);
     EXPECT_EQ(medianIn(lineOf(1, R"(,"median_tokens_per_session":"x")")), std::nullopt);
     EXPECT_EQ(parsed(R"(,"window":{"start":"a"},"window":{"end":"b"})").windowStart, "unknown");
 }
 
-TEST(WeeklyKPIReaderTest, whiteSpaceAroundALineIsNothing)
+TEST_F(WeeklyKPIReaderTest, whiteSpaceAroundALineIsNothing)
 {
     EXPECT_EQ(medianIn("  \t" + lineOf(1) + " \u00A0\n   \n\n"), 1);
     EXPECT_EQ(medianIn(lineOf(1) + "\r\n" + lineOf(2) + "\r\n"), 2);
 }
 
-TEST(WeeklyKPIReaderTest, aTextWithoutALineGivesNothing)
+TEST_F(WeeklyKPIReaderTest, aTextWithoutALineGivesNothing)
 {
     for (const char *text : {"", "\n", " \n\t\n", "\r\n\r\n"})
         EXPECT_EQ(medianIn(text), std::nullopt);
 }
 
-TEST(WeeklyKPIReaderTest, theLogLiesUnderTheHomeFolder)
+TEST_F(WeeklyKPIReaderTest, theLogLiesUnderTheHomeFolder)
 {
     EXPECT_EQ(WeeklyKPIReader::defaultPath("/home/someone"),
               "/home/someone/Library/Logs/token-kpi/weekly.jsonl");
     EXPECT_EQ(WeeklyKPIReader::defaultPath("/"), "//Library/Logs/token-kpi/weekly.jsonl");
+}
+
+TEST_F(WeeklyKPIReaderTest, readsTheLastLineOfTheFile)
+{
+    EXPECT_EQ(medianAt(write(loggedLine(1) + loggedLine(2))), 2);
+}
+
+TEST_F(WeeklyKPIReaderTest, givesNothingForAnEmptyFile)
+{
+    EXPECT_EQ(medianAt(write("")), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, givesNothingForAMissingFileOrAFolder)
+{
+    EXPECT_EQ(medianAt(m_folder.path() / "missing"), std::nullopt);
+    EXPECT_EQ(medianAt(m_folder.path()), std::nullopt);
+    EXPECT_EQ(medianAt(""), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, givesNothingForAFileThatMayNotBeRead)
+{
+    const fs::path path = write(loggedLine(1));
+    fs::permissions(path, fs::perms::none);
+    const PlainPermissions plain;
+    EXPECT_EQ(medianAt(path), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, givesNothingForAFileThatIsNotUtf8AsAWhole)
+{
+    EXPECT_EQ(medianAt(write("caf\xE9\n" + loggedLine(1))), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, doesNotWaitForAFifo)
+{
+    const fs::path path = m_folder.path() / "fifo";
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    EXPECT_EQ(medianAt(path), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, followsALink)
+{
+    const fs::path link = m_folder.path() / "link";
+    fs::create_symlink(write(loggedLine(1)), link);
+    EXPECT_EQ(medianAt(link), 1);
+}
+
+TEST_F(WeeklyKPIReaderTest, readsAFileOfTheLimitWhole)
+{
+    ASSERT_EQ(loggedLine(1).size(), 51U);
+    EXPECT_EQ(medianAt(write(loggedLine(1)), 51), 1);
+}
+
+TEST_F(WeeklyKPIReaderTest, readsALongFileFromTheFirstLineFeedOfItsEndOn)
+{
+    const fs::path path = write(loggedLine(1) + loggedLine(2));
+    EXPECT_EQ(medianAt(path, 52), 2);
+    EXPECT_EQ(medianAt(path, 51), std::nullopt)
+        << "the end begins with a line but has no line feed "
+           "before it";
+    EXPECT_EQ(medianAt(path, 20), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, takesNoPartOfALineForALine)
+{
+    // Cut in the middle, the first line would read as a usable one.
+    const fs::path path = write("{\"x\":\"" + loggedLine(1) + loggedLine(2).substr(0, 30));
+    EXPECT_EQ(medianAt(path, 81), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, ignoresInvalidUtf8BeforeTheEndThatItReads)
+{
+    // The limit cuts "é" in two; the line feed behind it makes good.
+    EXPECT_EQ(medianAt(write("caf\xE9 \u00E9\n" + loggedLine(1)), 53), 1);
+}
+
+TEST_F(WeeklyKPIReaderTest, givesNothingForALongFileWithoutALineFeed)
+{
+    EXPECT_EQ(medianAt(write(std::string(200, ' ')), 100), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, aDeltaIsTheDifferenceFromTheTarget)
+{
+    EXPECT_EQ(figures(27'510'462, 0).medianDelta(), 0);
+    EXPECT_EQ(figures(27'510'461, 0).medianDelta(), -1);
+    EXPECT_EQ(figures(27'511'696, 0).medianDelta(), 1'234);
+    EXPECT_EQ(figures(0, 37'681'168).tokensPerPRDelta(), 0);
+    EXPECT_EQ(figures(0, 37'681'167).tokensPerPRDelta(), -1);
+    EXPECT_EQ(figures(0, 37'682'402).tokensPerPRDelta(), 1'234);
+}
+
+TEST_F(WeeklyKPIReaderTest, aDeltaThatDoesNotFitEndsTheProgram)
+{
+    constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
+    EXPECT_DEATH((void)figures(smallest, 0).medianDelta(), "does not fit 64 bits");
+    EXPECT_DEATH((void)figures(0, smallest).tokensPerPRDelta(), "does not fit 64 bits");
 }
 
 } // namespace Loadwick

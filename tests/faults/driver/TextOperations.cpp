@@ -2,7 +2,7 @@
 #include <string>
 
 #include "faults/driver/Operation.h"
-#include "history/RecordedCategoryName.h"
+#include "history/RecordedScan.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeOutputParser.h"
 #include "text/UnicodeText.h"
