@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "charts/BarGeometry.h"
-#include "history/ScanHistory.h"
 #include "history/RecordedScan.h"
+#include "history/ScanHistory.h"
 
 namespace Loadwick {
 

@@ -3,35 +3,27 @@
 #include <utility>
 
 #include "text/IsoDate.h"
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 
 namespace Loadwick {
 
 namespace {
 
-using Json = nlohmann::json;
-
-/// Null when there is no such member or it is no text.
-const std::string *textMember(const Json &object, std::string_view key)
-{
-    const Json *value = member(object, key);
-    return value == nullptr ? nullptr : value->get_ptr<const std::string *>();
-}
-
 /// The elements of a list member, each read by `read`; nothing when one of them cannot be read, or
 /// the member is missing or no list.
 template<typename Element>
-std::optional<std::vector<Element>> listMember(const Json &object, std::string_view key,
-                                               std::optional<Element> (*read)(const Json &))
+std::optional<std::vector<Element>> listMember(const JsonValue &object, std::string_view key,
+                                               std::optional<Element> (*read)(const JsonValue &))
 {
-    const Json *list = member(object, key);
-    if (list == nullptr || !list->is_array())
+    const JsonValue *value = member(object, key);
+    const auto *list = value == nullptr ? nullptr : value->as<JsonValue::Array>();
+    if (list == nullptr)
         return std::nullopt;
     std::vector<Element> elements;
     elements.reserve(list->size());
-    for (const Json &value : *list) {
-        std::optional<Element> element = read(value);
+    for (const JsonValue &item : *list) {
+        std::optional<Element> element = read(item);
         if (!element)
             return std::nullopt;
         elements.push_back(std::move(*element));
@@ -39,33 +31,33 @@ std::optional<std::vector<Element>> listMember(const Json &object, std::string_v
     return elements;
 }
 
-std::optional<RecordedCategory> readCategory(const Json &object)
+std::optional<RecordedCategory> readCategory(const JsonValue &object)
 {
-    const std::string *name = textMember(object, "name");
+    const std::string *name = textOf(member(object, "name"));
     const std::optional<std::int64_t> tokens = exactInteger(member(object, "tokens"));
     if (name == nullptr || !tokens)
         return std::nullopt;
     return RecordedCategory{.name = *name, .tokens = *tokens};
 }
 
-std::optional<Uuid> readIdentifier(const Json &object)
+std::optional<Uuid> readIdentifier(const JsonValue &object)
 {
-    const std::string *text = textMember(object, "id");
+    const std::string *text = textOf(member(object, "id"));
     return text == nullptr ? std::nullopt : Uuid::fromText(*text);
 }
 
-std::optional<std::chrono::sys_seconds> readDate(const Json &object)
+std::optional<std::chrono::sys_seconds> readDate(const JsonValue &object)
 {
-    const std::string *text = textMember(object, "date");
+    const std::string *text = textOf(member(object, "date"));
     return text == nullptr ? std::nullopt : IsoDate::fromText(*text);
 }
 
-std::optional<RecordedScan> readScan(const Json &object)
+std::optional<RecordedScan> readScan(const JsonValue &object)
 {
     const auto id = readIdentifier(object);
     const auto date = readDate(object);
-    const std::string *repositoryName = textMember(object, "repositoryName");
-    const std::string *repositoryPath = textMember(object, "repositoryPath");
+    const std::string *repositoryName = textOf(member(object, "repositoryName"));
+    const std::string *repositoryPath = textOf(member(object, "repositoryPath"));
     const auto total = exactInteger(member(object, "total"));
     auto categories = listMember<RecordedCategory>(object, "categories", readCategory);
     if (!id || !date || repositoryName == nullptr || repositoryPath == nullptr || !total ||
@@ -123,7 +115,7 @@ void writeScan(JsonWriter &writer, const RecordedScan &scan)
 
 std::optional<ScanHistoryFile> ScanHistoryFile::decoded(std::string_view json)
 {
-    const std::optional<JsonTree> object = jsonObject(json, {"scans", "version"});
+    const std::optional<JsonValue> object = jsonObject(json, {"scans", "version"});
     if (!object)
         return std::nullopt;
     const auto fileVersion = exactInteger(member(*object, "version"));

@@ -6,7 +6,7 @@
 #include "text/CheckedSum.h"
 #include "text/TextLines.h"
 #include "text/UnicodeText.h"
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 
 namespace Loadwick {
 
@@ -24,15 +24,15 @@ namespace WeeklyKPIReader {
 
 namespace {
 
-std::string wordsOf(const nlohmann::json &object, std::string_view key)
+std::string wordsOf(const JsonValue &object, std::string_view key)
 {
-    const nlohmann::json *const value = member(object, key);
-    return value != nullptr && value->is_string() ? value->get<std::string>() : "unknown";
+    const std::string *const text = textOf(member(object, key));
+    return text != nullptr ? *text : "unknown";
 }
 
 /// A figure that can be compared with `target`: an integer so far below zero that the difference
 /// does not fit 64 bits counts as none.
-std::optional<std::int64_t> comparedFigure(const nlohmann::json &object, std::string_view key,
+std::optional<std::int64_t> comparedFigure(const JsonValue &object, std::string_view key,
                                            std::int64_t target)
 {
     const auto figure = exactInteger(member(object, key));
@@ -56,8 +56,8 @@ std::optional<WeeklyKPILine> parseLine(std::string_view line)
     const auto tokensPerPR = comparedFigure(*object, "tokens_per_pr", tokensPerPRTarget);
     if (!median || !tokensPerPR)
         return std::nullopt;
-    const nlohmann::json *const window = member(*object, "window");
-    const nlohmann::json none;
+    const JsonValue *const window = member(*object, "window");
+    const JsonValue none;
     return WeeklyKPILine{.medianTokensPerSession = *median,
                          .tokensPerPR = *tokensPerPR,
                          .totalTokens = exactInteger(member(*object, "total_tokens")),

@@ -1,67 +1,91 @@
 #include "json/JsonReader.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cstdint>
+#include <span>
 #include <utility>
 
-#include "json/JsonString.h"
+#include "text/UnicodeText.h"
+#include "json/JsonTokens.h"
 
 namespace Loadwick {
 
 namespace {
 
-/// No selected key is spelled with more bytes than this, escapes included.
-constexpr std::size_t longestSelectedKey = 4096;
+using Paths = std::span<const std::string_view>;
 
-/// A longer number is none that anybody counts with; it is kept as null.
-constexpr std::size_t longestNumber = 4096;
+/// No kept key is spelled with more bytes than this, escapes included.
+constexpr std::size_t longestKeptKey = 4096;
 
-constexpr bool isJsonSpace(char character) noexcept
+enum class PathEnds
 {
-    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
+    anyValue,
+    scalar
+};
+
+/// Where a value goes; a slot without a value drops it.
+struct Slot
+{
+    JsonValue *value = nullptr;
+    std::optional<std::string_view> path =
+        std::nullopt; ///< as `pathTo` gives it; none: keep it all
+};
+
+/// The beginning of a kept path that leads to the member `key` behind `path`: with a dot at its end
+/// while it leads on. Nothing if no kept path leads there.
+std::optional<std::string_view> pathTo(std::string_view key, std::string_view path, Paths keptPaths)
+{
+    for (const std::string_view kept : keptPaths) {
+        if (!kept.starts_with(path))
+            continue;
+        const std::string_view rest = kept.substr(path.size());
+        if (rest.substr(0, rest.find('.')) == key)
+            return kept.substr(0, path.size() + key.size() + 1);
+    }
+    return std::nullopt;
 }
 
-/// An integer that fits, as nearly every number is. The library's own parser, set up for each
-/// number, took a quarter of the time of reading a history.
-std::optional<nlohmann::json> plainIntegerOf(std::string_view digits)
+/// One pass over a document.
+class JsonReader
 {
-    std::int64_t integer = 0;
-    const char *const last = digits.data() + digits.size();
-    const auto [end, error] = std::from_chars(digits.data(), last, integer);
-    if (error != std::errc() || end != last)
+public:
+    JsonReader(std::string_view document, Paths keptPaths, PathEnds ends)
+        : m_tokens(document), m_keptPaths(keptPaths), m_ends(ends)
+    {}
+
+    /// Call it once.
+    [[nodiscard]] std::optional<JsonValue> readObject();
+
+private:
+    [[nodiscard]] bool readElement();
+    [[nodiscard]] bool readValue(const Slot &slot);
+    [[nodiscard]] bool readWord(std::string_view word, JsonValue value, const Slot &slot);
+    [[nodiscard]] bool readString(const Slot &slot);
+    [[nodiscard]] bool readNumber(const Slot &slot);
+    [[nodiscard]] std::optional<Slot> takeKey();
+    [[nodiscard]] Slot slotOfMember(std::string_view keyLiteral);
+    [[nodiscard]] Slot slotOfItem();
+
+    bool open(char bracket, const Slot &slot);
+    void close();
+    [[nodiscard]] bool isKeeping() const noexcept { return m_kept.size() == m_isObject.size(); }
+
+    JsonTokens m_tokens;
+    Paths m_keptPaths;
+    PathEnds m_ends;
+    JsonValue m_result;
+    std::vector<bool> m_isObject; // for each open container
+    std::vector<Slot> m_kept;     // the outermost open containers, as far as they are kept
+    bool m_isAtFirst = true;      // nothing was read in the innermost container yet
+};
+
+std::optional<JsonValue> JsonReader::readObject()
+{
+    if (m_tokens.next() != '{')
         return std::nullopt;
-    if (integer < 0)
-        return integer;
-    return static_cast<std::uint64_t>(integer); // as the library's parser types it
-}
-
-nlohmann::json numberOf(std::string_view digits)
-{
-    if (auto integer = plainIntegerOf(digits))
-        return std::move(*integer);
-    if (digits.size() > longestNumber)
-        return nullptr;
-    nlohmann::json number =
-        nlohmann::json::parse(digits.begin(), digits.end(), nullptr, /* allow_exceptions */ false);
-    return number.is_discarded() ? nlohmann::json() : number;
-}
-
-} // namespace
-
-JsonReader::JsonReader(std::string_view document, const JsonSelection &selection)
-    : m_text(document), m_root{&m_result.value(), &selection}
-{}
-
-std::optional<JsonTree> JsonReader::readObject()
-{
-    if (!take('{'))
-        return std::nullopt;
-    open(true, m_root);
+    open('{', {&m_result, ""});
     while (!m_isObject.empty())
         if (!readElement())
             return std::nullopt;
-    if (m_index != m_text.size())
+    if (!m_tokens.isAtEnd())
         return std::nullopt;
     return std::move(m_result);
 }
@@ -69,152 +93,118 @@ std::optional<JsonTree> JsonReader::readObject()
 /// Reads one member or item of the innermost container, or its end.
 bool JsonReader::readElement()
 {
-    skipSpace();
+    m_tokens.skipSpace();
     const bool isObject = m_isObject.back();
-    if (take(isObject ? '}' : ']')) {
+    if (m_tokens.take(isObject ? '}' : ']')) {
         close();
         return true;
     }
     if (!std::exchange(m_isAtFirst, false)) {
-        if (!take(','))
+        if (!m_tokens.take(','))
             return false;
-        skipSpace();
+        m_tokens.skipSpace();
     }
-    const auto place = isObject ? takeKey() : placeOfItem();
-    return place && readValue(*place);
+    const auto slot = isObject ? takeKey() : slotOfItem();
+    return slot && readValue(*slot);
 }
 
-bool JsonReader::readValue(const Place &place)
+bool JsonReader::readValue(const Slot &slot)
 {
-    switch (next()) {
+    switch (m_tokens.next()) {
     case '{':
     case '[':
-        return open(m_text[m_index++] == '{', place);
+        return open(m_tokens.next(), slot);
     case '"':
-        return readString(place);
+        return readString(slot);
     case 't':
-        return readLiteral("true", true, place);
+        return readWord("true", JsonValue(true), slot);
     case 'f':
-        return readLiteral("false", false, place);
+        return readWord("false", JsonValue(false), slot);
     case 'n':
-        return readLiteral("null", nullptr, place);
+        return readWord("null", JsonValue(), slot);
     default:
-        return readNumber(place);
+        return readNumber(slot);
     }
 }
 
-bool JsonReader::readString(const Place &place)
+bool JsonReader::readWord(std::string_view word, JsonValue value, const Slot &slot)
 {
-    const auto literal = takeStringLiteral();
-    if (literal && place.slot != nullptr)
-        put(place, jsonStringText(*literal));
+    if (!m_tokens.takeWord(word))
+        return false;
+    if (slot.value != nullptr)
+        *slot.value = std::move(value);
+    return true;
+}
+
+bool JsonReader::readString(const Slot &slot)
+{
+    const auto literal = m_tokens.takeString();
+    if (literal && slot.value != nullptr)
+        *slot.value = JsonValue(jsonStringText(*literal));
     return literal.has_value();
 }
 
-bool JsonReader::readLiteral(std::string_view word, nlohmann::json value, const Place &place)
+bool JsonReader::readNumber(const Slot &slot)
 {
-    if (m_text.substr(m_index, word.size()) != word)
-        return false;
-    m_index += word.size();
-    put(place, std::move(value));
-    return true;
+    const auto digits = m_tokens.takeNumber();
+    if (digits && slot.value != nullptr)
+        *slot.value = jsonNumber(*digits);
+    return digits.has_value();
 }
 
-bool JsonReader::readNumber(const Place &place)
+std::optional<Slot> JsonReader::takeKey()
 {
-    const std::size_t start = m_index;
-    take('-');
-    if (!take('0') && !takeDigits())
-        return false;
-    if (take('.') && !takeDigits())
-        return false;
-    if (take('e') || take('E')) {
-        if (!take('+'))
-            take('-');
-        if (!takeDigits())
-            return false;
-    }
-    if (place.slot != nullptr)
-        put(place, numberOf(m_text.substr(start, m_index - start)));
-    return true;
-}
-
-/// What stands there already, as of a key that occurs twice, goes first, and without asking for
-/// memory.
-void JsonReader::put(const Place &place, nlohmann::json value) noexcept
-{
-    if (place.slot == nullptr)
-        return;
-    dismantle(*place.slot);
-    *place.slot = std::move(value);
-}
-
-std::optional<std::string_view> JsonReader::takeStringLiteral()
-{
-    if (!take('"'))
+    const auto literal = m_tokens.takeString();
+    m_tokens.skipSpace();
+    if (!literal || !m_tokens.take(':'))
         return std::nullopt;
-    const auto end = jsonStringEnd(m_text, m_index);
-    if (!end)
-        return std::nullopt;
-    const std::string_view literal = m_text.substr(m_index, *end - m_index);
-    m_index = *end + 1;
-    return literal;
+    m_tokens.skipSpace();
+    return slotOfMember(*literal);
 }
 
-std::optional<JsonReader::Place> JsonReader::takeKey()
-{
-    const auto literal = takeStringLiteral();
-    skipSpace();
-    if (!literal || !take(':'))
-        return std::nullopt;
-    skipSpace();
-    return placeOfMember(*literal);
-}
-
-JsonReader::Place JsonReader::placeOfMember(std::string_view keyLiteral)
+Slot JsonReader::slotOfMember(std::string_view keyLiteral)
 {
     if (!isKeeping())
         return {};
-    const Place container = m_kept.back();
-    if (container.selection == nullptr)
-        return {&(*container.slot)[jsonStringText(keyLiteral)], nullptr};
-    if (keyLiteral.size() > longestSelectedKey)
+    const Slot &container = m_kept.back();
+    auto &members = *container.value->as<JsonValue::Object>();
+    if (!container.path)
+        return {&members.emplace_back(JsonMember{jsonStringText(keyLiteral), {}}).value};
+    if (keyLiteral.size() > longestKeptKey)
         return {};
-    const std::string key = jsonStringText(keyLiteral);
-    const JsonSelection *const selected = container.selection->member(key);
-    if (selected == nullptr)
+    std::string key = jsonStringText(keyLiteral);
+    const auto path = pathTo(key, *container.path, m_keptPaths);
+    if (!path)
         return {};
-    // The member takes the place of an earlier one of its name, whatever it holds.
-    if (const auto earlier = container.slot->find(key); earlier != container.slot->end()) {
-        dismantle(*earlier);
-        container.slot->erase(earlier);
-    }
-    const bool isContainer = next() == '{' || next() == '[';
-    if (selected->isWhole() && !(selected->isScalar() && isContainer))
-        return {&(*container.slot)[key], nullptr};
-    if (selected->isWhole() || next() != '{')
+    // An earlier member of this name goes, whatever this one holds.
+    std::erase_if(members, [&](const JsonMember &earlier) { return earlier.key == key; });
+    const bool leadsOn = path->ends_with('.');
+    const bool isObject = m_tokens.next() == '{';
+    const bool isContainer = isObject || m_tokens.next() == '[';
+    if (leadsOn ? !isObject : isContainer && m_ends == PathEnds::scalar)
         return {};
-    return {&(*container.slot)[key], selected};
+    JsonValue &value = members.emplace_back(JsonMember{std::move(key), {}}).value;
+    return {&value, leadsOn ? path : std::nullopt};
 }
 
-JsonReader::Place JsonReader::placeOfItem()
+Slot JsonReader::slotOfItem()
 {
     if (!isKeeping())
         return {};
-    nlohmann::json &array = *m_kept.back().slot;
-    array.push_back(nullptr);
-    return {&array.back(), nullptr};
+    return {&m_kept.back().value->as<JsonValue::Array>()->emplace_back()};
 }
 
-bool JsonReader::open(bool isObject, const Place &place)
+/// Opens the container that begins here with `bracket`.
+bool JsonReader::open(char bracket, const Slot &slot)
 {
-    if (place.slot != nullptr) {
-        put(place, isObject ? nlohmann::json::object() : nlohmann::json::array());
-        m_kept.push_back(place);
+    const bool isObject = bracket == '{';
+    if (slot.value != nullptr) {
+        *slot.value = isObject ? JsonValue(JsonValue::Object()) : JsonValue(JsonValue::Array());
+        m_kept.push_back(slot);
     }
     m_isObject.push_back(isObject);
     m_isAtFirst = true;
-    return true;
+    return m_tokens.take(bracket);
 }
 
 void JsonReader::close()
@@ -225,31 +215,26 @@ void JsonReader::close()
     m_isAtFirst = false;
 }
 
-char JsonReader::next() const noexcept
+std::optional<JsonValue> keptPartsOf(std::string_view text, Paths keptPaths, PathEnds ends)
 {
-    return m_index < m_text.size() ? m_text[m_index] : '\0';
+    const std::string_view document = trimmed(text);
+    if (!isUtf8(document))
+        return std::nullopt;
+    return JsonReader(document, keptPaths, ends).readObject();
 }
 
-bool JsonReader::take(char wanted) noexcept
+} // namespace
+
+std::optional<JsonValue> jsonObject(std::string_view text,
+                                    std::initializer_list<std::string_view> keptPaths)
 {
-    if (m_index >= m_text.size() || m_text[m_index] != wanted)
-        return false;
-    ++m_index;
-    return true;
+    return keptPartsOf(text, {keptPaths.begin(), keptPaths.size()}, PathEnds::anyValue);
 }
 
-bool JsonReader::takeDigits() noexcept
+std::optional<JsonValue> jsonObjectOfScalars(std::string_view text,
+                                             std::initializer_list<std::string_view> keptPaths)
 {
-    const std::size_t start = m_index;
-    m_index = std::min(m_text.find_first_not_of("0123456789", m_index), m_text.size());
-    return m_index > start;
-}
-
-void JsonReader::skipSpace() noexcept
-{
-    // A plain loop: find_first_not_of calls memchr for each byte, a seventh of a whole reading.
-    while (m_index < m_text.size() && isJsonSpace(m_text[m_index]))
-        ++m_index;
+    return keptPartsOf(text, {keptPaths.begin(), keptPaths.size()}, PathEnds::scalar);
 }
 
 } // namespace Loadwick

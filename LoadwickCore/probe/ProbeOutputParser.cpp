@@ -8,7 +8,7 @@
 
 #include "probe/ProbeError.h"
 #include "text/UnicodeText.h"
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 
 namespace Loadwick::ProbeOutputParser {
 
@@ -22,7 +22,7 @@ constexpr std::array<std::string_view, 4> signInComplaints{
 constexpr std::size_t pieceSize = 65536;
 constexpr std::size_t sharedSize = 128;
 
-std::optional<JsonTree> recordIn(std::string_view standardOutput)
+std::optional<JsonValue> recordIn(std::string_view standardOutput)
 {
     return jsonObjectOfScalars(standardOutput,
                                {"session_id", "result", "is_error", "usage.input_tokens",
@@ -62,18 +62,18 @@ ProbeError failureReportedAs(std::string result)
 }
 
 /// Moves the text of a member out of `object`; empty when it is absent or no text.
-std::string takeText(nlohmann::json &object, const char *key)
+std::string takeText(JsonValue &object, std::string_view key)
 {
-    const auto found = object.find(key);
-    if (found == object.end() || !found->is_string())
-        return {};
-    return std::move(found->get_ref<std::string &>());
+    JsonValue *const value = member(object, key);
+    auto *const text = value != nullptr ? value->as<std::string>() : nullptr;
+    return text != nullptr ? std::move(*text) : std::string();
 }
 
-bool reportsError(const nlohmann::json &object)
+bool reportsError(const JsonValue &object)
 {
-    const nlohmann::json *const isError = member(object, "is_error");
-    return isError != nullptr && isError->is_boolean() && isError->get<bool>();
+    const JsonValue *const value = member(object, "is_error");
+    const auto *const isError = value != nullptr ? value->as<bool>() : nullptr;
+    return isError != nullptr && *isError;
 }
 
 } // namespace
@@ -84,13 +84,13 @@ ProbeOutput parse(std::string_view standardOutput, std::string_view standardErro
     auto object = recordIn(standardOutput);
     if (!object)
         throw failureWithoutObject(standardOutput, standardError, exitCode);
-    std::string result = takeText(object->value(), "result");
+    std::string result = takeText(*object, "result");
     if (reportsError(*object))
         throw failureReportedAs(std::move(result));
-    std::string sessionID = takeText(object->value(), "session_id");
+    std::string sessionID = takeText(*object, "session_id");
     if (sessionID.empty())
         throw unreadable(standardOutput);
-    const nlohmann::json *const usage = member(*object, "usage");
+    const JsonValue *const usage = member(*object, "usage");
     return {.sessionID = std::move(sessionID),
             .result = std::move(result),
             .usage = usage != nullptr ? ProbeUsage::from(*usage) : std::nullopt};

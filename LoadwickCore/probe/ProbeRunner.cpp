@@ -14,7 +14,7 @@
 #include "process/ChildSupervision.h"
 #include "text/PathText.h"
 #include "text/UnicodeText.h"
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 
 namespace Loadwick {
 

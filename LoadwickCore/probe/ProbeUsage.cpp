@@ -1,11 +1,11 @@
 #include "probe/ProbeUsage.h"
 
 #include "text/CheckedSum.h"
-#include "json/JsonText.h"
+#include "json/JsonValue.h"
 
 namespace Loadwick {
 
-std::optional<ProbeUsage> ProbeUsage::from(const nlohmann::json &object)
+std::optional<ProbeUsage> ProbeUsage::from(const JsonValue &object)
 {
     const auto count = [&](std::string_view key) { return exactInteger(member(object, key)); };
     const auto input = count("input_tokens");

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
-#include <nlohmann/json_fwd.hpp>
-
 namespace Loadwick {
+
+class JsonValue;
 
 /// Token counts of one message, as the session recorded them.
 struct ProbeUsage
@@ -18,7 +18,7 @@ struct ProbeUsage
     /// Reads "input_tokens", "cache_creation_input_tokens", "cache_read_input_tokens" and
     /// "output_tokens" of a JSON object. A value that is no exact integer counts as absent, an
     /// absent one as 0; nothing when none of the three input counts is present.
-    [[nodiscard]] static std::optional<ProbeUsage> from(const nlohmann::json &object);
+    [[nodiscard]] static std::optional<ProbeUsage> from(const JsonValue &object);
 
     /// Input, cache-creation and cache-read tokens together; output tokens are no startup context.
     /// Overflow ends the program.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 
 namespace Loadwick {
 
@@ -25,14 +25,6 @@ bool mayBeAssistants(std::string_view text) noexcept
         found |= static_cast<unsigned char>(isEscape | isPart);
     }
     return found != 0;
-}
-
-/// Comparing the value itself with a text would ask for memory where there is no way to say that
-/// there is none.
-bool isText(const nlohmann::json *value, std::string_view text)
-{
-    const auto *const found = value == nullptr ? nullptr : value->get_ptr<const std::string *>();
-    return found != nullptr && *found == text;
 }
 
 } // namespace
@@ -58,11 +50,11 @@ std::optional<ProbeUsage> TranscriptPieces::usageInLine(std::string_view line)
                "message.usage.cache_read_input_tokens", "message.usage.output_tokens"});
     if (!record)
         return std::nullopt;
-    const nlohmann::json *const type = member(*record, "type");
-    const nlohmann::json *const message = member(*record, "message");
-    if (!isText(type, assistant) || message == nullptr)
+    const std::string *const type = textOf(member(*record, "type"));
+    const JsonValue *const message = member(*record, "message");
+    if (type == nullptr || *type != assistant || message == nullptr)
         return std::nullopt;
-    const nlohmann::json *const usage = member(*message, "usage");
+    const JsonValue *const usage = member(*message, "usage");
     return usage != nullptr ? ProbeUsage::from(*usage) : std::nullopt;
 }
 

@@ -1,10 +1,13 @@
 #include <cstdint>
 #include <limits>
+#include <string>
 
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/JsonOracle.h"
 #include "fuzz/UsageOracle.h"
 #include "probe/ProbeUsage.h"
+#include "text/UnicodeText.h"
+#include "json/JsonReader.h"
 
 namespace Loadwick {
 
@@ -23,7 +26,10 @@ void checkUsage(std::string_view input)
     const JsonOracle oracle = JsonOracle::of(input);
     if (!oracle.object)
         return;
-    const auto usage = ProbeUsage::from(*oracle.object);
+    const std::string document = "{\"usage\":" + std::string(trimmed(input)) + "}";
+    const auto read = jsonObject(document, {"usage"});
+    require(read.has_value(), "an object may be a member");
+    const auto usage = ProbeUsage::from(*member(*read, "usage"));
     require(usage == usageByTheRule(&*oracle.object), "the usage follows the rule");
     if (!usage || !isBounded(usage->inputTokens) || !isBounded(usage->cacheCreationInputTokens) ||
         !isBounded(usage->cacheReadInputTokens))

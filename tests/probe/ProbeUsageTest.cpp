@@ -1,9 +1,11 @@
 #include "probe/ProbeUsage.h"
 
 #include <limits>
+#include <string>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
+
+#include "json/JsonReader.h"
 
 namespace Loadwick {
 
@@ -11,9 +13,10 @@ namespace {
 
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 
-std::optional<ProbeUsage> usageOf(const char *json)
+std::optional<ProbeUsage> usageOf(const std::string &json)
 {
-    return ProbeUsage::from(nlohmann::json::parse(json));
+    const auto document = jsonObject("{\"usage\":" + json + "}", {"usage"});
+    return ProbeUsage::from(*member(*document, "usage"));
 }
 
 ProbeUsage counts(std::int64_t input, std::int64_t creation, std::int64_t read, std::int64_t output)
@@ -57,10 +60,10 @@ TEST(ProbeUsageTest, takesNoValueThatIsNoExactInteger)
     for (const char *value : {"\"3\"", "3.0", "3.5", "3e0", "null", "true", "[3]", "{}",
                               "9223372036854775808", "99999999999999999999"}) {
         const std::string json = std::string(R"({"input_tokens":)") + value + "}";
-        EXPECT_FALSE(usageOf(json.c_str())) << value;
+        EXPECT_FALSE(usageOf(json)) << value;
         const std::string beside =
             std::string(R"({"cache_read_input_tokens":1,"input_tokens":)") + value + "}";
-        EXPECT_EQ(usageOf(beside.c_str()), counts(0, 0, 1, 0)) << value;
+        EXPECT_EQ(usageOf(beside), counts(0, 0, 1, 0)) << value;
     }
 }
 

@@ -2,7 +2,7 @@
 // through here, as CallCounters.cpp has it lead calls of the system.
 #include "measure/CallCounters.h"
 #include "text/TextLines.h"
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 
 namespace Loadwick {
 
@@ -16,10 +16,10 @@ std::optional<std::string_view> realTakeLine(std::string_view &rest) noexcept
     asm("__real_" LOADWICK_TAKE_LINE);
 std::optional<std::string_view> countedTakeLine(std::string_view &rest) noexcept
     asm("__wrap_" LOADWICK_TAKE_LINE);
-std::optional<JsonTree> realJsonObject(std::string_view text,
-                                       Paths keptPaths) asm("__real_" LOADWICK_JSON_OBJECT);
-std::optional<JsonTree> countedJsonObject(std::string_view text,
-                                          Paths keptPaths) asm("__wrap_" LOADWICK_JSON_OBJECT);
+std::optional<JsonValue> realJsonObject(std::string_view text,
+                                        Paths keptPaths) asm("__real_" LOADWICK_JSON_OBJECT);
+std::optional<JsonValue> countedJsonObject(std::string_view text,
+                                           Paths keptPaths) asm("__wrap_" LOADWICK_JSON_OBJECT);
 
 std::optional<std::string_view> countedTakeLine(std::string_view &rest) noexcept
 {
@@ -29,7 +29,7 @@ std::optional<std::string_view> countedTakeLine(std::string_view &rest) noexcept
     return line;
 }
 
-std::optional<JsonTree> countedJsonObject(std::string_view text, Paths keptPaths)
+std::optional<JsonValue> countedJsonObject(std::string_view text, Paths keptPaths)
 {
     ++CallCounters::ofProcess().linesParsed;
     return realJsonObject(text, keptPaths);

@@ -1,4 +1,4 @@
-#include "json/JsonText.h"
+#include "json/JsonReader.h"
 
 #include <string>
 
@@ -26,7 +26,7 @@ std::string documentOf(std::string_view head, std::string_view piece, std::strin
 
 } // namespace
 
-TEST(JsonTextSlowTest, copiesAKeptStringOnce)
+TEST(JsonReaderSlowTest, copiesAKeptStringOnce)
 {
     for (const char *piece : {"plain text ", "\\n", "\\u00e9", "\xC3\xA9"}) {
         const std::string text = documentOf(R"({"id":1,"result":")", piece, R"(","x":2})");
@@ -36,7 +36,7 @@ TEST(JsonTextSlowTest, copiesAKeptStringOnce)
     }
 }
 
-TEST(JsonTextSlowTest, needsNoMemoryForWhatIsSkipped)
+TEST(JsonReaderSlowTest, needsNoMemoryForWhatIsSkipped)
 {
     for (const char *piece : {R"("text",)", "[[],{}],", "[1, 2.5],", "     ", R"({"a":null},)"}) {
         const std::string text = documentOf(R"({"other":[)", piece, "0]}");
@@ -46,7 +46,7 @@ TEST(JsonTextSlowTest, needsNoMemoryForWhatIsSkipped)
     }
 }
 
-TEST(JsonTextSlowTest, needsNoMemoryForWhatStandsInThePlaceOfAScalar)
+TEST(JsonReaderSlowTest, needsNoMemoryForWhatStandsInThePlaceOfAScalar)
 {
     const std::string text = documentOf(R"({"result":[)", "0,", "0]}");
     const PeakMemory memory;
@@ -54,7 +54,7 @@ TEST(JsonTextSlowTest, needsNoMemoryForWhatStandsInThePlaceOfAScalar)
     EXPECT_LT(memory.growthInBytes(), size / 20);
 }
 
-TEST(JsonTextSlowTest, needsOneBitForALevelOfNesting)
+TEST(JsonReaderSlowTest, needsOneBitForALevelOfNesting)
 {
     const std::string text = documentOf(R"({"other":)", "[", "");
     const PeakMemory memory;

@@ -1,4 +1,4 @@
-#include "json/JsonString.h"
+#include "json/JsonTokens.h"
 
 #include <gtest/gtest.h>
 
@@ -8,77 +8,83 @@ using namespace std::string_literals;
 
 namespace {
 
-/// The text of a literal given without its quotation marks.
+/// The text of a string given without its quotation marks.
 std::optional<std::string> textOf(const std::string &literal)
 {
-    if (jsonStringEnd(literal + "\" tail", 0) != literal.size())
+    const std::string document = '"' + literal + "\" tail";
+    JsonTokens tokens(document);
+    if (tokens.takeString() != literal)
         return std::nullopt;
+    EXPECT_TRUE(tokens.takeWord(" tail"));
     return jsonStringText(literal);
+}
+
+bool hasString(std::string_view document)
+{
+    return JsonTokens(document).takeString().has_value();
 }
 
 } // namespace
 
-TEST(JsonStringTest, findsTheClosingQuotationMark)
+TEST(JsonTokensTest, takesAStringToItsClosingQuotationMark)
 {
-    EXPECT_EQ(jsonStringEnd(R"("abc",1)", 1), 4U);
-    EXPECT_EQ(jsonStringEnd(R"("")", 1), 1U);
-    EXPECT_EQ(jsonStringEnd(R"("a\"b")", 1), 5U);
-    EXPECT_EQ(jsonStringEnd(R"("a\\")", 1), 4U);
+    EXPECT_EQ(JsonTokens(R"("abc",1)").takeString(), "abc");
+    EXPECT_EQ(JsonTokens(R"("")").takeString(), "");
+    EXPECT_EQ(JsonTokens(R"("a\"b")").takeString(), R"(a\"b)");
+    EXPECT_EQ(JsonTokens(R"("a\\")").takeString(), R"(a\\)");
 }
 
-TEST(JsonStringTest, isNothingWithoutAnEnd)
+TEST(JsonTokensTest, takesNoStringWithoutItsQuotationMarks)
 {
-    EXPECT_FALSE(jsonStringEnd("", 0));
-    EXPECT_FALSE(jsonStringEnd("abc", 0));
-    EXPECT_FALSE(jsonStringEnd("abc\\", 0));
-    EXPECT_FALSE(jsonStringEnd("abc\\\"", 0));
+    for (const char *text : {"", "abc\"", "\"", "\"abc", "\"abc\\", "\"abc\\\""})
+        EXPECT_FALSE(hasString(text)) << text;
 }
 
-TEST(JsonStringTest, readsEveryShortEscape)
+TEST(JsonTokensTest, readsEveryShortEscape)
 {
     EXPECT_EQ(textOf(R"(\"\\\/\b\f\n\r\t)"), "\"\\/\b\f\n\r\t");
 }
 
-TEST(JsonStringTest, readsCodeUnits)
+TEST(JsonTokensTest, readsCodeUnits)
 {
     EXPECT_EQ(textOf(R"(\u0041\u00e9\u20AC)"), "Aé€");
     EXPECT_EQ(textOf(R"(\u0000)"), "\0"s);
     EXPECT_EQ(textOf(R"(\u007f\u0080\u07ff\u0800\uffff)"), "\u007f\u0080\u07ff\u0800\uffff");
 }
 
-TEST(JsonStringTest, joinsSurrogatePairs)
+TEST(JsonTokensTest, joinsSurrogatePairs)
 {
     EXPECT_EQ(textOf(R"(x\ud83d\ude00y)"), "x😀y");
     EXPECT_EQ(textOf(R"(\uD800\uDC00\uDBFF\uDFFF)"), "\U00010000\U0010ffff");
 }
 
-TEST(JsonStringTest, refusesHalfASurrogatePair)
+TEST(JsonTokensTest, refusesHalfASurrogatePair)
 {
     for (const char *literal : {R"(\ud83d)", R"(\ude00)", R"(\ud83dx)", R"(\ud83d\n)",
                                 R"(\ud83d\u0041)", R"(\ude00\ud83d)", R"(\ud83d\ud83d)"})
         EXPECT_FALSE(textOf(literal)) << literal;
 }
 
-TEST(JsonStringTest, refusesUnknownEscapes)
+TEST(JsonTokensTest, refusesUnknownEscapes)
 {
     for (const char *literal : {R"(\x)", R"(\u12)", R"(\u12g4)", R"(\u-123)", R"(\U0041)",
                                 R"(\u+041)", R"(\u 041)", R"(\')"})
         EXPECT_FALSE(textOf(literal)) << literal;
 }
 
-TEST(JsonStringTest, refusesControlCharacters)
+TEST(JsonTokensTest, refusesControlCharacters)
 {
     for (char byte = 0; byte < 0x20; ++byte)
         EXPECT_FALSE(textOf("a"s + byte)) << static_cast<int>(byte);
     EXPECT_EQ(textOf("\x7F"), "\x7F");
 }
 
-TEST(JsonStringTest, keepsSeparatorsOfLinesAndParagraphs)
+TEST(JsonTokensTest, keepsSeparatorsOfLinesAndParagraphs)
 {
     EXPECT_EQ(textOf("a\u2028b\u0085c"), "a\u2028b\u0085c");
 }
 
-TEST(JsonStringTest, needsNoMoreMemoryThanTheLiteral)
+TEST(JsonTokensTest, needsNoMoreMemoryThanTheLiteral)
 {
     const std::string literal(1 << 20, 'x');
     EXPECT_LE(jsonStringText(literal).capacity(), literal.size());

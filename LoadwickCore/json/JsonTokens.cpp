@@ -1,8 +1,9 @@
-#include "json/JsonString.h"
+#include "json/JsonTokens.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <utility>
 
 namespace Loadwick {
 
@@ -11,6 +12,11 @@ namespace {
 constexpr std::string_view escapes = "\"\\/bfnrt";
 constexpr std::string_view meanings = "\"\\/\b\f\n\r\t";
 constexpr std::size_t unitLength = 6; // \uXXXX
+
+constexpr bool isJsonSpace(char byte) noexcept
+{
+    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
+}
 
 bool isHighSurrogate(char32_t unit) noexcept
 {
@@ -46,14 +52,14 @@ struct Character
 std::optional<Character> characterAt(std::string_view text, std::size_t index) noexcept
 {
     const auto first = unitAt(text, index);
-    if (!first || isLowSurrogate(*first))
+    if (!first)
         return std::nullopt;
-    if (!isHighSurrogate(*first))
+    if (!isHighSurrogate(*first) && !isLowSurrogate(*first))
         return Character{*first, unitLength};
     const auto second = unitAt(text, index + unitLength);
-    if (!second || !isLowSurrogate(*second))
-        return std::nullopt;
-    return Character{0x10000 + ((*first - 0xD800) << 10) + (*second - 0xDC00), 2 * unitLength};
+    if (isHighSurrogate(*first) && second && isLowSurrogate(*second))
+        return Character{0x10000 + ((*first - 0xD800) << 10) + (*second - 0xDC00), 2 * unitLength};
+    return std::nullopt; // half a surrogate pair
 }
 
 /// Bytes of the escape at `index`; 0 when it is none.
@@ -89,9 +95,8 @@ void appendUtf8(std::string &text, char32_t value)
     appendTail(0);
 }
 
-} // namespace
-
-std::optional<std::size_t> jsonStringEnd(std::string_view text, std::size_t start) noexcept
+/// Index of the quotation mark that ends the string whose first character is at `start`.
+std::optional<std::size_t> stringEnd(std::string_view text, std::size_t start) noexcept
 {
     for (std::size_t index = start; index < text.size();) {
         const char byte = text[index];
@@ -105,6 +110,78 @@ std::optional<std::size_t> jsonStringEnd(std::string_view text, std::size_t star
         index += length;
     }
     return std::nullopt;
+}
+
+template<typename Number>
+std::optional<JsonValue> numberAs(std::string_view literal)
+{
+    Number number{};
+    const char *const last = literal.data() + literal.size();
+    const auto [end, error] = std::from_chars(literal.data(), last, number);
+    if (error != std::errc() || end != last)
+        return std::nullopt;
+    return JsonValue(number);
+}
+
+} // namespace
+
+void JsonTokens::skipSpace() noexcept
+{
+    // A plain loop: find_first_not_of calls memchr for each byte, a seventh of a whole reading.
+    while (m_index < m_text.size() && isJsonSpace(m_text[m_index]))
+        ++m_index;
+}
+
+bool JsonTokens::take(char byte) noexcept
+{
+    if (isAtEnd() || m_text[m_index] != byte)
+        return false;
+    ++m_index;
+    return true;
+}
+
+bool JsonTokens::takeWord(std::string_view word) noexcept
+{
+    if (m_text.substr(m_index, word.size()) != word)
+        return false;
+    m_index += word.size();
+    return true;
+}
+
+bool JsonTokens::takeDigits() noexcept
+{
+    const std::size_t start = m_index;
+    m_index = std::min(m_text.find_first_not_of("0123456789", m_index), m_text.size());
+    return m_index > start;
+}
+
+std::optional<std::string_view> JsonTokens::takeNumber() noexcept
+{
+    const std::size_t start = m_index;
+    take('-');
+    if (!take('0') && !takeDigits())
+        return std::nullopt;
+    if (take('.') && !takeDigits())
+        return std::nullopt;
+    if (take('e') || take('E')) {
+        if (!take('+'))
+            take('-');
+        if (!takeDigits())
+            return std::nullopt;
+    }
+    return m_text.substr(start, m_index - start);
+}
+
+std::optional<std::string_view> JsonTokens::takeString() noexcept
+{
+    if (!take('"'))
+        return std::nullopt;
+    const auto end = stringEnd(m_text, m_index);
+    if (!end)
+        return std::nullopt;
+    const std::string_view literal = m_text.substr(m_index, *end - m_index);
+    m_index = *end + 1;
+    return literal;
 }
 
 std::string jsonStringText(std::string_view literal)
@@ -126,6 +203,13 @@ std::string jsonStringText(std::string_view literal)
         }
     }
     return text;
+}
+
+JsonValue jsonNumber(std::string_view literal)
+{
+    if (auto integer = numberAs<std::int64_t>(literal))
+        return std::move(*integer);
+    return numberAs<double>(literal).value_or(JsonValue());
 }
 
 } // namespace Loadwick
