@@ -114,7 +114,7 @@ class Bench:
 
     def measure_scan(self) -> None:
         """From the key to the first frame of the result."""
-        lines = window_lines([str(self.programs / "scan_to_result"), str(self.count)], {})
+        lines = window_lines([str(self.programs / "loadwick-stage"), "scans", str(self.count)], {})
         self.rows.append(Row("a scan with an instant stand-in, Ctrl+R to the first frame of the result",
                              "the stand-in alone and one frame",
                              [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more"))
@@ -138,9 +138,9 @@ class Bench:
             self.measure_growth()
         if self.wants("startup") and (self.programs / "startup_loadwick").exists():
             self.measure_startup()
-        if self.wants("scan") and (self.programs / "scan_to_result").exists():
+        if self.wants("scan") and (self.programs / "loadwick-stage").exists():
             self.measure_scan()
-        if self.wants("pages") and (self.programs / "frames_overview").exists():
+        if self.wants("pages") and (self.programs / "loadwick-stage").exists():
             self.measure_pages()
 
 

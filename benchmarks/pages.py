@@ -20,7 +20,7 @@ from processes import wakes_of  # noqa: E402
 FRAME_MILLISECONDS = 16.7  # of 60 in a second
 AGAINST = "a frame of 60 in a second"
 LINE = re.compile(r" +(\w+) +(\d+) frames +50th +([\d.]+) +99th +([\d.]+)")
-LONG = "of-size"  # the scene with the lists of 10,000
+LONG = "overview-of-size"  # the scene with the lists of 10,000
 START_SECONDS = 3.0  # until a window is at rest
 IDLE_SECONDS = 10.0
 RENDERED = b"renderloop"  # in each line that the toolkit logs for a frame
@@ -31,13 +31,13 @@ Costs = dict[str, dict[str, float]]  # of a scene, what it does: milliseconds
 
 
 def costs_of(text: str) -> Costs:
-    """What a program of benchmarks/frames prints: of the frames of each scene the 99th percentile.
-    A scene is a paragraph whose first line begins with its name."""
+    """What `loadwick-stage frames` prints: of the frames of each scene the 99th percentile.
+    A scene is a paragraph whose first line is its name."""
     costs: Costs = {}
     for line in text.splitlines():
         found = LINE.match(line)
         if not found:
-            scene = costs.setdefault(re.split(r"[:,]", line)[0], {})
+            scene = costs.setdefault(line, {})
         elif int(found.group(2)) > 0:
             scene[found.group(1)] = float(found.group(4))
     return costs
@@ -46,11 +46,11 @@ def costs_of(text: str) -> Costs:
 def one_round(programs: Path) -> Costs:
     """All scenes once."""
     costs: Costs = {}
-    for subject in ["overview", "histories"]:
-        command = [str(programs / f"frames_{subject}"), "1"]
+    for names in [["overview"], ["trends", "compare"]]:
+        command = [str(programs / "loadwick-stage"), "frames", "1", *names]
         found = costs_of(subprocess.run(command, capture_output=True, check=True,
                                         text=True).stdout)
-        found[f"{ALL} {subject}"] = found.pop(ALL)
+        found[f"{ALL} {names[0]}"] = found.pop(ALL)
         costs |= found
     return costs
 

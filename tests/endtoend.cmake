@@ -3,15 +3,11 @@
 # The system's own interpreter: the accessibility bindings are packages of that one.
 find_program(LOADWICK_SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
 
-function(loadwick_endtoend_program name source)
-    qt_add_executable(${name} "endtoend/${source}")
-    loadwick_warnings(${name})
-    loadwick_qt_strictness(${name})
-    target_link_libraries(${name} PRIVATE ${ARGN})
-endfunction()
-
-loadwick_endtoend_program(loadwick-endtoend main.cpp LoadwickDemoWindow Qt6::DBus)
-loadwick_endtoend_program(loadwick-clipboard clipboard.cpp Qt6::Gui)
+# Prints what another program would paste.
+qt_add_executable(loadwick-clipboard endtoend/clipboard.cpp)
+loadwick_warnings(loadwick-clipboard)
+loadwick_qt_strictness(loadwick-clipboard)
+target_link_libraries(loadwick-clipboard PRIVATE Qt6::Gui)
 
 file(GLOB scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/endtoend"
                                     "${CMAKE_CURRENT_SOURCE_DIR}/endtoend/*_test.py")

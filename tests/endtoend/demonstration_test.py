@@ -65,7 +65,7 @@ class DemonstrationTest(unittest.TestCase):
 
     def command(self) -> list[str]:
         """The demonstration, leaving its pictures in a folder of this test."""
-        return [str(programs() / "loadwick-demo"), str(self.pictures)]
+        return [str(programs() / "loadwick-stage"), "demo", str(self.pictures)]
 
     def test_without_a_display_it_leaves_a_picture_of_every_state(self) -> None:
         environment = self.environment()

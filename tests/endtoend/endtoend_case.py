@@ -22,6 +22,11 @@ def programs() -> Path:
     return Path(os.environ["LOADWICK_PROGRAMS"])
 
 
+def window_command(*options: str) -> list[str]:
+    """The command that opens the window on a throw-away home."""
+    return [str(programs() / "loadwick-stage"), "window", *options]
+
+
 class EndToEndCase(unittest.TestCase):
     """A test with a throw-away home and the means to open the window on it."""
 
@@ -40,8 +45,7 @@ class EndToEndCase(unittest.TestCase):
 
     def start(self, *options: str) -> Program:
         """Starts the program; it is ended at the end of the test."""
-        command = [str(programs() / "loadwick-endtoend"), *options]
-        program = Program(command, environment_for(self.home.path))
+        program = Program(window_command(*options), environment_for(self.home.path))
         self.addCleanup(program.kill)
         return program
 

@@ -7,7 +7,7 @@ import os
 import re
 from pathlib import Path
 
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
 from program import Program, environment_for
 from waiting import until
 
@@ -59,7 +59,7 @@ class HostileTextsTest(EndToEndCase):
         environment = environment_for(self.home.path)
         # The leak checker is a tracer itself, and there can be but one.
         environment["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
-        program = Program([*command, str(programs() / "loadwick-endtoend")], environment)
+        program = Program([*command, *window_command()], environment)
         self.addCleanup(program.kill)
         program.window.wait_for(CHOOSE, "push button")
         program.window.resize(1180, self.display_height - 100)

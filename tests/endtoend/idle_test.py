@@ -5,7 +5,7 @@ from __future__ import annotations
 import time
 from pathlib import Path
 
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
 from processes import wakes_of
 from program import Program, environment_for
 from waiting import until
@@ -24,7 +24,7 @@ class WatchedProgram(Program):
         self._log = home / f"{name}.log"
         self._log.touch()
         rules = {"QT_LOGGING_RULES": "qt.scenegraph.time.renderloop=true"}
-        command = [str(programs() / "loadwick-endtoend"), "--beside-others"]
+        command = window_command("--beside-others")
         super().__init__(command, environment_for(home) | rules, self._log)
 
     def frames(self) -> int:

@@ -5,7 +5,7 @@ from __future__ import annotations
 from typing import Any, Optional
 
 from accessible_tree import Atspi
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
 from program import Program, environment_for
 
 NOTHING_CHOSEN = "No repository selected"
@@ -25,9 +25,8 @@ class LanguagesTest(EndToEndCase):
         """Opens the window in that language instead of the one before, over the same data."""
         if self._program:
             self._program.kill()
-        command = [str(programs() / "loadwick-endtoend"), *options]
         environment = environment_for(self.home.path) | {"LC_ALL": f"{language}.UTF-8"}
-        program = Program(command, environment)
+        program = Program(window_command(*options), environment)
         self._program = program
         self.addCleanup(program.kill)
         program.window.wait_for(CHOOSE, "push button")

@@ -5,7 +5,7 @@ from __future__ import annotations
 import subprocess
 import time
 
-from endtoend_case import CHOOSE, EndToEndCase, main, programs
+from endtoend_case import CHOOSE, EndToEndCase, main, window_command
 from program import environment_for
 from throw_away_home import ThrowAwayHome
 from waiting import LIMIT_SECONDS
@@ -17,7 +17,7 @@ class SecondStartTest(EndToEndCase):
     def start_again(self) -> subprocess.CompletedProcess[str]:
         """Starts the program once more on the same home and waits for its end."""
         return subprocess.run(
-            [str(programs() / "loadwick-endtoend")],
+            window_command(),
             env=environment_for(self.home.path),
             timeout=LIMIT_SECONDS,
             check=False,

@@ -6,7 +6,7 @@ import os
 import re
 from pathlib import Path
 
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, programs
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
 from program import Program, environment_for
 from waiting import until
 
@@ -56,7 +56,7 @@ class SecurityTest(EndToEndCase):
         # The leak checker is a tracer itself, and there can be but one.
         sanitizer = os.environ.get("ASAN_OPTIONS", "")
         environment["ASAN_OPTIONS"] = f"{sanitizer}:detect_leaks=0"
-        program = Program([*command, str(programs() / "loadwick-endtoend")], environment)
+        program = Program([*command, *window_command()], environment)
         self.addCleanup(program.kill)
         self.use(program, outcome, words)
         self.assertEqual(program.close(), 0)

@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import subprocess
 
-from endtoend_case import EndToEndCase, main, programs
+from endtoend_case import EndToEndCase, main, window_command
 from program import environment_for
 from waiting import LIMIT_SECONDS
 
@@ -39,7 +39,7 @@ class NoDisplayTest(EndToEndCase):
         environment = environment_for(self.home.path)
         del environment["QT_QPA_PLATFORM"]
         answer = subprocess.run(
-            [str(programs() / "loadwick-endtoend")],
+            window_command(),
             env=environment | {variable: value},
             capture_output=True,
             text=True,

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <QImage>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSize>
+
+namespace Loadwick {
+
+/// A folder that pictures are written into, each named on the standard output. The program ends
+/// when one cannot be written.
+class PictureFolder
+{
+public:
+    /// Makes the folder if need be.
+    explicit PictureFolder(std::filesystem::path path);
+
+    /// Writes "<name>.png".
+    void save(const QImage &picture, const std::string &name) const;
+
+private:
+    std::filesystem::path m_path;
+};
+
+/// Takes pictures of one window, light and dark at several sizes, without motion.
+class Camera
+{
+public:
+    /// The window outlives this object.
+    Camera(QQuickWindow &window, std::filesystem::path folder, std::vector<QSize> sizes);
+
+    /// Writes "<name>-<light|dark>-<width>x<height>.png" for each look, of the window as it is.
+    void take(const std::string &name) const;
+
+    /// The same of a page at rest, and "...-whole.png" of the whole page where it scrolls: of its
+    /// first 16,000 pixels where it is longer.
+    void takePage(const std::string &name) const;
+
+private:
+    template<typename Shoot>
+    void forEachLook(const std::string &name, Shoot shoot) const;
+    [[nodiscard]] QImage wholePage(const QQuickItem &viewport) const;
+
+    QQuickWindow &m_window;
+    PictureFolder m_folder;
+    std::vector<QSize> m_sizes;
+};
+
+} // namespace Loadwick

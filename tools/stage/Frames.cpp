@@ -1,0 +1,79 @@
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+#include "stage/PageCosts.h"
+#include "stage/Subcommand.h"
+#include "stage/WindowControl.h"
+
+namespace Loadwick {
+
+namespace {
+
+struct Options
+{
+    bool isCheck = false;
+    int rounds = 10;
+    std::vector<std::string> names;
+};
+
+Options parsed(std::vector<std::string> words)
+{
+    Options options;
+    options.isCheck = std::erase(words, "--check") > 0;
+    if (words.empty())
+        return options;
+    options.rounds = std::max(1, std::atoi(words.front().c_str()));
+    options.names.assign(words.begin() + 1, words.end());
+    return options;
+}
+
+Scene ofHistory(AppPage page, std::string subject, std::vector<RecordedScan> history)
+{
+    return {.page = page, .subject = std::move(subject), .history = std::move(history)};
+}
+
+/// The Overview of every sample scan and of one with 8,000 categories and 10,000 files; Trends and
+/// Compare of histories named "<repositories>x<categories>".
+std::vector<Scene> allScenes()
+{
+    std::vector<Scene> scenes;
+    for (const SampleScan &scan : SampleScans::all())
+        scenes.push_back(Scene::ofScan(scan));
+    scenes.push_back(Scene::ofScan(SampleScans::ofSize(8'000, 10'000)));
+    scenes.push_back(ofHistory(AppPage::trends, "200x1", SampleHistories::ofSize(200, 1, 9)));
+    scenes.push_back(ofHistory(AppPage::compare, "5x7", SampleHistories::ofSize(31, 5, 7)));
+    scenes.push_back(ofHistory(AppPage::compare, "200x2", SampleHistories::ofSize(200, 200, 2)));
+    scenes.push_back(ofHistory(AppPage::compare, "200x50", SampleHistories::ofSize(200, 200, 50)));
+    return scenes;
+}
+
+int measure(const Options &options)
+{
+    Stage stage;
+    WindowControl::appearanceOf(stage.window()).setMotion(Appearance::Full);
+    bool areLow = true;
+    PageCosts all;
+    for (const Scene &scene : allScenes()) {
+        if (!scene.isNamedBy(options.names))
+            continue;
+        const PageCosts costs = PageCosts::measured(stage, scene, options.rounds);
+        std::puts(scene.name().c_str());
+        costs.print();
+        areLow = costs.areLow() && areLow;
+        all.add(costs);
+    }
+    std::puts("all");
+    all.print();
+    return options.isCheck && !areLow ? 1 : 0;
+}
+
+} // namespace
+
+int frames(const Invocation &invocation)
+{
+    return runOffScreen(invocation, [&] { return measure(parsed(invocation.words)); });
+}
+
+} // namespace Loadwick

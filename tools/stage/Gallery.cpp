@@ -1,0 +1,122 @@
+#include <algorithm>
+#include <memory>
+
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QHoverEvent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+
+#include "charts/MarkedChart.h"
+#include "shell/ApplicationSetup.h"
+#include "stage/Camera.h"
+#include "stage/Subcommand.h"
+#include "theme/Appearance.h"
+#include "theme/ApplicationStyle.h"
+
+namespace Loadwick {
+
+namespace {
+
+constexpr int settlingMilliseconds = 700; // longer than the entrance of a page
+constexpr int greatestHeight = 900;       // of a window; the page is longer than a screen
+
+void letSettle()
+{
+    const QDeadlineTimer end(settlingMilliseconds);
+    while (!end.hasExpired())
+        QGuiApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+}
+
+bool isPointedAt(const QQuickItem *item)
+{
+    while (item != nullptr && item->objectName() != QLatin1String("pointed"))
+        item = item->parentItem();
+    return item != nullptr;
+}
+
+/// Holds the pointer over every chart inside an item named "pointed".
+void pointAtCharts(const QQuickItem &root)
+{
+    for (QQuickItem *item : root.findChildren<QQuickItem *>()) {
+        if (qobject_cast<MarkedChart *>(item) == nullptr || !isPointedAt(item))
+            continue;
+        // On the ring of a donut, and on some tile or near some point of the others.
+        const QPointF position(item->width() * 0.85, item->height() * 0.5);
+        QHoverEvent event(QEvent::HoverMove, position, item->mapToGlobal(position), position);
+        QCoreApplication::sendEvent(item, &event);
+    }
+}
+
+/// The gallery in one scheme. Each has an engine, and so a theme, of its own.
+class GalleryView
+{
+public:
+    explicit GalleryView(Appearance::Scheme scheme)
+    {
+        ApplicationStyle::addModulePath(m_engine);
+        const int type = qmlTypeId("Loadwick", 1, 0, "Appearance");
+        if (auto *appearance = m_engine.singletonInstance<Appearance *>(type))
+            appearance->setScheme(scheme);
+        m_window = std::make_unique<QQuickView>(&m_engine, nullptr);
+        m_window->setResizeMode(QQuickView::SizeRootObjectToView);
+        m_window->setSource(QUrl(QStringLiteral("qrc:/qt/qml/LoadwickGallery/Gallery.qml")));
+        m_window->setTitle(scheme == Appearance::Dark ? QStringLiteral("Gallery, dark")
+                                                      : QStringLiteral("Gallery, light"));
+    }
+
+    [[nodiscard]] QQuickView &window() { return *m_window; }
+
+    void showAt(int x)
+    {
+        m_window->setPosition(x, 40);
+        m_window->resize(m_window->width(), std::min(m_window->height(), greatestHeight));
+        m_window->show();
+    }
+
+    /// What the window shows once nothing arrives any more.
+    [[nodiscard]] QImage picture()
+    {
+        m_window->show();
+        letSettle();
+        pointAtCharts(*m_window->rootObject());
+        letSettle();
+        return m_window->grabWindow();
+    }
+
+private:
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickView> m_window;
+};
+
+int openWindows(const Invocation &invocation)
+{
+    ApplicationSetup::prepare();
+    QGuiApplication application(invocation.argc, invocation.argv);
+    ApplicationSetup::apply(application);
+    GalleryView light(Appearance::Light);
+    GalleryView dark(Appearance::Dark);
+    light.showAt(20);
+    dark.showAt(40 + light.window().width());
+    return QGuiApplication::exec();
+}
+
+int writePictures(const PictureFolder &folder)
+{
+    folder.save(GalleryView(Appearance::Light).picture(), "gallery-light");
+    folder.save(GalleryView(Appearance::Dark).picture(), "gallery-dark");
+    return 0;
+}
+
+} // namespace
+
+int gallery(const Invocation &invocation)
+{
+    if (invocation.words.empty())
+        return openWindows(invocation);
+    return runOffScreen(invocation,
+                        [&] { return writePictures(PictureFolder(invocation.words.front())); });
+}
+
+} // namespace Loadwick

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "history/RecordedScan.h"
+#include "report/ScanReport.h"
+#include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
+#include "samples/TemporaryFolder.h"
+#include "shell/AppPage.h"
+#include "shell/LoadwickWindow.h"
+
+namespace Loadwick {
+
+/// A page and what it shows.
+struct Scene
+{
+    AppPage page;
+    std::string subject;                   ///< a word for what the page shows
+    std::optional<ScanReport> report = {}; ///< none: nothing was scanned
+    std::vector<RecordedScan> history = {};
+
+    [[nodiscard]] static Scene ofScan(const SampleScan &scan);
+
+    /// Begins the pictures' names: "overview-heavy".
+    [[nodiscard]] std::string name() const;
+
+    /// Whether the name begins with one of the words, or there are none.
+    [[nodiscard]] bool isNamedBy(const std::vector<std::string> &words) const;
+};
+
+/// The program's own window, into whose model scenes are put as if they had just been scanned.
+/// Nothing is run or written for it.
+class Stage
+{
+public:
+    Stage();
+
+    [[nodiscard]] QQuickWindow &window() { return m_loadwick.window(); }
+
+    void show(const Scene &scene);
+
+private:
+    TemporaryFolder m_folder; // with a store, even an empty one, the history can be cleared
+    LoadwickWindow m_loadwick;
+};
+
+/// The program's window on a first launch. Returns from its making when the sheet is open.
+class FirstLaunch
+{
+public:
+    /// Begins the names of its pictures.
+    static constexpr const char *name = "onboarding";
+
+    FirstLaunch();
+
+    [[nodiscard]] QQuickWindow &window() { return m_loadwick.window(); }
+    [[nodiscard]] OnboardingPresenter &onboarding() { return m_loadwick.onboarding(); }
+
+private:
+    TemporaryFolder m_folder;
+    LoadwickWindow m_loadwick;
+};
+
+} // namespace Loadwick

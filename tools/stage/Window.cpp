@@ -1,0 +1,94 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "desktop/DesktopNoticeBoard.h"
+#include "history/ScanHistoryStore.h"
+#include "onboarding/PreferencesCompletionStore.h"
+#include "samples/Confinement.h"
+#include "shell/LoadwickApp.h"
+#include "stage/ConfinedWindow.h"
+#include "stage/Subcommand.h"
+
+namespace Loadwick {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Options
+{
+    bool usesPlatformDialog = false;
+    bool opensBesideOthers = false; ///< over the same data
+    double timeoutSeconds = 60.0;
+};
+
+Options parsed(const std::vector<std::string> &words)
+{
+    Options options;
+    for (auto word = words.begin(); word != words.end(); ++word) {
+        if (*word == "--platform-dialog")
+            options.usesPlatformDialog = true;
+        else if (*word == "--beside-others")
+            options.opensBesideOthers = true;
+        else if (*word == "--timeout" && std::next(word) != words.end())
+            options.timeoutSeconds = std::stod(*++word);
+    }
+    return options;
+}
+
+fs::path folderToChoose(const fs::path &home)
+{
+    std::ifstream file(home / "folder-to-choose", std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+ProbeRunner::Settings runnerSettings(const fs::path &home, double timeoutSeconds,
+                                     std::shared_ptr<Shutdown> shutdown)
+{
+    ProbeRunner::Settings settings = Confinement::runnerSettings(home, std::move(shutdown));
+    settings.timeoutSeconds = timeoutSeconds;
+    settings.killGraceSeconds = 0.2;
+    settings.readerGraceSeconds = 0.5;
+    settings.transcriptRetries = 2;
+    settings.transcriptRetryDelay = 0.05;
+    return settings;
+}
+
+LoadwickWindow::Collaborators collaborators(const fs::path &home, const Options &options,
+                                            std::shared_ptr<Shutdown> shutdown)
+{
+    auto made = ConfinedWindow::collaborators(
+        home, runnerSettings(home, options.timeoutSeconds, std::move(shutdown)));
+    made.completionStore = std::make_shared<PreferencesCompletionStore>(
+        PreferencesCompletionStore::defaultFile(currentEnvironment()));
+    if (!options.opensBesideOthers)
+        made.dataFolder = ScanHistoryStore::defaultDirectory(currentEnvironment());
+    made.notices = [](const auto &dispatcher) {
+        return std::make_unique<DesktopNoticeBoard>(dispatcher);
+    };
+    if (!options.usesPlatformDialog)
+        made.folderChooser = ConfinedWindow::givenFolder([home] { return folderToChoose(home); });
+    return made;
+}
+
+} // namespace
+
+int window(const Invocation &invocation)
+{
+    const char *home = std::getenv("HOME");
+    if (home == nullptr || !fs::exists(fs::path(home) / "throw-away"))
+        return wrongCall("HOME is no throw-away home");
+    const fs::path folder = home;
+    Confinement::pinEnvironment(folder);
+    const Options options = parsed(invocation.words);
+    LoadwickApp::run(invocation.argc, invocation.argv, [&](std::shared_ptr<Shutdown> shutdown) {
+        return collaborators(folder, options, std::move(shutdown));
+    });
+}
+
+} // namespace Loadwick

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+#include "compare/LeaderboardRows.h"
+#include "overview/BandPresenter.h"
+#include "overview/InstructionFilesPresenter.h"
+#include "trends/TrendChartPresenter.h"
+
+namespace Loadwick {
+
+/// What the gallery's charts and lists show: sample scans and histories.
+class GallerySamples : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(Loadwick::BandPresenter *zero READ zero CONSTANT)
+    Q_PROPERTY(Loadwick::BandPresenter *lean READ lean CONSTANT)
+    Q_PROPERTY(Loadwick::BandPresenter *heavy READ heavy CONSTANT)
+    Q_PROPERTY(Loadwick::BandPresenter *excessive READ excessive CONSTANT)
+    Q_PROPERTY(Loadwick::InstructionFilesPresenter *files READ files CONSTANT)
+    Q_PROPERTY(Loadwick::InstructionFilesPresenter *noFiles READ noFiles CONSTANT)
+    Q_PROPERTY(Loadwick::TrendChartPresenter *manyScans READ manyScans CONSTANT)
+    Q_PROPERTY(Loadwick::TrendChartPresenter *twoScans READ twoScans CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *leaderboard READ leaderboard CONSTANT)
+
+public:
+    explicit GallerySamples(QObject *parent = nullptr);
+
+    [[nodiscard]] BandPresenter *zero() { return &m_zero; }
+    [[nodiscard]] BandPresenter *lean() { return &m_lean; }
+    [[nodiscard]] BandPresenter *heavy() { return &m_heavy; }
+    [[nodiscard]] BandPresenter *excessive() { return &m_excessive; }
+    [[nodiscard]] InstructionFilesPresenter *files() { return &m_files; }
+    [[nodiscard]] InstructionFilesPresenter *noFiles() { return &m_noFiles; }
+    [[nodiscard]] TrendChartPresenter *manyScans() { return &m_manyScans; }
+    [[nodiscard]] TrendChartPresenter *twoScans() { return &m_twoScans; }
+    [[nodiscard]] QAbstractItemModel *leaderboard() { return &m_leaderboard; }
+
+private:
+    BandPresenter m_zero;
+    BandPresenter m_lean;
+    BandPresenter m_heavy;
+    BandPresenter m_excessive;
+    InstructionFilesPresenter m_files;
+    InstructionFilesPresenter m_noFiles;
+    TrendChartPresenter m_manyScans;
+    TrendChartPresenter m_twoScans;
+    LeaderboardRows m_leaderboard;
+};
+
+} // namespace Loadwick
