@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
-namespace Loadwick::BandMeterGeometry {
+namespace Loadwick {
+namespace BandMeterGeometry {
 namespace {
 
 using Order = std::array<std::size_t, 3>;
@@ -28,7 +29,7 @@ Order labelOrder(const Meter &meter, const std::array<Extent, 3> &segments)
     return order;
 }
 
-/// What the labels already placed leave free around the label of `segment`.
+/// The room that the labels laid out so far leave for the label of `segment`.
 Extent freeExtent(const std::array<Label, 3> &labels, std::size_t segment, double width)
 {
     double left = 0;
@@ -44,7 +45,7 @@ Extent freeExtent(const std::array<Label, 3> &labels, std::size_t segment, doubl
     return {.left = left, .width = right - left};
 }
 
-Label placed(double width, const Extent &segment, const Extent &room)
+Label fitted(double width, const Extent &segment, const Extent &room)
 {
     if (width > room.width)
         return {};
@@ -76,13 +77,65 @@ double markerLeft(double width, double position) noexcept
 
 std::array<Label, 3> labels(const Meter &meter, const std::array<double, 3> &widths) noexcept
 {
-    const std::array<Extent, 3> places = segments(meter);
+    const std::array<Extent, 3> extents = segments(meter);
     std::array<Label, 3> labels = {};
-    for (const std::size_t segment : labelOrder(meter, places)) {
+    for (const std::size_t segment : labelOrder(meter, extents)) {
         const Extent room = freeExtent(labels, segment, meter.width);
-        labels[segment] = placed(widths[segment], places[segment], room);
+        labels[segment] = fitted(widths[segment], extents[segment], room);
     }
     return labels;
 }
 
-} // namespace Loadwick::BandMeterGeometry
+} // namespace BandMeterGeometry
+
+namespace {
+
+template<std::size_t size>
+std::array<double, size> filled(const QList<qreal> &values)
+{
+    std::array<double, size> array = {};
+    const auto count = std::min(values.size(), static_cast<qsizetype>(size));
+    std::copy_n(values.begin(), count, array.begin());
+    return array;
+}
+
+} // namespace
+
+qreal BandMeterLayout::markerLeft(qreal width, qreal position) noexcept
+{
+    return BandMeterGeometry::markerLeft(width, position);
+}
+
+QList<qreal> BandMeterLayout::ticks() const
+{
+    const auto ticks = BandMeterGeometry::ticks(meter());
+    return {ticks.begin(), ticks.end()};
+}
+
+QList<qreal> BandMeterLayout::labelLefts() const
+{
+    QList<qreal> lefts;
+    for (const auto &label : labels())
+        lefts.append(label.extent.left);
+    return lefts;
+}
+
+QList<bool> BandMeterLayout::labelsShown() const
+{
+    QList<bool> shown;
+    for (const auto &label : labels())
+        shown.append(label.isShown);
+    return shown;
+}
+
+BandMeterGeometry::Meter BandMeterLayout::meter() const
+{
+    return {.width = m_width, .thresholds = filled<2>(m_thresholds), .position = m_position};
+}
+
+std::array<BandMeterGeometry::Label, 3> BandMeterLayout::labels() const
+{
+    return BandMeterGeometry::labels(meter(), filled<3>(m_labelWidths));
+}
+
+} // namespace Loadwick

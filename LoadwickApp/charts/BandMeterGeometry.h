@@ -2,9 +2,15 @@
 
 #include <array>
 
-/// Where the parts of the band meter lie. Places and widths are in pixels from the meter's left
+#include <QList>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace Loadwick {
+
+/// The layout of the band meter's parts. Offsets and widths are in pixels from the meter's left
 /// end, positions are fractions of its width.
-namespace Loadwick::BandMeterGeometry {
+namespace BandMeterGeometry {
 
 inline constexpr double markerSide = 12;
 inline constexpr double labelGap = 8; ///< the least room between two labels
@@ -29,7 +35,7 @@ struct Extent
     friend bool operator==(const Extent &, const Extent &) = default;
 };
 
-/// A label under its segment. One that is not shown has no place.
+/// A label under its segment; the extent means nothing while it is hidden.
 struct Label
 {
     Extent extent;
@@ -42,15 +48,58 @@ struct Label
 /// Where the segments meet.
 [[nodiscard]] std::array<double, 2> ticks(const Meter &meter) noexcept;
 
-/// The left edge of the marker of a position, which keeps the marker on the meter. On a meter
+/// The left edge of the marker at a position, which keeps the marker on the meter. On a meter
 /// narrower than the marker it is 0.
 [[nodiscard]] double markerLeft(double width, double position) noexcept;
 
-/// Places labels of these widths under the middles of their segments. A label gives way at the
-/// meter's ends and beside a label that came before it; one that would then no longer stand under
-/// the middle of its own segment is not shown. The band of the total comes first, then the others
-/// by the room that their segments have. Shown labels keep `labelGap` apart and lie on the meter.
+/// Centres labels of these widths under their segments. A label moves aside at the meter's ends and
+/// beside a label laid out before it, and is hidden if it would then miss the middle of its own
+/// segment. The band of the total comes first, then the others by the width of their segments.
+/// Shown labels keep `labelGap` apart and lie on the meter.
 [[nodiscard]] std::array<Label, 3> labels(const Meter &meter,
                                           const std::array<double, 3> &widths) noexcept;
 
-} // namespace Loadwick::BandMeterGeometry
+} // namespace BandMeterGeometry
+
+/// The geometry of a band meter as QML binds to it. All lists go from the lean to the excessive
+/// end; missing entries count as zero.
+class BandMeterLayout : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    /// Pixels.
+    Q_PROPERTY(qreal width MEMBER m_width NOTIFY changed)
+    /// The two thresholds and the total, as fractions of the width.
+    Q_PROPERTY(QList<qreal> thresholds MEMBER m_thresholds NOTIFY changed)
+    Q_PROPERTY(qreal position MEMBER m_position NOTIFY changed)
+    Q_PROPERTY(QList<qreal> labelWidths MEMBER m_labelWidths NOTIFY changed)
+
+    Q_PROPERTY(qreal markerSide READ markerSide CONSTANT)
+    Q_PROPERTY(QList<qreal> ticks READ ticks NOTIFY changed)
+    Q_PROPERTY(QList<qreal> labelLefts READ labelLefts NOTIFY changed)
+    Q_PROPERTY(QList<bool> labelsShown READ labelsShown NOTIFY changed)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] static qreal markerSide() noexcept { return BandMeterGeometry::markerSide; }
+    /// Not a property: the marker moves every frame, and the labels must not follow it.
+    Q_INVOKABLE [[nodiscard]] static qreal markerLeft(qreal width, qreal position) noexcept;
+    [[nodiscard]] QList<qreal> ticks() const;
+    [[nodiscard]] QList<qreal> labelLefts() const;
+    [[nodiscard]] QList<bool> labelsShown() const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    [[nodiscard]] BandMeterGeometry::Meter meter() const;
+    [[nodiscard]] std::array<BandMeterGeometry::Label, 3> labels() const;
+
+    qreal m_width = 0;
+    QList<qreal> m_thresholds;
+    qreal m_position = 0;
+    QList<qreal> m_labelWidths;
+};
+
+} // namespace Loadwick

@@ -1,5 +1,7 @@
 #include "charts/DateStep.h"
 
+#include <array>
+#include <cstddef>
 #include <memory>
 
 #include <unicode/gregocal.h>
@@ -16,26 +18,26 @@ using Unit = DateStep::Unit;
 
 constexpr int daysOfWeek = 7;
 
-seconds lengthOf(Unit unit) noexcept
+/// What one of a unit is to the wall clock.
+struct ClockUnit
+{
+    seconds length;    ///< approximate
+    std::size_t field; ///< the index of what it counts among year, month, day, hour, minute, second
+    int count;         ///< how many of that field
+};
+
+ClockUnit clockUnit(Unit unit)
 {
     using namespace std::chrono;
-    switch (unit) {
-    case Unit::second:
-        return seconds(1);
-    case Unit::minute:
-        return minutes(1);
-    case Unit::hour:
-        return hours(1);
-    case Unit::day:
-        return days(1);
-    case Unit::week:
-        return weeks(1);
-    case Unit::month:
-        return duration_cast<seconds>(months(1));
-    case Unit::year:
-        break;
-    }
-    return duration_cast<seconds>(years(1));
+    static constexpr std::array units = {
+        ClockUnit{.length = seconds(1), .field = 5, .count = 1},
+        ClockUnit{.length = minutes(1), .field = 4, .count = 1},
+        ClockUnit{.length = hours(1), .field = 3, .count = 1},
+        ClockUnit{.length = days(1), .field = 2, .count = 1},
+        ClockUnit{.length = weeks(1), .field = 2, .count = daysOfWeek},
+        ClockUnit{.length = duration_cast<seconds>(months(1)), .field = 1, .count = 1},
+        ClockUnit{.length = duration_cast<seconds>(years(1)), .field = 0, .count = 1}};
+    return units.at(static_cast<std::size_t>(unit));
 }
 
 /// Reads and makes moments by the wall clock.
@@ -114,34 +116,6 @@ std::vector<int> roundedDown(const WallClock &clock, const DateStep &step)
             rounded(UCAL_SECOND, Unit::second)};
 }
 
-/// Goes on by one step in the field of its unit.
-void advance(std::vector<int> &fields, const DateStep &step)
-{
-    switch (step.unit) {
-    case Unit::year:
-        fields[0] += step.count;
-        break;
-    case Unit::month:
-        fields[1] += step.count;
-        break;
-    case Unit::week:
-        fields[2] += step.count * daysOfWeek;
-        break;
-    case Unit::day:
-        fields[2] += step.count;
-        break;
-    case Unit::hour:
-        fields[3] += step.count;
-        break;
-    case Unit::minute:
-        fields[4] += step.count;
-        break;
-    case Unit::second:
-        fields[5] += step.count;
-        break;
-    }
-}
-
 } // namespace
 
 const std::vector<DateStep> &DateStep::all()
@@ -161,7 +135,7 @@ const std::vector<DateStep> &DateStep::all()
 
 seconds DateStep::length() const noexcept
 {
-    return lengthOf(unit) * count;
+    return clockUnit(unit).length * count;
 }
 
 std::vector<sys_seconds> DateStep::moments(sys_seconds first, sys_seconds last) const
@@ -171,12 +145,13 @@ std::vector<sys_seconds> DateStep::moments(sys_seconds first, sys_seconds last) 
     if (clock.moment(roundedDown(clock, {.unit = Unit::second, .count = 1})) < first)
         clock.preferLaterPass();
     clock.set(first);
+    const ClockUnit step = clockUnit(unit);
     std::vector<int> fields = roundedDown(clock, *this);
     std::vector<sys_seconds> found;
     for (sys_seconds moment = clock.moment(fields); moment <= last; moment = clock.moment(fields)) {
         if (moment >= first && (found.empty() || moment > found.back()))
             found.push_back(moment);
-        advance(fields, *this);
+        fields[step.field] += count * step.count;
     }
     return found;
 }

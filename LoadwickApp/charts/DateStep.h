@@ -29,15 +29,15 @@ struct DateStep
     /// From a second to a thousand years, the shortest first.
     [[nodiscard]] static const std::vector<DateStep> &all();
 
-    /// About how long it is.
+    /// Its approximate length.
     [[nodiscard]] std::chrono::seconds length() const noexcept;
 
     /// The round moments from `first` to `last`, both included, ascending. A wall-clock time that a
-    /// day has twice is given once, one that it lacks is given as the moment that follows.
+    /// day has twice appears once; one that it lacks appears as the moment that follows.
     [[nodiscard]] std::vector<std::chrono::sys_seconds>
     moments(std::chrono::sys_seconds first, std::chrono::sys_seconds last) const;
 
-    /// A round moment in as few words as the step allows; `withDay` adds the day to a time.
+    /// A round moment in as few words as the step allows; `withDay` adds the day to a time of day.
     [[nodiscard]] std::string label(std::chrono::sys_seconds moment, bool withDay,
                                     const TextLocale &locale) const;
 

@@ -1,33 +1,104 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <vector>
+
 #include <QColor>
 #include <QList>
 
-#include "charts/DonutGeometry.h"
 #include "charts/MarkedChart.h"
 
 namespace Loadwick {
 
+/// A ring divided among rows by their tokens, in row order, clockwise from the top. Angles are in
+/// radians. A row without tokens has no slice.
+class DonutGeometry
+{
+public:
+    struct Slice
+    {
+        std::size_t row;   ///< whose slice it is
+        double start;      ///< angle
+        double sweep;      ///< angle, before the inset
+        double upperBound; ///< tokens of this and every earlier slice
+    };
+
+    /// The outline of one slice: an outer arc clockwise and an inner arc back.
+    struct Sector
+    {
+        double outerStart;
+        double outerSweep;
+        double innerStart;
+        double innerSweep;
+    };
+
+    /// One thing to paint: a slice, or several that are too narrow to tell apart.
+    struct Mark
+    {
+        std::size_t slice; ///< whose colour it has
+        Sector sector;
+        double opacity;
+    };
+
+    static constexpr double innerRadius = 0.62; ///< of the outer radius
+    static constexpr double angularInset = 1.5; ///< points, at either edge of a slice
+    static constexpr double dimmedOpacity = 0.35;
+    static constexpr double leastWidth =
+        0.5; ///< points at the outer radius that the eye can tell apart
+
+    DonutGeometry() = default;
+    /// Tokens per row; a negative count is none.
+    explicit DonutGeometry(std::span<const double> tokens);
+
+    [[nodiscard]] const std::vector<Slice> &slices() const noexcept { return m_slices; }
+
+    /// The first slice whose upper bound is at least that many tokens, counted from the top; the
+    /// last one beyond the end.
+    [[nodiscard]] std::optional<std::size_t> sliceAtTokens(double tokens) const noexcept;
+
+    /// The slice at a point relative to the centre (y downwards), in a ring of that outer radius.
+    /// Nothing in the hole and outside.
+    [[nodiscard]] std::optional<std::size_t> sliceAt(double x, double y,
+                                                     double radius) const noexcept;
+
+    /// The painted part of a slice in a ring of that outer radius in points: its straight edges run
+    /// parallel to its bounds, an inset away, so that the gaps are evenly wide. They take at most
+    /// half the width of a narrow slice, and nothing of a slice that is the whole ring.
+    [[nodiscard]] Sector sector(std::size_t slice, double radius) const;
+
+    /// The painted parts of a ring of that outer radius in points, clockwise. Neighbours too narrow
+    /// to tell apart share one mark, so that thousands cost no more than the eye can see; the
+    /// selected slice always has a mark of its own.
+    [[nodiscard]] std::vector<Mark> marks(double radius, std::optional<std::size_t> selected) const;
+
+    /// 1 for the selected slice and, with nothing selected, for all.
+    [[nodiscard]] static double opacity(std::size_t slice,
+                                        std::optional<std::size_t> selected) noexcept;
+
+private:
+    [[nodiscard]] Sector sectorOf(double start, double sweep, double radius) const;
+
+    std::vector<Slice> m_slices;
+};
+
 /// A ring of slices, one for each row that has tokens, as large as the item. Its marks are the
-/// slices; only the ring itself is pointed at.
+/// slices; the hole reacts to nothing.
 class DonutChart : public Loadwick::MarkedChart
 {
     Q_OBJECT
     QML_ELEMENT
     /// Tokens per row.
-    Q_PROPERTY(QList<qreal> tokens READ tokens WRITE setTokens NOTIFY tokensChanged)
-    /// Taken by the rows in turn.
-    Q_PROPERTY(QList<QColor> colors READ colors WRITE setColors NOTIFY colorsChanged)
+    Q_PROPERTY(QList<qreal> tokens MEMBER m_tokens NOTIFY tokensChanged)
+    /// The rows take them in turn.
+    Q_PROPERTY(QList<QColor> colors MEMBER m_colors NOTIFY colorsChanged)
     /// The row of the current mark, -1 while there is none.
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentMarkChanged)
 
 public:
-    using MarkedChart::MarkedChart;
+    explicit DonutChart(QQuickItem *parent = nullptr);
 
-    [[nodiscard]] const QList<qreal> &tokens() const noexcept { return m_tokens; }
-    void setTokens(const QList<qreal> &tokens);
-    [[nodiscard]] const QList<QColor> &colors() const noexcept { return m_colors; }
-    void setColors(const QList<QColor> &colors);
     [[nodiscard]] int currentRow() const;
 
     void paint(QPainter *painter) override;
@@ -41,6 +112,7 @@ protected:
     [[nodiscard]] int markAt(const QPointF &point) const override;
 
 private:
+    void divide();
     [[nodiscard]] qreal radius() const;
     [[nodiscard]] QColor colorOf(std::size_t slice) const;
 

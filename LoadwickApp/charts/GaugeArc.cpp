@@ -1,11 +1,8 @@
 #include "charts/GaugeArc.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include <QPainter>
-
-#include "charts/GaugeGeometry.h"
 
 namespace Loadwick {
 namespace {
@@ -21,48 +18,13 @@ int sixteenths(double degrees)
 GaugeArc::GaugeArc(QQuickItem *parent) : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
-    connect(this, &GaugeArc::valueChanged, this, [this] { update(); });
-    connect(this, &GaugeArc::thicknessChanged, this, [this] { update(); });
-    connect(this, &GaugeArc::tintChanged, this, [this] { update(); });
-    connect(this, &GaugeArc::trackChanged, this, [this] { update(); });
-}
-
-void GaugeArc::setValue(qreal value)
-{
-    if (m_value == value)
-        return;
-    m_value = value;
-    Q_EMIT valueChanged();
-}
-
-void GaugeArc::setThickness(qreal thickness)
-{
-    if (m_thickness == thickness)
-        return;
-    m_thickness = thickness;
-    Q_EMIT thicknessChanged();
-}
-
-void GaugeArc::setTint(const QColor &tint)
-{
-    if (m_tint == tint)
-        return;
-    m_tint = tint;
-    Q_EMIT tintChanged();
-}
-
-void GaugeArc::setTrack(const QColor &track)
-{
-    if (m_track == track)
-        return;
-    m_track = track;
-    Q_EMIT trackChanged();
+    connect(this, &GaugeArc::looksChanged, this, [this] { update(); });
 }
 
 void GaugeArc::paint(QPainter *painter)
 {
     drawArc(*painter, m_track, GaugeGeometry::fullSpan);
-    // The round ends of an arc without length would show a dot where there is nothing.
+    // An arc without length would still show its round ends, as a dot.
     if (m_value > 0)
         drawArc(*painter, m_tint, GaugeGeometry::span(m_value));
 }

@@ -1,43 +1,48 @@
 #pragma once
 
+#include <algorithm>
+
 #include <QColor>
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
 namespace Loadwick {
 
-/// The ring of a gauge that fills clockwise from its lower left to its lower right end. It is as
-/// large as the item lets it be, and has no words of its own.
+/// A gauge from 0 to 100 on three quarters of a circle, open at the bottom. Angles are degrees,
+/// counted anticlockwise from three o'clock; a negative span goes clockwise.
+namespace GaugeGeometry {
+
+inline constexpr double startAngle = 225;
+inline constexpr double fullSpan = -270;
+
+/// How far the gauge is filled. A value beyond its ends counts as the end.
+[[nodiscard]] constexpr double span(double value) noexcept
+{
+    return fullSpan * std::clamp(value, 0.0, 100.0) / 100;
+}
+
+} // namespace GaugeGeometry
+
+/// The ring of a gauge that fills clockwise from its lower left to its lower right end. It fills
+/// the item and has no text.
 class GaugeArc : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// 0 to 100; what lies beyond is painted as the end.
-    Q_PROPERTY(qreal value READ value WRITE setValue NOTIFY valueChanged)
-    Q_PROPERTY(qreal thickness READ thickness WRITE setThickness NOTIFY thicknessChanged)
-    Q_PROPERTY(QColor tint READ tint WRITE setTint NOTIFY tintChanged)
-    /// Of the part that is not filled.
-    Q_PROPERTY(QColor track READ track WRITE setTrack NOTIFY trackChanged)
+    /// 0 to 100; a value beyond is painted as the end.
+    Q_PROPERTY(qreal value MEMBER m_value NOTIFY looksChanged)
+    Q_PROPERTY(qreal thickness MEMBER m_thickness NOTIFY looksChanged)
+    Q_PROPERTY(QColor tint MEMBER m_tint NOTIFY looksChanged)
+    /// The colour of the part that is not filled.
+    Q_PROPERTY(QColor track MEMBER m_track NOTIFY looksChanged)
 
 public:
     explicit GaugeArc(QQuickItem *parent = nullptr);
 
-    [[nodiscard]] qreal value() const { return m_value; }
-    void setValue(qreal value);
-    [[nodiscard]] qreal thickness() const { return m_thickness; }
-    void setThickness(qreal thickness);
-    [[nodiscard]] QColor tint() const { return m_tint; }
-    void setTint(const QColor &tint);
-    [[nodiscard]] QColor track() const { return m_track; }
-    void setTrack(const QColor &track);
-
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
-    void valueChanged();
-    void thicknessChanged();
-    void tintChanged();
-    void trackChanged();
+    void looksChanged();
 
 private:
     void drawArc(QPainter &painter, const QColor &color, double span) const;

@@ -7,15 +7,15 @@ namespace Loadwick {
 
 /// A painted chart made of marks (slices, tiles, points), of which one may be current: the one
 /// under the pointer or the one that the arrow keys chose while the chart has the focus, whichever
-/// came last. Whatever is shown of a mark under the pointer is thereby shown for the keyboard too.
+/// came last. So the keyboard reaches whatever the pointer reaches.
 ///
-/// Arrow keys go to the next or the previous mark and stop at the ends, Home and End go there, and
-/// Escape lets go. The first key chooses the first mark, or the last one when it goes backwards.
+/// Arrow keys go to the next or previous mark and stop at the ends, Home and End jump there, and
+/// Escape lets go. The first key chooses the first mark, or the last if it points backwards.
 class MarkedChart : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ANONYMOUS
-    /// The place of the current mark, -1 while there is none.
+    /// The index of the current mark, -1 while there is none.
     Q_PROPERTY(int currentMark READ currentMark NOTIFY currentMarkChanged)
 
 public:
@@ -31,7 +31,7 @@ protected:
     /// The mark at a point of the item, -1 where there is none.
     [[nodiscard]] virtual int markAt(const QPointF &point) const = 0;
 
-    /// To be called when the marks are others than before: no mark is current then.
+    /// Call when the marks have changed; no mark is current then.
     void forgetMarks();
 
     void hoverEnterEvent(QHoverEvent *event) override;

@@ -1,13 +1,38 @@
 #include "charts/TreemapChart.h"
 
 #include <algorithm>
-#include <vector>
+#include <cmath>
 
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "report/TreemapLayout.h"
+
 namespace Loadwick {
 namespace {
+
+constexpr double gap = 1.0;
+/// A tile thinner than this would lose too much of itself to the gap.
+constexpr double leastWithGap = 3.0;
+
+/// A tile along one axis.
+struct Stretch
+{
+    double start;
+    double length;
+};
+
+Stretch snapped(Stretch exact, double frame, double pixelsPerPoint)
+{
+    const auto onGrid = [pixelsPerPoint](double value) {
+        return std::round(value * pixelsPerPoint) / pixelsPerPoint;
+    };
+    const double start = onGrid(exact.start);
+    const double end = onGrid(exact.start + exact.length);
+    const bool isLast = end >= onGrid(frame);
+    const double length = end - start;
+    return {.start = start, .length = isLast || length < leastWithGap ? length : length - gap};
+}
 
 /// Smaller tiles have square corners: round ones would leave nothing of them.
 constexpr qreal leastRounded = 8.0;
@@ -20,13 +45,56 @@ QRectF rectOf(const TreemapTiles::Box &box)
     return {box.left, box.top, box.width, box.height};
 }
 
-/// The number by which the model knows a name of a role, -1 for none.
+/// -1 for a name that the model does not have.
 int roleOf(const QAbstractItemModel &model, const QByteArray &name)
 {
     return model.roleNames().key(name, -1);
 }
 
 } // namespace
+
+TreemapTiles::TreemapTiles(std::span<const double> weights)
+    : m_shares(TreemapLayout::layout(weights))
+{}
+
+void TreemapTiles::setFrame(double width, double height) noexcept
+{
+    m_width = std::max(width, 0.0);
+    m_height = std::max(height, 0.0);
+}
+
+TreemapRect TreemapTiles::tile(std::size_t index) const
+{
+    const TreemapRect &share = m_shares.at(index);
+    return {.x = share.x * m_width,
+            .y = share.y * m_height,
+            .width = share.width * m_width,
+            .height = share.height * m_height};
+}
+
+bool TreemapTiles::showsName(std::size_t index) const
+{
+    const TreemapRect rect = tile(index);
+    return rect.width >= leastNameWidth && rect.height >= leastNameHeight;
+}
+
+int TreemapTiles::tileAt(double x, double y) const
+{
+    const auto holds = [unitX = x / m_width, unitY = y / m_height](const TreemapRect &share) {
+        return unitX >= share.x && unitX < share.x + share.width && unitY >= share.y &&
+               unitY < share.y + share.height;
+    };
+    const auto found = std::find_if(m_shares.begin(), m_shares.end(), holds);
+    return found == m_shares.end() ? -1 : static_cast<int>(found - m_shares.begin());
+}
+
+TreemapTiles::Box TreemapTiles::box(std::size_t index, double pixelsPerPoint) const
+{
+    const TreemapRect rect = tile(index);
+    const Stretch across = snapped({rect.x, rect.width}, m_width, pixelsPerPoint);
+    const Stretch down = snapped({rect.y, rect.height}, m_height, pixelsPerPoint);
+    return {.left = across.start, .top = down.start, .width = across.length, .height = down.length};
+}
 
 TreemapChart::TreemapChart(QQuickItem *parent) : MarkedChart(parent)
 {
@@ -132,8 +200,8 @@ QImage TreemapChart::paintedTiles(qreal pixelsPerPoint) const
     return image;
 }
 
-// The line lies inside of the tile, so that the gap stays and no neighbour is touched. A tile that
-// is all line is all colour.
+// The line lies inside the tile, so that it touches no gap and no neighbour. A tile too small for
+// a fill is all line.
 void TreemapChart::paintTile(QPainter &painter, std::size_t tile, const Ink &ink) const
 {
     const QRectF rect = rectOf(m_tiles.box(tile, painter.deviceTransform().m11()));

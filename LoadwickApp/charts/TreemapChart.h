@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
+#include <vector>
+
 #include <QAbstractItemModel>
 #include <QColor>
 #include <QFont>
@@ -8,17 +12,59 @@
 #include <QPointer>
 
 #include "charts/MarkedChart.h"
-#include "charts/TreemapTiles.h"
+#include "report/TreemapRect.h"
 
 namespace Loadwick {
 
+/// The tiles of a treemap in a frame of any size, one for each weight. All lengths are points.
+class TreemapTiles
+{
+public:
+    /// The least size of a tile that shows its name.
+    static constexpr double leastNameWidth = 84.0;
+    static constexpr double leastNameHeight = 28.0;
+
+    /// A tile as painted: its edges on whole pixels.
+    struct Box
+    {
+        double left;
+        double top;
+        double width;
+        double height;
+
+        friend bool operator==(const Box &, const Box &) = default;
+    };
+
+    TreemapTiles() = default;
+    explicit TreemapTiles(std::span<const double> weights);
+
+    /// The frame from (0, 0) on; without one all tiles are empty.
+    void setFrame(double width, double height) noexcept;
+
+    [[nodiscard]] std::size_t count() const noexcept { return m_shares.size(); }
+    [[nodiscard]] TreemapRect tile(std::size_t index) const;
+    [[nodiscard]] bool showsName(std::size_t index) const;
+
+    /// The index of the tile at a point, -1 where there is none; no gaps between tiles here.
+    [[nodiscard]] int tileAt(double x, double y) const;
+
+    /// The tile on a grid of `pixelsPerPoint`, one point short at the right and the bottom where
+    /// another tile follows; one too thin to spare it keeps it.
+    [[nodiscard]] Box box(std::size_t index, double pixelsPerPoint) const;
+
+private:
+    std::vector<TreemapRect> m_shares; ///< of the unit square
+    double m_width = 0.0;
+    double m_height = 0.0;
+};
+
 /// One tile per row of a model, as large as the row's "weight" (a double). The tiles take the
 /// colours by position, wrapping around; one that is large enough shows its row's "name", which is
-/// asked for only then. Each tile is thinned inside an outline of its full colour, which tells it
-/// from the ground. The current tile stands out and the others step back.
+/// read only then. Each tile is a tint inside an outline of its full colour, which sets it off from
+/// the ground. The current tile stands out and the others step back.
 ///
-/// All tiles are one painting, made once per size, so that ten thousand cost no more than one to
-/// move over.
+/// All tiles are one image, painted once per size, so that moving over ten thousand costs no more
+/// than over one.
 class TreemapChart : public Loadwick::MarkedChart
 {
     Q_OBJECT
@@ -28,17 +74,17 @@ class TreemapChart : public Loadwick::MarkedChart
     Q_PROPERTY(QColor textColor MEMBER m_textColor NOTIFY looksChanged)
     Q_PROPERTY(QFont font MEMBER m_font NOTIFY looksChanged)
     Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY looksChanged)
-    /// Of a tile's fill, while none is current and while it is; its outline is opaque.
+    /// Opacity of a tile's fill, while no tile is current and while it is; its outline is opaque.
     Q_PROPERTY(qreal restOpacity MEMBER m_restOpacity NOTIFY looksChanged)
     Q_PROPERTY(qreal currentOpacity MEMBER m_currentOpacity NOTIFY looksChanged)
-    /// What is left of the other tiles, outline and fill, while one is current.
+    /// Opacity of the other tiles, outline and fill, while one is current.
     Q_PROPERTY(qreal dimming MEMBER m_dimming NOTIFY looksChanged)
 
 public:
     explicit TreemapChart(QQuickItem *parent = nullptr);
 
     [[nodiscard]] QAbstractItemModel *model() const { return m_model; }
-    /// The model belongs to somebody else and may go first.
+    /// Not owned; the model may be destroyed first.
     void setModel(QAbstractItemModel *model);
 
     void paint(QPainter *painter) override;
@@ -76,7 +122,7 @@ private:
     qreal m_currentOpacity = 0.7;
     qreal m_dimming = 0.5;
     TreemapTiles m_tiles;
-    QImage m_painted; ///< all tiles at rest, in pixels; null until they are painted
+    QImage m_painted; ///< all tiles at rest; null until painted
 };
 
 } // namespace Loadwick

@@ -18,8 +18,8 @@ void TrendChart::setLine(TrendLine *line)
         m_line->disconnect(this);
     m_line = line;
     if (m_line != nullptr)
-        connect(m_line, &TrendLine::changed, this, &TrendChart::showOtherScans);
-    showOtherScans();
+        connect(m_line, &TrendLine::changed, this, &TrendChart::replaceScans);
+    replaceScans();
     Q_EMIT lineChanged();
 }
 
@@ -38,8 +38,8 @@ void TrendChart::paint(QPainter *painter)
                         scansFor(*painter));
 }
 
-// The pointer singles out another scan with each step; all of them are painted but once. Where a
-// drawing is wanted and no pixels, none are kept.
+// The pointer singles out another scan with each step, so the scans are painted once and kept.
+// A vector target, such as a PDF, needs them drawn.
 const QImage &TrendChart::scansFor(const QPainter &painter)
 {
     static const QImage none;
@@ -80,7 +80,7 @@ void TrendChart::redraw()
     update();
 }
 
-void TrendChart::showOtherScans()
+void TrendChart::replaceScans()
 {
     forgetMarks();
     redraw();

@@ -54,13 +54,13 @@ protected:
 
 private:
     void redraw();
-    void showOtherScans();
+    void replaceScans();
     [[nodiscard]] TrendStyle style() const;
     [[nodiscard]] const TrendPicture &picture() const;
     [[nodiscard]] const QImage &scansFor(const QPainter &painter);
 
     TrendLine *m_line = nullptr;
-    mutable std::optional<TrendPicture> m_picture; ///< made when it is first needed
+    mutable std::optional<TrendPicture> m_picture; ///< made on first use
     QImage m_scans; ///< the picture's, in pixels; null until they are painted
     QFont m_font;
     QColor m_lineColor;

@@ -5,7 +5,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr double gap = 8;           // between the plot and what names its axes
+constexpr double gap = 8;           // between the plot and its labels
 constexpr double readoutMargin = 2; // above and below the words
 constexpr double readoutPadding = 8;
 
@@ -15,7 +15,7 @@ TrendLayout::TrendLayout(const Needs &needs) noexcept : m_needs(needs)
 {
     const double left = needs.widestTotal + gap;
     const double right = needs.width - needs.widestName - gap;
-    const double top = needs.lineHeight / 2; // the highest label stands half above its line
+    const double top = needs.lineHeight / 2; // half of the highest label is above its line
     const double bottom = needs.height - needs.lineHeight - gap;
     m_frame = {.x = left,
                .y = top,
@@ -44,7 +44,8 @@ LinePoint TrendLayout::pointAt(double x, double y) const noexcept
             .y = m_plot.height > 0 ? (m_plot.bottom() - y) / m_plot.height : 0};
 }
 
-TrendLayout::NamePlaces TrendLayout::namePlaces(double lowerShare, double upperShare) const noexcept
+TrendLayout::NameHeights TrendLayout::nameHeights(double lowerShare,
+                                                  double upperShare) const noexcept
 {
     const double half = m_needs.lineHeight / 2;
     const double lowest = m_frame.bottom() - half;

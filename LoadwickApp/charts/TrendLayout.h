@@ -1,13 +1,30 @@
 #pragma once
 
-#include "charts/LinePoint.h"
-#include "charts/PlotRect.h"
+#include "charts/TrendLine.h"
 
 namespace Loadwick {
 
+/// A rectangle of a picture, in pixels; y grows downwards.
+struct PlotRect
+{
+    double x;
+    double y;
+    double width;
+    double height;
+
+    [[nodiscard]] double right() const noexcept { return x + width; }
+    [[nodiscard]] double bottom() const noexcept { return y + height; }
+    [[nodiscard]] bool holds(double pointX, double pointY) const noexcept
+    {
+        return pointX >= x && pointX <= right() && pointY >= y && pointY <= bottom();
+    }
+
+    friend bool operator==(const PlotRect &, const PlotRect &) = default;
+};
+
 /// Divides the chart of a trend: at the left the axis of totals, below the axis of dates, at the
-/// right the names of the thresholds. The names stand outside the plot, so that they can cover
-/// neither a point nor an axis.
+/// right the names of the thresholds, outside the plot, so that they can cover neither a point nor
+/// an axis.
 class TrendLayout
 {
 public:
@@ -24,31 +41,31 @@ public:
 
     explicit TrendLayout(const Needs &needs) noexcept;
 
-    /// Where the middles of points can be.
+    /// The room for the centres of points.
     [[nodiscard]] const PlotRect &plot() const noexcept { return m_plot; }
 
-    /// The plot with room for the points at its sides: what grid lines and thresholds cross.
+    /// The plot with room for the points at its sides: the extent of grid lines and thresholds.
     [[nodiscard]] const PlotRect &frame() const noexcept { return m_frame; }
 
-    /// Pixels of a place in the plot, and back.
+    /// From a share of the plot to pixels, and back.
     [[nodiscard]] double xOf(double share) const noexcept;
     [[nodiscard]] double yOf(double share) const noexcept;
     [[nodiscard]] LinePoint pointAt(double x, double y) const noexcept;
 
-    struct NamePlaces
+    struct NameHeights
     {
         double lower;
         double upper;
     };
-    /// The heights of the middles of the names of two thresholds: each at its line as far as both
-    /// can stand one over the other beside the plot.
-    [[nodiscard]] NamePlaces namePlaces(double lowerShare, double upperShare) const noexcept;
+    /// The y of the middles of the names of two thresholds: each at its line, as far as both fit
+    /// one above the other beside the plot.
+    [[nodiscard]] NameHeights nameHeights(double lowerShare, double upperShare) const noexcept;
 
-    /// The words about a point at `share`: over it as far as the sides of the frame allow, at the
-    /// frame's upper edge, which is above all points.
+    /// The box of the words about a point at `share`: centred on it as far as the sides of the
+    /// frame allow, at the frame's upper edge, which is above all points.
     [[nodiscard]] PlotRect readout(double share, double wordsWidth) const noexcept;
 
-    /// Where the labels of the axis of dates have their upper edge.
+    /// The upper edge of the labels of the axis of dates.
     [[nodiscard]] double dateLabelsTop() const noexcept;
 
 private:

@@ -1,15 +1,62 @@
 #pragma once
 
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <span>
+#include <vector>
 
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "charts/LineGeometry.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
+
+/// The data behind one point of a line chart.
+struct LineSample
+{
+    std::chrono::sys_seconds date;
+    std::int64_t total; ///< tokens
+
+    friend bool operator==(const LineSample &, const LineSample &) = default;
+};
+
+/// A position in a plot, as shares of its width and height: (0, 0) is at the lower left.
+struct LinePoint
+{
+    double x;
+    double y;
+
+    friend bool operator==(const LinePoint &, const LinePoint &) = default;
+};
+
+/// The points of a line: dates run from the left to the right edge, totals rise from 0.
+class LineGeometry
+{
+public:
+    /// `samples` in any order; samples of one second keep theirs.
+    explicit LineGeometry(std::span<const LineSample> samples);
+
+    /// The samples by date, and their points in the same order.
+    [[nodiscard]] const std::vector<LineSample> &samples() const noexcept { return m_samples; }
+    [[nodiscard]] const std::vector<LinePoint> &points() const noexcept { return m_points; }
+
+    /// The total at the upper edge: 69,000 while no total is above 60,000, else the largest total
+    /// and 15 % of it, truncated; the largest integer where that does not fit.
+    [[nodiscard]] std::int64_t upperBound() const noexcept { return m_upperBound; }
+
+    /// The index of the point nearest by date alone; among points of one date the one whose total
+    /// is nearest. Nothing without points.
+    [[nodiscard]] std::optional<std::size_t> nearest(const LinePoint &target) const noexcept;
+
+private:
+    std::vector<LineSample> m_samples;
+    std::vector<LinePoint> m_points;
+    std::int64_t m_upperBound;
+};
 
 /// What a trend chart draws: totals by date, and the words about each of them.
 class TrendLine final : public QObject
@@ -26,9 +73,9 @@ public:
     [[nodiscard]] const LineGeometry &geometry() const noexcept { return m_geometry; }
     [[nodiscard]] const TextLocale &locale() const noexcept { return m_locale; }
 
-    /// Of the point at a place in the geometry's order: when it was, to the minute, and its tokens.
-    [[nodiscard]] QString date(std::size_t place) const;
-    [[nodiscard]] QString total(std::size_t place) const;
+    /// When a scan was, to the minute, and its tokens, by the index of its point.
+    [[nodiscard]] QString date(std::size_t index) const;
+    [[nodiscard]] QString total(std::size_t index) const;
 
 Q_SIGNALS:
     void changed();

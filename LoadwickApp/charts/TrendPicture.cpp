@@ -7,7 +7,7 @@
 #include <QPainter>
 
 #include "base/QtText.h"
-#include "charts/DateAxisScale.h"
+#include "charts/AxisScale.h"
 #include "report/OpinionBand.h"
 #include "text/NumberText.h"
 
@@ -20,7 +20,7 @@ constexpr double tickLength = 4;
 constexpr double lineWidth = 2;
 constexpr double pointRadius = 4;
 constexpr double densePointRadius = 2.5;
-constexpr std::size_t denseFrom = 80; // points; larger ones would run into a band
+constexpr std::size_t denseFrom = 80; // points, from where larger ones would merge into a band
 constexpr double nameGap = 8;
 constexpr double readoutRadius = 6;
 constexpr double readoutGap = 8; // between its date and its total
@@ -64,7 +64,7 @@ QFont strong(QFont font)
     return font;
 }
 
-/// On a whole pixel, so that a line of one is one.
+/// The middle of a pixel, so that a line one pixel wide is sharp.
 double crisp(double position)
 {
     return std::floor(position) + 0.5;
@@ -158,7 +158,7 @@ void TrendPicture::paintThresholds(QPainter &painter) const
 {
     const double lower = m_totals.position(OpinionBand::heavyThreshold);
     const double upper = m_totals.position(OpinionBand::excessiveThreshold);
-    const TrendLayout::NamePlaces names = m_layout.namePlaces(lower, upper);
+    const TrendLayout::NameHeights names = m_layout.nameHeights(lower, upper);
     const double lineHeight = QFontMetricsF(m_style.font).height();
     const PlotRect &frame = m_layout.frame();
     const auto paintOne = [&](double share, const QColor &color) {
@@ -186,7 +186,7 @@ void TrendPicture::paintScans(QPainter &painter) const
     const std::vector<LinePoint> &points = m_line.geometry().points();
     QPolygonF line;
     for (const LinePoint &point : points)
-        line.append(place(point));
+        line.append(pixel(point));
     QPen pen(m_style.line, lineWidth);
     pen.setJoinStyle(Qt::RoundJoin);
     painter.setPen(pen);
@@ -202,12 +202,12 @@ void TrendPicture::paintMarkedPoint(QPainter &painter, std::size_t mark) const
 {
     painter.setPen(QPen(m_style.line, lineWidth));
     painter.setBrush(m_style.ground);
-    painter.drawEllipse(place(m_line.geometry().points()[mark]), pointRadius + 1, pointRadius + 1);
+    painter.drawEllipse(pixel(m_line.geometry().points()[mark]), pointRadius + 1, pointRadius + 1);
 }
 
 void TrendPicture::paintMark(QPainter &painter, std::size_t mark) const
 {
-    const double x = crisp(place(m_line.geometry().points()[mark]).x());
+    const double x = crisp(pixel(m_line.geometry().points()[mark]).x());
     painter.setPen(QPen(m_style.secondaryText, 1));
     painter.drawLine(QPointF(x, m_layout.frame().y), QPointF(x, m_layout.frame().bottom()));
 }
@@ -234,7 +234,7 @@ void TrendPicture::paintReadout(QPainter &painter, std::size_t mark) const
     painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter, total);
 }
 
-QPointF TrendPicture::place(const LinePoint &point) const
+QPointF TrendPicture::pixel(const LinePoint &point) const
 {
     return {m_layout.xOf(point.x), m_layout.yOf(point.y)};
 }

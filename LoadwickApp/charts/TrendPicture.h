@@ -2,18 +2,34 @@
 
 #include <vector>
 
+#include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QSizeF>
 
 #include "charts/AxisScale.h"
-#include "charts/DateTick.h"
 #include "charts/TrendLayout.h"
 #include "charts/TrendLine.h"
-#include "charts/TrendStyle.h"
 
 class QPainter;
 
 namespace Loadwick {
+
+/// The colours and the font of a trend chart.
+struct TrendStyle
+{
+    QFont font;
+    QColor line;
+    QColor heavy; ///< of the threshold between lean and heavy
+    QColor heavyName;
+    QColor excessive;
+    QColor excessiveName;
+    QColor grid;
+    QColor tick; ///< of the axis of dates
+    QColor text;
+    QColor secondaryText;
+    QColor ground;
+};
 
 /// A trend chart of one size, laid out once and then painted as often as needed.
 class TrendPicture
@@ -23,8 +39,8 @@ public:
 
     [[nodiscard]] const TrendLayout &layout() const noexcept { return m_layout; }
 
-    /// `mark` is the point to single out, -1 for none. With `scans`, as `paintedScans` gave them,
-    /// the line and its points are not painted anew, which takes ten times as long as the rest.
+    /// `mark` is the point to single out, -1 for none. `scans`, the result of `paintedScans`, saves
+    /// painting the line and its points, which takes ten times as long as the rest.
     void paint(QPainter &painter, int mark, const QImage &scans = {}) const;
 
     /// The line and its points alone.
@@ -38,7 +54,7 @@ private:
     void paintMark(QPainter &painter, std::size_t mark) const;
     void paintMarkedPoint(QPainter &painter, std::size_t mark) const;
     void paintReadout(QPainter &painter, std::size_t mark) const;
-    [[nodiscard]] QPointF place(const LinePoint &point) const;
+    [[nodiscard]] QPointF pixel(const LinePoint &point) const;
 
     QSizeF m_size;
     const TrendLine &m_line;

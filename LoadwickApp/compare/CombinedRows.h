@@ -4,7 +4,7 @@
 
 #include <QAbstractListModel>
 
-#include "charts/GroupedRows.h"
+#include "charts/BarGeometry.h"
 #include "compare/Comparison.h"
 #include "text/TextLocale.h"
 

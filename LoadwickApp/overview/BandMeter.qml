@@ -1,19 +1,68 @@
 import QtQuick
 import Loadwick
 
-// Where the total sits on the scale of the bands. The scale goes from left to right in every script.
+// The total on the scale of the bands. The scale goes from left to right in every script.
 Item {
     id: meter
 
     required property BandPresenter band
-    // Where the marker is on its way to the total's position.
+    // The marker's position on its way to the total's.
     readonly property alias markerProgress: entrance.value
     readonly property string total: band.total
 
-    implicitHeight: AppTheme.meterHeight + AppTheme.tightSpace + labels.implicitHeight
+    // Cut out of a whole bar, so that the bar's ends are round whatever segments they belong to.
+    component Segment: Item {
+        id: segment
+
+        required property real end
+        required property real barWidth
+        required property color color
+
+        width: segment.end - segment.x
+        height: AppTheme.meterHeight
+        clip: true
+
+        Rectangle {
+            x: -segment.x
+            width: segment.barWidth
+            height: segment.height
+            radius: height / 2
+            color: segment.color
+        }
+    }
+    component Tick: Rectangle {
+        id: tick
+
+        required property real offset
+
+        x: tick.offset - tick.width / 2
+        width: AppTheme.meterTickWidth
+        height: AppTheme.meterHeight
+        color: AppTheme.surface
+    }
+    // The name of a band under its segment, if there is room.
+    component BandLabel: PlainLabel {
+        id: label
+
+        required property BandPresenter band
+        required property BandMeterLayout layout
+        // The index of the label's band.
+        required property int index
+        readonly property bool isCurrent: label.band.band === label.index
+
+        text: label.band.bands[label.index] ?? ""
+        font: label.isCurrent ? AppTheme.captionStrongFont : AppTheme.captionFont
+        color: label.isCurrent ? AppTheme.bandTexts[label.index] : AppTheme.secondaryText
+        x: Math.round(label.layout.labelLefts[label.index])
+        visible: label.layout.labelsShown[label.index]
+        // The meter as a whole says what it shows.
+        Accessible.ignored: true
+    }
+
+    implicitHeight: AppTheme.meterHeight + AppTheme.tightSpace + lean.implicitHeight
     Accessible.role: Accessible.Graphic
     Accessible.name: meter.band.meterSummary
-    // A total other than the last arrives anew.
+    // A new total slides in from the start.
     onTotalChanged: if (entrance.hasBegun) entrance.begin()
 
     SpringSweep {
@@ -21,26 +70,29 @@ Item {
         end: meter.band.position
     }
 
-    BandMeterPlaces {
-        id: places
+    BandMeterLayout {
+        id: parts
         width: meter.width
         thresholds: meter.band.thresholds
         position: meter.band.position
-        markerPosition: meter.markerProgress
-        labelWidths: labels.widths
+        labelWidths: [lean.implicitWidth, heavy.implicitWidth, excessive.implicitWidth]
     }
 
-    BandSegments {
+    Item {
+        id: bar
+
+        readonly property real heavyLeft: Math.round(parts.ticks[0])
+        readonly property real excessiveLeft: Math.round(parts.ticks[1])
+
         objectName: "bar"
         width: meter.width
         height: AppTheme.meterHeight
-        places: places
-    }
 
-    BandTicks {
-        width: meter.width
-        height: AppTheme.meterHeight
-        places: places
+        Segment { end: bar.heavyLeft; barWidth: bar.width; color: AppTheme.bandLean }
+        Segment { x: bar.heavyLeft; end: bar.excessiveLeft; barWidth: bar.width; color: AppTheme.bandHeavy }
+        Segment { x: bar.excessiveLeft; end: bar.width; barWidth: bar.width; color: AppTheme.bandExcessive }
+        Tick { offset: bar.heavyLeft }
+        Tick { offset: bar.excessiveLeft }
     }
 
     // A ring of the card's colour keeps the marker apart from whatever segment it lies on.
@@ -54,20 +106,21 @@ Item {
     Rectangle {
         id: marker
         objectName: "marker"
-        x: places.markerLeft
+        x: parts.markerLeft(meter.width, meter.markerProgress)
         y: (AppTheme.meterHeight - height) / 2
-        width: places.markerSide
-        height: places.markerSide
+        width: parts.markerSide
+        height: parts.markerSide
         radius: width / 2
         color: AppTheme.text
     }
 
-    BandLabels {
-        id: labels
+    Item {
         objectName: "labels"
         y: AppTheme.meterHeight + AppTheme.tightSpace
         width: meter.width
-        band: meter.band
-        places: places
+
+        BandLabel { id: lean; index: 0; band: meter.band; layout: parts }
+        BandLabel { id: heavy; index: 1; band: meter.band; layout: parts }
+        BandLabel { id: excessive; index: 2; band: meter.band; layout: parts }
     }
 }

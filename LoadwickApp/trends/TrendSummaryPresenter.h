@@ -6,7 +6,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "charts/LineSample.h"
+#include "charts/TrendLine.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {

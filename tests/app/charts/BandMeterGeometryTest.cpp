@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 
+#include <QSignalSpy>
 #include <QTest>
 
 #include "report/BandScale.h"
@@ -18,7 +19,7 @@ using BandMeterGeometry::Label;
 using BandMeterGeometry::Meter;
 
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
-// About what the three words take in the caption font.
+// The approximate widths of the three words in the caption font.
 constexpr std::array<double, 3> wordWidths = {28, 38, 60};
 
 Meter meterOf(std::int64_t total, double width)
@@ -103,18 +104,10 @@ private Q_SLOTS:
         }
     }
 
-    void theMarkerIsCentredOnItsPosition()
+    void theMarkerIsCentredOnItsPositionExceptAtTheEnds()
     {
         QCOMPARE(BandMeterGeometry::markerLeft(900, 0.5), 444.0);
-    }
-
-    void theMarkerOfNothingIsAtTheFarLeft()
-    {
         QCOMPARE(BandMeterGeometry::markerLeft(900, BandScale::position(0)), 0.0);
-    }
-
-    void theMarkerOfTheLargestTotalIsAtTheFarRight()
-    {
         QCOMPARE(BandMeterGeometry::markerLeft(900, BandScale::position(largest)), 888.0);
     }
 
@@ -134,8 +127,8 @@ private Q_SLOTS:
         }
     }
 
-    void aShownLabelStandsUnderTheMiddleOfItsSegment_data() { allMeters(); }
-    void aShownLabelStandsUnderTheMiddleOfItsSegment()
+    void aShownLabelLiesUnderTheMiddleOfItsSegment_data() { allMeters(); }
+    void aShownLabelLiesUnderTheMiddleOfItsSegment()
     {
         const Meter meter = fetched();
         const auto segments = BandMeterGeometry::segments(meter);
@@ -157,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(isClose(labels[2].extent.middle(), 630));
     }
 
-    void aLabelGivesWayWhereItsSegmentIsNarrow()
+    void aLabelMovesAsideWhereItsSegmentIsNarrow()
     {
         // Segments of 26 pixels: the first label keeps to the end, the second makes room for it.
         const auto labels = labelsOf(1'000'000, 900);
@@ -166,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(labels[1].extent.left, 36.0);
     }
 
-    void aLabelThatWouldStandUnderAnotherSegmentIsNotShown()
+    void aLabelThatWouldEndUpUnderAnotherSegmentIsHidden()
     {
         // Segments of 3 pixels.
         QCOMPARE(shown(labelsOf(9'000'000, 900)), (std::array{true, false, true}));
@@ -193,7 +186,42 @@ private Q_SLOTS:
         QCOMPARE(shown(labelsOf(42'318, 0)), (std::array{false, false, false}));
     }
 
+    void givesItsLayoutToPages()
+    {
+        const BandMeterLayout &layout = laidOut({0.25, 0.5}, {30, 40, 60});
+        QCOMPARE(layout.ticks(), (QList<qreal>{200, 400}));
+        QCOMPARE(layout.labelLefts(), (QList<qreal>{85, 280, 570}));
+        QCOMPARE(layout.labelsShown(), (QList<bool>{true, true, true}));
+        QCOMPARE(BandMeterLayout::markerLeft(800, 0.75), 594.0);
+    }
+
+    void followsTheWidthOfThePage()
+    {
+        BandMeterLayout &layout = laidOut({0.25, 0.5}, {30, 40, 60});
+        QSignalSpy changed(&layout, &BandMeterLayout::changed);
+        layout.setProperty("width", 62);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(layout.labelsShown(), (QList<bool>{false, false, true}));
+    }
+
+    void fillsShortListsUpAndCutsLongOnes()
+    {
+        QCOMPARE(laidOut({}, {30}).ticks(), (QList<qreal>{0, 0}));
+        QCOMPARE(laidOut({}, {30}).labelLefts(), laidOut({0, 0}, {30, 0, 0}).labelLefts());
+        QCOMPARE(laidOut({0.1, 0.2, 0.3}, {}).ticks(), (QList<qreal>{80, 160}));
+    }
+
 private:
+    /// 800 wide, with the total at three quarters.
+    BandMeterLayout &laidOut(const QList<qreal> &thresholds, const QList<qreal> &labelWidths)
+    {
+        m_layout.setProperty("width", 800);
+        m_layout.setProperty("position", 0.75);
+        m_layout.setProperty("thresholds", QVariant::fromValue(thresholds));
+        m_layout.setProperty("labelWidths", QVariant::fromValue(labelWidths));
+        return m_layout;
+    }
+
     static void allMeters()
     {
         QTest::addColumn<qint64>("total");
@@ -212,6 +240,8 @@ private:
         QFETCH(const double, width);
         return meterOf(total, width);
     }
+
+    BandMeterLayout m_layout;
 };
 
 const RegisteredTest<BandMeterGeometryTest> registered("BandMeterGeometry");

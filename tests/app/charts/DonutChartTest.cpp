@@ -22,8 +22,8 @@ struct DonutWindow
         window.resize(300, 240);
         chart.setParentItem(window.contentItem());
         chart.setSize({220, 220});
-        chart.setTokens(tokens);
-        chart.setColors(colors);
+        chart.setProperty("tokens", QVariant::fromValue(tokens));
+        chart.setProperty("colors", QVariant::fromValue(colors));
         window.show();
         window.requestActivate();
         (void)QTest::qWaitForWindowActive(&window);
@@ -71,105 +71,94 @@ class DonutChartTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pointsAtTheRowUnderThePointer();
-    void onlyTheRingIsPointedAt();
-    void skipsRowsWithoutTokensWhenWalkedByKey();
-    void paintsEachRowInItsColor();
-    void wrapsTheColorsAfterTheLast();
-    void dimsAllButTheSelectedSlice();
-    void paintsNothingWithoutTokens();
-    void paintsEightThousandRows();
-    void otherTokensLeaveNoRowCurrent();
-    void tellsOfChangesOnly();
+    void pointsAtTheRowUnderThePointer()
+    {
+        DonutWindow shown({50, 25, 25});
+        QCOMPARE(shown.rowAt(right), 0);
+        QCOMPARE(shown.rowAt(lowerLeft), 1);
+        QCOMPARE(shown.rowAt({110 - 63, 110 - 63}), 2);
+    }
+
+    void onlyTheRingIsPointedAt()
+    {
+        DonutWindow shown({50, 25, 25});
+        QCOMPARE(shown.rowAt({110, 110}), -1);
+        QCOMPARE(shown.rowAt({110 + 60, 110}), -1);
+        QCOMPARE(shown.rowAt({3, 3}), -1);
+        QCOMPARE(shown.rowAt({295, 110}), -1);
+    }
+
+    void skipsRowsWithoutTokensWhenWalkedByKey()
+    {
+        DonutWindow shown({50, 0, 25});
+        shown.chart.forceActiveFocus();
+        QTest::keyClick(&shown.window, Qt::Key_Right);
+        QCOMPARE(shown.chart.currentRow(), 0);
+        QTest::keyClick(&shown.window, Qt::Key_Right);
+        QCOMPARE(shown.chart.currentRow(), 2);
+    }
+
+    void paintsEachRowInItsColor()
+    {
+        const QImage picture = DonutWindow({50, 0, 25, 25}).picture();
+        QCOMPARE(picture.pixelColor(right), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(lowerLeft), QColor(Qt::blue));
+        QCOMPARE(picture.pixelColor(110, 110).alpha(), 0);
+        QCOMPARE(picture.pixelColor(2, 2).alpha(), 0);
+    }
+
+    void wrapsTheColorsAfterTheLast()
+    {
+        const QImage picture = DonutWindow({0, 0, 0, 0, 0, 50, 50}).picture();
+        QCOMPARE(picture.pixelColor(right), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(left), QColor(Qt::green));
+    }
+
+    void dimsAllButTheSelectedSlice()
+    {
+        DonutWindow shown({50, 50});
+        QCOMPARE(shown.picture().pixelColor(left).alpha(), 255);
+        QCOMPARE(shown.rowAt(right), 0);
+        const QImage picture = shown.picture();
+        QCOMPARE(picture.pixelColor(right).alpha(), 255);
+        QVERIFY(std::abs(picture.pixelColor(left).alpha() - 89) <= 1);
+    }
+
+    void paintsNothingWithoutTokens()
+    {
+        QCOMPARE(paintedPixels(DonutWindow({0, 0}).picture()), 0);
+        QCOMPARE(paintedPixels(DonutWindow({}).picture()), 0);
+    }
+
+    void paintsEightThousandRows()
+    {
+        const int whole = paintedPixels(DonutWindow({1}).picture());
+        const int many = paintedPixels(DonutWindow(QList<qreal>(8'000, 3.0)).picture());
+        QVERIFY2(many > whole * 9 / 10, qPrintable(QString::number(many)));
+    }
+
+    void otherTokensLeaveNoRowCurrent()
+    {
+        DonutWindow shown({50, 50});
+        QCOMPARE(shown.rowAt(left), 1);
+        shown.chart.setProperty("tokens", QVariant::fromValue(QList<qreal>{10, 20}));
+        QCOMPARE(shown.chart.currentRow(), -1);
+    }
+
+    void tellsOfChangesOnly()
+    {
+        DonutWindow shown({50, 50});
+        const QSignalSpy tokens(&shown.chart, &DonutChart::tokensChanged);
+        const QSignalSpy colorsSpy(&shown.chart, &DonutChart::colorsChanged);
+        shown.chart.setProperty("tokens", QVariant::fromValue(QList<qreal>{50, 50}));
+        shown.chart.setProperty("colors", QVariant::fromValue(colors));
+        QCOMPARE(tokens.count() + colorsSpy.count(), 0);
+        shown.chart.setProperty("tokens", QVariant::fromValue(QList<qreal>{50}));
+        shown.chart.setProperty("colors", QVariant::fromValue(QList<QColor>{Qt::black}));
+        QCOMPARE(tokens.count(), 1);
+        QCOMPARE(colorsSpy.count(), 1);
+    }
 };
-
-void DonutChartTest::pointsAtTheRowUnderThePointer()
-{
-    DonutWindow shown({50, 25, 25});
-    QCOMPARE(shown.rowAt(right), 0);
-    QCOMPARE(shown.rowAt(lowerLeft), 1);
-    QCOMPARE(shown.rowAt({110 - 63, 110 - 63}), 2);
-}
-
-void DonutChartTest::onlyTheRingIsPointedAt()
-{
-    DonutWindow shown({50, 25, 25});
-    QCOMPARE(shown.rowAt({110, 110}), -1);
-    QCOMPARE(shown.rowAt({110 + 60, 110}), -1);
-    QCOMPARE(shown.rowAt({3, 3}), -1);
-    QCOMPARE(shown.rowAt({295, 110}), -1);
-}
-
-void DonutChartTest::skipsRowsWithoutTokensWhenWalkedByKey()
-{
-    DonutWindow shown({50, 0, 25});
-    shown.chart.forceActiveFocus();
-    QTest::keyClick(&shown.window, Qt::Key_Right);
-    QCOMPARE(shown.chart.currentRow(), 0);
-    QTest::keyClick(&shown.window, Qt::Key_Right);
-    QCOMPARE(shown.chart.currentRow(), 2);
-}
-
-void DonutChartTest::paintsEachRowInItsColor()
-{
-    const QImage picture = DonutWindow({50, 0, 25, 25}).picture();
-    QCOMPARE(picture.pixelColor(right), QColor(Qt::red));
-    QCOMPARE(picture.pixelColor(lowerLeft), QColor(Qt::blue));
-    QCOMPARE(picture.pixelColor(110, 110).alpha(), 0);
-    QCOMPARE(picture.pixelColor(2, 2).alpha(), 0);
-}
-
-void DonutChartTest::wrapsTheColorsAfterTheLast()
-{
-    const QImage picture = DonutWindow({0, 0, 0, 0, 0, 50, 50}).picture();
-    QCOMPARE(picture.pixelColor(right), QColor(Qt::red));
-    QCOMPARE(picture.pixelColor(left), QColor(Qt::green));
-}
-
-void DonutChartTest::dimsAllButTheSelectedSlice()
-{
-    DonutWindow shown({50, 50});
-    QCOMPARE(shown.picture().pixelColor(left).alpha(), 255);
-    QCOMPARE(shown.rowAt(right), 0);
-    const QImage picture = shown.picture();
-    QCOMPARE(picture.pixelColor(right).alpha(), 255);
-    QVERIFY(std::abs(picture.pixelColor(left).alpha() - 89) <= 1);
-}
-
-void DonutChartTest::paintsNothingWithoutTokens()
-{
-    QCOMPARE(paintedPixels(DonutWindow({0, 0}).picture()), 0);
-    QCOMPARE(paintedPixels(DonutWindow({}).picture()), 0);
-}
-
-void DonutChartTest::paintsEightThousandRows()
-{
-    const int whole = paintedPixels(DonutWindow({1}).picture());
-    const int many = paintedPixels(DonutWindow(QList<qreal>(8'000, 3.0)).picture());
-    QVERIFY2(many > whole * 9 / 10, qPrintable(QString::number(many)));
-}
-
-void DonutChartTest::otherTokensLeaveNoRowCurrent()
-{
-    DonutWindow shown({50, 50});
-    QCOMPARE(shown.rowAt(left), 1);
-    shown.chart.setTokens({10, 20});
-    QCOMPARE(shown.chart.currentRow(), -1);
-}
-
-void DonutChartTest::tellsOfChangesOnly()
-{
-    DonutWindow shown({50, 50});
-    const QSignalSpy tokens(&shown.chart, &DonutChart::tokensChanged);
-    const QSignalSpy colorsSpy(&shown.chart, &DonutChart::colorsChanged);
-    shown.chart.setTokens({50, 50});
-    shown.chart.setColors(colors);
-    QCOMPARE(tokens.count() + colorsSpy.count(), 0);
-    shown.chart.setTokens({50});
-    shown.chart.setColors({Qt::black});
-    QCOMPARE(tokens.count(), 1);
-    QCOMPARE(colorsSpy.count(), 1);
-}
 
 const RegisteredTest<DonutChartTest> registered("DonutChart");
 

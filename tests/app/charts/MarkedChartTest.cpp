@@ -69,97 +69,83 @@ class MarkedChartTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsWithoutACurrentMark();
-    void theMarkUnderThePointerIsCurrent();
-    void theFirstKeyChoosesTheFirstOrTheLastMark();
-    void arrowKeysStopAtTheEnds();
-    void homeEndAndEscapeLeadThere();
-    void aKeyCountsMoreThanAPointerThatLiesStill();
-    void losingTheFocusLetsGoOfTheChosenMark();
-    void otherMarksLeaveNoneCurrent();
-    void aChartWithoutMarksLeavesTheKeysToOthers();
-    void saysOnceThatTheCurrentMarkChanged();
+    void startsWithoutACurrentMark() { QCOMPARE(ChartWindow(3).chart.currentMark(), -1); }
+
+    void theMarkUnderThePointerIsCurrent()
+    {
+        ChartWindow shown(3);
+        QCOMPARE(shown.afterMoveTo({15, 5}), 1);
+        QCOMPARE(shown.afterMoveTo({25, 5}), 2);
+        QCOMPARE(shown.afterMoveTo({25, 50}), -1);
+    }
+
+    void theFirstKeyChoosesTheFirstOrTheLastMark()
+    {
+        QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Right), 0);
+        QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Down), 0);
+        QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Left), 2);
+        QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Up), 2);
+    }
+
+    void arrowKeysStopAtTheEnds()
+    {
+        ChartWindow shown(2);
+        QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
+        QCOMPARE(shown.afterKey(Qt::Key_Left), 0);
+        QCOMPARE(shown.afterKey(Qt::Key_Right), 1);
+        QCOMPARE(shown.afterKey(Qt::Key_Right), 1);
+    }
+
+    void homeEndAndEscapeLeadThere()
+    {
+        ChartWindow shown(4);
+        QCOMPARE(shown.afterKey(Qt::Key_End), 3);
+        QCOMPARE(shown.afterKey(Qt::Key_Home), 0);
+        QCOMPARE(shown.afterKey(Qt::Key_Escape), -1);
+    }
+
+    void aKeyCountsMoreThanAPointerThatLiesStill()
+    {
+        ChartWindow shown(3);
+        QCOMPARE(shown.afterMoveTo({25, 5}), 2);
+        QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
+        QCOMPARE(shown.afterMoveTo({15, 5}), 1);
+    }
+
+    void losingTheFocusLetsGoOfTheChosenMark()
+    {
+        ChartWindow shown(3);
+        QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
+        shown.chart.setFocus(false);
+        QCOMPARE(shown.chart.currentMark(), -1);
+    }
+
+    void otherMarksLeaveNoneCurrent()
+    {
+        ChartWindow shown(3);
+        QCOMPARE(shown.afterKey(Qt::Key_End), 2);
+        shown.chart.setCount(2);
+        QCOMPARE(shown.chart.currentMark(), -1);
+    }
+
+    void aChartWithoutMarksLeavesTheKeysToOthers()
+    {
+        ChartWindow shown(0);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+        QCoreApplication::sendEvent(&shown.chart, &press);
+        QVERIFY(!press.isAccepted());
+        QCOMPARE(shown.chart.currentMark(), -1);
+    }
+
+    void saysOnceThatTheCurrentMarkChanged()
+    {
+        ChartWindow shown(3);
+        const QSignalSpy changes(&shown.chart, &MarkedChart::currentMarkChanged);
+        shown.afterMoveTo({12, 5});
+        shown.afterMoveTo({14, 5});
+        QCOMPARE(changes.count(), 1);
+    }
 };
-
-void MarkedChartTest::startsWithoutACurrentMark()
-{
-    QCOMPARE(ChartWindow(3).chart.currentMark(), -1);
-}
-
-void MarkedChartTest::theMarkUnderThePointerIsCurrent()
-{
-    ChartWindow shown(3);
-    QCOMPARE(shown.afterMoveTo({15, 5}), 1);
-    QCOMPARE(shown.afterMoveTo({25, 5}), 2);
-    QCOMPARE(shown.afterMoveTo({25, 50}), -1);
-}
-
-void MarkedChartTest::theFirstKeyChoosesTheFirstOrTheLastMark()
-{
-    QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Right), 0);
-    QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Down), 0);
-    QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Left), 2);
-    QCOMPARE(ChartWindow(3).afterKey(Qt::Key_Up), 2);
-}
-
-void MarkedChartTest::arrowKeysStopAtTheEnds()
-{
-    ChartWindow shown(2);
-    QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
-    QCOMPARE(shown.afterKey(Qt::Key_Left), 0);
-    QCOMPARE(shown.afterKey(Qt::Key_Right), 1);
-    QCOMPARE(shown.afterKey(Qt::Key_Right), 1);
-}
-
-void MarkedChartTest::homeEndAndEscapeLeadThere()
-{
-    ChartWindow shown(4);
-    QCOMPARE(shown.afterKey(Qt::Key_End), 3);
-    QCOMPARE(shown.afterKey(Qt::Key_Home), 0);
-    QCOMPARE(shown.afterKey(Qt::Key_Escape), -1);
-}
-
-void MarkedChartTest::aKeyCountsMoreThanAPointerThatLiesStill()
-{
-    ChartWindow shown(3);
-    QCOMPARE(shown.afterMoveTo({25, 5}), 2);
-    QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
-    QCOMPARE(shown.afterMoveTo({15, 5}), 1);
-}
-
-void MarkedChartTest::losingTheFocusLetsGoOfTheChosenMark()
-{
-    ChartWindow shown(3);
-    QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
-    shown.chart.setFocus(false);
-    QCOMPARE(shown.chart.currentMark(), -1);
-}
-
-void MarkedChartTest::otherMarksLeaveNoneCurrent()
-{
-    ChartWindow shown(3);
-    QCOMPARE(shown.afterKey(Qt::Key_End), 2);
-    shown.chart.setCount(2);
-    QCOMPARE(shown.chart.currentMark(), -1);
-}
-
-void MarkedChartTest::aChartWithoutMarksLeavesTheKeysToOthers()
-{
-    ChartWindow shown(0);
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
-    QCoreApplication::sendEvent(&shown.chart, &press);
-    QVERIFY(!press.isAccepted());
-    QCOMPARE(shown.chart.currentMark(), -1);
-}
-
-void MarkedChartTest::saysOnceThatTheCurrentMarkChanged()
-{
-    ChartWindow shown(3);
-    const QSignalSpy changes(&shown.chart, &MarkedChart::currentMarkChanged);
-    shown.afterMoveTo({12, 5});
-    shown.afterMoveTo({14, 5});
-    QCOMPARE(changes.count(), 1);
-}
 
 const RegisteredTest<MarkedChartTest> registered("MarkedChart");
 

@@ -48,7 +48,7 @@ private Q_SLOTS:
     void namesThresholdsAtTheirLines()
     {
         const TrendLayout layout = layoutOf(800, 260);
-        const auto names = layout.namePlaces(30.0 / 69, 60.0 / 69);
+        const auto names = layout.nameHeights(30.0 / 69, 60.0 / 69);
         QCOMPARE(names.lower, layout.yOf(30.0 / 69));
         QCOMPARE(names.upper, layout.yOf(60.0 / 69));
     }
@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         QFETCH(const double, upperBound);
         const TrendLayout layout = layoutOf(800, 260);
-        const auto names = layout.namePlaces(30'000 / upperBound, 60'000 / upperBound);
+        const auto names = layout.nameHeights(30'000 / upperBound, 60'000 / upperBound);
         QVERIFY(names.lower - names.upper >= m_lineHeight - 1e-9);
         QVERIFY(names.lower + m_lineHeight / 2 <= layout.frame().bottom() + 1e-9);
         QVERIFY(names.upper - m_lineHeight / 2 >= layout.frame().y - 1e-9);
@@ -105,7 +105,7 @@ private Q_SLOTS:
             QVERIFY(layout.plot().width >= 0);
             QVERIFY(layout.plot().height >= 0);
             QVERIFY(layout.readout(1, 200).width >= 0);
-            (void)layout.namePlaces(0.4, 0.8);
+            (void)layout.nameHeights(0.4, 0.8);
             (void)layout.pointAt(5, 5);
         }
     }
