@@ -1,10 +1,12 @@
 #pragma once
 
+#include <exception>
 #include <memory>
+#include <utility>
+
+#include <QPointer>
 
 #include "model/TaskDispatcher.h"
-
-class QObject;
 
 namespace Loadwick {
 
@@ -23,5 +25,28 @@ private:
     struct Target;
     std::shared_ptr<Target> m_target;
 };
+
+/// Runs `work` on a background thread and hands its value to `whenDone` on the interface thread,
+/// unless `object` has been destroyed by then. `work` therefore owns all that it touches, while
+/// `whenDone` may use the object. Called on the interface thread. False when no thread could be
+/// started: neither of the two then runs.
+template<typename Work, typename WhenDone>
+bool inBackground(const QObject *object, const std::shared_ptr<TaskDispatcher> &dispatcher,
+                  Work work, WhenDone whenDone)
+{
+    const QPointer<const QObject> receiver(object);
+    try {
+        dispatcher->runInBackground(
+            [receiver, dispatcher, work = std::move(work), whenDone = std::move(whenDone)] {
+                dispatcher->postToInterface([receiver, whenDone, value = work()] {
+                    if (receiver)
+                        whenDone(value);
+                });
+            });
+    } catch (const std::exception &) {
+        return false;
+    }
+    return true;
+}
 
 } // namespace Loadwick

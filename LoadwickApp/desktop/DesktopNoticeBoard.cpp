@@ -1,12 +1,12 @@
 #include "desktop/DesktopNoticeBoard.h"
 
-#include <exception>
 #include <utility>
 
 #include <QDBusPendingCallWatcher>
 #include <QGuiApplication>
-#include <QPointer>
 #include <QVariantMap>
+
+#include "base/QtTaskDispatcher.h"
 
 namespace Loadwick {
 namespace {
@@ -49,18 +49,9 @@ void DesktopNoticeBoard::withdraw()
 
 void DesktopNoticeBoard::connectInBackground()
 {
-    const QPointer<DesktopNoticeBoard> board(this);
-    m_isConnecting = true;
-    try {
-        m_dispatcher->runInBackground([board, dispatcher = m_dispatcher, connect = m_connect] {
-            dispatcher->postToInterface([board, bus = connect()] {
-                if (board)
-                    board->begin(bus);
-            });
-        });
-    } catch (const std::exception &) {
-        m_isConnecting = false; // no thread is to be had; the next notice tries again
-    }
+    // Without a thread the next notice tries again.
+    m_isConnecting = inBackground(this, m_dispatcher, m_connect,
+                                  [this](const QDBusConnection &bus) { begin(bus); });
 }
 
 void DesktopNoticeBoard::begin(const QDBusConnection &bus)

@@ -1,10 +1,10 @@
 #include "export/PageExport.h"
 
-#include <exception>
 #include <utility>
 
 #include <QPointer>
 
+#include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
 #include "export/SavingFailure.h"
 #include "posix/AtomicFile.h"
@@ -70,17 +70,11 @@ void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
 
 void PageExport::write(const FileSaver::Place &place, const ChartFile::Bytes &bytes)
 {
-    const QPointer<PageExport> page(this);
-    try {
-        m_dispatcher->runInBackground([page, place, bytes, dispatcher = m_dispatcher] {
-            dispatcher->postToInterface([page, place, failure = writeFile(place, bytes())] {
-                if (page)
-                    page->tell(place, failure);
-            });
-        });
-    } catch (const std::exception &) {
+    const bool isStarted = inBackground(
+        this, m_dispatcher, [place, bytes] { return writeFile(place, bytes()); },
+        [this, place](const std::error_code &failure) { tell(place, failure); });
+    if (!isStarted)
         tell(place, std::make_error_code(std::errc::resource_unavailable_try_again));
-    }
 }
 
 void PageExport::tell(const FileSaver::Place &place, const std::error_code &failure)

@@ -1,10 +1,8 @@
 #include "onboarding/OnboardingPresenter.h"
 
-#include <exception>
 #include <utility>
 
-#include <QPointer>
-
+#include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
 #include "report/OpinionBand.h"
 
@@ -38,19 +36,15 @@ OnboardingPresenter::OnboardingPresenter(std::shared_ptr<OnboardingCompletionSto
 void OnboardingPresenter::presentOnboardingIfFirstLaunch(
     const std::shared_ptr<TaskDispatcher> &dispatcher)
 {
-    const QPointer<OnboardingPresenter> presenter(this);
-    const int request = ++m_request;
-    try {
-        dispatcher->runInBackground([dispatcher, presenter, request, store = m_store] {
-            const bool isFirst = OnboardingCompletion(store).shouldPresent();
-            dispatcher->postToInterface([presenter, request, isFirst] {
-                if (presenter && isFirst && presenter->m_request == request)
-                    presenter->m_delay.start();
-            });
-        });
-    } catch (const std::exception &) {
-        return; // No memory or no thread: the next launch may be luckier.
-    }
+    const auto isFirstLaunch = [store = m_store] {
+        return OnboardingCompletion(store).shouldPresent();
+    };
+    const auto presentSoon = [this, request = ++m_request](bool isFirst) {
+        if (isFirst && m_request == request)
+            m_delay.start();
+    };
+    // Without a thread the next launch asks again.
+    inBackground(this, dispatcher, isFirstLaunch, presentSoon);
 }
 
 void OnboardingPresenter::callOff()

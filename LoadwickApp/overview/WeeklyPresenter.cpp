@@ -3,8 +3,7 @@
 #include <chrono>
 #include <exception>
 
-#include <QPointer>
-
+#include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
 #include "history/WeeklyKPIReader.h"
 #include "process/BoundedCall.h"
@@ -29,17 +28,10 @@ std::optional<WeeklyKPILine> readInTime(const std::filesystem::path &log)
 void WeeklyPresenter::load(const std::filesystem::path &log,
                            const std::shared_ptr<TaskDispatcher> &dispatcher)
 {
-    const QPointer<WeeklyPresenter> presenter(this);
-    try {
-        dispatcher->runInBackground([log, dispatcher, presenter] {
-            dispatcher->postToInterface([presenter, line = readInTime(log)] {
-                if (presenter)
-                    presenter->show(line);
-            });
-        });
-    } catch (const std::exception &) {
+    const auto showLine = [this](const std::optional<WeeklyKPILine> &line) { show(line); };
+    if (!inBackground(
+            this, dispatcher, [log] { return readInTime(log); }, showLine))
         show(std::nullopt);
-    }
 }
 
 void WeeklyPresenter::show(const std::optional<WeeklyKPILine> &line)

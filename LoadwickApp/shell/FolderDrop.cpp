@@ -1,11 +1,9 @@
 #include "shell/FolderDrop.h"
 
-#include <exception>
 #include <utility>
 
-#include <QPointer>
-
 #include "base/FolderUrl.h"
+#include "base/QtTaskDispatcher.h"
 
 namespace Loadwick {
 
@@ -33,19 +31,15 @@ void FolderDrop::take(const QList<QUrl> &urls)
     const auto place = onlyPlace(urls);
     if (!place)
         return;
-    const QPointer<FolderDrop> drop(this);
-    try {
-        m_dispatcher->runInBackground([drop, place = *place, dispatcher = m_dispatcher] {
-            dispatcher->postToInterface([drop, place, isChoosable = isFolder(place)] {
-                if (drop && isChoosable)
-                    drop->m_content.choose(place);
-                else if (drop)
-                    Q_EMIT drop->refused();
-            });
-        });
-    } catch (const std::exception &) {
-        // No thread is to be had: the dialog remains.
-    }
+    const auto settle = [this, folder = *place](bool isChoosable) {
+        if (isChoosable)
+            m_content.choose(folder);
+        else
+            Q_EMIT refused();
+    };
+    // Without a thread nothing happens; the dialog remains.
+    inBackground(
+        this, m_dispatcher, [folder = *place] { return isFolder(folder); }, settle);
 }
 
 std::optional<std::filesystem::path> FolderDrop::onlyPlace(const QList<QUrl> &urls) const

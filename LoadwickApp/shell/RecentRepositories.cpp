@@ -1,13 +1,11 @@
 #include "shell/RecentRepositories.h"
 
-#include <exception>
 #include <set>
 #include <string>
 #include <utility>
 
-#include <QPointer>
-
 #include "base/FolderUrl.h"
+#include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
 #include "history/ScanHistory.h"
 
@@ -63,17 +61,10 @@ void RecentRepositories::look()
 
 void RecentRepositories::lookFor(const std::filesystem::path &folder)
 {
-    const QPointer<RecentRepositories> recent(this);
-    try {
-        m_dispatcher->runInBackground([recent, folder, dispatcher = m_dispatcher] {
-            dispatcher->postToInterface([recent, folder, isThere = isFolder(folder)] {
-                if (recent)
-                    recent->m_rows.setIsThere(folder, isThere);
-            });
-        });
-    } catch (const std::exception &) {
-        // No thread is to be had: the dialog remains.
-    }
+    // Without a thread the folder stays disabled; the dialog remains.
+    inBackground(
+        this, m_dispatcher, [folder] { return isFolder(folder); },
+        [this, folder](bool isThere) { m_rows.setIsThere(folder, isThere); });
 }
 
 void RecentRepositories::choose(int row)

@@ -1,11 +1,10 @@
 #include "theme/KdeAppearanceSource.h"
 
-#include <exception>
 #include <utility>
 
-#include <QPointer>
 #include <QStandardPaths>
 
+#include "base/QtTaskDispatcher.h"
 #include "posix/RegularFile.h"
 #include "theme/KdeGlobals.h"
 
@@ -53,17 +52,10 @@ void KdeAppearanceSource::read()
     // KDE replaces the file, after which the watch on the old one is gone; hence the folder too.
     m_watcher.addPaths({QString::fromStdString(m_file.parent_path().string()),
                         QString::fromStdString(m_file.string())});
-    const QPointer<KdeAppearanceSource> source(this);
-    try {
-        m_dispatcher->runInBackground([source, file = m_file, dispatcher = m_dispatcher] {
-            dispatcher->postToInterface([source, wishes = readWishes(file)] {
-                if (source)
-                    source->show(wishes);
-            });
-        });
-    } catch (const std::exception &) {
-        // No thread is to be had: what was read before stands.
-    }
+    // Without a thread the earlier wishes remain.
+    inBackground(
+        this, m_dispatcher, [file = m_file] { return readWishes(file); },
+        [this](const DesktopWishes &wishes) { show(wishes); });
 }
 
 void KdeAppearanceSource::show(const DesktopWishes &wishes)

@@ -1,9 +1,8 @@
 #include "theme/PortalAppearanceSource.h"
 
-#include <exception>
-
 #include <QDBusPendingCallWatcher>
-#include <QPointer>
+
+#include "base/QtTaskDispatcher.h"
 
 namespace Loadwick {
 namespace {
@@ -21,17 +20,8 @@ PortalAppearanceSource::PortalAppearanceSource(const std::shared_ptr<TaskDispatc
                                                const Connect &connect, QObject *parent)
     : AppearanceSource(parent)
 {
-    const QPointer<PortalAppearanceSource> source(this);
-    try {
-        dispatcher->runInBackground([source, dispatcher, connect] {
-            dispatcher->postToInterface([source, bus = connect()] {
-                if (source)
-                    source->begin(bus);
-            });
-        });
-    } catch (const std::exception &) {
-        // No thread is to be had: the program keeps to what else it knows of the desktop.
-    }
+    // Without a thread all wishes remain absent.
+    inBackground(this, dispatcher, connect, [this](const QDBusConnection &bus) { begin(bus); });
 }
 
 void PortalAppearanceSource::begin(QDBusConnection bus)

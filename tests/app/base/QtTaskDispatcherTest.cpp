@@ -3,12 +3,14 @@
 #include <atomic>
 #include <future>
 #include <memory>
+#include <optional>
 #include <thread>
 #include <vector>
 
 #include <QCoreApplication>
 #include <QTest>
 
+#include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
@@ -118,6 +120,45 @@ private Q_SLOTS:
             interface.reset();
             poster.join();
         }
+    }
+
+    void handsTheValueOfBackgroundWorkToTheInterfaceThread()
+    {
+        QObject interface;
+        const auto dispatcher = std::make_shared<QtTaskDispatcher>(interface);
+        const auto here = std::this_thread::get_id();
+        std::optional<std::thread::id> worker;
+        std::thread::id receiver;
+        const auto receive = [&](std::thread::id value) {
+            worker = value;
+            receiver = std::this_thread::get_id();
+        };
+        QVERIFY(inBackground(&interface, dispatcher, &std::this_thread::get_id, receive));
+        QTRY_VERIFY(worker);
+        QVERIFY(*worker != here);
+        QVERIFY(receiver == here);
+    }
+
+    void dropsTheValueWhenItsReceiverHasGone()
+    {
+        const auto dispatcher = std::make_shared<SteppingDispatcher>();
+        auto receiver = std::make_unique<QObject>();
+        bool isReceived = false;
+        QVERIFY(inBackground(
+            receiver.get(), dispatcher, [] { return 1; }, [&](int) { isReceived = true; }));
+        dispatcher->runBackground();
+        receiver.reset();
+        dispatcher->runAll();
+        QVERIFY(!isReceived);
+    }
+
+    void saysThatNoThreadCouldBeStarted()
+    {
+        const auto dispatcher = std::make_shared<SteppingDispatcher>();
+        dispatcher->refuseBackground();
+        QObject receiver;
+        QVERIFY(!inBackground(
+            &receiver, dispatcher, [] { return 1; }, [](int) {}));
     }
 };
 
