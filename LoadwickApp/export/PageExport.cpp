@@ -16,14 +16,13 @@ namespace {
 /// Empty when the file is there.
 std::error_code writeFile(const FileSaver::Place &place, const QByteArray &bytes)
 {
-    std::error_code failure;
-    if (!place.mayReplace && std::filesystem::exists(place.file, failure))
+    std::error_code unknown;
+    if (!place.mayReplace && std::filesystem::exists(place.file, unknown))
         return std::make_error_code(std::errc::file_exists);
     if (bytes.isEmpty()) // a picture too large to be made
         return std::make_error_code(std::errc::not_enough_memory);
     const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    static_cast<void>(AtomicFile::replace(place.file, content, failure));
-    return failure;
+    return AtomicFile::replace(place.file, content);
 }
 
 bool isDrawing(const std::filesystem::path &file)

@@ -1,19 +1,165 @@
 #include "posix/AtomicFile.h"
 
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "posix/FileDescriptor.h"
-#include "posix/TemporaryFile.h"
+#include "posix/FileSystem.h"
 
 namespace Loadwick::AtomicFile {
 
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::string_view randomPart = "XXXXXX"; // as mkostemp demands
+constexpr int attempts = 5;
+
+std::string prefixFor(const fs::path &target)
+{
+    return "." + target.filename().native() + ".";
+}
+
+bool isAbandonedName(std::string_view name, std::string_view prefix)
+{
+    return name.size() == prefix.size() + randomPart.size() && name.starts_with(prefix) &&
+           name.find_first_not_of("0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ",
+                                  prefix.size()) == std::string_view::npos;
+}
+
+/// Locks a file that was just created. False when another writer took it for an abandoned one
+/// first; a file system without locks counts as locked.
+bool lockOwn(int descriptor)
+{
+    // rarely taken: another program would have to come within this call
+    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        return false;
+    struct stat status = {};
+    // rarely taken: another program would have to come before this call
+    return fstat(descriptor, &status) == 0 && status.st_nlink > 0;
+}
+
+void removeIfUnlocked(const fs::path &path)
+{
+    const FileDescriptor descriptor(
+        open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY | O_CLOEXEC));
+    if (descriptor.isOpen() && flock(descriptor.number(), LOCK_EX | LOCK_NB) == 0)
+        unlink(path.c_str());
+}
+
+bool writeAll(int descriptor, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written > 0)
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        // unreachable: a write of some bytes to a file writes some or fails
+        else if (written == 0 || errno != EINTR)
+            return false;
+    }
+    return true;
+}
+
+bool sync(int descriptor)
+{
+    int result = fsync(descriptor);
+    while (result != 0 && errno == EINTR)
+        result = fsync(descriptor);
+    return result == 0;
+}
+
+/// A file under construction, which becomes another file at once or never. It has a random name
+/// beside that file, and its writer holds a lock on it: without a lock it was left by a crash.
+class TemporaryFile
+{
+public:
+    /// Creates one for `target`, empty and locked, with mode 0600.
+    [[nodiscard]] static std::optional<TemporaryFile> createFor(const fs::path &target);
+
+    TemporaryFile(TemporaryFile &&other) noexcept;
+    TemporaryFile &operator=(TemporaryFile &&) = delete;
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    /// Removes the file unless it has become another one.
+    ~TemporaryFile();
+
+    /// Writes all of `bytes` and syncs them to the disk.
+    [[nodiscard]] bool write(std::string_view bytes);
+
+    /// Becomes `target`, whose old content is gone then.
+    [[nodiscard]] bool replace(const fs::path &target);
+
+private:
+    TemporaryFile(FileDescriptor descriptor, std::string path) noexcept
+        : m_descriptor(std::move(descriptor)), m_path(std::move(path))
+    {}
+
+    FileDescriptor m_descriptor;
+    std::string m_path; ///< empty once the file is not ours to remove
+};
+
+std::optional<TemporaryFile> TemporaryFile::createFor(const fs::path &target)
+{
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        std::string path = target.parent_path() / (prefixFor(target) + std::string(randomPart));
+        FileDescriptor descriptor(mkostemp(path.data(), O_CLOEXEC));
+        if (!descriptor.isOpen() && errno != EINTR)
+            return std::nullopt;
+        if (!descriptor.isOpen())
+            continue;
+        TemporaryFile file(std::move(descriptor), std::move(path));
+        // The umask may have taken even our own permissions.
+        if (lockOwn(file.m_descriptor.number()) && fchmod(file.m_descriptor.number(), 0600) == 0)
+            return file;
+    }
+    return std::nullopt;
+}
+
+TemporaryFile::TemporaryFile(TemporaryFile &&other) noexcept
+    : m_descriptor(std::move(other.m_descriptor)), m_path(std::exchange(other.m_path, {}))
+{}
+
+TemporaryFile::~TemporaryFile()
+{
+    if (!m_path.empty())
+        unlink(m_path.c_str());
+}
+
+bool TemporaryFile::write(std::string_view bytes)
+{
+    return writeAll(m_descriptor.number(), bytes) && sync(m_descriptor.number());
+}
+
+bool TemporaryFile::replace(const fs::path &target)
+{
+    if (rename(m_path.c_str(), target.c_str()) != 0)
+        return false;
+    m_path.clear();
+    return true;
+}
+
+/// Removes what crashed writers left beside `target`. Never fails.
+void removeAbandoned(const fs::path &target)
+{
+    const std::string prefix = prefixFor(target);
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : ".";
+    // The standard library's walk through a folder ends the program when memory runs out.
+    PosixFileSystem().list(folder, [&](const std::string &name, FileSystem::EntryKind kind) {
+        if (kind == FileSystem::EntryKind::file && isAbandonedName(name, prefix))
+            removeIfUnlocked(folder / name);
+        return FileSystem::Walk::goOn;
+    });
+}
 
 constexpr int linkLimit = 40; // as many as Linux itself follows
 
@@ -23,8 +169,8 @@ fs::file_type typeOf(const fs::path &path)
     return fs::symlink_status(path, unknown).type();
 }
 
-/// Where a chain of links ends, without asking that something is there. Nothing for a chain that
-/// has no end or cannot be read.
+/// Where a chain of links ends, whether or not something is there. Nothing for a chain that has no
+/// end or cannot be read.
 std::optional<fs::path> linkTarget(fs::path path)
 {
     for (int count = 0; count < linkLimit; ++count) {
@@ -32,7 +178,7 @@ std::optional<fs::path> linkTarget(fs::path path)
             return path;
         std::error_code failure;
         const fs::path next = fs::read_symlink(path, failure);
-        // not taken: the link would have to go between the two looks at it
+        // unreachable: the link would have to vanish between the two calls
         if (failure)
             return std::nullopt;
         // Not normalized: ".." behind a link to a folder means that folder's parent.
@@ -68,30 +214,19 @@ void syncFolderOf(const fs::path &path)
 
 } // namespace
 
-bool replace(const fs::path &path, std::string_view bytes)
-{
-    std::error_code unheard;
-    return replace(path, bytes, unheard);
-}
-
-bool replace(const fs::path &path, std::string_view bytes, std::error_code &failure)
+std::error_code replace(const fs::path &path, std::string_view bytes)
 {
     const std::optional<fs::path> target = linkTarget(path);
-    if (!target) {
-        failure = std::make_error_code(std::errc::too_many_symbolic_link_levels);
-        return false;
-    }
-    TemporaryFile::removeAbandoned(*target);
-    failure = whyNotToReplace(*target);
-    if (failure)
-        return false;
+    if (!target)
+        return std::make_error_code(std::errc::too_many_symbolic_link_levels);
+    removeAbandoned(*target);
+    if (const std::error_code reason = whyNotToReplace(*target))
+        return reason;
     std::optional<TemporaryFile> file = TemporaryFile::createFor(*target);
-    if (!file || !file->write(bytes) || !file->replace(*target)) {
-        failure.assign(errno, std::generic_category());
-        return false;
-    }
+    if (!file || !file->write(bytes) || !file->replace(*target))
+        return {errno, std::generic_category()};
     syncFolderOf(*target);
-    return true;
+    return {};
 }
 
 void remove(const fs::path &path)
@@ -104,7 +239,7 @@ void remove(const fs::path &path)
     if (type == fs::file_type::regular ||
         (!isBehindLink && type != fs::file_type::directory && type != fs::file_type::not_found))
         unlink(target->c_str());
-    TemporaryFile::removeAbandoned(*target);
+    removeAbandoned(*target);
     syncFolderOf(*target);
 }
 

@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-/// The one owner of an open descriptor; closes it at its end.
+/// The one owner of an open descriptor.
 class FileDescriptor
 {
 public:
@@ -12,11 +12,12 @@ public:
 
     FileDescriptor() noexcept = default;
 
-    /// Takes over `number`; -1, as a failed call gives it, is none.
+    /// Owns `number` from now on; -1, as a failed call returns it, is none.
     explicit FileDescriptor(int number) noexcept : m_number(number) {}
     ~FileDescriptor() { reset(); }
 
-    FileDescriptor(FileDescriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
+    FileDescriptor(FileDescriptor &&other) noexcept : m_number(std::exchange(other.m_number, none))
+    {}
     FileDescriptor &operator=(FileDescriptor &&other) noexcept;
     FileDescriptor(const FileDescriptor &) = delete;
     FileDescriptor &operator=(const FileDescriptor &) = delete;
@@ -26,15 +27,27 @@ public:
     /// -1 when there is none.
     [[nodiscard]] int number() const noexcept { return m_number; }
 
-    /// A second descriptor, closed on exec and above the three standard ones, for what this one has
-    /// open; none, and `errno` set, when there is none to be had.
+    /// A second descriptor for the same open file, closed on exec and above the three standard
+    /// ones; none, and `errno` set, on failure.
     [[nodiscard]] FileDescriptor duplicate() const noexcept;
 
     /// Closes it now. `errno` stays as it was.
     void reset() noexcept;
 
 private:
-    int m_number = -1;
+    int m_number = none;
+};
+
+/// A pipe whose ends are closed on exec and above the three standard descriptors, so that giving a
+/// child its streams never overwrites one end with the other.
+struct Pipe
+{
+    FileDescriptor readEnd;
+    FileDescriptor writeEnd;
+
+    /// A new pipe, as large as the system permits: a command that writes its whole output and exits
+    /// at once loses what the pipe cannot hold. Throws `std::system_error`.
+    [[nodiscard]] static Pipe open();
 };
 
 } // namespace Loadwick

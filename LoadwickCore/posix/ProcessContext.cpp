@@ -1,11 +1,11 @@
 #include "posix/ProcessContext.h"
 
+#include <cerrno>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 #include <unistd.h>
-
-#include "posix/PasswordDatabase.h"
 
 namespace Loadwick {
 
@@ -33,7 +33,23 @@ std::string homeFolder(const Environment &environment)
     const auto home = environment.find("HOME");
     if (home != environment.end() && !home->second.empty())
         return home->second;
-    return PasswordDatabase::homeOf(getuid());
+    return recordedHome(getuid());
+}
+
+std::string recordedHome(uid_t user, PasswordLookup lookup)
+{
+    std::vector<char> buffer(1024);
+    passwd entry{};
+    passwd *found = nullptr;
+    int outcome = lookup(user, &entry, buffer.data(), buffer.size(), &found);
+    while (outcome == ERANGE || outcome == EINTR) {
+        if (outcome == ERANGE)
+            buffer.resize(buffer.size() * 2);
+        outcome = lookup(user, &entry, buffer.data(), buffer.size(), &found);
+    }
+    if (found == nullptr || found->pw_dir == nullptr || *found->pw_dir == '\0')
+        return "/";
+    return found->pw_dir;
 }
 
 } // namespace Loadwick

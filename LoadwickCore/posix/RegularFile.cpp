@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,7 +13,6 @@ namespace Loadwick {
 namespace {
 
 constexpr std::size_t pieceSize = 65536;
-constexpr int noDescriptor = -1;
 
 void report(RegularFile::Failure *failure, int errorNumber) noexcept
 {
@@ -31,7 +29,7 @@ auto uninterrupted(Call call) noexcept
     return outcome;
 }
 
-/// Whether a status was obtained and is that of a regular file; if not, the reason is reported.
+/// Whether a status was obtained and is that of a regular file; reports the reason if not.
 bool isRegular(int outcome, const struct stat &status, RegularFile::Failure *failure) noexcept
 {
     if (outcome != 0) {
@@ -70,54 +68,30 @@ std::optional<RegularFile> RegularFile::openSeen(const std::string &path, Failur
                                                  int folder)
 {
     constexpr int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
-    const int descriptor = uninterrupted([&] { return ::openat(folder, path.c_str(), flags); });
-    if (descriptor < 0) {
+    RegularFile file(
+        FileDescriptor(uninterrupted([&] { return ::openat(folder, path.c_str(), flags); })));
+    if (!file.m_descriptor.isOpen()) {
         report(failure, errno);
         return std::nullopt;
     }
-    RegularFile file(descriptor, 0, Identity{});
     struct stat status
     {};
-    if (!isRegular(::fstat(descriptor, &status), status, failure))
+    if (!isRegular(::fstat(file.m_descriptor.number(), &status), status, failure))
         return std::nullopt;
     file.m_size = status.st_size;
     file.m_identity = {.device = status.st_dev, .inode = status.st_ino};
     return file;
 }
 
-RegularFile::RegularFile(int descriptor, std::int64_t size, Identity identity) noexcept
-    : m_descriptor(descriptor), m_size(size), m_identity(identity)
-{}
-
-RegularFile::RegularFile(RegularFile &&other) noexcept
-    : m_descriptor(std::exchange(other.m_descriptor, noDescriptor)),
-      m_size(other.m_size),
-      m_identity(other.m_identity)
-{}
-
-RegularFile &RegularFile::operator=(RegularFile &&other) noexcept
-{
-    std::swap(m_descriptor, other.m_descriptor);
-    m_size = other.m_size;
-    m_identity = other.m_identity;
-    return *this;
-}
-
-RegularFile::~RegularFile()
-{
-    if (m_descriptor != noDescriptor)
-        ::close(m_descriptor);
-}
-
 bool RegularFile::skipTo(std::int64_t offset) noexcept
 {
-    return offset >= 0 && ::lseek(m_descriptor, offset, SEEK_SET) == offset;
+    return offset >= 0 && ::lseek(m_descriptor.number(), offset, SEEK_SET) == offset;
 }
 
 std::optional<std::size_t> RegularFile::read(std::span<char> buffer, Failure *failure)
 {
     const ssize_t count =
-        uninterrupted([&] { return ::read(m_descriptor, buffer.data(), buffer.size()); });
+        uninterrupted([&] { return ::read(m_descriptor.number(), buffer.data(), buffer.size()); });
     if (count < 0) {
         report(failure, errno);
         return std::nullopt;

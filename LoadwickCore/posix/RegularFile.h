@@ -5,22 +5,24 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 
 #include <fcntl.h>
 
+#include "posix/FileDescriptor.h"
+
 namespace Loadwick {
 
-/// A regular file, open for reading. Nothing else is ever opened for long: the path is looked at
-/// before it is opened (a FIFO, device or socket is refused unopened) and once more behind the open
-/// descriptor, and opening cannot block.
+/// A regular file, open for reading. Nothing else is ever opened for long: the path is examined
+/// before it is opened (a FIFO, device or socket is refused unopened) and once more through the
+/// open descriptor, and opening cannot block.
 class RegularFile
 {
 public:
-    /// The folder of the process, as `openat` takes it.
+    /// The folder of the process, as `openat` names it.
     static constexpr int currentFolder = AT_FDCWD;
 
-    /// Why there is no file: an `errno` value; 0 means that the path leads to something that is no
-    /// regular file.
+    /// Why there is no file: an `errno` value, or 0 when the path leads to something else.
     struct Failure
     {
         int errorNumber = 0;
@@ -28,21 +30,15 @@ public:
         [[nodiscard]] bool isDenied() const noexcept;
     };
 
-    /// `path` in bytes, as a `std::filesystem::path` gives them. Follows links. On failure nothing,
-    /// and the reason in `failure` when one is asked for.
+    /// `path` in bytes, as a `std::filesystem::path` gives them. Follows links. Nothing on failure,
+    /// with the reason in `failure` unless that is null.
     [[nodiscard]] static std::optional<RegularFile> open(const std::string &path,
                                                          Failure *failure = nullptr);
 
-    /// The same for a path that was just seen to lead to a regular file: it is looked at only
-    /// behind the open descriptor. A relative path begins at the descriptor `folder`.
+    /// The same for a path that was just seen to lead to a regular file: it is examined through the
+    /// open descriptor only. A relative path begins at the descriptor `folder`.
     [[nodiscard]] static std::optional<RegularFile>
     openSeen(const std::string &path, Failure *failure = nullptr, int folder = currentFolder);
-
-    RegularFile(RegularFile &&other) noexcept;
-    RegularFile &operator=(RegularFile &&other) noexcept;
-    RegularFile(const RegularFile &) = delete;
-    RegularFile &operator=(const RegularFile &) = delete;
-    ~RegularFile();
 
     /// Bytes when it was opened.
     [[nodiscard]] std::int64_t size() const noexcept { return m_size; }
@@ -56,11 +52,11 @@ public:
     };
     [[nodiscard]] Identity identity() const noexcept { return m_identity; }
 
-    /// Reads on from `offset` bytes behind the beginning; false when that is impossible.
+    /// Moves to `offset` bytes behind the beginning; false when that is impossible.
     [[nodiscard]] bool skipTo(std::int64_t offset) noexcept;
 
-    /// Reads into `buffer`; bytes read, 0 at the end, nothing on an error (interrupted reads are
-    /// taken up again).
+    /// Reads into `buffer`; bytes read, 0 at the end, nothing on an error. Repeats an interrupted
+    /// read.
     [[nodiscard]] std::optional<std::size_t> read(std::span<char> buffer,
                                                   Failure *failure = nullptr);
 
@@ -69,11 +65,12 @@ public:
                                                       Failure *failure = nullptr);
 
 private:
-    RegularFile(int descriptor, std::int64_t size, Identity identity) noexcept;
+    explicit RegularFile(FileDescriptor descriptor) noexcept : m_descriptor(std::move(descriptor))
+    {}
 
-    int m_descriptor;
-    std::int64_t m_size;
-    Identity m_identity;
+    FileDescriptor m_descriptor;
+    std::int64_t m_size = 0;
+    Identity m_identity{};
 };
 
 } // namespace Loadwick

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <utility>
 
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 #include "probe/ProbeEnvironment.h"
 #include "probe/ProbeError.h"
 #include "probe/ProbeOutputParser.h"

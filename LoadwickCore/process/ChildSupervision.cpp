@@ -5,7 +5,7 @@
 #include <new>
 #include <utility>
 
-#include "process/Pipe.h"
+#include "posix/FileDescriptor.h"
 #include "process/ProcessTermination.h"
 #include "process/StreamReaders.h"
 

@@ -1,10 +1,12 @@
 #include "posix/FileDescriptor.h"
 
 #include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace Loadwick {
@@ -31,7 +33,7 @@ TEST(FileDescriptorTest, ownsNothingAtFirst)
     EXPECT_FALSE(FileDescriptor(-1).isOpen());
 }
 
-TEST(FileDescriptorTest, closesAtItsEnd)
+TEST(FileDescriptorTest, closesWhenItsOwnerGoes)
 {
     const int number = openNumber();
     {
@@ -78,7 +80,7 @@ TEST(FileDescriptorTest, duplicatesClosedOnExecAndAboveTheStandardStreams)
     EXPECT_EQ(fcntl(duplicate.number(), F_GETFD), FD_CLOEXEC);
 }
 
-TEST(FileDescriptorTest, duplicatesNothingToNone)
+TEST(FileDescriptorTest, duplicatesNoneToNone)
 {
     EXPECT_FALSE(FileDescriptor().duplicate().isOpen());
 }
@@ -91,6 +93,63 @@ TEST(FileDescriptorTest, survivesBeingHandedToItself)
     owner = std::move(same);
     EXPECT_EQ(owner.number(), number);
     EXPECT_TRUE(isOpenNumber(number));
+}
+
+TEST(FileDescriptorTest, carriesBytesThroughAPipe)
+{
+    const Pipe pipe = Pipe::open();
+    char byte = 0;
+    ASSERT_EQ(write(pipe.writeEnd.number(), "x", 1), 1);
+    ASSERT_EQ(read(pipe.readEnd.number(), &byte, 1), 1);
+    EXPECT_EQ(byte, 'x');
+}
+
+TEST(FileDescriptorTest, opensPipesClosedOnExecAndAboveTheStandardStreams)
+{
+    const Pipe pipe = Pipe::open();
+    for (const int end : {pipe.readEnd.number(), pipe.writeEnd.number()}) {
+        EXPECT_EQ(fcntl(end, F_GETFD), FD_CLOEXEC);
+        EXPECT_GT(end, STDERR_FILENO);
+    }
+}
+
+TEST(FileDescriptorTest, leavesClosedStandardStreamsFreeOfPipes)
+{
+    const FileDescriptor keptInput(fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 10));
+    close(STDIN_FILENO);
+    const Pipe pipe = Pipe::open();
+    EXPECT_GT(pipe.readEnd.number(), STDERR_FILENO);
+    EXPECT_LT(fcntl(STDIN_FILENO, F_GETFD), 0);
+    if (keptInput.isOpen())
+        dup2(keptInput.number(), STDIN_FILENO);
+}
+
+// The pipes of an unprivileged user may already hold all that they may together.
+TEST(FileDescriptorTest, opensPipesOfAtLeastTheUsualSize)
+{
+#if defined(__linux__)
+    EXPECT_GE(fcntl(Pipe::open().readEnd.number(), F_GETPIPE_SZ), 64 * 1024);
+#else
+    GTEST_SKIP() << "this system does not tell";
+#endif
+}
+
+TEST(FileDescriptorTest, saysWhyThereIsNoPipe)
+{
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    std::error_code reason;
+    try {
+        (void)Pipe::open();
+    } catch (const std::system_error &error) {
+        // A sanitizer that checks the error's type needs descriptors of its own.
+        setrlimit(RLIMIT_NOFILE, &before);
+        reason = error.code();
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(reason, std::errc::too_many_files_open);
 }
 
 } // namespace Loadwick

@@ -1,6 +1,7 @@
 #include "posix/ProcessContext.h"
 
-#include <cstdlib>
+#include <cerrno>
+#include <cstring>
 
 #include <gtest/gtest.h>
 #include <pwd.h>
@@ -10,6 +11,53 @@
 #include "support/EnvironmentSwap.h"
 
 namespace Loadwick {
+
+namespace {
+
+int failures = 0; // that a lookup has yet to give
+
+int recorded(passwd *entry, char *buffer, const char *home, passwd **found)
+{
+    entry->pw_dir = home == nullptr ? nullptr : std::strcpy(buffer, home);
+    *found = entry;
+    return 0;
+}
+
+int nobody(uid_t, passwd *, char *, std::size_t, passwd **found)
+{
+    *found = nullptr;
+    return 0;
+}
+
+int withoutHome(uid_t, passwd *entry, char *buffer, std::size_t, passwd **found)
+{
+    return recorded(entry, buffer, nullptr, found);
+}
+
+int withEmptyHome(uid_t, passwd *entry, char *buffer, std::size_t, passwd **found)
+{
+    return recorded(entry, buffer, "", found);
+}
+
+int interrupted(uid_t, passwd *entry, char *buffer, std::size_t, passwd **found)
+{
+    *found = nullptr;
+    return failures-- > 0 ? EINTR : recorded(entry, buffer, "/home/patient", found);
+}
+
+int needingRoom(uid_t, passwd *entry, char *buffer, std::size_t size, passwd **found)
+{
+    *found = nullptr;
+    return size < 100'000 ? ERANGE : recorded(entry, buffer, "/home/long", found);
+}
+
+int broken(uid_t, passwd *, char *, std::size_t, passwd **found)
+{
+    *found = nullptr;
+    return EIO;
+}
+
+} // namespace
 
 TEST(ProcessContextTest, readsTheEnvironmentAsBytes)
 {
@@ -69,6 +117,23 @@ TEST(ProcessContextTest, asksThePasswordDatabaseWhenHomeIsUnsetOrEmpty)
     const std::string recorded = entry != nullptr && *entry->pw_dir != '\0' ? entry->pw_dir : "/";
     EXPECT_EQ(homeFolder({}), recorded);
     EXPECT_EQ(homeFolder({{"HOME", ""}}), recorded);
+}
+
+TEST(ProcessContextTest, givesTheRootWhereNoHomeIsRecorded)
+{
+    for (const auto lookup : {nobody, withoutHome, withEmptyHome, broken})
+        EXPECT_EQ(recordedHome(7, lookup), "/");
+}
+
+TEST(ProcessContextTest, asksAgainAfterAnInterruption)
+{
+    failures = 3;
+    EXPECT_EQ(recordedHome(7, interrupted), "/home/patient");
+}
+
+TEST(ProcessContextTest, makesRoomForALongEntry)
+{
+    EXPECT_EQ(recordedHome(7, needingRoom), "/home/long");
 }
 
 } // namespace Loadwick

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 #include "probe/ProbeError.h"
 #include "samples/TemporaryFolder.h"
 #include "support/Stopwatch.h"

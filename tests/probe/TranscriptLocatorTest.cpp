@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 #include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
 #include "support/InMemoryFileSystem.h"

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 #include "samples/TemporaryFolder.h"
 #include "support/Stopwatch.h"
 

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "process/Pipe.h"
+#include "posix/FileDescriptor.h"
 #include "support/Stopwatch.h"
 
 namespace Loadwick {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "process/Pipe.h"
+#include "posix/FileDescriptor.h"
 #include "support/ProcessCensus.h"
 #include "support/Stopwatch.h"
 

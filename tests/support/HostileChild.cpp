@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-#include "process/Pipe.h"
+#include "posix/FileDescriptor.h"
 #include "text/Fatal.h"
 
 namespace Loadwick {

@@ -6,7 +6,7 @@
 
 #include "history/ScanHistory.h"
 #include "history/ScanHistoryStore.h"
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 #include "posix/RegularFile.h"
 #include "probe/ProbeOutputParser.h"
 #include "probe/ProbeRunner.h"

@@ -4,7 +4,7 @@
 #include "faults/driver/Operation.h"
 #include "faults/driver/SampleHome.h"
 #include "history/WeeklyKPIReader.h"
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 #include "probe/TranscriptLocator.h"
 #include "probe/TranscriptReader.h"
 #include "report/InstructionFileScanner.h"

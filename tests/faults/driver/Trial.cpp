@@ -17,10 +17,10 @@
 
 #include "faults/driver/Progress.h"
 #include "faults/driver/Shim.h"
+#include "posix/FileDescriptor.h"
 #include "probe/ProbeError.h"
 #include "process/Deadline.h"
 #include "process/ExitWatch.h"
-#include "process/Pipe.h"
 #include "support/ProcessCensus.h"
 #include "text/Fatal.h"
 

@@ -1,4 +1,4 @@
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 
 #include <algorithm>
 #include <array>
@@ -7,13 +7,12 @@
 #include <string>
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #if defined(__linux__)
 #include <linux/magic.h>
 #include <sys/statfs.h>
 #endif
-
-#include "posix/FolderEntryKind.h"
 
 namespace Loadwick {
 
@@ -25,9 +24,9 @@ struct ListingCloser
 };
 using Listing = std::unique_ptr<DIR, ListingCloser>;
 
-/// Whether the disk that holds `folder` gives a folder a link for its name, one for its ".", and
-/// one for the ".." of each folder in it, and never two when there is one. Others give always one
-/// (btrfs), always two (some of the network), or what the layer on top has (overlays).
+/// Whether the disk that holds `folder` gives each folder one link for its name, one for its ".",
+/// and one for the ".." of each folder in it. Others always give one (btrfs), always two (some
+/// network disks), or what the layer on top has (overlays).
 bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) noexcept
 {
 #if defined(__linux__)
@@ -42,13 +41,14 @@ bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) 
 #endif
 }
 
-unsigned char typeOf([[maybe_unused]] const dirent &entry) noexcept
+/// The DT_ constant of an entry, by examining it; DT_UNKNOWN when that fails.
+unsigned char examinedType(int folder, const char *name, int flags) noexcept
 {
-#ifdef _DIRENT_HAVE_D_TYPE
-    return entry.d_type;
-#else
-    return 0; // DT_UNKNOWN
-#endif
+    struct stat status
+    {};
+    if (::fstatat(folder, name, &status, flags) != 0)
+        return DT_UNKNOWN;
+    return static_cast<unsigned char>(IFTODT(status.st_mode));
 }
 
 } // namespace
@@ -61,13 +61,13 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
     const Listing listing(::opendir(folder.c_str()));
     if (!listing)
         return;
-    std::string name; // one for all entries: making a text for each took half of the time
+    std::string name; // one for all entries: a string for each took half of the time
     while (const dirent *const entry = ::readdir(listing.get())) {
         name = entry->d_name;
         if (name == "." || name == "..")
             continue;
         const EntryKind kind =
-            folderEntryKind(::dirfd(listing.get()), entry->d_name, typeOf(*entry));
+            folderEntryKind(::dirfd(listing.get()), entry->d_name, entry->d_type);
         if (visit(name, kind) == Walk::stop)
             return;
     }
@@ -75,7 +75,7 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
 
 bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
 {
-    // A link that leads nowhere is an entry too, and what cannot be looked at may be one.
+    // A link that leads nowhere is an entry too, and what cannot be examined may be one.
     struct stat status
     {};
     return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;
@@ -83,12 +83,28 @@ bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
 
 bool PosixFileSystem::mayHoldFolders(const std::filesystem::path &folder) const
 {
-    // What cannot be had stays 0, which rules nothing out.
+    // Without a status the count stays 0, which rules nothing out.
     constexpr nlink_t linksWithoutFolders = 2;
     struct stat status
     {};
     (void)::lstat(folder.c_str(), &status);
     return status.st_nlink != linksWithoutFolders || !countsFoldersAsLinks(folder);
+}
+
+FileSystem::EntryKind folderEntryKind(int folder, const char *name, unsigned char type) noexcept
+{
+    if (type == DT_UNKNOWN)
+        type = examinedType(folder, name, AT_SYMLINK_NOFOLLOW);
+    if (type == DT_LNK && examinedType(folder, name, 0) == DT_REG)
+        type = DT_REG;
+    switch (type) {
+    case DT_REG:
+        return FileSystem::EntryKind::file;
+    case DT_DIR:
+        return FileSystem::EntryKind::folder;
+    default:
+        return FileSystem::EntryKind::other;
+    }
 }
 
 } // namespace Loadwick

@@ -1,11 +1,14 @@
-#include "posix/PosixFileSystem.h"
+#include "posix/FileSystem.h"
 
 #include <map>
 #include <string>
 
+#include <dirent.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "posix/FileDescriptor.h"
 #include "samples/TemporaryFolder.h"
 #include "support/EnvironmentSwap.h"
 #include "support/PlainPermissions.h"
@@ -31,7 +34,7 @@ Entries entriesOf(const fs::path &folder)
 
 } // namespace
 
-TEST(PosixFileSystemTest, tellsFilesFromFolders)
+TEST(FileSystemTest, tellsFilesFromFolders)
 {
     const TemporaryFolder folder;
     (void)folder.write("file", "");
@@ -42,7 +45,7 @@ TEST(PosixFileSystemTest, tellsFilesFromFolders)
                                                  {".hidden", EntryKind::file}}));
 }
 
-TEST(PosixFileSystemTest, takesALinkForTheFileItLeadsTo)
+TEST(FileSystemTest, takesALinkForTheFileItLeadsTo)
 {
     const TemporaryFolder folder;
     (void)folder.write("file", "");
@@ -58,21 +61,21 @@ TEST(PosixFileSystemTest, takesALinkForTheFileItLeadsTo)
     EXPECT_EQ(entries.at("toItself"), EntryKind::other);
 }
 
-TEST(PosixFileSystemTest, takesAFifoForNoFile)
+TEST(FileSystemTest, takesAFifoForNoFile)
 {
     const TemporaryFolder folder;
     ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
     EXPECT_EQ(entriesOf(folder.path()), (Entries{{"fifo", EntryKind::other}}));
 }
 
-TEST(PosixFileSystemTest, givesNamesAsBytes)
+TEST(FileSystemTest, givesNamesAsBytes)
 {
     const TemporaryFolder folder;
     (void)folder.write("caf\xE9", "");
     EXPECT_EQ(entriesOf(folder.path()), (Entries{{"caf\xE9", EntryKind::file}}));
 }
 
-TEST(PosixFileSystemTest, stopsWhenToldTo)
+TEST(FileSystemTest, stopsWhenToldTo)
 {
     const TemporaryFolder folder;
     (void)folder.write("a", "");
@@ -85,7 +88,7 @@ TEST(PosixFileSystemTest, stopsWhenToldTo)
     EXPECT_EQ(visits, 1);
 }
 
-TEST(PosixFileSystemTest, findsNothingInWhatCannotBeListed)
+TEST(FileSystemTest, findsNothingInWhatCannotBeListed)
 {
     const TemporaryFolder folder;
     EXPECT_TRUE(entriesOf(folder.path() / "missing").empty());
@@ -94,7 +97,7 @@ TEST(PosixFileSystemTest, findsNothingInWhatCannotBeListed)
     EXPECT_TRUE(entriesOf("").empty());
 }
 
-TEST(PosixFileSystemTest, findsNothingInAFolderThatMayNotBeRead)
+TEST(FileSystemTest, findsNothingInAFolderThatMayNotBeRead)
 {
     const TemporaryFolder folder;
     (void)folder.write("sub/file", "");
@@ -103,7 +106,7 @@ TEST(PosixFileSystemTest, findsNothingInAFolderThatMayNotBeRead)
     EXPECT_TRUE(entriesOf(folder.path() / "sub").empty());
 }
 
-TEST(PosixFileSystemTest, holdsWhatAnswersToAPath)
+TEST(FileSystemTest, holdsWhatAnswersToAPath)
 {
     const TemporaryFolder folder;
     (void)folder.write("inner/file", "");
@@ -112,7 +115,7 @@ TEST(PosixFileSystemTest, holdsWhatAnswersToAPath)
     EXPECT_FALSE(PosixFileSystem().mayHold(folder.path() / "other/file"));
 }
 
-TEST(PosixFileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
+TEST(FileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
 {
     const TemporaryFolder folder;
     fs::create_symlink("missing", folder.path() / "link");
@@ -123,7 +126,7 @@ TEST(PosixFileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
     EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "shut/file"));
 }
 
-TEST(PosixFileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
+TEST(FileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
 {
     const EnvironmentSwap swap({"TMPDIR=/dev/shm"});
     const TemporaryFolder folder;
@@ -135,11 +138,41 @@ TEST(PosixFileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
     EXPECT_FALSE(PosixFileSystem().mayHoldFolders(folder.path() / "deep"));
 }
 
-TEST(PosixFileSystemTest, rulesNoFolderOutWhereNobodyKeepsCount)
+TEST(FileSystemTest, rulesNoFolderOutWhereNobodyKeepsCount)
 {
     const TemporaryFolder folder;
     EXPECT_TRUE(PosixFileSystem().mayHoldFolders("/proc/self/fd")) << "two links, and no such disk";
     EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "missing"));
+}
+
+TEST(FileSystemTest, examinesAnEntryOnlyWhereItsTypeSaysTooLittle)
+{
+    const TemporaryFolder folder;
+    (void)folder.write("file", "");
+    fs::create_directory(folder.path() / "folder");
+    fs::create_symlink("file", folder.path() / "link");
+    fs::create_directory_symlink("folder", folder.path() / "folder link");
+    fs::create_symlink("nowhere", folder.path() / "dangling link");
+    ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
+    const FileDescriptor open(::open(folder.path().c_str(), O_RDONLY | O_CLOEXEC));
+    struct Case
+    {
+        const char *name;
+        unsigned char type;
+        EntryKind kind;
+    };
+    for (const Case &each :
+         {Case{"missing", DT_REG, EntryKind::file}, Case{"missing", DT_DIR, EntryKind::folder},
+          Case{"missing", DT_FIFO, EntryKind::other}, Case{"link", DT_LNK, EntryKind::file},
+          Case{"folder link", DT_LNK, EntryKind::other},
+          Case{"dangling link", DT_LNK, EntryKind::other},
+          Case{"file", DT_UNKNOWN, EntryKind::file}, Case{"folder", DT_UNKNOWN, EntryKind::folder},
+          Case{"link", DT_UNKNOWN, EntryKind::file},
+          Case{"folder link", DT_UNKNOWN, EntryKind::other},
+          Case{"fifo", DT_UNKNOWN, EntryKind::other},
+          Case{"missing", DT_UNKNOWN, EntryKind::other}})
+        EXPECT_EQ(folderEntryKind(open.number(), each.name, each.type), each.kind)
+            << each.name << " " << static_cast<int>(each.type);
 }
 
 } // namespace Loadwick
