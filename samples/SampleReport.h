@@ -1,6 +1,6 @@
 #pragma once
 
-#include "probe/ProbeResult.h"
+#include "probe/ProbeRunning.h"
 #include "report/ScanReport.h"
 
 namespace Loadwick {

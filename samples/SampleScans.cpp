@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "report/ScanReportBuilder.h"
+#include "report/RepoSelection.h"
+#include "report/ScanReport.h"
 
 namespace Loadwick {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "probe/ProbeResult.h"
+#include "probe/ProbeRunning.h"
 #include "report/InstructionFileSet.h"
 #include "report/ScanReport.h"
 

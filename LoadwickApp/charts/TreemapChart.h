@@ -12,7 +12,7 @@
 #include <QPointer>
 
 #include "charts/MarkedChart.h"
-#include "report/TreemapRect.h"
+#include "report/TreemapLayout.h"
 
 namespace Loadwick {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "overview/HeadroomScore.h"
-#include "report/BandScale.h"
+#include "report/OpinionBand.h"
 
 namespace Loadwick {
 

@@ -2,7 +2,6 @@
 
 #include "base/QtText.h"
 #include "overview/HeadroomScore.h"
-#include "report/BandScale.h"
 #include "report/OpinionBand.h"
 #include "text/NumberText.h"
 

@@ -6,7 +6,7 @@
 #include <QAbstractListModel>
 
 #include "report/ScanReport.h"
-#include "report/SlabAttribution.h"
+#include "report/SlabAttributor.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {

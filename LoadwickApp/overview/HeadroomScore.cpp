@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "report/BandScale.h"
+#include "report/OpinionBand.h"
 
 namespace Loadwick {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "report/InstructionFileTier.h"
+#include "report/InstructionFileSet.h"
 
 namespace Loadwick {
 

@@ -7,7 +7,7 @@
 
 #include "model/ScanOutcome.h"
 #include "probe/FolderAccess.h"
-#include "report/ScanReportBuilder.h"
+#include "report/ScanReport.h"
 #include "text/Fatal.h"
 #include "text/UnicodeText.h"
 

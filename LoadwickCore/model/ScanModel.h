@@ -13,7 +13,7 @@
 #include "model/ScanState.h"
 #include "model/TaskDispatcher.h"
 #include "probe/ProbeRunning.h"
-#include "report/InstructionFileScanning.h"
+#include "report/InstructionFileScanner.h"
 #include "report/RepoSelection.h"
 
 namespace Loadwick {

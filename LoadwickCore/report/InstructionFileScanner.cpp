@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "process/BoundedCall.h"
-#include "report/InstructionFileFindings.h"
 #include "report/InstructionFileWalk.h"
 
 namespace Loadwick {

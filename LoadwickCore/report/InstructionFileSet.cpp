@@ -1,11 +1,38 @@
 #include "report/InstructionFileSet.h"
 
+#include <cmath>
+#include <utility>
+
 #include "report/ScanReport.h"
 #include "text/CheckedSum.h"
 
 namespace Loadwick {
 
 namespace {
+
+using Files = std::vector<InstructionFileEstimate>;
+
+struct Tier
+{
+    std::string_view rawValue;
+    std::string_view categoryName;
+    Files InstructionFileSet::*files;
+};
+
+Tier tierOf(InstructionFileTier tier) noexcept
+{
+    switch (tier) {
+    case InstructionFileTier::repository:
+        return {"repository", ScanReport::repositoryCategoryName,
+                &InstructionFileSet::repositoryFiles};
+    case InstructionFileTier::inherited:
+        return {"inherited", ScanReport::inheritedCategoryName,
+                &InstructionFileSet::inheritedFiles};
+    case InstructionFileTier::personal:
+        break;
+    }
+    return {"personal", ScanReport::personalCategoryName, &InstructionFileSet::personalFiles};
+}
 
 std::vector<std::string> matchTerms(InstructionFileTier tier)
 {
@@ -24,7 +51,7 @@ std::vector<std::string> matchTerms(InstructionFileTier tier)
             "usermemory",  "globalinstructions", "personalmemory"};
 }
 
-std::int64_t tokensOf(const std::vector<InstructionFileEstimate> &files)
+std::int64_t tokensOf(const Files &files)
 {
     std::int64_t tokens = 0;
     for (const InstructionFileEstimate &file : files)
@@ -34,25 +61,40 @@ std::int64_t tokensOf(const std::vector<InstructionFileEstimate> &files)
 
 } // namespace
 
-const InstructionFileSet InstructionFileSet::empty{};
-
-const std::vector<InstructionFileEstimate> &
-InstructionFileSet::files(InstructionFileTier tier) const
+std::string_view InstructionFileTier::rawValue() const noexcept
 {
-    switch (tier) {
-    case InstructionFileTier::repository:
-        return repositoryFiles;
-    case InstructionFileTier::inherited:
-        return inheritedFiles;
-    case InstructionFileTier::personal:
-        break;
-    }
-    return personalFiles;
+    return tierOf(*this).rawValue;
 }
 
-std::vector<InstructionFileEstimate> InstructionFileSet::allFiles() const
+InstructionFileEstimate InstructionFileEstimate::fromPath(std::string path, std::int64_t byteCount)
 {
-    std::vector<InstructionFileEstimate> all;
+    return {.path = std::move(path),
+            .byteCount = byteCount,
+            .estimatedTokens = estimatedTokensForByteCount(byteCount)};
+}
+
+std::int64_t InstructionFileEstimate::estimatedTokensForByteCount(std::int64_t byteCount) noexcept
+{
+    if (byteCount < 1)
+        return 0;
+    return static_cast<std::int64_t>(std::ceil(static_cast<double>(byteCount) * 0.25));
+}
+
+const InstructionFileSet InstructionFileSet::empty{};
+
+const Files &InstructionFileSet::files(InstructionFileTier tier) const
+{
+    return this->*tierOf(tier).files;
+}
+
+Files &InstructionFileSet::files(InstructionFileTier tier)
+{
+    return this->*tierOf(tier).files;
+}
+
+Files InstructionFileSet::allFiles() const
+{
+    Files all;
     for (const InstructionFileTier tier : InstructionFileTier::all)
         all.insert(all.end(), files(tier).begin(), files(tier).end());
     return all;
@@ -60,15 +102,7 @@ std::vector<InstructionFileEstimate> InstructionFileSet::allFiles() const
 
 std::string_view InstructionFileSet::categoryName(InstructionFileTier tier) noexcept
 {
-    switch (tier) {
-    case InstructionFileTier::repository:
-        return ScanReport::repositoryCategoryName;
-    case InstructionFileTier::inherited:
-        return ScanReport::inheritedCategoryName;
-    case InstructionFileTier::personal:
-        break;
-    }
-    return ScanReport::personalCategoryName;
+    return tierOf(tier).categoryName;
 }
 
 std::vector<LocalCategoryEstimate> InstructionFileSet::localCategories() const

@@ -13,23 +13,23 @@ namespace Loadwick {
 
 namespace {
 
-/// The bytes to read of a file: its own, where it tells how many it has, so that no read has to
-/// find the end; and enough to see that it is too long.
+/// How many bytes to read: the file's own size where it states one, so that no read has to find the
+/// end, but no more than it takes to see that it is too long.
 std::size_t readLimit(const RegularFile &file)
 {
     constexpr std::int64_t limit = InstructionFileScanner::importSearchLimit + 1;
     return static_cast<std::size_t>(file.size() > 0 ? std::min(file.size(), limit) : limit);
 }
 
-/// Whether a path, which is not empty, stays as it is when it is standardized behind a standard
-/// folder. No for some that would.
+/// Whether a path, which is not empty, needs no standardizing behind a standardized folder. False
+/// for some that need none.
 bool isPlain(std::string_view path)
 {
     return path.front() != '/' && path.front() != '.' && path.back() != '/' &&
            path.find("//") == std::string_view::npos && path.find("/.") == std::string_view::npos;
 }
 
-/// What a path has up to its last slash, and that.
+/// The path up to and including its last slash.
 std::string_view folderPart(std::string_view path)
 {
     return path.substr(0, path.rfind('/') + 1);
@@ -40,17 +40,17 @@ bool isUnderOrAt(std::string_view path, const std::string &folder)
     return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-/// Whether a file that could not be opened is there all the same.
-bool isUnreadable(const std::string &url, const RegularFile::Failure &failure)
+/// Whether a file that could not be opened exists all the same.
+bool isUnreadable(const std::string &path, const RegularFile::Failure &failure)
 {
     if (failure.isDenied())
         return true;
     std::error_code ignored;
-    return failure.errorNumber != 0 && std::filesystem::is_regular_file(url, ignored);
+    return failure.errorNumber != 0 && std::filesystem::is_regular_file(path, ignored);
 }
 
-/// Each token once, in order: said twice, it leads to the same file. None for a file that is too
-/// long to be searched or is not UTF-8.
+/// Each token once, in order: a repeated one leads to the same file. None for a file that is too
+/// long to search or is not UTF-8.
 std::vector<std::string> importTokensOf(const std::string &content)
 {
     std::vector<std::string> tokens;
@@ -66,10 +66,30 @@ std::vector<std::string> importTokensOf(const std::string &content)
 
 } // namespace
 
+void InstructionFileFindings::add(InstructionFileTier tier, InstructionFileEstimate file)
+{
+    const std::lock_guard lock(m_mutex);
+    m_files.files(tier).push_back(std::move(file));
+}
+
+void InstructionFileFindings::addUnreadable(std::string path)
+{
+    const std::lock_guard lock(m_mutex);
+    m_unreadablePaths.insert(std::move(path));
+}
+
+InstructionFileSet InstructionFileFindings::set() const
+{
+    const std::lock_guard lock(m_mutex);
+    InstructionFileSet files = m_files;
+    files.unreadablePaths.assign(m_unreadablePaths.begin(), m_unreadablePaths.end());
+    return files;
+}
+
 InstructionFileWalk::InstructionFileWalk(const InstructionFileScanner::Settings &settings,
                                          const std::filesystem::path &repository,
                                          std::shared_ptr<InstructionFileFindings> findings)
-    : m_root(standardizedPath(repository)),
+    : m_repository(standardizedPath(repository)),
       m_home(standardizedPath(settings.home)),
       m_maxImportDepth(settings.maxImportDepth),
       m_findings(std::move(findings))
@@ -78,66 +98,65 @@ InstructionFileWalk::InstructionFileWalk(const InstructionFileScanner::Settings 
 void InstructionFileWalk::run()
 {
     for (const char *name : {"CLAUDE.md", "CLAUDE.local.md", "AGENTS.md"})
-        admit(m_root / name, 0, InstructionFileTier::inherited);
+        admit(m_repository / name, 0, InstructionFileTier::inherited);
     for (const std::filesystem::path &folder : ancestorFolders())
         for (const char *name : {"CLAUDE.md", "CLAUDE.local.md"})
             admit(folder / name, 0, InstructionFileTier::inherited);
     admit(m_home / ".claude/CLAUDE.md", 0, InstructionFileTier::personal);
 }
 
-void InstructionFileWalk::admit(const std::string &url, int depth, InstructionFileTier origin)
+void InstructionFileWalk::admit(const std::string &path, int depth, InstructionFileTier origin)
 {
     if (depth > m_maxImportDepth || m_findings->isStopped())
         return;
-    SeenFile *const seen = seenFile(url, origin);
+    SeenFile *const seen = seenFile(path, origin);
     if (seen == nullptr || seen->depth <= depth)
         return;
-    // On a shorter road than before, the imports that the depth limit cut off come into reach.
+    // A shorter way to the file brings imports into reach that the depth limit cut off before.
     seen->depth = depth;
-    // not taken: only a disk of the network denies what an open file holds
+    // unreachable: only a network disk denies reading an open file
     if (seen->isReadDenied)
-        m_findings->addUnreadable(repairedUtf8(url));
+        m_findings->addUnreadable(repairedUtf8(path));
     for (const std::string &token : seen->importTokens) {
         if (depth == m_maxImportDepth || m_findings->isStopped())
             return;
-        admit(importTarget(token, url), depth + 1, origin);
+        admit(importTarget(token, path), depth + 1, origin);
     }
 }
 
-InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &url,
+InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &path,
                                                              InstructionFileTier origin)
 {
-    const auto known = m_seenByURL.find(url);
-    if (known != m_seenByURL.end())
+    const auto known = m_seenByPath.find(path);
+    if (known != m_seenByPath.end())
         return known->second;
-    // A system call would take a path with a NUL inside for a shorter one.
-    if (url.find('\0') != std::string::npos)
+    // A system call would cut the path at a NUL.
+    if (path.find('\0') != std::string::npos)
         return nullptr;
-    // Two names of one file have one identity.
-    const InstructionFolders::Place place = m_folders.placeOf(url);
-    auto seen = m_seen.find(place.identityPath);
+    const InstructionFolders::Entry entry = m_folders.entryAt(path);
+    auto seen = m_seen.find(entry.identityPath);
     if (seen == m_seen.end()) {
-        std::optional<SeenFile> file = countedFile(url, place, origin);
+        std::optional<SeenFile> file = countedFile(path, entry, origin);
         if (!file)
             return nullptr;
-        seen = m_seen.emplace(place.identityPath, std::move(*file)).first;
+        seen = m_seen.emplace(entry.identityPath, std::move(*file)).first;
     }
-    return m_seenByURL.emplace(url, &seen->second).first->second;
+    return m_seenByPath.emplace(path, &seen->second).first->second;
 }
 
 std::optional<InstructionFileWalk::SeenFile>
-InstructionFileWalk::countedFile(const std::string &url, const InstructionFolders::Place &place,
+InstructionFileWalk::countedFile(const std::string &path, const InstructionFolders::Entry &entry,
                                  InstructionFileTier origin)
 {
     RegularFile::Failure failure;
-    std::optional<RegularFile> file = InstructionFolders::opened(url, place, failure);
+    std::optional<RegularFile> file = InstructionFolders::opened(path, entry, failure);
     if (!file) {
-        if (isUnreadable(url, failure))
-            m_findings->addUnreadable(repairedUtf8(url));
+        if (isUnreadable(path, failure))
+            m_findings->addUnreadable(repairedUtf8(path));
         return std::nullopt;
     }
-    m_findings->add(tierOf(url, origin),
-                    InstructionFileEstimate::fromPath(repairedUtf8(url), file->size()));
+    m_findings->add(tierOf(path, origin),
+                    InstructionFileEstimate::fromPath(repairedUtf8(path), file->size()));
     SeenFile seen;
     if (const std::optional<std::string> content = file->readUpTo(readLimit(*file), &failure))
         seen.importTokens = importTokensOf(*content);
@@ -149,7 +168,7 @@ InstructionFileWalk::countedFile(const std::string &url, const InstructionFolder
 std::vector<std::filesystem::path> InstructionFileWalk::ancestorFolders() const
 {
     std::vector<std::filesystem::path> folders;
-    std::filesystem::path folder = m_root.parent_path();
+    std::filesystem::path folder = m_repository.parent_path();
     for (int count = 0; count < ancestorLimit && isUnderOrAt(folder.native(), m_home.native());
          ++count) {
         folders.push_back(folder);
@@ -160,11 +179,11 @@ std::vector<std::filesystem::path> InstructionFileWalk::ancestorFolders() const
     return folders;
 }
 
-InstructionFileTier InstructionFileWalk::tierOf(std::string_view url,
+InstructionFileTier InstructionFileWalk::tierOf(std::string_view path,
                                                 InstructionFileTier origin) const
 {
-    const std::string &root = m_root.native();
-    const bool isOwn = root.ends_with('/') ? url.starts_with(root) : isUnderOrAt(url, root);
+    const std::string &root = m_repository.native();
+    const bool isOwn = root.ends_with('/') ? path.starts_with(root) : isUnderOrAt(path, root);
     return isOwn ? InstructionFileTier(InstructionFileTier::repository) : origin;
 }
 

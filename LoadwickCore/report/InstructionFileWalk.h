@@ -1,19 +1,43 @@
 #pragma once
 
+#include <atomic>
 #include <filesystem>
 #include <limits>
 #include <memory>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
-#include "report/InstructionFileFindings.h"
 #include "report/InstructionFileScanner.h"
 #include "report/InstructionFolders.h"
 
 namespace Loadwick {
+
+/// What a walk has found so far, shared between the thread that walks and the one that waits for
+/// it. Every operation may be called from any thread.
+class InstructionFileFindings
+{
+public:
+    void add(InstructionFileTier tier, InstructionFileEstimate file);
+    void addUnreadable(std::string path);
+
+    /// A copy of everything so far.
+    [[nodiscard]] InstructionFileSet set() const;
+
+    /// Ends the walk before its next file: nobody waits for it any more.
+    void stop() noexcept { m_isStopped = true; }
+    [[nodiscard]] bool isStopped() const noexcept { return m_isStopped; }
+
+private:
+    mutable std::mutex m_mutex;
+    InstructionFileSet m_files;
+    std::set<std::string> m_unreadablePaths;
+    std::atomic<bool> m_isStopped = false;
+};
 
 /// One walk over the instruction files of a repository: its own, those of the folders above it up
 /// to the home folder, the user's, and what they import, each file's imports before the next file.
@@ -21,7 +45,7 @@ namespace Loadwick {
 class InstructionFileWalk
 {
 public:
-    /// Folders above the repository beyond this many are not searched.
+    /// At most this many folders above the repository are searched.
     static constexpr int ancestorLimit = 64;
 
     InstructionFileWalk(const InstructionFileScanner::Settings &settings,
@@ -40,25 +64,25 @@ private:
         bool isReadDenied = false;
     };
 
-    // Files are named by the text of their standardized path: a path object costs as much to make
-    // as a file to open.
-    void admit(const std::string &url, int depth, InstructionFileTier origin);
-    [[nodiscard]] SeenFile *seenFile(const std::string &url, InstructionFileTier origin);
-    [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &url,
-                                                      const InstructionFolders::Place &place,
+    // Files are named by the text of their standardized path: making a path object costs as much as
+    // opening a file.
+    void admit(const std::string &path, int depth, InstructionFileTier origin);
+    [[nodiscard]] SeenFile *seenFile(const std::string &path, InstructionFileTier origin);
+    [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &path,
+                                                      const InstructionFolders::Entry &entry,
                                                       InstructionFileTier origin);
     [[nodiscard]] std::vector<std::filesystem::path> ancestorFolders() const;
-    [[nodiscard]] InstructionFileTier tierOf(std::string_view url,
+    [[nodiscard]] InstructionFileTier tierOf(std::string_view path,
                                              InstructionFileTier origin) const;
     [[nodiscard]] std::string importTarget(std::string_view token,
                                            const std::string &importer) const;
 
-    std::filesystem::path m_root;
+    std::filesystem::path m_repository;
     std::filesystem::path m_home;
     int m_maxImportDepth;
     std::shared_ptr<InstructionFileFindings> m_findings;
-    std::unordered_map<std::string, SeenFile> m_seen;        ///< by path with every link resolved
-    std::unordered_map<std::string, SeenFile *> m_seenByURL; ///< the same by path as reached
+    std::unordered_map<std::string, SeenFile> m_seen;         ///< by path with every link resolved
+    std::unordered_map<std::string, SeenFile *> m_seenByPath; ///< the same by path as reached
     InstructionFolders m_folders;
 };
 

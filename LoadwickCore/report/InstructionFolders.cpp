@@ -11,7 +11,7 @@ namespace Loadwick {
 
 namespace {
 
-/// To go on from a folder, one need not be allowed to list it.
+/// Reaching a file through a folder does not need permission to list it.
 #if defined(O_PATH)
 constexpr int folderFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
 #else
@@ -42,26 +42,27 @@ mode_t typeOf(int folder, const std::string &name)
 
 } // namespace
 
-InstructionFolders::Place InstructionFolders::placeOf(const std::string &url)
+InstructionFolders::Entry InstructionFolders::entryAt(const std::string &path)
 {
-    const std::size_t nameStart = url.rfind('/') + 1;
-    const Folder &folder = folderAt(url.substr(0, nameStart));
-    Place place{.identityPath = {}, .type = 0, .folder = RegularFile::currentFolder, .name = url};
+    const std::size_t nameStart = path.rfind('/') + 1;
+    const Folder &folder = folderAt(path.substr(0, nameStart));
+    Entry entry{.identityPath = {}, .type = 0, .folder = RegularFile::currentFolder, .name = path};
     if (folder.descriptor.isOpen()) {
-        place.folder = folder.descriptor.number();
-        place.name.erase(0, nameStart);
+        entry.folder = folder.descriptor.number();
+        entry.name.erase(0, nameStart);
     }
-    place.type = typeOf(place.folder, place.name);
-    const bool isItsOwn = place.type != 0 && place.type != S_IFLNK && nameStart > 0;
-    place.identityPath = isItsOwn ? folder.resolvedPath + url.substr(nameStart) : resolvedPath(url);
-    return place;
+    entry.type = typeOf(entry.folder, entry.name);
+    const bool isItsOwn = entry.type != 0 && entry.type != S_IFLNK && nameStart > 0;
+    entry.identityPath =
+        isItsOwn ? folder.resolvedPath + path.substr(nameStart) : resolvedPath(path);
+    return entry;
 }
 
-std::optional<RegularFile> InstructionFolders::opened(const std::string &url, const Place &place,
+std::optional<RegularFile> InstructionFolders::opened(const std::string &path, const Entry &entry,
                                                       RegularFile::Failure &failure)
 {
-    return place.type == S_IFREG ? RegularFile::openSeen(place.name, &failure, place.folder)
-                                 : RegularFile::open(url, &failure);
+    return entry.type == S_IFREG ? RegularFile::openSeen(entry.name, &failure, entry.folder)
+                                 : RegularFile::open(path, &failure);
 }
 
 const InstructionFolders::Folder &InstructionFolders::folderAt(const std::string &path)

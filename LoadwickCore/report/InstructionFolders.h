@@ -12,41 +12,41 @@
 
 namespace Loadwick {
 
-/// The folders of the files that one walk comes by. The way to a folder, with its links, is gone
-/// once for all its files: going it for the look at each took a third as long as to open, read and
-/// close the file.
+/// The folders that one walk comes through. Each is resolved, links and all, once for all its
+/// files: doing so for every file took a third of the time that opening, reading and closing it
+/// takes.
 class InstructionFolders
 {
 public:
-    /// Descriptors that are held at most; files of further folders are reached by their whole path.
+    /// At most this many descriptors are held; files of further folders are reached by their path.
     static constexpr std::size_t heldLimit = 32;
 
-    /// A file that was looked at and not opened.
-    struct Place
+    /// A file that was examined without opening it.
+    struct Entry
     {
-        std::string identityPath; ///< no link in it; a path that leads nowhere is its own
-        mode_t type;              ///< a link being one itself; 0 when nothing is there
-        int folder;               ///< where `name` begins, as `openat` takes it
+        std::string identityPath; ///< with every link resolved; unchanged when nothing exists there
+        mode_t type;              ///< as of `lstat`; 0 when nothing exists
+        int folder;               ///< the folder of `name`, as `openat` takes it
         std::string name;
     };
 
-    /// `url` is a path without NUL.
-    [[nodiscard]] Place placeOf(const std::string &url);
+    /// `path` holds no NUL.
+    [[nodiscard]] Entry entryAt(const std::string &path);
 
-    /// The file at a place, if it is regular or a link to one.
+    /// The entry's file, if it is regular or a link to a regular file.
     [[nodiscard]] static std::optional<RegularFile>
-    opened(const std::string &url, const Place &place, RegularFile::Failure &failure);
+    opened(const std::string &path, const Entry &entry, RegularFile::Failure &failure);
 
 private:
     struct Folder
     {
-        std::string resolvedPath; ///< with a slash at its end
+        std::string resolvedPath; ///< with a trailing slash
         FileDescriptor descriptor;
     };
 
     [[nodiscard]] const Folder &folderAt(const std::string &path);
 
-    std::unordered_map<std::string, Folder> m_folders; ///< by path with a slash at its end
+    std::unordered_map<std::string, Folder> m_folders; ///< by path with a trailing slash
 };
 
 } // namespace Loadwick

@@ -1,8 +1,34 @@
 #include "report/OpinionBand.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "text/NumberText.h"
 
 namespace Loadwick {
+
+namespace {
+
+struct Words
+{
+    std::string_view rawValue;
+    std::string_view title;
+};
+
+Words wordsOf(OpinionBand band) noexcept
+{
+    switch (band) {
+    case OpinionBand::lean:
+        return {"lean", "Lean"};
+    case OpinionBand::heavy:
+        return {"heavy", "Heavy"};
+    case OpinionBand::excessive:
+        break;
+    }
+    return {"excessive", "Excessive"};
+}
+
+} // namespace
 
 const std::string_view OpinionBand::opinionNote =
     "These bands are this app's opinion, not an industry standard.";
@@ -13,9 +39,6 @@ const std::string_view OpinionBand::anchorNote =
     "catalogues a subagent does not receive, so 30,000 sits just above that measured floor, and "
     "60,000 is where startup exceeds a quarter of a 200k window.";
 
-const std::array<OpinionBand, 3> OpinionBand::all{OpinionBand::lean, OpinionBand::heavy,
-                                                  OpinionBand::excessive};
-
 OpinionBand OpinionBand::band(std::int64_t startupTokens) noexcept
 {
     if (startupTokens < heavyThreshold)
@@ -25,36 +48,12 @@ OpinionBand OpinionBand::band(std::int64_t startupTokens) noexcept
 
 std::string_view OpinionBand::rawValue() const noexcept
 {
-    switch (m_value) {
-    case lean:
-        return "lean";
-    case heavy:
-        return "heavy";
-    case excessive:
-        break;
-    }
-    return "excessive";
-}
-
-std::optional<OpinionBand> OpinionBand::fromRawValue(std::string_view text) noexcept
-{
-    for (const OpinionBand band : all)
-        if (band.rawValue() == text)
-            return band;
-    return std::nullopt;
+    return wordsOf(*this).rawValue;
 }
 
 std::string_view OpinionBand::title() const noexcept
 {
-    switch (m_value) {
-    case lean:
-        return "Lean";
-    case heavy:
-        return "Heavy";
-    case excessive:
-        break;
-    }
-    return "Excessive";
+    return wordsOf(*this).title;
 }
 
 std::string OpinionBand::range(const TextLocale &locale) const
@@ -71,5 +70,31 @@ std::string OpinionBand::range(const TextLocale &locale) const
     }
     return "over " + upper;
 }
+
+namespace BandScale {
+
+std::int64_t maximum(std::int64_t total) noexcept
+{
+    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+    if (total < 1)
+        return normalMaximum;
+    const std::int64_t steps = total / step + 1;
+    if (steps > largest / step)
+        return largest;
+    return std::max(steps * step, normalMaximum);
+}
+
+double position(std::int64_t total) noexcept
+{
+    return thresholdPosition(total, total);
+}
+
+double thresholdPosition(std::int64_t threshold, std::int64_t total) noexcept
+{
+    const double fraction = static_cast<double>(threshold) / static_cast<double>(maximum(total));
+    return std::clamp(fraction, 0.0, 1.0);
+}
+
+} // namespace BandScale
 
 } // namespace Loadwick

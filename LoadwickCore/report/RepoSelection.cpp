@@ -6,7 +6,7 @@ namespace Loadwick {
 
 namespace {
 
-/// The root keeps its slash. Nothing else changes: the path stays as it was chosen.
+/// The root keeps its slash. The path otherwise stays as it was chosen.
 std::filesystem::path withoutTrailingSlash(std::filesystem::path path)
 {
     while (!path.has_filename() && path.has_relative_path())
@@ -18,12 +18,11 @@ std::filesystem::path withoutTrailingSlash(std::filesystem::path path)
 
 RepoSelection RepoSelection::fromUrl(const std::filesystem::path &url)
 {
-    const std::filesystem::path folder = withoutTrailingSlash(url);
-    return {.url = url,
-            .displayName = pathText(folder.has_filename() ? folder.filename() : folder)};
+    const std::filesystem::path named = withoutTrailingSlash(url);
+    return {.url = url, .displayName = pathText(named.has_filename() ? named.filename() : named)};
 }
 
-std::string RepoSelection::id() const
+std::string RepoSelection::path() const
 {
     return pathText(withoutTrailingSlash(url));
 }

@@ -14,9 +14,9 @@ struct RepoSelection
     /// Named after the folder's last path component, as text.
     [[nodiscard]] static RepoSelection fromUrl(const std::filesystem::path &url);
 
-    /// The path as text: what a repository is told apart by.
-    [[nodiscard]] std::string id() const;
-    [[nodiscard]] std::string path() const { return id(); }
+    /// The path as text, which identifies the repository.
+    [[nodiscard]] std::string path() const;
+    [[nodiscard]] std::string id() const { return path(); }
 
     friend bool operator==(const RepoSelection &, const RepoSelection &) = default;
 };

@@ -1,7 +1,9 @@
 #include "report/ScanReport.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "report/RepoSelection.h"
 #include "text/CheckedSum.h"
 #include "text/NumberText.h"
 
@@ -18,19 +20,28 @@ std::int64_t tokensFrom(Provenance provenance, const std::vector<SlabAttribution
     return tokens;
 }
 
-std::string overAttributionSentence(OverAttributionSource source)
+struct Words
+{
+    std::string_view rawValue;
+    std::string_view sentence;
+};
+
+Words wordsOf(OverAttributionSource source) noexcept
 {
     switch (source) {
     case OverAttributionSource::selfReported:
-        return "The session's self-reported categories alone add up to more than its measured "
-               "total.";
+        return {"selfReported",
+                "The session's self-reported categories alone add up to more than its measured "
+                "total."};
     case OverAttributionSource::localEstimate:
-        return "The local file estimates alone add up to more than the measured total.";
+        return {"localEstimate",
+                "The local file estimates alone add up to more than the measured total."};
     case OverAttributionSource::combined:
         break;
     }
-    return "The attributed rows — the session's self-reported categories plus this app's local "
-           "file estimates — add up to more than the measured total.";
+    return {"combined",
+            "The attributed rows — the session's self-reported categories plus this app's local "
+            "file estimates — add up to more than the measured total."};
 }
 
 std::string line(std::string_view label, std::string_view text)
@@ -39,6 +50,11 @@ std::string line(std::string_view label, std::string_view text)
 }
 
 } // namespace
+
+std::string_view OverAttributionSource::rawValue() const noexcept
+{
+    return wordsOf(*this).rawValue;
+}
 
 const std::string_view ScanReport::measurementNote =
     "Measured: one headless `claude -p` session (model sonnet) started in this folder; the number "
@@ -58,11 +74,16 @@ const std::vector<std::string> &ScanReport::unreadablePaths() const noexcept
     return fileSet.unreadablePaths;
 }
 
-double ScanReport::categoryShare(const SlabAttribution &row) const noexcept
+double ScanReport::share(std::int64_t tokens, std::int64_t total) noexcept
 {
     if (total < 1)
         return 0.0;
-    return std::clamp(static_cast<double>(row.tokens) / static_cast<double>(total), 0.0, 1.0);
+    return std::clamp(static_cast<double>(tokens) / static_cast<double>(total), 0.0, 1.0);
+}
+
+double ScanReport::categoryShare(const SlabAttribution &row) const noexcept
+{
+    return share(row.tokens, total);
 }
 
 std::string ScanReport::totalSourceLine() const
@@ -115,8 +136,8 @@ std::optional<std::string> ScanReport::overAttributionNote(const TextLocale &loc
 {
     if (!overAttributed)
         return std::nullopt;
-    return overAttributionSentence(overAttributionSource()) +
-           " The bar's segments therefore exceed the measured total of " +
+    return line(wordsOf(overAttributionSource()).sentence,
+                " The bar's segments therefore exceed the measured total of ") +
            NumberText::grouped(total, locale) +
            " tokens, and there is no hidden remainder to show.";
 }
@@ -130,5 +151,29 @@ std::optional<std::string> ScanReport::unreportedCategoryFilesNote() const
            "instruction files below are local estimates of what makes up that total, not "
            "additional tokens on top of it.";
 }
+
+namespace ScanReportBuilder {
+
+ScanReport build(const RepoSelection &selection, const ProbeResult &probe,
+                 const InstructionFileSet &files)
+{
+    AttributionOutcome outcome = SlabAttributor::attribute(
+        probe.authoritativeTotal, probe.selfReportedSlabs, files.localCategories());
+    return {.repositoryName = selection.displayName,
+            .repositoryPath = selection.path(),
+            .total = probe.authoritativeTotal,
+            .totalSource = probe.totalSource,
+            .sessionID = probe.sessionID,
+            .resolvedCLIPath = probe.resolvedCLIPath,
+            .duration = probe.duration,
+            .rows = std::move(outcome.rows),
+            .fileSet = files,
+            .band = OpinionBand::band(probe.authoritativeTotal),
+            .remainder = outcome.remainder,
+            .overAttributed = outcome.overAttributed,
+            .categoriesSelfReported = outcome.categoriesSelfReported};
+}
+
+} // namespace ScanReportBuilder
 
 } // namespace Loadwick

@@ -1,19 +1,49 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "probe/TotalSource.h"
+#include "probe/ProbeRunning.h"
 #include "report/InstructionFileSet.h"
 #include "report/OpinionBand.h"
-#include "report/OverAttributionSource.h"
-#include "report/SlabAttribution.h"
-#include "text/TextLocale.h"
+#include "report/SlabAttributor.h"
+#include "text/NamedValue.h"
 
 namespace Loadwick {
+
+struct RepoSelection;
+struct TextLocale;
+
+/// Which kind of row exceeds the total.
+class OverAttributionSource
+{
+public:
+    enum Value
+    {
+        selfReported,
+        localEstimate,
+        combined
+    };
+    static constexpr std::array all{selfReported, localEstimate, combined};
+
+    constexpr OverAttributionSource(Value value) noexcept : m_value(value) {}
+    constexpr operator Value() const noexcept { return m_value; }
+
+    /// The case's name.
+    [[nodiscard]] std::string_view rawValue() const noexcept;
+    [[nodiscard]] static std::optional<OverAttributionSource>
+    fromRawValue(std::string_view text) noexcept
+    {
+        return valueNamed<OverAttributionSource>(text);
+    }
+
+private:
+    Value m_value;
+};
 
 /// Everything one scan measured and derived. Made once by `ScanReportBuilder`, never changed.
 struct ScanReport
@@ -42,18 +72,19 @@ struct ScanReport
     [[nodiscard]] std::vector<InstructionFileEstimate> files() const;
     [[nodiscard]] const std::vector<std::string> &unreadablePaths() const noexcept;
 
-    /// A row's part of the total, in [0, 1]; 0 for every row when the total is below 1.
+    /// `tokens` as a fraction of `total`, in [0, 1]; 0 when the total is below 1.
+    [[nodiscard]] static double share(std::int64_t tokens, std::int64_t total) noexcept;
     [[nodiscard]] double categoryShare(const SlabAttribution &row) const noexcept;
 
     [[nodiscard]] std::string totalSourceLine() const;
 
-    /// The six lines that "Copy Summary" puts on the clipboard, joined by single line feeds there.
+    /// The six lines that "Copy Summary" puts on the clipboard.
     [[nodiscard]] std::vector<std::string> summaryLines(const TextLocale &locale) const;
 
     /// Nothing when every file could be read.
     [[nodiscard]] std::optional<std::string> unreadableFilesNote() const;
 
-    /// Which kind of row exceeds the total by itself; means something only when `overAttributed`.
+    /// Which kind of row exceeds the total by itself; meaningful only when `overAttributed`.
     /// Overflow of a 64-bit sum ends the program.
     [[nodiscard]] OverAttributionSource overAttributionSource() const;
 
@@ -65,5 +96,13 @@ struct ScanReport
 
     friend bool operator==(const ScanReport &, const ScanReport &) = default;
 };
+
+/// Combines a probe's result, the chosen repository and its files into a report.
+namespace ScanReportBuilder {
+
+[[nodiscard]] ScanReport build(const RepoSelection &selection, const ProbeResult &probe,
+                               const InstructionFileSet &files);
+
+} // namespace ScanReportBuilder
 
 } // namespace Loadwick

@@ -5,18 +5,65 @@
 #include <unordered_set>
 #include <utility>
 
+#include "probe/SlabParser.h"
+#include "report/InstructionFileSet.h"
 #include "text/CheckedSum.h"
 #include "text/UnicodeText.h"
 
-namespace Loadwick::SlabAttributor {
+namespace Loadwick {
 
 namespace {
 
-/// A local estimate on its way through an attribution.
+struct Words
+{
+    std::string_view rawValue;
+    std::string_view sourceLabel;
+};
+
+Words wordsOf(Provenance provenance) noexcept
+{
+    switch (provenance) {
+    case Provenance::claudeReported:
+        return {"claudeReported", "reported by Claude"};
+    case Provenance::selfReported:
+        return {"selfReported", "self-reported by the session (estimate)"};
+    case Provenance::localEstimate:
+        return {"localEstimate", "measured on disk at ~4 bytes/token (estimate)"};
+    case Provenance::remainder:
+        break;
+    }
+    return {"remainder", "derived: total minus attributed"};
+}
+
+} // namespace
+
+std::string_view Provenance::rawValue() const noexcept
+{
+    return wordsOf(*this).rawValue;
+}
+
+std::string_view Provenance::sourceLabel() const noexcept
+{
+    return wordsOf(*this).sourceLabel;
+}
+
+std::string SlabAttribution::id() const
+{
+    return std::to_string(ordinal)
+        .append("|")
+        .append(provenance.rawValue())
+        .append("|")
+        .append(name);
+}
+
+namespace SlabAttributor {
+
+namespace {
+
 struct Local
 {
     const LocalCategoryEstimate *estimate;
-    std::unordered_set<std::string> keys; ///< normalised names that it answers to
+    std::unordered_set<std::string> keys; ///< normalised names that the estimate covers
     std::int64_t budget;                  ///< tokens that no self-reported slab has drawn yet
 };
 
@@ -43,7 +90,7 @@ void addRow(std::vector<SlabAttribution> &rows, std::string name, std::int64_t t
                     .ordinal = static_cast<std::int64_t>(rows.size())});
 }
 
-/// A slab that no local estimate stands for is a row; of any other only what exceeds the budgets.
+/// A slab that no local estimate covers becomes a row; of a covered one, only the excess does.
 void addSelfReported(std::vector<SlabAttribution> &rows, const SelfReportedSlab &slab,
                      std::vector<Local> &locals)
 {
@@ -93,7 +140,7 @@ std::int64_t tokensOf(const std::vector<SlabAttribution> &rows)
     return tokens;
 }
 
-bool standsBefore(const SlabAttribution &left, const SlabAttribution &right)
+bool isHeavier(const SlabAttribution &left, const SlabAttribution &right)
 {
     return left.tokens != right.tokens ? left.tokens > right.tokens : left.name < right.name;
 }
@@ -108,7 +155,7 @@ AttributionOutcome attribute(std::int64_t total, std::span<const SelfReportedSla
     const std::int64_t difference = checkedDifference(total, tokensOf(rows));
     if (difference >= 1)
         addRow(rows, std::string(remainderLabel), difference, Provenance::remainder);
-    std::stable_sort(rows.begin(), rows.end(), standsBefore);
+    std::stable_sort(rows.begin(), rows.end(), isHeavier);
     return {.rows = std::move(rows),
             .remainder = std::max<std::int64_t>(difference, 0),
             .overAttributed = difference < 0,
@@ -125,17 +172,19 @@ std::string normalize(std::string_view name)
 std::vector<SelfReportedSlab> merged(std::span<const SelfReportedSlab> slabs)
 {
     std::vector<SelfReportedSlab> result;
-    std::unordered_map<std::string, std::size_t> places;
+    std::unordered_map<std::string, std::size_t> indices;
     std::string key;
     for (const SelfReportedSlab &slab : slabs) {
         setSearchKey(key, slab.name);
-        const auto [place, isNew] = places.try_emplace(key, result.size());
+        const auto [found, isNew] = indices.try_emplace(key, result.size());
         if (isNew)
             result.push_back(slab);
         else
-            result[place->second].tokens = checkedSum(result[place->second].tokens, slab.tokens);
+            result[found->second].tokens = checkedSum(result[found->second].tokens, slab.tokens);
     }
     return result;
 }
 
-} // namespace Loadwick::SlabAttributor
+} // namespace SlabAttributor
+
+} // namespace Loadwick

@@ -1,4 +1,4 @@
-#include "probe/TotalSource.h"
+#include "probe/ProbeRunning.h"
 
 #include <gtest/gtest.h>
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "report/ScanReport.h"
+#include "support/EnumerationNames.h"
 
 namespace Loadwick {
 
@@ -91,6 +92,36 @@ TEST(InstructionFileSetTest, endsTheProgramWhenASumOverflows)
     InstructionFileSet set;
     set.personalFiles = {{"/a", 0, std::numeric_limits<std::int64_t>::max()}, {"/b", 0, 1}};
     EXPECT_DEATH((void)set.localCategories(), "does not fit 64 bits");
+}
+
+TEST(InstructionFileSetTest, namesTheTiers)
+{
+    expectNames<InstructionFileTier>({"repository", "inherited", "personal"});
+}
+
+TEST(InstructionFileSetTest, estimatesFourBytesToATokenRoundedUp)
+{
+    const auto tokens = InstructionFileEstimate::estimatedTokensForByteCount;
+    for (const std::int64_t byteCount : {1, 2, 3, 4})
+        EXPECT_EQ(tokens(byteCount), 1) << byteCount;
+    EXPECT_EQ(tokens(5), 2);
+    EXPECT_EQ(tokens(8), 2);
+    EXPECT_EQ(tokens(4'000), 1'000);
+    EXPECT_EQ(tokens(4'001), 1'001);
+    EXPECT_EQ(tokens(std::numeric_limits<std::int64_t>::max()), std::int64_t{1} << 61);
+}
+
+TEST(InstructionFileSetTest, estimatesNothingForLessThanOneByte)
+{
+    for (const std::int64_t byteCount :
+         {std::int64_t{0}, std::int64_t{-1}, std::numeric_limits<std::int64_t>::min()})
+        EXPECT_EQ(InstructionFileEstimate::estimatedTokensForByteCount(byteCount), 0);
+}
+
+TEST(InstructionFileSetTest, computesAFilesTokensFromItsBytes)
+{
+    const InstructionFileEstimate expected{"/a/CLAUDE.md", 10, 3};
+    EXPECT_EQ(InstructionFileEstimate::fromPath("/a/CLAUDE.md", 10), expected);
 }
 
 } // namespace Loadwick

@@ -12,7 +12,7 @@ TEST(RepoSelectionTest, isNamedAfterItsFolder)
     EXPECT_EQ(selection.path(), "/home/ada/code/webshop");
 }
 
-TEST(RepoSelectionTest, isToldApartByItsPathNotByItsName)
+TEST(RepoSelectionTest, isIdentifiedByItsPathNotByItsName)
 {
     const RepoSelection first{.url = "/code/webshop", .displayName = "Shop"};
     const RepoSelection second{.url = "/code/webshop", .displayName = "Webshop"};
@@ -22,7 +22,7 @@ TEST(RepoSelectionTest, isToldApartByItsPathNotByItsName)
     EXPECT_NE(first, (RepoSelection{.url = "/code/other", .displayName = "Shop"}));
 }
 
-TEST(RepoSelectionTest, leavesASlashAtTheEndOut)
+TEST(RepoSelectionTest, dropsATrailingSlash)
 {
     for (const char *url : {"/code/webshop/", "/code/webshop//"}) {
         const RepoSelection selection = RepoSelection::fromUrl(url);
@@ -47,7 +47,7 @@ TEST(RepoSelectionTest, keepsTheBytesAndShowsTheReplacementCharacter)
     EXPECT_EQ(selection.id(), "/code/caf\uFFFD");
 }
 
-TEST(RepoSelectionTest, takesEveryNameAsItIs)
+TEST(RepoSelectionTest, keepsEveryNameUnchanged)
 {
     for (const std::string &name :
          {std::string("<img src=x>"), std::string("two\nlines"), std::string(255, 'n')})

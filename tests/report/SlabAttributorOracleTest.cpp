@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "probe/SlabParser.h"
+#include "report/InstructionFileSet.h"
 #include "report/SlabAttributor.h"
 
 namespace Loadwick {
@@ -71,7 +73,7 @@ private:
     std::mt19937 m_random;
 };
 
-/// Moves single tokens about, one after the other, as one would with counters on a table.
+/// Moves single tokens, one after the other, like counters on a table.
 class Oracle
 {
 public:
@@ -99,10 +101,10 @@ public:
     }
 
 private:
-    bool isFirstOfItsCategory(std::size_t place) const
+    bool isFirstOfItsCategory(std::size_t index) const
     {
-        for (std::size_t earlier = 0; earlier < place; ++earlier)
-            if (m_input.slabs[earlier].category == m_input.slabs[place].category)
+        for (std::size_t earlier = 0; earlier < index; ++earlier)
+            if (m_input.slabs[earlier].category == m_input.slabs[index].category)
                 return false;
         return true;
     }
@@ -150,12 +152,12 @@ private:
     void sortByExchange()
     {
         for (std::size_t round = 0; round < m_rows.size(); ++round) {
-            for (std::size_t place = 1; place < m_rows.size(); ++place) {
-                const SlabAttribution &left = m_rows[place - 1];
-                const SlabAttribution &right = m_rows[place];
+            for (std::size_t index = 1; index < m_rows.size(); ++index) {
+                const SlabAttribution &left = m_rows[index - 1];
+                const SlabAttribution &right = m_rows[index];
                 if (left.tokens < right.tokens ||
                     (left.tokens == right.tokens && left.name > right.name))
-                    std::swap(m_rows[place - 1], m_rows[place]);
+                    std::swap(m_rows[index - 1], m_rows[index]);
             }
         }
     }

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include "probe/SlabParser.h"
+#include "report/InstructionFileSet.h"
+#include "support/EnumerationNames.h"
+
 namespace Loadwick {
 
 namespace {
@@ -170,7 +174,7 @@ TEST(SlabAttributorTest, mergesRepeatedNamesBeforeMatching)
     EXPECT_TRUE(outcome.categoriesSelfReported);
 }
 
-TEST(SlabAttributorTest, mergesUnderTheFirstSpellingAndPlace)
+TEST(SlabAttributorTest, mergesIntoTheFirstOccurrence)
 {
     const std::vector<SelfReportedSlab> slabs{
         {"System prompt", 3'000}, {"Messages", 1}, {"system-prompt", 200}};
@@ -200,6 +204,44 @@ TEST(SlabAttributorTest, takesTheLargestTotal)
 {
     const AttributionOutcome outcome = attributed(largest, {{"a", 1}}, {});
     EXPECT_EQ(outcome.remainder, largest - 1);
+}
+
+TEST(SlabAttributorTest, namesTheProvenances)
+{
+    expectNames<Provenance>({"claudeReported", "selfReported", "localEstimate", "remainder"});
+}
+
+TEST(SlabAttributorTest, isAuthoritativeOnlyWhenClaudeReportedIt)
+{
+    for (const Provenance provenance : Provenance::all)
+        EXPECT_EQ(provenance.isAuthoritative(), provenance == Provenance::claudeReported);
+}
+
+TEST(SlabAttributorTest, saysWhereAFigureComesFrom)
+{
+    EXPECT_EQ(Provenance(Provenance::claudeReported).sourceLabel(), "reported by Claude");
+    EXPECT_EQ(Provenance(Provenance::selfReported).sourceLabel(),
+              "self-reported by the session (estimate)");
+    EXPECT_EQ(Provenance(Provenance::localEstimate).sourceLabel(),
+              "measured on disk at ~4 bytes/token (estimate)");
+    EXPECT_EQ(Provenance(Provenance::remainder).sourceLabel(), "derived: total minus attributed");
+}
+
+TEST(SlabAttributorTest, aRowIsIdentifiedByOrdinalProvenanceAndName)
+{
+    const SlabAttribution row{"Personal instructions", 7, Provenance::localEstimate, 3};
+    EXPECT_EQ(row.id(), "3|localEstimate|Personal instructions");
+    EXPECT_EQ((SlabAttribution{"a|b", -1, Provenance::remainder, 0}).id(), "0|remainder|a|b");
+}
+
+TEST(SlabAttributorTest, aRowIsEqualOnlyInEveryField)
+{
+    const SlabAttribution row{"a", 1, Provenance::selfReported, 0};
+    EXPECT_EQ(row, (SlabAttribution{"a", 1, Provenance::selfReported, 0}));
+    EXPECT_NE(row, (SlabAttribution{"b", 1, Provenance::selfReported, 0}));
+    EXPECT_NE(row, (SlabAttribution{"a", 2, Provenance::selfReported, 0}));
+    EXPECT_NE(row, (SlabAttribution{"a", 1, Provenance::localEstimate, 0}));
+    EXPECT_NE(row, (SlabAttribution{"a", 1, Provenance::selfReported, 1}));
 }
 
 } // namespace Loadwick

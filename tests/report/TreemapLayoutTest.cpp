@@ -23,7 +23,7 @@ bool counts(double weight)
     return weight > 0.0 && std::isfinite(weight);
 }
 
-/// What each rectangle's area has to be, in more digits than the layout has.
+/// The expected area of each rectangle, computed in more digits than the layout has.
 std::vector<double> sharesOf(const Weights &weights)
 {
     long double sum = 0.0L;
@@ -105,14 +105,14 @@ public:
         return weights;
     }
 
-    [[nodiscard]] Weights withStrangers(std::size_t count)
+    [[nodiscard]] Weights withInvalidOnes(std::size_t count)
     {
-        constexpr double strangers[] = {0.0,       -0.0,       -3.0,     infinite,
-                                        -infinite, notANumber, smallest, largest};
+        constexpr double invalid[] = {0.0,       -0.0,       -3.0,     infinite,
+                                      -infinite, notANumber, smallest, largest};
         Weights weights = ofFiles(count);
         for (double &weight : weights)
             if (below(3) == 0)
-                weight = strangers[below(std::size(strangers))];
+                weight = invalid[below(std::size(invalid))];
         return weights;
     }
 
@@ -175,7 +175,7 @@ TEST(TreemapLayoutTest, aNegativeWeightIsZeroAndShiftsNoOther)
               (Rects{{0.75, 0.0, 0.25, 1.0}, TreemapRect::zero, {0.0, 0.0, 0.75, 1.0}}));
 }
 
-TEST(TreemapLayoutTest, whatIsNoNumberOrInfiniteIsZeroAndShiftsNoOther)
+TEST(TreemapLayoutTest, anInfiniteWeightOrNoNumberIsZeroAndShiftsNoOther)
 {
     EXPECT_EQ(TreemapLayout::layout(Weights{notANumber, 1.0, infinite, 3.0, -infinite}),
               (Rects{TreemapRect::zero,
@@ -236,17 +236,40 @@ TEST(TreemapLayoutTest, tilesTheSquareForRandomWeightsOfEverySize)
         ASSERT_NO_FATAL_FAILURE(expectSoundMap(random.ofEverySize(random.below(25)))) << round;
 }
 
-TEST(TreemapLayoutTest, tilesTheSquareWhateverStandsBetweenTheWeights)
+TEST(TreemapLayoutTest, tilesTheSquareDespiteInvalidWeights)
 {
     RandomWeights random;
     for (int round = 0; round < 3'000; ++round)
-        ASSERT_NO_FATAL_FAILURE(expectSoundMap(random.withStrangers(random.below(40)))) << round;
+        ASSERT_NO_FATAL_FAILURE(expectSoundMap(random.withInvalidOnes(random.below(40)))) << round;
 }
 
 TEST(TreemapLayoutTest, tilesTheSquareForThousandsOfFiles)
 {
     RandomWeights random;
     expectSoundMap(random.ofFiles(2'000));
+}
+
+TEST(TreemapLayoutTest, aRectangleHasTheAreaOfItsSides)
+{
+    constexpr TreemapRect rect{.x = 0.5, .y = 0.25, .width = 0.5, .height = 0.25};
+    static_assert(rect.area() == 0.125);
+}
+
+TEST(TreemapLayoutTest, theZeroRectangleIsEmptyAtTheOrigin)
+{
+    EXPECT_EQ(TreemapRect::zero, (TreemapRect{0.0, 0.0, 0.0, 0.0}));
+    EXPECT_EQ(TreemapRect::zero.area(), 0.0);
+}
+
+TEST(TreemapLayoutTest, aRectangleIsEqualOnlyInAllFourFields)
+{
+    constexpr TreemapRect rect{1.0, 2.0, 3.0, 4.0};
+    EXPECT_EQ(rect, (TreemapRect{1.0, 2.0, 3.0, 4.0}));
+    for (const TreemapRect &other : {TreemapRect{0.0, 2.0, 3.0, 4.0},
+                                     {1.0, 0.0, 3.0, 4.0},
+                                     {1.0, 2.0, 0.0, 4.0},
+                                     {1.0, 2.0, 3.0, 0.0}})
+        EXPECT_NE(rect, other);
 }
 
 } // namespace Loadwick

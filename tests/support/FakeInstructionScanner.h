@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "report/InstructionFileScanning.h"
+#include "report/InstructionFileScanner.h"
 
 namespace Loadwick {
 

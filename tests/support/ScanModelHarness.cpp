@@ -1,6 +1,6 @@
 #include "support/ScanModelHarness.h"
 
-#include "report/ScanReportBuilder.h"
+#include "report/ScanReport.h"
 #include "samples/SampleReport.h"
 
 namespace Loadwick {

@@ -7,7 +7,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "report/BandScale.h"
 #include "report/OpinionBand.h"
 #include "support/TestRegistry.h"
 

@@ -71,7 +71,7 @@ private Q_SLOTS:
                                   QStringLiteral("actively hurting the session")};
         for (int row = 0; row < 3; ++row) {
             QCOMPARE(OnboardingFlow::legend.at(std::size_t(row)).band,
-                     OpinionBand::all.at(std::size_t(row)));
+                     OpinionBand(OpinionBand::all.at(std::size_t(row))));
             QCOMPARE(text(legend, row, "title"), titles.at(row));
             QCOMPARE(text(legend, row, "detail"), details.at(row));
         }

@@ -1,6 +1,7 @@
 #include "SampleBand.h"
 
 #include "samples/SampleReport.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 

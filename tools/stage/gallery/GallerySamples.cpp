@@ -3,6 +3,7 @@
 #include "history/ScanHistory.h"
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 namespace {
