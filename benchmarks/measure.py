@@ -10,11 +10,8 @@ import re
 import subprocess
 from pathlib import Path
 
-from measured import Row, ratios
-from pages import frame_rows, idle_rows
-from rounds import (benchmark, figures, in_process_row, instructions, pair_times,
-                    window_lines)
-from window import startup_rows
+from rounds import (Row, benchmark, figures, in_process_row, instructions, pair_times, ratios)
+from window import frame_rows, idle_rows, scan_rows, startup_rows
 
 ROOT = Path(__file__).resolve().parents[1]
 GOALS = json.loads((ROOT / "benchmarks/goals.json").read_text(encoding="utf-8"))
@@ -31,66 +28,58 @@ DATA = [("projects", "projects", 100_000), ("record", "record-100mb", 100_000_00
 class Bench:
     """One run over a build."""
 
-    def __init__(self, build: Path, rounds: int, only: str) -> None:
+    def __init__(self, build: Path, rounds: int) -> None:
+        self.build = build
         self.programs = build / "bin"
         self.data = build / "benchmark-data"
         self.tool = str(self.programs / "loadwick-measure")
-        self.build = build
         self.count = rounds
-        self.only = only
-        self.rows: list[Row] = []
-
-    def wants(self, word: str) -> bool:
-        """Whether that part is asked for."""
-        return not self.only or self.only in word
 
     def make_data(self) -> None:
-        """Writes what is not there yet."""
+        """Writes the files that are missing."""
         for what, name, size in DATA:
             subprocess.run([self.tool, "make", what, self.data / name, str(size)], check=True,
                            stdout=subprocess.DEVNULL)
 
-    def measure_in_process(self) -> None:
+    def in_process(self) -> list[Row]:
         """What runs inside one program with its floor."""
         times: dict[str, list[float]] = {}
         for program in ["bench_core", "bench_spawn"]:
             if (self.programs / program).exists():
                 for row in {goal["id"] for goal in GOALS["in-process"]}:
                     times |= benchmark(self.programs / program, self.build, self.count, row)
-        for goal in GOALS["in-process"]:
-            mine = goal.get("arguments", [""])[0]
-            if f"{goal['id']}/ours{mine}" in times:
-                self.rows.append(in_process_row(goal, times))
+        return [in_process_row(goal, times) for goal in GOALS["in-process"]
+                if f"{goal['id']}/ours{goal.get('arguments', [''])[0]}" in times]
 
-    def measure_processes(self) -> None:
+    def processes(self) -> list[Row]:
         """What runs as a process, beside what one would type instead."""
         names = {"measure": self.tool, "data": str(self.data), "session": SESSION}
-        times = {}
+        times, rows = {}, []
         for goal in GOALS["processes"]:
             ours, floor = goal["ours"].format(**names), goal["floor"].format(**names)
-            times[goal["id"]] = pair_times(ours, floor, self.count,
-                                           goal.get("clock") == "wall")
-            self.rows.append(Row(goal["what"], goal["against"], ratios(*times[goal["id"]]),
-                                 goal.get("goal"), goal.get("bracket")))
-        self.rows.append(Row("capture time of 1 GB", "of 100 MB",
-                             ratios(times["capture-1gb"][0], times["capture-100mb"][0]), 12, 12))
+            pair = pair_times(ours, floor, self.count, goal.get("clock") == "wall")
+            times[goal["id"]] = pair[0]
+            rows.append(Row(goal["what"], goal["against"], ratios(*pair), goal.get("goal"),
+                            goal.get("bracket")))
+        growth = ratios(times["capture-1gb"], times["capture-100mb"])
+        return rows + [Row("capture time of 1 GB", "of 100 MB", growth, 12, 12)]
 
     def peak(self, *words: str) -> float:
         """The greatest memory of an operation in bytes."""
         return figures([self.tool, *words])["peak-kib"] * 1024.0
 
-    def measure_memory(self) -> None:
-        """What is held at most; one run says it, since memory does not vary."""
+    def memory(self) -> list[Row]:
+        """The peaks; one run is enough, since memory does not vary."""
         record = str(self.data / "record-1gb")
         size = float(os.path.getsize(record))
-        self.rows.append(Row("peak memory of the 1 GB capture, through parsing", "bytes captured",
-                             [self.peak("capture-and-parse", "/bin/cat", record) / size], 1.1, 2.2))
         growth = (self.peak("first-usage", str(self.data / "head-1gb.jsonl"))
                   - self.peak("first-usage", str(self.data / "head-1mb.jsonl")))
-        self.rows.append(Row("memory while a head grows from 1 MB to 1 GB", "growth",
-                             [growth / 1e6], 1, 1, " MB"))
+        return [Row("peak memory of the 1 GB capture, through parsing", "bytes captured",
+                    [self.peak("capture-and-parse", "/bin/cat", record) / size], 1.1, 2.2),
+                Row("memory while a head grows from 1 MB to 1 GB", "growth", [growth / 1e6],
+                    1, 1, " MB")]
 
-    def measure_growth(self) -> None:
+    def growth(self) -> list[Row]:
         """What a unit of work costs in a large input, against one in a small; in instructions."""
         nothing = instructions([self.tool, "weights", "0"])
 
@@ -103,45 +92,33 @@ class Bench:
             folder = str(self.data / f"history-{count}")
             return (instructions([self.tool, "leaderboard", folder]) - nothing) / count
 
-        self.rows.append(Row("instructions for an item of a treemap, of 100,000", "of 1,000",
-                             [item(100_000) / item(1_000)], 1.7, 1.7))
-        self.rows.append(Row("instructions for a scan of a history and its analytics, of 10,000",
-                             "of 200", [scan(10_000) / scan(200)], 1.5, 1.5))
+        return [Row("instructions for an item of a treemap, of 100,000", "of 1,000",
+                    [item(100_000) / item(1_000)], 1.7, 1.7),
+                Row("instructions for a scan of a history and its analytics, of 10,000", "of 200",
+                    [scan(10_000) / scan(200)], 1.5, 1.5)]
 
-    def measure_startup(self) -> None:
-        """The window's first frame and its memory. Starts are short and vary: three of each."""
-        self.rows += startup_rows(self.programs, 3 * self.count)
+    def startup(self) -> list[Row]:
+        """The window's first frame and its memory. Starts are short and vary: three a round."""
+        return startup_rows(self.programs, 3 * self.count)
 
-    def measure_scan(self) -> None:
-        """From the key to the first frame of the result."""
-        lines = window_lines([str(self.programs / "loadwick-stage"), "scans", str(self.count)], {})
-        self.rows.append(Row("a scan with an instant stand-in, Ctrl+R to the first frame of the result",
-                             "the stand-in alone and one frame",
-                             [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more"))
+    def scan(self) -> list[Row]:
+        """A scan through the window."""
+        return scan_rows(self.programs, self.count)
 
-    def measure_pages(self) -> None:
-        """The frames of the pages and the rest of the window. A round of them takes a minute and
+    def pages(self) -> list[Row]:
+        """The rest of the window and the frames of the pages. A round of them takes a minute and
         its frames are many: three do."""
-        self.rows += idle_rows(self.programs, min(self.count, 3))
-        self.rows += frame_rows(self.programs, min(self.count, 3))
+        count = min(self.count, 3)
+        return idle_rows(self.programs, count) + frame_rows(self.programs, count)
 
-    def measure(self) -> None:
-        """Everything that is built and asked for."""
+    def measure(self, only: str, is_core: bool) -> list[Row]:
+        """Every part whose name contains the word; without the window if only the core counts."""
+        parts = {"in-process": self.in_process, "processes": self.processes, "memory": self.memory,
+                 "growth": self.growth}
+        if not is_core:
+            parts |= {"startup": self.startup, "scan": self.scan, "pages": self.pages}
         self.make_data()
-        if self.wants("in-process"):
-            self.measure_in_process()
-        if self.wants("processes"):
-            self.measure_processes()
-        if self.wants("memory"):
-            self.measure_memory()
-        if self.wants("growth"):
-            self.measure_growth()
-        if self.wants("startup") and (self.programs / "startup_loadwick").exists():
-            self.measure_startup()
-        if self.wants("scan") and (self.programs / "loadwick-stage").exists():
-            self.measure_scan()
-        if self.wants("pages") and (self.programs / "loadwick-stage").exists():
-            self.measure_pages()
+        return [row for name, part in parts.items() if only in name for row in part()]
 
 
 def version(command: str) -> str:
@@ -181,13 +158,12 @@ def main() -> None:
     """Measures, prints, writes."""
     parser = argparse.ArgumentParser()
     parser.add_argument("build", type=Path)
-    parser.add_argument("--core", action="store_true")
+    parser.add_argument("--core", action="store_true", help="leave out the window")
     parser.add_argument("--rounds", type=int, default=7)
-    parser.add_argument("--only", default="")
+    parser.add_argument("--only", default="", help="the parts whose names contain this word")
     given = parser.parse_args()
-    bench = Bench(given.build.resolve(), given.rounds, given.only)
-    bench.measure()
-    text = f"{table(bench.rows)}\n\n{given.rounds} rounds. {machine()}"
+    rows = Bench(given.build.resolve(), given.rounds).measure(given.only, given.core)
+    text = f"{table(rows)}\n\n{given.rounds} rounds. {machine()}"
     print(text)
     if not given.only and not given.core:
         write_document(text)

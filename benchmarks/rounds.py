@@ -1,4 +1,4 @@
-"""Runs programs in turns and takes their times."""
+"""Runs programs in turns, takes their times, and holds them against goals."""
 
 from __future__ import annotations
 
@@ -6,18 +6,62 @@ import json
 import os
 import re
 import resource
+import statistics
 import subprocess
 import tempfile
 import time
+from dataclasses import dataclass
 from pathlib import Path
-from typing import Any
+from typing import Any, Optional
 
-from measured import Row, ratios
+
+@dataclass
+class Row:
+    """One line of the table."""
+
+    what: str
+    against: str
+    values: list[float]  # one for each round
+    goal: Optional[float] = None
+    bracket: Optional[float] = None
+    unit: str = ""  # of the values; ratios have none
+
+    @property
+    def median(self) -> float:
+        """The value that counts."""
+        return statistics.median(self.values)
+
+    def verdict(self) -> str:
+        """Whether the goal holds."""
+        if self.goal is None or self.bracket is None:
+            return "for comparison"
+        if self.median <= self.goal:
+            return "holds"
+        return "in its bracket" if self.median <= self.bracket else "MISSED"
+
+    def cells(self) -> list[str]:
+        """The row as the table shows it."""
+        goal = ""
+        if self.goal is not None:
+            goal = f"{self.goal:g}" + (f" ({self.bracket:g})" if self.bracket != self.goal else "")
+        spread = f"{min(self.values):.2f} to {max(self.values):.2f}"
+        return [self.what, self.against, f"{self.median:.2f}{self.unit}", spread, goal, self.verdict()]
+
+
+def ratios(ours: list[float], floor: list[float], part: float = 1.0) -> list[float]:
+    """Ours over the floor, round by round."""
+    return [mine / other / part for mine, other in zip(ours, floor)]
+
+
+def output_of(command: list[str], environment: Optional[dict[str, str]] = None) -> str:
+    """What a program prints; it must succeed."""
+    return subprocess.run(command, capture_output=True, check=True, text=True,
+                          env=os.environ | (environment or {})).stdout
 
 
 def seconds_of(command: str, is_wall: bool) -> float:
-    """The time of a command line whose output goes nowhere: the processor's, of all that it starts,
-    or the wall clock's. The former stands still while other programs have the processor."""
+    """The time of a command line whose output is discarded: the processor's, of all that it starts,
+    or the wall clock's. Other programs on the processor do not count towards the former."""
     used = resource.getrusage(resource.RUSAGE_CHILDREN)
     start = time.perf_counter()
     subprocess.run(["sh", "-c", command], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -29,19 +73,14 @@ def seconds_of(command: str, is_wall: bool) -> float:
 
 def pair_times(ours: str, floor: str, count: int,
                is_wall: bool) -> tuple[list[float], list[float]]:
-    """The times of two commands that take turns; the first turn warms up and does not count."""
-    pairs = []
-    for turn in range(count + 1):
-        pair = seconds_of(ours, is_wall), seconds_of(floor, is_wall)
-        if turn > 0:
-            pairs.append(pair)
+    """The times of two commands in turns; the first turn warms up and does not count."""
+    pairs = [(seconds_of(ours, is_wall), seconds_of(floor, is_wall)) for _ in range(count + 1)][1:]
     return [pair[0] for pair in pairs], [pair[1] for pair in pairs]
 
 
 def figures(command: list[str]) -> dict[str, int]:
     """What the measuring tool prints."""
-    text = subprocess.run(command, capture_output=True, check=True, text=True).stdout
-    return {name: int(value) for name, value in (line.split() for line in text.splitlines())}
+    return {name: int(value) for name, value in map(str.split, output_of(command).splitlines())}
 
 
 def instructions(command: list[str]) -> int:
@@ -63,9 +102,8 @@ def benchmark(program: Path, folder: Path, count: int, row: str) -> dict[str, li
                        cwd=folder, check=True, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL)
         text = Path(out.name).read_text(encoding="utf-8")  # none where the program has no such row
-        runs = json.loads(text)["benchmarks"] if text else []
     times: dict[str, list[float]] = {}
-    for run in runs:
+    for run in json.loads(text)["benchmarks"] if text else []:
         if run["run_type"] == "iteration":
             is_wall = run["name"].endswith("real_time")
             times.setdefault(run["run_name"].removesuffix("/real_time"), []).append(
@@ -79,11 +117,3 @@ def in_process_row(goal: dict[str, Any], times: dict[str, list[float]]) -> Row:
     values = ratios(times[f"{goal['id']}/ours{mine}"], times[f"{goal['id']}/floor{other}"],
                     goal.get("per", 1.0))
     return Row(goal["what"], goal["against"], values, goal["goal"], goal["bracket"])
-
-
-def window_lines(command: list[str], extra: dict[str, str]) -> list[list[float]]:
-    """The numbers that a program of the window prints, line by line."""
-    environment = os.environ | {"QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software"}
-    text = subprocess.run(command, capture_output=True, check=True, text=True,
-                          env=environment | extra).stdout
-    return [[float(word) for word in line.split()] for line in text.splitlines()]

@@ -1,24 +1,198 @@
-// Does one operation of the core and prints, a line each, what came of it, what it asked of the
-// system and the greatest memory that the program held. For developers; see benchmarks/run.
+// Does one operation of the core and prints, a line each, its outcome, what it asked of the system
+// and the greatest memory that the program held. For developers; see benchmarks/run.
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "history/ScanHistory.h"
+#include "history/ScanHistoryStore.h"
 #include "measure/CallCounters.h"
-#include "measure/Operation.h"
+#include "posix/FileSystem.h"
+#include "posix/RegularFile.h"
+#include "probe/ProbeOutputParser.h"
+#include "probe/ProbeRunner.h"
+#include "probe/SlabParser.h"
+#include "probe/TranscriptLocator.h"
+#include "probe/TranscriptReader.h"
+#include "probe/TranscriptSearch.h"
+#include "report/InstructionFileScanner.h"
+#include "report/SlabAttributor.h"
+#include "report/TreemapLayout.h"
+#include "samples/GeneratedFiles.h"
+#include "samples/GeneratedText.h"
+
+namespace Loadwick {
 
 namespace {
 
-using namespace Loadwick;
+namespace fs = std::filesystem;
+using Words = std::span<const std::string>;
+
+std::int64_t countOf(const auto &list)
+{
+    return static_cast<std::int64_t>(list.size());
+}
+
+std::string contentOf(const std::string &path)
+{
+    auto file = RegularFile::open(path);
+    return file ? file->readUpTo(std::size_t{1} << 31).value_or(std::string()) : std::string();
+}
+
+Execution captured(Words words)
+{
+    return ProbeRunner::execute(
+        {.cli = words.front(),
+         .repository = "/",
+         .environment = currentEnvironment(),
+         .arguments = std::vector<std::string>(words.begin() + 1, words.end()),
+         .shutdown = nullptr});
+}
+
+std::int64_t capture(Words words)
+{
+    return countOf(captured(words).standardOutput);
+}
+
+std::int64_t parsedCapture(Words words)
+{
+    const Execution execution = captured(words);
+    return countOf(ProbeOutputParser::parse(execution.standardOutput, execution.standardError,
+                                            execution.exitCode)
+                       .result);
+}
+
+std::int64_t search(Words words)
+{
+    return TranscriptLocator::find(words[1], words[0], PosixFileSystem()) ? 1 : 0;
+}
+
+std::int64_t attempts(Words words)
+{
+    const TranscriptSearch search{.sessionID = words[1],
+                                  .projectsRoot = words[0],
+                                  .fileSystem = std::make_shared<PosixFileSystem>(),
+                                  .shutdown = std::make_shared<Shutdown>(),
+                                  .attempts = std::stoi(words[2]),
+                                  .delaySeconds = 0};
+    const std::optional<ProbeUsage> usage = search.run();
+    return usage ? usage->startupTotal() : 0;
+}
+
+std::int64_t firstUsage(Words words)
+{
+    const auto usage = TranscriptReader::firstAssistantUsageAtPath(words[0]);
+    return usage ? usage->startupTotal() : 0;
+}
+
+std::int64_t instructionFiles(Words words)
+{
+    const fs::path home = fs::path(words[0]) / "home";
+    const InstructionFileScanner scanner({.home = home.native()});
+    return countOf(scanner.scanSynchronously(home / "repository").allFiles());
+}
+
+std::int64_t slab(Words words)
+{
+    return countOf(SlabParser::parse(contentOf(words[0])));
+}
+
+std::int64_t attribution(Words words)
+{
+    const auto slabs = SlabParser::parse(contentOf(words[0]));
+    return countOf(SlabAttributor::attribute(1'000'000, slabs, {}).rows);
+}
+
+std::int64_t treemap(Words words)
+{
+    return countOf(TreemapLayout::layout(GeneratedText::weights(std::stoll(words[0]))));
+}
+
+std::int64_t weights(Words words)
+{
+    return countOf(GeneratedText::weights(std::stoll(words[0])));
+}
+
+std::int64_t historyLoad(Words words)
+{
+    return countOf(ScanHistoryStore(words[0]).load());
+}
+
+std::int64_t historyAppend(Words words)
+{
+    const RecordedScan scan = GeneratedFiles::scans(1).front();
+    return countOf(ScanHistoryStore(words[0]).append(scan));
+}
+
+std::int64_t leaderboard(Words words)
+{
+    const std::vector<RecordedScan> scans = ScanHistoryStore(words[0]).load();
+    return countOf(ScanHistory::leaderboard(scans)) + countOf(ScanHistory::categoryAxis(scans));
+}
+
+std::int64_t make(Words words)
+{
+    using namespace GeneratedFiles;
+    static const std::map<std::string, void (*)(const fs::path &, std::int64_t)> makers{
+        {"projects", projects},
+        {"transcript", transcript},
+        {"long-line", longLineTranscript},
+        {"instructions", [](auto &path, auto count) { instructions(path, count, Imports::flat); }},
+        {"crossed-instructions",
+         [](auto &path, auto count) { instructions(path, count, Imports::crossed); }},
+        {"answer", answer},
+        {"record", record},
+        {"history", history}};
+    const auto maker = makers.find(words[0]);
+    if (maker == makers.end())
+        return 0;
+    const std::int64_t count = std::stoll(words[2]);
+    maker->second(words[1], count);
+    return count;
+}
+
+struct Operation
+{
+    std::string_view verb;
+    std::string_view usage; ///< its words, as a reader writes them
+    std::size_t wordCount;  ///< the fewest that it takes
+    /// Does the work; returns how much it made or found.
+    std::int64_t (*run)(Words words);
+};
+
+const std::vector<Operation> operations{
+    {"capture", "PROGRAM [ARGUMENT...]", 1, capture},
+    {"capture-and-parse", "PROGRAM [ARGUMENT...]", 1, parsedCapture},
+    {"search", "PROJECTS SESSION", 2, search},
+    {"attempts", "PROJECTS SESSION COUNT", 3, attempts},
+    {"first-usage", "TRANSCRIPT", 1, firstUsage},
+    {"instructions", "FOLDER", 1, instructionFiles},
+    {"slab", "ANSWER", 1, slab},
+    {"attribution", "ANSWER", 1, attribution},
+    {"weights", "COUNT", 1, weights},
+    {"treemap", "COUNT", 1, treemap},
+    {"history-load", "FOLDER", 1, historyLoad},
+    {"history-append", "FOLDER", 1, historyAppend},
+    {"leaderboard", "FOLDER", 1, leaderboard},
+    {"make",
+     "projects|transcript|long-line|instructions|crossed-instructions|answer|record|history "
+     "PATH COUNT|BYTES",
+     3, make}};
 
 int printUsage()
 {
-    for (const Operation &operation : Operation::all())
-        std::fprintf(stderr, "loadwick-measure %.*s %.*s\n",
-                     static_cast<int>(operation.verb.size()), operation.verb.data(),
-                     static_cast<int>(operation.usage.size()), operation.usage.data());
+    for (const Operation &operation : operations)
+        std::cerr << "loadwick-measure " << operation.verb << ' ' << operation.usage << '\n';
     return 2;
 }
 
@@ -51,18 +225,26 @@ void printCounters()
     print("peak-kib", peakMemory());
 }
 
-} // namespace
-
-int main(int argc, char **argv)
+int run(int argc, char **argv)
 {
     const std::vector<std::string> words(argv + std::min(argc, 2), argv + argc);
-    const auto &all = Operation::all();
-    const auto chosen = std::find_if(all.begin(), all.end(), [&](const Operation &operation) {
-        return argc > 1 && operation.verb == argv[1];
-    });
-    if (chosen == all.end() || words.size() < chosen->wordCount)
+    const auto chosen =
+        std::find_if(operations.begin(), operations.end(), [&](const Operation &operation) {
+            return argc > 1 && operation.verb == argv[1];
+        });
+    if (chosen == operations.end() || words.size() < chosen->wordCount)
         return printUsage();
     CallCounters::ofProcess().restart();
     print("outcome", chosen->run(words));
     printCounters();
+    return 0;
+}
+
+} // namespace
+
+} // namespace Loadwick
+
+int main(int argc, char **argv)
+{
+    return Loadwick::run(argc, argv);
 }

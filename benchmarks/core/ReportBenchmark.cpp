@@ -1,8 +1,8 @@
-// Parsing and attributing the categories of an answer, against merging its lines in a hash table
-// with a reader that believes every line.
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_map>
 
@@ -10,11 +10,15 @@
 
 #include "probe/SlabParser.h"
 #include "report/SlabAttributor.h"
+#include "report/TreemapLayout.h"
 #include "samples/GeneratedText.h"
 
 namespace {
 
 using namespace Loadwick;
+
+// Parsing and attributing the categories of an answer, against merging its lines in a hash table
+// with a reader that believes every line.
 
 constexpr std::int64_t lineCount = 100'000;
 
@@ -58,5 +62,27 @@ void mergeInHashTable(benchmark::State &state)
 
 BENCHMARK(parseAndAttribute)->Name("slabs/ours");
 BENCHMARK(mergeInHashTable)->Name("slabs/floor");
+
+// Laying out a treemap, against sorting the same weights.
+
+void layOut(benchmark::State &state)
+{
+    const std::vector<double> weights = GeneratedText::weights(state.range());
+    for (auto round : state)
+        benchmark::DoNotOptimize(TreemapLayout::layout(weights));
+}
+
+void sort(benchmark::State &state)
+{
+    const std::vector<double> weights = GeneratedText::weights(state.range());
+    for (auto round : state) {
+        std::vector<double> sorted = weights;
+        std::sort(sorted.begin(), sorted.end(), std::greater());
+        benchmark::DoNotOptimize(sorted);
+    }
+}
+
+BENCHMARK(layOut)->Name("treemap/ours")->Arg(1'000)->Arg(100'000);
+BENCHMARK(sort)->Name("treemap/floor")->Arg(1'000)->Arg(100'000);
 
 } // namespace

@@ -10,7 +10,7 @@
 
 int main(int argc, char **argv)
 {
-    QQuickStyle::setStyle(QStringLiteral("Basic")); // ours
+    QQuickStyle::setStyle(QStringLiteral("Basic")); // as in the program
     QGuiApplication application(argc, argv);
     QQmlEngine engine;
     QQmlComponent component(&engine);

@@ -1,5 +1,3 @@
-// Scanning a thousand instruction files that one of them (0) or each of them (1) imports, against
-// opening, asking, reading and closing the same files.
 #include <filesystem>
 #include <vector>
 
@@ -9,6 +7,7 @@
 #include <unistd.h>
 
 #include "ScratchFolder.h"
+#include "probe/TranscriptReader.h"
 #include "report/InstructionFileScanner.h"
 #include "samples/GeneratedFiles.h"
 
@@ -16,6 +15,9 @@ namespace {
 
 using namespace Loadwick;
 namespace fs = std::filesystem;
+
+// Scanning a thousand instruction files that one of them (0) or each of them (1) imports, against
+// opening, asking, reading and closing the same files.
 
 constexpr std::int64_t fileCount = 1'000;
 
@@ -55,5 +57,23 @@ void readAll(benchmark::State &state)
 
 BENCHMARK(scan)->Name("instructions/ours")->Arg(0)->Arg(1);
 BENCHMARK(readAll)->Name("instructions/floor")->Arg(0)->Arg(1);
+
+// A usage behind one long line, against one behind a shorter line: what a byte costs must not
+// depend on the line.
+
+constexpr std::int64_t longLine = 64'000'000;
+constexpr std::int64_t shortLine = 256'000;
+
+void readPast(benchmark::State &state)
+{
+    const fs::path file = scratchFolder("line-" + std::to_string(state.range()) + ".jsonl");
+    GeneratedFiles::longLineTranscript(file, state.range());
+    for (auto round : state)
+        benchmark::DoNotOptimize(TranscriptReader::firstAssistantUsageAtPath(file));
+    state.SetBytesProcessed(state.iterations() * state.range());
+}
+
+BENCHMARK(readPast)->Name("line-byte/ours")->Arg(longLine);
+BENCHMARK(readPast)->Name("line-byte/floor")->Arg(shortLine);
 
 } // namespace
