@@ -16,6 +16,19 @@ from waiting import LIMIT_SECONDS, WaitedInVain, until  # noqa: E402
 Found = TypeVar("Found")
 
 
+def xdotool(*arguments: str) -> str:
+    """What xdotool answers."""
+    return subprocess.run(
+        ["xdotool", *arguments], check=True, capture_output=True, text=True, timeout=LIMIT_SECONDS
+    ).stdout
+
+
+def has_active_window() -> bool:
+    """Whether the display has a window that keys go to."""
+    command = ["xdotool", "getactivewindow"]
+    return subprocess.run(command, check=False, capture_output=True).returncode == 0
+
+
 def unless_gone(look: Callable[[], Found], otherwise: Found) -> Found:
     """What `look` gives, or `otherwise` when the object has left the tree meanwhile."""
     try:
@@ -122,14 +135,14 @@ class AccessibleTree:
     def key(self, keys: str) -> None:
         """Types real keys, such as "ctrl+o", into the program's window, once that is active."""
         self._until("the active window", self._is_active)
-        subprocess.run(["xdotool", "key", keys], check=True, timeout=LIMIT_SECONDS)
+        xdotool("key", keys)
 
     def resize(self, width: int, height: int) -> None:
         """Gives the program's window this size, once it is active."""
         self._until("the active window", self._is_active)
-        size = ["windowsize", "--sync", str(width), str(height)]
-        command = ["xdotool", "getactivewindow", *size]
-        subprocess.run(command, check=True, timeout=LIMIT_SECONDS)
+        # The display server hears of it later than the program.
+        until("the display's active window", has_active_window)
+        xdotool("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
     def wait_until_inactive(self) -> None:
         """Returns once the program knows that its window has not the keyboard."""

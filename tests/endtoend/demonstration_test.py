@@ -11,7 +11,7 @@ import unittest
 from pathlib import Path
 
 from accessible_tree import AccessibleTree
-from display import Display
+from session import Display
 from endtoend_case import CHOOSE, main, programs
 from processes import child_of
 from program import environment_for

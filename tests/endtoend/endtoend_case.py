@@ -6,10 +6,10 @@ import os
 import sys
 import unittest
 from pathlib import Path
+from typing import Optional, Sequence
 
-from display import Display
-from own_session import run_again_in_own_session
 from program import Program, environment_for
+from session import Display, run_again_in_own_session
 from throw_away_home import ThrowAwayHome
 from waiting import until
 
@@ -43,14 +43,17 @@ class EndToEndCase(unittest.TestCase):
     def setUp(self) -> None:
         self.home = self.enterContext(ThrowAwayHome())
 
-    def start(self, *options: str) -> Program:
-        """Starts the program; it is ended at the end of the test."""
-        program = Program(window_command(*options), environment_for(self.home.path))
+    def start(
+        self, *options: str, environment: Optional[dict[str, str]] = None, tracer: Sequence[str] = ()
+    ) -> Program:
+        """Starts the program, under a tracer if one is given; it ends with the test."""
+        command = [*tracer, *window_command(*options)]
+        program = Program(command, environment_for(self.home.path) | (environment or {}))
         self.addCleanup(program.kill)
         return program
 
     def open(self, *options: str) -> Program:
-        """Opens the window; it is closed at the end of the test."""
+        """Opens the window; it closes with the test."""
         program = self.start(*options)
         program.window.wait_for(CHOOSE, "push button")
         return program

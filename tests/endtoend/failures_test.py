@@ -12,14 +12,14 @@ NOTHING_READ = "The probe session did not produce a startup total."
 
 
 class FailuresTest(EndToEndCase):
-    """One test per case of the program's error type."""
+    """Every case of the program's error type."""
 
     def assert_fails(self, program: Program, headline: str, detail: str) -> None:
         """Scans and expects these words on the page, and nothing in the history."""
         program.window.press(SCAN)
-        program.window.wait_for(headline)
+        program.window.wait_for(detail)
         program.window.wait_for("Scan failed")
-        self.assertIn(detail, program.window.texts())
+        self.assertIn(headline, program.window.texts())
         self.assertEqual(self.home.scans(), [])
 
     def open_and_choose(self, *options: str) -> Program:
@@ -54,57 +54,33 @@ class FailuresTest(EndToEndCase):
             "  • /usr/local/bin/claude\n  • zsh -lc 'command -v claude'",
         )
 
-    def test_the_output_cannot_be_read(self) -> None:
+    def test_a_session_fails_in_each_of_its_ways(self) -> None:
         program = self.open_and_choose()
-        self.home.play("plain-text", message="The configuration file is broken. <b>Mend</b> it.")
-        self.assert_fails(
-            program,
-            "The probe session returned output this app could not read.",
-            "The configuration file is broken. <b>Mend</b> it.",
-        )
-
-    def test_there_is_no_transcript(self) -> None:
-        program = self.open_and_choose()
-        self.home.play("nothing")
-        self.assert_fails(
-            program,
-            "The probe session produced no readable token usage.",
-            f"No session transcript was found under {self.home.projects} and the CLI returned "
-            "no usage block.",
-        )
-
-    def test_the_session_fails(self) -> None:
-        program = self.open_and_choose()
-        self.home.play("failed", message="Credit balance is too low")
-        self.assert_fails(
-            program, "The probe session reported an error.", "Credit balance is too low"
-        )
-
-    def test_a_long_message_is_cut(self) -> None:
-        program = self.open_and_choose()
-        self.home.play("failed", message="x" * 501)
-        self.assert_fails(program, "The probe session reported an error.", "x" * 500 + "…")
-
-    def test_the_usage_covers_several_turns(self) -> None:
-        program = self.open_and_choose()
-        self.home.play("many-turns")
-        self.assert_fails(
-            program,
-            NOTHING_READ,
-            "No session transcript was found, and the CLI usage block covers 3 turns. That block "
-            "accumulates across turns, so it double-counts cached tokens and cannot be shown as "
-            "the startup total. Nothing was measured — try again.",
-        )
-
-    def test_nobody_is_signed_in(self) -> None:
-        program = self.open_and_choose()
-        self.home.play("signed-out")
-        self.assert_fails(
-            program,
-            "Claude Code is not signed in.",
-            "Run `claude` in Terminal and sign in, then scan again. This app never handles Claude "
-            "credentials.",
-        )
+        for outcome, message, headline, detail in (
+            ("plain-text", "The file is broken. <b>Mend</b> it.",
+             "The probe session returned output this app could not read.",
+             "The file is broken. <b>Mend</b> it."),
+            ("nothing", "", "The probe session produced no readable token usage.",
+             f"No session transcript was found under {self.home.projects} and the CLI returned no "
+             "usage block."),
+            ("failed", "Credit balance is too low", "The probe session reported an error.",
+             "Credit balance is too low"),
+            ("failed", "x" * 501, "The probe session reported an error.", "x" * 500 + "…"),
+            ("many-turns", "", NOTHING_READ,
+             "No session transcript was found, and the CLI usage block covers 3 turns. That block "
+             "accumulates across turns, so it double-counts cached tokens and cannot be shown as "
+             "the startup total. Nothing was measured — try again."),
+            ("unknown-turns", "", NOTHING_READ,
+             "No session transcript was found, and the CLI did not report how many turns its usage "
+             "block covers. That block accumulates across turns, so it can only be trusted for a "
+             "single-turn session. Nothing was measured — try again."),
+            ("signed-out", "", "Claude Code is not signed in.",
+             "Run `claude` in Terminal and sign in, then scan again. This app never handles Claude "
+             "credentials."),
+        ):
+            with self.subTest(outcome):
+                self.home.play(outcome, message=message)
+                self.assert_fails(program, headline, detail)
 
     def test_the_session_takes_too_long(self) -> None:
         program = self.open_and_choose("--timeout", "0.5")
@@ -113,17 +89,6 @@ class FailuresTest(EndToEndCase):
             program,
             "The probe session took longer than 5 minutes.",
             "Nothing was measured. Try again, or try a smaller repository.",
-        )
-
-    def test_the_turns_are_unknown(self) -> None:
-        program = self.open_and_choose()
-        self.home.play("unknown-turns")
-        self.assert_fails(
-            program,
-            NOTHING_READ,
-            "No session transcript was found, and the CLI did not report how many turns its usage "
-            "block covers. That block accumulates across turns, so it can only be trusted for a "
-            "single-turn session. Nothing was measured — try again.",
         )
 
     def test_a_later_scan_may_succeed(self) -> None:

@@ -7,15 +7,16 @@ import os
 import re
 from pathlib import Path
 
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
-from program import Program, environment_for
+from endtoend_case import SCAN, main
+from program import Program
+from traced_case import TracedCase
 from waiting import until
 
 IMAGE = "<img src={}>"
 REPOSITORY = IMAGE.format("x")
 
 
-class HostileTextsTest(EndToEndCase):
+class HostileTextsTest(TracedCase):
     """Every text that the window takes from outside names a picture that would be loaded as markup."""
 
     display_height = 4000
@@ -25,8 +26,6 @@ class HostileTextsTest(EndToEndCase):
         self.bait = self.home.path / "bait.png"
         self.bait.write_bytes(b"no picture")
         self.markup = IMAGE.format(f"file://{self.bait}")
-        self.log = self.home.path.with_name(self.home.path.name + ".trace")
-        self.addCleanup(lambda: self.log.unlink(missing_ok=True))
 
     def record(self, number: int) -> dict[str, object]:
         """A recorded scan, hostile wherever it holds a text."""
@@ -52,16 +51,9 @@ class HostileTextsTest(EndToEndCase):
             encoding="utf-8",
         )
 
-    def open_traced(self) -> Program:
-        """The program, with every file that it opens written down."""
-        command = ["strace", "-D", "-f", "--seccomp-bpf", "-q", "-s", "4096", "-e", "signal=none"]
-        command += ["-e", "trace=open,openat,socket", "-o", str(self.log)]
-        environment = environment_for(self.home.path)
-        # The leak checker is a tracer itself, and there can be but one.
-        environment["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
-        program = Program([*command, *window_command()], environment)
-        self.addCleanup(program.kill)
-        program.window.wait_for(CHOOSE, "push button")
+    def open_high(self) -> Program:
+        """The window, high enough for each page, with a log of every file that it opens."""
+        program = self.open_traced("open,openat,socket")
         program.window.resize(1180, self.display_height - 100)
         return program
 
@@ -76,10 +68,7 @@ class HostileTextsTest(EndToEndCase):
 
     def assert_loaded_nothing(self, program: Program) -> None:
         """The bait was left alone, and nobody was asked for anything."""
-        self.assertEqual(program.close(), 0)
-        end = f"{program.process.pid} +++ exited with 0 +++"
-        until("the trace's end", lambda: end in re.sub(" +", " ", self.log.read_text()))
-        trace = self.log.read_text(encoding="utf-8", errors="replace")
+        trace = self.close_traced(program)
         self.assertTrue(REPOSITORY in trace, "the trace does not even hold what was opened")
         self.assertFalse(self.bait.name in trace, "the picture was looked for")
         self.assertEqual(set(re.findall(r"\bsocket\((\w+),", trace)), {"AF_UNIX"})
@@ -92,7 +81,7 @@ class HostileTextsTest(EndToEndCase):
 
     def test_every_page_shows_a_good_scan_to_the_letter(self) -> None:
         self.plant()
-        program = self.open_traced()
+        program = self.open_high()
         self.choose(program, self.repository())
         program.window.press(SCAN)
         program.window.wait_for("Scan complete")
@@ -102,7 +91,7 @@ class HostileTextsTest(EndToEndCase):
         self.assert_loaded_nothing(program)
 
     def test_a_session_that_fails_in_markup_is_shown_to_the_letter(self) -> None:
-        program = self.open_traced()
+        program = self.open_high()
         self.choose(program, self.repository())
         self.home.play("failed", message=self.markup)
         program.window.press(SCAN)

@@ -5,13 +5,13 @@ from __future__ import annotations
 from typing import Any, Optional
 
 from accessible_tree import Atspi
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
-from program import Program, environment_for
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, main
+from program import Program
 
 NOTHING_CHOSEN = "No repository selected"
 
 
-def place(item: Any) -> Any:
+def extents_of(item: Any) -> Any:
     """Where the object is on the screen."""
     return Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
 
@@ -25,17 +25,15 @@ class LanguagesTest(EndToEndCase):
         """Opens the window in that language instead of the one before, over the same data."""
         if self._program:
             self._program.kill()
-        environment = environment_for(self.home.path) | {"LC_ALL": f"{language}.UTF-8"}
-        program = Program(window_command(*options), environment)
+        program = self.start(*options, environment={"LC_ALL": f"{language}.UTF-8"})
         self._program = program
-        self.addCleanup(program.kill)
         program.window.wait_for(CHOOSE, "push button")
         return program
 
     def start_of_words(self, program: Program) -> int:
         """How far from the window's left edge the sidebar's first words may begin."""
-        words = place(program.window.wait_for(NOTHING_CHOSEN, "label"))
-        return int(words.x - place(program.window.wait_for("Loadwick", "frame")).x)
+        words = extents_of(program.window.wait_for(NOTHING_CHOSEN, "label"))
+        return int(words.x - extents_of(program.window.wait_for("Loadwick", "frame")).x)
 
     def test_the_window_follows_the_direction_of_writing(self) -> None:
         english = self.start_of_words(self.open_in("en_US"))
@@ -46,9 +44,9 @@ class LanguagesTest(EndToEndCase):
         for language in ("en_US", "ar_EG"):
             with self.subTest(language):
                 window = self.open_in(language).window
-                frame = place(window.wait_for("Loadwick", "frame"))
-                choose = place(window.wait_for(CHOOSE, "push button"))
-                scan = place(window.wait_for("Scan", "push button"))
+                frame = extents_of(window.wait_for("Loadwick", "frame"))
+                choose = extents_of(window.wait_for(CHOOSE, "push button"))
+                scan = extents_of(window.wait_for("Scan", "push button"))
                 self.assertLess(choose.x, scan.x)
                 self.assertLess(frame.x + frame.width - (scan.x + scan.width), 40)
                 self.assertLess(scan.y - frame.y, 40)

@@ -5,6 +5,7 @@ from __future__ import annotations
 import subprocess
 import time
 
+from accessible_tree import xdotool
 from endtoend_case import CHOOSE, EndToEndCase, main, window_command
 from program import environment_for
 from throw_away_home import ThrowAwayHome
@@ -27,9 +28,8 @@ class SecondStartTest(EndToEndCase):
 
     def test_the_first_window_comes_back(self) -> None:
         program = self.open()
-        minimize = ["xdotool", "getactivewindow", "windowminimize"]
         program.window.key("ctrl+1")  # once the window is active
-        subprocess.run(minimize, check=True, timeout=LIMIT_SECONDS)
+        xdotool("getactivewindow", "windowminimize")
         second = self.start_again()
         self.assertEqual(second.returncode, 0)
         self.assertIn("Loadwick is open already", second.stdout)

@@ -6,9 +6,9 @@ import os
 import re
 from pathlib import Path
 
-from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
-from program import Program, environment_for
-from waiting import until
+from endtoend_case import SCAN, main
+from program import Program
+from traced_case import TracedCase
 
 TOKEN = "token-of-the-user-3f1c"
 # What a session must not inherit, each with a value that is easily found.
@@ -25,8 +25,8 @@ CALLS = "socket,socketpair,connect,bind,listen,sendto,sendmsg,execve"
 class Trace:
     """The system calls of a program and of all that it started."""
 
-    def __init__(self, file: Path) -> None:
-        self._lines = file.read_text(encoding="utf-8", errors="replace").splitlines()
+    def __init__(self, log: str) -> None:
+        self._lines = log.splitlines()
 
     def families(self) -> set[str]:
         """The kinds of sockets that were made."""
@@ -42,33 +42,18 @@ class Trace:
         return [line for line in self._lines if re.search(rf'execve\("[^"]*{program}"', line)]
 
 
-class SecurityTest(EndToEndCase):
+class SecurityTest(TracedCase):
     """One session, from the choice of a folder to the closed window."""
 
     def trace_a_session(self, outcome: str, words: str) -> Trace:
         """Scans once, looks at every page and closes the window."""
-        log = self.home.path.with_name(self.home.path.name + ".trace")
-        self.addCleanup(lambda: log.unlink(missing_ok=True))
-        command = ["strace", "-D", "-f", "--seccomp-bpf", "-q", "-v", "-s", "65536"]
-        command += ["-e", f"trace={CALLS}", "-e", "signal=none", "-o", str(log)]
-        environment = environment_for(self.home.path) | SCRUBBED
-        environment["CLAUDE_CODE_OAUTH_TOKEN"] = TOKEN
-        # The leak checker is a tracer itself, and there can be but one.
-        sanitizer = os.environ.get("ASAN_OPTIONS", "")
-        environment["ASAN_OPTIONS"] = f"{sanitizer}:detect_leaks=0"
-        program = Program([*command, *window_command()], environment)
-        self.addCleanup(program.kill)
+        program = self.open_traced(CALLS, CLAUDE_CODE_OAUTH_TOKEN=TOKEN, **SCRUBBED)
         self.use(program, outcome, words)
-        self.assertEqual(program.close(), 0)
-        # The tracer outlives what it traces.
-        end = f"\n{program.process.pid} +++ exited with 0 +++"
-        until("the trace's end", lambda: re.sub(" +", " ", log.read_text()).find(end) >= 0)
-        return Trace(log)
+        return Trace(self.close_traced(program))
 
     def use(self, program: Program, outcome: str, words: str) -> None:
         """What a user does with the window."""
         self.home.play(outcome)
-        program.window.wait_for(CHOOSE, "push button")
         self.choose(program, self.home.make_repository("webshop"))
         program.window.press(SCAN)
         program.window.wait_for(words)

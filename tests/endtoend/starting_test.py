@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import subprocess
 
+from accessible_tree import xdotool
 from endtoend_case import EndToEndCase, main, window_command
 from program import environment_for
 from waiting import LIMIT_SECONDS
@@ -19,14 +20,8 @@ class SmallScreenTest(EndToEndCase):
     def test_the_window_opens_no_higher_than_the_screen(self) -> None:
         program = self.open()
         program.window.key("ctrl+1")  # once the window is active
-        answer = subprocess.run(
-            ["xdotool", "getactivewindow", "getwindowgeometry", "--shell"],
-            check=True,
-            capture_output=True,
-            text=True,
-            timeout=LIMIT_SECONDS,
-        )
-        size = dict(line.split("=", 1) for line in answer.stdout.splitlines())
+        answer = xdotool("getactivewindow", "getwindowgeometry", "--shell")
+        size = dict(line.split("=", 1) for line in answer.splitlines())
         self.assertEqual(int(size["WIDTH"]), 1180)
         self.assertEqual(int(size["HEIGHT"]), self.display_height - TITLE_BAR)
 

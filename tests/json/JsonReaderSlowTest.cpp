@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/PeakMemory.h"
+#include "support/ProcessMemory.h"
 
 namespace Loadwick {
 

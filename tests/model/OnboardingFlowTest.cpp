@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/FakeCompletionStore.h"
+#include "support/ScanFakes.h"
 
 namespace Loadwick {
 

@@ -6,7 +6,7 @@
 
 #include "probe/ProbeError.h"
 #include "probe/SlabParser.h"
-#include "support/PeakMemory.h"
+#include "support/ProcessMemory.h"
 
 namespace Loadwick {
 

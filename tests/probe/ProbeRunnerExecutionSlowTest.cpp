@@ -8,8 +8,8 @@
 #include "probe/ProbeRunner.h"
 #include "samples/TemporaryFolder.h"
 #include "support/HostileChild.h"
-#include "support/PeakMemory.h"
 #include "support/ProcessCensus.h"
+#include "support/ProcessMemory.h"
 #include "support/Sanitizers.h"
 #include "support/Stopwatch.h"
 

@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "samples/TemporaryFolder.h"
-#include "support/MemoryShortage.h"
 #include "support/ProcessCensus.h"
+#include "support/ProcessMemory.h"
 #include "support/Sanitizers.h"
 #include "support/Stopwatch.h"
 

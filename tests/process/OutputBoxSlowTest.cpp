@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/MemoryShortage.h"
+#include "support/ProcessMemory.h"
 #include "support/Sanitizers.h"
 
 namespace Loadwick {

@@ -6,8 +6,7 @@
 
 #include "model/ScanModel.h"
 #include "samples/TemporaryFolder.h"
-#include "support/FakeInstructionScanner.h"
-#include "support/FakeProbe.h"
+#include "support/ScanFakes.h"
 #include "support/SteppingDispatcher.h"
 
 namespace Loadwick {

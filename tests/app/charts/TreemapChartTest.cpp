@@ -7,7 +7,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "support/ProcessorTime.h"
+#include "support/Stopwatch.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

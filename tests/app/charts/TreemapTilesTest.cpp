@@ -5,7 +5,7 @@
 
 #include <QTest>
 
-#include "support/ProcessorTime.h"
+#include "support/Stopwatch.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

@@ -3,7 +3,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 
-#include "support/FakeCompletionStore.h"
+#include "support/ScanFakes.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 

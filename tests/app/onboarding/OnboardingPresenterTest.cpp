@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "base/QtText.h"
-#include "support/FakeCompletionStore.h"
+#include "support/ScanFakes.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 

@@ -5,7 +5,7 @@
 
 #include "samples/SampleReport.h"
 #include "samples/SampleScans.h"
-#include "support/ProcessorTime.h"
+#include "support/Stopwatch.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {

@@ -20,8 +20,7 @@
 
 #include "samples/TemporaryFolder.h"
 #include "support/FakeFolderChooser.h"
-#include "support/FakeInstructionScanner.h"
-#include "support/FakeProbe.h"
+#include "support/ScanFakes.h"
 #include "support/StandInProgram.h"
 #include "support/TestRegistry.h"
 

@@ -6,8 +6,8 @@
 
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
-#include "support/FakeCompletionStore.h"
 #include "support/MotionSampler.h"
+#include "support/ScanFakes.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"

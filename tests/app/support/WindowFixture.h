@@ -8,9 +8,8 @@
 #include "shell/LoadwickWindow.h"
 #include "support/FakeFileSaver.h"
 #include "support/FakeFolderChooser.h"
-#include "support/FakeInstructionScanner.h"
 #include "support/FakeNoticeBoard.h"
-#include "support/FakeProbe.h"
+#include "support/ScanFakes.h"
 #include "support/SteppingDispatcher.h"
 #include "theme/Appearance.h"
 

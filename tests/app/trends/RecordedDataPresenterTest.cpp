@@ -3,9 +3,8 @@
 #include <QTest>
 
 #include "samples/TemporaryFolder.h"
-#include "support/FakeInstructionScanner.h"
-#include "support/FakeProbe.h"
 #include "support/RecordedScanBuilder.h"
+#include "support/ScanFakes.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 

@@ -5,7 +5,7 @@
 #include <QObject>
 
 #include "onboarding/OnboardingPresenter.h"
-#include "support/FakeCompletionStore.h"
+#include "support/ScanFakes.h"
 
 namespace Loadwick {
 

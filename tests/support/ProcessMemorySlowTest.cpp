@@ -1,4 +1,4 @@
-#include "support/PeakMemory.h"
+#include "support/ProcessMemory.h"
 
 #include <string>
 
@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-TEST(PeakMemorySlowTest, seesWhatWasUsedMeanwhile)
+TEST(ProcessMemorySlowTest, seesThePeakOfMemoryThatIsFreeAgain)
 {
     constexpr std::size_t size = 64U << 20;
     const PeakMemory memory;

@@ -1,9 +1,10 @@
-#include "support/PeakMemory.h"
+#include "support/ProcessMemory.h"
 
 #include <fstream>
 #include <string>
 
 #include <malloc.h>
+#include <unistd.h>
 
 #include "text/Fatal.h"
 
@@ -21,7 +22,7 @@ std::size_t statusBytes(const std::string &name)
         if (word == name && status >> kibibytes)
             return kibibytes * 1024;
     }
-    fatalError("the resident memory is not to be had");
+    fatalError("the resident memory is unknown");
 }
 
 } // namespace
@@ -29,7 +30,7 @@ std::size_t statusBytes(const std::string &name)
 PeakMemory::PeakMemory()
 {
     malloc_trim(0);
-    // 5 sets the peak back to what is resident now.
+    // 5 resets the peak to what is resident now.
     std::ofstream("/proc/self/clear_refs") << "5" << std::flush;
     m_atStart = statusBytes("VmRSS:");
 }
@@ -38,6 +39,21 @@ std::size_t PeakMemory::growthInBytes() const
 {
     const std::size_t peak = statusBytes("VmHWM:");
     return peak > m_atStart ? peak - m_atStart : 0;
+}
+
+MemoryShortage::MemoryShortage(rlim_t spareBytes)
+{
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    getrlimit(RLIMIT_AS, &m_usual);
+    const rlim_t bytes = pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + spareBytes;
+    const rlimit scarce{bytes, m_usual.rlim_max};
+    setrlimit(RLIMIT_AS, &scarce);
+}
+
+MemoryShortage::~MemoryShortage()
+{
+    setrlimit(RLIMIT_AS, &m_usual);
 }
 
 } // namespace Loadwick
