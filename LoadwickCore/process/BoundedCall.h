@@ -11,8 +11,8 @@
 
 namespace Loadwick {
 
-/// Runs `call` on a thread of its own and waits for its value at most `limit` seconds. Nothing when
-/// the limit came first, and always when it is 0 or less: the call then goes on alone, so it must
+/// Runs `call` on a thread of its own and waits at most `limit` seconds for its value. Nothing when
+/// the limit came first, and always when it is 0 or less: the call then continues alone, so it must
 /// own all that it touches. An exception of the call, or of starting the thread, reaches the
 /// caller.
 template<typename Call>

@@ -7,15 +7,56 @@
 #include <thread>
 #include <utility>
 
+#include <poll.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
-#include "process/ProcessSpawn.h"
+#if defined(__linux__)
+#include <sys/syscall.h>
+#endif
 
 namespace Loadwick {
 
 namespace {
 
-/// How a child ended, once it has; nobody's end when the child is not ours (any more).
+#if defined(__linux__)
+
+FileDescriptor exitHandle(pid_t child) noexcept
+{
+    return FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
+}
+
+#else
+
+FileDescriptor exitHandle(pid_t) noexcept
+{
+    return FileDescriptor();
+}
+
+#endif
+
+bool hasEnded(pid_t child) noexcept
+{
+    siginfo_t found{};
+    int result = 0;
+    do
+        result = waitid(P_PID, static_cast<id_t>(child), &found, WEXITED | WNOHANG | WNOWAIT);
+    while (result != 0 && errno == EINTR);
+    return result != 0 || found.si_pid == child;
+}
+
+void pauseUntilEndOr(Deadline deadline, int handle)
+{
+    using namespace std::chrono_literals;
+    if (handle == FileDescriptor::none) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(millisecondsUntil(deadline, 10ms)));
+        return;
+    }
+    pollfd ended{handle, POLLIN, 0};
+    poll(&ended, 1, millisecondsUntil(deadline, 60s));
+}
+
+/// How a child ended, once it has; all zero for a process that is not, or no longer, our child.
 siginfo_t reapedEnd(pid_t processID) noexcept
 {
     siginfo_t found{};
@@ -26,6 +67,18 @@ siginfo_t reapedEnd(pid_t processID) noexcept
 
 } // namespace
 
+ExitWatch::ExitWatch(pid_t child) noexcept : m_child(child), m_handle(exitHandle(child)) {}
+
+bool ExitWatch::waitUntil(Deadline deadline) const
+{
+    while (!hasEnded(m_child)) {
+        if (std::chrono::steady_clock::now() >= deadline)
+            return false;
+        pauseUntilEndOr(deadline, m_handle.number());
+    }
+    return true;
+}
+
 ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams &streams,
                                  std::shared_ptr<Shutdown> shutdown)
 {
@@ -34,7 +87,7 @@ ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams
     if (!entry.isAnnounced())
         refuse();
     ChildProcess child(spawnSessionLeader(command, streams), std::move(entry));
-    // not taken: the end would have to be requested while the child is being spawned
+    // unreachable: the end would have to be requested while the child is being spawned
     if (!child.m_entry.enter(child.m_processID))
         refuse();
     return child;
@@ -55,7 +108,7 @@ ChildProcess::~ChildProcess()
     if (m_processID == 0)
         return;
     signalGroup(SIGKILL);
-    // not taken: what survives SIGKILL is stuck inside the system
+    // unreachable: what survives SIGKILL is stuck inside the system
     if (waitUntil(deadlineAfter(survivalSeconds)))
         reap();
     else
@@ -81,8 +134,9 @@ ChildProcess::Ending ChildProcess::reap()
     return {found.si_status, found.si_pid != 0 && found.si_code != CLD_EXITED};
 }
 
-// The number travels alone: a thread that cannot be started must not leave an owner behind whose
-// destructor would wait once more. The list of children goes without it, since the kill was sent.
+// The number travels alone: a thread that cannot be started must not leave an owner whose
+// destructor would wait once more. The shutdown list does without the child, since the kill was
+// sent.
 void ChildProcess::abandon(ChildProcess child) noexcept
 {
     const pid_t processID = std::exchange(child.m_processID, 0);
@@ -92,6 +146,22 @@ void ChildProcess::abandon(ChildProcess child) noexcept
     } catch (const std::exception &) { // no thread, or no memory for one
         return;
     }
+}
+
+void ProcessTermination::terminateThenKill(const ChildProcess &child, double graceSeconds)
+{
+    if (!child.isRunning())
+        return;
+    child.signal(SIGTERM);
+    if (!child.waitUntil(deadlineAfter(graceSeconds)))
+        child.signal(SIGKILL);
+}
+
+void ProcessTermination::sweepGroup(const ChildProcess &child)
+{
+    child.signalGroup(SIGTERM);
+    std::this_thread::sleep_for(std::chrono::duration<double>(sweepGraceSeconds));
+    child.signalGroup(SIGKILL);
 }
 
 } // namespace Loadwick

@@ -5,15 +5,31 @@
 
 #include <sys/types.h>
 
-#include "process/ChildCommand.h"
+#include "posix/FileDescriptor.h"
 #include "process/Deadline.h"
-#include "process/ExitWatch.h"
+#include "process/ProcessSpawn.h"
 #include "process/Shutdown.h"
-#include "process/ShutdownEntry.h"
 
 namespace Loadwick {
 
-/// The one owner of a running child, which leads a process group of its own. Nobody else reaps it,
+/// Waits for the end of a child without reaping it, so that its number stays its own while it may
+/// be signalled.
+class ExitWatch
+{
+public:
+    /// `child` is a child of this process that has not been reaped.
+    explicit ExitWatch(pid_t child) noexcept;
+
+    /// Blocks until the child has ended or `deadline` has passed; true for the former. A process
+    /// that is not, or no longer, our child counts as ended.
+    [[nodiscard]] bool waitUntil(Deadline deadline) const;
+
+private:
+    pid_t m_child;
+    FileDescriptor m_handle; ///< becomes readable when the child ends; none where unsupported
+};
+
+/// The one owner of a running child, which leads a process group of its own. Nothing else reaps it,
 /// so its number stays valid until `reap`. Used by one thread at a time; movable.
 class ChildProcess
 {
@@ -28,14 +44,14 @@ public:
         friend bool operator==(const Ending &, const Ending &) = default;
     };
 
-    /// Starts the child and enters its group in `shutdown` (which may be absent) until it is
-    /// reaped. Throws `std::system_error`; ECANCELED once the program's end was requested.
+    /// Starts the child and lists its group in `shutdown` (which may be null) until it is reaped.
+    /// Throws `std::system_error`; ECANCELED once the end of the program was requested.
     [[nodiscard]] static ChildProcess start(const ChildCommand &command,
                                             const ChildStreams &streams,
                                             std::shared_ptr<Shutdown> shutdown);
 
-    /// Kills what was not reaped, with its group, and reaps it: at once, or in the background when
-    /// it survives for `survivalSeconds`.
+    /// Kills a child that was not reaped, with its group, and reaps it: at once, or in the
+    /// background if it survives for `survivalSeconds`.
     ~ChildProcess();
 
     ChildProcess(ChildProcess &&other) noexcept;
@@ -49,11 +65,11 @@ public:
     [[nodiscard]] bool waitUntil(Deadline deadline) const { return m_exit.waitUntil(deadline); }
     [[nodiscard]] bool isRunning() const { return !waitUntil(Deadline::min()); }
 
-    /// Signals the child alone, or its whole group. Errors are of no interest: who is gone is gone.
+    /// Signals the child alone, or its whole group. Errors are ignored: the process is gone then.
     void signal(int number) const noexcept;
     void signalGroup(int number) const noexcept;
 
-    /// Reaps the child, waiting for its end if need be. Afterwards this object owns nothing.
+    /// Reaps the child, waiting for its end if necessary. This object owns nothing afterwards.
     Ending reap();
 
     /// Leaves `child` to a background thread that reaps it when it ends.
@@ -62,9 +78,24 @@ public:
 private:
     ChildProcess(pid_t processID, ShutdownEntry entry) noexcept;
 
-    pid_t m_processID; ///< 0 when there is nothing to reap (any more)
+    pid_t m_processID; ///< 0 when there is nothing to reap
     ExitWatch m_exit;
     ShutdownEntry m_entry;
 };
+
+/// Stops a child that ran too long, and what it leaves behind.
+namespace ProcessTermination {
+
+inline constexpr double sweepGraceSeconds = 0.2;
+
+/// Asks the child itself to end (SIGTERM) and kills it if it still runs `graceSeconds` later. Does
+/// not reap, and does not wait for the kill. Does nothing to a child that has ended.
+void terminateThenKill(const ChildProcess &child, double graceSeconds);
+
+/// Asks the rest of the child's group to end, and kills it `sweepGraceSeconds` later. The child
+/// must not have been reaped: its number could be another process's.
+void sweepGroup(const ChildProcess &child);
+
+} // namespace ProcessTermination
 
 } // namespace Loadwick

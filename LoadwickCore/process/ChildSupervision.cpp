@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "posix/FileDescriptor.h"
-#include "process/ProcessTermination.h"
 #include "process/StreamReaders.h"
 
 namespace Loadwick::ChildSupervision {
@@ -48,8 +47,7 @@ void startReaders(StreamReaders &readers, const StartedChild &child)
         readers.start(child.standardError, OutputBox::Stream::standardError);
 }
 
-// True when the child ended before `timeout`. Once its output is lost there is nothing left to wait
-// for.
+// True when the child ended before `timeout`. Once its output is lost, waiting is pointless.
 bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &box)
 {
     while (!child.waitUntil(std::min(timeout, deadlineAfter(memoryCheckSeconds)))) {
@@ -61,8 +59,8 @@ bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &bo
     return true;
 }
 
-// True when the time-out found the child running. Without a limit on the wait for its death, one
-// that is stuck inside the system would hold the scan for ever.
+// True when the time-out found the child running. Without a limit on the wait for its death, a
+// child that is stuck inside the system would block the caller for ever.
 bool stopAtTimeout(const ChildProcess &child, const Request &request, const OutputBox &box)
 {
     if (endsBefore(deadlineAfter(request.timeoutSeconds), child, box))
@@ -74,7 +72,7 @@ bool stopAtTimeout(const ChildProcess &child, const Request &request, const Outp
 
 ChildProcess::Ending endingOf(ChildProcess child)
 {
-    // not taken: what survives SIGKILL is stuck inside the system
+    // unreachable: what survives SIGKILL is stuck inside the system
     if (!child.isRunning())
         return child.reap();
     ChildProcess::abandon(std::move(child));

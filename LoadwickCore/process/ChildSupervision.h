@@ -6,11 +6,10 @@
 #include <string>
 #include <system_error>
 
-#include "process/ChildCommand.h"
 #include "process/ChildProcess.h"
 #include "process/Shutdown.h"
 
-/// Runs one child under deadlines, so that neither it nor anything it starts can keep us waiting.
+/// Runs one child under deadlines, so that neither it nor anything it starts can block the caller.
 namespace Loadwick::ChildSupervision {
 
 enum class Capture
@@ -27,7 +26,7 @@ struct Request
     double readerGraceSeconds; ///< for the streams, after the child's end
     std::size_t captureLimit;  ///< bytes kept of each stream
     Capture capture = Capture::bothStreams;
-    std::shared_ptr<Shutdown> shutdown; ///< may be absent
+    std::shared_ptr<Shutdown> shutdown; ///< may be null
 };
 
 struct Outcome
@@ -36,10 +35,10 @@ struct Outcome
     std::optional<std::string> standardOutput; ///< bytes; nothing when they exceeded the limit
     std::optional<std::string> standardError;
     bool terminationRequested = false; ///< the time-out found the child running
-    bool readersTimedOut = false;      ///< a stream had not ended when its reader had to stop
+    bool readersTimedOut = false;      ///< a stream was still open when its reader had to stop
 };
 
-/// There is no child: no pipe, no such executable, no such folder, or the program is ending.
+/// The child could not be started: no pipe, executable or folder, or the program is ending.
 class StartFailed : public std::system_error
 {
 public:

@@ -5,7 +5,7 @@
 
 namespace Loadwick {
 
-/// A moment on the clock that nobody can set.
+/// A moment on the monotonic clock.
 using Deadline = std::chrono::steady_clock::time_point;
 
 /// The moment `seconds` from now. A negative duration or NaN counts as 0, and anything above a year

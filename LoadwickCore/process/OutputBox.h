@@ -6,11 +6,43 @@
 #include <span>
 #include <string>
 
-#include "process/CapturedBytes.h"
-
 namespace Loadwick {
 
-/// What the readers of one execution put down and its caller picks up. Shared by their threads.
+/// The bytes read from one stream, up to a limit. A long text reserves address space for its whole
+/// limit at once: that costs no memory until it is written, and nothing is ever copied or held
+/// twice.
+class CapturedBytes
+{
+public:
+    explicit CapturedBytes(std::size_t limit) noexcept : m_limit(limit) {}
+
+    /// Adds `chunk`. Drops everything, now and from then on, beyond the limit or without memory.
+    void append(std::span<const char> chunk) noexcept;
+
+    /// Whether memory ran out, so that `join` would throw.
+    [[nodiscard]] bool ranOutOfMemory() const noexcept { return m_state == State::outOfMemory; }
+
+    /// Everything, in order; nothing when there was more than the limit. Throws `std::bad_alloc`
+    /// when memory ran out.
+    [[nodiscard]] std::optional<std::string> join() &&;
+
+private:
+    enum class State
+    {
+        complete,
+        beyondLimit,
+        outOfMemory
+    };
+
+    void makeRoomFor(std::size_t byteCount);
+    void drop(State reason) noexcept;
+
+    std::size_t m_limit;
+    std::string m_text;
+    State m_state = State::complete;
+};
+
+/// The output of one execution, from its readers to its caller. Shared by their threads.
 class OutputBox
 {
 public:
@@ -25,14 +57,14 @@ public:
 
     void append(Stream stream, std::span<const char> chunk) noexcept;
 
-    /// Empties a stream; what comes for it later is dropped. Nothing when it exceeded the limit.
+    /// Empties a stream and drops what it receives later. Nothing when it exceeded the limit.
     /// Throws `std::bad_alloc`.
     [[nodiscard]] std::optional<std::string> take(Stream stream);
 
-    /// There was no memory for a stream, all of which is lost: `take` of it would throw.
+    /// Whether a stream was lost for want of memory: `take` of it would throw.
     [[nodiscard]] bool ranOutOfMemory() const;
 
-    /// A reader had to stop before its stream ended.
+    /// Notes that a reader had to stop before its stream ended.
     void noteReaderTimeOut();
     [[nodiscard]] bool readersDidTimeOut() const;
 

@@ -9,7 +9,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace Loadwick::PipeDrain {
+namespace Loadwick {
 
 namespace {
 
@@ -36,8 +36,8 @@ void makeNonBlocking(int descriptor) noexcept
 Readiness waitForInput(int descriptor, const ReaderDeadline &deadline)
 {
     const auto expiry = deadline.expiry();
-    const int milliseconds =
-        expiry ? millisecondsUntil(*expiry, pollInterval) : static_cast<int>(pollInterval.count());
+    const int milliseconds = expiry ? millisecondsUntil(*expiry, PipeDrain::pollInterval)
+                                    : static_cast<int>(PipeDrain::pollInterval.count());
     pollfd input{descriptor, POLLIN, 0};
     const int count = poll(&input, 1, milliseconds);
     if (count > 0)
@@ -45,23 +45,41 @@ Readiness waitForInput(int descriptor, const ReaderDeadline &deadline)
     return count == 0 || errno == EINTR ? Readiness::notYet : Readiness::failed;
 }
 
-Step readOnce(int descriptor, std::span<char> buffer, const Sink &sink)
+Step readOnce(int descriptor, std::span<char> buffer, const PipeDrain::Sink &sink)
 {
     const ssize_t count = read(descriptor, buffer.data(), buffer.size());
     if (count > 0) {
         sink(buffer.first(static_cast<std::size_t>(count)));
         return Step::goOn;
     }
-    // not taken: nobody else reads what poll has seen, and two of the numbers are one here
+    // unreachable: nothing else reads what poll has seen, and two of the numbers are one here
     if (count == 0 || (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR))
         return Step::stop;
-    std::this_thread::sleep_for(backOff);
+    std::this_thread::sleep_for(PipeDrain::backOff);
     return Step::goOn;
 }
 
 } // namespace
 
-bool run(FileDescriptor descriptor, const ReaderDeadline &deadline, const Sink &sink)
+void ReaderDeadline::setExpiry(Deadline expiry)
+{
+    const std::lock_guard lock(m_lock);
+    m_expiry = expiry;
+}
+
+std::optional<Deadline> ReaderDeadline::expiry() const
+{
+    const std::lock_guard lock(m_lock);
+    return m_expiry;
+}
+
+bool ReaderDeadline::hasPassed() const
+{
+    const std::optional<Deadline> moment = expiry();
+    return moment && std::chrono::steady_clock::now() >= *moment;
+}
+
+bool PipeDrain::run(FileDescriptor descriptor, const ReaderDeadline &deadline, const Sink &sink)
 {
     const FileDescriptor input = std::move(descriptor);
     std::array<char, bufferSize> buffer;
@@ -77,4 +95,4 @@ bool run(FileDescriptor descriptor, const ReaderDeadline &deadline, const Sink &
     return true;
 }
 
-} // namespace Loadwick::PipeDrain
+} // namespace Loadwick

@@ -3,23 +3,45 @@
 #include <chrono>
 #include <cstddef>
 #include <functional>
+#include <mutex>
+#include <optional>
 #include <span>
 
 #include "posix/FileDescriptor.h"
-#include "process/ReaderDeadline.h"
+#include "process/Deadline.h"
+
+namespace Loadwick {
+
+/// The moment at which the readers of one execution stop, unknown until its child has ended. Shared
+/// by their threads.
+class ReaderDeadline
+{
+public:
+    void setExpiry(Deadline expiry);
+
+    /// Nothing while the readers may wait without limit.
+    [[nodiscard]] std::optional<Deadline> expiry() const;
+    [[nodiscard]] bool hasPassed() const;
+
+private:
+    mutable std::mutex m_lock;
+    std::optional<Deadline> m_expiry;
+};
 
 /// Reads a pipe to its end, or to the reader's deadline.
-namespace Loadwick::PipeDrain {
+namespace PipeDrain {
 
 inline constexpr std::size_t bufferSize = 65'536; ///< bytes
 inline constexpr std::chrono::milliseconds pollInterval{50};
-inline constexpr std::chrono::microseconds backOff{1'000}; ///< after a read that had to give up
+inline constexpr std::chrono::microseconds backOff{1'000}; ///< after a read that found nothing
 
 using Sink = std::function<void(std::span<const char> chunk)>;
 
-/// Hands every chunk that comes to `sink` and closes `descriptor` at the end, which it makes
-/// non-blocking. True when it stopped because `deadline` had passed, at most `pollInterval` after;
-/// false at the end of the stream and on an error. Blocking.
+/// Hands every chunk to `sink`, then closes `descriptor`, which it makes non-blocking. True when it
+/// stopped because `deadline` had passed, at most `pollInterval` later; false at the end of the
+/// stream and on an error. Blocking.
 [[nodiscard]] bool run(FileDescriptor descriptor, const ReaderDeadline &deadline, const Sink &sink);
 
-} // namespace Loadwick::PipeDrain
+} // namespace PipeDrain
+
+} // namespace Loadwick

@@ -100,7 +100,7 @@ void Attributes::setOwnSessionAndDefaultSignals()
     check(posix_spawnattr_setflags(&m_attributes, static_cast<short>(flags)));
 }
 
-// The system would cut such a text at the NUL and take what stands before it.
+// The system would cut such a text at the NUL.
 void refuseEmbeddedNul(const std::string &text, int error)
 {
     if (text.find('\0') != std::string::npos)
@@ -159,7 +159,7 @@ pid_t spawnSessionLeader(const ChildCommand &command, const ChildStreams &stream
 
     std::vector<std::string> arguments = argumentTexts(command);
     std::vector<std::string> environment = environmentTexts(command.environment);
-    // The child enters its folder first: a relative path must not lead to a file there.
+    // The child enters its folder first: a relative path must not lead to a file in it.
     const std::filesystem::path executable = currentFolder() / command.executable;
     pid_t child = 0;
     check(posix_spawn(&child, executable.c_str(), actions.get(), attributes.get(),

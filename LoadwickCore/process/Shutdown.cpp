@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <utility>
 
 #include "process/Deadline.h"
 
@@ -70,12 +71,40 @@ void Shutdown::stopChildren(std::chrono::duration<double> grace)
     signalGroups(SIGKILL);
 }
 
-// Under the lock, so that no listed leader is reaped meanwhile and its number given away.
+// Under the lock, so that no listed leader is reaped and its number reused meanwhile.
 void Shutdown::signalGroups(int number)
 {
     for (const pid_t group : m_groups)
         if (group > 1)
             kill(-group, number);
+}
+
+ShutdownEntry::ShutdownEntry(std::shared_ptr<Shutdown> shutdown)
+    : m_shutdown(std::move(shutdown)), m_isAnnounced(!m_shutdown || m_shutdown->announce())
+{}
+
+bool ShutdownEntry::enter(pid_t group)
+{
+    if (!m_shutdown)
+        return true;
+    if (!m_shutdown->add(group))
+        return false;
+    m_group = group;
+    m_shutdown->withdraw();
+    m_isAnnounced = false;
+    return true;
+}
+
+void ShutdownEntry::leave()
+{
+    // The pointer also tells a live entry from one that was moved from.
+    const std::shared_ptr<Shutdown> shutdown = std::move(m_shutdown);
+    if (!shutdown)
+        return;
+    if (m_group != 0)
+        shutdown->remove(m_group);
+    if (m_isAnnounced)
+        shutdown->withdraw();
 }
 
 } // namespace Loadwick

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 #include <vector>
 
@@ -9,31 +10,31 @@
 
 namespace Loadwick {
 
-/// The program's end, as its background work sees it: a latch that wakes every wait, and the list
-/// of child process groups that must not outlive the program. Shared by all threads.
+/// The end of the program, for its background work: a latch that wakes every wait, and the list of
+/// child process groups that must not outlive the program. Shared by all threads.
 class Shutdown
 {
 public:
-    /// Wakes every `waitFor`, now and later. Cannot be taken back.
+    /// Wakes every `waitFor`, now and later. Cannot be undone.
     void request();
     [[nodiscard]] bool isRequested() const;
 
     /// Sleeps until `duration` has passed or the end was requested; true for the latter.
     bool waitFor(std::chrono::duration<double> duration);
 
-    /// Announces a child that is about to start, so that `stopChildren` waits for its group to be
-    /// entered. False, and nothing announced, once the end was requested: start no child then.
+    /// Announces a child that is about to start, so that `stopChildren` waits until its group is
+    /// listed. False, and nothing announced, once the end was requested: start no child then.
     [[nodiscard]] bool announce();
 
-    /// Takes an announcement back, once the child was added or could not be started.
+    /// Withdraws an announcement, once the child was added or could not be started.
     void withdraw();
 
-    /// Enters a process group whose leader is our child. False, and nothing entered, once the end
-    /// was requested: the caller then stops the child itself.
+    /// Lists a process group whose leader is our child. False, and nothing listed, once the end was
+    /// requested: the caller then stops the child itself.
     [[nodiscard]] bool add(pid_t group);
 
-    /// Takes a group off the list. Call it before the leader is reaped: from then on the number may
-    /// belong to somebody else.
+    /// Removes a group from the list. Call it before the leader is reaped: from then on the number
+    /// may belong to another process.
     void remove(pid_t group);
 
     /// Requests the end, sends every listed group SIGTERM and, to those still listed after `grace`,
@@ -48,6 +49,36 @@ private:
     std::vector<pid_t> m_groups;
     int m_announced = 0;
     bool m_isRequested = false;
+};
+
+/// The entry of one child in a `Shutdown`, from before its start until before it is reaped. Does
+/// nothing without a `Shutdown`. Movable; its destructor removes the entry.
+class ShutdownEntry
+{
+public:
+    /// Announces the child.
+    explicit ShutdownEntry(std::shared_ptr<Shutdown> shutdown);
+    ~ShutdownEntry() { leave(); }
+
+    ShutdownEntry(ShutdownEntry &&other) noexcept = default;
+    ShutdownEntry &operator=(ShutdownEntry &&other) = delete;
+    ShutdownEntry(const ShutdownEntry &) = delete;
+    ShutdownEntry &operator=(const ShutdownEntry &) = delete;
+
+    /// False once the end was requested: the child must not be started.
+    [[nodiscard]] bool isAnnounced() const noexcept { return m_isAnnounced; }
+
+    /// Turns the announcement into a listing of the started child's group. False when the end was
+    /// requested meanwhile: stop the child, and keep this object until that is done.
+    [[nodiscard]] bool enter(pid_t group);
+
+    /// Removes the entry. Call it before the child is reaped.
+    void leave();
+
+private:
+    std::shared_ptr<Shutdown> m_shutdown;
+    pid_t m_group = 0;
+    bool m_isAnnounced = false;
 };
 
 } // namespace Loadwick

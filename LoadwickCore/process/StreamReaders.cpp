@@ -1,17 +1,47 @@
 #include "process/StreamReaders.h"
 
+#include <condition_variable>
+#include <mutex>
 #include <thread>
 #include <utility>
 
 #include "process/PipeDrain.h"
-#include "process/ReaderDeadline.h"
-#include "process/WaitGroup.h"
 
 namespace Loadwick {
 
 namespace {
 
 constexpr double finalWaitSeconds = 1.0;
+
+/// Counts the readers under way.
+class WaitGroup
+{
+public:
+    void enter()
+    {
+        const std::lock_guard lock(m_lock);
+        ++m_count;
+    }
+
+    void leave()
+    {
+        const std::lock_guard lock(m_lock);
+        --m_count;
+        m_changed.notify_all();
+    }
+
+    /// Blocks until all have left, or until `deadline`; true for the former.
+    [[nodiscard]] bool waitUntil(Deadline deadline)
+    {
+        std::unique_lock lock(m_lock);
+        return m_changed.wait_until(lock, deadline, [this] { return m_count == 0; });
+    }
+
+private:
+    std::mutex m_lock;
+    std::condition_variable m_changed;
+    int m_count = 0;
+};
 
 } // namespace
 
@@ -62,7 +92,7 @@ bool StreamReaders::finish(double graceSeconds)
 {
     m_shared->deadline.setExpiry(deadlineAfter(graceSeconds));
     const bool inTime = m_shared->group.waitUntil(deadlineAfter(graceSeconds + finalWaitSeconds));
-    // not taken: a reader stops at its deadline unless the system lets it stand for a second
+    // unreachable: a reader stops at its deadline unless the system starves it for a second
     return inTime && !m_shared->box.readersDidTimeOut();
 }
 

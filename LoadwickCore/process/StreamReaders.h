@@ -8,8 +8,8 @@
 
 namespace Loadwick {
 
-/// The background readers of one child's streams. What they touch is theirs as well, so that one
-/// that is still blocked may outlive this object; it then stops at its next look at the deadline.
+/// The background readers of one child's streams. They share the ownership of all they touch, so
+/// that a blocked reader may outlive this object; it then stops when it next checks the deadline.
 class StreamReaders
 {
 public:
@@ -20,15 +20,14 @@ public:
     StreamReaders(const StreamReaders &) = delete;
     StreamReaders &operator=(const StreamReaders &) = delete;
 
-    /// Starts reading a duplicate of `readEnd`; a stream of which there can be none stays empty.
-    /// Throws `std::system_error` when there is no thread to be had.
+    /// Starts reading a duplicate of `readEnd`; the stream stays empty if that cannot be
+    /// duplicated. Throws `std::system_error` if no thread can be started.
     void start(const FileDescriptor &readEnd, OutputBox::Stream stream);
 
-    /// Gives the readers `graceSeconds` from now to come to the end of their streams, and waits
-    /// for them a second longer. True when every stream was read to its end.
+    /// Gives the readers `graceSeconds` from now to reach the ends of their streams, and waits for
+    /// them a second longer. True when every stream was read to its end.
     [[nodiscard]] bool finish(double graceSeconds);
 
-    /// What was read.
     [[nodiscard]] OutputBox &box() noexcept;
 
 private:

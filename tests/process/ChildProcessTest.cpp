@@ -137,7 +137,7 @@ TEST(ChildProcessTest, saysWhyItCouldNotStart)
               std::errc::no_such_file_or_directory);
 }
 
-TEST(ChildProcessTest, refusesTextsThatTheSystemWouldCut)
+TEST(ChildProcessTest, refusesTextsWithNul)
 {
     using namespace std::string_literals;
     EXPECT_EQ(startFailure({hostileChildPath() + "\0x"s, {}, {}, std::nullopt}),
@@ -151,7 +151,7 @@ TEST(ChildProcessTest, refusesTextsThatTheSystemWouldCut)
 TEST(ChildProcessTest, leavesNothingBehindWhenItCannotStart)
 {
     const ProcessCensus before = ProcessCensus::now();
-    EXPECT_TRUE(startFailure({"/nowhere/claude", {}, {}, std::nullopt}));
+    EXPECT_TRUE(startFailure({"/nowhere/command", {}, {}, std::nullopt}));
     EXPECT_TRUE(ProcessCensus::now().isWithin(before));
 }
 
@@ -180,6 +180,73 @@ TEST(ChildProcessTest, endsWithoutAStatusWhereTheSystemReapsItsChildrenItself)
     EXPECT_TRUE(child.waitUntil(deadlineAfter(30)));
     EXPECT_EQ(child.reap(), (Ending{.status = 0, .isBySignal = false}));
     std::signal(SIGCHLD, usual);
+}
+
+TEST(ChildProcessTest, isSeenToEndByAWatchAsOftenAsThatIsAsked)
+{
+    ChildProcess child = startHostileChild({"trap-term", "0"});
+    const ExitWatch watch(child.processID());
+    EXPECT_FALSE(watch.waitUntil(deadlineAfter(0.02)));
+    child.signal(SIGTERM);
+    EXPECT_TRUE(watch.waitUntil(deadlineAfter(30)));
+    EXPECT_TRUE(watch.waitUntil(Deadline::min()));
+    EXPECT_EQ(child.reap().status, 0);
+}
+
+TEST(ChildProcessTest, countsAsEndedForAWatchOnceItIsReaped)
+{
+    ChildProcess child = startHostileChild({"print", "x", "", "0"});
+    const pid_t processID = child.processID();
+    const ExitWatch watch(processID);
+    (void)child.reap();
+    EXPECT_TRUE(watch.waitUntil(deadlineAfter(30)));
+    EXPECT_TRUE(ExitWatch(processID).waitUntil(deadlineAfter(30)));
+}
+
+TEST(ChildProcessTest, isAskedToEndFirst)
+{
+    ChildProcess child = startHostileChild({"trap-term", "143"});
+    ProcessTermination::terminateThenKill(child, 30);
+    EXPECT_EQ(child.reap(), (Ending{143, false}));
+}
+
+TEST(ChildProcessTest, isKilledAfterTheGraceAndNotBefore)
+{
+    ChildProcess child = startHostileChild({"ignore-term"});
+    const Stopwatch watch;
+    ProcessTermination::terminateThenKill(child, 0.15);
+    EXPECT_GE(watch.seconds(), 0.15);
+    EXPECT_EQ(child.reap(), (Ending{SIGKILL, true}));
+}
+
+TEST(ChildProcessTest, isKilledWhileItIsStopped)
+{
+    ChildProcess child = startHostileChild({"ignore-term"});
+    child.signal(SIGSTOP);
+    ProcessTermination::terminateThenKill(child, 0.03);
+    EXPECT_EQ(child.reap(), (Ending{SIGKILL, true}));
+}
+
+TEST(ChildProcessTest, isLeftAloneOnceItHasEnded)
+{
+    ChildProcess child = startHostileChild({"print", "x", "", "3"});
+    ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));
+    const Stopwatch watch;
+    ProcessTermination::terminateThenKill(child, 60);
+    EXPECT_LT(watch.seconds(), 30);
+    EXPECT_EQ(child.reap(), (Ending{3, false}));
+}
+
+TEST(ChildProcessTest, leavesAGroupThatIsSwept)
+{
+    ChildProcess child = startHostileChild({"grandchild", "20000"});
+    ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));
+    const pid_t group = child.processID();
+    const Stopwatch watch;
+    ProcessTermination::sweepGroup(child);
+    EXPECT_GE(watch.seconds(), ProcessTermination::sweepGraceSeconds);
+    EXPECT_EQ(child.reap(), (Ending{0, false}));
+    EXPECT_TRUE(eventually([&] { return kill(-group, 0) != 0; }));
 }
 
 } // namespace Loadwick

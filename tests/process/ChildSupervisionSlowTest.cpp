@@ -28,13 +28,13 @@ TEST(ChildSupervisionSlowTest, killsItsChildAtOnceWhenThereIsNoMemoryForItsOutpu
                                       .capture = ChildSupervision::Capture::bothStreams,
                                       .shutdown = nullptr};
     request.command.executable = folder.writeScript(
-        "claude", "#!/bin/sh\nuntil [ -e '" + mark +
-                      "' ]; do sleep 0.02; done\nhead -c 100000000 /dev/zero\nexec sleep 25\n");
+        "command", "#!/bin/sh\nuntil [ -e '" + mark +
+                       "' ]; do sleep 0.02; done\nhead -c 100000000 /dev/zero\nexec sleep 25\n");
     request.command.environment = {{"PATH", "/usr/bin:/bin"}};
     const ProcessCensus before = ProcessCensus::now();
     std::optional<MemoryShortage> shortage;
     std::thread starving([&] {
-        // Itself and two readers: whoever needs memory to begin has begun.
+        // This thread and two readers: all that need memory to start have started.
         EXPECT_TRUE(eventually([&] { return ProcessCensus::now().threads >= before.threads + 3; }));
         shortage.emplace(16U << 20U);
         folder.write("may-print", "");

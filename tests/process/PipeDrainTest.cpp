@@ -42,6 +42,22 @@ void writeAll(const FileDescriptor &target, std::string_view text)
 
 } // namespace
 
+TEST(PipeDrainTest, hasADeadlineThatIsUnlimitedUntilItIsSet)
+{
+    const ReaderDeadline deadline;
+    EXPECT_EQ(deadline.expiry(), std::nullopt);
+    EXPECT_FALSE(deadline.hasPassed());
+}
+
+TEST(PipeDrainTest, hasADeadlineThatPassesAtItsMoment)
+{
+    ReaderDeadline deadline;
+    deadline.setExpiry(deadlineAfter(60));
+    EXPECT_FALSE(deadline.hasPassed());
+    deadline.setExpiry(deadlineAfter(0));
+    EXPECT_TRUE(deadline.hasPassed());
+}
+
 TEST(PipeDrainTest, readsToTheEndOfTheStream)
 {
     Pipe pipe = Pipe::open();
@@ -98,7 +114,7 @@ TEST(PipeDrainTest, noticesADeadlineThatIsSetWhileItWaits)
     setter.join();
 }
 
-TEST(PipeDrainTest, stopsAtItsDeadlineWhileOutputKeepsComing)
+TEST(PipeDrainTest, stopsAtItsDeadlineInAnEndlessStream)
 {
     const FileDescriptor endless(open("/dev/zero", O_RDONLY | O_CLOEXEC));
     ReaderDeadline deadline;

@@ -7,17 +7,29 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "process/ChildSupervision.h"
 #include "support/HostileChild.h"
 
 namespace Loadwick {
 
 namespace {
 
-// What a child says about itself, one line after the other.
-std::string described(ProbeRunner::Launch launch)
+ChildCommand hostileCommand(std::vector<std::string> arguments)
 {
-    launch.timeoutSeconds = 30;
-    return ProbeRunner::execute(launch).standardOutput;
+    return {hostileChildPath(), std::move(arguments), {}, "/"};
+}
+
+// The child's description of itself, in lines.
+std::string described(ChildCommand command)
+{
+    return ChildSupervision::run({.command = std::move(command),
+                                  .timeoutSeconds = 30,
+                                  .killGraceSeconds = 0.2,
+                                  .readerGraceSeconds = 5,
+                                  .captureLimit = 100'000,
+                                  .capture = ChildSupervision::Capture::bothStreams,
+                                  .shutdown = nullptr})
+        .standardOutput.value();
 }
 
 std::string lineOf(const std::string &description, const std::string &start)
@@ -32,14 +44,14 @@ std::string lineOf(const std::string &description, const std::string &start)
 
 TEST(ProcessSpawnTest, givesTheChildASessionOfItsOwnWithoutATerminal)
 {
-    const std::string description = described(hostileLaunch({"describe"}));
+    const std::string description = described(hostileCommand({"describe"}));
     EXPECT_EQ(lineOf(description, "leads"), "leads session and group: yes");
     EXPECT_EQ(lineOf(description, "terminal"), "terminal: no");
 }
 
 TEST(ProcessSpawnTest, givesTheChildTheNullDeviceForInput)
 {
-    EXPECT_EQ(lineOf(described(hostileLaunch({"describe"})), "input"), "input bytes: 0");
+    EXPECT_EQ(lineOf(described(hostileCommand({"describe"})), "input"), "input bytes: 0");
 }
 
 TEST(ProcessSpawnTest, passesNoOtherDescriptorOn)
@@ -47,7 +59,7 @@ TEST(ProcessSpawnTest, passesNoOtherDescriptorOn)
     const FileDescriptor leaky(open("/dev/null", O_RDONLY));
     const FileDescriptor high(fcntl(leaky.number(), F_DUPFD, 300));
     ASSERT_TRUE(high.isOpen());
-    EXPECT_EQ(lineOf(described(hostileLaunch({"describe"})), "descriptors"), "descriptors: 0 1 2");
+    EXPECT_EQ(lineOf(described(hostileCommand({"describe"})), "descriptors"), "descriptors: 0 1 2");
 }
 
 TEST(ProcessSpawnTest, startsTheChildWithDefaultSignals)
@@ -60,7 +72,7 @@ TEST(ProcessSpawnTest, startsTheChildWithDefaultSignals)
         sigset_t all;
         sigfillset(&all);
         pthread_sigmask(SIG_BLOCK, &all, nullptr);
-        description = described(hostileLaunch({"describe"}));
+        description = described(hostileCommand({"describe"}));
     }).join();
     std::signal(SIGPIPE, previous);
     std::signal(SIGHUP, previousHangUp);
@@ -70,32 +82,31 @@ TEST(ProcessSpawnTest, startsTheChildWithDefaultSignals)
 
 TEST(ProcessSpawnTest, startsTheChildInItsFolder)
 {
-    ProbeRunner::Launch launch = hostileLaunch({"describe"});
-    launch.repository = "/usr/bin";
-    EXPECT_EQ(lineOf(described(launch), "folder"), "folder: /usr/bin");
+    ChildCommand command = hostileCommand({"describe"});
+    command.workingFolder = "/usr/bin";
+    EXPECT_EQ(lineOf(described(command), "folder"), "folder: /usr/bin");
 }
 
 TEST(ProcessSpawnTest, looksForARelativeExecutableInItsOwnFolderNotInTheChilds)
 {
-    ProbeRunner::Launch launch = hostileLaunch({"describe"});
-    launch.cli = std::filesystem::relative(hostileChildPath()).string();
-    launch.repository = "/usr/bin";
-    EXPECT_EQ(lineOf(described(launch), "folder"), "folder: /usr/bin");
+    ChildCommand command = hostileCommand({"describe"});
+    command.executable = std::filesystem::relative(hostileChildPath()).string();
+    command.workingFolder = "/usr/bin";
+    EXPECT_EQ(lineOf(described(command), "folder"), "folder: /usr/bin");
 }
 
 TEST(ProcessSpawnTest, passesArgumentsOnAsTheyAre)
 {
-    EXPECT_EQ(described(hostileLaunch({"arguments", "", "two words", "*\n\xFF"})), "");
-    EXPECT_EQ(described(hostileLaunch({"arguments", "", "two words", "*$HOME"})),
-              "\ntwo words\n*$HOME\n");
+    EXPECT_EQ(described(hostileCommand({"arguments", "", "two words", "*$HOME", "\n\xFF"})),
+              "\ntwo words\n*$HOME\n\n\xFF\n");
 }
 
 TEST(ProcessSpawnTest, givesTheChildExactlyItsEnvironment)
 {
-    ProbeRunner::Launch launch = hostileLaunch({"environment"});
-    EXPECT_EQ(described(launch), "");
-    launch.environment = {{"A", "1"}, {"EMPTY", ""}};
-    EXPECT_EQ(described(launch), "A=1\nEMPTY=\n");
+    ChildCommand command = hostileCommand({"environment"});
+    EXPECT_EQ(described(command), "");
+    command.environment = {{"A", "1"}, {"EMPTY", ""}};
+    EXPECT_EQ(described(command), "A=1\nEMPTY=\n");
 }
 
 } // namespace Loadwick

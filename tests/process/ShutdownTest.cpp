@@ -17,11 +17,20 @@ using namespace std::chrono_literals;
 
 namespace {
 
-ChildProcess startChild(std::vector<std::string> arguments,
-                        const std::shared_ptr<Shutdown> &shutdown)
+ChildProcess startSilentChild(const std::shared_ptr<Shutdown> &shutdown)
 {
-    return ChildProcess::start({hostileChildPath(), std::move(arguments), {}, std::nullopt}, {},
+    return ChildProcess::start({hostileChildPath(), {"close-output"}, {}, std::nullopt}, {},
                                shutdown);
+}
+
+// No process can have this number, so signals to its group go nowhere.
+constexpr pid_t nobody = 2'000'000'000;
+
+bool isListed(Shutdown &shutdown)
+{
+    const Stopwatch watch;
+    shutdown.stopChildren(20ms);
+    return watch.seconds() >= 0.02;
 }
 
 } // namespace
@@ -69,7 +78,7 @@ TEST(ShutdownTest, returnsAtOnceWithoutChildren)
     EXPECT_TRUE(shutdown.isRequested());
 }
 
-TEST(ShutdownTest, waitsForAChildThatIsJustBeingStarted)
+TEST(ShutdownTest, waitsForAnAnnouncedChild)
 {
     Shutdown shutdown;
     ASSERT_TRUE(shutdown.announce());
@@ -87,7 +96,7 @@ TEST(ShutdownTest, waitsForAChildThatIsJustBeingStarted)
 TEST(ShutdownTest, asksChildrenToEndAndReturnsWhenTheyAreReaped)
 {
     const auto shutdown = std::make_shared<Shutdown>();
-    std::thread owner([child = startChild({"close-output"}, shutdown)]() mutable {
+    std::thread owner([child = startSilentChild(shutdown)]() mutable {
         EXPECT_TRUE(child.waitUntil(deadlineAfter(60)));
         EXPECT_EQ(child.reap(), (ChildProcess::Ending{SIGTERM, true}));
     });
@@ -108,24 +117,75 @@ TEST(ShutdownTest, killsAChildThatIgnoresTheRequest)
     EXPECT_EQ(child.reap(), (ChildProcess::Ending{SIGKILL, true}));
 }
 
-TEST(ShutdownTest, signalsNoGroupThatWasTakenOff)
+TEST(ShutdownTest, signalsNoGroupThatWasRemoved)
 {
     const auto shutdown = std::make_shared<Shutdown>();
-    const ChildProcess child = startChild({"close-output"}, nullptr);
+    const ChildProcess child = startSilentChild(nullptr);
     ASSERT_TRUE(shutdown->add(child.processID()));
     shutdown->remove(child.processID());
     shutdown->stopChildren(0s);
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
 }
 
-TEST(ShutdownTest, signalsNobodyWhereThereIsNoGroup)
+TEST(ShutdownTest, signalsNeitherItsOwnGroupNorEverybody)
 {
-    // The groups 0 and 1 would be our own and everybody.
+    // The numbers 0 and 1 mean these to kill().
     Shutdown shutdown;
     EXPECT_TRUE(shutdown.add(0));
     EXPECT_TRUE(shutdown.add(1));
     shutdown.stopChildren(0ms);
     EXPECT_TRUE(shutdown.isRequested());
+}
+
+TEST(ShutdownTest, listsAChildUntilItsEntryLeaves)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    ShutdownEntry entry(shutdown);
+    EXPECT_TRUE(entry.isAnnounced());
+    EXPECT_TRUE(entry.enter(nobody));
+    EXPECT_TRUE(isListed(*shutdown));
+    entry.leave();
+    const Stopwatch watch;
+    shutdown->stopChildren(60s);
+    EXPECT_LT(watch.seconds(), 30);
+}
+
+TEST(ShutdownTest, listsAChildWhoseEntryMoves)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    {
+        ShutdownEntry entry(shutdown);
+        ASSERT_TRUE(entry.enter(nobody));
+        const ShutdownEntry moved = std::move(entry);
+        EXPECT_TRUE(isListed(*shutdown));
+    }
+    const Stopwatch watch;
+    shutdown->stopChildren(60s);
+    EXPECT_LT(watch.seconds(), 30);
+}
+
+TEST(ShutdownTest, waitsForAChildThatIsBeingStarted)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    const ShutdownEntry entry(shutdown);
+    EXPECT_TRUE(isListed(*shutdown));
+}
+
+TEST(ShutdownTest, refusesAnEntryOnceTheEndWasRequested)
+{
+    const auto shutdown = std::make_shared<Shutdown>();
+    ShutdownEntry early(shutdown);
+    shutdown->request();
+    EXPECT_FALSE(early.enter(nobody));
+    EXPECT_FALSE(ShutdownEntry(shutdown).isAnnounced());
+}
+
+TEST(ShutdownTest, mayBeMissingForAnEntry)
+{
+    ShutdownEntry entry(nullptr);
+    EXPECT_TRUE(entry.isAnnounced());
+    EXPECT_TRUE(entry.enter(nobody));
+    entry.leave();
 }
 
 } // namespace Loadwick

@@ -19,8 +19,8 @@
 #include "faults/driver/Shim.h"
 #include "posix/FileDescriptor.h"
 #include "probe/ProbeError.h"
+#include "process/ChildProcess.h"
 #include "process/Deadline.h"
-#include "process/ExitWatch.h"
 #include "support/ProcessCensus.h"
 #include "text/Fatal.h"
 
