@@ -4,7 +4,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "model/OnboardingStep.h"
+#include "model/OnboardingFlow.h"
 
 namespace Loadwick {
 

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "model/OnboardingCompletionStore.h"
+#include "model/OnboardingFlow.h"
 #include "posix/ProcessContext.h"
 
 namespace Loadwick {

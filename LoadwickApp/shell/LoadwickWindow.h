@@ -13,7 +13,7 @@
 #include "dialogs/FolderChooser.h"
 #include "export/FileSaver.h"
 #include "export/PageExport.h"
-#include "model/OnboardingCompletionStore.h"
+#include "model/OnboardingFlow.h"
 #include "model/ScanModel.h"
 #include "onboarding/OnboardingPresenter.h"
 #include "overview/OverviewPresenter.h"

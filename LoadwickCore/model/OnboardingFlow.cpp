@@ -2,7 +2,31 @@
 
 #include <utility>
 
+#include "text/Fatal.h"
+
 namespace Loadwick {
+
+std::string_view OnboardingIllustration::rawValue() const noexcept
+{
+    switch (m_value) {
+    case measureIcon:
+        return "measureIcon";
+    case toolbarPointer:
+        return "toolbarPointer";
+    case scanSpinner:
+        return "scanSpinner";
+    case bandLegend:
+        break;
+    }
+    return "bandLegend";
+}
+
+OnboardingCompletion::OnboardingCompletion(std::shared_ptr<OnboardingCompletionStore> store)
+    : m_store(std::move(store))
+{
+    if (!m_store)
+        fatalError("The walk-through needs a store for its completion.");
+}
 
 const std::array<OnboardingStep, OnboardingStep::lastIndex + 1> OnboardingFlow::steps{{
     {.index = 0,

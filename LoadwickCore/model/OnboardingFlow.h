@@ -1,16 +1,110 @@
 #pragma once
 
 #include <array>
+#include <memory>
+#include <optional>
 #include <string_view>
 
-#include "model/OnboardingCompletion.h"
-#include "model/OnboardingLegendEntry.h"
-#include "model/OnboardingStep.h"
+#include "report/OpinionBand.h"
+#include "text/NamedValue.h"
 
 namespace Loadwick {
 
-/// The walk-through of the first launch: where it stands, which way it last went, and whether it is
-/// over. Its owner moves it and draws it; once finished it is moved no more.
+/// Which picture a step of the walk-through shows.
+class OnboardingIllustration
+{
+public:
+    enum Value
+    {
+        measureIcon,
+        toolbarPointer,
+        scanSpinner,
+        bandLegend
+    };
+    static constexpr std::array all{measureIcon, toolbarPointer, scanSpinner, bandLegend};
+
+    constexpr OnboardingIllustration(Value value) noexcept : m_value(value) {}
+    constexpr operator Value() const noexcept { return m_value; }
+
+    /// The case's name, as in identifiers.
+    [[nodiscard]] std::string_view rawValue() const noexcept;
+    [[nodiscard]] static std::optional<OnboardingIllustration>
+    fromRawValue(std::string_view text) noexcept
+    {
+        return valueNamed<OnboardingIllustration>(text);
+    }
+
+private:
+    Value m_value;
+};
+
+/// One step of the walk-through.
+struct OnboardingStep
+{
+    int index; ///< 0 to `lastIndex`; the step's identity
+    std::string_view title;
+    std::string_view body;
+    std::optional<std::string_view> footnote;
+    std::string_view primaryTitle; ///< on the button that leads forward
+    OnboardingIllustration illustration;
+
+    static constexpr int lastIndex = 3;
+
+    [[nodiscard]] constexpr bool isFirst() const noexcept { return index == 0; }
+    [[nodiscard]] constexpr bool isLast() const noexcept { return index == lastIndex; }
+    [[nodiscard]] constexpr bool showsBack() const noexcept { return !isFirst(); }
+    [[nodiscard]] constexpr bool showsSkip() const noexcept { return !isLast(); }
+
+    friend bool operator==(const OnboardingStep &, const OnboardingStep &) = default;
+};
+
+/// One row of the band legend: what falling into a band means for the user.
+struct OnboardingLegendEntry
+{
+    OpinionBand band;
+    std::string_view detail;
+
+    [[nodiscard]] std::string_view title() const noexcept { return band.title(); }
+    /// The entry's identity.
+    [[nodiscard]] std::string_view id() const noexcept { return band.rawValue(); }
+
+    friend bool operator==(const OnboardingLegendEntry &, const OnboardingLegendEntry &) = default;
+};
+
+/// Remembers across launches that the user has completed the walk-through.
+class OnboardingCompletionStore
+{
+public:
+    OnboardingCompletionStore() = default;
+    virtual ~OnboardingCompletionStore() = default;
+
+    OnboardingCompletionStore(const OnboardingCompletionStore &) = delete;
+    OnboardingCompletionStore &operator=(const OnboardingCompletionStore &) = delete;
+
+    /// False when nothing was ever stored, or nothing can be read.
+    [[nodiscard]] virtual bool onboardingCompleted() const = 0;
+
+    /// Failed writes are silent.
+    virtual void setOnboardingCompleted(bool completed) = 0;
+};
+
+/// Whether the walk-through was ever completed, as its store says at each call.
+class OnboardingCompletion
+{
+public:
+    /// A null store ends the program.
+    explicit OnboardingCompletion(std::shared_ptr<OnboardingCompletionStore> store);
+
+    [[nodiscard]] bool isComplete() const { return m_store->onboardingCompleted(); }
+    [[nodiscard]] bool shouldPresent() const { return !isComplete(); }
+    void markComplete() { m_store->setOnboardingCompleted(true); }
+
+private:
+    std::shared_ptr<OnboardingCompletionStore> m_store;
+};
+
+/// The walk-through of the first launch: its position, the direction of its last move, and whether
+/// it is finished. Once finished it does not move.
 class OnboardingFlow
 {
 public:
@@ -38,12 +132,12 @@ public:
     [[nodiscard]] bool isFinished() const noexcept { return m_isFinished; }
     [[nodiscard]] bool shouldPresent() const { return m_completion.shouldPresent(); }
 
-    /// To the next step; from the last one, finishes.
+    /// Goes to the next step; finishes from the last one.
     void advance();
-    /// To the step before; nothing on the first.
+    /// Goes to the previous step; does nothing on the first.
     void goBack();
 
-    /// Both remember the completion and leave the position as it is: skipping counts as completing.
+    /// Both store the completion and keep the position: skipping counts as completing.
     void skip();
     void finish();
 

@@ -7,8 +7,8 @@
 
 namespace Loadwick {
 
-/// A value that others watch. Belongs to one thread. Observers may change this value and add
-/// observers from within their calls; they must not throw, nor end the life of this.
+/// A value with observers. Belongs to one thread. Observers may change the value and add observers
+/// from within their calls; they must not throw or destroy this object.
 template<typename Value>
 class Published
 {
@@ -28,12 +28,12 @@ public:
 
     [[nodiscard]] const Value &get() const noexcept { return m_value; }
 
-    /// Observers are called in the order in which they came, for as long as this lives. One that
-    /// comes during a change hears of the next.
+    /// Observers are called in the order in which they were added, for as long as this lives. One
+    /// added during a change is called from the next change on.
     void observe(Observer observer) { m_observers.push_back(std::move(observer)); }
 
-    /// Returns when the value holds and all know of it. Within an observer's call it only takes the
-    /// value down: that becomes the next change, once all observers know of the present one.
+    /// Returns when the value holds and every observer was called. Within an observer's call it
+    /// only queues the value, which becomes the next change once this one is complete.
     void set(Value incoming)
     {
         m_waiting.push_back(std::move(incoming));
@@ -61,7 +61,7 @@ private:
     }
 
     Value m_value;
-    std::deque<Observer> m_observers; // no observer moves when one is added from within its call
+    std::deque<Observer> m_observers; // a deque: an observer may add one from within its call
     std::deque<Value> m_waiting;
     bool m_isChanging = false;
 };

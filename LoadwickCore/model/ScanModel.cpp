@@ -5,7 +5,6 @@
 #include <utility>
 #include <variant>
 
-#include "model/ScanOutcome.h"
 #include "probe/FolderAccess.h"
 #include "report/ScanReport.h"
 #include "text/Fatal.h"
@@ -18,20 +17,20 @@ const std::string_view ScanModel::allowanceDisclosure =
     "Claude allowance.";
 
 /// The values and the stages of a scan. A stage runs in the background on copies and shared
-/// collaborators alone; its outcome comes back as a value, to whoever is still there.
+/// collaborators alone; its outcome is posted as a value, and dropped if the model has gone.
 class ScanModel::Internals : public std::enable_shared_from_this<Internals>
 {
 public:
     explicit Internals(Collaborators collaborators);
 
     [[nodiscard]] bool isScanning() const noexcept;
+    [[nodiscard]] bool isRecording() const noexcept { return m_with.historyStore != nullptr; }
     void begin();
     void clearHistory();
 
     Published<ScanState> state{ScanState::idle()};
     Published<std::optional<RepoSelection>> selection{std::nullopt};
     Published<std::vector<RecordedScan>> history{{}};
-    const std::unique_ptr<ScanHistoryStore> historyStore;
 
 private:
     void checkFolder(const RepoSelection &chosen);
@@ -44,25 +43,17 @@ private:
     template<typename Stage, typename Next>
     void run(Stage stage, Next next);
 
-    const std::shared_ptr<ProbeRunning> m_probeRunner;
-    const std::shared_ptr<InstructionFileScanning> m_instructionScanner;
-    const std::shared_ptr<TaskDispatcher> m_dispatcher;
-    const std::function<std::chrono::sys_seconds()> m_now;
-    /// A scan runs. It is true a little earlier than the state says so, while that is announced.
+    const Collaborators m_with;
+    /// A scan runs. Set before the state changes, so that its observers cannot start another.
     bool m_isUnderway = false;
 };
 
-ScanModel::Internals::Internals(Collaborators collaborators)
-    : historyStore(std::move(collaborators.historyStore)),
-      m_probeRunner(std::move(collaborators.probeRunner)),
-      m_instructionScanner(std::move(collaborators.instructionScanner)),
-      m_dispatcher(std::move(collaborators.dispatcher)),
-      m_now(std::move(collaborators.now))
+ScanModel::Internals::Internals(Collaborators collaborators) : m_with(std::move(collaborators))
 {
-    if (!m_probeRunner || !m_instructionScanner || !m_dispatcher || !m_now)
+    if (!m_with.probeRunner || !m_with.instructionScanner || !m_with.dispatcher || !m_with.now)
         fatalError("a scan model lacks a collaborator");
-    if (historyStore)
-        history.set(historyStore->load());
+    if (isRecording())
+        history.set(m_with.historyStore->load());
 }
 
 bool ScanModel::Internals::isScanning() const noexcept
@@ -80,8 +71,8 @@ void ScanModel::Internals::begin()
 
 void ScanModel::Internals::checkFolder(const RepoSelection &chosen)
 {
-    const auto stage = [url = chosen.url]() -> std::monostate {
-        if (const std::optional<ProbeError> error = FolderAccess::preflight(url))
+    const auto stage = [repository = chosen.url]() -> std::monostate {
+        if (const std::optional<ProbeError> error = FolderAccess::preflight(repository))
             throw ProbeError(*error);
         return {};
     };
@@ -90,14 +81,16 @@ void ScanModel::Internals::checkFolder(const RepoSelection &chosen)
 
 void ScanModel::Internals::runProbe(const RepoSelection &chosen)
 {
-    const auto stage = [runner = m_probeRunner, url = chosen.url] { return runner->run(url); };
+    const auto stage = [runner = m_with.probeRunner, repository = chosen.url] {
+        return runner->run(repository);
+    };
     run(stage,
         [chosen](Internals &self, const ProbeResult &probe) { self.makeReport(chosen, probe); });
 }
 
 void ScanModel::Internals::makeReport(const RepoSelection &chosen, const ProbeResult &probe)
 {
-    const auto stage = [scanner = m_instructionScanner, chosen, probe] {
+    const auto stage = [scanner = m_with.instructionScanner, chosen, probe] {
         return ScanReportBuilder::build(chosen, probe, scanner->scan(chosen.url));
     };
     run(stage, [](Internals &self, const ScanReport &report) { self.succeed(report); });
@@ -106,13 +99,13 @@ void ScanModel::Internals::makeReport(const RepoSelection &chosen, const ProbeRe
 void ScanModel::Internals::succeed(const ScanReport &report)
 {
     end(ScanState::result(report));
-    if (!historyStore)
+    if (!isRecording())
         return;
     try {
-        history.set(
-            historyStore->append(RecordedScan::fromReport(report, m_now(), Uuid::random())));
+        history.set(m_with.historyStore->append(
+            RecordedScan::fromReport(report, m_with.now(), Uuid::random())));
     } catch (const std::bad_alloc &) {
-        // Not recorded: what was recorded before stays, on the disk and on the pages.
+        // Not recorded: the earlier scans stay, on disk and on the pages.
     }
 }
 
@@ -126,8 +119,8 @@ template<typename Stage, typename Next>
 void ScanModel::Internals::run(Stage stage, Next next)
 {
     try {
-        // All that brings the outcome back, and puts it into words, is made and loaded here: behind
-        // the stage there may be no memory.
+        // Everything that delivers and words the outcome is made and loaded here: after the stage
+        // there may be no memory.
         loadCharacterRules();
         const auto outcome = std::make_shared<std::optional<decltype(scanOutcomeOf(stage))>>();
         TaskDispatcher::Task arrival = [weak = weak_from_this(), next, outcome] {
@@ -139,8 +132,9 @@ void ScanModel::Internals::run(Stage stage, Next next)
             else
                 next(*self, std::get<0>(**outcome));
         };
-        m_dispatcher->runInBackground([stage = std::move(stage), outcome, dispatcher = m_dispatcher,
-                                       arrival = std::move(arrival)]() mutable {
+        m_with.dispatcher->runInBackground([stage = std::move(stage), outcome,
+                                            dispatcher = m_with.dispatcher,
+                                            arrival = std::move(arrival)]() mutable {
             outcome->emplace(scanOutcomeOf(stage));
             dispatcher->postToInterface(std::move(arrival));
         });
@@ -151,8 +145,8 @@ void ScanModel::Internals::run(Stage stage, Next next)
 
 void ScanModel::Internals::clearHistory()
 {
-    if (historyStore)
-        historyStore->clear();
+    if (isRecording())
+        m_with.historyStore->clear();
     history.set({});
 }
 
@@ -184,7 +178,7 @@ bool ScanModel::canScan() const noexcept
 
 bool ScanModel::canClearHistory() const noexcept
 {
-    return m_internals->historyStore && !m_internals->history.get().empty();
+    return m_internals->isRecording() && !m_internals->history.get().empty();
 }
 
 void ScanModel::select(const RepoSelection &selection)

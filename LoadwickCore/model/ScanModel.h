@@ -32,7 +32,7 @@ public:
     {
         std::shared_ptr<ProbeRunning> probeRunner;
         std::shared_ptr<InstructionFileScanning> instructionScanner;
-        std::unique_ptr<ScanHistoryStore> historyStore; ///< none: nothing is recorded
+        std::unique_ptr<ScanHistoryStore> historyStore; ///< null: nothing is recorded
         std::shared_ptr<TaskDispatcher> dispatcher;
         /// The clock that dates recorded scans.
         std::function<std::chrono::sys_seconds()> now = [] {
@@ -54,7 +54,7 @@ public:
     /// A folder is chosen and no scan runs.
     [[nodiscard]] bool canScan() const noexcept;
 
-    /// There is a store and something in it.
+    /// There is a store, and it holds scans.
     [[nodiscard]] bool canClearHistory() const noexcept;
 
     /// Chooses a folder and goes back to idle; ignored while a scan runs.
@@ -64,7 +64,7 @@ public:
     /// without a selection or while a scan runs.
     void scan();
 
-    /// Forgets every recorded scan, also when the file cannot be deleted.
+    /// Forgets every recorded scan, even when the file cannot be deleted.
     void clearHistory();
 
 private:

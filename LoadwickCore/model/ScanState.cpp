@@ -1,6 +1,6 @@
 #include "model/ScanState.h"
 
-#include <utility>
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 
@@ -29,6 +29,15 @@ ScanState ScanState::failed(ProbeError error)
 bool ScanState::isScanning() const noexcept
 {
     return std::holds_alternative<Scanning>(m_case);
+}
+
+ProbeError probeErrorFrom(const std::exception &error) noexcept
+{
+    try {
+        return ProbeError::unreadableOutput(repairedUtf8(error.what()));
+    } catch (const std::exception &) {
+        return ProbeError::unreadableOutput("out of memory"); // short enough to need none
+    }
 }
 
 } // namespace Loadwick

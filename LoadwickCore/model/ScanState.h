@@ -1,5 +1,7 @@
 #pragma once
 
+#include <exception>
+#include <utility>
 #include <variant>
 
 #include "probe/ProbeError.h"
@@ -46,5 +48,27 @@ private:
 
     Case m_case;
 };
+
+/// The end of one stage of a scan: its value, or why there is none.
+template<typename Value>
+using ScanOutcome = std::variant<Value, ProbeError>;
+
+/// An exception's own text, as the error of a scan.
+[[nodiscard]] ProbeError probeErrorFrom(const std::exception &error) noexcept;
+
+/// Runs a stage. Throws nothing: an exception that is no `ProbeError` counts as unreadable output.
+template<typename Stage>
+[[nodiscard]] auto scanOutcomeOf(Stage &stage) -> ScanOutcome<decltype(stage())>
+{
+    try {
+        return stage();
+    } catch (ProbeError &error) {
+        return std::move(error); // its text may be a gigabyte long
+    } catch (const std::exception &error) {
+        return probeErrorFrom(error);
+    } catch (...) {
+        return ProbeError::unreadableOutput("unknown error");
+    }
+}
 
 } // namespace Loadwick

@@ -4,8 +4,8 @@
 
 namespace Loadwick {
 
-/// The two places where work runs. The window brings one that starts threads and posts to its event
-/// loop, a test one that steps by hand.
+/// Runs work in the background and on the interface thread. The window's starts threads and posts
+/// to its event loop; a test's is stepped by hand.
 class TaskDispatcher
 {
 public:
@@ -14,11 +14,11 @@ public:
     virtual ~TaskDispatcher() = default;
 
     /// Runs `task` away from the interface thread, on a thread of its own. Called on the interface
-    /// thread. Throws `std::system_error` or `std::bad_alloc` when no thread is to be had.
+    /// thread. Throws `std::system_error` or `std::bad_alloc` when no thread can be started.
     virtual void runInBackground(Task task) = 0;
 
-    /// Runs `task` on the interface thread, after what was posted before it. Called on any thread,
-    /// also when the interface is already gone: the task is then dropped.
+    /// Runs `task` on the interface thread, after all tasks posted earlier. Called on any thread.
+    /// Drops the task when the interface has gone.
     virtual void postToInterface(Task task) = 0;
 };
 

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "probe/ProbeUsage.h"
 
@@ -15,7 +20,46 @@ namespace Loadwick::TranscriptReader {
 [[nodiscard]] std::optional<ProbeUsage>
 firstAssistantUsageAtPath(const std::filesystem::path &path);
 
-/// The same of a whole transcript in memory.
+/// The same for a whole transcript in memory.
 [[nodiscard]] std::optional<ProbeUsage> firstAssistantUsageIn(std::string_view text);
 
 } // namespace Loadwick::TranscriptReader
+
+namespace Loadwick {
+
+/// Looks for the first usage of an assistant's message in a transcript that arrives in pieces, cut
+/// anywhere. A line within one piece is parsed in place. A line across several pieces is not kept,
+/// only its position and whether it may be an assistant's; if so, it is read again as a whole.
+class TranscriptPieces
+{
+public:
+    /// A longer line is skipped.
+    static constexpr std::size_t longestLine = std::size_t{64} << 20;
+
+    /// Reads `size` bytes of the transcript again, from `begin` on; nothing when that fails.
+    using Again = std::function<std::optional<std::string>(std::int64_t begin, std::size_t size)>;
+
+    explicit TranscriptPieces(Again again) : m_again(std::move(again)) {}
+
+    /// The first usage in the lines that `piece` completes. Take no more once there was one.
+    [[nodiscard]] std::optional<ProbeUsage> take(std::string_view piece);
+
+    /// The usage in the line that the transcript's end completes.
+    [[nodiscard]] std::optional<ProbeUsage> finish() { return completeLine({}); }
+
+    /// The usage of one line, which is a JSON object whose "type" is "assistant".
+    [[nodiscard]] static std::optional<ProbeUsage> usageInLine(std::string_view line);
+
+private:
+    [[nodiscard]] std::optional<ProbeUsage> completeLine(std::string_view part);
+    [[nodiscard]] std::optional<ProbeUsage> usageInLongLine(std::string_view lastPart);
+    void pass(std::string_view part);
+
+    Again m_again;
+    std::int64_t m_lineBegin = 0;   ///< position of the incomplete line
+    std::size_t m_lineSize = 0;     ///< its bytes so far
+    bool m_mayBeAssistants = false; ///< judged by these
+    std::string m_end;              ///< their last few, in which a word may have begun
+};
+
+} // namespace Loadwick

@@ -7,7 +7,6 @@
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/JsonOracle.h"
 #include "fuzz/UsageOracle.h"
-#include "probe/TranscriptPieces.h"
 #include "probe/TranscriptReader.h"
 
 namespace Loadwick {

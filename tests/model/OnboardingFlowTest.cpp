@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/EnumerationNames.h"
 #include "support/ScanFakes.h"
 
 namespace Loadwick {
@@ -94,7 +95,7 @@ TEST_F(OnboardingFlowTest, finishesFromAnyStep)
     EXPECT_TRUE(store->completed);
 }
 
-TEST_F(OnboardingFlowTest, isMovedNoMoreOnceFinished)
+TEST_F(OnboardingFlowTest, doesNotMoveOnceFinished)
 {
     advanceTo(1);
     flow.skip();
@@ -128,7 +129,7 @@ TEST_F(OnboardingFlowTest, numbersItsStepsFromZero)
     EXPECT_EQ(index, OnboardingFlow::stepCount());
 }
 
-TEST_F(OnboardingFlowTest, saysWhatItHasToSay)
+TEST_F(OnboardingFlowTest, hasFixedTexts)
 {
     const auto &steps = OnboardingFlow::steps;
     EXPECT_EQ(steps[0].title, "See what Claude Code loads before it reads a single message");
@@ -164,14 +165,44 @@ TEST_F(OnboardingFlowTest, explainsEveryBandInOrder)
     const std::string_view rows[][3] = {{"lean", "Lean", "fine as-is"},
                                         {"heavy", "Heavy", "worth trimming"},
                                         {"excessive", "Excessive", "actively hurting the session"}};
-    std::size_t place = 0;
+    std::size_t row = 0;
     for (const OnboardingLegendEntry &entry : OnboardingFlow::legend) {
-        EXPECT_EQ(entry.id(), rows[place][0]);
-        EXPECT_EQ(entry.title(), rows[place][1]);
-        EXPECT_EQ(entry.detail, rows[place][2]);
-        ++place;
+        EXPECT_EQ(entry.id(), rows[row][0]);
+        EXPECT_EQ(entry.title(), rows[row][1]);
+        EXPECT_EQ(entry.detail, rows[row][2]);
+        ++row;
     }
-    EXPECT_EQ(place, std::size(rows));
+    EXPECT_EQ(row, std::size(rows));
+}
+
+TEST_F(OnboardingFlowTest, namesItsIllustrations)
+{
+    expectNames<OnboardingIllustration>(
+        {"measureIcon", "toolbarPointer", "scanSpinner", "bandLegend"});
+}
+
+TEST_F(OnboardingFlowTest, isPresentedUntilItsCompletionIsMarked)
+{
+    OnboardingCompletion completion(store);
+    EXPECT_FALSE(completion.isComplete());
+    EXPECT_TRUE(completion.shouldPresent());
+    completion.markComplete();
+    EXPECT_TRUE(completion.isComplete());
+    EXPECT_FALSE(completion.shouldPresent());
+}
+
+TEST_F(OnboardingFlowTest, readsTheCompletionStoreEachTime)
+{
+    store->completed = true;
+    const OnboardingCompletion completion(store);
+    EXPECT_FALSE(completion.shouldPresent());
+    store->completed = false;
+    EXPECT_TRUE(completion.shouldPresent());
+}
+
+TEST_F(OnboardingFlowTest, endsTheProgramWithoutACompletionStore)
+{
+    EXPECT_DEATH(OnboardingCompletion(nullptr), "needs a store");
 }
 
 } // namespace Loadwick

@@ -5,6 +5,7 @@
 #include "posix/FileSystem.h"
 #include "probe/ProbeError.h"
 #include "samples/TemporaryFolder.h"
+#include "support/EnumerationNames.h"
 #include "support/Stopwatch.h"
 
 namespace Loadwick {
@@ -289,6 +290,15 @@ TEST(ProbeRunnerTest, needsNobodyWhoCouldAskForTheEnd)
     setting.settings.shutdown = nullptr;
     setting.commandRuns("exit 1\n");
     EXPECT_THROW((void)ProbeRunner(setting.settings).run(setting.folder.path()), ProbeError);
+}
+
+TEST(ProbeRunnerTest, namesTheSourcesOfATotal)
+{
+    expectNames<TotalSource>({"transcript", "cliUsage"});
+    EXPECT_EQ(TotalSource(TotalSource::transcript).label(),
+              "session transcript: first assistant message usage");
+    EXPECT_EQ(TotalSource(TotalSource::cliUsage).label(),
+              "CLI result usage block (no transcript found)");
 }
 
 } // namespace Loadwick

@@ -1,6 +1,8 @@
 #include "probe/TranscriptReader.h"
 
+#include <algorithm>
 #include <fstream>
+#include <string>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -45,6 +47,36 @@ ProbeUsage inputOf(std::int64_t tokens)
             .outputTokens = 1};
 }
 
+constexpr std::string_view userRecord = R"({"type":"user","message":{"usage":{"input_tokens":1}}})";
+constexpr std::string_view assistantRecord =
+    R"({"type":"assistant","message":{"usage":{"input_tokens":7,"output_tokens":2}}})";
+constexpr ProbeUsage found{7, 0, 0, 2};
+
+/// Rereads a transcript in memory.
+TranscriptPieces::Again againIn(std::string_view transcript)
+{
+    return [transcript](std::int64_t begin, std::size_t size) {
+        return std::string(transcript.substr(static_cast<std::size_t>(begin), size));
+    };
+}
+
+/// Fails when a line is reread.
+std::optional<std::string> never(std::int64_t, std::size_t)
+{
+    ADD_FAILURE() << "a line was reread";
+    return std::nullopt;
+}
+
+/// The usage in a transcript that arrives in pieces of `size` bytes.
+std::optional<ProbeUsage> usageInPieces(std::string_view transcript, std::size_t size)
+{
+    TranscriptPieces pieces(againIn(transcript));
+    for (; !transcript.empty(); transcript.remove_prefix(std::min(size, transcript.size())))
+        if (const auto usage = pieces.take(transcript.substr(0, size)))
+            return usage;
+    return pieces.finish();
+}
+
 } // namespace
 
 TEST(TranscriptReaderTest, takesTheUsageOfTheFirstAssistantMessage)
@@ -64,7 +96,7 @@ TEST(TranscriptReaderTest, readsAllFourCounts)
               (ProbeUsage{1, 2, 3, 4}));
 }
 
-TEST(TranscriptReaderTest, goesOnPastUsageOfOutputTokensAlone)
+TEST(TranscriptReaderTest, skipsAUsageOfOutputTokensAlone)
 {
     EXPECT_EQ(usageOf(R"({"type":"assistant","message":{"usage":{"output_tokens":5}}})"
                       "\n" +
@@ -155,7 +187,7 @@ TEST(TranscriptReaderTest, findsTheWordWhereverAReadEnds)
     }
 }
 
-TEST(TranscriptReaderTest, goesOnBehindALongLineThatOnlySaysTheWord)
+TEST(TranscriptReaderTest, readsOnAfterALongLineThatOnlyHoldsTheWord)
 {
     const std::string talk =
         R"({"type":"user","x":"assistant)" + std::string(200'000, 'x') + "\"}\n";
@@ -210,6 +242,87 @@ TEST(TranscriptReaderTest, readsManyShortLines)
     while (text.size() < (256U << 10))
         text += "{}\n";
     EXPECT_EQ(usageOfFile(text + assistantLine(18)), inputOf(18));
+}
+
+TEST(TranscriptReaderTest, findsAUsageWhereverThePiecesCutTheLines)
+{
+    const std::string transcript = std::string(userRecord)
+                                       .append("\n\n")
+                                       .append(assistantRecord)
+                                       .append("\n")
+                                       .append(userRecord);
+    for (std::size_t size = 1; size <= transcript.size(); ++size)
+        EXPECT_EQ(usageInPieces(transcript, size), found) << size;
+}
+
+TEST(TranscriptReaderTest, givesTheUsageWithTheLineFeedThatCompletesTheLine)
+{
+    TranscriptPieces pieces(againIn(assistantRecord));
+    EXPECT_EQ(pieces.take(assistantRecord), std::nullopt);
+    EXPECT_EQ(pieces.take("\n"), found);
+}
+
+TEST(TranscriptReaderTest, completesTheLastLineAtTheEnd)
+{
+    TranscriptPieces pieces(againIn(assistantRecord));
+    EXPECT_EQ(pieces.take(assistantRecord), std::nullopt);
+    EXPECT_EQ(pieces.finish(), found);
+}
+
+TEST(TranscriptReaderTest, givesNothingForAnEmptyTranscript)
+{
+    EXPECT_EQ(TranscriptPieces(never).finish(), std::nullopt);
+}
+
+TEST(TranscriptReaderTest, skipsATooLongLineInPiecesAndReadsTheNext)
+{
+    TranscriptPieces pieces(never);
+    const std::string half(TranscriptPieces::longestLine / 2 + 1, ' ');
+    EXPECT_EQ(pieces.take(half), std::nullopt);
+    EXPECT_EQ(pieces.take(half), std::nullopt);
+    EXPECT_EQ(pieces.take(std::string(assistantRecord) + "\n"), std::nullopt);
+    EXPECT_EQ(pieces.take(std::string(assistantRecord) + "\n"), found);
+}
+
+TEST(TranscriptReaderTest, rereadsNoLineThatDoesNotHoldTheWord)
+{
+    TranscriptPieces pieces(never);
+    for (int line = 0; line < 3; ++line) {
+        EXPECT_EQ(pieces.take(userRecord.substr(0, 20)), std::nullopt);
+        EXPECT_EQ(pieces.take(userRecord.substr(20)), std::nullopt);
+        EXPECT_EQ(pieces.take("\n"), std::nullopt);
+    }
+    EXPECT_EQ(pieces.finish(), std::nullopt);
+}
+
+TEST(TranscriptReaderTest, rereadsALongLineAsAWhole)
+{
+    const std::string transcript = std::string(userRecord) + "\n" + std::string(assistantRecord);
+    std::string asked;
+    TranscriptPieces pieces([&](std::int64_t begin, std::size_t size) {
+        return asked = transcript.substr(static_cast<std::size_t>(begin), size);
+    });
+    EXPECT_EQ(pieces.take(transcript.substr(0, 100)), std::nullopt);
+    EXPECT_EQ(pieces.take(transcript.substr(100)), std::nullopt);
+    EXPECT_EQ(pieces.finish(), found);
+    EXPECT_EQ(asked, assistantRecord);
+}
+
+TEST(TranscriptReaderTest, continuesWithoutALineThatCannotBeReread)
+{
+    TranscriptPieces pieces([](std::int64_t, std::size_t) { return std::nullopt; });
+    EXPECT_EQ(pieces.take(assistantRecord), std::nullopt);
+    EXPECT_EQ(pieces.take("\n" + std::string(assistantRecord) + "\n"), found);
+}
+
+TEST(TranscriptReaderTest, readsALineAsOneObject)
+{
+    EXPECT_EQ(TranscriptPieces::usageInLine(assistantRecord), found);
+    EXPECT_EQ(TranscriptPieces::usageInLine(userRecord), std::nullopt);
+    EXPECT_EQ(TranscriptPieces::usageInLine("[" + std::string(assistantRecord) + "]"),
+              std::nullopt);
+    EXPECT_EQ(TranscriptPieces::usageInLine(R"({"type":"assistant","message":{"usage":[]}})"),
+              std::nullopt);
 }
 
 } // namespace Loadwick

@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "model/OnboardingCompletionStore.h"
+#include "model/OnboardingFlow.h"
 #include "probe/ProbeRunning.h"
 #include "report/InstructionFileScanner.h"
 #include "samples/SampleReport.h"
