@@ -5,10 +5,15 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Programs are compiled as libraries are, so that both can use the same precompiled headers.
+set(CMAKE_CXX_COMPILE_OPTIONS_PIE "${CMAKE_CXX_COMPILE_OPTIONS_PIC}")
 
 find_program(LOADWICK_CCACHE ccache)
 if(LOADWICK_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${LOADWICK_CCACHE}")
+    # Without these it caches nothing that uses a precompiled header.
+    set(sloppiness "pch_defines,time_macros,include_file_mtime,include_file_ctime")
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_SLOPPINESS=${sloppiness}"
+                                    CCACHE_INODECACHE=1 "${LOADWICK_CCACHE}")
 endif()
 
 if(LOADWICK_SANITIZE)

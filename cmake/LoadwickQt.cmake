@@ -5,6 +5,11 @@ if(LOADWICK_BUILD_TESTS)
 endif()
 set(QT_QML_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml")
 
+set(LOADWICK_QT_HEADERS
+    <QAbstractListModel> <QColor> <QFont> <QGuiApplication> <QList> <QPainter> <QPointer> <QQmlEngine>
+    <QQuickItem> <QQuickPaintedItem> <QQuickWindow> <QString> <QUrl> <QVariant>
+    <QtQml/qqmlregistration.h> <QtQml/qqmlprivate.h>)
+
 # Qt code says which of its texts are text: no silent conversion from and to bytes.
 function(loadwick_qt_strictness target)
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII

@@ -25,6 +25,8 @@ function(loadwick_qt_tests)
     qt_add_executable(app_tests ${sources})
     loadwick_warnings(app_tests)
     loadwick_qt_strictness(app_tests)
+    loadwick_precompile(app_tests ${LOADWICK_STANDARD_HEADERS} ${LOADWICK_QT_HEADERS} <QAccessible>
+                                  <QSignalSpy> <QTest>)
     target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
     target_link_libraries(app_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
                                             Qt6::DBus Qt6::Svg Qt6::Test)

@@ -13,9 +13,10 @@ namespace {
 constexpr qreal nameWidth = 200;
 constexpr qreal valueWidth = 88;
 constexpr qreal gap = 12;
-constexpr qreal barHeight = 8;
+constexpr qreal pictureBarHeight = 8;
 
-void write(QPainter &painter, const QRectF &place, Qt::Alignment alignment, const QString &words)
+void writeWords(QPainter &painter, const QRectF &place, Qt::Alignment alignment,
+                const QString &words)
 {
     const QString fitting =
         QFontMetricsF(painter.font()).elidedText(words, Qt::ElideMiddle, place.width());
@@ -61,7 +62,7 @@ void CombinedPicture::paintRow(QPainter &painter, const QModelIndex &row, const 
     QRectF name = line;
     if (!isCategory)
         name.setWidth(nameWidth);
-    write(painter, name, Qt::AlignLeft, row.data(CombinedRows::Title).toString());
+    writeWords(painter, name, Qt::AlignLeft, row.data(CombinedRows::Title).toString());
     if (!isCategory)
         paintBar(painter, row, line);
 }
@@ -71,15 +72,15 @@ void CombinedPicture::paintBar(QPainter &painter, const QModelIndex &row, const 
     const QRectF value(line.right() - valueWidth, line.top(), valueWidth, line.height());
     painter.setPen(row.data(CombinedRows::IsRecorded).toBool() ? m_textColor
                                                                : m_secondaryTextColor);
-    write(painter, value, Qt::AlignRight, row.data(CombinedRows::Value).toString());
+    writeWords(painter, value, Qt::AlignRight, row.data(CombinedRows::Value).toString());
     const qreal start = nameWidth + gap;
     const qreal longest = std::max(0.0, value.left() - gap - start);
-    const QRectF bar(start, line.center().y() - barHeight / 2,
-                     longest * row.data(CombinedRows::Length).toReal(), barHeight);
+    const QRectF bar(start, line.center().y() - pictureBarHeight / 2,
+                     longest * row.data(CombinedRows::Length).toReal(), pictureBarHeight);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_colors.value(row.data(CombinedRows::Column).toInt() %
                                     std::max<qsizetype>(1, m_colors.size())));
-    painter.drawRoundedRect(bar, barHeight / 2, barHeight / 2);
+    painter.drawRoundedRect(bar, pictureBarHeight / 2, pictureBarHeight / 2);
 }
 
 } // namespace Loadwick

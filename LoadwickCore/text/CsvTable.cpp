@@ -11,7 +11,7 @@ bool looksLikeFormula(std::string_view cell)
     return !cell.empty() && formulaStarts.find(cell.front()) != std::string_view::npos;
 }
 
-std::string quoted(std::string_view cell)
+std::string inQuotes(std::string_view cell)
 {
     std::string quoted = "\"";
     for (const char letter : cell)
@@ -23,9 +23,11 @@ std::string quoted(std::string_view cell)
 
 CsvTable &CsvTable::text(std::string_view cell)
 {
-    const std::string harmless = (looksLikeFormula(cell) ? "'" : "") + std::string(cell);
+    std::string harmless(cell);
+    if (looksLikeFormula(cell))
+        harmless.insert(0, 1, '\'');
     const bool isPlain = harmless.find_first_of(",\"\r\n") == std::string::npos;
-    add(isPlain ? harmless : quoted(harmless));
+    add(isPlain ? harmless : inQuotes(harmless));
     return *this;
 }
 
