@@ -9,7 +9,7 @@
 namespace Loadwick {
 namespace {
 
-/// Where a key leads from the chosen mark, -1 for none; nothing for a key that leads nowhere.
+/// The mark that a key chooses after `chosen`, -1 for none; nothing for any other key.
 std::optional<int> markAfterKey(int key, int chosen, int count)
 {
     switch (key) {
@@ -51,22 +51,22 @@ void MarkedChart::forgetMarks()
     update();
 }
 
-// An accepted event would not reach the card that holds the chart, which answers the pointer too.
+// Ignored, so that the event reaches the card that holds the chart, which reacts to the pointer
+// too.
 void MarkedChart::hoverEnterEvent(QHoverEvent *event)
 {
-    setPointed(markAt(event->position()));
-    event->ignore();
+    hoverMoveEvent(event);
 }
 
 void MarkedChart::hoverMoveEvent(QHoverEvent *event)
 {
-    setPointed(markAt(event->position()));
+    setMarks(markAt(event->position()), m_chosen);
     event->ignore();
 }
 
 void MarkedChart::hoverLeaveEvent(QHoverEvent *)
 {
-    setPointed(-1);
+    setMarks(-1, m_chosen);
 }
 
 void MarkedChart::keyPressEvent(QKeyEvent *event)
@@ -74,25 +74,14 @@ void MarkedChart::keyPressEvent(QKeyEvent *event)
     const std::optional<int> mark =
         markCount() > 0 ? markAfterKey(event->key(), m_chosen, markCount()) : std::nullopt;
     event->setAccepted(mark.has_value());
-    if (mark)
-        setChosen(*mark);
+    if (mark) // A resting pointer does not hide what the keys do.
+        setMarks(-1, *mark);
 }
 
 void MarkedChart::focusOutEvent(QFocusEvent *event)
 {
     setMarks(m_pointed, -1);
     QQuickPaintedItem::focusOutEvent(event);
-}
-
-void MarkedChart::setPointed(int mark)
-{
-    setMarks(mark, m_chosen);
-}
-
-// The later of the two wins: a pointer that lies still does not hide what the keys do.
-void MarkedChart::setChosen(int mark)
-{
-    setMarks(-1, mark);
 }
 
 void MarkedChart::setMarks(int pointed, int chosen)

@@ -41,8 +41,6 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void setPointed(int mark);
-    void setChosen(int mark);
     void setMarks(int pointed, int chosen);
 
     int m_pointed = -1;

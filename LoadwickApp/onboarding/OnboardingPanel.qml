@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What stands on the sheet: the dots, the current step, and the buttons that move on.
+// The sheet's content: the dots, the current step, and the buttons that move on.
 FocusScope {
     id: panel
 
@@ -12,7 +12,7 @@ FocusScope {
     signal back()
     signal skip()
 
-    // A button that goes away gives the keyboard to the primary one.
+    // A button that disappears hands the keyboard focus to the primary one.
     function takeKeyboardFrom(button) {
         if (panel.visible && !button.visible && (button.focus || button.activeFocus))
             primary.forceActiveFocus(Qt.OtherFocusReason);
@@ -43,7 +43,7 @@ FocusScope {
             PushButton {
                 id: skipButton
 
-                // Its words, not its edge, end with the sheet's column.
+                // Its text, not its edge, lines up with the sheet's column.
                 Layout.rightMargin: -AppTheme.mediumSpace
                 title: qsTr("Skip")
                 focusPolicy: Qt.TabFocus

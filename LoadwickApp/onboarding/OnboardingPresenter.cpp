@@ -19,6 +19,35 @@ QList<QStringList> legendRows()
 
 } // namespace
 
+OnboardingStepTexts::OnboardingStepTexts(const OnboardingStep &step, QObject *parent)
+    : QObject(parent), m_step(step)
+{}
+
+QString OnboardingStepTexts::title() const
+{
+    return qtText(m_step.title);
+}
+
+QString OnboardingStepTexts::body() const
+{
+    return qtText(m_step.body);
+}
+
+QString OnboardingStepTexts::footnote() const
+{
+    return qtText(m_step.footnote.value_or(std::string_view()));
+}
+
+QString OnboardingStepTexts::primaryTitle() const
+{
+    return qtText(m_step.primaryTitle);
+}
+
+OnboardingStepTexts::Illustration OnboardingStepTexts::illustration() const
+{
+    return static_cast<Illustration>(OnboardingIllustration::Value(m_step.illustration));
+}
+
 OnboardingPresenter::OnboardingPresenter(std::shared_ptr<OnboardingCompletionStore> store)
     : m_store(std::move(store)),
       m_flow(OnboardingCompletion(m_store)),

@@ -5,17 +5,56 @@
 
 #include <QList>
 #include <QObject>
+#include <QString>
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include "base/TextRows.h"
 #include "model/OnboardingFlow.h"
 #include "model/TaskDispatcher.h"
-#include "onboarding/OnboardingStepTexts.h"
 
 namespace Loadwick {
 
-/// The walk-through of the first launch: whether its sheet is open, and where it stands. Belongs to
+/// One step of the walk-through as the sheet shows it. Immutable.
+class OnboardingStepTexts final : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the walk-through's presenter.")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString body READ body CONSTANT)
+    Q_PROPERTY(QString footnote READ footnote CONSTANT)
+    Q_PROPERTY(QString primaryTitle READ primaryTitle CONSTANT)
+    Q_PROPERTY(Illustration illustration READ illustration CONSTANT)
+    Q_PROPERTY(bool showsBack READ showsBack CONSTANT)
+    Q_PROPERTY(bool showsSkip READ showsSkip CONSTANT)
+
+public:
+    enum class Illustration
+    {
+        MeasureIcon = OnboardingIllustration::measureIcon,
+        ToolbarPointer = OnboardingIllustration::toolbarPointer,
+        ScanSpinner = OnboardingIllustration::scanSpinner,
+        BandLegend = OnboardingIllustration::bandLegend
+    };
+    Q_ENUM(Illustration)
+
+    explicit OnboardingStepTexts(const OnboardingStep &step, QObject *parent = nullptr);
+
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString body() const;
+    /// Empty where the step has none.
+    [[nodiscard]] QString footnote() const;
+    [[nodiscard]] QString primaryTitle() const;
+    [[nodiscard]] Illustration illustration() const;
+    [[nodiscard]] bool showsBack() const { return m_step.showsBack(); }
+    [[nodiscard]] bool showsSkip() const { return m_step.showsSkip(); }
+
+private:
+    OnboardingStep m_step;
+};
+
+/// The walk-through of the first launch: whether its sheet is open, and at which step. Belongs to
 /// the interface thread.
 class OnboardingPresenter final : public QObject
 {
@@ -37,19 +76,19 @@ public:
 
     explicit OnboardingPresenter(std::shared_ptr<OnboardingCompletionStore> store);
 
-    /// Asks the store in the background whether the walk-through was completed. If it was not, the
-    /// sheet opens after the delay, at the first step, unless that was called off meanwhile.
+    /// Asks the store in the background whether the walk-through was completed. If not, the sheet
+    /// opens after the delay, at the first step, unless it was called off meanwhile.
     void presentOnboardingIfFirstLaunch(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
-    /// Calls off what was asked for and has not come yet; an open sheet stays.
+    /// Cancels a sheet that has not opened yet; an open one stays.
     void callOff();
 
     [[nodiscard]] bool isPresented() const noexcept { return m_isPresented; }
-    /// To be called when the sheet has faded out.
+    /// Call when the sheet has faded out.
     Q_INVOKABLE void dismiss();
 
     [[nodiscard]] int stepCount() const { return OnboardingFlow::stepCount(); }
-    /// Owned by this presenter; `index` is one of the steps'.
+    /// Owned by this presenter; `index` is less than `stepCount`.
     Q_INVOKABLE Loadwick::OnboardingStepTexts *step(int index) const;
     [[nodiscard]] int currentIndex() const { return m_flow.currentIndex(); }
     [[nodiscard]] OnboardingStepTexts *currentStep() const;
@@ -61,7 +100,7 @@ public:
     [[nodiscard]] QAbstractItemModel *legend() { return &m_legend; }
     [[nodiscard]] QString legendCaption() const;
 
-    /// The flow's moves. After the last one nothing moves any more.
+    /// The flow's moves, which do nothing once it has finished.
     Q_INVOKABLE void advance();
     Q_INVOKABLE void goBack();
     Q_INVOKABLE void skip();
@@ -81,7 +120,7 @@ private:
     QList<OnboardingStepTexts *> m_steps;
     TextRows m_legend;
     QTimer m_delay;
-    int m_request = 0; ///< the number of the last wish to present; an older answer counts no more
+    int m_request = 0; ///< the number of the latest request; answers to older ones are dropped
     bool m_isPresented = false;
 };
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// One step: its picture, its title, its words.
+// One step: its picture, its title and its words.
 ColumnLayout {
     id: content
 
@@ -26,8 +26,11 @@ ColumnLayout {
             anchors.centerIn: parent
             visible: content.step.illustration === OnboardingStepTexts.ToolbarPointer
         }
-        OnboardingScanCallout {
+        StateIcon {
             anchors.centerIn: parent
+            symbol: "arrow.triangle.2.circlepath"
+            tint: AppTheme.accent
+            turning: true
             visible: content.step.illustration === OnboardingStepTexts.ScanSpinner
         }
         OnboardingBandLegend {

@@ -1,14 +1,14 @@
 import QtQuick
 import Loadwick
 
-// All steps in one place, of which the current one shows. Those before it wait on its left, those
-// after it on its right, so that a step comes from the side to which the move leads.
+// All steps, of which only the current one shows. Earlier steps wait on its left and later ones on
+// its right, so that a step comes from the side to which the move leads.
 Item {
     id: steps
 
     required property OnboardingPresenter onboarding
 
-    // As high as the highest, so that the buttons keep their place.
+    // As high as the highest step, so that the buttons stay put.
     implicitHeight: {
         let highest = 0;
         for (let index = 0; index < repeater.count; ++index)

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// The right end of the toolbar, and a pointer that moves to and fro below its folder.
+// The right end of the toolbar, and a pointer that bobs below its folder.
 Item {
     id: callout
 
@@ -13,7 +13,7 @@ Item {
     implicitHeight: bar.height + pointer.height + 20
     onIsBobbingChanged: if (!callout.isBobbing) callout.bob = 0
     Accessible.ignored: true
-    // The toolbar's end is the same in every language.
+    // The toolbar ends on the right in every language.
     LayoutMirroring.enabled: false
     LayoutMirroring.childrenInherit: true
 

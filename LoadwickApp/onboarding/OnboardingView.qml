@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// The sheet of the first launch. What lies behind it cannot be reached while it is open.
+// The sheet of the first launch. Nothing behind it can be reached while it is open.
 Dialog {
     id: sheet
 
@@ -33,7 +33,7 @@ Dialog {
         end.start();
     }
 
-    // Not shown: it is what the sheet is called.
+    // Not shown; it names the sheet to a screen reader.
     title: sheet.onboarding.currentStep.title
     header: null
     footer: null
@@ -70,7 +70,7 @@ Dialog {
         }
     }
 
-    // What dims the window fades with the sheet, of which it is a part.
+    // The dimming is part of the sheet, so that both fade together.
     Overlay.modal: Item {}
 
     background: SheetSurface {

@@ -2,24 +2,72 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The one number, the band it falls in, and where in that band it sits.
+// The one number and who measured it, the band it falls in and why, and its position on the scale.
 ReportSurface {
     id: card
 
     required property BandPresenter band
+    readonly property color bandColor: AppTheme.bandTexts[card.band.band]
 
     spacing: AppTheme.cardSpace
 
     SideBySide {
         Layout.fillWidth: true
 
-        BandLead {
+        ColumnLayout {
             Layout.fillWidth: true
             Layout.minimumWidth: AppTheme.copyMinimumWidth
             Layout.alignment: Qt.AlignVCenter
-            band: card.band
+            spacing: AppTheme.smallSpace
+
+            RowLayout {
+                Layout.fillWidth: true
+                spacing: AppTheme.smallSpace
+
+                Symbol {
+                    Layout.preferredWidth: 20
+                    Layout.preferredHeight: 20
+                    name: "scalemass"
+                    tint: card.bandColor
+                }
+                PlainLabel {
+                    Layout.fillWidth: true
+                    text: card.band.title
+                    font: AppTheme.title2Font
+                    color: card.bandColor
+                    wrapMode: Text.Wrap
+                }
+            }
+            PlainLabel {
+                Layout.fillWidth: true
+                text: card.band.sentence
+                wrapMode: Text.Wrap
+            }
         }
-        TotalMetric { band: card.band }
+        ColumnLayout {
+            spacing: 0
+
+            RowLayout {
+                spacing: AppTheme.smallSpace
+
+                PlainLabel {
+                    Layout.alignment: Qt.AlignBaseline
+                    text: card.band.total
+                    font: AppTheme.heroMetricFont
+                }
+                PlainLabel {
+                    Layout.alignment: Qt.AlignBaseline
+                    text: qsTr("tokens")
+                    font: AppTheme.title3Font
+                    secondary: true
+                }
+            }
+            PlainLabel {
+                text: qsTr("Authoritative · measured by Claude")
+                font: AppTheme.subheadlineFont
+                secondary: true
+            }
+        }
     }
     BandMeter {
         Layout.fillWidth: true

@@ -1,31 +1,37 @@
 #pragma once
 
+#include <cstdint>
+
 #include <QList>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-#include "overview/BandTexts.h"
 #include "report/OpinionBand.h"
-#include "report/ScanReport.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
 
+struct ScanReport;
+
+/// How much of its band scale a total leaves free, in whole hundredths, rounded down: 100 for a
+/// total of nothing, 0 at the scale's end. An illustration of the total, not a second measurement.
+[[nodiscard]] int headroomScore(std::int64_t total) noexcept;
+
 /// The total of a report, the band it falls in and the room it leaves, for the cards that show
-/// them. Before the first report everything is empty. Belongs to the interface thread.
+/// them. A total of nothing before the first report. Belongs to the interface thread.
 class BandPresenter final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the Overview's presenter.")
-    /// The place of the band in its order: 0 lean, 1 heavy, 2 excessive.
+    /// The index of the band in its order: 0 lean, 1 heavy, 2 excessive.
     Q_PROPERTY(int band READ band NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString sentence READ sentence NOTIFY changed)
     Q_PROPERTY(QString total READ total NOTIFY changed)
-    Q_PROPERTY(QStringList bands READ bands NOTIFY changed)
+    Q_PROPERTY(QStringList bands READ bands CONSTANT)
     Q_PROPERTY(QString meterSummary READ meterSummary NOTIFY changed)
-    Q_PROPERTY(QString anchorNote READ anchorNote NOTIFY changed)
+    Q_PROPERTY(QString anchorNote READ anchorNote CONSTANT)
     /// Fractions of the band meter: of the total, and of the two thresholds from left to right.
     Q_PROPERTY(qreal position READ position NOTIFY changed)
     Q_PROPERTY(QList<qreal> thresholds READ thresholds NOTIFY changed)
@@ -41,32 +47,43 @@ public:
 
     void show(const ScanReport &report);
 
-    [[nodiscard]] int band() const noexcept { return m_band; }
-    [[nodiscard]] QString title() const { return m_texts.title; }
-    [[nodiscard]] QString sentence() const { return m_texts.sentence; }
-    [[nodiscard]] QString total() const { return m_texts.total; }
-    [[nodiscard]] QStringList bands() const { return m_texts.bands; }
-    [[nodiscard]] QString meterSummary() const { return m_texts.meterSummary; }
-    [[nodiscard]] QString anchorNote() const { return m_texts.anchorNote; }
-    [[nodiscard]] qreal position() const noexcept { return m_position; }
-    [[nodiscard]] QList<qreal> thresholds() const { return m_thresholds; }
-    [[nodiscard]] int score() const noexcept { return m_score; }
-    [[nodiscard]] QString scoreText() const { return m_texts.score; }
-    [[nodiscard]] QString scoreSummary() const { return m_texts.scoreSummary; }
-    [[nodiscard]] QString scoreDetail() const { return m_texts.scoreDetail; }
-    [[nodiscard]] QString scoreCaption() const { return m_texts.scoreCaption; }
+    [[nodiscard]] int band() const noexcept { return OpinionBand::Value(m_band); }
+    /// Names the band's startup context.
+    [[nodiscard]] QString title() const;
+    /// Says where the total falls.
+    [[nodiscard]] QString sentence() const;
+    /// Tokens.
+    [[nodiscard]] QString total() const;
+    /// The names of all bands, from lean to excessive.
+    [[nodiscard]] static QStringList bands();
+    /// The band meter in words, for a screen reader.
+    [[nodiscard]] QString meterSummary() const;
+    /// The reason for the thresholds.
+    [[nodiscard]] static QString anchorNote();
+    [[nodiscard]] qreal position() const;
+    [[nodiscard]] QList<qreal> thresholds() const;
+
+    [[nodiscard]] int score() const noexcept { return headroomScore(m_total); }
+    [[nodiscard]] QString scoreText() const;
+    /// The gauge in words, for a screen reader.
+    [[nodiscard]] QString scoreSummary() const;
+    /// Says what the score is a part of.
+    [[nodiscard]] QString scoreDetail() const;
+    /// Says what the score is derived from.
+    [[nodiscard]] QString scoreCaption() const;
 
 Q_SIGNALS:
     /// Once for each report, also for one that equals the last.
     void changed();
 
 private:
+    [[nodiscard]] QString grouped(std::int64_t number) const;
+    [[nodiscard]] QString scaleEnd() const;
+    [[nodiscard]] QString bandTitle() const;
+
     TextLocale m_locale;
-    BandTexts m_texts;
-    OpinionBand::Value m_band = OpinionBand::lean;
-    double m_position = 0;
-    QList<qreal> m_thresholds;
-    int m_score = 0;
+    std::int64_t m_total = 0;
+    OpinionBand m_band = OpinionBand::lean;
 };
 
 } // namespace Loadwick

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The donut around the total, and beside it what is pointed at.
+// The donut around the total, beside the read-out of the current slice.
 RowLayout {
     id: chart
 
@@ -46,7 +46,7 @@ RowLayout {
             colors: AppTheme.chartColors
             Accessible.role: Accessible.Graphic
             Accessible.name: chart.breakdown.chartSummary
-            Accessible.description: chart.breakdown.readOutSentence(donut.currentRow)
+            Accessible.description: donut.currentRow < 0 ? readOut.hint : chart.breakdown.readOutSentence(donut.currentRow)
             Accessible.focusable: true
 
             FocusRing {
@@ -81,7 +81,7 @@ RowLayout {
 
         Layout.fillWidth: true
         Layout.maximumWidth: implicitWidth
-        hint: chart.breakdown.readOutHint
+        hint: qsTr("Hover a segment for its share.")
         title: chart.breakdown.readOutTitle(donut.currentRow)
         detail: chart.breakdown.readOutDetail(donut.currentRow)
         swatch: donut.currentRow < 0 ? "transparent"

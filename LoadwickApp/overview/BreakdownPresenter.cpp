@@ -51,28 +51,6 @@ void BreakdownPresenter::show(const ScanReport &report)
     Q_EMIT changed();
 }
 
-QString BreakdownPresenter::noSlicesText()
-{
-    return tr("The attributed category rows report no tokens to chart.");
-}
-
-QString BreakdownPresenter::unreportedTitle()
-{
-    return tr("This session did not report category rows.");
-}
-
-QString BreakdownPresenter::unreportedText()
-{
-    return tr("Claude did not self-report categories for this session. The total and "
-              "band remain factual; instruction files are listed separately as local "
-              "estimates.");
-}
-
-QString BreakdownPresenter::readOutHint()
-{
-    return tr("Hover a segment for its share.");
-}
-
 QString BreakdownPresenter::readOutTitle(int row) const
 {
     const SlabAttribution *found = at(row);
@@ -89,7 +67,7 @@ QString BreakdownPresenter::readOutDetail(int row) const
 QString BreakdownPresenter::readOutSentence(int row) const
 {
     const SlabAttribution *found = at(row);
-    return found != nullptr ? m_rows.sentence(*found) : readOutHint();
+    return found != nullptr ? m_rows.sentence(*found) : QString();
 }
 
 void BreakdownPresenter::copyRow(int row) const
@@ -101,15 +79,15 @@ void BreakdownPresenter::copyRow(int row) const
 const SlabAttribution *BreakdownPresenter::at(int row) const noexcept
 {
     const auto &rows = m_rows.rows();
-    const auto place = static_cast<std::size_t>(row);
-    return row >= 0 && place < rows.size() ? &rows[place] : nullptr;
+    const auto index = static_cast<std::size_t>(row);
+    return row >= 0 && index < rows.size() ? &rows[index] : nullptr;
 }
 
 QString BreakdownPresenter::summaryOfChart() const
 {
     const auto &rows = m_rows.rows();
     if (!m_hasSlices)
-        return noSlicesText();
+        return {};
     const auto largest = std::ranges::max_element(rows, {}, &SlabAttribution::tokens);
     const auto count = static_cast<std::int64_t>(rows.size());
     return tr("Donut chart of the breakdown by category, %1 tokens in all. "

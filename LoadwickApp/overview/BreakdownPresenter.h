@@ -19,13 +19,9 @@ class BreakdownPresenter final : public QObject
     Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
     Q_PROPERTY(QList<qreal> slices READ slices NOTIFY changed)
     Q_PROPERTY(bool hasSlices READ hasSlices NOTIFY changed)
-    Q_PROPERTY(QString noSlicesText READ noSlicesText CONSTANT)
     Q_PROPERTY(QString total READ total NOTIFY changed)
     Q_PROPERTY(QString chartSummary READ chartSummary NOTIFY changed)
-    Q_PROPERTY(QString readOutHint READ readOutHint CONSTANT)
     Q_PROPERTY(bool selfReported READ selfReported NOTIFY changed)
-    Q_PROPERTY(QString unreportedTitle READ unreportedTitle CONSTANT)
-    Q_PROPERTY(QString unreportedText READ unreportedText CONSTANT)
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
 
 public:
@@ -37,31 +33,24 @@ public:
 
     /// Tokens per row, for the chart.
     [[nodiscard]] const QList<qreal> &slices() const noexcept { return m_slices; }
-    /// Whether any row has tokens.
+    /// Whether any row has tokens to chart.
     [[nodiscard]] bool hasSlices() const noexcept { return m_hasSlices; }
-    /// What stands in place of a chart without slices.
-    [[nodiscard]] static QString noSlicesText();
 
     /// Tokens that Claude reported.
     [[nodiscard]] QString total() const { return m_total; }
-    /// The chart in one sentence.
+    /// The chart in one sentence, for a screen reader; empty without slices.
     [[nodiscard]] QString chartSummary() const { return m_chartSummary; }
 
     /// Whether the session reported categories of its own.
     [[nodiscard]] bool selfReported() const noexcept { return m_selfReported; }
-    /// What stands above the chart of a session that did not.
-    [[nodiscard]] static QString unreportedTitle();
-    [[nodiscard]] static QString unreportedText();
 
-    /// What is to be known about the rows; may be empty.
+    /// Caveats about the rows; may be empty.
     [[nodiscard]] QStringList notes() const { return m_notes; }
 
-    /// What stands in the read-out's place while no slice is pointed at.
-    [[nodiscard]] static QString readOutHint();
-    /// The read-out of one row; empty for a row that is not there.
+    /// The read-out of one row; empty without such a row.
     Q_INVOKABLE [[nodiscard]] QString readOutTitle(int row) const;
     Q_INVOKABLE [[nodiscard]] QString readOutDetail(int row) const;
-    /// All of one row, for assistive technology; the hint for a row that is not there.
+    /// The whole row, for a screen reader; empty without such a row.
     Q_INVOKABLE [[nodiscard]] QString readOutSentence(int row) const;
 
     /// Puts one row on the clipboard.

@@ -32,13 +32,13 @@ ReportSurface {
 
             PlainLabel {
                 Layout.fillWidth: true
-                text: section.breakdown.unreportedTitle
+                text: qsTr("This session did not report category rows.")
                 font: AppTheme.bodyStrongFont
                 wrapMode: Text.Wrap
             }
             PlainLabel {
                 Layout.fillWidth: true
-                text: section.breakdown.unreportedText
+                text: qsTr("Claude did not self-report categories for this session. The total and band remain factual; instruction files are listed separately as local estimates.")
                 secondary: true
                 wrapMode: Text.Wrap
             }
@@ -56,7 +56,7 @@ ReportSurface {
     PlainLabel {
         objectName: "noSlices"
         Layout.fillWidth: true
-        text: section.breakdown.noSlicesText
+        text: qsTr("The attributed category rows report no tokens to chart.")
         secondary: true
         wrapMode: Text.Wrap
         visible: !section.breakdown.hasSlices

@@ -18,7 +18,7 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.words
     Accessible.focusable: true
-    // One that waits to be used again is not there.
+    // Hidden while pooled.
     ListView.onPooled: row.visible = false
     ListView.onReused: row.visible = true
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/QtText.h"
+#include "report/ScanReport.h"
 #include "text/CheckedSum.h"
 #include "text/NumberText.h"
 
@@ -26,7 +27,7 @@ QString countOf(std::size_t files, const TextLocale &locale)
         .arg(qtText(NumberText::grouped(static_cast<std::int64_t>(files), locale)));
 }
 
-int placeOfLargest(const std::vector<ListedFile> &files)
+int indexOfLargest(const std::vector<ListedFile> &files)
 {
     const auto isSmaller = [](const ListedFile &left, const ListedFile &right) {
         return left.estimate->estimatedTokens < right.estimate->estimatedTokens;
@@ -47,71 +48,24 @@ void InstructionFilesPresenter::show(const ScanReport &report)
         .files = std::make_shared<const InstructionFileSet>(report.fileSet),
         .total = report.total,
         .locale = m_locale};
-    auto tiers =
-        ListedFile::byTier(*context.files, InstructionFilePlaces(report.repositoryPath, m_home));
+    auto tiers = ListedFile::byTier(*context.files, TierFolders(report.repositoryPath, m_home));
     m_repositoryRows.show(context, std::move(tiers[InstructionFileTier::repository]));
     m_inheritedRows.show(context, std::move(tiers[InstructionFileTier::inherited]));
     m_personalRows.show(context, std::move(tiers[InstructionFileTier::personal]));
     m_note = qtText(report.unreportedCategoryFilesNote().value_or(""));
     showSizes(context);
+    showLargest(report);
     Q_EMIT changed();
 }
 
-QString InstructionFilesPresenter::title()
+void InstructionFilesPresenter::showLargest(const ScanReport &report)
 {
-    return tr("All instruction files");
-}
-
-QString InstructionFilesPresenter::detail()
-{
-    return tr("Grouped by where Claude Code loads them. Their contents are never "
-              "displayed or persisted.");
-}
-
-QString InstructionFilesPresenter::sizeTitle()
-{
-    return tr("Relative size");
-}
-
-QString InstructionFilesPresenter::sizeHint()
-{
-    return tr("Hover a tile, or walk the tiles with the arrow keys, for its path and share.");
-}
-
-QString InstructionFilesPresenter::sizeCaption()
-{
-    return tr("Tile sizes use estimated token counts.");
-}
-
-QString InstructionFilesPresenter::noSizesText()
-{
-    return tr("The instruction files have no estimated tokens to compare.");
-}
-
-QString InstructionFilesPresenter::repositoryTitle()
-{
-    return qtText(ScanReport::repositoryCategoryName);
-}
-
-QString InstructionFilesPresenter::inheritedTitle()
-{
-    return qtText(ScanReport::inheritedCategoryName);
-}
-
-QString InstructionFilesPresenter::personalTitle()
-{
-    return qtText(ScanReport::personalCategoryName);
-}
-
-QString InstructionFilesPresenter::emptyTierText()
-{
-    return tr("No files found in this tier.");
-}
-
-QString InstructionFilesPresenter::shareCaption()
-{
-    return tr("Share is calculated against the authoritative total reported by "
-              "Claude.");
+    // Keeps only the few files that it shows.
+    const auto shown = std::make_shared<InstructionFileSet>();
+    for (const ListedFile &file : ListedFile::largest(report.fileSet, largestCount))
+        shown->repositoryFiles.push_back(*file.estimate);
+    m_largestRows.show({.files = shown, .total = report.total, .locale = m_locale},
+                       ListedFile::allReadable(*shown));
 }
 
 void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &context)
@@ -121,7 +75,7 @@ void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &co
     m_sizeSummary.clear();
     if (tokens == 0)
         return;
-    const int largest = placeOfLargest(m_tiles.rows());
+    const int largest = indexOfLargest(m_tiles.rows());
     m_sizeSummary = tr("Relative size of %1, %2 estimated tokens together. The largest: %3, %4.")
                         .arg(countOf(m_tiles.rows().size(), m_locale),
                              qtText(NumberText::grouped(tokens, m_locale)), m_tiles.path(largest),

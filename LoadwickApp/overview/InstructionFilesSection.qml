@@ -9,12 +9,49 @@ ReportSurface {
     required property InstructionFilesPresenter files
     required property Flickable viewport
 
+    // The files of one tier, one row each.
+    component Tier: ColumnLayout {
+        id: tier
+
+        required property string title
+        required property InstructionFileRows rows
+        required property Flickable viewport
+
+        Layout.fillWidth: true
+        spacing: AppTheme.tightSpace
+
+        PlainLabel {
+            Layout.fillWidth: true
+            text: tier.title
+            font: AppTheme.emphasisFont
+        }
+        LongList {
+            objectName: "list"
+            Layout.fillWidth: true
+            rowHeight: AppTheme.fileRowHeight
+            viewport: tier.viewport
+            model: tier.rows
+            visible: tier.rows.count > 0
+            Accessible.name: tier.title
+            onCopyRequested: index => tier.rows.copyPath(index)
+
+            delegate: InstructionFileRow { width: ListView.view.width }
+        }
+        PlainLabel {
+            objectName: "empty"
+            Layout.fillWidth: true
+            text: qsTr("No files found in this tier.")
+            secondary: true
+            visible: tier.rows.count === 0
+        }
+    }
+
     spacing: AppTheme.cardSpace
 
     SectionHeader {
         Layout.fillWidth: true
-        title: section.files.title
-        detail: section.files.detail
+        title: qsTr("All instruction files")
+        detail: qsTr("Grouped by where Claude Code loads them. Their contents are never displayed or persisted.")
     }
     PlainLabel {
         objectName: "note"
@@ -29,30 +66,24 @@ ReportSurface {
         files: section.files
         room: section.width - 2 * AppTheme.cardPadding
     }
-    InstructionTier {
-        Layout.fillWidth: true
-        title: section.files.repositoryTitle
+    Tier {
+        title: qsTr("Repository instructions")
         rows: section.files.repositoryRows
-        emptyText: section.files.emptyTierText
         viewport: section.viewport
     }
-    InstructionTier {
-        Layout.fillWidth: true
-        title: section.files.inheritedTitle
+    Tier {
+        title: qsTr("Inherited project instructions")
         rows: section.files.inheritedRows
-        emptyText: section.files.emptyTierText
         viewport: section.viewport
     }
-    InstructionTier {
-        Layout.fillWidth: true
-        title: section.files.personalTitle
+    Tier {
+        title: qsTr("Personal instructions")
         rows: section.files.personalRows
-        emptyText: section.files.emptyTierText
         viewport: section.viewport
     }
     PlainLabel {
         Layout.fillWidth: true
-        text: section.files.shareCaption
+        text: qsTr("Share is calculated against the authoritative total reported by Claude.")
         font: AppTheme.captionFont
         secondary: true
         wrapMode: Text.Wrap

@@ -6,19 +6,82 @@ import Loadwick
 ReportSurface {
     id: section
 
-    required property LargestFilesPresenter largest
+    required property InstructionFileRows rows
     required property Flickable viewport
-    readonly property bool isEmpty: largest.rows.count === 0
+    readonly property bool isEmpty: section.rows.count === 0
+
+    // One line of the table: a path and two columns of figures.
+    component Cells: Item {
+        id: cells
+
+        required property string tokens
+        required property string share
+        property string file: ""
+        property bool isHeader: false
+        readonly property font cellFont: isHeader ? AppTheme.captionStrongFont : AppTheme.bodyFont
+
+        RowLayout {
+            anchors.fill: parent
+            // A share in words is a little wider than its column and reaches to the left of it.
+            spacing: AppTheme.wideSpace
+
+            PlainLabel {
+                objectName: "fileHeader"
+                Layout.fillWidth: true
+                text: cells.file
+                font: cells.cellFont
+                secondary: true
+                visible: cells.isHeader
+            }
+            ElidedPath {
+                objectName: "file"
+                Layout.fillWidth: true
+                text: cells.file
+                tabStop: false
+                visible: !cells.isHeader
+            }
+            PlainLabel {
+                objectName: "tokens"
+                Layout.preferredWidth: AppTheme.figureColumn
+                Layout.minimumWidth: AppTheme.figureColumn
+                Layout.maximumWidth: AppTheme.figureColumn
+                text: cells.tokens
+                font: cells.isHeader ? cells.cellFont : AppTheme.bodyStrongFont
+                secondary: cells.isHeader
+                horizontalAlignment: Text.AlignRight
+                LayoutMirroring.enabled: false
+            }
+            Item {
+                objectName: "share"
+                Layout.preferredWidth: AppTheme.figureColumn
+                Layout.minimumWidth: AppTheme.figureColumn
+                Layout.maximumWidth: AppTheme.figureColumn
+                implicitWidth: shareLabel.implicitWidth
+                implicitHeight: shareLabel.implicitHeight
+
+                PlainLabel {
+                    id: shareLabel
+
+                    anchors.right: parent.right
+                    text: cells.share
+                    font: cells.cellFont
+                    secondary: true
+                }
+            }
+        }
+    }
 
     SectionHeader {
+        id: header
+
         Layout.fillWidth: true
-        title: section.largest.title
-        detail: section.largest.detail
+        title: qsTr("Largest instruction files")
+        detail: qsTr("The top five by local estimate; every file is listed in the section above.")
     }
     PlainLabel {
         objectName: "empty"
         Layout.fillWidth: true
-        text: section.largest.emptyText
+        text: qsTr("No instruction files were found for this scan.")
         secondary: true
         wrapMode: Text.Wrap
         visible: section.isEmpty
@@ -28,14 +91,14 @@ ReportSurface {
         spacing: 0
         visible: !section.isEmpty
 
-        LargestFileCells {
+        Cells {
             objectName: "header"
             Layout.fillWidth: true
             Layout.preferredHeight: AppTheme.scaled(28)
             isHeader: true
-            file: section.largest.fileHeader
-            tokens: section.largest.tokensHeader
-            share: section.largest.shareHeader
+            file: qsTr("File")
+            tokens: qsTr("Tokens")
+            share: qsTr("% of total")
         }
         Hairline { Layout.fillWidth: true }
         LongList {
@@ -43,12 +106,12 @@ ReportSurface {
             Layout.fillWidth: true
             rowHeight: AppTheme.tableRowHeight
             viewport: section.viewport
-            model: section.largest.rows
-            Accessible.name: section.largest.title
-            onCopyRequested: index => section.largest.rows.copyPath(index)
+            model: section.rows
+            Accessible.name: header.title
+            onCopyRequested: index => section.rows.copyPath(index)
 
-            delegate: LargestFileCells {
-                id: cells
+            delegate: Cells {
+                id: row
 
                 required property int index
                 required property string path
@@ -56,17 +119,17 @@ ReportSurface {
 
                 width: ListView.view.width
                 height: AppTheme.tableRowHeight
-                file: cells.path
+                file: row.path
                 Accessible.role: Accessible.ListItem
-                Accessible.name: cells.words
+                Accessible.name: row.words
                 Accessible.focusable: true
-                // One that waits to be used again is not there.
-                ListView.onPooled: cells.visible = false
-                ListView.onReused: cells.visible = true
+                // Hidden while pooled.
+                ListView.onPooled: row.visible = false
+                ListView.onReused: row.visible = true
 
                 Hairline {
                     width: parent.width
-                    visible: cells.index > 0
+                    visible: row.index > 0
                 }
             }
         }

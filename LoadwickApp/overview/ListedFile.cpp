@@ -3,8 +3,24 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "text/PathText.h"
+
 namespace Loadwick {
 namespace {
+
+/// The root alone ends in a slash, and everything lies below it.
+std::string folderText(const std::filesystem::path &folder)
+{
+    std::string text = pathText(standardizedPath(folder));
+    if (text.ends_with('/'))
+        text.pop_back();
+    return text;
+}
+
+bool isIn(std::string_view path, const std::string &folder)
+{
+    return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
+}
 
 void append(std::vector<ListedFile> &list, const std::vector<InstructionFileEstimate> &files)
 {
@@ -13,6 +29,17 @@ void append(std::vector<ListedFile> &list, const std::vector<InstructionFileEsti
 }
 
 } // namespace
+
+TierFolders::TierFolders(const std::filesystem::path &repository, const std::filesystem::path &home)
+    : m_repository(folderText(repository)), m_personal(folderText(home / ".claude"))
+{}
+
+InstructionFileTier TierFolders::tierOf(std::string_view path) const
+{
+    if (isIn(path, m_repository))
+        return InstructionFileTier::repository;
+    return isIn(path, m_personal) ? InstructionFileTier::personal : InstructionFileTier::inherited;
+}
 
 std::vector<ListedFile> ListedFile::allReadable(const InstructionFileSet &files)
 {
@@ -23,7 +50,7 @@ std::vector<ListedFile> ListedFile::allReadable(const InstructionFileSet &files)
 }
 
 std::array<std::vector<ListedFile>, 3> ListedFile::byTier(const InstructionFileSet &files,
-                                                          const InstructionFilePlaces &places)
+                                                          const TierFolders &folders)
 {
     std::array<std::vector<ListedFile>, 3> tiers;
     std::unordered_set<std::string_view> readable;
@@ -34,7 +61,7 @@ std::array<std::vector<ListedFile>, 3> ListedFile::byTier(const InstructionFileS
     }
     for (const std::string &path : files.unreadablePaths)
         if (!readable.contains(path))
-            tiers[places.tierOf(path)].push_back({.path = path});
+            tiers[folders.tierOf(path)].push_back({.path = path});
     return tiers;
 }
 

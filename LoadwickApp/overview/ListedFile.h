@@ -2,16 +2,31 @@
 
 #include <array>
 #include <cstddef>
+#include <filesystem>
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "overview/InstructionFilePlaces.h"
 #include "report/InstructionFileSet.h"
 
 namespace Loadwick {
 
-/// One line of a list of instruction files. It owns nothing: what it points to belongs to the set
-/// of files that it was made from.
+/// The folders by which a path alone tells the tier of an instruction file.
+class TierFolders
+{
+public:
+    TierFolders(const std::filesystem::path &repository, const std::filesystem::path &home);
+
+    /// Inside the repository: repository; in the home folder's ".claude": personal; else inherited.
+    [[nodiscard]] InstructionFileTier tierOf(std::string_view path) const;
+
+private:
+    std::string m_repository; ///< without a slash at the end
+    std::string m_personal;
+};
+
+/// One line of a list of instruction files. It owns nothing: it points into the set of files that
+/// it was made from.
 struct ListedFile
 {
     std::string_view path;
@@ -20,10 +35,10 @@ struct ListedFile
     /// All files with figures, in the order of their tiers and of discovery.
     [[nodiscard]] static std::vector<ListedFile> allReadable(const InstructionFileSet &files);
 
-    /// The files of each tier, those with figures first, then the unreadable paths that belong to
-    /// the tier, ascending. A path that is in both lists appears once, with its figures.
+    /// The files of each tier: those with figures first, then the unreadable paths that belong to
+    /// the tier, ascending. A path in both lists appears once, with its figures.
     [[nodiscard]] static std::array<std::vector<ListedFile>, 3>
-    byTier(const InstructionFileSet &files, const InstructionFilePlaces &places);
+    byTier(const InstructionFileSet &files, const TierFolders &folders);
 
     /// The `count` files with the most tokens, largest first; equal ones in their order.
     [[nodiscard]] static std::vector<ListedFile> largest(const InstructionFileSet &files,

@@ -1,5 +1,6 @@
 #include "overview/OverviewPresenter.h"
 
+#include <algorithm>
 #include <utility>
 #include <variant>
 
@@ -7,9 +8,31 @@
 #include <QGuiApplication>
 
 #include "base/QtText.h"
-#include "overview/ElapsedTime.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
+namespace {
+
+QList<QStringList> detailsOf(const ScanReport &report)
+{
+    return {
+        {OverviewPresenter::tr("Repository path"), qtText(report.repositoryPath)},
+        {OverviewPresenter::tr("Claude executable"), qtText(report.resolvedCLIPath)},
+        {OverviewPresenter::tr("Session ID"), qtText(report.sessionID)},
+        {OverviewPresenter::tr("Duration"),
+         OverviewPresenter::tr("%1 seconds").arg(qtText(NumberText::oneDecimal(report.duration)))},
+    };
+}
+
+QString summaryOf(const ScanReport &report, const TextLocale &locale)
+{
+    QStringList lines;
+    for (const std::string &line : report.summaryLines(locale))
+        lines.append(qtText(line));
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
 
 OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock clock,
                                      std::filesystem::path home)
@@ -19,7 +42,6 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_start(m_clock()),
       m_breakdown(m_locale),
       m_files(m_locale, std::move(home)),
-      m_largestFiles(m_locale),
       m_details({"label", "value"}),
       m_weekly(m_locale),
       m_band(m_locale)
@@ -32,12 +54,15 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
 
 QString OverviewPresenter::elapsed() const
 {
-    return elapsedTimeText(std::chrono::duration_cast<std::chrono::seconds>(m_clock() - m_start));
+    using std::chrono::seconds;
+    const auto past =
+        std::max<seconds::rep>(std::chrono::duration_cast<seconds>(m_clock() - m_start).count(), 0);
+    return QStringLiteral("%1:%2").arg(past / 60).arg(past % 60, 2, 10, QLatin1Char('0'));
 }
 
 void OverviewPresenter::copySummary() const
 {
-    QGuiApplication::clipboard()->setText(m_texts.summary);
+    QGuiApplication::clipboard()->setText(m_summary);
 }
 
 void OverviewPresenter::show(const ScanState::Idle &)
@@ -63,12 +88,15 @@ void OverviewPresenter::show(const ScanState::Failed &failed)
 void OverviewPresenter::show(const ScanState::Result &result)
 {
     m_state = State::Report;
-    m_texts = ReportTexts::fromReport(result.report, m_locale);
-    m_breakdown.show(result.report);
-    m_files.show(result.report);
-    m_largestFiles.show(result.report);
-    m_details.setRows(m_texts.details);
-    m_band.show(result.report);
+    const ScanReport &report = result.report;
+    m_repositoryPath = qtText(report.repositoryPath);
+    m_summary = summaryOf(report, m_locale);
+    m_notes = {qtText(ScanReport::measurementNote), qtText(ScanReport::splitsEstimateNote),
+               qtText(report.totalSourceLine())};
+    m_details.setRows(detailsOf(report));
+    m_breakdown.show(report);
+    m_files.show(report);
+    m_band.show(report);
 }
 
 void OverviewPresenter::showCurrentState()

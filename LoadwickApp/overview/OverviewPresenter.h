@@ -13,15 +13,13 @@
 #include "overview/BandPresenter.h"
 #include "overview/BreakdownPresenter.h"
 #include "overview/InstructionFilesPresenter.h"
-#include "overview/LargestFilesPresenter.h"
-#include "overview/ReportTexts.h"
 #include "overview/WeeklyPresenter.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
 
-/// What the Overview shows of the current or the last scan. Belongs to the interface thread; the
-/// model outlives it, and changes no more once it is gone.
+/// The Overview of the current or the last scan. Belongs to the interface thread; the model
+/// outlives it, but must not change afterwards.
 class OverviewPresenter final : public QObject
 {
     Q_OBJECT
@@ -36,7 +34,6 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
     Q_PROPERTY(Loadwick::BreakdownPresenter *breakdown READ breakdown CONSTANT)
     Q_PROPERTY(Loadwick::InstructionFilesPresenter *files READ files CONSTANT)
-    Q_PROPERTY(Loadwick::LargestFilesPresenter *largestFiles READ largestFiles CONSTANT)
     Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
     Q_PROPERTY(Loadwick::WeeklyPresenter *weekly READ weekly CONSTANT)
     Q_PROPERTY(Loadwick::BandPresenter *band READ band CONSTANT)
@@ -53,35 +50,35 @@ public:
 
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
-    /// Without a home folder no file that could not be read counts as the user's own.
+    /// Without a home folder no unreadable file counts as personal.
     OverviewPresenter(ScanModel &model, TextLocale locale,
                       Clock clock = &std::chrono::steady_clock::now,
                       std::filesystem::path home = {});
 
     [[nodiscard]] State state() const noexcept { return m_state; }
 
-    /// How long the running scan has taken, in minutes and seconds.
+    /// The time that the running scan has taken, as on a stopwatch: "0:07", "61:00".
     [[nodiscard]] QString elapsed() const;
 
     /// The words of the last failure.
     [[nodiscard]] QString headline() const { return m_headline; }
     [[nodiscard]] QString detail() const { return m_detail; }
 
-    /// The words and figures of the last report; they mean something only in the state Report.
-    [[nodiscard]] QString repositoryPath() const { return m_texts.repositoryPath; }
-    [[nodiscard]] QString summary() const { return m_texts.summary; }
-    [[nodiscard]] QStringList notes() const { return m_texts.notes; }
+    /// The last report as a whole; it means something only in the state Report.
+    [[nodiscard]] QString repositoryPath() const { return m_repositoryPath; }
+    /// The text that "Copy Summary" copies.
+    [[nodiscard]] QString summary() const { return m_summary; }
+    /// What the figures mean and where they come from.
+    [[nodiscard]] QStringList notes() const { return m_notes; }
 
-    /// What the cards of the report show.
+    /// The cards of the report; they keep the last report, whatever the state.
     [[nodiscard]] BreakdownPresenter *breakdown() { return &m_breakdown; }
     [[nodiscard]] InstructionFilesPresenter *files() { return &m_files; }
-    [[nodiscard]] LargestFilesPresenter *largestFiles() { return &m_largestFiles; }
 
     /// One row per detail, "label" and "value".
     [[nodiscard]] QAbstractItemModel *sessionDetails() { return &m_details; }
 
     [[nodiscard]] WeeklyPresenter *weekly() { return &m_weekly; }
-    /// What the cards show; it stays the last report's, whatever the state.
     [[nodiscard]] BandPresenter *band() { return &m_band; }
 
     /// Puts the summary on the clipboard.
@@ -106,10 +103,11 @@ private:
     State m_state = State::Empty;
     QString m_headline;
     QString m_detail;
-    ReportTexts m_texts;
+    QString m_repositoryPath;
+    QString m_summary;
+    QStringList m_notes;
     BreakdownPresenter m_breakdown;
     InstructionFilesPresenter m_files;
-    LargestFilesPresenter m_largestFiles;
     TextRows m_details;
     WeeklyPresenter m_weekly;
     BandPresenter m_band;

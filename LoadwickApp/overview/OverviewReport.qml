@@ -56,7 +56,7 @@ PageColumn {
     }
     LargestFilesSection {
         Layout.fillWidth: true
-        largest: page.overview.largestFiles
+        rows: page.overview.files.largestRows
         viewport: page.viewport
     }
     WeeklyCard {

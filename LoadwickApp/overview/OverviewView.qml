@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// What the one scan of the chosen repository measured, or why there is nothing to show.
+// The one scan of the chosen repository, or why there is nothing to show.
 Item {
     id: page
 
@@ -16,7 +16,7 @@ Item {
         note: page.disclosure
         visible: page.overview.state === OverviewPresenter.Empty
     }
-    // The others are made when they come, and a report anew each time, so that it arrives.
+    // The other states are made on demand, and every report is a new page, so that it arrives.
     Loader {
         id: loading
 

@@ -2,16 +2,16 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The files as tiles of a map, and beside it what the tile in focus stands for.
+// The files as tiles of a map, beside the read-out of the current tile.
 ColumnLayout {
     id: sizes
 
     required property InstructionFilesPresenter files
-    // The width of the card that holds it. The map's height follows from that and not from what the
-    // layouts make of it: a height that changes while they are at it comes too late for them.
+    // The inner width of the card. The map's height follows from it and not from the layouts' result:
+    // a height that changes during a layout pass comes too late.
     required property real room
     readonly property int readOutWidth: 200
-    // As wide as the page it would be as high as the window, and push everything else away.
+    // At the width of the page it would be as high as the window and push everything else away.
     readonly property real mapWidth: Math.max(0, Math.min(AppTheme.treemapWidth, sizes.room < pair.neededWidth
         ? sizes.room : sizes.room - pair.columnSpacing - sizes.readOutWidth))
 
@@ -19,7 +19,7 @@ ColumnLayout {
 
     PlainLabel {
         Layout.fillWidth: true
-        text: sizes.files.sizeTitle
+        text: qsTr("Relative size")
         font: AppTheme.emphasisFont
     }
     SideBySide {
@@ -62,7 +62,7 @@ ColumnLayout {
             }
             PlainLabel {
                 Layout.fillWidth: true
-                text: sizes.files.sizeCaption
+                text: qsTr("Tile sizes use estimated token counts.")
                 font: AppTheme.captionFont
                 secondary: true
                 wrapMode: Text.Wrap
@@ -76,7 +76,7 @@ ColumnLayout {
             Layout.alignment: Qt.AlignTop
             title: sizes.files.tiles.path(map.currentMark)
             detail: sizes.files.tiles.figures(map.currentMark)
-            hint: sizes.files.sizeHint
+            hint: qsTr("Hover a tile, or walk the tiles with the arrow keys, for its path and share.")
             isPath: true
             titleLines: pair.stacked ? 2 : 4
             detailLines: 3
@@ -86,7 +86,7 @@ ColumnLayout {
     PlainLabel {
         objectName: "noSizes"
         Layout.fillWidth: true
-        text: sizes.files.noSizesText
+        text: qsTr("The instruction files have no estimated tokens to compare.")
         secondary: true
         wrapMode: Text.Wrap
         visible: !sizes.files.hasSizes

@@ -30,9 +30,52 @@ ReportSurface {
         Layout.fillWidth: true
         title: qsTr("Session details")
 
-        SessionDetails {
+        ColumnLayout {
             Layout.fillWidth: true
-            overview: section.overview
+            spacing: AppTheme.smallSpace
+
+            Repeater {
+                model: section.overview.sessionDetails
+
+                RowLayout {
+                    id: row
+
+                    required property string label
+                    required property string value
+
+                    Layout.fillWidth: true
+                    spacing: AppTheme.smallSpace
+
+                    PlainLabel {
+                        Layout.preferredWidth: AppTheme.scaled(132)
+                        Layout.alignment: Qt.AlignTop
+                        text: row.label
+                        font: AppTheme.subheadlineStrongFont
+                    }
+                    SelectableText {
+                        Layout.fillWidth: true
+                        text: row.value
+                    }
+                }
+            }
+            // What the figures mean.
+            Repeater {
+                model: section.overview.notes
+
+                PlainLabel {
+                    id: note
+
+                    required property int index
+                    required property string modelData
+
+                    Layout.fillWidth: true
+                    Layout.topMargin: note.index === 0 ? AppTheme.smallSpace : 0
+                    text: note.modelData
+                    font: AppTheme.captionFont
+                    secondary: true
+                    wrapMode: Text.Wrap
+                }
+            }
         }
     }
     Hairline { Layout.fillWidth: true }

@@ -1,13 +1,12 @@
 import QtQuick
 import Loadwick
 
-// The headroom score as an instrument: a ring that fills, its figure in the middle, its name where
-// the ring is open.
+// The headroom score as a gauge: a ring that fills, the figure in its middle, the name in its gap.
 Item {
     id: gauge
 
     required property BandPresenter band
-    // What the ring shows; on its way to the score it differs from the figure.
+    // What the ring shows; it lags behind the figure while the ring sweeps.
     readonly property alias animatedScore: entrance.value
 
     implicitWidth: AppTheme.gaugeSide

@@ -14,7 +14,7 @@
 
 namespace Loadwick {
 
-/// What the Overview says of the weekly token log. Belongs to the interface thread.
+/// The card of the weekly token log. Belongs to the interface thread.
 class WeeklyPresenter final : public QObject
 {
     Q_OBJECT
@@ -32,13 +32,13 @@ class WeeklyPresenter final : public QObject
 public:
     explicit WeeklyPresenter(TextLocale locale) : m_locale(std::move(locale)) {}
 
-    /// Reads the log once, in the background, and shows what it says; an outcome that comes after
-    /// this has gone is dropped, and a disk that does not answer within half a minute is given up.
+    /// Reads the log once, in the background, and shows its line. Gives up a disk that does not
+    /// answer within half a minute.
     void load(const std::filesystem::path &log, const std::shared_ptr<TaskDispatcher> &dispatcher);
 
     void show(const std::optional<WeeklyKPILine> &line);
 
-    /// Whether there is anything to say; the texts below are empty otherwise.
+    /// Whether the log has a line; the texts below are empty otherwise.
     [[nodiscard]] bool hasLine() const noexcept { return m_hasLine; }
 
     /// The figures in tokens, each with its distance from its target.

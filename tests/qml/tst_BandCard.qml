@@ -53,7 +53,7 @@ Item {
             verify(total.mapToItem(card, 0, 0).x < 40);
         }
 
-        function test_saysWhyTheBandsAreWhereTheyAreWhenAsked() {
+        function test_givesTheReasonForTheThresholdsOnDemand() {
             const card = createTemporaryObject(cards, scene);
             const why = sample.presenter.anchorNote;
             compare(label(card, why), null);

@@ -53,7 +53,7 @@ Item {
             compare(marker(meter).color, AppTheme.text);
         }
 
-        function test_withReduceMotionTheMarkerTakesItsPlaceAtOnce() {
+        function test_withReduceMotionTheMarkerIsInPlaceAtOnce() {
             const meter = createTemporaryObject(meters, scene);
             compare(meter.markerProgress, 0.5);
             compare(marker(meter).x, 394);
@@ -67,7 +67,7 @@ Item {
             tryCompare(meter, "markerProgress", 0.5);
         }
 
-        function test_anotherTotalSlidesInAnew() {
+        function test_aNewTotalSlidesInAgain() {
             Appearance.motion = Appearance.Full;
             const meter = createTemporaryObject(meters, scene);
             tryCompare(meter, "markerProgress", 0.5);
@@ -84,7 +84,7 @@ Item {
             compare(meter.markerProgress, 0.5);
         }
 
-        function test_motionThatBecomesUnwantedEndsAtOnce() {
+        function test_turningMotionOffEndsItAtOnce() {
             Appearance.motion = Appearance.Full;
             const meter = createTemporaryObject(meters, scene);
             Appearance.motion = Appearance.Reduced;

@@ -52,7 +52,7 @@ Item {
             tryCompare(card, "animatedScore", 50);
         }
 
-        function test_sweepsAnewWithEveryReport() {
+        function test_sweepsAgainWithEveryReport() {
             Appearance.motion = Appearance.Full;
             const card = createTemporaryObject(cards, scene);
             tryCompare(card, "animatedScore", 50);

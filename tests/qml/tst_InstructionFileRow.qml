@@ -32,7 +32,7 @@ Item {
         isReadable: false
         words: "/srv/CLAUDE.md. Could not be read."
     }
-    LargestFileCells {
+    LargestFilesSection.Cells {
         id: cells
         y: 120
         width: 600

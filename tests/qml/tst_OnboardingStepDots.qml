@@ -77,7 +77,7 @@ Item {
                 tryCompare(dot(row, index), "emphasis", 0);
         }
 
-        function test_saysWhereItStands() {
+        function test_saysWhichStepIsCurrent() {
             compare(make(Appearance.Full).Accessible.name, "Step 1 of 4");
         }
     }

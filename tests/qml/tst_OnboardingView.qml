@@ -93,7 +93,7 @@ Item {
             }
         }
 
-        function test_isCalledByItsStep() {
+        function test_isNamedAfterItsStep() {
             compare(test.sheet.title, "See what Claude Code loads before it reads a single message");
             press("Next");
             compare(test.sheet.title, "Point it at a local git repository");
@@ -175,7 +175,7 @@ Item {
             compare(test.launch.presenter.currentIndex, 1);
         }
 
-        function test_aButtonThatTheKeyboardWentToAnswersTheKeyboard() {
+        function test_theFocusedButtonAnswersTheKeyboard() {
             press("Next");
             keyClick(Qt.Key_Tab);
             verify(button("Skip").visualFocus);
@@ -186,7 +186,7 @@ Item {
             tryCompare(button("Next"), "activeFocus", true);
         }
 
-        function test_theButtonsKeepTheirPlace() {
+        function test_theButtonsStayPut() {
             wait(50);
             const place = button("Next").mapToItem(scene, 0, 0);
             compare(place.y, Math.round(place.y));
@@ -198,7 +198,7 @@ Item {
             }
         }
 
-        function test_nothingOfItIsCutOff() {
+        function test_nothingIsCutOff() {
             for (let index = 0; index < 4; ++index) {
                 tryCompare(step(index), "opacity", 1);
                 verify(step(index).implicitHeight <= step(index).parent.height);

@@ -17,7 +17,7 @@ Item {
             compare(ends.implicitHeight, ends.children[1].height);
         }
 
-        function test_theFiguresStandAtItsEnds() {
+        function test_theFiguresAreAtItsEnds() {
             compare(ends.children[0].text, "0");
             compare(ends.children[0].x, 0);
             compare(ends.children[2].text, "24,902");
@@ -25,7 +25,7 @@ Item {
             compare(ends.children[2].horizontalAlignment, Text.AlignRight);
         }
 
-        function test_theUnitStandsBetweenThem() {
+        function test_theUnitIsBetweenThem() {
             const unit = ends.children[1];
             verify(Math.abs(unit.x + unit.width / 2 - 100) <= 0.5);
             verify(ends.children[0].x + ends.children[0].width < unit.x);

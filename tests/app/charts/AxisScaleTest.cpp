@@ -56,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(AxisScale(largest, 1).ticks().back() <= largest);
     }
 
-    void neverHasMoreStepsThanAskedFor()
+    void neverExceedsTheMostSteps()
     {
         for (std::int64_t upper = 1; upper < 5'000; upper += 7)
             for (const int most : {1, 2, 3, 4, 7}) {

@@ -158,7 +158,7 @@ private Q_SLOTS:
         QCOMPARE(labels[1].extent.left, 36.0);
     }
 
-    void aLabelThatWouldEndUpUnderAnotherSegmentIsHidden()
+    void hidesALabelThatWouldLandUnderAnotherSegment()
     {
         // Segments of 3 pixels.
         QCOMPARE(shown(labelsOf(9'000'000, 900)), (std::array{true, false, true}));

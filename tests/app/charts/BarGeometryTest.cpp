@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(bars.maximumRowTokens(), std::int64_t(42));
     }
 
-    void aCategoryThatIsNotOnTheAxisIsLeftOut()
+    void leavesOutACategoryThatIsNotOnTheAxis()
     {
         const std::vector<RecordedScan> scans = twoScans();
         const BarGeometry bars({"memory"}, scans);
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QCOMPARE(bars.maximumRowTokens(), std::int64_t(100));
     }
 
-    void namesAreComparedExactly()
+    void comparesNamesExactly()
     {
         const BarGeometry bars = geometryOf({RecordedScanBuilder()
                                                  .withCategory("tools", 1)
@@ -165,7 +165,7 @@ private Q_SLOTS:
         }
     }
 
-    void holdsTwoHundredRepositoriesOfFiftyCategories()
+    void takesTwoHundredRepositoriesOfFiftyCategories()
     {
         const BarGeometry bars = geometryOf(SampleHistories::ofSize(200, 200, 50));
         QCOMPARE(bars.rowCount(), std::size_t(50));

@@ -71,7 +71,7 @@ class DonutChartTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pointsAtTheRowUnderThePointer()
+    void theRowUnderThePointerIsCurrent()
     {
         DonutWindow shown({50, 25, 25});
         QCOMPARE(shown.rowAt(right), 0);
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(shown.rowAt({110 - 63, 110 - 63}), 2);
     }
 
-    void onlyTheRingIsPointedAt()
+    void onlyTheRingReactsToThePointer()
     {
         DonutWindow shown({50, 25, 25});
         QCOMPARE(shown.rowAt({110, 110}), -1);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QVERIFY2(many > whole * 9 / 10, qPrintable(QString::number(many)));
     }
 
-    void otherTokensLeaveNoRowCurrent()
+    void newTokensLeaveNoRowCurrent()
     {
         DonutWindow shown({50, 50});
         QCOMPARE(shown.rowAt(left), 1);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentRow(), -1);
     }
 
-    void tellsOfChangesOnly()
+    void signalsChangesOnly()
     {
         DonutWindow shown({50, 50});
         const QSignalSpy tokens(&shown.chart, &DonutChart::tokensChanged);

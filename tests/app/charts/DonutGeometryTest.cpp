@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(donut.slices()[1].start, turn * 3 / 4);
     }
 
-    void rowsThatAllHaveNoTokensMakeNoSlices()
+    void hasNoSlicesWithoutTokens()
     {
         QVERIFY(DonutGeometry(Tokens{0.0, 0.0, 0.0}).slices().empty());
         QVERIFY(DonutGeometry(Tokens{}).slices().empty());
@@ -245,7 +245,7 @@ private Q_SLOTS:
         QCOMPARE(DonutGeometry::opacity(2, 1), 0.35);
     }
 
-    void wideSlicesArePaintedEachForItself()
+    void eachWideSliceHasAMarkOfItsOwn()
     {
         const DonutGeometry donut(Tokens{50.0, 0.0, 25.0, 25.0});
         const auto marks = donut.marks(radius, 1);
@@ -257,7 +257,7 @@ private Q_SLOTS:
         }
     }
 
-    void paintsNoMoreThanCanBeToldApart()
+    void paintsNoMoreMarksThanTheEyeCanTellApart()
     {
         const auto marks = DonutGeometry(Tokens(8'000, 3.0)).marks(radius, std::nullopt);
         QVERIFY(marks.size() <= 1'400U);
@@ -270,7 +270,7 @@ private Q_SLOTS:
         QVERIFY(turn - end < 0.01);
     }
 
-    void theSelectedSliceIsAlwaysPaintedForItself()
+    void theSelectedSliceAlwaysHasAMarkOfItsOwn()
     {
         const DonutGeometry donut(Tokens(8'000, 3.0));
         for (const std::size_t selected :

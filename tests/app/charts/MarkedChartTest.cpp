@@ -96,7 +96,7 @@ private Q_SLOTS:
         QCOMPARE(shown.afterKey(Qt::Key_Right), 1);
     }
 
-    void homeEndAndEscapeLeadThere()
+    void homeEndAndEscapeJump()
     {
         ChartWindow shown(4);
         QCOMPARE(shown.afterKey(Qt::Key_End), 3);
@@ -104,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(shown.afterKey(Qt::Key_Escape), -1);
     }
 
-    void aKeyCountsMoreThanAPointerThatLiesStill()
+    void aKeyOverridesARestingPointer()
     {
         ChartWindow shown(3);
         QCOMPARE(shown.afterMoveTo({25, 5}), 2);
@@ -112,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(shown.afterMoveTo({15, 5}), 1);
     }
 
-    void losingTheFocusLetsGoOfTheChosenMark()
+    void losingTheFocusClearsTheChosenMark()
     {
         ChartWindow shown(3);
         QCOMPARE(shown.afterKey(Qt::Key_Right), 0);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentMark(), -1);
     }
 
-    void otherMarksLeaveNoneCurrent()
+    void newMarksLeaveNoneCurrent()
     {
         ChartWindow shown(3);
         QCOMPARE(shown.afterKey(Qt::Key_End), 2);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentMark(), -1);
     }
 
-    void saysOnceThatTheCurrentMarkChanged()
+    void signalsANewCurrentMarkOnce()
     {
         ChartWindow shown(3);
         const QSignalSpy changes(&shown.chart, &MarkedChart::currentMarkChanged);

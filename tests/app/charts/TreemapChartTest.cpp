@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(0, 12).alpha(), 255);
     }
 
-    void theTileThatAKeyChoseStandsOutToo()
+    void aTileChosenByKeyStandsOutToo()
     {
         ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
         shown.chart.forceActiveFocus();
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QVERIFY(shown.picture() == atRest);
     }
 
-    void asksOnlyForNamesThatAreShown()
+    void readsOnlyTheNamesThatItShows()
     {
         ChartWindow shown({1.0, 1'000.0, 1.0}, {200.0, 100.0});
         (void)shown.picture();
@@ -187,7 +187,7 @@ private Q_SLOTS:
             QCOMPARE(row, 1);
     }
 
-    void writesANameOnlyInATileThatIsLargeEnough()
+    void writesANameOnlyInALargeEnoughTile()
     {
         const auto writes = [](QSizeF size) {
             ChartWindow shown({1.0}, size);
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QVERIFY(shown.picture().pixelColor(0, 0).alpha() <= 128);
     }
 
-    void lookAtAFinerScreenToo()
+    void paintsForAFinerScreenToo()
     {
         ChartWindow shown({1.0, 1.0}, {40.0, 20.0});
         const QImage picture = shown.picture(2.0);

@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY2(drawing.size() < 100'000, qPrintable(QString::number(drawing.size())));
     }
 
-    void anotherHistoryLetsGoOfTheScan()
+    void anotherHistoryLeavesNoScanCurrent()
     {
         ChartWindow at;
         at.show({10'000, 20'000, 30'000});

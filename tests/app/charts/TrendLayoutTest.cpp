@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(point.y, 0.7);
     }
 
-    void namesThresholdsAtTheirLines()
+    void placesTheNamesAtTheirThresholds()
     {
         const TrendLayout layout = layoutOf(800, 260);
         const auto names = layout.nameHeights(30.0 / 69, 60.0 / 69);
@@ -71,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(names.upper - m_lineHeight / 2 >= layout.frame().y - 1e-9);
     }
 
-    void theWordsStandOverTheirPointWhereTheyCan()
+    void theWordsAreCentredOnTheirPointWherePossible()
     {
         const TrendLayout layout = layoutOf(800, 260);
         const PlotRect words = layout.readout(0.5, 200);

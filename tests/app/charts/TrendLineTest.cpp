@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(line.points()[1].x, line.points()[3].x);
     }
 
-    void scansOfOneSecondOnlyStandInTheMiddle()
+    void scansOfASingleSecondAreInTheMiddle()
     {
         const LineGeometry line = lineOf({{10, 5}, {10, 3}});
         QCOMPARE(line.points()[0].x, 0.5);
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(line.nearest({.x = 0.5, .y = 0.0}), std::size_t(0));
     }
 
-    void ofScansOfOneSecondItFindsTheOneAtThatHeight()
+    void amongScansOfOneSecondItFindsTheNearestTotal()
     {
         const LineGeometry line = lineOf({{10, 5'000}, {10, 60'000}});
         QCOMPARE(line.nearest({.x = 0.1, .y = 0.1}), std::size_t(0));
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(line.total(1), QStringLiteral("2 tokens"));
     }
 
-    void tellsOfOtherScansOnly()
+    void signalsNewScansOnly()
     {
         TrendLine line{TextLocale()};
         QSignalSpy changed(&line, &TrendLine::changed);

@@ -177,7 +177,7 @@ private Q_SLOTS:
                                 QStringLiteral("Next")}));
     }
 
-    void afterItTheKeyboardIsOnTheFirstThingToDo()
+    void leavesTheKeyboardOnTheFirstCommand()
     {
         openSheet();
         advance(4);
@@ -187,14 +187,14 @@ private Q_SLOTS:
         QCOMPARE(m_window->chooser().openCount, 1);
     }
 
-    void afterSkippingItTheKeyboardIsThereToo()
+    void leavesTheKeyboardThereAfterSkippingToo()
     {
         openSheet();
         m_window->press(Qt::Key_Escape);
         QTRY_COMPARE(focusedName(), QStringLiteral("Choose Repository…"));
     }
 
-    void whoHadTheKeyboardBeforeHasItAgain()
+    void givesTheKeyboardFocusBack()
     {
         open();
         m_window->press(Qt::Key_F6); // into the sidebar or out of it

@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(m_store->completed);
     }
 
-    void onceFinishedNothingMovesAnyMore()
+    void doesNotMoveOnceFinished()
     {
         m_onboarding->advance();
         m_onboarding->skip();
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(m_store->writes, 0);
     }
 
-    void aLaterLaunchIsNotPresented()
+    void staysClosedOnALaterLaunch()
     {
         m_store->completed = true;
         ask();
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void theStoreIsAskedAwayFromTheInterface()
+    void asksTheStoreInTheBackground()
     {
         m_onboarding->presentOnboardingIfFirstLaunch(m_dispatcher);
         QCOMPARE(m_dispatcher->backgroundCount(), std::size_t(1));
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_onboarding->isPresented());
     }
 
-    void withoutAThreadNobodyIsWalkedThrough()
+    void staysClosedWithoutAThread()
     {
         m_dispatcher->refuseBackground();
         ask();
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void calledOffBeforeItsTimeItIsNotPresented()
+    void staysClosedWhenCalledOffInTime()
     {
         ask();
         QTest::qWait(100);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void anAnswerThatComesAfterTheCallingOffCountsNoMore()
+    void ignoresAnAnswerAfterBeingCalledOff()
     {
         m_onboarding->presentOnboardingIfFirstLaunch(m_dispatcher);
         m_onboarding->callOff();
@@ -197,14 +197,14 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void anAnswerThatComesAfterItsEndIsDropped()
+    void dropsAnAnswerAfterItsEnd()
     {
         m_onboarding->presentOnboardingIfFirstLaunch(m_dispatcher);
         m_onboarding.reset();
         m_dispatcher->runAll();
     }
 
-    void aSecondRequestLeavesAnOpenSheetWhereItIs()
+    void aSecondRequestLeavesAnOpenSheetAlone()
     {
         present();
         m_onboarding->advance();
@@ -227,7 +227,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isFinished());
     }
 
-    void dismissingTwiceIsToldOnce()
+    void signalsADismissalOnce()
     {
         present();
         QSignalSpy changed(m_onboarding.get(), &OnboardingPresenter::isPresentedChanged);

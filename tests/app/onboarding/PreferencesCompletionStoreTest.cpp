@@ -92,7 +92,7 @@ private Q_SLOTS:
         QVERIFY(!isCompleted());
     }
 
-    void anUnwritableFolderFailsInSilence()
+    void anUnwritableFolderFailsSilently()
     {
         const PlainPermissions permissions;
         fs::permissions(m_folder->path(), fs::perms::owner_read | fs::perms::owner_exec);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QVERIFY(!fs::exists(file()));
     }
 
-    void aFileInPlaceOfTheFolderFailsInSilence()
+    void aFileWhereTheFolderBelongsFailsSilently()
     {
         m_folder->write("Loadwick", "in the way");
         store().setOnboardingCompleted(true);
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_folder->path() / "Loadwick"), std::string("in the way"));
     }
 
-    void aFolderInPlaceOfTheFileFailsInSilence()
+    void aFolderWhereTheFileBelongsFailsSilently()
     {
         fs::create_directories(file());
         store().setOnboardingCompleted(true);
@@ -119,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(fs::is_directory(file()));
     }
 
-    void aPipeInPlaceOfTheFileIsNotWaitedFor()
+    void doesNotWaitForAPipe()
     {
         fs::create_directories(file().parent_path());
         QCOMPARE(::mkfifo(file().c_str(), 0600), 0);
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QVERIFY(contentOf(file()) == large);
     }
 
-    void standsInTheConfigurationFolder_data()
+    void isInTheConfigurationFolder_data()
     {
         QTest::addColumn<QByteArray>("configuration");
         QTest::addColumn<QByteArray>("expected");
@@ -148,7 +148,7 @@ private Q_SLOTS:
                                << QByteArray("/h/.config/Loadwick/preferences.ini");
     }
 
-    void standsInTheConfigurationFolder()
+    void isInTheConfigurationFolder()
     {
         QFETCH(const QByteArray, configuration);
         QFETCH(const QByteArray, expected);

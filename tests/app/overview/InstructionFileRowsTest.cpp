@@ -48,7 +48,7 @@ class InstructionFileRowsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void saysWhatAFileCostsInTheFiguresOfTheLocale_data()
+    void writesTheFiguresOfAFileInTheLocale_data()
     {
         QTest::addColumn<QString>("size");
         QTest::addColumn<QString>("tokens");
@@ -71,7 +71,7 @@ private Q_SLOTS:
                                << QStringLiteral("3,08,642 estimated tokens · 100.0% of total");
     }
 
-    void saysWhatAFileCostsInTheFiguresOfTheLocale()
+    void writesTheFiguresOfAFileInTheLocale()
     {
         QFETCH(const QString, size);
         QFETCH(const QString, tokens);
@@ -117,14 +117,14 @@ private Q_SLOTS:
         QVERIFY(rows.index(0).data(Role::IsReadable).toBool());
     }
 
-    void speaksOfOneToken()
+    void saysOneTokenInTheSingular()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(4)));
         QCOMPARE(textOf(rows, Role::Amount), QStringLiteral("1 token"));
     }
 
-    void aFileThatCouldNotBeReadSaysSoInPlaceOfItsFigures()
+    void saysInsteadOfFiguresThatAFileIsUnreadable()
     {
         InstructionFileRows rows;
         const InstructionFileRows::Context context = contextOf({});
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(textOf(rows, Role::Name), QStringLiteral("bare.md"));
     }
 
-    void saysNothingOfRowsThatAreNotThere()
+    void isEmptyBeyondItsRows()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
@@ -195,7 +195,7 @@ private Q_SLOTS:
         QVERIFY(rows.roleNames().values().contains("isReadable"));
     }
 
-    void writesNothingBeforeItIsAsked()
+    void writesNothingUntilAsked()
     {
         InstructionFileSet files;
         for (int file = 0; file < 10'000; ++file)

@@ -41,6 +41,22 @@ TextLocale localeNamed(const char *name)
     return TextLocale::fromEnvironment({{"LC_ALL", name}});
 }
 
+/// Files "/r/0", "/r/1", … of so many tokens each, in a total of 10,000.
+ScanReport reportOfTokens(const std::vector<std::int64_t> &tokens)
+{
+    ScanReport report = reportOf({});
+    report.total = 10'000;
+    for (std::size_t index = 0; index < tokens.size(); ++index)
+        report.fileSet.repositoryFiles.push_back(
+            InstructionFileEstimate::fromPath("/r/" + std::to_string(index), tokens[index] * 4));
+    return report;
+}
+
+QStringList words(const char *list)
+{
+    return QString::fromUtf8(list).split(QLatin1Char(' '));
+}
+
 QStringList textsOf(const InstructionFileRows *rows, Role role)
 {
     QStringList texts;
@@ -56,232 +72,225 @@ class InstructionFilesPresenterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void saysWhatTheSectionHolds();
-    void namesTheTiersInOrder();
-    void listsEachTiersFiles();
-    void writesFiguresInTheLocale_data();
-    void writesFiguresInTheLocale();
-    void aFileThatCouldNotBeReadStandsInTheTierOfItsPath();
-    void aTierOfUnreadableFilesIsNotCalledEmpty();
-    void aPathOfBothListsAppearsOnceWithItsFigures();
-    void summarizesTheSizesForAScreenReader_data();
-    void summarizesTheSizesForAScreenReader();
-    void speaksOfASingleFile();
-    void hasNoSizesWithoutTokens();
-    void saysWhatTheFilesMeanToASessionThatReportedNoCategories();
-    void hasNoNoteWithoutFiles();
-    void showsTheLaterReport();
-    void tenThousandFilesCostNearlyNothingUpFront();
+    void listsEachTiersFiles()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOf(threeTiers()));
+        QCOMPARE(textsOf(files.repositoryRows(), Role::Path),
+                 QStringList({QStringLiteral("/home/ada/app/CLAUDE.md"),
+                              QStringLiteral("/home/ada/app/AGENTS.md")}));
+        QCOMPARE(files.inheritedRows()->path(0), QStringLiteral("/home/ada/CLAUDE.md"));
+        QCOMPARE(files.personalRows()->path(0), QStringLiteral("/home/ada/.claude/CLAUDE.md"));
+        QCOMPARE(files.tiles()->count(), 4);
+        QCOMPARE(files.tiles()->path(2), QStringLiteral("/home/ada/CLAUDE.md"));
+    }
+
+    void writesFiguresInTheLocale_data()
+    {
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<QString>("amount");
+        QTest::addColumn<QString>("figures");
+        const auto row = [](const char *locale, const char *bytes, const char *tokens) {
+            QTest::newRow(locale) << QString::fromUtf8(bytes) +
+                                         QStringLiteral(" bytes on disk · local estimate at 4 "
+                                                        "bytes/token")
+                                  << QString::fromUtf8(tokens) + QStringLiteral(" tokens")
+                                  << QString::fromUtf8(tokens) +
+                                         QStringLiteral(" estimated tokens · 100.0% of total");
+        };
+        row("en_US.UTF-8", "4,938,264", "1,234,566");
+        row("C", "4,938,264", "1,234,566");
+        row("de_DE.UTF-8", "4.938.264", "1.234.566");
+        row("hi_IN", "49,38,264", "12,34,566");
+    }
+
+    void writesFiguresInTheLocale()
+    {
+        InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
+        files.show(reportOf(threeTiers()));
+        const QModelIndex first = files.repositoryRows()->index(0);
+        QTEST(first.data(Role::Size).toString(), "size");
+        QTEST(first.data(Role::Amount).toString(), "amount");
+        QTEST(files.tiles()->figures(0), "figures");
+        QTEST(files.largestRows()->figures(0), "figures");
+        // Written with a point whatever the locale.
+        QCOMPARE(files.inheritedRows()->index(0).data(Role::Share).toString(),
+                 QStringLiteral("0.1% of total"));
+    }
+
+    void anUnreadableFileIsInTheTierOfItsPath()
+    {
+        InstructionFileSet set = threeTiers();
+        set.unreadablePaths = {"/home/ada/.claude/notes.md", "/home/ada/CLAUDE.local.md",
+                               "/home/ada/app/docs/a.md"};
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOf(set));
+        QCOMPARE(files.repositoryRows()->path(2), QStringLiteral("/home/ada/app/docs/a.md"));
+        QCOMPARE(files.inheritedRows()->path(1), QStringLiteral("/home/ada/CLAUDE.local.md"));
+        QCOMPARE(files.personalRows()->path(1), QStringLiteral("/home/ada/.claude/notes.md"));
+        QCOMPARE(textsOf(files.personalRows(), Role::Size).at(1),
+                 QStringLiteral("Could not be read"));
+        QCOMPARE(files.tiles()->count(), 4);
+    }
+
+    void aTierOfUnreadableFilesIsNotCalledEmpty()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOf({.repositoryFiles = {},
+                             .inheritedFiles = {},
+                             .personalFiles = {},
+                             .unreadablePaths = {"/home/ada/.claude/CLAUDE.md"}}));
+        QCOMPARE(files.personalRows()->count(), 1);
+        QCOMPARE(files.repositoryRows()->count(), 0);
+        QCOMPARE(files.inheritedRows()->count(), 0);
+    }
+
+    void aPathInBothListsAppearsOnceWithItsFigures()
+    {
+        InstructionFileSet set = threeTiers();
+        set.unreadablePaths = {"/home/ada/CLAUDE.md"};
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOf(set));
+        QCOMPARE(files.inheritedRows()->count(), 1);
+        QVERIFY(files.inheritedRows()->index(0).data(Role::IsReadable).toBool());
+    }
+
+    void summarizesTheSizesForAScreenReader_data()
+    {
+        QTest::addColumn<QString>("summary");
+        const auto row = [](const char *locale, const char *all, const char *largest) {
+            QTest::newRow(locale) << QStringLiteral("Relative size of 4 instruction files, ") +
+                                         QString::fromUtf8(all) +
+                                         QStringLiteral(" estimated tokens together. The largest: "
+                                                        "/home/ada/app/CLAUDE.md, ") +
+                                         QString::fromUtf8(largest) +
+                                         QStringLiteral(" estimated tokens · 100.0% of total.");
+        };
+        row("en_US", "1,235,569", "1,234,566");
+        row("C", "1,235,569", "1,234,566");
+        row("de_DE", "1.235.569", "1.234.566");
+        row("hi_IN", "12,35,569", "12,34,566");
+    }
+
+    void summarizesTheSizesForAScreenReader()
+    {
+        InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
+        files.show(reportOf(threeTiers()));
+        QVERIFY(files.hasSizes());
+        QTEST(files.sizeSummary(), "summary");
+    }
+
+    void saysOneFileInTheSingular()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 400)},
+                             .inheritedFiles = {},
+                             .personalFiles = {},
+                             .unreadablePaths = {}}));
+        QVERIFY(files.sizeSummary().startsWith(
+            QStringLiteral("Relative size of 1 instruction file, 100 estimated tokens")));
+    }
+
+    void hasNoSizesWithoutTokens()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOf({}));
+        QVERIFY(!files.hasSizes());
+        QCOMPARE(files.sizeSummary(), QString());
+        files.show(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 0)},
+                             .inheritedFiles = {},
+                             .personalFiles = {},
+                             .unreadablePaths = {}}));
+        QVERIFY(!files.hasSizes());
+        QCOMPARE(files.repositoryRows()->count(), 1);
+    }
+
+    void showsTheFiveLargestWithTheLargestFirst()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOfTokens({10, 700, 30, 4'000, 50, 60, 20'000}));
+        QCOMPARE(textsOf(files.largestRows(), Role::Path), words("/r/6 /r/3 /r/1 /r/5 /r/4"));
+        QCOMPARE(textsOf(files.largestRows(), Role::Tokens), words("20,000 4,000 700 60 50"));
+        QCOMPARE(textsOf(files.largestRows(), Role::Share),
+                 QStringList({QStringLiteral("100.0% of total"), QStringLiteral("40.0% of total"),
+                              QStringLiteral("7.0% of total"), QStringLiteral("0.6% of total"),
+                              QStringLiteral("0.5% of total")}));
+    }
+
+    void filesOfEqualTokensKeepTheirListingOrder()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOfTokens({5, 7, 5, 7, 5, 5, 5}));
+        QCOMPARE(textsOf(files.largestRows(), Role::Path), words("/r/1 /r/3 /r/0 /r/2 /r/4"));
+    }
+
+    void equalFilesOfAllTiersKeepTheOrderOfTheTiers()
+    {
+        ScanReport report = reportOfTokens({5});
+        report.fileSet.personalFiles = {InstructionFileEstimate::fromPath("/p", 20)};
+        report.fileSet.inheritedFiles = {InstructionFileEstimate::fromPath("/i", 20)};
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(report);
+        QCOMPARE(textsOf(files.largestRows(), Role::Path), words("/r/0 /i /p"));
+    }
+
+    void fewerThanFiveFilesShowAllOfThem()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(reportOfTokens({1, 2, 3}));
+        QCOMPARE(files.largestRows()->count(), 3);
+    }
+
+    void saysWhatTheFilesMeanToASessionThatReportedNoCategories()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        ScanReport report = reportOf(threeTiers());
+        report.categoriesSelfReported = false;
+        files.show(report);
+        QCOMPARE(
+            files.note(),
+            QStringLiteral("Claude did not self-report categories for this session, so the "
+                           "\"Startup context (categories not self-reported)\" row already "
+                           "carries the whole measured total. The instruction files below are "
+                           "local estimates of what makes up that total, not additional tokens "
+                           "on top of it."));
+        report.categoriesSelfReported = true;
+        files.show(report);
+        QCOMPARE(files.note(), QString());
+    }
+
+    void hasNoNoteWithoutFiles()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        ScanReport report = reportOf({});
+        report.categoriesSelfReported = false;
+        files.show(report);
+        QCOMPARE(files.note(), QString());
+    }
+
+    void showsTheLaterReport()
+    {
+        InstructionFilesPresenter files({}, "/home/ada");
+        const QSignalSpy changes(&files, &InstructionFilesPresenter::changed);
+        files.show(reportOf(threeTiers()));
+        files.show(reportOf({}));
+        QCOMPARE(changes.count(), 2);
+        QCOMPARE(files.repositoryRows()->count(), 0);
+        QCOMPARE(files.tiles()->count(), 0);
+        QCOMPARE(files.largestRows()->count(), 0);
+    }
+
+    void tenThousandFilesCostNearlyNothingUpFront()
+    {
+        const ScanReport report = SampleScans::ofSize(10, 10'000).report();
+        InstructionFilesPresenter files({}, "/home/ada");
+        const ProcessorTime timer;
+        files.show(report);
+        // Half a frame; a sanitizer takes a few times as long.
+        QVERIFY2(timer.milliseconds() < 50, qPrintable(QString::number(timer.milliseconds())));
+        QCOMPARE(files.tiles()->count(), 10'000);
+    }
 };
-
-void InstructionFilesPresenterTest::saysWhatTheSectionHolds()
-{
-    QCOMPARE(InstructionFilesPresenter::title(), QStringLiteral("All instruction files"));
-    QCOMPARE(InstructionFilesPresenter::detail(),
-             QStringLiteral("Grouped by where Claude Code loads them. Their contents are never "
-                            "displayed or persisted."));
-    QCOMPARE(InstructionFilesPresenter::sizeTitle(), QStringLiteral("Relative size"));
-    QCOMPARE(InstructionFilesPresenter::sizeCaption(),
-             QStringLiteral("Tile sizes use estimated token counts."));
-    QCOMPARE(InstructionFilesPresenter::sizeHint(),
-             QStringLiteral(
-                 "Hover a tile, or walk the tiles with the arrow keys, for its path and share."));
-    QCOMPARE(InstructionFilesPresenter::noSizesText(),
-             QStringLiteral("The instruction files have no estimated tokens to compare."));
-    QCOMPARE(InstructionFilesPresenter::emptyTierText(),
-             QStringLiteral("No files found in this tier."));
-    QCOMPARE(InstructionFilesPresenter::shareCaption(),
-             QStringLiteral("Share is calculated against the authoritative total reported by "
-                            "Claude."));
-}
-
-void InstructionFilesPresenterTest::namesTheTiersInOrder()
-{
-    QCOMPARE(InstructionFilesPresenter::repositoryTitle(),
-             QStringLiteral("Repository instructions"));
-    QCOMPARE(InstructionFilesPresenter::inheritedTitle(),
-             QStringLiteral("Inherited project instructions"));
-    QCOMPARE(InstructionFilesPresenter::personalTitle(), QStringLiteral("Personal instructions"));
-}
-
-void InstructionFilesPresenterTest::listsEachTiersFiles()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    files.show(reportOf(threeTiers()));
-    QCOMPARE(textsOf(files.repositoryRows(), Role::Path),
-             QStringList({QStringLiteral("/home/ada/app/CLAUDE.md"),
-                          QStringLiteral("/home/ada/app/AGENTS.md")}));
-    QCOMPARE(files.inheritedRows()->path(0), QStringLiteral("/home/ada/CLAUDE.md"));
-    QCOMPARE(files.personalRows()->path(0), QStringLiteral("/home/ada/.claude/CLAUDE.md"));
-    QCOMPARE(files.tiles()->count(), 4);
-    QCOMPARE(files.tiles()->path(2), QStringLiteral("/home/ada/CLAUDE.md"));
-}
-
-void InstructionFilesPresenterTest::writesFiguresInTheLocale_data()
-{
-    QTest::addColumn<QString>("size");
-    QTest::addColumn<QString>("amount");
-    QTest::addColumn<QString>("figures");
-    const auto row = [](const char *locale, const char *bytes, const char *tokens) {
-        QTest::newRow(locale) << QString::fromUtf8(bytes) +
-                                     QStringLiteral(" bytes on disk · local estimate at 4 "
-                                                    "bytes/token")
-                              << QString::fromUtf8(tokens) + QStringLiteral(" tokens")
-                              << QString::fromUtf8(tokens) +
-                                     QStringLiteral(" estimated tokens · 100.0% of total");
-    };
-    row("en_US.UTF-8", "4,938,264", "1,234,566");
-    row("C", "4,938,264", "1,234,566");
-    row("de_DE.UTF-8", "4.938.264", "1.234.566");
-    row("hi_IN", "49,38,264", "12,34,566");
-}
-
-void InstructionFilesPresenterTest::writesFiguresInTheLocale()
-{
-    InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
-    files.show(reportOf(threeTiers()));
-    const QModelIndex first = files.repositoryRows()->index(0);
-    QTEST(first.data(Role::Size).toString(), "size");
-    QTEST(first.data(Role::Amount).toString(), "amount");
-    QTEST(files.tiles()->figures(0), "figures");
-    // Written with a point whatever the locale.
-    QCOMPARE(files.inheritedRows()->index(0).data(Role::Share).toString(),
-             QStringLiteral("0.1% of total"));
-}
-
-void InstructionFilesPresenterTest::aFileThatCouldNotBeReadStandsInTheTierOfItsPath()
-{
-    InstructionFileSet set = threeTiers();
-    set.unreadablePaths = {"/home/ada/.claude/notes.md", "/home/ada/CLAUDE.local.md",
-                           "/home/ada/app/docs/a.md"};
-    InstructionFilesPresenter files({}, "/home/ada");
-    files.show(reportOf(set));
-    QCOMPARE(files.repositoryRows()->path(2), QStringLiteral("/home/ada/app/docs/a.md"));
-    QCOMPARE(files.inheritedRows()->path(1), QStringLiteral("/home/ada/CLAUDE.local.md"));
-    QCOMPARE(files.personalRows()->path(1), QStringLiteral("/home/ada/.claude/notes.md"));
-    QCOMPARE(textsOf(files.personalRows(), Role::Size).at(1), QStringLiteral("Could not be read"));
-    QCOMPARE(files.tiles()->count(), 4);
-}
-
-void InstructionFilesPresenterTest::aTierOfUnreadableFilesIsNotCalledEmpty()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    files.show(reportOf({.repositoryFiles = {},
-                         .inheritedFiles = {},
-                         .personalFiles = {},
-                         .unreadablePaths = {"/home/ada/.claude/CLAUDE.md"}}));
-    QCOMPARE(files.personalRows()->count(), 1);
-    QCOMPARE(files.repositoryRows()->count(), 0);
-    QCOMPARE(files.inheritedRows()->count(), 0);
-}
-
-void InstructionFilesPresenterTest::aPathOfBothListsAppearsOnceWithItsFigures()
-{
-    InstructionFileSet set = threeTiers();
-    set.unreadablePaths = {"/home/ada/CLAUDE.md"};
-    InstructionFilesPresenter files({}, "/home/ada");
-    files.show(reportOf(set));
-    QCOMPARE(files.inheritedRows()->count(), 1);
-    QVERIFY(files.inheritedRows()->index(0).data(Role::IsReadable).toBool());
-}
-
-void InstructionFilesPresenterTest::summarizesTheSizesForAScreenReader_data()
-{
-    QTest::addColumn<QString>("summary");
-    const auto row = [](const char *locale, const char *all, const char *largest) {
-        QTest::newRow(locale) << QStringLiteral("Relative size of 4 instruction files, ") +
-                                     QString::fromUtf8(all) +
-                                     QStringLiteral(" estimated tokens together. The largest: "
-                                                    "/home/ada/app/CLAUDE.md, ") +
-                                     QString::fromUtf8(largest) +
-                                     QStringLiteral(" estimated tokens · 100.0% of total.");
-    };
-    row("en_US", "1,235,569", "1,234,566");
-    row("C", "1,235,569", "1,234,566");
-    row("de_DE", "1.235.569", "1.234.566");
-    row("hi_IN", "12,35,569", "12,34,566");
-}
-
-void InstructionFilesPresenterTest::summarizesTheSizesForAScreenReader()
-{
-    InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
-    files.show(reportOf(threeTiers()));
-    QVERIFY(files.hasSizes());
-    QTEST(files.sizeSummary(), "summary");
-}
-
-void InstructionFilesPresenterTest::speaksOfASingleFile()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    files.show(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 400)},
-                         .inheritedFiles = {},
-                         .personalFiles = {},
-                         .unreadablePaths = {}}));
-    QVERIFY(files.sizeSummary().startsWith(
-        QStringLiteral("Relative size of 1 instruction file, 100 estimated tokens")));
-}
-
-void InstructionFilesPresenterTest::hasNoSizesWithoutTokens()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    files.show(reportOf({}));
-    QVERIFY(!files.hasSizes());
-    QCOMPARE(files.sizeSummary(), QString());
-    files.show(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 0)},
-                         .inheritedFiles = {},
-                         .personalFiles = {},
-                         .unreadablePaths = {}}));
-    QVERIFY(!files.hasSizes());
-    QCOMPARE(files.repositoryRows()->count(), 1);
-}
-
-void InstructionFilesPresenterTest::saysWhatTheFilesMeanToASessionThatReportedNoCategories()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    ScanReport report = reportOf(threeTiers());
-    report.categoriesSelfReported = false;
-    files.show(report);
-    QCOMPARE(files.note(),
-             QStringLiteral("Claude did not self-report categories for this session, so the "
-                            "\"Startup context (categories not self-reported)\" row already "
-                            "carries the whole measured total. The instruction files below are "
-                            "local estimates of what makes up that total, not additional tokens "
-                            "on top of it."));
-    report.categoriesSelfReported = true;
-    files.show(report);
-    QCOMPARE(files.note(), QString());
-}
-
-void InstructionFilesPresenterTest::hasNoNoteWithoutFiles()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    ScanReport report = reportOf({});
-    report.categoriesSelfReported = false;
-    files.show(report);
-    QCOMPARE(files.note(), QString());
-}
-
-void InstructionFilesPresenterTest::showsTheLaterReport()
-{
-    InstructionFilesPresenter files({}, "/home/ada");
-    const QSignalSpy changes(&files, &InstructionFilesPresenter::changed);
-    files.show(reportOf(threeTiers()));
-    files.show(reportOf({}));
-    QCOMPARE(changes.count(), 2);
-    QCOMPARE(files.repositoryRows()->count(), 0);
-    QCOMPARE(files.tiles()->count(), 0);
-}
-
-void InstructionFilesPresenterTest::tenThousandFilesCostNearlyNothingUpFront()
-{
-    const ScanReport report = SampleScans::ofSize(10, 10'000).report();
-    InstructionFilesPresenter files({}, "/home/ada");
-    const ProcessorTime timer;
-    files.show(report);
-    // Half a frame; a sanitizer takes a few times as long.
-    QVERIFY2(timer.milliseconds() < 50, qPrintable(QString::number(timer.milliseconds())));
-    QCOMPARE(files.tiles()->count(), 10'000);
-}
 
 const RegisteredTest<InstructionFilesPresenterTest> registered("InstructionFilesPresenter");
 

@@ -34,7 +34,7 @@ QStringList texts(std::initializer_list<const char *> list)
     return texts;
 }
 
-const InstructionFilePlaces places("/r", "/h");
+const TierFolders folders("/r", "/h");
 
 } // namespace
 
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void listsTheFilesOfEachTierInTheirOrder()
     {
         const InstructionFileSet files = sampleFiles();
-        const auto tiers = ListedFile::byTier(files, places);
+        const auto tiers = ListedFile::byTier(files, folders);
         QCOMPARE(paths(tiers[InstructionFileTier::repository]), texts({"/r/b.md", "/r/a.md"}));
         QCOMPARE(paths(tiers[InstructionFileTier::inherited]), texts({"/CLAUDE.md"}));
         QCOMPARE(paths(tiers[InstructionFileTier::personal]), texts({"/h/.claude/CLAUDE.md"}));
@@ -54,11 +54,11 @@ private Q_SLOTS:
                  texts({"/r/b.md", "/r/a.md", "/CLAUDE.md", "/h/.claude/CLAUDE.md"}));
     }
 
-    void putsWhatCouldNotBeReadBehindTheFilesOfItsTier()
+    void listsUnreadableFilesLastInTheirTier()
     {
         InstructionFileSet files = sampleFiles();
         files.unreadablePaths = {"/h/.claude/x.md", "/h/CLAUDE.md", "/r/0.md", "/r/1.md"};
-        const auto tiers = ListedFile::byTier(files, places);
+        const auto tiers = ListedFile::byTier(files, folders);
         QCOMPARE(paths(tiers[InstructionFileTier::repository]),
                  texts({"/r/b.md", "/r/a.md", "/r/0.md ?", "/r/1.md ?"}));
         QCOMPARE(paths(tiers[InstructionFileTier::inherited]),
@@ -68,14 +68,14 @@ private Q_SLOTS:
         QCOMPARE(ListedFile::allReadable(files).size(), std::size_t(4));
     }
 
-    void listsAPathOfBothListsOnceWithItsFigures()
+    void listsAPathInBothListsOnceWithItsFigures()
     {
         InstructionFileSet files = sampleFiles();
         // Imported by the user's own file, it counts as inherited although it lies elsewhere.
         files.inheritedFiles.push_back(
             InstructionFileEstimate::fromPath("/h/.claude/shared.md", 40));
         files.unreadablePaths = {"/h/.claude/shared.md", "/r/a.md"};
-        const auto tiers = ListedFile::byTier(files, places);
+        const auto tiers = ListedFile::byTier(files, folders);
         QCOMPARE(paths(tiers[InstructionFileTier::repository]), texts({"/r/b.md", "/r/a.md"}));
         QCOMPARE(paths(tiers[InstructionFileTier::inherited]),
                  texts({"/CLAUDE.md", "/h/.claude/shared.md"}));
@@ -92,10 +92,65 @@ private Q_SLOTS:
         QCOMPARE(paths(ListedFile::largest(files, 2)), texts({"/r/a.md", "/r/b.md"}));
     }
 
-    void picksAllOfFewerFilesThanAskedFor()
+    void picksAllOfTooFewFiles()
     {
         QCOMPARE(ListedFile::largest(sampleFiles(), 5).size(), std::size_t(4));
         QVERIFY(ListedFile::largest(InstructionFileSet::empty, 5).empty());
+    }
+
+    void thePathTellsTheTier_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("tier");
+        const auto row = [](const char *name, const char *path, InstructionFileTier::Value tier) {
+            QTest::newRow(name) << QString::fromLatin1(path) << static_cast<int>(tier);
+        };
+        row("in the repository", "/home/ada/code/app/CLAUDE.md", InstructionFileTier::repository);
+        row("deep in it", "/home/ada/code/app/a/b.md", InstructionFileTier::repository);
+        row("beside it", "/home/ada/code/app2/CLAUDE.md", InstructionFileTier::inherited);
+        row("above it", "/home/ada/code/CLAUDE.md", InstructionFileTier::inherited);
+        row("the user's own", "/home/ada/.claude/CLAUDE.md", InstructionFileTier::personal);
+        row("deep among the user's own", "/home/ada/.claude/a/b.md", InstructionFileTier::personal);
+        row("a name like it", "/home/ada/.claude.md", InstructionFileTier::inherited);
+        row("in the home folder", "/home/ada/CLAUDE.md", InstructionFileTier::inherited);
+        row("somebody else's own", "/home/eve/.claude/CLAUDE.md", InstructionFileTier::inherited);
+        row("anywhere", "/etc/notes.md", InstructionFileTier::inherited);
+    }
+
+    void thePathTellsTheTier()
+    {
+        QFETCH(const QString, path);
+        const TierFolders folders("/home/ada/code/app", "/home/ada");
+        QTEST(static_cast<int>(folders.tierOf(path.toStdString())), "tier");
+    }
+
+    void aRepositoryInTheUsersOwnFolderIsRepository()
+    {
+        const TierFolders folders("/home/ada/.claude", "/home/ada");
+        QCOMPARE(int(folders.tierOf("/home/ada/.claude/CLAUDE.md")),
+                 int(InstructionFileTier::repository));
+    }
+
+    void everythingIsInTheRepositoryAtTheRoot()
+    {
+        const TierFolders folders("/", "/home/ada");
+        QCOMPARE(int(folders.tierOf("/etc/notes.md")), int(InstructionFileTier::repository));
+    }
+
+    void ignoresHowAFolderIsSpelled()
+    {
+        const TierFolders folders("/home/ada/x/../app/", "/home/./ada/");
+        QCOMPARE(int(folders.tierOf("/home/ada/app/CLAUDE.md")),
+                 int(InstructionFileTier::repository));
+        QCOMPARE(int(folders.tierOf("/home/ada/.claude/CLAUDE.md")),
+                 int(InstructionFileTier::personal));
+    }
+
+    void nothingIsPersonalWithoutAHome()
+    {
+        const TierFolders folders("/srv/app", {});
+        QCOMPARE(int(folders.tierOf("/home/ada/.claude/CLAUDE.md")),
+                 int(InstructionFileTier::inherited));
     }
 };
 

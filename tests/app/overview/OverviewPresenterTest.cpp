@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "samples/SampleReport.h"
 #include "support/ScanningModel.h"
 #include "support/TestRegistry.h"
 
@@ -27,18 +28,30 @@ private Q_SLOTS:
 
     void isEmptyBeforeTheFirstScan() { QCOMPARE(m_overview->state(), State::Empty); }
 
-    void showsThatTimePasses()
+    void showsTheTimeOfAScanAsAStopwatch_data()
     {
+        QTest::addColumn<qint64>("milliseconds");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("start") << qint64(0) << QStringLiteral("0:00");
+        QTest::newRow("seconds") << qint64(7'900) << QStringLiteral("0:07");
+        QTest::newRow("minute") << qint64(60'000) << QStringLiteral("1:00");
+        QTest::newRow("long scan") << qint64(266'000) << QStringLiteral("4:26");
+        QTest::newRow("over an hour") << qint64(3'660'000) << QStringLiteral("61:00");
+        QTest::newRow("clock set back") << qint64(-5'000) << QStringLiteral("0:00");
+    }
+
+    void showsTheTimeOfAScanAsAStopwatch()
+    {
+        QFETCH(const qint64, milliseconds);
         m_now += std::chrono::hours(1);
         m_scanning->choose();
         m_scanning->model.scan();
         QCOMPARE(m_overview->state(), State::Loading);
-        QCOMPARE(m_overview->elapsed(), QStringLiteral("0:00"));
-        m_now += std::chrono::milliseconds(67'900);
-        QCOMPARE(m_overview->elapsed(), QStringLiteral("1:07"));
+        m_now += std::chrono::milliseconds(milliseconds);
+        QTEST(m_overview->elapsed(), "text");
     }
 
-    void tellsOfTheTimeEverySecondWhileScanning()
+    void signalsTheTimeEverySecondWhileScanning()
     {
         QSignalSpy elapsed(m_overview.get(), &OverviewPresenter::elapsedChanged);
         m_scanning->choose();
@@ -67,8 +80,6 @@ private Q_SLOTS:
         QCOMPARE(m_overview->state(), State::Report);
         QCOMPARE(m_overview->band()->total(), QStringLiteral("27,654"));
         QCOMPARE(m_overview->band()->title(), QStringLiteral("Lean startup context"));
-        QCOMPARE(m_overview->sessionDetails()->rowCount(), 4);
-        QCOMPARE(m_overview->notes().size(), 3);
         QCOMPARE(m_overview->repositoryPath().toStdString(), m_scanning->folder.path().string());
     }
 
@@ -84,10 +95,9 @@ private Q_SLOTS:
         m_scanning->scan();
         m_overview->copySummary();
         QCOMPARE(QGuiApplication::clipboard()->text(), m_overview->summary());
-        QCOMPARE(m_overview->summary().count(QLatin1Char('\n')), 5);
     }
 
-    void showsTheStateThatItFinds()
+    void showsTheStateAtItsStart()
     {
         m_scanning->scan();
         OverviewPresenter late(m_scanning->model, TextLocale());
@@ -95,7 +105,61 @@ private Q_SLOTS:
         QCOMPARE(late.band()->total(), QStringLiteral("27,654"));
     }
 
+    void groupsFiguresAsTheLocaleDoes()
+    {
+        OverviewPresenter german(m_scanning->model, {.numbers = "de_DE", .dates = "de_DE"});
+        show(sampleReport());
+        QVERIFY(german.summary().contains(QStringLiteral("Total: 27.654 tokens")));
+    }
+
+    void listsTheSessionDetails()
+    {
+        ScanReport report = sampleReport();
+        report.duration = 1234.56;
+        const QList<QStringList> expected = {
+            {QStringLiteral("Repository path"), QStringLiteral("/home/someone/webshop")},
+            {QStringLiteral("Claude executable"), QStringLiteral("/usr/local/bin/claude")},
+            {QStringLiteral("Session ID"), QStringLiteral("0b8e6c1e-5f0a-4a57-9f0c-0c9d5f1e7a11")},
+            {QStringLiteral("Duration"), QStringLiteral("1234.6 seconds")},
+        };
+        show(report);
+        const QAbstractItemModel &details = *m_overview->sessionDetails();
+        QCOMPARE(details.rowCount(), expected.size());
+        for (int row = 0; row < details.rowCount(); ++row)
+            for (int role = 0; role < 2; ++role)
+                QCOMPARE(details.index(row, 0).data(Qt::UserRole + role).toString(),
+                         expected[row][role]);
+    }
+
+    void explainsTheFigures()
+    {
+        const QStringList expected = {
+            QStringLiteral("Measured: one headless `claude -p` session (model sonnet) started in "
+                           "this folder; the number includes the probe prompt."),
+            QStringLiteral("The category and file splits below are estimates derived locally; only "
+                           "the total above is authoritative."),
+            QStringLiteral("Total: authoritative — reported by Claude (source: session transcript: "
+                           "first assistant message usage)."),
+        };
+        show(sampleReport());
+        QCOMPARE(m_overview->notes(), expected);
+    }
+
+    void joinsTheSummaryByLineFeeds()
+    {
+        show(sampleReport());
+        const QString summary = m_overview->summary();
+        QCOMPARE(summary.count(QLatin1Char('\n')), 5);
+        QVERIFY(summary.startsWith(QStringLiteral("Repository: webshop\nTotal: 27,654 tokens")));
+        QVERIFY(summary.endsWith(QStringLiteral("Claude executable: /usr/local/bin/claude")));
+    }
+
 private:
+    void show(const ScanReport &report)
+    {
+        m_scanning->model.state().set(ScanState::result(report));
+    }
+
     std::chrono::steady_clock::time_point m_now;
     std::unique_ptr<ScanningModel> m_scanning;
     std::unique_ptr<OverviewPresenter> m_overview;

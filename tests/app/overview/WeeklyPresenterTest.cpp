@@ -16,14 +16,14 @@ class WeeklyPresenterTest : public QObject
 private Q_SLOTS:
     void init() { m_weekly = std::make_unique<WeeklyPresenter>(TextLocale()); }
 
-    void hasNothingToSayAtFirst()
+    void isEmptyAtFirst()
     {
         QVERIFY(!m_weekly->hasLine());
         QCOMPARE(m_weekly->median(), QString());
         QCOMPARE(m_weekly->window(), QString());
     }
 
-    void saysWhatTheLineHolds()
+    void showsTheLine()
     {
         m_weekly->show(lineOf(27'510'462, 37'681'168));
         QVERIFY(m_weekly->hasLine());
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QCOMPARE(m_weekly->recorded(), QString());
     }
 
-    void readsTheLogAwayFromTheInterface()
+    void readsTheLogInTheBackground()
     {
         QSignalSpy changed(m_weekly.get(), &WeeklyPresenter::changed);
         m_weekly->load(writeLog(), m_dispatcher);
@@ -104,14 +104,14 @@ private Q_SLOTS:
         QCOMPARE(m_weekly->window(), QStringLiteral("Window: unknown – unknown"));
     }
 
-    void saysNothingWithoutALog()
+    void isEmptyWithoutALog()
     {
         m_weekly->load(m_folder.path() / "missing", m_dispatcher);
         m_dispatcher->runAll();
         QVERIFY(!m_weekly->hasLine());
     }
 
-    void saysNothingWhenNoThreadIsToBeHad()
+    void isEmptyWithoutAThread()
     {
         m_dispatcher->refuseBackground();
         m_weekly->load(writeLog(), m_dispatcher);

