@@ -1,4 +1,4 @@
-// The whole window on a first launch: when its sheet comes, what it covers, how it goes.
+// The whole window on a first launch: when its sheet opens, what it covers, how it closes.
 #include <QAccessible>
 #include <QElapsedTimer>
 #include <QTest>
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void init() { m_store = std::make_shared<FakeCompletionStore>(); }
     void cleanup() { m_window.reset(); }
 
-    void theSheetComesThreeHundredMillisecondsAfterTheWindow()
+    void theSheetOpensThreeHundredMillisecondsAfterTheWindow()
     {
         QElapsedTimer time;
         time.start();
@@ -63,40 +63,14 @@ private Q_SLOTS:
         QCOMPARE(m_store->writes, 0);
     }
 
-    void onStepZeroNoBackIsShown()
+    void returnOnTheLastStepCompletesOnceAndCloses()
     {
         openSheet();
-        QVERIFY(shows("Skip"));
-        QVERIFY(!shows("Back"));
-    }
-
-    void onStepThreeNoSkipIsShownAndThePrimaryButtonReadsGotIt()
-    {
-        openSheet();
-        advance(3);
-        QTRY_VERIFY(shows("One number matters most — the rest is a map"));
-        QVERIFY(shows("Got it"));
-        QVERIFY(shows("Back"));
-        QVERIFY(!shows("Skip"));
-        QVERIFY(!shows("Next"));
-        QVERIFY(shows("These bands are this app's opinion, not an industry standard."));
-    }
-
-    void returnOnTheLastStepCompletesAndCloses()
-    {
-        openSheet();
-        advance(4);
+        advance(5);
         QVERIFY(m_store->completed);
         QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
         QTRY_VERIFY(!shows("Got it"));
         QVERIFY(m_window->isPressable(QStringLiteral("Choose Repository…")));
-    }
-
-    void returnTwiceOnTheLastStepCompletesOnce()
-    {
-        openSheet();
-        advance(5);
-        QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
         QCOMPARE(m_store->writes, 1);
     }
 
@@ -113,6 +87,7 @@ private Q_SLOTS:
         m_window->press(Qt::Key_Escape);
         QVERIFY(m_store->completed);
         QTRY_VERIFY(!m_window->loadwick().onboarding().isPresented());
+        QTRY_COMPARE(focusedName(), QStringLiteral("Choose Repository…"));
     }
 
     void escapeDoesNothingOnTheLastStep()
@@ -155,14 +130,14 @@ private Q_SLOTS:
     {
         open();
         QAccessibleInterface *choose = m_window->find(QStringLiteral("Choose Repository…"));
-        const QPoint place = choose->rect().center() - m_window->loadwick().window().position();
+        const QPoint position = choose->rect().center() - m_window->loadwick().window().position();
         openSheet();
-        QTest::mouseClick(&m_window->loadwick().window(), Qt::LeftButton, {}, place);
+        QTest::mouseClick(&m_window->loadwick().window(), Qt::LeftButton, {}, position);
         QCOMPARE(m_window->chooser().openCount, 0);
         QVERIFY(m_window->loadwick().onboarding().isPresented());
     }
 
-    void theTabulatorStaysOnTheSheet()
+    void tabStaysOnTheSheet()
     {
         openSheet();
         advance(1);
@@ -185,13 +160,6 @@ private Q_SLOTS:
         m_window->chooser().answer = m_window->folder().path();
         m_window->press(Qt::Key_Return);
         QCOMPARE(m_window->chooser().openCount, 1);
-    }
-
-    void leavesTheKeyboardThereAfterSkippingToo()
-    {
-        openSheet();
-        m_window->press(Qt::Key_Escape);
-        QTRY_COMPARE(focusedName(), QStringLiteral("Choose Repository…"));
     }
 
     void givesTheKeyboardFocusBack()
