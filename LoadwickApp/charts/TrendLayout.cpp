@@ -5,7 +5,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr double gap = 8;           // between the plot and its labels
+constexpr double axisGap = 8;           // between the plot and its labels
 constexpr double readoutMargin = 2; // above and below the words
 constexpr double readoutPadding = 8;
 
@@ -13,15 +13,15 @@ constexpr double readoutPadding = 8;
 
 TrendLayout::TrendLayout(const Needs &needs) noexcept : m_needs(needs)
 {
-    const double left = needs.widestTotal + gap;
-    const double right = needs.width - needs.widestName - gap;
+    const double left = needs.widestTotal + axisGap;
+    const double right = needs.width - needs.widestName - axisGap;
     const double top = needs.lineHeight / 2; // half of the highest label is above its line
-    const double bottom = needs.height - needs.lineHeight - gap;
+    const double bottom = needs.height - needs.lineHeight - axisGap;
     m_frame = {.x = left,
                .y = top,
                .width = std::max(right - left, 0.0),
                .height = std::max(bottom - top, 0.0)};
-    const double inset = std::min(needs.pointRadius + gap / 2, m_frame.width / 2);
+    const double inset = std::min(needs.pointRadius + axisGap / 2, m_frame.width / 2);
     m_plot = {.x = m_frame.x + inset,
               .y = m_frame.y,
               .width = m_frame.width - 2 * inset,
@@ -67,7 +67,7 @@ PlotRect TrendLayout::readout(double share, double wordsWidth) const noexcept
 
 double TrendLayout::dateLabelsTop() const noexcept
 {
-    return m_frame.bottom() + gap;
+    return m_frame.bottom() + axisGap;
 }
 
 } // namespace Loadwick
