@@ -39,6 +39,6 @@ endfunction()
 
 if(LOADWICK_FUZZ)
     loadwick_fuzz_programs()
-elseif(NOT LOADWICK_SLOW_TESTS_ONLY AND NOT LOADWICK_SANITIZE STREQUAL "thread")
+elseif(NOT LOADWICK_SLOW_TESTS_ONLY)
     loadwick_fuzz_seeds()
 endif()

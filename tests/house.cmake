@@ -1,10 +1,20 @@
 # The checks of the house, each one command that a hand can run too. They look at the sources, so they
 # carry no build's prefix.
 
-foreach(check IN ITEMS layers format documented-paths packaging shell)
+foreach(check IN ITEMS layers sizes format documented-paths packaging shell)
     add_test(NAME "house/${check}" COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/${check}")
     set_tests_properties("house/${check}" PROPERTIES LABELS house TIMEOUT 120)
 endforeach()
+
+# What a check is for, it must see.
+add_test(NAME house/layers-finds-upward-uses
+         COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/house/planted-uses")
+add_test(NAME house/sizes-finds-long-ones
+         COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/sizes" "${CMAKE_CURRENT_SOURCE_DIR}/fixtures/long")
+set_tests_properties(house/layers-finds-upward-uses house/sizes-finds-long-ones
+                     PROPERTIES LABELS house TIMEOUT 120)
+set_tests_properties(house/sizes-finds-long-ones PROPERTIES PASS_REGULAR_EXPRESSION
+    "Long.cpp:6: longest has 41 lines[^\n]*\n50% [^\n]*\n90% [^\n]*\nLoadwickApp/page/Long.qml has 201 lines")
 
 add_test(NAME house/qmllint
          COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
