@@ -8,19 +8,19 @@
 
 namespace Loadwick {
 
-/// Keeps a program that scans inside one throw-away home, so that it can neither start another
-/// `claude` of the machine nor write beside one.
+/// Keeps a program that scans inside one throw-away home: it can neither start another `claude` of
+/// the machine nor write to that one's files.
 namespace Confinement {
 
 /// Makes `home` this process's home and forgets the variables that name a configuration, data,
-/// state or cache folder elsewhere. To be called before any thread is started.
+/// state or cache folder elsewhere. Call it before any thread starts.
 void pinEnvironment(const std::filesystem::path &home);
 
-/// Whether `path`, with its links followed, lies inside `home`.
+/// Whether `path` is inside `home` once its links are followed.
 [[nodiscard]] bool contains(const std::filesystem::path &home, const std::filesystem::path &path);
 
-/// The runner's settings of this process with its search cut down: nothing outside `home` counts as
-/// executable, and no login shell is asked.
+/// The runner's settings of this process with a restricted search: nothing outside `home` counts as
+/// executable, and no login shell is started.
 [[nodiscard]] ProbeRunner::Settings runnerSettings(const std::filesystem::path &home,
                                                    std::shared_ptr<Shutdown> shutdown);
 

@@ -31,7 +31,7 @@ constexpr std::array<const char *, 9> categories{"System tools",
                                                  "Unattributed",
                                                  "Messages"};
 
-/// Has `fill` write the file under another name, so that half a file is never taken for a whole.
+/// Has `fill` write the file under another name first, so that no unfinished file is reused.
 template<typename Fill>
 void make(const fs::path &file, Fill fill)
 {
@@ -105,9 +105,9 @@ RecordedScan scan(std::int64_t number, std::int64_t scanCount)
                       .date = lastScan - std::chrono::hours(scanCount - number),
                       .total = total,
                       .categories = {}};
-    for (std::size_t place = 0; place < categories.size(); ++place)
+    for (std::size_t rank = 0; rank < categories.size(); ++rank)
         scan.categories.push_back(
-            {.name = categories[place], .tokens = total / static_cast<std::int64_t>(place + 2)});
+            {.name = categories[rank], .tokens = total / static_cast<std::int64_t>(rank + 2)});
     return scan;
 }
 
@@ -153,10 +153,9 @@ void longLineTranscript(const fs::path &file, std::int64_t lineBytes)
 void instructions(const fs::path &folder, std::int64_t fileCount, Imports imports)
 {
     const std::vector<fs::path> paths = instructionPaths(folder, fileCount);
-    for (std::size_t number = 0; number < paths.size(); ++number)
-        make(paths[number], [&](std::ostream &stream) {
-            const auto place = static_cast<std::int64_t>(number);
-            writeInstructions(stream, place, importsOf(place, fileCount, imports));
+    for (std::int64_t number = 0; number < fileCount; ++number)
+        make(paths[static_cast<std::size_t>(number)], [&](std::ostream &stream) {
+            writeInstructions(stream, number, importsOf(number, fileCount, imports));
         });
 }
 

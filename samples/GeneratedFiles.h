@@ -7,8 +7,8 @@
 
 #include "history/RecordedScan.h"
 
-/// Made-up files, the same on every machine and in every run, except for their dates. The program
-/// ends when one cannot be written. Nothing is written again that stands there already.
+/// Generated files, the same on every machine and in every run except for their modification times.
+/// The program ends when one cannot be written. Existing files are kept as they are.
 namespace Loadwick::GeneratedFiles {
 
 /// The session for which `projects` holds a transcript.
@@ -18,13 +18,13 @@ inline constexpr std::int64_t wantedSession = 999'999'999;
 /// transcript of `wantedSession`.
 void projects(const std::filesystem::path &root, std::int64_t entryCount);
 
-/// A transcript with a head of about `headBytes` of users' messages and then a usage.
+/// A transcript with about `headBytes` of user messages and then a usage.
 void transcript(const std::filesystem::path &file, std::int64_t headBytes);
 
 /// A transcript whose head is one line of `lineBytes`.
 void longLineTranscript(const std::filesystem::path &file, std::int64_t lineBytes);
 
-/// How instruction files stand to each other.
+/// How instruction files import each other.
 enum class Imports
 {
     flat,   ///< the first one imports all the others
@@ -42,7 +42,7 @@ instructionPaths(const std::filesystem::path &folder, std::int64_t fileCount);
 /// An answer of `lineCount` categories as a file.
 void answer(const std::filesystem::path &file, std::int64_t lineCount);
 
-/// A record of the command's, as a file: its result is an answer of about `byteCount` bytes.
+/// The command's record as a file: its result is an answer of about `byteCount` bytes.
 void record(const std::filesystem::path &file, std::int64_t byteCount);
 
 /// A history of `scanCount` scans of forty repositories, nine categories in each scan.

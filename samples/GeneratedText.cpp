@@ -27,8 +27,8 @@ std::string prose(std::int64_t start, std::size_t byteCount)
 {
     std::string text;
     text.reserve(byteCount + 16);
-    for (auto place = static_cast<std::size_t>(start); text.size() < byteCount; place += 7)
-        text += words[(place + text.size() / 97) % words.size()];
+    for (auto index = static_cast<std::size_t>(start); text.size() < byteCount; index += 7)
+        text += words[(index + text.size() / 97) % words.size()];
     return text;
 }
 
@@ -78,7 +78,7 @@ std::vector<double> weights(std::int64_t count)
 {
     std::mt19937_64 random(7);
     std::vector<double> weights;
-    for (std::int64_t place = 0; place < count; ++place)
+    for (std::int64_t index = 0; index < count; ++index)
         weights.push_back(1.0 + static_cast<double>(random() % 49'999'000) / 1'000.0);
     return weights;
 }

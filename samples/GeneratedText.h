@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-/// Made-up input of any size, the same on every machine and in every run.
+/// Generated input of any size, the same on every machine and in every run.
 namespace Loadwick::GeneratedText {
 
-/// An answer with `lineCount` lines of categories, a thousand names that take turns.
+/// An answer with `lineCount` lines of categories, rotating through a thousand names.
 [[nodiscard]] std::string answer(std::int64_t lineCount);
 
 /// One line of a user's message of about 2 KB, line feed included; no two neighbours are equal.
@@ -19,7 +19,7 @@ namespace Loadwick::GeneratedText {
 /// The line of an assistant's message that holds a usage, line feed included.
 [[nodiscard]] std::string assistantLine();
 
-/// A name such as sessions have: 36 characters, different for each number.
+/// A session name of 36 characters, different for each number.
 [[nodiscard]] std::string sessionName(std::int64_t number);
 
 /// `count` weights between 1 and 50,000.

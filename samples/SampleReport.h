@@ -5,11 +5,11 @@
 
 namespace Loadwick {
 
-/// What a plain session measured: 27,654 tokens, two self-reported categories.
+/// The result of a plain session: 27,654 tokens, two self-reported categories.
 [[nodiscard]] ProbeResult sampleProbeResult();
 
-/// A plain report of 27,654 tokens in three rows that add up. A test changes the fields it cares
-/// for.
+/// A plain report of 27,654 tokens in three rows that add up. A test changes the fields that matter
+/// to it.
 [[nodiscard]] ScanReport sampleReport();
 
 } // namespace Loadwick

@@ -58,8 +58,7 @@ void readAll(benchmark::State &state)
 BENCHMARK(scan)->Name("instructions/ours")->Arg(0)->Arg(1);
 BENCHMARK(readAll)->Name("instructions/floor")->Arg(0)->Arg(1);
 
-// A usage behind one long line, against one behind a shorter line: what a byte costs must not
-// depend on the line.
+// Reading past one long line, against a shorter one: a byte must not cost more in a long line.
 
 constexpr std::int64_t longLine = 64'000'000;
 constexpr std::int64_t shortLine = 256'000;

@@ -1,4 +1,4 @@
-// Loading, extending and questioning a history, against parsing its text, writing such a file, and
+// Loading, extending and analysing a history, against parsing its text, writing such a file, and
 // copying its list.
 #include <filesystem>
 #include <fstream>
@@ -37,7 +37,7 @@ std::string contentOf(const fs::path &path)
     return content.str();
 }
 
-/// What any program that keeps its file whole has to do.
+/// The least that keeps a file whole through a crash.
 void writeSynced(const fs::path &folder, const std::string &bytes)
 {
     const fs::path unfinished = folder / "floor.part";

@@ -18,7 +18,7 @@ namespace {
 using namespace Loadwick;
 
 // Parsing and attributing the categories of an answer, against merging its lines in a hash table
-// with a reader that believes every line.
+// with a reader that trusts every line.
 
 constexpr std::int64_t lineCount = 100'000;
 

@@ -1,4 +1,4 @@
-// Starting `true` and capturing what it does not say: ours, against QProcess.
+// Starting `true` and capturing its empty output, against QProcess doing the same.
 #include <QCoreApplication>
 #include <QProcess>
 #include <QString>

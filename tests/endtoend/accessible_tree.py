@@ -145,7 +145,7 @@ class AccessibleTree:
         xdotool("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
     def wait_until_inactive(self) -> None:
-        """Returns once the program knows that its window has not the keyboard."""
+        """Returns once the program knows that its window has lost the keyboard."""
         self._until("the window's rest", lambda: not self._is_active())
 
     def _is_active(self) -> bool:
@@ -168,7 +168,7 @@ def is_in_window(item: Any) -> bool:
     holder = item
     while holder.get_role_name() not in ("frame", "window"):
         holder = holder.get_parent()
-    # In a window's own coordinates the toolkit adds the window's place to the size.
+    # In a window's own coordinates the toolkit adds the window's position to the size.
     box = Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
     window = Atspi.Component.get_extents(holder, Atspi.CoordType.SCREEN)
     return bool(
@@ -190,7 +190,7 @@ def is_enabled(item: Any) -> bool:
 
 
 def press_index(item: Any) -> int:
-    """The place of the action "Press" among the object's actions; -1 when it has none."""
+    """The index of the action "Press" among the object's actions; -1 when it has none."""
     for index in range(unless_gone(lambda: Atspi.Action.get_n_actions(item), 0)):
         if Atspi.Action.get_action_name(item, index).lower() == "press":
             return index

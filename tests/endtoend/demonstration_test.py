@@ -29,15 +29,15 @@ def size_of(picture: Path) -> tuple[int, int]:
 
 
 class DemonstrationTest(unittest.TestCase):
-    """Started by somebody who has a `claude` of their own in every place where one can be."""
+    """Started by somebody who has a `claude` of their own in every folder that is searched."""
 
     def setUp(self) -> None:
         self.machine = Path(self.enterContext(tempfile.TemporaryDirectory()))
         self.temporary = self.machine / "tmp"
         self.pictures = self.machine / "pictures"
         self.temporary.mkdir()
-        for place in ("home/.local/bin", "path"):
-            self.make_decoy(self.machine / place / "claude")
+        for folder in ("home/.local/bin", "path"):
+            self.make_decoy(self.machine / folder / "claude")
         (self.machine / "home" / ".claude").mkdir()
         (self.machine / "home" / ".runtime").mkdir(mode=0o700)
 

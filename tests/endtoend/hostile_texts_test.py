@@ -58,7 +58,7 @@ class HostileTextsTest(TracedCase):
         return program
 
     def assert_shows_markup(self, program: Program, page: str) -> None:
-        """The markup stands on the page, to the letter."""
+        """Expects the markup on the page, to the letter."""
         program.window.key(page)
         until(f"the markup on {page}", lambda: self.shown(program))
 
@@ -67,7 +67,7 @@ class HostileTextsTest(TracedCase):
         return [text for text in program.window.texts() if self.markup in text]
 
     def assert_loaded_nothing(self, program: Program) -> None:
-        """The bait was left alone, and nobody was asked for anything."""
+        """Expects that the bait was not opened and no network was used."""
         trace = self.close_traced(program)
         self.assertTrue(REPOSITORY in trace, "the trace does not even hold what was opened")
         self.assertFalse(self.bait.name in trace, "the picture was looked for")

@@ -31,7 +31,7 @@ class Note:
 
 
 class Notifications:
-    """Remembers what programs want shown and taken back, while it is entered."""
+    """Records what programs show and take back, while it is entered."""
 
     def __init__(self) -> None:
         self.notes: list[Note] = []

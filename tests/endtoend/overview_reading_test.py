@@ -72,13 +72,13 @@ class OverviewReadingTest(EndToEndCase):
 
     def test_each_row_of_the_breakdown_is_read_as_one(self) -> None:
         texts = self.open_whole_report().window.texts()
-        places = []
+        indices = []
         for row in ROWS:
             with self.subTest(row[0]):
-                found = [place for place, text in enumerate(texts) if all(cell in text for cell in row)]
+                found = [index for index, text in enumerate(texts) if all(cell in text for cell in row)]
                 self.assertEqual(len(found), 1)
-                places += found
-        self.assertEqual(places, sorted(places))
+                indices += found
+        self.assertEqual(indices, sorted(indices))
 
     def test_no_control_is_without_a_name(self) -> None:
         for item in self.open_whole_report().window.items():
@@ -101,8 +101,8 @@ class OverviewReadingTest(EndToEndCase):
         names = [text_of(stop) for stop in stops]
         begin = names.index("Pages") if "Pages" in names else names.index("Overview")
         names, stops = names[begin:] + names[:begin], stops[begin:] + stops[:begin]
-        places = [self.index_of(part, names) for part in TAB_ORDER]
-        self.assertEqual(places, sorted(places), names)
+        indices = [self.index_of(part, names) for part in TAB_ORDER]
+        self.assertEqual(indices, sorted(indices), names)
         program.window.resize(1180, self.display_height - 100)
         program.window.wait_for(REPORT[-1])
         for control in program.window.items():
@@ -112,8 +112,8 @@ class OverviewReadingTest(EndToEndCase):
 
     def test_the_keyboard_walks_back_the_same_way(self) -> None:
         program = self.open_report()
-        there = [self.place_of(stop) for stop in self.walk(program, "Tab")]
-        back = [self.place_of(stop) for stop in self.walk(program, "shift+Tab")]
+        there = [self.path_of(stop) for stop in self.walk(program, "Tab")]
+        back = [self.path_of(stop) for stop in self.walk(program, "shift+Tab")]
         self.assertEqual(set(there), set(back))
         begin = there.index(back[0])
         self.assertEqual(back, list(reversed(there[begin + 1:] + there[:begin + 1])))
@@ -144,12 +144,12 @@ class OverviewReadingTest(EndToEndCase):
 
     def tab_to(self, program: Program, part: str) -> None:
         """Presses Tab until a stop says that."""
-        place = ""
+        path = ""
         for _ in range(20):
-            stop = self.step(program, "Tab", place)
+            stop = self.step(program, "Tab", path)
             if part in text_of(stop):
                 return
-            place = self.place_of(stop)
+            path = self.path_of(stop)
         self.fail(f"Tab does not lead to {part!r}")
 
     def press_to(self, program: Program, key: str, part: str) -> None:
@@ -163,8 +163,8 @@ class OverviewReadingTest(EndToEndCase):
         return bool(stop and part in text_of(stop) and is_in_window(stop))
 
     def index_of(self, part: str, names: list[str]) -> int:
-        """The place of the first name that holds the part."""
-        found = [place for place, name in enumerate(names) if part in name]
+        """The index of the first name that contains the part."""
+        found = [index for index, name in enumerate(names) if part in name]
         self.assertTrue(found, f"{part!r} is not among {names}")
         return found[0]
 
@@ -172,36 +172,36 @@ class OverviewReadingTest(EndToEndCase):
         """What the key leads to, one stop after the other, until it is where it began. Each stop
         comes into sight."""
         stops: list[Any] = []
-        places: list[str] = []
+        paths: list[str] = []
         while True:
-            before = places[-1] if places else ""
+            before = paths[-1] if paths else ""
             stop = self.step(program, key, before)
-            place = self.place_of(stop)
-            if places and place == places[0]:
+            path = self.path_of(stop)
+            if paths and path == paths[0]:
                 return stops
-            self.assertNotIn(place, places, f"the keyboard is caught at {text_of(stop)!r}")
+            self.assertNotIn(path, paths, f"the keyboard is caught at {text_of(stop)!r}")
             until(f"the sight of {text_of(stop)!r}", lambda: is_in_window(stop))
             stops.append(stop)
-            places.append(place)
+            paths.append(path)
 
     def step(self, program: Program, key: str, before: str) -> Any:
-        """Presses the key; gives where it leads from the place before."""
+        """Presses the key; gives the stop after the one before."""
         program.window.key(key)
         return until(f"another stop after {before!r}", lambda: self.stop_other_than(program, before))
 
-    def stop_other_than(self, program: Program, place: str) -> Any:
+    def stop_other_than(self, program: Program, path: str) -> Any:
         """What has the keyboard, unless that is still where it was."""
         stop = program.window.focused()
-        return stop if stop and self.place_of(stop) != place else None
+        return stop if stop and self.path_of(stop) != path else None
 
     @staticmethod
-    def place_of(item: Any) -> str:
-        """A name that tells an object from all others of the window."""
-        path = []
+    def path_of(item: Any) -> str:
+        """The indices that lead to an object from the window."""
+        indices = []
         while item is not None and item.get_role_name() != "application":
-            path.append(item.get_index_in_parent())
+            indices.append(item.get_index_in_parent())
             item = item.get_parent()
-        return "/".join(map(str, reversed(path)))
+        return "/".join(map(str, reversed(indices)))
 
 
 if __name__ == "__main__":

@@ -1,4 +1,4 @@
-"""A whole session under strace: whom the program talks to, and what it tells."""
+"""A whole session under strace: whom the program contacts, and what it sends."""
 
 from __future__ import annotations
 
@@ -34,7 +34,7 @@ class Trace:
         return {found[1] for found in made if found}
 
     def addresses(self) -> set[str]:
-        """The kinds of addresses that were named to anybody."""
+        """The kinds of addresses that were connected to."""
         return {kind for line in self._lines for kind in re.findall(r"sa_family=(\w+)", line)}
 
     def started(self, program: str) -> list[str]:
@@ -61,10 +61,10 @@ class SecurityTest(TracedCase):
             program.window.key(page)
             self.assert_no_secret("\n".join(program.window.texts()), page)
 
-    def assert_no_secret(self, text: str, place: str) -> None:
-        """None of the user's secrets, nor the token, stands there."""
+    def assert_no_secret(self, text: str, where: str) -> None:
+        """Expects neither the user's secrets nor the token in the text."""
         for value in (TOKEN, *SCRUBBED.values()):
-            self.assertNotIn(value, text, place)
+            self.assertNotIn(value, text, where)
 
     def kept(self) -> dict[str, bytes]:
         """Every file below the home, transcripts of the session included."""
@@ -73,7 +73,7 @@ class SecurityTest(TracedCase):
         return {str(file): file.read_bytes() for file in files if file.is_file()}
 
     def assert_private(self, trace: Trace) -> None:
-        """Nobody but the desktop was talked to, and the user's secrets stayed where they were."""
+        """Expects no connection but to the desktop, and the user's secrets in no session or file."""
         self.assertEqual(trace.families(), {"AF_UNIX"})
         self.assertEqual(trace.addresses(), {"AF_UNIX"})
         sessions = trace.started("/claude")

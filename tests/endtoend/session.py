@@ -34,7 +34,7 @@ def run_again_in_own_session() -> None:
 
 
 class Display:
-    """An X server of one's own with a window manager, so that windows become active."""
+    """A private X server with a window manager, so that windows become active."""
 
     def __init__(self, height: int = 900) -> None:
         self._height = height
@@ -70,8 +70,8 @@ class Display:
 
     def _start_server(self) -> str:
         reader, writer = os.pipe()
-        # Without -noreset the server starts anew, and drops whoever is just coming, each time when
-        # its last client goes.
+        # Without -noreset the server restarts whenever its last client leaves, and drops clients that
+        # are just connecting.
         screen = ["-screen", "0", f"1280x{self._height}x24", "-nolisten", "tcp", "-noreset"]
         self._start(["Xvfb", "-displayfd", str(writer), *screen], (writer,))
         os.close(writer)

@@ -48,7 +48,7 @@ class ThrowAwayHome:
 
     @property
     def preferences(self) -> Path:
-        """The file in which the program keeps that the walk-through was completed: it was."""
+        """The file that says that the walk-through was completed."""
         return self.path / ".config" / "Loadwick" / "preferences.ini"
 
     @property
@@ -65,7 +65,7 @@ class ThrowAwayHome:
         shutil.copy(STAND_IN, self.executable)
 
     def play(self, outcome: str, **settings: object) -> None:
-        """Says what the sessions do that start from now on."""
+        """Decides what every session does that starts from now on."""
         lines = [f"outcome={outcome}", *(f"{key}={value}" for key, value in settings.items())]
         (self._share / "scenario").write_text("\n".join(lines) + "\n", encoding="utf-8")
 
@@ -91,11 +91,11 @@ class ThrowAwayHome:
         return folder
 
     def will_choose(self, folder: bytes) -> None:
-        """Says with which folder the dialog's twin answers from now on."""
+        """Decides with which folder the dialog's twin answers from now on."""
         (self.path / "folder-to-choose").write_bytes(folder)
 
     def scans(self) -> list[dict[str, Any]]:
-        """The recorded scans as they stand on the disk, oldest first."""
+        """The recorded scans on the disk, oldest first."""
         if not self.history_file.exists():
             return []
         document = json.loads(self.history_file.read_text(encoding="utf-8"))

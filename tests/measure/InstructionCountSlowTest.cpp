@@ -1,6 +1,6 @@
-// What a unit of work costs in instructions: the difference of two sizes, divided by what the
-// larger one has more. The figures are those of an everyday build (-O1) with GCC 12; a change that
-// needs more than 15 % more of them has to say why, here. Lower them when the code gets better.
+// What a unit of work costs in instructions: the difference between two sizes, divided by their
+// difference in units. The figures are those of an everyday build (-O1) with GCC 12. A change that
+// needs over 15 % more says why, here. Lower them when the code gets better.
 #include <cstdint>
 #include <filesystem>
 #include <string>

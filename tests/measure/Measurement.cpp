@@ -42,10 +42,10 @@ std::int64_t instructionsOf(const std::vector<std::string> &words)
     arguments.insert(arguments.end(), words.begin(), words.end());
     const std::string report = run(valgrind, arguments).standardError;
     constexpr std::string_view label = "Collected : ";
-    const std::size_t place = report.find(label);
-    if (place == std::string::npos)
-        fatalError("callgrind told no number of instructions");
-    return std::stoll(report.substr(place + label.size()));
+    const std::size_t position = report.find(label);
+    if (position == std::string::npos)
+        fatalError("callgrind reported no number of instructions");
+    return std::stoll(report.substr(position + label.size()));
 }
 
 } // namespace Loadwick

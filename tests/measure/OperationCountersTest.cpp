@@ -86,7 +86,7 @@ TEST(OperationCountersTest, listsNoFolderThatHoldsFilesAlone)
 {
     const auto thrice = ofAttempts("nothing", 3);
     EXPECT_EQ(thrice.at("folders-listed"), 3) << "the root";
-    EXPECT_EQ(thrice.at("entries-seen"), 3 * 4) << "and what stands in it";
+    EXPECT_EQ(thrice.at("entries-seen"), 3 * 4) << "and its entries";
 }
 
 TEST(OperationCountersTest, asksEachFolderForTheNameAndForFoldersAndLooksAtNoEntry)

@@ -15,8 +15,8 @@ namespace Loadwick {
 
 namespace {
 
-/// A machine of somebody who has a `claude` in every place where one can be: each of them, when it
-/// is started, leaves a mark.
+/// The machine of somebody who has a `claude` in every folder that is searched. Each leaves a mark
+/// when it is started.
 class ConfinementTest : public testing::Test
 {
 protected:
@@ -80,7 +80,7 @@ TEST_F(ConfinementTest, startsTheStandInAndNoOtherClaudeOfTheMachine)
     EXPECT_EQ(snapshot(), before);
 }
 
-TEST_F(ConfinementTest, ratherFindsNoneThanAnotherOne)
+TEST_F(ConfinementTest, findsNoneRatherThanAnotherOne)
 {
     const ThrowAwayHome home;
     std::filesystem::remove(home.standIn().executable());
@@ -104,7 +104,7 @@ TEST_F(ConfinementTest, followsNoLinkOutOfTheHome)
     EXPECT_EQ(snapshot(), before);
 }
 
-TEST_F(ConfinementTest, takesNothingOutsideTheHomeForExecutable)
+TEST_F(ConfinementTest, countsNothingOutsideTheHomeAsExecutable)
 {
     const ThrowAwayHome home;
     const auto lookup = Confinement::runnerSettings(home.path(), shutdown).lookup;

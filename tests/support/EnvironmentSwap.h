@@ -5,12 +5,12 @@
 
 namespace Loadwick {
 
-/// Puts an environment of its own in the place of the test program's, for as long as it lives.
-/// Nothing else may read or change the environment meanwhile.
+/// Replaces the test program's environment while it lives. Nothing else may read or change the
+/// environment meanwhile.
 class EnvironmentSwap
 {
 public:
-    /// Entries are "NAME=value"; nothing stops a test from giving malformed ones.
+    /// Entries are "NAME=value"; a test may pass malformed ones.
     explicit EnvironmentSwap(std::vector<std::string> entries);
     ~EnvironmentSwap();
 

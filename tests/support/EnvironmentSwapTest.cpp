@@ -14,7 +14,7 @@ TEST(EnvironmentSwapTest, showsItsEntriesOnly)
     EXPECT_EQ(std::getenv("PATH"), nullptr);
 }
 
-TEST(EnvironmentSwapTest, putsTheOldEnvironmentBack)
+TEST(EnvironmentSwapTest, restoresTheOldEnvironment)
 {
     char **const before = environ;
     {

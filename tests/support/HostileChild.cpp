@@ -36,7 +36,7 @@ ChildProcess startHostileChild(std::vector<std::string> verbAndArguments,
     output.writeEnd.reset();
     char byte = 0;
     if (read(output.readEnd.number(), &byte, 1) != 1)
-        fatalError("a test child said nothing");
+        fatalError("a test child printed nothing");
     return child;
 }
 

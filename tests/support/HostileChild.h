@@ -9,15 +9,15 @@
 
 namespace Loadwick {
 
-/// The path of a program that behaves badly on request; `hostile/main.cpp` lists its verbs.
+/// The path of a program that misbehaves on request; `hostile/main.cpp` lists its verbs.
 [[nodiscard]] std::string hostileChildPath();
 
-/// Launches that program in "/", without an environment, with a time-out and graces that let a
-/// child of a slow machine come far enough and still end soon.
+/// Launches that program in "/" without an environment. Its time-out and graces are short, but long
+/// enough for a slow machine.
 [[nodiscard]] ProbeRunner::Launch hostileLaunch(std::vector<std::string> verbAndArguments);
 
-/// Starts that program with a pipe for its output and comes back when it has said its first word:
-/// its handlers stand by then.
+/// Starts that program with a pipe for its output and returns after its first byte of output, when
+/// its signal handlers are installed.
 [[nodiscard]] ChildProcess startHostileChild(std::vector<std::string> verbAndArguments,
                                              std::shared_ptr<Shutdown> shutdown = nullptr);
 

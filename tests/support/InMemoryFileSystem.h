@@ -9,8 +9,8 @@
 
 namespace Loadwick {
 
-/// A tree of names that a test writes down. Folders are listed in the order in which their entries
-/// were added, and every listing is noted.
+/// A tree of names that a test builds. Entries are listed in the order of their addition, and every
+/// listing is recorded.
 class InMemoryFileSystem : public FileSystem
 {
 public:

@@ -22,7 +22,7 @@ TEST(InMemoryFileSystemTest, listsEntriesInTheOrderTheyWereAdded)
                                                                     {"a", EntryKind::file}}));
 }
 
-TEST(InMemoryFileSystemTest, stopsWhenToldAndNotesTheListing)
+TEST(InMemoryFileSystemTest, stopsWhenToldAndRecordsTheListing)
 {
     InMemoryFileSystem fileSystem;
     fileSystem.add("/r/a", EntryKind::file);

@@ -5,7 +5,7 @@
 namespace Loadwick {
 
 /// While it lives, this thread, and the threads that it starts, read only what the permissions of
-/// files and folders allow, even as root. Make and end it on one thread.
+/// files and folders allow, even as root. Create and destroy it on one thread.
 class PlainPermissions
 {
 public:

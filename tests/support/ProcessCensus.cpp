@@ -22,7 +22,7 @@ std::size_t entryCount(const char *folder)
     return count;
 }
 
-// The fields after the name, which stands in brackets and may hold anything.
+// Reads the fields after the name, which is in parentheses and may contain anything.
 bool isZombieChild(const std::filesystem::path &process)
 {
     std::ifstream file(process / "stat");
@@ -31,8 +31,8 @@ bool isZombieChild(const std::filesystem::path &process)
     const std::size_t nameEnd = line.rfind(") ");
     if (nameEnd == std::string::npos)
         return false;
-    const std::string ours = "Z " + std::to_string(getpid()) + " ";
-    return line.compare(nameEnd + 2, ours.size(), ours) == 0;
+    const std::string expected = "Z " + std::to_string(getpid()) + " ";
+    return line.compare(nameEnd + 2, expected.size(), expected) == 0;
 }
 
 std::size_t zombieChildren()
@@ -49,7 +49,7 @@ std::size_t zombieChildren()
 
 ProcessCensus ProcessCensus::now()
 {
-    // A sanitizer starts a thread of its own with the program's first; it must not count as left.
+    // A sanitizer starts its own thread with the first thread; it must not count as leaked.
     static const bool hasHadThreads = (std::thread([] {}).join(), true);
     (void)hasHadThreads;
     return {entryCount("/proc/self/fd"), entryCount("/proc/self/task"), zombieChildren()};

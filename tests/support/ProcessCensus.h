@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-/// What this process holds at one moment, to tell whether a piece of work gave everything back.
+/// What this process holds at one moment, to find what a piece of work leaks.
 struct ProcessCensus
 {
     std::size_t descriptors; ///< open ones
@@ -16,8 +16,8 @@ struct ProcessCensus
 
     [[nodiscard]] static ProcessCensus now();
 
-    /// No more of anything than `limit`. A thread that was just ending when the limit was taken
-    /// makes equality too strict.
+    /// No more of anything than `limit`. Equality is too strict: a thread may have been ending when
+    /// the limit was taken.
     [[nodiscard]] bool isWithin(const ProcessCensus &limit) const noexcept;
 
     friend bool operator==(const ProcessCensus &, const ProcessCensus &) = default;
@@ -26,8 +26,8 @@ struct ProcessCensus
 /// Text for a failed expectation.
 void PrintTo(const ProcessCensus &census, std::ostream *stream);
 
-/// Looks again and again until `holds` does or `limit` has passed; whether it did. For what another
-/// thread or process brings about in its own time.
+/// Polls until `holds` is true or `limit` has passed; returns whether it was. For conditions that
+/// another thread or process brings about.
 [[nodiscard]] bool eventually(const std::function<bool()> &holds,
                               std::chrono::milliseconds limit = std::chrono::seconds(10));
 

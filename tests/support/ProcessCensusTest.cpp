@@ -55,7 +55,7 @@ TEST(ProcessCensusTest, comparesEveryCountWithALimit)
     EXPECT_FALSE((ProcessCensus{5, 2, 1}.isWithin(limit)));
 }
 
-TEST(ProcessCensusTest, looksUntilSomethingHolds)
+TEST(ProcessCensusTest, pollsUntilSomethingHolds)
 {
     int looks = 0;
     EXPECT_TRUE(eventually([&] { return ++looks == 3; }));

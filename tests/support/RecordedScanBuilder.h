@@ -8,7 +8,7 @@
 
 namespace Loadwick {
 
-/// Makes recorded scans of which a test names only what it cares for. Identifiers are random.
+/// Builds recorded scans; a test sets only the fields that matter to it. Identifiers are random.
 class RecordedScanBuilder
 {
 public:

@@ -12,20 +12,20 @@
 namespace Loadwick {
 
 /// A scan model over fakes, stepped by hand, with a real folder to choose and a real history file.
-/// Its clock stands still.
+/// Its clock does not move.
 class ScanModelHarness
 {
 public:
-    /// With a history store in a folder of its own.
+    /// With a history store in its own folder.
     ScanModelHarness();
 
-    /// Drops the stages that were not stepped through.
+    /// Drops the stages that have not run.
     ~ScanModelHarness();
 
     ScanModelHarness(const ScanModelHarness &) = delete;
     ScanModelHarness &operator=(const ScanModelHarness &) = delete;
 
-    /// The stages of a scan in which a test can interfere, and how many steps come before them.
+    /// The stages of a scan at which a test can interfere, by the number of steps before them.
     enum Stage
     {
         folderCheck = 0,
@@ -33,7 +33,7 @@ public:
         reporting = 2
     };
 
-    /// What a model is made of; several may be made.
+    /// The collaborators of a model; call it once for each model.
     [[nodiscard]] ScanModel::Collaborators collaborators() const;
 
     /// The same without a store.
@@ -48,7 +48,7 @@ public:
     [[nodiscard]] std::filesystem::path historyFolder() const;
     [[nodiscard]] std::vector<RecordedScan> recorded() const;
 
-    /// What a scan of the repository reports when no collaborator was told otherwise.
+    /// The report of a scan of the repository, unless a collaborator was told otherwise.
     [[nodiscard]] ScanReport expectedReport() const;
 
     /// Chooses the repository, starts a scan and steps up to `stage`.

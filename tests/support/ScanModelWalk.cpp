@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using Phase = ScanStateTable::Phase;
 
-/// Why no thread can be started, in the dispatcher's words.
+/// The error of a dispatcher that can start no thread.
 ProbeError noThread()
 {
     return ProbeError::unreadableOutput(
@@ -203,12 +203,12 @@ void ScanModelWalk::disturbDisk()
         return;
     }
     m_diskWorks = !m_diskWorks;
-    changePlaces();
+    swapHistoryFolder();
     m_table.setDiskWorks(m_diskWorks);
 }
 
-/// Puts a file in the place of the history's folder, or the folder back.
-void ScanModelWalk::changePlaces()
+/// Replaces the history's folder by a file, or restores it.
+void ScanModelWalk::swapHistoryFolder()
 {
     const fs::path folder = m_harness.historyFolder();
     const fs::path away = folder.native() + ".away";
@@ -218,7 +218,7 @@ void ScanModelWalk::changePlaces()
     } else {
         fs::create_directories(folder);
         fs::rename(folder, away);
-        m_files.write(folder, "no folder");
+        m_files.write(folder, "not a folder");
     }
 }
 

@@ -13,8 +13,8 @@
 
 namespace Loadwick {
 
-/// A random walk: a program that is started, used, disturbed and quit, beside the table that says
-/// what it must be after each step. Equal seeds walk equally.
+/// A random walk: a program that is started, used, disturbed and quit, and the table that predicts
+/// it after each step. Equal seeds take equal walks.
 class ScanModelWalk
 {
 public:
@@ -61,7 +61,7 @@ private:
     void changeCollaborators();
     void moveClock();
     void disturbDisk();
-    void changePlaces();
+    void swapHistoryFolder();
 
     [[nodiscard]] ProbeResult probed() const;
     [[nodiscard]] ProbeError expectedOfProbe() const;
@@ -73,11 +73,11 @@ private:
     ScanModelHarness m_harness;
     ScanStateTable m_table;
     std::optional<ScanModel> m_model;
-    std::string m_changes; ///< of published values in the last step, as the table writes them
+    std::string m_changes; ///< published values of the last step, in the table's letters
     std::chrono::sys_seconds m_now = ScanModelHarness::now;
     std::optional<RepoSelection> m_scanned;
     int m_stage = 0;
-    std::optional<ProbeError> m_error; ///< that the stage which ran last ended with
+    std::optional<ProbeError> m_error; ///< with which the last stage ended
     Mood m_probeMood = Mood::works;
     bool m_scannerFails = false;
     bool m_refusesThreads = false;

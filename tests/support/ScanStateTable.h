@@ -13,8 +13,8 @@
 
 namespace Loadwick {
 
-/// What a scan model must be after every event, by the table of its states alone: no tasks, no
-/// files, no JSON. A walk makes the same events happen here and in a model and compares.
+/// Predicts a scan model after every event from the table of its states alone: no tasks, no files,
+/// no JSON. A walk applies the same events here and to a model and compares.
 class ScanStateTable
 {
 public:
@@ -25,7 +25,7 @@ public:
         result,
         failed
     };
-    /// What the history keeps of a scan, as far as the table knows it.
+    /// The part of a recorded scan that the table predicts.
     struct Entry
     {
         std::string repository; ///< its path
@@ -44,8 +44,8 @@ public:
     [[nodiscard]] bool canScan() const { return m_selection && m_phase != Phase::scanning; }
     [[nodiscard]] bool canClear() const { return m_isRecording && !m_history.empty(); }
 
-    /// The published values that changed since the last event but an outcome, in order, a letter
-    /// each: s for the selection, t for the state, h for the history.
+    /// The values published since the last event other than an outcome, in order, a letter each: s
+    /// for the selection, t for the state, h for the history.
     [[nodiscard]] const std::string &changes() const noexcept { return m_changes; }
 
     void start(); ///< of the program
@@ -55,11 +55,11 @@ public:
     void succeed(std::chrono::sys_seconds date); ///< the other
     void clear();
 
-    /// The disk takes and gives nothing, or does again; what it held is still there then.
+    /// Whether the disk can be read and written; its content survives an outage.
     void setDiskWorks(bool works) noexcept { m_diskWorks = works; }
     /// Something else overwrote the file.
     void spoil();
-    /// Nothing happened that the model can see.
+    /// An event that the model cannot see.
     void wait() { m_changes.clear(); }
 
 private:

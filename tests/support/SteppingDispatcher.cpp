@@ -12,7 +12,7 @@ namespace {
 void runFirst(std::deque<TaskDispatcher::Task> &tasks)
 {
     if (tasks.empty())
-        fatalError("a test wants to run a task that is not there");
+        fatalError("a test runs a task that does not exist");
     const TaskDispatcher::Task task = std::move(tasks.front());
     tasks.pop_front();
     task();

@@ -7,35 +7,34 @@
 
 namespace Loadwick {
 
-/// Runs nothing by itself: a test steps through the background tasks and the posted ones in the
-/// order that it wants to see. Belongs to one thread.
+/// Runs nothing by itself: a test steps through background and posted tasks in an order of its
+/// choice. Belongs to one thread.
 class SteppingDispatcher : public TaskDispatcher
 {
 public:
     void runInBackground(Task task) override;
     void postToInterface(Task task) override;
 
-    /// From now on no background task can be started, as if threads had run out.
+    /// From now on refuses background tasks, as if threads had run out.
     void refuseBackground() noexcept { m_refusesBackground = true; }
 
-    /// Threads are to be had again.
+    /// Accepts background tasks again.
     void allowBackground() noexcept { m_refusesBackground = false; }
 
     [[nodiscard]] std::size_t backgroundCount() const noexcept { return m_background.size(); }
     [[nodiscard]] std::size_t postedCount() const noexcept { return m_posted.size(); }
 
-    /// Run the oldest task of their kind, and end its life. Without one the test program ends.
+    /// Run and destroy the oldest task of their kind. Without one the test program ends.
     void runBackground();
     void runPosted();
 
-    /// One background task and the outcome that it posts.
+    /// Runs one background task and the outcome that it posts.
     void step();
 
     /// Steps until nothing is left.
     void runAll();
 
-    /// Ends the life of all tasks unrun. Tasks own this dispatcher, so one that is left in it keeps
-    /// both alive for ever.
+    /// Destroys all tasks unrun. Tasks own this dispatcher, so a task that stays in it leaks both.
     void discardAll();
 
 private:

@@ -22,7 +22,7 @@ TEST(SteppingDispatcherTest, runsNothingByItself)
     EXPECT_EQ(log, "pb");
 }
 
-TEST(SteppingDispatcherTest, runsTasksInTheOrderInWhichTheyCame)
+TEST(SteppingDispatcherTest, runsTasksInOrder)
 {
     SteppingDispatcher dispatcher;
     std::string log;
@@ -41,7 +41,7 @@ TEST(SteppingDispatcherTest, runsTasksInTheOrderInWhichTheyCame)
     EXPECT_EQ(log, "01234");
 }
 
-TEST(SteppingDispatcherTest, endsTheLifeOfATaskThatHasRun)
+TEST(SteppingDispatcherTest, destroysATaskThatHasRun)
 {
     SteppingDispatcher dispatcher;
     const auto witness = std::make_shared<int>(0);
@@ -76,7 +76,7 @@ TEST(SteppingDispatcherTest, refusesBackgroundTasksWhenTold)
 TEST(SteppingDispatcherTest, endsTheProgramWithoutATask)
 {
     SteppingDispatcher dispatcher;
-    EXPECT_DEATH(dispatcher.runPosted(), "not there");
+    EXPECT_DEATH(dispatcher.runPosted(), "does not exist");
 }
 
 } // namespace Loadwick

@@ -2,7 +2,7 @@
 
 namespace Loadwick {
 
-/// Lets dates be written in a time zone for as long as it lives; then the system's holds again.
+/// While it lives, dates are written in this time zone instead of the system's.
 class TimeZone
 {
 public:

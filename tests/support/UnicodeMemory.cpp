@@ -39,13 +39,13 @@ void release(const void * /*context*/, void *block)
 
 } // namespace
 
-// What the library took before came from the same allocator.
+// Earlier blocks of the library came from the same allocator.
 UnicodeMemory::UnicodeMemory(long grants)
 {
     UErrorCode status = U_ZERO_ERROR;
     u_setMemoryFunctions(nullptr, allocate, reallocate, release, &status);
     if (U_FAILURE(status))
-        fatalError("the Unicode library takes no other allocator");
+        fatalError("the Unicode library refuses the allocator");
     wasRefused = false;
     granted = grants;
 }

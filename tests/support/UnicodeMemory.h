@@ -2,8 +2,8 @@
 
 namespace Loadwick {
 
-/// Grants the Unicode library that many requests for memory while it lives, and refuses the rest.
-/// One at a time, and only where no other thread asks for text.
+/// While it lives, the Unicode library gets memory for that many requests only. One at a time, and
+/// only while no other thread uses that library.
 class UnicodeMemory
 {
 public:

@@ -15,7 +15,7 @@ TEST(UnicodeMemoryTest, isReachedByTheSearchForCharacters)
     EXPECT_TRUE(memory.ranOut());
 }
 
-TEST(UnicodeMemoryTest, isThereAgainAfterwards)
+TEST(UnicodeMemoryTest, isUnlimitedAgainAfterwards)
 {
     {
         const UnicodeMemory memory(1'000'000);

@@ -46,7 +46,7 @@ void FrameMeter::endFrame()
     m_lastEnd = now;
 }
 
-// Loops of their own, not processEvents(): without a loop, what is deleted later stays for ever.
+// Nested loops, not processEvents(): outside a loop, deferred deletions never happen.
 void FrameMeter::waitForFrame() const
 {
     QEventLoop loop;
@@ -62,12 +62,12 @@ void FrameMeter::run(Milliseconds time)
     loop.exec();
 }
 
-FrameMeter::Milliseconds percentile(std::vector<FrameMeter::Milliseconds> values, double part)
+FrameMeter::Milliseconds percentile(std::vector<FrameMeter::Milliseconds> values, double share)
 {
     if (values.empty())
         return {};
     std::sort(values.begin(), values.end());
-    const double rank = std::ceil(part * static_cast<double>(values.size()));
+    const double rank = std::ceil(share * static_cast<double>(values.size()));
     return values[static_cast<std::size_t>(std::max(rank, 1.0)) - 1];
 }
 

@@ -23,15 +23,15 @@ public:
     FrameMeter(const FrameMeter &) = delete;
     FrameMeter &operator=(const FrameMeter &) = delete;
 
-    /// Forgets all frames; the next one begins now.
+    /// Forgets all frames; the next one starts now.
     void restart();
 
-    /// Those since the last restart, in their order.
+    /// The frames since the last restart, in order.
     [[nodiscard]] const std::vector<Milliseconds> &frames() const noexcept { return m_frames; }
 
-    /// Lets the events run until there is a frame.
+    /// Runs the events until a frame is drawn.
     void waitForFrame() const;
-    /// Lets the events run for that long.
+    /// Runs the events for that long.
     static void run(Milliseconds time);
 
 private:
@@ -43,8 +43,8 @@ private:
     Milliseconds m_lastEnd{};
 };
 
-/// The value that this part of all values, in [0, 1], does not exceed; 0 without values.
+/// The value that this share of all values, in [0, 1], does not exceed; 0 without values.
 [[nodiscard]] FrameMeter::Milliseconds percentile(std::vector<FrameMeter::Milliseconds> values,
-                                                  double part);
+                                                  double share);
 
 } // namespace Loadwick

@@ -22,7 +22,7 @@ constexpr std::array<int, 3> endings{SIGINT, SIGTERM, SIGHUP};
 
 volatile sig_atomic_t childID = 0; // read by the signal handler
 
-void handOn(int signal)
+void forward(int signal)
 {
     kill(static_cast<pid_t>(childID), signal);
 }
@@ -52,11 +52,11 @@ void endWithTheParent()
     _exit(status);
 }
 
-void handOnEndings(pid_t child, const sigset_t &previousMask)
+void forwardEndings(pid_t child, const sigset_t &previousMask)
 {
     childID = child;
     struct sigaction action = {};
-    action.sa_handler = handOn;
+    action.sa_handler = forward;
     for (const int signal : endings)
         sigaction(signal, &action, nullptr);
     sigprocmask(SIG_SETMASK, &previousMask, nullptr);
@@ -75,16 +75,16 @@ int exitStatus(pid_t child)
 
 int runInProcessOfItsOwn(const std::function<int()> &program)
 {
-    // Held back around the fork, so that no signal comes before somebody can hand it on.
-    const sigset_t held = endingSet();
+    // Blocked around the fork, so that no signal comes before it can be forwarded.
+    const sigset_t blocked = endingSet();
     sigset_t previousMask;
-    sigprocmask(SIG_BLOCK, &held, &previousMask);
+    sigprocmask(SIG_BLOCK, &blocked, &previousMask);
     const pid_t child = fork();
     if (child < 0)
-        fatalError("no process for the demonstration");
+        fatalError("no child process can be started");
     if (child == 0)
         runChild(program, previousMask);
-    handOnEndings(child, previousMask);
+    forwardEndings(child, previousMask);
     return exitStatus(child);
 }
 

@@ -1,5 +1,5 @@
-// Writes what a program took also where it ends without its exit handlers: when it aborts, as a
-// death test wants it to, and when a forked part of it leaves by _exit.
+// Writes the coverage counts also where a program ends without its exit handlers: when it aborts in
+// a death test, and when a forked child ends with _exit.
 #include <csignal>
 
 #include <sys/resource.h>
@@ -10,7 +10,7 @@ extern "C" int __llvm_profile_write_file();
 
 extern "C" void _exit(int status)
 {
-    // A full disk may have been played to this part of the program.
+    // This process may be simulating a full disk.
     rlimit limit{};
     getrlimit(RLIMIT_FSIZE, &limit);
     limit.rlim_cur = limit.rlim_max;

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What stands above the window. The button opens the dialog itself.
+// What opens above the window. The button opens the real dialog.
 RowLayout {
     spacing: AppTheme.wideSpace
 

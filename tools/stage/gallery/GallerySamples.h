@@ -11,7 +11,7 @@
 
 namespace Loadwick {
 
-/// What the gallery's charts and lists show: sample scans and histories.
+/// The data of the gallery's charts and lists: sample scans and histories.
 class GallerySamples : public QObject
 {
     Q_OBJECT
