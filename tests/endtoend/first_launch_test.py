@@ -72,7 +72,7 @@ class FirstLaunchTest(EndToEndCase):
         self.assertEqual(program.close(), 0)
         self.assert_no_sheet_comes(self.open())
 
-    def test_a_sheet_that_was_never_answered_comes_again(self) -> None:
+    def test_an_unanswered_sheet_reappears(self) -> None:
         self.assertEqual(self.launch().close(), 0)
         self.launch()
 
@@ -103,7 +103,7 @@ class FirstLaunchTest(EndToEndCase):
             reached.add(str(focused.get_name()) if focused else "")
         self.assertLessEqual(reached, {"Skip", "Next"})
 
-    def test_preferences_that_cannot_be_written_stop_nobody(self) -> None:
+    def test_unwritable_preferences_do_not_block_the_program(self) -> None:
         self.home.preferences.mkdir(parents=True)
         program = self.launch()
         program.window.press("Skip")
@@ -112,7 +112,7 @@ class FirstLaunchTest(EndToEndCase):
         self.assertEqual(program.close(), 0)
         self.launch()
 
-    def test_preferences_that_cannot_be_read_stop_nobody(self) -> None:
+    def test_unreadable_preferences_do_not_block_the_program(self) -> None:
         self.home.preferences.parent.mkdir(parents=True)
         self.home.preferences.write_bytes(b"\x00\xff[[[\n")
         program = self.launch()

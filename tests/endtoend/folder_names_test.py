@@ -28,10 +28,10 @@ class FolderNamesTest(EndToEndCase):
     def test_markup_is_text(self) -> None:
         self.assert_scanned(b"<img src=x>", "<img src=x>")
 
-    def test_a_line_feed_ends_nothing(self) -> None:
+    def test_a_line_feed_is_part_of_the_name(self) -> None:
         self.assert_scanned(b"two\nlines", "two\nlines")
 
-    def test_bytes_that_are_no_text_drive_every_call(self) -> None:
+    def test_a_name_that_is_not_utf_8_reaches_every_call(self) -> None:
         self.assert_scanned(b"caf\xe9", "caf\N{REPLACEMENT CHARACTER}")
 
     def test_a_name_may_be_as_long_as_the_disk_allows(self) -> None:

@@ -79,7 +79,7 @@ class HistoryTest(EndToEndCase):
         for expected in ("warehouse", "1 scan", "61,000", "Excessive", "First scan"):
             self.assertIn(expected, words)
 
-    def test_what_is_cleared_is_gone(self) -> None:
+    def test_cleared_scans_are_gone(self) -> None:
         program = self.open_high()
         self.scan(program, self.home.make_repository("webshop"), 31_000)
         self.scan(program, self.home.make_repository("warehouse"), 61_000)

@@ -96,7 +96,7 @@ class IdleTest(EndToEndCase):
             ]
         )
 
-    def test_a_scan_is_seen_to_draw(self) -> None:
+    def test_a_running_scan_draws_frames(self) -> None:
         self.home.hold()
         self.addCleanup(self.home.release)
         self.repository = self.home.make_repository("webshop")

@@ -87,7 +87,7 @@ class Notifications:
 class NoticeTest(EndToEndCase):
     """The program beside a desktop that can show notifications."""
 
-    def test_a_scan_that_ends_unseen_is_told_until_it_is_looked_at(self) -> None:
+    def test_an_unseen_end_of_a_scan_is_announced_until_the_window_is_seen(self) -> None:
         desktop = self.enterContext(Notifications())
         self.home.hold()
         program = self.open()
@@ -105,7 +105,7 @@ class NoticeTest(EndToEndCase):
         xdotool("windowmap", window, "windowactivate", window)
         until("its end", lambda: desktop.closed == [1])
 
-    def test_a_scan_that_is_watched_is_not_told(self) -> None:
+    def test_a_watched_scan_is_not_announced(self) -> None:
         desktop = self.enterContext(Notifications())
         program = self.open()
         self.choose(program, self.home.make_repository("webshop"))

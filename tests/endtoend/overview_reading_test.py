@@ -190,7 +190,7 @@ class OverviewReadingTest(EndToEndCase):
         return until(f"another stop after {before!r}", lambda: self.stop_other_than(program, before))
 
     def stop_other_than(self, program: Program, path: str) -> Any:
-        """What has the keyboard, unless that is still where it was."""
+        """What has the keyboard, unless it is still the same."""
         stop = program.window.focused()
         return stop if stop and self.path_of(stop) != path else None
 

@@ -15,7 +15,7 @@ LIMIT_SECONDS = 1.0
 
 
 class QuittingTest(EndToEndCase):
-    """Signals and a closed window, with sessions that give way and sessions that do not."""
+    """Signals and a closed window, with sessions that obey signals and sessions that ignore them."""
 
     def scanning(self, outcome: str) -> tuple[Program, int]:
         """A program in the midst of a scan, and its session's process id."""
@@ -35,10 +35,10 @@ class QuittingTest(EndToEndCase):
         self.assertLess(time.monotonic() - start, LIMIT_SECONDS)
         self.assertEqual(self.home.scans(), [])
 
-    def test_sigterm_ends_a_session_that_gives_way(self) -> None:
+    def test_sigterm_ends_a_session_that_obeys_signals(self) -> None:
         self.assert_ends("hang", signal.SIGTERM)
 
-    def test_sigterm_ends_a_session_that_does_not(self) -> None:
+    def test_sigterm_ends_a_session_that_ignores_signals(self) -> None:
         self.assert_ends("stubborn", signal.SIGTERM)
 
     def test_sigint_does_the_same(self) -> None:

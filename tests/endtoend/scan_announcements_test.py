@@ -59,7 +59,7 @@ class ScanAnnouncementsTest(EndToEndCase):
         self.choose(program, self.home.make_repository("webshop"))
         return program
 
-    def test_the_start_and_the_end_of_a_scan_are_told(self) -> None:
+    def test_the_start_and_the_end_of_a_scan_are_announced(self) -> None:
         program = self.open_and_choose()
         self.home.hold()
         with NameChanges(program.process.pid) as changes:
@@ -70,7 +70,7 @@ class ScanAnnouncementsTest(EndToEndCase):
             changes.wait_for(ENDED)
             self.assertNotIn(FAILED, changes.names)
 
-    def test_the_failure_of_a_scan_is_told(self) -> None:
+    def test_the_failure_of_a_scan_is_announced(self) -> None:
         program = self.open_and_choose()
         self.home.play("plain-text", message="No session.")
         with NameChanges(program.process.pid) as changes:

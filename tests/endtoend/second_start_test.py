@@ -26,7 +26,7 @@ class SecondStartTest(EndToEndCase):
             text=True,
         )
 
-    def test_the_first_window_comes_back(self) -> None:
+    def test_a_second_start_raises_the_first_window(self) -> None:
         program = self.open()
         program.window.key("ctrl+1")  # once the window is active
         xdotool("getactivewindow", "windowminimize")

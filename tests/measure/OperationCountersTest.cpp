@@ -73,7 +73,7 @@ TEST(OperationCountersTest, resolvesTheLinksOfAFolderOnceForAllItsFiles)
     EXPECT_EQ(many.at("paths-resolved"), few.at("paths-resolved"));
 }
 
-TEST(OperationCountersTest, listsEachFolderOfFoldersOnceForEachAttempt)
+TEST(OperationCountersTest, listsEachFolderWithSubfoldersOncePerAttempt)
 {
     const auto once = ofAttempts("nothing", 1, {"inner", "other"});
     EXPECT_EQ(once.at("outcome"), 0);
@@ -82,14 +82,14 @@ TEST(OperationCountersTest, listsEachFolderOfFoldersOnceForEachAttempt)
     EXPECT_EQ(ofAttempts("nothing", 3, {"inner"}).at("folders-listed"), 9);
 }
 
-TEST(OperationCountersTest, listsNoFolderThatHoldsFilesAlone)
+TEST(OperationCountersTest, listsNoFolderWithoutSubfolders)
 {
     const auto thrice = ofAttempts("nothing", 3);
     EXPECT_EQ(thrice.at("folders-listed"), 3) << "the root";
     EXPECT_EQ(thrice.at("entries-seen"), 3 * 4) << "and its entries";
 }
 
-TEST(OperationCountersTest, asksEachFolderForTheNameAndForFoldersAndLooksAtNoEntry)
+TEST(OperationCountersTest, checksEachFolderForTheNameAndSubfoldersAndNoEntry)
 {
     EXPECT_EQ(ofAttempts("nothing", 1).at("paths-looked-at"), 4);
 }
@@ -102,7 +102,7 @@ TEST(OperationCountersTest, opensOneFileOfATranscriptsFolder)
     EXPECT_EQ(counters.at("folders-listed"), 2) << "the root, and the one that holds it";
 }
 
-TEST(OperationCountersTest, readsATranscriptNoFurtherThanToItsFirstUsage)
+TEST(OperationCountersTest, readsATranscriptOnlyToItsFirstUsage)
 {
     const TemporaryFolder folder;
     const fs::path file = folder.path() / "t.jsonl";
@@ -114,7 +114,7 @@ TEST(OperationCountersTest, readsATranscriptNoFurtherThanToItsFirstUsage)
     EXPECT_LE(counters.at("bytes-read"), 12 * pieceSize);
 }
 
-TEST(OperationCountersTest, readsALongLineOfAUserOnce)
+TEST(OperationCountersTest, readsALongUserLineOnce)
 {
     const TemporaryFolder folder;
     const fs::path file = folder.path() / "t.jsonl";
@@ -122,7 +122,7 @@ TEST(OperationCountersTest, readsALongLineOfAUserOnce)
     EXPECT_EQ(ofFirstUsage(file).at("bytes-read"), static_cast<std::int64_t>(fs::file_size(file)));
 }
 
-TEST(OperationCountersTest, parsesNoLineOfATranscriptButTheAssistants)
+TEST(OperationCountersTest, parsesOnlyTheAssistantsLineOfATranscript)
 {
     const TemporaryFolder folder;
     const fs::path file = folder.path() / "t.jsonl";

@@ -117,7 +117,7 @@ TEST_F(ConfinementTest, countsNothingOutsideTheHomeAsExecutable)
     EXPECT_EQ(lookup.loginShellLookup(), std::nullopt);
 }
 
-TEST_F(ConfinementTest, forgetsTheFoldersOfWhoeverStartedIt)
+TEST_F(ConfinementTest, forgetsTheFoldersOfTheUserWhoStartedIt)
 {
     const ThrowAwayHome home;
     Confinement::pinEnvironment(home.path());

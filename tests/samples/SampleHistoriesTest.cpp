@@ -49,7 +49,7 @@ std::int64_t sumOfCategories(const RecordedScan &scan)
 
 } // namespace
 
-TEST(SampleHistoriesTest, haveTheScansAndRepositoriesTheirNamesSay)
+TEST(SampleHistoriesTest, haveAsManyScansAndRepositoriesAsTheirNamesSay)
 {
     std::map<std::string, std::pair<std::size_t, std::size_t>> sizes;
     for (const SampleHistory &history : SampleHistories::all())
@@ -107,13 +107,13 @@ TEST(SampleHistoriesTest, nameEachCategoryOfAScanOnce)
     EXPECT_EQ(names.size(), 50U);
 }
 
-TEST(SampleHistoriesTest, keepTwoEqualScansEqual)
+TEST(SampleHistoriesTest, haveTwoScansWithEqualTotals)
 {
     const SampleHistory history = SampleHistories::all().at(2);
     EXPECT_EQ(history.scans.front().total, history.scans.back().total);
 }
 
-TEST(SampleHistoriesTest, splitEachTotalOfTheDemonstrationWholly)
+TEST(SampleHistoriesTest, splitEachTotalOfTheDemonstrationCompletely)
 {
     for (const RecordedScan &scan : SampleHistories::ofTenWeeks("/projects", now))
         EXPECT_EQ(sumOfCategories(scan), scan.total) << scan.repositoryName;

@@ -34,7 +34,7 @@ std::set<std::string> pathsOf(const InstructionFileSet &files)
 
 } // namespace
 
-TEST(SampleScansTest, areOfTheBandTheyAreNamedAfter)
+TEST(SampleScansTest, fallInTheBandOfTheirName)
 {
     EXPECT_EQ(SampleScans::lean().report().band, OpinionBand::lean);
     EXPECT_EQ(SampleScans::heavy().report().band, OpinionBand::heavy);
@@ -52,7 +52,7 @@ TEST(SampleScansTest, addUpUnlessTheyAreOverAttributed)
     }
 }
 
-TEST(SampleScansTest, haveTheOneThingThatTheirNameSays)
+TEST(SampleScansTest, showTheSpecialCaseOfTheirName)
 {
     EXPECT_FALSE(SampleScans::notSelfReported().report().categoriesSelfReported);
     EXPECT_TRUE(SampleScans::notSelfReported().report().unreportedCategoryFilesNote());
@@ -94,7 +94,7 @@ TEST(SampleScansTest, listUnreadablePathsInAscendingOrderAndOneThatIsEstimatedTo
               1);
 }
 
-TEST(SampleScansTest, growToTheSizeAsked)
+TEST(SampleScansTest, haveTheRequestedSize)
 {
     const ScanReport report = SampleScans::ofSize(200, 90).report();
     EXPECT_EQ(report.rows.size(), 200U + 3U + 1U);

@@ -86,14 +86,14 @@ TEST_F(StandInTest, isMeasuredByItsUsageBlockWithoutATranscript)
     EXPECT_EQ(result.authoritativeTotal, 42'318);
 }
 
-TEST_F(StandInTest, takesAnotherSessionIdentifierEachTime)
+TEST_F(StandInTest, usesANewSessionIdentifierEachTime)
 {
     standIn.play({.outcome = "usage"});
     EXPECT_NE(run().sessionID, run().sessionID);
     EXPECT_EQ(standIn.runs().size(), 2u);
 }
 
-TEST_F(StandInTest, putsTheFirstAssistantLineBehindTheFirstReadOfTheTranscript)
+TEST_F(StandInTest, putsTheFirstAssistantLineBeyondTheFirstReadOfATranscript)
 {
     standIn.play({.outcome = "transcript"});
     static_cast<void>(run());
@@ -128,7 +128,7 @@ TEST_F(StandInTest, playsEveryFailureOfASession)
     }
 }
 
-TEST_F(StandInTest, measuresNoFolderButThoseItIsToldOf)
+TEST_F(StandInTest, measuresOnlyTheFoldersItIsAllowed)
 {
     const TemporaryFolder elsewhere;
     standIn.play({.outcome = "transcript", .onlyBelow = home.path()});
@@ -151,7 +151,7 @@ TEST_F(StandInTest, hangsUntilTheTimeOut)
     }
 }
 
-TEST_F(StandInTest, doesNotEndWhileItIsHeld)
+TEST_F(StandInTest, runsWhileItIsHeld)
 {
     standIn.play({.outcome = "usage"});
     standIn.hold();

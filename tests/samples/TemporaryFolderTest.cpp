@@ -25,7 +25,7 @@ TEST(TemporaryFolderTest, writesScriptsThatCanBeExecuted)
               std::filesystem::perms::none);
 }
 
-TEST(TemporaryFolderTest, namesWhatLiesInAFolderInOrder)
+TEST(TemporaryFolderTest, listsTheEntriesOfAFolderInOrder)
 {
     const TemporaryFolder folder;
     EXPECT_TRUE(namesIn(folder.path()).empty());

@@ -51,7 +51,7 @@ TEST(ThrowAwayHomeTest, keepsItsHistoryWhereTheProgramLooksForIt)
               home.historyFolder());
 }
 
-TEST(ThrowAwayHomeTest, isGoneAtTheEnd)
+TEST(ThrowAwayHomeTest, isRemovedAtTheEnd)
 {
     std::filesystem::path path;
     {

@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-TEST(EnvironmentSwapTest, showsItsEntriesOnly)
+TEST(EnvironmentSwapTest, showsOnlyItsEntries)
 {
     const EnvironmentSwap swap({"LOADWICK_A=1"});
     EXPECT_STREQ(std::getenv("LOADWICK_A"), "1");

@@ -20,7 +20,7 @@ TEST(HostileChildTest, refusesAnUnknownVerb)
     EXPECT_EQ(ProbeRunner::execute(hostileLaunch({})).exitCode, 2);
 }
 
-TEST(HostileChildTest, isStartedUntilItIsReady)
+TEST(HostileChildTest, returnsOnceTheChildIsReady)
 {
     ChildProcess child = startHostileChild({"trap-term", "5"});
     child.signal(SIGTERM);

@@ -7,7 +7,7 @@ namespace Loadwick {
 using EntryKind = FileSystem::EntryKind;
 using Walk = FileSystem::Walk;
 
-TEST(InMemoryFileSystemTest, listsEntriesInTheOrderTheyWereAdded)
+TEST(InMemoryFileSystemTest, listsEntriesInOrderOfAddition)
 {
     InMemoryFileSystem fileSystem;
     fileSystem.add("/r/b", EntryKind::folder);

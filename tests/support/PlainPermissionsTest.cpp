@@ -26,7 +26,7 @@ int openError(const std::filesystem::path &path)
 
 } // namespace
 
-TEST(PlainPermissionsTest, keepsAFileWithoutPermissionsShut)
+TEST(PlainPermissionsTest, refusesAFileWithoutPermissions)
 {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder.write("secret", "text");
@@ -42,7 +42,7 @@ TEST(PlainPermissionsTest, keepsAFileWithoutPermissionsShut)
     EXPECT_EQ(openError(path), before);
 }
 
-TEST(PlainPermissionsTest, keepsAFolderWithoutSearchPermissionShut)
+TEST(PlainPermissionsTest, refusesAFolderWithoutSearchPermission)
 {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder.write("shut/file", "text");
@@ -51,7 +51,7 @@ TEST(PlainPermissionsTest, keepsAFolderWithoutSearchPermissionShut)
     EXPECT_EQ(openError(path), EACCES);
 }
 
-TEST(PlainPermissionsTest, leavesPermittedFilesOpen)
+TEST(PlainPermissionsTest, opensPermittedFiles)
 {
     const TemporaryFolder folder;
     const std::filesystem::path path = folder.write("open", "text");

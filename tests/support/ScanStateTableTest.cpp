@@ -39,7 +39,7 @@ TEST(ScanStateTableTest, ignoresAScanWithoutASelectionAndEverythingDuringAScan)
     EXPECT_EQ(table.changes(), "");
 }
 
-TEST(ScanStateTableTest, goesFromAFailureToIdleWithTheNextSelection)
+TEST(ScanStateTableTest, returnsToIdleFromAFailureOnTheNextSelection)
 {
     ScanStateTable table(true);
     table.select(webshop);
@@ -51,7 +51,7 @@ TEST(ScanStateTableTest, goesFromAFailureToIdleWithTheNextSelection)
     EXPECT_EQ(table.error(), std::nullopt);
 }
 
-TEST(ScanStateTableTest, keepsScansByDateThenNameAndTheNewestTwoHundred)
+TEST(ScanStateTableTest, sortsScansByDateThenNameAndKeepsTheNewestTwoHundred)
 {
     ScanStateTable table(true);
     table.select(webshop);
@@ -65,7 +65,7 @@ TEST(ScanStateTableTest, keepsScansByDateThenNameAndTheNewestTwoHundred)
     EXPECT_EQ(table.changes(), "tth");
 }
 
-TEST(ScanStateTableTest, showsAScanThatTheDiskDidNotTakeAndForgetsItAtTheNext)
+TEST(ScanStateTableTest, showsAScanThatWasNotWrittenUntilTheNextScan)
 {
     ScanStateTable table(true);
     table.select(webshop);

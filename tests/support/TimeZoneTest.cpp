@@ -15,7 +15,7 @@ std::string hour()
 
 } // namespace
 
-TEST(TimeZoneTest, holdsForAsLongAsItLives)
+TEST(TimeZoneTest, appliesWhileItLives)
 {
     const std::string before = hour();
     {

@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-TEST(UnicodeMemoryTest, isReachedByTheSearchForCharacters)
+TEST(UnicodeMemoryTest, limitsTheSearchForCharacters)
 {
     loadCharacterRules();
     const UnicodeMemory memory(0);

@@ -29,11 +29,6 @@ Options parsed(std::vector<std::string> words)
     return options;
 }
 
-Scene ofHistory(AppPage page, std::string subject, std::vector<RecordedScan> history)
-{
-    return {.page = page, .subject = std::move(subject), .history = std::move(history)};
-}
-
 /// The Overview of every sample scan and of one with 8,000 categories and 10,000 files; Trends and
 /// Compare of histories named "<repositories>x<categories>".
 std::vector<Scene> allScenes()
@@ -42,10 +37,13 @@ std::vector<Scene> allScenes()
     for (const SampleScan &scan : SampleScans::all())
         scenes.push_back(Scene::ofScan(scan));
     scenes.push_back(Scene::ofScan(SampleScans::ofSize(8'000, 10'000)));
-    scenes.push_back(ofHistory(AppPage::trends, "200x1", SampleHistories::ofSize(200, 1, 9)));
-    scenes.push_back(ofHistory(AppPage::compare, "5x7", SampleHistories::ofSize(31, 5, 7)));
-    scenes.push_back(ofHistory(AppPage::compare, "200x2", SampleHistories::ofSize(200, 200, 2)));
-    scenes.push_back(ofHistory(AppPage::compare, "200x50", SampleHistories::ofSize(200, 200, 50)));
+    const auto add = [&scenes](AppPage page, const char *name, std::vector<RecordedScan> history) {
+        scenes.push_back(Scene::ofHistory(page, name, std::move(history)));
+    };
+    add(AppPage::trends, "200x1", SampleHistories::ofSize(200, 1, 9));
+    add(AppPage::compare, "5x7", SampleHistories::ofSize(31, 5, 7));
+    add(AppPage::compare, "200x2", SampleHistories::ofSize(200, 200, 2));
+    add(AppPage::compare, "200x50", SampleHistories::ofSize(200, 200, 50));
     return scenes;
 }
 

@@ -35,8 +35,8 @@ std::vector<Scene> scenes()
 {
     const auto history = SampleHistories::ofSize(31, 5, 8);
     return {Scene::ofScan(SampleScans::heavy()),
-            {.page = AppPage::trends, .subject = "history", .history = history},
-            {.page = AppPage::compare, .subject = "history", .history = history}};
+            Scene::ofHistory(AppPage::trends, "history", history),
+            Scene::ofHistory(AppPage::compare, "history", history)};
 }
 
 /// "<page>-<direction>-<scale>-<look>" of the window as it is now.

@@ -23,7 +23,7 @@ std::vector<Scene> allScenes()
         scenes.push_back(Scene::ofScan(scan));
     for (const AppPage page : {AppPage(AppPage::trends), AppPage(AppPage::compare)})
         for (const SampleHistory &history : SampleHistories::all())
-            scenes.push_back({.page = page, .subject = history.name, .history = history.scans});
+            scenes.push_back(Scene::ofHistory(page, history.name, history.scans));
     return scenes;
 }
 

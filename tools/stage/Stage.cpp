@@ -65,6 +65,11 @@ Scene Scene::ofScan(const SampleScan &scan)
     return {.page = AppPage::overview, .subject = scan.name, .report = scan.report()};
 }
 
+Scene Scene::ofHistory(AppPage page, std::string subject, std::vector<RecordedScan> history)
+{
+    return {.page = page, .subject = std::move(subject), .history = std::move(history)};
+}
+
 std::string Scene::name() const
 {
     return std::string(page.rawValue()) + "-" + subject;

@@ -23,6 +23,8 @@ struct Scene
     std::vector<RecordedScan> history = {};
 
     [[nodiscard]] static Scene ofScan(const SampleScan &scan);
+    [[nodiscard]] static Scene ofHistory(AppPage page, std::string subject,
+                                         std::vector<RecordedScan> history);
 
     /// Begins the pictures' names: "overview-heavy".
     [[nodiscard]] std::string name() const;

@@ -1,5 +1,5 @@
-// A child process that behaves badly on request: its first argument says how. No child outlives
-// half a minute, whatever it does.
+// A child process that misbehaves on request: its first argument says how. No child lives longer
+// than half a minute.
 
 #include <algorithm>
 #include <csignal>
@@ -13,8 +13,7 @@
 #include <sys/ptrace.h>
 #include <unistd.h>
 
-#include "support/hostile/ChildSpeech.h"
-#include "support/hostile/SelfPortrait.h"
+#include "support/hostile/ChildOutput.h"
 
 namespace Hostile {
 

@@ -7,6 +7,18 @@ import Loadwick
 Rectangle {
     id: gallery
 
+    // One kind of components under its name.
+    component GallerySection: ColumnLayout {
+        id: section
+
+        required property string title
+
+        Layout.fillWidth: true
+        spacing: AppTheme.cardSpace
+
+        PlainLabel { text: section.title; font: AppTheme.title2Font }
+    }
+
     implicitWidth: 1180
     implicitHeight: column.implicitHeight + 2 * AppTheme.pageMargin
     color: AppTheme.window
@@ -31,14 +43,11 @@ Rectangle {
             GallerySection { title: "Type and colour"; GalleryType { Layout.fillWidth: true } }
             GallerySection { title: "Buttons"; GalleryButtons { Layout.fillWidth: true } }
             GallerySection { title: "Marks"; GalleryMarks { Layout.fillWidth: true } }
-            GallerySection { title: "Rows"; GalleryRows { Layout.fillWidth: true } }
-            GallerySection { title: "Lists"; GalleryLists { Layout.fillWidth: true; viewport: scroller } }
-            GallerySection { title: "Figures"; GalleryFigures { Layout.fillWidth: true } }
-            GallerySection { title: "Meters"; GalleryMeters { Layout.fillWidth: true } }
+            GallerySection { title: "Rows and lists"; GalleryRows { Layout.fillWidth: true; viewport: scroller } }
+            GallerySection { title: "Figures and meters"; GalleryFigures { Layout.fillWidth: true } }
             GallerySection { title: "Charts"; GalleryCharts { Layout.fillWidth: true } }
-            GallerySection { title: "Cards and sections"; GalleryCards { Layout.fillWidth: true } }
+            GallerySection { title: "Cards and states of a page"; GalleryCards { Layout.fillWidth: true } }
             GallerySection { title: "Dialogs and sheets"; GalleryDialogs { Layout.fillWidth: true } }
-            GallerySection { title: "States of a page"; GalleryStates { Layout.fillWidth: true } }
             GallerySection { title: "Symbols"; GallerySymbols { Layout.fillWidth: true } }
         }
     }

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
+// Cards and sections, and the states of a page.
 ColumnLayout {
     spacing: AppTheme.wideSpace
 
@@ -33,6 +34,41 @@ ColumnLayout {
             detail: "A factual, copyable summary of this one Claude Code startup-context scan."
             isExpanded: true
             SelectableText { Layout.fillWidth: true; text: "Startup context: 41,208 tokens (Heavy)\n<b>Plain</b> text stays plain.\nSession ID: 7d1f9c1e" }
+        }
+    }
+    RowLayout {
+        Layout.fillWidth: true
+        Layout.preferredHeight: 320
+        spacing: AppTheme.cardSpace
+
+        ScanEmptyState {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.preferredWidth: 100
+            title: "Start a context scan"
+            detail: "Choose a local repository, then run one Claude Code probe."
+            note: "One scan starts one real session, which counts against your plan as any other does."
+        }
+        ScanLoadingState { Layout.fillWidth: true; Layout.fillHeight: true; Layout.preferredWidth: 100 }
+    }
+    RowLayout {
+        Layout.fillWidth: true
+        Layout.preferredHeight: 320
+        spacing: AppTheme.cardSpace
+
+        ScanFailureState {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.preferredWidth: 100
+            headline: "The session failed"
+            detail: "It ended with status 1."
+        }
+        ScanFailureState {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.preferredWidth: 100
+            headline: "The answer could not be read"
+            detail: "Expected one JSON object. ".repeat(24)
         }
     }
 }

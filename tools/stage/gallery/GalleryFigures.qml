@@ -1,9 +1,27 @@
 import QtQuick
 import QtQuick.Layouts
 import Loadwick
+import LoadwickGallery
 
-// Figures and what draws them.
+// Figures, what draws them, and totals in every band as meter and as score.
 ColumnLayout {
+    component Metered: ReportSurface {
+        id: card
+
+        required property BandPresenter band
+
+        Layout.fillWidth: true
+        Layout.preferredWidth: 1
+
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: AppTheme.pageMargin
+
+            ScoreGauge { band: card.band }
+            BandMeter { Layout.fillWidth: true; band: card.band }
+        }
+    }
+
     spacing: AppTheme.cardSpace
 
     RowLayout {
@@ -88,5 +106,15 @@ ColumnLayout {
                 detail: ""
             }
         }
+    }
+    GridLayout {
+        columns: 2
+        columnSpacing: AppTheme.cardSpace
+        rowSpacing: AppTheme.cardSpace
+
+        Metered { band: GallerySamples.zero }
+        Metered { band: GallerySamples.lean }
+        Metered { band: GallerySamples.heavy }
+        Metered { band: GallerySamples.excessive }
     }
 }

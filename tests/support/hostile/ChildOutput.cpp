@@ -1,13 +1,13 @@
-#include "support/hostile/SelfPortrait.h"
+#include "support/hostile/ChildOutput.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <functional>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
-
-#include "support/hostile/ChildSpeech.h"
 
 namespace Hostile {
 
@@ -48,6 +48,21 @@ bool hasOwnDisposition(int number)
 }
 
 } // namespace
+
+void writeAll(int descriptor, std::string_view text)
+{
+    while (!text.empty()) {
+        const ssize_t count = write(descriptor, text.data(), text.size());
+        if (count < 0 && errno != EINTR)
+            _exit(9);
+        text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    }
+}
+
+void say(const std::string &line)
+{
+    writeAll(STDOUT_FILENO, line + "\n");
+}
 
 int describe(const Arguments &)
 {
