@@ -1,5 +1,5 @@
 # Qt for all folders that build with it, found once, so that each of them sees the same targets.
-find_package(Qt6 6.4 REQUIRED COMPONENTS DBus Gui Qml Quick QuickControls2 Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS DBus Gui Qml Quick QuickControls2 Svg Widgets)
 if(LOADWICK_BUILD_TESTS)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test QuickTest)
 endif()

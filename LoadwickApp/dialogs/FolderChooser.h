@@ -2,6 +2,10 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
+
+class QUrl;
+class QWindow;
 
 namespace Loadwick {
 
@@ -13,10 +17,16 @@ public:
 
     virtual ~FolderChooser() = default;
 
+    /// The window to ask over, before the first question. It outlives this object's use.
+    virtual void attach(QWindow &) {}
+
     /// Asks the user and returns at once. `chosen` is called later on the interface thread with the
-    /// folder's path, in the bytes of the disk; it is never called when the user thinks better of
-    /// it. Asking while the question stands replaces nothing and asks nothing.
+    /// folder's path, in the bytes of the disk; never when the user cancels. Does nothing while an
+    /// earlier question is open.
     virtual void open(Chosen chosen) = 0;
 };
+
+/// Asks with a FileDialog. It first shows `startFolder`, later the folder it showed last.
+[[nodiscard]] std::unique_ptr<FolderChooser> platformFolderChooser(const QUrl &startFolder);
 
 } // namespace Loadwick

@@ -10,8 +10,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "dialogs/FileSaver.h"
 #include "export/ChartFile.h"
-#include "export/FileSaver.h"
 #include "export/PictureFrame.h"
 #include "model/TaskDispatcher.h"
 

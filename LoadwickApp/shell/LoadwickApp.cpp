@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include "desktop/SingleInstance.h"
 #include "desktop/WindowActivation.h"
@@ -21,7 +21,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
               const std::shared_ptr<Shutdown> &shutdown)
 {
     std::optional<DisplayFailure> displayFailure(std::in_place);
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     displayFailure.reset();
     ApplicationSetup::apply(application);
     LoadwickWindow::Collaborators collaborators = make(shutdown);
@@ -39,7 +39,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
     FirstSize::putOn(loadwick.window());
     loadwick.window().show();
     loadwick.window().requestActivate();
-    const int status = QGuiApplication::exec();
+    const int status = QApplication::exec();
     // What follows tidies up (a copied summary goes to the desktop's clipboard) and may hang.
     ProgramEnd::begin(shutdown, status);
     return status;

@@ -8,8 +8,6 @@
 #include "base/QmlObject.h"
 #include "base/QtTaskDispatcher.h"
 #include "desktop/DesktopNoticeBoard.h"
-#include "dialogs/DialogFolderChooser.h"
-#include "export/DialogFileSaver.h"
 #include "export/FileName.h"
 #include "history/WeeklyKPIReader.h"
 #include "onboarding/PreferencesCompletionStore.h"
@@ -28,14 +26,9 @@ std::chrono::sys_seconds systemNow()
     return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
 }
 
-std::unique_ptr<FolderChooser> platformDialog()
+QUrl homeUrl()
 {
-    return std::make_unique<DialogFolderChooser>(QUrl::fromLocalFile(QDir::homePath()));
-}
-
-std::unique_ptr<FileSaver> platformSaver()
-{
-    return std::make_unique<DialogFileSaver>(QUrl::fromLocalFile(QDir::homePath()));
+    return QUrl::fromLocalFile(QDir::homePath());
 }
 
 /// Of a window that walks nobody through.
@@ -82,8 +75,9 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
 LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     : m_onboarding(onboardingOver(std::move(collaborators.completionStore))),
       m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
-                                            : platformDialog()),
-      m_saver(collaborators.fileSaver ? std::move(collaborators.fileSaver) : platformSaver())
+                                            : platformFolderChooser(homeUrl())),
+      m_saver(collaborators.fileSaver ? std::move(collaborators.fileSaver)
+                                      : platformFileSaver(homeUrl()))
 {
     if (!collaborators.dispatcher)
         collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
@@ -102,7 +96,8 @@ LoadwickWindow::LoadwickWindow(Collaborators collaborators)
     makeWindow();
     if (!title.isEmpty())
         m_window->setTitle(title);
-    attachDialogs();
+    m_chooser->attach(*m_window);
+    m_saver->attach(*m_window);
     if (notices)
         putNoticesOn(notices(dispatcher));
     if (!weeklyLog.empty())
@@ -169,14 +164,6 @@ void LoadwickWindow::makeWindow()
     m_window.reset(qobject_cast<QQuickWindow *>(made.release()));
     if (!m_window)
         fatalError("Main.qml makes no window.");
-}
-
-void LoadwickWindow::attachDialogs()
-{
-    if (auto *saver = dynamic_cast<DialogFileSaver *>(m_saver.get()))
-        saver->attach(m_engine, *m_window);
-    if (auto *dialog = dynamic_cast<DialogFolderChooser *>(m_chooser.get()))
-        dialog->attach(m_engine, *m_window);
 }
 
 void LoadwickWindow::putNoticesOn(std::unique_ptr<NoticeBoard> board)

@@ -10,8 +10,8 @@
 
 #include "compare/ComparePresenter.h"
 #include "desktop/NoticeBoard.h"
+#include "dialogs/FileSaver.h"
 #include "dialogs/FolderChooser.h"
-#include "export/FileSaver.h"
 #include "export/PageExport.h"
 #include "model/OnboardingFlow.h"
 #include "model/ScanModel.h"
@@ -80,7 +80,6 @@ private:
     void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
     void makeWindow();
     void makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher);
-    void attachDialogs();
     void putNoticesOn(std::unique_ptr<NoticeBoard> board);
     void presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher);
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include "shell/ApplicationSetup.h"
 #include "shell/LoadwickWindow.h"
@@ -11,7 +11,7 @@
 int main(int argc, char **argv)
 {
     Loadwick::ApplicationSetup::prepare();
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     Loadwick::ApplicationSetup::apply(application);
     auto collaborators =
         Loadwick::LoadwickWindow::Collaborators::ofUser(std::make_shared<Loadwick::Shutdown>());
@@ -19,5 +19,5 @@ int main(int argc, char **argv)
     Loadwick::LoadwickWindow loadwick(std::move(collaborators));
     Loadwick::reportFirstFrame(loadwick.window());
     loadwick.window().show();
-    return QGuiApplication::exec();
+    return QApplication::exec();
 }

@@ -112,6 +112,15 @@ class AccessibleTree:
         found = [item for item in self.items() if unless_gone(lambda: is_focused(item), False)]
         return found[-1] if found else None
 
+    def wait_until_focused(self, name: str) -> None:
+        """Returns once the object of this name has the keyboard."""
+
+        def has_keyboard() -> bool:
+            item = self.focused()
+            return item is not None and item.get_name() == name
+
+        self._until(f"the keyboard on {name!r}", has_keyboard)
+
     def texts(self) -> list[str]:
         """The words of everything that shows."""
         return [unless_gone(lambda: text_of(item), "") for item in self.items()]
@@ -137,6 +146,12 @@ class AccessibleTree:
         self._until("the active window", self._is_active)
         xdotool("key", keys)
 
+    def type(self, text: str) -> None:
+        """Types the text with real keys into what has the keyboard, once the window is active."""
+        self._until("the active window", self._is_active)
+        command = ["xdotool", "type", "--delay", "1", text]
+        subprocess.run(command, check=True, timeout=LIMIT_SECONDS)
+
     def resize(self, width: int, height: int) -> None:
         """Gives the program's window this size, once it is active."""
         self._until("the active window", self._is_active)
@@ -153,7 +168,7 @@ class AccessibleTree:
         return any(
             unless_gone(lambda: item.get_state_set().contains(active), False)
             for item in self.items()
-            if unless_gone(item.get_role_name, "") in ("frame", "window")
+            if unless_gone(item.get_role_name, "") in ("frame", "window", "dialog", "alert")
         )
 
 
@@ -190,9 +205,9 @@ def is_enabled(item: Any) -> bool:
 
 
 def press_index(item: Any) -> int:
-    """The index of the action "Press" among the object's actions; -1 when it has none."""
+    """The index of the action that presses a button or selects a row; -1 when there is none."""
     for index in range(unless_gone(lambda: Atspi.Action.get_n_actions(item), 0)):
-        if Atspi.Action.get_action_name(item, index).lower() == "press":
+        if Atspi.Action.get_action_name(item, index).lower() in ("press", "toggle"):
             return index
     return -1
 

@@ -2,15 +2,15 @@
 
 from __future__ import annotations
 
+from accessible_tree import AccessibleTree
 from endtoend_case import SCAN, EndToEndCase, main
-from program import Program
 from waiting import until
 
 
 class SavingTest(EndToEndCase):
     """The toolkit's own dialog, which an X display without a desktop gets."""
 
-    def trends(self) -> Program:
+    def trends(self) -> AccessibleTree:
         """The Trends page of a repository that was scanned twice."""
         program = self.open()
         self.choose(program, self.home.make_repository("webshop"))
@@ -19,45 +19,69 @@ class SavingTest(EndToEndCase):
             until("the recorded scan", lambda: len(self.home.scans()) == count)
             program.window.wait_for("Scan complete")
         program.window.key("ctrl+2")
-        return program
+        return program.window
+
+    def dialog(self, command: str) -> AccessibleTree:
+        """The window with the dialog of a command over its Trends page."""
+        window = self.trends()
+        self.ask(window, command)
+        return window
+
+    def ask(self, window: AccessibleTree, command: str) -> None:
+        """Opens the dialog and waits until it takes keys."""
+        window.press(command)
+        window.wait_until_focused("File name:")
 
     def test_the_data_is_saved_where_the_user_says(self) -> None:
-        program = self.trends()
-        program.window.press("Save Data…")
-        program.window.press("Save")
+        window = self.dialog("Save Data…")
+        window.wait_for("Save the data", "dialog")
+        window.press("Save")
         file = self.home.path / "loadwick-trend-webshop.csv"
-        program.window.wait_for(f"Saved as {file}.")
+        window.wait_for(f"Saved as {file}.")
         table = file.read_bytes().split(b"\r\n")
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
 
-    def test_enter_saves_under_the_name_that_was_typed(self) -> None:
-        program = self.trends()
-        program.window.press("Save Data…")
-        program.window.wait_for("File name")
-        for key in ("ctrl+a", "a", "numbersign", "1", "Return"):
-            program.window.key(key)
-        file = self.home.path / "a#1.csv"
-        program.window.wait_for(f"Saved as {file}.")
+    def test_what_is_typed_takes_the_place_of_the_suggested_name(self) -> None:
+        window = self.dialog("Save Data…")
+        window.type("a#1 v1.2")
+        window.key("Return")
+        file = self.home.path / "a#1 v1.2.csv"
+        window.wait_for(f"Saved as {file}.")
         self.assertTrue(file.exists())
 
-    def test_a_file_that_is_there_is_not_replaced_unasked(self) -> None:
-        file = self.home.path / "loadwick-trend-webshop.png"
-        file.write_bytes(b"precious")
-        program = self.trends()
-        program.window.press("Save Chart…")
-        program.window.press("Save")
-        program.window.wait_for(
-            f"{file} could not be written: a file of that name is there already. "
-            "Choose another name."
-        )
-        self.assertEqual(file.read_bytes(), b"precious")
+    def test_the_ending_follows_the_kind_of_file(self) -> None:
+        window = self.dialog("Save Chart…")
+        window.wait_for("Save the chart", "dialog")
+        for key in ("Tab", "Down"):
+            window.key(key)
+        window.wait_for("loadwick-trend-webshop.svg", "text")
+        window.press("Save")
+        file = self.home.path / "loadwick-trend-webshop.svg"
+        window.wait_for(f"Saved as {file}.")
+        self.assertIn(b"<svg", file.read_bytes())
 
-    def test_thinking_better_of_it_saves_nothing(self) -> None:
-        program = self.trends()
-        program.window.press("Save Data…")
-        program.window.press("Cancel")
-        program.window.wait_until_gone("Cancel")
+    def test_a_file_is_replaced_when_the_user_agrees(self) -> None:
+        file = self.home.path / "<b>precious<b>.csv"
+        file.write_bytes(b"precious")
+        window = self.dialog("Save Data…")
+        window.type("<b>precious<b>")
+        window.key("Return")
+        window.wait_for("<b>precious<b>.csv already exists.\nDo you want to replace it?")
+        window.press("No")
+        self.assertEqual(file.read_bytes(), b"precious")
+        window.press("Save")
+        window.press("Yes")
+        window.wait_for(f"Saved as {file}.")
+        self.assertIn(b"Total tokens", file.read_bytes())
+
+    def test_cancelling_saves_nothing(self) -> None:
+        window = self.dialog("Save Data…")
+        window.press("Cancel")
+        window.wait_until_gone("Cancel")
+        self.ask(window, "Save Data…")
+        window.key("Escape")
+        window.wait_until_gone("Cancel")
         self.assertFalse((self.home.path / "loadwick-trend-webshop.csv").exists())
 
 

@@ -5,7 +5,7 @@
 
 #include <QUrl>
 
-#include "dialogs/DialogFolderChooser.h"
+#include "dialogs/FolderChooser.h"
 #include "samples/Confinement.h"
 #include "samples/ThrowAwayHome.h"
 #include "shell/LoadwickApp.h"
@@ -87,8 +87,8 @@ int takePictures(const ThrowAwayHome &home, const std::filesystem::path &folder)
         LoadwickWindow::Collaborators made = collaborators(home, std::move(shutdown));
         made.title = QStringLiteral("Demonstration of Loadwick");
         const std::filesystem::path projects = home.repository().parent_path();
-        made.folderChooser = std::make_unique<DialogFolderChooser>(
-            QUrl::fromLocalFile(QString::fromStdString(projects.string())));
+        made.folderChooser =
+            platformFolderChooser(QUrl::fromLocalFile(QString::fromStdString(projects.string())));
         return made;
     });
 }

@@ -61,7 +61,6 @@ private Q_SLOTS:
     {
         QVERIFY(isLoaded("libQt6QuickTemplates2"));
         QVERIFY(!isLoaded("Dialogs"));
-        QVERIFY(!isLoaded("folderlistmodel"));
     }
 
     void itIsMadeOfFewObjects()

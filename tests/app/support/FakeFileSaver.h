@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "export/FileSaver.h"
+#include "dialogs/FileSaver.h"
 
 namespace Loadwick {
 

@@ -4,7 +4,7 @@
 #include "support/StandInProgram.h"
 #include "support/TestRegistry.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTest>
 
 #include <iostream>
@@ -17,9 +17,9 @@ int main(int argc, char *argv[])
     if (program != nullptr)
         return program(argc, argv);
     ApplicationSetup::prepare();
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     ApplicationSetup::apply(application);
-    QStringList arguments = QGuiApplication::arguments();
+    QStringList arguments = QApplication::arguments();
     const QString type = arguments.size() > 1 ? arguments.takeAt(1) : QString();
     const auto test = TestRegistry::make(type);
     if (!test) {

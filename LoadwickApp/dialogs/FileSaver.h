@@ -2,13 +2,17 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 
 #include <QString>
 #include <QStringList>
 
+class QUrl;
+class QWindow;
+
 namespace Loadwick {
 
-/// Lets the user say where a file is to be saved. Belongs to the interface thread.
+/// Lets the user say where to save a file. Belongs to the interface thread.
 class FileSaver
 {
 public:
@@ -21,15 +25,21 @@ public:
     struct Place
     {
         std::filesystem::path file;
-        bool mayReplace; ///< the user knows of the file that is there, if there is one
+        bool mayReplace; ///< the user was asked about the file that is there, if there is one
     };
     using Chosen = std::function<void(const Place &place)>;
 
     virtual ~FileSaver() = default;
 
+    /// The window to ask over, before the first question. It outlives this object's use.
+    virtual void attach(QWindow &) {}
+
     /// Asks the user and returns at once. `chosen` is called later on the interface thread; never
-    /// when the user thinks better of it. Asking while the question stands asks nothing.
+    /// when the user cancels. Does nothing while an earlier question is open.
     virtual void open(const Request &request, Chosen chosen) = 0;
 };
+
+/// Asks with a FileDialog. It first shows `startFolder`, later the folder it showed last.
+[[nodiscard]] std::unique_ptr<FileSaver> platformFileSaver(const QUrl &startFolder);
 
 } // namespace Loadwick

@@ -1,0 +1,118 @@
+#include "dialogs/FileDialog.h"
+
+#include <algorithm>
+
+#include <QChildEvent>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSplitter>
+#include <QTreeView>
+
+#include "base/FolderUrl.h"
+#include "dialogs/DialogLook.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr QSize firstSize(760, 480);
+
+/// ".png" for "PNG picture (*.png)".
+QString endingOf(const QString &kind)
+{
+    return kind.section(QLatin1Char('*'), -1).chopped(1);
+}
+
+/// Qt's dialog gives its places a tenth of its width, and dates half of what they need.
+void widenColumns(const FileDialog &dialog)
+{
+    if (auto *columns = dialog.findChild<QSplitter *>())
+        columns->setSizes({firstSize.width() / 4, firstSize.width()});
+    if (auto *list = dialog.findChild<QTreeView *>())
+        list->header()->setStretchLastSection(true);
+}
+
+/// Null in the desktop's dialogs.
+QLineEdit *nameField(const FileDialog &dialog)
+{
+    return dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+}
+
+} // namespace
+
+FileDialog::FileDialog(QWindow &window)
+{
+    // The desktop's dialogs, too, belong to the window that this one belongs to.
+    (void)winId();
+    windowHandle()->setTransientParent(&window);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setOption(DontResolveSymlinks);
+    DialogLook::follow(window, *this);
+    resize(firstSize);
+    move(window.geometry().center() - rect().center());
+}
+
+std::optional<std::filesystem::path> FileDialog::chosenPath() const
+{
+    const QList<QUrl> urls = selectedUrls();
+    return m_addressed || urls.isEmpty() ? m_addressed : folderPath(urls.constFirst());
+}
+
+QString FileDialog::missingEnding(const QString &name) const
+{
+    const QStringList kinds = nameFilters();
+    const bool hasOne = std::any_of(kinds.begin(), kinds.end(), [&name](const QString &kind) {
+        return name.endsWith(endingOf(kind), Qt::CaseInsensitive);
+    });
+    return hasOne ? QString() : endingOf(selectedNameFilter());
+}
+
+void FileDialog::accept()
+{
+    QLineEdit *field = nameField(*this);
+    if (field != nullptr && takesAddress(field->text()))
+        return done(Accepted);
+    // Before the dialog asks whether to replace a file of the whole name.
+    if (field != nullptr && acceptMode() == AcceptSave && !field->text().isEmpty())
+        if (const QString file = selectedFiles().value(0); !QFileInfo(file).isDir())
+            field->setText(field->text() + missingEnding(file));
+    QFileDialog::accept();
+}
+
+/// A typed address can name a folder whose name is not UTF-8, which Qt's dialog does not list.
+bool FileDialog::takesAddress(const QString &text)
+{
+    if (fileMode() == Directory && text.startsWith(QLatin1String("file:")))
+        m_addressed = folderPath(QUrl(text));
+    return m_addressed && isFolder(*m_addressed);
+}
+
+void FileDialog::childEvent(QChildEvent *event)
+{
+    // Its questions hold names of files, which are no markup.
+    if (auto *question = qobject_cast<QMessageBox *>(event->child()); question && event->polished())
+        question->setTextFormat(Qt::PlainText);
+    QFileDialog::childEvent(event);
+}
+
+void FileDialog::showEvent(QShowEvent *event)
+{
+    QFileDialog::showEvent(event);
+    widenColumns(*this);
+    if (QLineEdit *field = nameField(*this))
+        field->selectAll();
+}
+
+FileDialog *FileDialogPlace::newDialog()
+{
+    if (!m_window || m_dialog)
+        return nullptr;
+    m_dialog = new FileDialog(*m_window);
+    m_dialog->setDirectoryUrl(m_folder);
+    QObject::connect(m_dialog, &QDialog::finished, m_dialog,
+                     [this] { m_folder = m_dialog->directoryUrl(); });
+    return m_dialog;
+}
+
+} // namespace Loadwick

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include <QFileDialog>
+#include <QPointer>
+#include <QUrl>
+#include <QWindow>
+
+namespace Loadwick {
+
+/// The desktop's dialog for folders and files, or Qt's own where the desktop has none. It is modal
+/// to one of the program's windows and has its colours. Deletes itself when it is closed.
+class FileDialog final : public QFileDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FileDialog(QWindow &window);
+
+    /// What the user chose, in the bytes of the disk; nothing for a file of another machine.
+    [[nodiscard]] std::optional<std::filesystem::path> chosenPath() const;
+
+    /// What a file to save still needs at the end of its name: the ending of the chosen kind,
+    /// unless the name has the ending of one of the kinds. Another dot is no ending: the "2" of
+    /// "notes v1.2" names no kind.
+    [[nodiscard]] QString missingEnding(const QString &name) const;
+
+protected:
+    void accept() override;
+    void childEvent(QChildEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    [[nodiscard]] bool takesAddress(const QString &text);
+
+    std::optional<std::filesystem::path> m_addressed; ///< by what was typed
+};
+
+/// Where the dialogs of one purpose open, one at a time.
+class FileDialogPlace
+{
+public:
+    explicit FileDialogPlace(const QUrl &startFolder) : m_folder(startFolder) {}
+
+    void attach(QWindow &window) { m_window = &window; }
+
+    /// A dialog in the folder that the last one showed; null while that one is open, and without a
+    /// window.
+    [[nodiscard]] FileDialog *newDialog();
+
+private:
+    QPointer<QWindow> m_window;
+    QPointer<FileDialog> m_dialog;
+    QUrl m_folder;
+};
+
+} // namespace Loadwick
