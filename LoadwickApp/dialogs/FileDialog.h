@@ -43,6 +43,10 @@ class FileDialogPlace
 {
 public:
     explicit FileDialogPlace(const QUrl &startFolder) : m_folder(startFolder) {}
+    ~FileDialogPlace() { delete m_dialog; }
+
+    FileDialogPlace(const FileDialogPlace &) = delete;
+    FileDialogPlace &operator=(const FileDialogPlace &) = delete;
 
     void attach(QWindow &window) { m_window = &window; }
 

@@ -1,0 +1,272 @@
+#include "dialogs/FileSaver.h"
+
+#include <memory>
+#include <optional>
+
+#include <QComboBox>
+#include <QTest>
+
+#include "support/DialogFixture.h"
+#include "support/TestRegistry.h"
+
+namespace Loadwick {
+
+/// Qt's own dialog over a folder with the folder "sub".
+class FileSaverTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void asksOverTheWindow();
+    void suggestsTheNameForTypingOver();
+    void enterSaves_data();
+    void enterSaves();
+    void savesWhereThePathSaysThatIsTyped_data();
+    void savesWhereThePathSaysThatIsTyped();
+    void addsTheEndingOfTheKindThatIsMissing_data();
+    void addsTheEndingOfTheKindThatIsMissing();
+    void theEndingFollowsTheKindThatIsChosen();
+    void entersAFolderThatIsTyped_data();
+    void entersAFolderThatIsTyped();
+    void staysOpenWithoutAName();
+    void replacesAFileOnlyWhenTheUserAgrees_data();
+    void replacesAFileOnlyWhenTheUserAgrees();
+    void asksInPlainText();
+    void givesNothingWhenTheUserCancels();
+    void asksOnceAtATime();
+    void opensInTheFolderItShowedLast();
+    void asksNobodyWithoutAWindow();
+
+private:
+    void open();
+    void save(const QByteArray &typed);
+    [[nodiscard]] const std::filesystem::path &root() const { return m_fixture->root(); }
+
+    std::unique_ptr<DialogFixture> m_fixture;
+    std::unique_ptr<FileSaver> m_saver;
+    std::optional<FileSaver::Place> m_place;
+};
+
+void FileSaverTest::init()
+{
+    m_fixture = std::make_unique<DialogFixture>();
+    std::filesystem::create_directory(root() / "sub");
+    m_saver = platformFileSaver(m_fixture->url());
+    m_saver->attach(m_fixture->window());
+    m_place.reset();
+}
+
+void FileSaverTest::cleanup()
+{
+    m_saver.reset();
+    m_fixture.reset();
+}
+
+void FileSaverTest::open()
+{
+    m_saver->open(
+        {.title = QStringLiteral("Save the chart"),
+         .name = QStringLiteral("trend.png"),
+         .filters = {QStringLiteral("PNG picture (*.png)"), QStringLiteral("SVG drawing (*.svg)")}},
+        [this](const FileSaver::Place &place) { m_place = place; });
+    QVERIFY(DialogFixture::dialog() != nullptr);
+}
+
+void FileSaverTest::save(const QByteArray &typed)
+{
+    open();
+    m_fixture->type(typed);
+    DialogFixture::press(Qt::Key_Return);
+}
+
+void FileSaverTest::asksOverTheWindow()
+{
+    open();
+    const QFileDialog &dialog = *DialogFixture::dialog();
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Save the chart"));
+    QCOMPARE(DialogFixture::button(QDialogButtonBox::Save).text(), QStringLiteral("Save"));
+    QCOMPARE(dialog.windowHandle()->transientParent(), &m_fixture->window());
+    QCOMPARE(dialog.windowModality(), Qt::WindowModal);
+}
+
+void FileSaverTest::suggestsTheNameForTypingOver()
+{
+    open();
+    QCOMPARE(DialogFixture::nameField().selectedText(), QStringLiteral("trend.png"));
+    QTest::keyClicks(&DialogFixture::nameField(), QStringLiteral("a"));
+    QCOMPARE(DialogFixture::nameField().text(), QStringLiteral("a"));
+}
+
+void FileSaverTest::enterSaves_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("return") << Qt::Key_Return;
+    QTest::newRow("enter") << Qt::Key_Enter;
+}
+
+void FileSaverTest::enterSaves()
+{
+    QFETCH(const Qt::Key, key);
+    open();
+    DialogFixture::press(key);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / "trend.png");
+    QVERIFY(DialogFixture::dialog() == nullptr);
+}
+
+void FileSaverTest::savesWhereThePathSaysThatIsTyped_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("from the root") << QByteArray("$/sub/c.png") << QByteArray("sub/c.png");
+    QTest::newRow("from the home") << QByteArray("~/sub/c.png") << QByteArray("sub/c.png");
+    QTest::newRow("below the folder") << QByteArray("sub/c.png") << QByteArray("sub/c.png");
+    QTest::newRow("hash") << QByteArray("sub/#1.png") << QByteArray("sub/#1.png");
+    QTest::newRow("without an ending") << QByteArray("$/sub/c") << QByteArray("sub/c.png");
+}
+
+void FileSaverTest::savesWhereThePathSaysThatIsTyped()
+{
+    QFETCH(const QByteArray, text);
+    QFETCH(const QByteArray, file);
+    save(text);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / file.toStdString());
+}
+
+void FileSaverTest::addsTheEndingOfTheKindThatIsMissing_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("the first kind") << QByteArray("x.png") << QByteArray("x.png");
+    QTest::newRow("another kind") << QByteArray("x.SVG") << QByteArray("x.SVG");
+    QTest::newRow("no kind") << QByteArray("x.csv") << QByteArray("x.csv.png");
+    QTest::newRow("no dot") << QByteArray("all") << QByteArray("all.png");
+    QTest::newRow("a version") << QByteArray("notes v1.2") << QByteArray("notes v1.2.png");
+    QTest::newRow("no dot before it") << QByteArray("mypng") << QByteArray("mypng.png");
+    QTest::newRow("nothing else") << QByteArray(".png") << QByteArray(".png");
+}
+
+void FileSaverTest::addsTheEndingOfTheKindThatIsMissing()
+{
+    QFETCH(const QByteArray, name);
+    QFETCH(const QByteArray, file);
+    save(name);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / file.toStdString());
+    QVERIFY(m_place->mayReplace);
+}
+
+void FileSaverTest::theEndingFollowsTheKindThatIsChosen()
+{
+    open();
+    auto *kinds = DialogFixture::dialog()->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
+    QTest::keyClick(kinds, Qt::Key_Down);
+    QCOMPARE(DialogFixture::nameField().text(), QStringLiteral("trend.svg"));
+    m_fixture->type("all");
+    DialogFixture::press(Qt::Key_Return);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / "all.svg");
+}
+
+void FileSaverTest::entersAFolderThatIsTyped_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("name") << QByteArray("sub");
+    QTest::newRow("with a slash") << QByteArray("sub/");
+    QTest::newRow("path") << QByteArray("$/sub");
+    QTest::newRow("from the home") << QByteArray("~/sub");
+}
+
+void FileSaverTest::entersAFolderThatIsTyped()
+{
+    QFETCH(const QByteArray, text);
+    save(text);
+    QVERIFY(!m_place);
+    QCOMPARE(DialogFixture::dialog()->directory().dirName(), QStringLiteral("sub"));
+    m_fixture->type("a.png");
+    DialogFixture::press(Qt::Key_Return);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / "sub" / "a.png");
+}
+
+void FileSaverTest::staysOpenWithoutAName()
+{
+    save("");
+    QVERIFY(!m_place);
+    QVERIFY(DialogFixture::dialog() != nullptr);
+}
+
+void FileSaverTest::replacesAFileOnlyWhenTheUserAgrees_data()
+{
+    QTest::addColumn<QByteArray>("typed");
+    QTest::newRow("whole name") << QByteArray("there.png");
+    QTest::newRow("without its ending") << QByteArray("there");
+}
+
+void FileSaverTest::replacesAFileOnlyWhenTheUserAgrees()
+{
+    QFETCH(const QByteArray, typed);
+    m_fixture->folder().write("there.png", "precious");
+    open();
+    m_fixture->type(typed);
+    const auto question = DialogFixture::pressEnterAndAnswer(QDialogButtonBox::No);
+    QCOMPARE(question.words,
+             QStringLiteral("there.png already exists.\nDo you want to replace it?"));
+    QVERIFY(!m_place);
+    (void)DialogFixture::pressEnterAndAnswer(QDialogButtonBox::Yes);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / "there.png");
+    QVERIFY(m_place->mayReplace);
+}
+
+void FileSaverTest::asksInPlainText()
+{
+    m_fixture->folder().write("<img src=x>.png", "precious");
+    open();
+    m_fixture->type("<img src=x>.png");
+    const auto question = DialogFixture::pressEnterAndAnswer(QDialogButtonBox::No);
+    QVERIFY(question.words.startsWith(QStringLiteral("<img src=x>.png ")));
+    QVERIFY(question.isPlain);
+}
+
+void FileSaverTest::givesNothingWhenTheUserCancels()
+{
+    open();
+    DialogFixture::press(Qt::Key_Escape);
+    QVERIFY(DialogFixture::dialog() == nullptr);
+    QVERIFY(!m_place);
+}
+
+void FileSaverTest::asksOnceAtATime()
+{
+    open();
+    m_saver->open({}, [](const FileSaver::Place &) { QFAIL("the first question is open"); });
+    DialogFixture::press(Qt::Key_Return);
+    QVERIFY(m_place);
+    QVERIFY(DialogFixture::dialog() == nullptr);
+}
+
+void FileSaverTest::opensInTheFolderItShowedLast()
+{
+    save("sub");
+    DialogFixture::press(Qt::Key_Escape);
+    open();
+    DialogFixture::press(Qt::Key_Return);
+    QVERIFY(m_place);
+    QCOMPARE(m_place->file, root() / "sub" / "trend.png");
+}
+
+void FileSaverTest::asksNobodyWithoutAWindow()
+{
+    platformFileSaver({})->open({}, [](const FileSaver::Place &) { QFAIL("asked"); });
+    QVERIFY(DialogFixture::dialog() == nullptr);
+}
+
+const RegisteredTest<FileSaverTest> registered("FileSaver");
+
+} // namespace Loadwick
+
+#include "FileSaverTest.moc"
