@@ -25,10 +25,10 @@ std::optional<ChildSupervision::Outcome> askShell(const std::string &shell, doub
                                                   .arguments = {"-lc", "command -v claude"},
                                                   .environment = currentEnvironment(),
                                                   .workingFolder = std::nullopt},
-                                      .timeoutSeconds = timeoutSeconds,
-                                      .killGraceSeconds = loginShellKillGraceSeconds,
-                                      .readerGraceSeconds = answerGraceSeconds,
-                                      .captureLimit = answerLimit,
+                                      .limits = {.timeoutSeconds = timeoutSeconds,
+                                                 .killGraceSeconds = loginShellKillGraceSeconds,
+                                                 .readerGraceSeconds = answerGraceSeconds,
+                                                 .captureLimit = answerLimit},
                                       .capture = ChildSupervision::Capture::standardOutputOnly,
                                       .shutdown = shutdown});
     } catch (const ChildSupervision::StartFailed &) {

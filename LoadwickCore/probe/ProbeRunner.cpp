@@ -1,6 +1,7 @@
 #include "probe/ProbeRunner.h"
 
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 #include "posix/FileSystem.h"
@@ -9,9 +10,10 @@
 #include "probe/ProbeOutputParser.h"
 #include "probe/SlabParser.h"
 #include "probe/TranscriptLocator.h"
-#include "probe/TranscriptSearch.h"
+#include "probe/TranscriptReader.h"
 #include "process/BoundedCall.h"
-#include "process/ChildSupervision.h"
+#include "process/Deadline.h"
+#include "text/Fatal.h"
 #include "text/PathText.h"
 #include "text/UnicodeText.h"
 #include "json/JsonReader.h"
@@ -34,7 +36,7 @@ struct Total
     TotalSource source;
 };
 
-// A home folder may lie on a disk that does not answer: nothing can be started from it then.
+// A home folder may be on a disk that does not answer; nothing can be started from it then.
 bool isExecutableWithinLimit(const std::string &path)
 {
     constexpr std::chrono::seconds limit(30);
@@ -53,8 +55,8 @@ std::string decoded(std::optional<std::string> bytes)
     return bytes && isUtf8(*bytes) ? std::move(*bytes) : std::string();
 }
 
-// Streams that did not end may lack anything. A session that was asked to stop may still have ended
-// with a complete record, and what that says passes through; a partial one says nothing.
+// Streams that did not end may be cut anywhere. A session that was asked to stop may still have
+// printed a complete record, which then counts; a partial one means a time-out.
 ProbeOutput parsed(const Execution &execution)
 {
     try {
@@ -69,7 +71,7 @@ ProbeOutput parsed(const Execution &execution)
     }
 }
 
-// The command's own usage block accumulates across turns: of a longer session it counts cached
+// The command's own usage block accumulates across turns: in a longer session it counts cached
 // tokens several times.
 Total singleTurnTotal(const std::optional<ProbeUsage> &usage, std::string_view standardOutput,
                       const std::filesystem::path &projectsRoot)
@@ -82,6 +84,35 @@ Total singleTurnTotal(const std::optional<ProbeUsage> &usage, std::string_view s
     if (*turns >= 2)
         throw ProbeError::multiTurnUsageOnly(*turns);
     return {usage->startupTotal(), TotalSource::cliUsage};
+}
+
+std::chrono::duration<double> retryDelay(const ProbeRunner::Settings &settings)
+{
+    const double seconds = settings.transcriptRetryDelay;
+    if (!std::isfinite(seconds) || seconds < 0)
+        fatalError("the delay between transcript attempts is no duration");
+    return std::chrono::duration<double>(seconds);
+}
+
+std::optional<ProbeUsage> attempt(const ProbeRunner::Settings &settings,
+                                  const std::string &sessionID)
+{
+    const auto path =
+        TranscriptLocator::find(sessionID, settings.projectsRoot, *settings.fileSystem);
+    return path ? TranscriptReader::firstAssistantUsageAtPath(*path) : std::nullopt;
+}
+
+std::optional<ProbeUsage> search(const ProbeRunner::Settings &settings,
+                                 const std::string &sessionID, Deadline deadline)
+{
+    std::optional<ProbeUsage> usage = attempt(settings, sessionID);
+    for (int made = 1; !usage && made < settings.transcriptRetries; ++made) {
+        if (settings.shutdown->waitFor(retryDelay(settings)) ||
+            std::chrono::steady_clock::now() >= deadline)
+            return std::nullopt;
+        usage = attempt(settings, sessionID);
+    }
+    return usage;
 }
 
 } // namespace
@@ -105,18 +136,24 @@ ProbeRunner::Settings ProbeRunner::userSettings(const Environment &environment,
     return settings;
 }
 
-ProbeRunner::ProbeRunner(Settings settings) : m_settings(std::move(settings))
+ProbeRunner::ProbeRunner(Settings settings)
 {
-    if (!m_settings.shutdown)
-        m_settings.shutdown = std::make_shared<Shutdown>();
+    if (!settings.shutdown)
+        settings.shutdown = std::make_shared<Shutdown>();
+    m_settings = std::make_shared<const Settings>(std::move(settings));
 }
 
 ProbeResult ProbeRunner::run(const std::filesystem::path &repository)
 {
     const std::string cli =
-        ClaudeCLILocator::resolve(m_settings.cliOverride, m_settings.home, m_settings.lookup);
+        ClaudeCLILocator::resolve(m_settings->cliOverride, m_settings->home, m_settings->lookup);
     const auto start = std::chrono::steady_clock::now();
-    const Execution execution = execute(launch(cli, repository));
+    const Execution execution = execute({.cli = cli,
+                                         .repository = repository,
+                                         .environment = ProbeEnvironment::childEnvironment(
+                                             m_settings->environment, m_settings->workingDirectory),
+                                         .limits = m_settings->limits,
+                                         .shutdown = m_settings->shutdown});
     if (execution.timedOut)
         throw ProbeError::timedOut();
     const ProbeOutput output = parsed(execution);
@@ -126,7 +163,7 @@ ProbeResult ProbeRunner::run(const std::filesystem::path &repository)
     const std::optional<ProbeUsage> usage = transcriptUsage(output.sessionID);
     const Total total =
         usage ? Total{usage->startupTotal(), TotalSource::transcript}
-              : singleTurnTotal(output.usage, execution.standardOutput, m_settings.projectsRoot);
+              : singleTurnTotal(output.usage, execution.standardOutput, m_settings->projectsRoot);
     return {output.sessionID, total.tokens,     total.source,
             std::move(slabs), duration.count(), repairedUtf8(cli)};
 }
@@ -141,10 +178,7 @@ Execution ProbeRunner::execute(const Launch &launch)
     try {
         ChildSupervision::Outcome outcome = ChildSupervision::run(
             {.command = {launch.cli, launch.arguments, launch.environment, launch.repository},
-             .timeoutSeconds = launch.timeoutSeconds,
-             .killGraceSeconds = launch.killGraceSeconds,
-             .readerGraceSeconds = launch.readerGraceSeconds,
-             .captureLimit = launch.captureLimit,
+             .limits = launch.limits,
              .shutdown = launch.shutdown});
         return {.exitCode = outcome.ending.status,
                 .standardOutput = decoded(std::move(outcome.standardOutput)),
@@ -163,34 +197,15 @@ std::optional<std::int64_t> ProbeRunner::reportedTurns(std::string_view standard
     return record ? exactInteger(member(*record, "num_turns")) : std::nullopt;
 }
 
-ProbeRunner::Launch ProbeRunner::launch(const std::string &cli,
-                                        const std::filesystem::path &repository) const
-{
-    Launch launch;
-    launch.cli = cli;
-    launch.repository = repository;
-    launch.timeoutSeconds = m_settings.timeoutSeconds;
-    launch.killGraceSeconds = m_settings.killGraceSeconds;
-    launch.readerGraceSeconds = m_settings.readerGraceSeconds;
-    launch.environment =
-        ProbeEnvironment::childEnvironment(m_settings.environment, m_settings.workingDirectory);
-    launch.captureLimit = m_settings.captureLimit;
-    launch.shutdown = m_settings.shutdown;
-    return launch;
-}
-
-// A thread of its own, since a disk may not answer; the search owns all that it touches.
+// On a thread of its own, since a disk may not answer: the search shares all that it touches.
 std::optional<ProbeUsage> ProbeRunner::transcriptUsage(const std::string &sessionID) const
 {
-    const TranscriptSearch search{.sessionID = sessionID,
-                                  .projectsRoot = m_settings.projectsRoot,
-                                  .fileSystem = m_settings.fileSystem,
-                                  .shutdown = m_settings.shutdown,
-                                  .attempts = m_settings.transcriptRetries,
-                                  .delaySeconds = m_settings.transcriptRetryDelay,
-                                  .deadline = deadlineAfter(m_settings.transcriptSearchSeconds)};
-    const std::chrono::duration<double> limit(m_settings.transcriptSearchSeconds);
-    return callWithin(limit, [search] { return search.run(); }).value_or(std::nullopt);
+    const double seconds = m_settings->transcriptSearchSeconds;
+    return callWithin(std::chrono::duration<double>(seconds),
+                      [settings = m_settings, sessionID, deadline = deadlineAfter(seconds)] {
+                          return search(*settings, sessionID, deadline);
+                      })
+        .value_or(std::nullopt);
 }
 
 } // namespace Loadwick

@@ -14,6 +14,7 @@
 #include "probe/ClaudeCLILocator.h"
 #include "probe/ProbeRunning.h"
 #include "probe/ProbeUsage.h"
+#include "process/ChildSupervision.h"
 #include "process/Shutdown.h"
 
 namespace Loadwick {
@@ -39,7 +40,11 @@ public:
     static constexpr double defaultTimeoutSeconds = 300.0;
     static constexpr double defaultKillGraceSeconds = 5.0;
     static constexpr double defaultReaderGraceSeconds = 5.0;
-    static constexpr std::size_t defaultCaptureLimit = std::size_t{1} << 30;
+    static constexpr ChildSupervision::Limits defaultLimits{
+        .timeoutSeconds = defaultTimeoutSeconds,
+        .killGraceSeconds = defaultKillGraceSeconds,
+        .readerGraceSeconds = defaultReaderGraceSeconds,
+        .captureLimit = std::size_t{1} << 30};
 
     /// The session's prompt.
     static const std::string_view probePrompt;
@@ -49,18 +54,15 @@ public:
         std::optional<std::string> cliOverride;
         std::string home;
         std::filesystem::path projectsRoot;
-        Environment environment;                ///< what the child's environment is made from
-        std::filesystem::path workingDirectory; ///< against which its relative folders stand
+        Environment environment; ///< the program's own, of which the child inherits a part
+        std::filesystem::path workingDirectory; ///< resolves the environment's relative folders
         ClaudeCLILocator::Lookup lookup;
         std::shared_ptr<const FileSystem> fileSystem;
         std::shared_ptr<Shutdown> shutdown;
         int transcriptRetries = 12;            ///< attempts; fewer than 1 count as 1
-        double transcriptRetryDelay = 0.4;     ///< seconds before every attempt but the first
+        double transcriptRetryDelay = 0.4;     ///< seconds; negative or not finite is fatal
         double transcriptSearchSeconds = 30.0; ///< then there is no transcript
-        double timeoutSeconds = defaultTimeoutSeconds;
-        double killGraceSeconds = defaultKillGraceSeconds;
-        double readerGraceSeconds = defaultReaderGraceSeconds;
-        std::size_t captureLimit = defaultCaptureLimit; ///< bytes kept of each stream
+        ChildSupervision::Limits limits = defaultLimits;
     };
 
     /// The settings of the running program: the user's own home, environment, disk and login shell.
@@ -79,12 +81,9 @@ public:
     {
         std::string cli;
         std::filesystem::path repository; ///< its working folder
-        double timeoutSeconds = defaultTimeoutSeconds;
-        double killGraceSeconds = defaultKillGraceSeconds;     ///< between SIGTERM and SIGKILL
-        double readerGraceSeconds = defaultReaderGraceSeconds; ///< for the streams, after its end
-        Environment environment;                               ///< the child's own, complete
+        Environment environment;          ///< the child's own, complete
         std::vector<std::string> arguments = ProbeRunner::arguments();
-        std::size_t captureLimit = defaultCaptureLimit; ///< bytes kept of each stream
+        ChildSupervision::Limits limits = defaultLimits;
         std::shared_ptr<Shutdown> shutdown;
     };
 
@@ -96,12 +95,13 @@ public:
     /// "num_turns" of the result record, when there is one and it is an exact integer.
     [[nodiscard]] static std::optional<std::int64_t> reportedTurns(std::string_view standardOutput);
 
-private:
-    [[nodiscard]] Launch launch(const std::string &cli,
-                                const std::filesystem::path &repository) const;
+    /// The usage of the session's first assistant message. The command may still be writing its
+    /// transcript, so it is looked for several times. Nothing when no attempt yields a usage, or
+    /// when the search limit passes or the program's end is requested first. Blocking.
     [[nodiscard]] std::optional<ProbeUsage> transcriptUsage(const std::string &sessionID) const;
 
-    Settings m_settings;
+private:
+    std::shared_ptr<const Settings> m_settings; ///< shared with searches that outlast their limit
 };
 
 } // namespace Loadwick

@@ -63,9 +63,9 @@ bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &bo
 // child that is stuck inside the system would block the caller for ever.
 bool stopAtTimeout(const ChildProcess &child, const Request &request, const OutputBox &box)
 {
-    if (endsBefore(deadlineAfter(request.timeoutSeconds), child, box))
+    if (endsBefore(deadlineAfter(request.limits.timeoutSeconds), child, box))
         return false;
-    ProcessTermination::terminateThenKill(child, request.killGraceSeconds);
+    ProcessTermination::terminateThenKill(child, request.limits.killGraceSeconds);
     (void)child.waitUntil(deadlineAfter(ChildProcess::survivalSeconds));
     return true;
 }
@@ -83,13 +83,13 @@ ChildProcess::Ending endingOf(ChildProcess child)
 
 Outcome run(const Request &request)
 {
-    StreamReaders readers(request.captureLimit);
+    StreamReaders readers(request.limits.captureLimit);
     StartedChild child = start(request);
     startReaders(readers, child);
 
     Outcome outcome;
     outcome.terminationRequested = stopAtTimeout(child.process, request, readers.box());
-    outcome.readersTimedOut = !readers.finish(request.readerGraceSeconds);
+    outcome.readersTimedOut = !readers.finish(request.limits.readerGraceSeconds);
     if (outcome.terminationRequested)
         ProcessTermination::sweepGroup(child.process);
     outcome.ending = endingOf(std::move(child.process));

@@ -18,13 +18,18 @@ enum class Capture
     standardOutputOnly ///< standard error goes to the null device
 };
 
-struct Request
+struct Limits
 {
-    ChildCommand command;
     double timeoutSeconds;
     double killGraceSeconds;   ///< between SIGTERM and SIGKILL
     double readerGraceSeconds; ///< for the streams, after the child's end
     std::size_t captureLimit;  ///< bytes kept of each stream
+};
+
+struct Request
+{
+    ChildCommand command;
+    Limits limits;
     Capture capture = Capture::bothStreams;
     std::shared_ptr<Shutdown> shutdown; ///< may be null
 };
@@ -45,7 +50,7 @@ public:
     using std::system_error::system_error;
 };
 
-/// Blocking, for at most all durations of `request`, a second for the readers,
+/// Blocking, for at most all durations of the limits, a second for the readers,
 /// `ChildProcess::survivalSeconds` and `ProcessTermination::sweepGraceSeconds` together. Throws
 /// `StartFailed`, and `std::system_error` or `std::bad_alloc` when threads or memory run out; the
 /// child is then killed at once.

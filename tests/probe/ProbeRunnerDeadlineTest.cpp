@@ -56,9 +56,9 @@ std::optional<ProbeError> errorOf(const Run &run)
     settings.transcriptRetries = 2;
     settings.transcriptRetryDelay = run.transcriptRetryDelay;
     settings.transcriptSearchSeconds = run.transcriptSearchSeconds;
-    settings.timeoutSeconds = run.timeoutSeconds;
-    settings.killGraceSeconds = 10;
-    settings.readerGraceSeconds = 0.2;
+    settings.limits.timeoutSeconds = run.timeoutSeconds;
+    settings.limits.killGraceSeconds = 10;
+    settings.limits.readerGraceSeconds = 0.2;
     try {
         (void)ProbeRunner(settings).run(folder.path());
     } catch (const ProbeError &error) {

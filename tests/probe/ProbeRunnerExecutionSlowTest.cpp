@@ -45,7 +45,8 @@ void runEveryQuickKind()
                                                       {"missing"}};
     for (const std::vector<std::string> &kind : kinds) {
         ProbeRunner::Launch launch = hostileLaunch(kind);
-        launch.timeoutSeconds = launch.killGraceSeconds = launch.readerGraceSeconds = 0.05;
+        launch.limits.timeoutSeconds = launch.limits.killGraceSeconds =
+            launch.limits.readerGraceSeconds = 0.05;
         const Stopwatch watch;
         (void)ProbeRunner::execute(launch);
         EXPECT_LT(watch.seconds(), longestSeconds(launch)) << kind.front();
@@ -59,7 +60,7 @@ TEST(ProbeRunnerExecutionSlowTest, capturesOneGibibyteOfBothStreams)
     if (isSanitized || availableMemory() < 5 * gibibyte)
         GTEST_SKIP() << "needs 5 GiB of memory and no sanitizer";
     ProbeRunner::Launch launch = hostileLaunch({"flood", std::to_string(gibibyte)});
-    launch.timeoutSeconds = 100;
+    launch.limits.timeoutSeconds = 100;
     const Execution execution = ProbeRunner::execute(launch);
     EXPECT_EQ(execution.standardOutput.size(), gibibyte);
     EXPECT_EQ(execution.standardError.size(), gibibyte);
@@ -71,7 +72,7 @@ TEST(ProbeRunnerExecutionSlowTest, endsInTimeWhileAFloodStillComes)
     if (isSanitized)
         GTEST_SKIP() << "needs no sanitizer";
     ProbeRunner::Launch launch = hostileLaunch({"flood", std::to_string(8 * gibibyte)});
-    launch.captureLimit = 8 * mebibyte;
+    launch.limits.captureLimit = 8 * mebibyte;
     const Stopwatch watch;
     const Execution execution = ProbeRunner::execute(launch);
     EXPECT_LT(watch.seconds(), longestSeconds(launch));
@@ -123,7 +124,7 @@ TEST(ProbeRunnerExecutionSlowTest, takesLittleMoreMemoryThanWhatItCaptures)
     launch.cli = folder.writeScript("claude", "#!/bin/sh\ncat '" + folder.path().string() +
                                                   "/record'\nsleep 1\n");
     launch.environment = {{"PATH", "/usr/bin:/bin"}};
-    launch.timeoutSeconds = 100;
+    launch.limits.timeoutSeconds = 100;
     const PeakMemory memory;
     const Execution execution = ProbeRunner::execute(launch);
     const std::size_t capturing = memory.growthInBytes();

@@ -25,7 +25,7 @@ Execution executeInTime(const ProbeRunner::Launch &launch)
 ProbeRunner::Launch patientLaunch(std::vector<std::string> arguments)
 {
     ProbeRunner::Launch launch = hostileLaunch(std::move(arguments));
-    launch.timeoutSeconds = 30;
+    launch.limits.timeoutSeconds = 30;
     return launch;
 }
 
@@ -66,16 +66,16 @@ TEST(ProbeRunnerExecutionTest, capturesMoreThanAPipeHoldsWhileBothStreamsFlood)
 TEST(ProbeRunnerExecutionTest, keepsAStreamOfExactlyTheCaptureLimit)
 {
     ProbeRunner::Launch launch = patientLaunch({"flood", "8388608"});
-    launch.captureLimit = 8'388'608;
+    launch.limits.captureLimit = 8'388'608;
     const Execution execution = executeInTime(launch);
-    EXPECT_EQ(execution.standardOutput.size(), launch.captureLimit);
-    EXPECT_EQ(execution.standardError.size(), launch.captureLimit);
+    EXPECT_EQ(execution.standardOutput.size(), launch.limits.captureLimit);
+    EXPECT_EQ(execution.standardError.size(), launch.limits.captureLimit);
 }
 
 TEST(ProbeRunnerExecutionTest, drainsAStreamBeyondTheCaptureLimitAndTakesItForUndecodable)
 {
     ProbeRunner::Launch launch = patientLaunch({"flood", "12000000"});
-    launch.captureLimit = 8'388'608;
+    launch.limits.captureLimit = 8'388'608;
     EXPECT_EQ(executeInTime(launch), Execution{});
 }
 
@@ -122,7 +122,7 @@ TEST(ProbeRunnerExecutionTest, killsAChildThatStoppedItself)
 TEST(ProbeRunnerExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfterTheTimeout)
 {
     ProbeRunner::Launch launch = hostileLaunch({"trap-term", "143"});
-    launch.killGraceSeconds = 5;
+    launch.limits.killGraceSeconds = 5;
     const Execution execution = executeInTime(launch);
     EXPECT_FALSE(execution.timedOut);
     EXPECT_TRUE(execution.terminationRequested);
@@ -154,7 +154,7 @@ TEST(ProbeRunnerExecutionTest, stopsReadingWhenABackgroundProcessKeepsTheOutputO
 TEST(ProbeRunnerExecutionTest, waitsForABackgroundProcessThatEndsWithinTheReaderGrace)
 {
     ProbeRunner::Launch launch = patientLaunch({"grandchild", "50"});
-    launch.readerGraceSeconds = 20;
+    launch.limits.readerGraceSeconds = 20;
     const Execution execution = executeInTime(launch);
     EXPECT_FALSE(execution.readersTimedOut);
     EXPECT_EQ(execution.standardOutput, "early\nlate\n");

@@ -27,9 +27,9 @@ public:
         settings.shutdown = std::make_shared<Shutdown>();
         settings.transcriptRetries = 2;
         settings.transcriptRetryDelay = 0.01;
-        settings.timeoutSeconds = 30;
-        settings.killGraceSeconds = 0.2;
-        settings.readerGraceSeconds = 0.2;
+        settings.limits.timeoutSeconds = 30;
+        settings.limits.killGraceSeconds = 0.2;
+        settings.limits.readerGraceSeconds = 0.2;
     }
 
     void commandRuns(const std::string &script) const
@@ -248,7 +248,7 @@ TEST(ProbeRunnerTest, usesATranscriptThatIsWrittenLate)
 {
     Setting setting;
     setting.settings.transcriptRetries = 200;
-    setting.settings.readerGraceSeconds = 20;
+    setting.settings.limits.readerGraceSeconds = 20;
     setting.commandRuns("mkdir -p \"$ROOT/projects/p\"\n"
                         "(sleep 0.2; cp \"$ROOT/late\" \"$ROOT/projects/p/abc.jsonl\") "
                         ">/dev/null 2>&1 &\ncat \"$ROOT/record.json\"\n");

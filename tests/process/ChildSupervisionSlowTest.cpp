@@ -21,10 +21,10 @@ TEST(ChildSupervisionSlowTest, killsItsChildAtOnceWhenThereIsNoMemoryForItsOutpu
     const TemporaryFolder folder;
     const std::string mark = folder.path().string() + "/may-print";
     ChildSupervision::Request request{.command = {{}, {}, {}, std::nullopt},
-                                      .timeoutSeconds = 30,
-                                      .killGraceSeconds = 0.1,
-                                      .readerGraceSeconds = 0.1,
-                                      .captureLimit = std::size_t{1} << 30U,
+                                      .limits = {.timeoutSeconds = 30,
+                                                 .killGraceSeconds = 0.1,
+                                                 .readerGraceSeconds = 0.1,
+                                                 .captureLimit = std::size_t{1} << 30U},
                                       .capture = ChildSupervision::Capture::bothStreams,
                                       .shutdown = nullptr};
     request.command.executable = folder.writeScript(

@@ -21,10 +21,10 @@ namespace {
 ChildSupervision::Request hostileRequest(std::vector<std::string> arguments)
 {
     return {.command = {hostileChildPath(), std::move(arguments), {}, std::nullopt},
-            .timeoutSeconds = 30,
-            .killGraceSeconds = 0.1,
-            .readerGraceSeconds = 0.1,
-            .captureLimit = 1000,
+            .limits = {.timeoutSeconds = 30,
+                       .killGraceSeconds = 0.1,
+                       .readerGraceSeconds = 0.1,
+                       .captureLimit = 1000},
             .capture = ChildSupervision::Capture::bothStreams,
             .shutdown = nullptr};
 }

@@ -23,10 +23,10 @@ ChildCommand hostileCommand(std::vector<std::string> arguments)
 std::string described(ChildCommand command)
 {
     return ChildSupervision::run({.command = std::move(command),
-                                  .timeoutSeconds = 30,
-                                  .killGraceSeconds = 0.2,
-                                  .readerGraceSeconds = 5,
-                                  .captureLimit = 100'000,
+                                  .limits = {.timeoutSeconds = 30,
+                                             .killGraceSeconds = 0.2,
+                                             .readerGraceSeconds = 5,
+                                             .captureLimit = 100'000},
                                   .capture = ChildSupervision::Capture::bothStreams,
                                   .shutdown = nullptr})
         .standardOutput.value();

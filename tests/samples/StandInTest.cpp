@@ -34,8 +34,8 @@ protected:
     {
         ProbeRunner::Settings settings = Confinement::runnerSettings(home.path(), shutdown);
         settings.transcriptRetries = 1;
-        settings.killGraceSeconds = 0.2;
-        settings.readerGraceSeconds = 0.5;
+        settings.limits.killGraceSeconds = 0.2;
+        settings.limits.readerGraceSeconds = 0.5;
         return settings;
     }
 
@@ -145,7 +145,7 @@ TEST_F(StandInTest, hangsUntilTheTimeOut)
     for (const char *outcome : {"hang", "stubborn"}) {
         standIn.play({.outcome = outcome});
         ProbeRunner::Settings impatient = settings();
-        impatient.timeoutSeconds = 0.3;
+        impatient.limits.timeoutSeconds = 0.3;
         EXPECT_EQ(failure(impatient), ProbeError::timedOut()) << outcome;
         EXPECT_NE(kill(standIn.runs().back(), 0), 0) << outcome;
     }
@@ -156,7 +156,7 @@ TEST_F(StandInTest, runsWhileItIsHeld)
     standIn.play({.outcome = "usage"});
     standIn.hold();
     ProbeRunner::Settings impatient = settings();
-    impatient.timeoutSeconds = 0.3;
+    impatient.limits.timeoutSeconds = 0.3;
     EXPECT_EQ(failure(impatient), ProbeError::timedOut());
     standIn.release();
     EXPECT_EQ(failure(settings()), std::nullopt);

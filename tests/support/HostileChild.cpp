@@ -19,9 +19,9 @@ ProbeRunner::Launch hostileLaunch(std::vector<std::string> verbAndArguments)
     ProbeRunner::Launch launch;
     launch.cli = hostileChildPath();
     launch.repository = "/";
-    launch.timeoutSeconds = 0.3;
-    launch.killGraceSeconds = 0.2;
-    launch.readerGraceSeconds = 0.2;
+    launch.limits.timeoutSeconds = 0.3;
+    launch.limits.killGraceSeconds = 0.2;
+    launch.limits.readerGraceSeconds = 0.2;
     launch.arguments = std::move(verbAndArguments);
     return launch;
 }
@@ -42,7 +42,8 @@ ChildProcess startHostileChild(std::vector<std::string> verbAndArguments,
 
 double longestSeconds(const ProbeRunner::Launch &launch)
 {
-    return launch.timeoutSeconds + launch.killGraceSeconds + launch.readerGraceSeconds + 1.5;
+    return launch.limits.timeoutSeconds + launch.limits.killGraceSeconds +
+           launch.limits.readerGraceSeconds + 1.5;
 }
 
 } // namespace Loadwick

@@ -24,7 +24,6 @@
 #include "probe/SlabParser.h"
 #include "probe/TranscriptLocator.h"
 #include "probe/TranscriptReader.h"
-#include "probe/TranscriptSearch.h"
 #include "report/InstructionFileScanner.h"
 #include "report/SlabAttributor.h"
 #include "report/TreemapLayout.h"
@@ -79,13 +78,12 @@ std::int64_t search(Words words)
 
 std::int64_t attempts(Words words)
 {
-    const TranscriptSearch search{.sessionID = words[1],
-                                  .projectsRoot = words[0],
-                                  .fileSystem = std::make_shared<PosixFileSystem>(),
-                                  .shutdown = std::make_shared<Shutdown>(),
-                                  .attempts = std::stoi(words[2]),
-                                  .delaySeconds = 0};
-    const std::optional<ProbeUsage> usage = search.run();
+    ProbeRunner::Settings settings;
+    settings.projectsRoot = words[0];
+    settings.fileSystem = std::make_shared<PosixFileSystem>();
+    settings.transcriptRetries = std::stoi(words[2]);
+    settings.transcriptRetryDelay = 0;
+    const auto usage = ProbeRunner(settings).transcriptUsage(words[1]);
     return usage ? usage->startupTotal() : 0;
 }
 

@@ -51,9 +51,9 @@ ProbeRunner::Settings runnerSettings(const fs::path &home, double timeoutSeconds
                                      std::shared_ptr<Shutdown> shutdown)
 {
     ProbeRunner::Settings settings = Confinement::runnerSettings(home, std::move(shutdown));
-    settings.timeoutSeconds = timeoutSeconds;
-    settings.killGraceSeconds = 0.2;
-    settings.readerGraceSeconds = 0.5;
+    settings.limits.timeoutSeconds = timeoutSeconds;
+    settings.limits.killGraceSeconds = 0.2;
+    settings.limits.readerGraceSeconds = 0.5;
     settings.transcriptRetries = 2;
     settings.transcriptRetryDelay = 0.05;
     return settings;

@@ -23,7 +23,7 @@ Loadwick::ProbeRunner::Settings settingsIn(const fs::path &home)
     auto settings = Loadwick::ProbeRunner::userSettings(Loadwick::currentEnvironment(), nullptr);
     settings.transcriptRetries = 3;
     settings.transcriptRetryDelay = 0.001;
-    settings.timeoutSeconds = 20;
+    settings.limits.timeoutSeconds = 20;
     settings.lookup.isExecutable = [home, search = settings.lookup.isExecutable](const auto &path) {
         return path.starts_with(home.native() + "/") && search(path);
     };

@@ -1,5 +1,6 @@
-#include "probe/TranscriptSearch.h"
+#include "probe/ProbeRunner.h"
 
+#include <atomic>
 #include <cmath>
 #include <limits>
 #include <thread>
@@ -36,44 +37,45 @@ private:
     std::function<void()> m_listing;
 };
 
-TranscriptSearch searchUnder(const std::filesystem::path &root, int attempts, double delaySeconds)
+ProbeRunner::Settings searching(const std::filesystem::path &root, int attempts, double delaySeconds)
 {
-    return {"session",
-            root,
-            std::make_shared<PosixFileSystem>(),
-            std::make_shared<Shutdown>(),
-            attempts,
-            delaySeconds,
-            Deadline::max()};
+    ProbeRunner::Settings settings;
+    settings.projectsRoot = root;
+    settings.fileSystem = std::make_shared<PosixFileSystem>();
+    settings.shutdown = std::make_shared<Shutdown>();
+    settings.transcriptRetries = attempts;
+    settings.transcriptRetryDelay = delaySeconds;
+    settings.transcriptSearchSeconds = 120;
+    return settings;
 }
 
-TranscriptSearch searchIn(const TemporaryFolder &folder, int attempts, double delaySeconds)
+std::optional<ProbeUsage> usageBy(const ProbeRunner::Settings &settings)
 {
-    return searchUnder(folder.path(), attempts, delaySeconds);
+    return ProbeRunner(settings).transcriptUsage("session");
 }
 
 int attemptsMade(int attempts)
 {
     const TemporaryFolder folder;
     int made = 0;
-    TranscriptSearch search = searchIn(folder, attempts, 0);
+    ProbeRunner::Settings search = searching(folder.path(), attempts, 0);
     search.fileSystem = std::make_shared<ObservedFileSystem>([&] { ++made; });
-    EXPECT_EQ(search.run(), std::nullopt);
+    EXPECT_EQ(usageBy(search), std::nullopt);
     return made;
 }
 
 } // namespace
 
-TEST(TranscriptSearchTest, findsATranscriptAtOnce)
+TEST(ProbeRunnerSearchTest, findsATranscriptAtOnce)
 {
     const TemporaryFolder folder;
     folder.write("project/session.jsonl", assistantLine);
     const Stopwatch watch;
-    EXPECT_EQ(searchIn(folder, 12, 60).run(), (ProbeUsage{7, 0, 0, 0}));
+    EXPECT_EQ(usageBy(searching(folder.path(), 12, 60)), (ProbeUsage{7, 0, 0, 0}));
     EXPECT_LT(watch.seconds(), 30);
 }
 
-TEST(TranscriptSearchTest, triesAsOftenAsItIsTold)
+TEST(ProbeRunnerSearchTest, triesAsOftenAsItIsTold)
 {
     EXPECT_EQ(attemptsMade(3), 3);
     EXPECT_EQ(attemptsMade(1), 1);
@@ -81,68 +83,70 @@ TEST(TranscriptSearchTest, triesAsOftenAsItIsTold)
     EXPECT_EQ(attemptsMade(-4), 1);
 }
 
-TEST(TranscriptSearchTest, usesATranscriptThatIsFirstFoundOnTheFifthAttempt)
+TEST(ProbeRunnerSearchTest, usesATranscriptThatIsFirstFoundOnTheFifthAttempt)
 {
     const TemporaryFolder folder;
     int made = 0;
-    TranscriptSearch search = searchIn(folder, 12, 0.02);
+    ProbeRunner::Settings search = searching(folder.path(), 12, 0.02);
     search.fileSystem = std::make_shared<ObservedFileSystem>([&] {
         if (++made == 5)
             folder.write("session.jsonl", assistantLine);
     });
     const Stopwatch watch;
-    EXPECT_EQ(search.run(), (ProbeUsage{7, 0, 0, 0}));
+    EXPECT_EQ(usageBy(search), (ProbeUsage{7, 0, 0, 0}));
     EXPECT_EQ(made, 5);
     EXPECT_GE(watch.seconds(), 4 * 0.02);
 }
 
-TEST(TranscriptSearchTest, triesAgainWhileTheTranscriptHoldsNoUsage)
+TEST(ProbeRunnerSearchTest, triesAgainWhileTheTranscriptHoldsNoUsage)
 {
     const TemporaryFolder folder;
     folder.write("session.jsonl", userLine);
     int made = 0;
-    TranscriptSearch search = searchIn(folder, 12, 0.001);
+    ProbeRunner::Settings search = searching(folder.path(), 12, 0.001);
     search.fileSystem = std::make_shared<ObservedFileSystem>([&] {
         if (++made == 3)
             folder.write("session.jsonl", std::string(userLine) + std::string(assistantLine));
     });
-    EXPECT_EQ(search.run(), (ProbeUsage{7, 0, 0, 0}));
+    EXPECT_EQ(usageBy(search), (ProbeUsage{7, 0, 0, 0}));
     EXPECT_EQ(made, 3);
 }
 
-TEST(TranscriptSearchTest, endsBetweenTwoAttemptsWhenTheProgramDoes)
+TEST(ProbeRunnerSearchTest, endsBetweenTwoAttemptsWhenTheProgramDoes)
 {
     const TemporaryFolder folder;
-    const TranscriptSearch search = searchIn(folder, 12, 60);
+    ProbeRunner::Settings search = searching(folder.path(), 12, 60);
     std::thread quitting([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         search.shutdown->request();
     });
     const Stopwatch watch;
-    EXPECT_EQ(search.run(), std::nullopt);
+    EXPECT_EQ(usageBy(search), std::nullopt);
     EXPECT_LT(watch.seconds(), 30);
     quitting.join();
 }
 
-TEST(TranscriptSearchTest, beginsNoAttemptAfterItsDeadline)
+TEST(ProbeRunnerSearchTest, beginsNoAttemptAfterItsLimit)
 {
     const TemporaryFolder folder;
-    int made = 0;
-    TranscriptSearch search = searchIn(folder, 1'000'000, 0.01);
-    search.fileSystem = std::make_shared<ObservedFileSystem>([&] { ++made; });
-    search.deadline = deadlineAfter(0);
-    EXPECT_EQ(search.run(), std::nullopt);
-    EXPECT_EQ(made, 1);
+    const auto made = std::make_shared<std::atomic<int>>(0);
+    ProbeRunner::Settings search = searching(folder.path(), 1'000'000, 0.01);
+    search.fileSystem = std::make_shared<ObservedFileSystem>([made] { ++*made; });
+    search.transcriptSearchSeconds = 0;
+    EXPECT_EQ(usageBy(search), std::nullopt);
+    // The search continues alone until it sees that its time is up.
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_LE(*made, 1);
 }
 
-TEST(TranscriptSearchTest, endsTheProgramOnADelayThatIsNoDuration)
+TEST(ProbeRunnerSearchTest, endsTheProgramOnADelayThatIsNoDuration)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     // No folder of its own: a program that dies leaves it behind.
-    EXPECT_DEATH((void)searchUnder("/nowhere", 2, -0.1).run(), "is no duration");
-    EXPECT_DEATH((void)searchUnder("/nowhere", 2, std::nan("")).run(), "is no duration");
+    EXPECT_DEATH((void)usageBy(searching("/nowhere", 2, -0.1)), "is no duration");
+    EXPECT_DEATH((void)usageBy(searching("/nowhere", 2, std::nan(""))), "is no duration");
     const double infinity = std::numeric_limits<double>::infinity();
-    EXPECT_DEATH((void)searchUnder("/nowhere", 2, infinity).run(), "is no duration");
+    EXPECT_DEATH((void)usageBy(searching("/nowhere", 2, infinity)), "is no duration");
 }
 
 } // namespace Loadwick
