@@ -4,13 +4,13 @@ namespace Loadwick {
 
 namespace {
 
-struct Words
+struct SourceWords
 {
     std::string_view rawValue;
     std::string_view label;
 };
 
-Words wordsOf(TotalSource source) noexcept
+SourceWords wordsOf(TotalSource source) noexcept
 {
     switch (source) {
     case TotalSource::transcript:

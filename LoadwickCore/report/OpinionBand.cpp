@@ -9,13 +9,13 @@ namespace Loadwick {
 
 namespace {
 
-struct Words
+struct BandWords
 {
     std::string_view rawValue;
     std::string_view title;
 };
 
-Words wordsOf(OpinionBand band) noexcept
+BandWords wordsOf(OpinionBand band) noexcept
 {
     switch (band) {
     case OpinionBand::lean:

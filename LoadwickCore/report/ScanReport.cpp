@@ -20,13 +20,13 @@ std::int64_t tokensFrom(Provenance provenance, const std::vector<SlabAttribution
     return tokens;
 }
 
-struct Words
+struct SourceWords
 {
     std::string_view rawValue;
     std::string_view sentence;
 };
 
-Words wordsOf(OverAttributionSource source) noexcept
+SourceWords wordsOf(OverAttributionSource source) noexcept
 {
     switch (source) {
     case OverAttributionSource::selfReported:

@@ -14,13 +14,13 @@ namespace Loadwick {
 
 namespace {
 
-struct Words
+struct ProvenanceWords
 {
     std::string_view rawValue;
     std::string_view sourceLabel;
 };
 
-Words wordsOf(Provenance provenance) noexcept
+ProvenanceWords wordsOf(Provenance provenance) noexcept
 {
     switch (provenance) {
     case Provenance::claudeReported:

@@ -166,7 +166,7 @@ TEST(ProbeOutputParserTest, needsASessionIdentifier)
 TEST(ProbeOutputParserTest, shortensUnreadableOutput)
 {
     EXPECT_EQ(errorOf(std::string(501, 'x'), "", 0),
-              ProbeError::unreadableOutput(std::string(500, 'x') + "…"));
+              ProbeError::unreadableOutput(std::string(500, 'x').append("…")));
 }
 
 TEST(ProbeOutputParserTest, knowsFourComplaints)
