@@ -36,8 +36,8 @@ std::int64_t niceStep(std::int64_t least) noexcept
 std::vector<DateTick> labelled(const std::vector<sys_seconds> &moments, const DateStep &step,
                                const TextLocale &locale)
 {
-    const bool isOfOneDay = moments.empty() || DateText::day(moments.front(), locale) ==
-                                                   DateText::day(moments.back(), locale);
+    const bool isOfOneDay = moments.empty() || dateText(moments.front(), DateForm::day, locale) ==
+                                                   dateText(moments.back(), DateForm::day, locale);
     std::set<std::string> known;
     std::vector<DateTick> ticks;
     for (const sys_seconds moment : moments) {
@@ -73,7 +73,7 @@ double AxisScale::position(std::int64_t value) const noexcept
 std::vector<DateTick> DateAxisScale::ticks(int mostTicks, const TextLocale &locale) const
 {
     if (m_first == m_last)
-        return {{.moment = m_first, .label = DateText::dayAndTime(m_first, locale)}};
+        return {{.moment = m_first, .label = dateText(m_first, DateForm::dayAndTime, locale)}};
     for (const DateStep &step : DateStep::all()) {
         // A step that is far too short would make far too many moments.
         if ((m_last - m_first) / step.length() > mostTicks + 1)

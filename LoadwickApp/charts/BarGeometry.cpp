@@ -5,7 +5,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 namespace {

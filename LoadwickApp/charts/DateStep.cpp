@@ -160,20 +160,20 @@ std::string DateStep::label(sys_seconds moment, bool withDay, const TextLocale &
 {
     switch (unit) {
     case Unit::second:
-        return DateText::secondOfDay(moment, locale);
+        return dateText(moment, DateForm::secondOfDay, locale);
     case Unit::minute:
     case Unit::hour:
-        return withDay ? DateText::dayOfYearAndTime(moment, locale)
-                       : DateText::timeOfDay(moment, locale);
+        return withDay ? dateText(moment, DateForm::dayOfYearAndTime, locale)
+                       : dateText(moment, DateForm::timeOfDay, locale);
     case Unit::day:
     case Unit::week:
-        return DateText::dayOfYear(moment, locale);
+        return dateText(moment, DateForm::dayOfYear, locale);
     case Unit::month:
-        return DateText::month(moment, locale);
+        return dateText(moment, DateForm::month, locale);
     case Unit::year:
         break;
     }
-    return DateText::year(moment, locale);
+    return dateText(moment, DateForm::year, locale);
 }
 
 } // namespace Loadwick

@@ -73,7 +73,7 @@ void TrendLine::setSamples(std::span<const LineSample> samples)
 
 QString TrendLine::date(std::size_t index) const
 {
-    return qtText(DateText::dayAndTime(m_geometry.samples().at(index).date, m_locale));
+    return qtText(dateText(m_geometry.samples().at(index).date, DateForm::dayAndTime, m_locale));
 }
 
 QString TrendLine::total(std::size_t index) const

@@ -78,7 +78,7 @@ QString ColumnPresenter::scanned() const
 {
     if (!m_comparison)
         return {};
-    return tr("Scanned %1").arg(qtText(DateText::day(scan().date, m_locale)));
+    return tr("Scanned %1").arg(qtText(dateText(scan().date, DateForm::day, m_locale)));
 }
 
 QString ColumnPresenter::total() const

@@ -5,7 +5,7 @@
 
 #include "base/QtText.h"
 #include "report/ScanReport.h"
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {

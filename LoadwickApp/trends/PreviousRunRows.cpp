@@ -30,7 +30,7 @@ QVariant PreviousRunRows::data(const QModelIndex &index, int role) const
     case title:
         return qtText(scan.repositoryName);
     case detail:
-        return qtText(DateText::dayAndTime(scan.date, m_locale));
+        return qtText(dateText(scan.date, DateForm::dayAndTime, m_locale));
     case value:
         return qtText(NumberText::grouped(scan.total, m_locale));
     case valueCaption:

@@ -66,7 +66,7 @@ QString TrendChartPresenter::oneScanText(const RecordedScan &scan) const
     return tr("The one on record measured %1 tokens on %2. A trend needs at least two scans of %3. "
               "Scan again to plot a line.")
         .arg(qtText(NumberText::grouped(scan.total, m_locale)),
-             qtText(DateText::day(scan.date, m_locale)), nameOf(scan.repositoryName));
+             qtText(dateText(scan.date, DateForm::day, m_locale)), nameOf(scan.repositoryName));
 }
 
 QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
@@ -81,8 +81,8 @@ QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
     return tr("Startup tokens per scan of %1: %2 scans from %3 to %4, between %5 and "
               "%6 tokens. The Heavy band begins at %7, the Excessive band above %8.")
         .arg(nameOf(repositoryName), QString::number(samples.size()),
-             qtText(DateText::day(samples.front().date, m_locale)),
-             qtText(DateText::day(samples.back().date, m_locale)), figure(lowest->total),
+             qtText(dateText(samples.front().date, DateForm::day, m_locale)),
+             qtText(dateText(samples.back().date, DateForm::day, m_locale)), figure(lowest->total),
              figure(highest->total), figure(OpinionBand::heavyThreshold),
              figure(OpinionBand::excessiveThreshold));
 }
@@ -90,8 +90,8 @@ QString TrendChartPresenter::summaryOf(const std::string &repositoryName) const
 QString TrendChartPresenter::periodOf(const std::vector<LineSample> &samples) const
 {
     const QString count = QString::number(samples.size());
-    const QString first = qtText(DateText::day(samples.front().date, m_locale));
-    const QString last = qtText(DateText::day(samples.back().date, m_locale));
+    const QString first = qtText(dateText(samples.front().date, DateForm::day, m_locale));
+    const QString last = qtText(dateText(samples.back().date, DateForm::day, m_locale));
     return first == last ? tr("%1 scans on %2.").arg(count, first)
                          : tr("%1 scans from %2 to %3.").arg(count, first, last);
 }

@@ -2,7 +2,7 @@
 
 #include "base/QtText.h"
 #include "report/OpinionBand.h"
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {

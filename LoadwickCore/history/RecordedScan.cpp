@@ -33,7 +33,7 @@ bool endsLikeFileName(std::string_view word)
     if (dot == std::string_view::npos || dot == 0 || dot + 1 == word.size())
         return false;
     const std::string_view extension = word.substr(dot + 1);
-    return lettersAndNumbers(std::string(extension)) == extension;
+    return lettersAndNumbers(extension) == extension;
 }
 
 bool exceedsLimit(std::string_view name)

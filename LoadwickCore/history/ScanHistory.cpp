@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

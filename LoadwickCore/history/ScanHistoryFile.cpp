@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "text/IsoDate.h"
+#include "text/DateText.h"
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 

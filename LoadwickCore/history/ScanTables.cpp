@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "history/ScanHistory.h"
-#include "text/CheckedSum.h"
 #include "text/CsvTable.h"
-#include "text/IsoDate.h"
+#include "text/DateText.h"
+#include "text/Fatal.h"
 
 namespace Loadwick::ScanTables {
 namespace {

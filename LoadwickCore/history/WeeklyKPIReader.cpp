@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "posix/RegularFile.h"
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 #include "text/TextLines.h"
 #include "text/UnicodeText.h"
 #include "json/JsonReader.h"

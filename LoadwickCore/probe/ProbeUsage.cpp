@@ -1,6 +1,6 @@
 #include "probe/ProbeUsage.h"
 
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 #include "json/JsonValue.h"
 
 namespace Loadwick {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "report/ScanReport.h"
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 
 namespace Loadwick {
 

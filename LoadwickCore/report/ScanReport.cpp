@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "report/RepoSelection.h"
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {

@@ -7,7 +7,7 @@
 
 #include "probe/SlabParser.h"
 #include "report/InstructionFileSet.h"
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 #include "text/UnicodeText.h"
 
 namespace Loadwick {

@@ -3,7 +3,7 @@
 namespace Loadwick {
 namespace {
 
-/// With the tabulator and the carriage return, which some skip before they look.
+/// Some spreadsheets skip a tab and a carriage return before they look.
 constexpr std::string_view formulaStarts = "=+-@\t\r";
 
 bool looksLikeFormula(std::string_view cell)

@@ -1,37 +1,42 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
+#include <string_view>
 
-#include "text/TextLocale.h"
+namespace Loadwick {
 
-/// Moments as text in the locale's own order and words, in the time zone of the process. Cheap
-/// enough for each row of a list.
-namespace Loadwick::DateText {
+struct TextLocale;
 
-/// Abbreviated month, day and year: "Mar 4, 2026" in English.
-[[nodiscard]] std::string day(std::chrono::sys_seconds moment, const TextLocale &locale);
+/// The parts of a moment that a text shows; the locale decides their order and words.
+enum class DateForm
+{
+    year,             ///< "2026"
+    month,            ///< "Mar 2026"
+    day,              ///< "Mar 4, 2026"
+    dayAndTime,       ///< "Mar 4, 2026, 9:15 AM"
+    dayOfYear,        ///< "Mar 4"
+    dayOfYearAndTime, ///< "Mar 4, 9:15 AM"
+    timeOfDay,        ///< "9:15 AM"
+    secondOfDay       ///< "9:15:27 AM"
+};
 
-/// The same with hours and minutes: "Mar 4, 2026, 9:15 AM".
-[[nodiscard]] std::string dayAndTime(std::chrono::sys_seconds moment, const TextLocale &locale);
+/// A moment as text in a locale's dates and the time zone of the process. Cheap enough for each row
+/// of a list.
+[[nodiscard]] std::string dateText(std::chrono::sys_seconds moment, DateForm form,
+                                   const TextLocale &locale);
 
-/// Hours and minutes: "9:15 AM".
-[[nodiscard]] std::string timeOfDay(std::chrono::sys_seconds moment, const TextLocale &locale);
+/// Moments as ISO 8601 text in UTC with whole seconds: 2026-03-04T09:15:27Z.
+namespace IsoDate {
 
-/// Hours, minutes and seconds: "9:15:27 AM".
-[[nodiscard]] std::string secondOfDay(std::chrono::sys_seconds moment, const TextLocale &locale);
+/// A moment outside the years 0 to 9999, which this form cannot express, gives the nearest one
+/// inside.
+[[nodiscard]] std::string text(std::chrono::sys_seconds moment);
 
-/// Abbreviated month and day: "Mar 4".
-[[nodiscard]] std::string dayOfYear(std::chrono::sys_seconds moment, const TextLocale &locale);
+/// Reads exactly that form; a day or an hour that does not exist gives nothing.
+[[nodiscard]] std::optional<std::chrono::sys_seconds> fromText(std::string_view text) noexcept;
 
-/// The same with hours and minutes: "Mar 4, 9:15 AM".
-[[nodiscard]] std::string dayOfYearAndTime(std::chrono::sys_seconds moment,
-                                           const TextLocale &locale);
+} // namespace IsoDate
 
-/// Abbreviated month and year: "Mar 2026".
-[[nodiscard]] std::string month(std::chrono::sys_seconds moment, const TextLocale &locale);
-
-/// "2026".
-[[nodiscard]] std::string year(std::chrono::sys_seconds moment, const TextLocale &locale);
-
-} // namespace Loadwick::DateText
+} // namespace Loadwick

@@ -8,6 +8,7 @@
 #include <unicode/numberformatter.h>
 
 #include "text/Fatal.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick::NumberText {
 
@@ -15,8 +16,8 @@ namespace {
 
 using Formatter = icu::number::LocalizedNumberFormatter;
 
-/// The formatter of the locale that this thread asked for last: a page writes hundreds of figures
-/// in one locale, and building a formatter costs far more than using it.
+/// The formatter of the locale that this thread used last: a page writes hundreds of figures in one
+/// locale, and building a formatter costs far more than using it.
 const Formatter &formatterFor(const std::string &locale)
 {
     struct Cached
@@ -40,7 +41,7 @@ std::string grouped(std::int64_t number, const TextLocale &locale)
     const auto figure = formatterFor(locale.numbers).formatInt(number, status);
     std::string text;
     figure.toString(status).toUTF8String(text);
-    // not taken: every integer can be written in every locale
+    // unreachable: every locale can write every integer
     if (U_FAILURE(status))
         fatalError("ICU could not format an integer");
     return text;

@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <string>
 
-#include "text/TextLocale.h"
+namespace Loadwick {
+struct TextLocale;
+}
 
 /// Figures as text.
 namespace Loadwick::NumberText {
@@ -14,7 +16,7 @@ namespace Loadwick::NumberText {
 /// The same with a plus sign before anything that is not negative: +0, +1,234, -80.
 [[nodiscard]] std::string groupedChange(std::int64_t change, const TextLocale &locale);
 
-/// A number with exactly one decimal behind a point and no grouping, as "%.1f" writes it in the C
+/// A number with exactly one decimal after a point and no grouping, as "%.1f" writes it in the C
 /// locale (ties of the binary value go to even).
 [[nodiscard]] std::string oneDecimal(double number);
 

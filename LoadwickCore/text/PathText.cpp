@@ -11,7 +11,7 @@ std::string pathText(const std::filesystem::path &path)
 
 std::filesystem::path standardizedPath(const std::filesystem::path &path)
 {
-    // Parsed anew: what was joined to a root of several slashes keeps all of them (libstdc++ 12).
+    // Parsed again: a path joined to a root of several slashes keeps them all (libstdc++ 12).
     std::filesystem::path standard = std::filesystem::path(path.native()).lexically_normal();
     if (standard.has_filename())
         return standard;

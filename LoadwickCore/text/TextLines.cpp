@@ -11,20 +11,20 @@ namespace {
 constexpr std::string_view nextLine = "\xC2\x85";
 constexpr std::string_view separatorHead = "\xE2\x80"; // U+2028 and U+2029 end in A8 and A9
 
-/// Whether no line break begins with that byte: it is printable, and ASCII.
+/// Whether a byte begins no line break: it is printable ASCII.
 constexpr bool isPlain(char byte) noexcept
 {
     return static_cast<unsigned char>(byte - ' ') < 0x80 - ' ';
 }
 
-/// Bytes at the head of a text that are plain, looked at eight at a time as long as all eight are.
+/// Bytes at the head of a text that are plain, compared eight at a time while all eight are.
 std::size_t plainHead(std::string_view text) noexcept
 {
     constexpr std::uint64_t everyByte = 0x0101010101010101;
     std::size_t index = 0;
     for (std::uint64_t eight = 0; text.size() - index >= sizeof eight; index += sizeof eight) {
         std::memcpy(&eight, text.data() + index, sizeof eight);
-        // Below a blank the difference has the high bit, beyond ASCII the byte itself.
+        // The difference has the high bit below a blank, the byte itself beyond ASCII.
         if ((((eight - everyByte * ' ') | eight) & (everyByte * 0x80)) != 0)
             break;
     }

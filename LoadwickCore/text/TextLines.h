@@ -5,7 +5,7 @@
 
 namespace Loadwick {
 
-/// Takes the first line off `rest`, its line break with it: a line feed, carriage return (both
+/// Takes the first line off `rest` together with its line break: a line feed, carriage return (both
 /// together count as one), vertical tab, form feed, U+0085, U+2028 or U+2029. Nothing once `rest`
 /// is empty. A view into the text.
 [[nodiscard]] std::optional<std::string_view> takeLine(std::string_view &rest) noexcept;

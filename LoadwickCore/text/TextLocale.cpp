@@ -20,7 +20,7 @@ bool isLetter(char character) noexcept
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
 }
 
-/// Two or three letters; "C", "POSIX" and stray values are none.
+/// Two or three letters; "C", "POSIX" and stray values are no language.
 bool isLanguage(std::string_view text) noexcept
 {
     return (text.size() == 2 || text.size() == 3) &&
@@ -42,14 +42,14 @@ std::string_view scriptOf(std::string_view value) noexcept
 /// "sr_RS.UTF-8@latin" becomes "sr_Latn_RS".
 std::string icuName(std::string_view value)
 {
-    const std::string_view place = value.substr(0, value.find_first_of(".@"));
-    const std::size_t languageEnd = std::min(place.find('_'), place.size());
-    std::string name(place.substr(0, languageEnd));
+    const std::string_view region = value.substr(0, value.find_first_of(".@"));
+    const std::size_t languageEnd = std::min(region.find('_'), region.size());
+    std::string name(region.substr(0, languageEnd));
     if (!isLanguage(name))
         return std::string(english);
     if (const std::string_view script = scriptOf(value); !script.empty())
         name.append("_").append(script);
-    return name.append(place.substr(languageEnd));
+    return name.append(region.substr(languageEnd));
 }
 
 std::string localeFor(const std::string &category, const Environment &environment)

@@ -39,7 +39,7 @@ constexpr bool isAscii(char byte) noexcept
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
-/// Bytes at the head of a text that are ASCII, looked at eight at a time as long as all eight are.
+/// Bytes at the head of a text that are ASCII, compared eight at a time while all eight are.
 std::size_t asciiHead(std::string_view text) noexcept
 {
     constexpr std::uint64_t highBits = 0x8080808080808080;
@@ -54,23 +54,9 @@ std::size_t asciiHead(std::string_view text) noexcept
     return index;
 }
 
-bool isAsciiAlone(std::string_view text) noexcept
+bool isAscii(std::string_view text) noexcept
 {
     return asciiHead(text) == text.size();
-}
-
-template<typename Keep>
-std::string filtered(std::string_view text, Keep keep)
-{
-    std::string kept;
-    kept.reserve(text.size());
-    for (std::size_t index = 0; index < text.size();) {
-        const CodePoint point = codePointAt(text, index);
-        if (point.value >= 0 && keep(point.value))
-            kept.append(text.substr(index, point.end - index));
-        index = point.end;
-    }
-    return kept;
 }
 
 constexpr char lowercasedAscii(char byte) noexcept
@@ -98,7 +84,7 @@ std::size_t previousStart(std::string_view text, std::size_t end) noexcept
     return end - 1;
 }
 
-/// The library brings all that it needs, so there is one thing that it can lack.
+/// The library brings its own data, so memory is all that it can lack.
 void requireSuccess(UErrorCode status)
 {
     if (U_FAILURE(status))
@@ -171,8 +157,8 @@ std::string_view trimmedBlanks(std::string_view text) noexcept
 
 std::string lowercased(std::string_view text)
 {
-    // ICU takes as long to begin as to lower-case a whole line of ASCII, as nearly all texts are.
-    if (isAsciiAlone(text)) {
+    // ICU takes as long to start as a whole line of ASCII, like nearly every text, takes here.
+    if (isAscii(text)) {
         std::string lower(text);
         std::transform(lower.begin(), lower.end(), lower.begin(), lowercasedAscii);
         return lower;
@@ -186,18 +172,22 @@ std::string lowercased(std::string_view text)
     return lower;
 }
 
-std::string lettersAndNumbers(std::string text)
+std::string lettersAndNumbers(std::string_view text)
 {
-    if (isAsciiAlone(text)) {
-        std::erase_if(text, [](char byte) { return !isLetterMarkOrNumber(byte); });
-        return text;
+    std::string kept;
+    kept.reserve(text.size());
+    for (std::size_t index = 0; index < text.size();) {
+        const CodePoint point = codePointAt(text, index);
+        if (point.value >= 0 && isLetterMarkOrNumber(point.value))
+            kept.append(text.substr(index, point.end - index));
+        index = point.end;
     }
-    return filtered(text, isLetterMarkOrNumber);
+    return kept;
 }
 
 void setSearchKey(std::string &key, std::string_view text)
 {
-    if (!isAsciiAlone(text)) {
+    if (!isAscii(text)) {
         key = lettersAndNumbers(lowercased(text));
         return;
     }

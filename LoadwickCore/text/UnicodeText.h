@@ -4,14 +4,14 @@
 #include <string>
 #include <string_view>
 
-/// Questions about UTF-8 text that need Unicode tables. Bytes that are not UTF-8 never fail:
-/// each maximal ill-formed part counts as one U+FFFD.
+/// UTF-8 text by the tables of Unicode. Bytes that are not UTF-8 never fail: each maximal
+/// ill-formed part counts as one U+FFFD.
 namespace Loadwick {
 
 /// Whether `bytes` is well-formed UTF-8 (no surrogates, no overlong forms). The empty text is.
 [[nodiscard]] bool isUtf8(std::string_view bytes) noexcept;
 
-/// `bytes` with U+FFFD in the place of every ill-formed part.
+/// `bytes` with every ill-formed part replaced by U+FFFD.
 [[nodiscard]] std::string repairedUtf8(std::string_view bytes);
 
 /// Whether a code point is Unicode white space or a line break (U+0085, U+2028, U+2029 included).
@@ -29,19 +29,19 @@ namespace Loadwick {
 
 /// The letters, their marks and the numeric characters of `text` (Unicode categories L, M and N),
 /// in order. Ill-formed bytes are dropped.
-[[nodiscard]] std::string lettersAndNumbers(std::string text);
+[[nodiscard]] std::string lettersAndNumbers(std::string_view text);
 
-/// Sets `key` to the letters, marks and numeric characters of `text` in lower case. Made for many
-/// texts, one after the other: `key` keeps its memory.
+/// Sets `key` to the letters, marks and numeric characters of `text` in lower case. `key` keeps its
+/// memory from one text to the next.
 void setSearchKey(std::string &key, std::string_view text);
 
 /// Bytes of the first `limit` user-perceived characters (extended grapheme clusters, UAX #29)
-/// of `text`; `text.size()` when it has no more than that. Reads no further than it must. Throws
-/// `std::bad_alloc`, once the rules are loaded.
+/// of `text`; `text.size()` when it has no more than that. Reads no further than necessary. Throws
+/// `std::bad_alloc` once the rules are loaded.
 [[nodiscard]] std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit);
 
-/// Loads the rules by which characters are counted, once for the program. ICU does not outlive want
-/// of memory while it loads them; do it where there is some.
+/// Loads the rules by which characters are counted, once for the program. ICU ends the program if
+/// memory runs out meanwhile, so call it while there is some.
 void loadCharacterRules();
 
 } // namespace Loadwick

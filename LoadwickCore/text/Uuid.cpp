@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t textSize = 36;
 
-constexpr bool isHyphenPlace(std::size_t index) noexcept
+constexpr bool isHyphenIndex(std::size_t index) noexcept
 {
     return index == 8 || index == 13 || index == 18 || index == 23;
 }
@@ -39,7 +39,7 @@ Uuid::Uuid(const std::array<std::uint8_t, 16> &bytes) noexcept : m_bytes(bytes) 
 Uuid Uuid::random()
 {
     std::array<std::uint8_t, 16> bytes{};
-    // not taken: a running system has random bytes
+    // unreachable: a running system has random bytes
     if (getentropy(bytes.data(), bytes.size()) != 0)
         fatalError("the system gives no random bytes");
     bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0F) | 0x40); // version 4
@@ -54,7 +54,7 @@ std::optional<Uuid> Uuid::fromText(std::string_view text) noexcept
     std::array<std::uint8_t, 16> bytes{};
     std::size_t digits = 0;
     for (std::size_t index = 0; index < textSize; ++index) {
-        if (isHyphenPlace(index)) {
+        if (isHyphenIndex(index)) {
             if (text[index] != '-')
                 return std::nullopt;
             continue;
@@ -75,7 +75,7 @@ std::string Uuid::text() const
     std::string text;
     text.reserve(textSize);
     for (const std::uint8_t byte : m_bytes) {
-        if (isHyphenPlace(text.size()))
+        if (isHyphenIndex(text.size()))
             text += '-';
         text += hexadecimal[byte >> 4U];
         text += hexadecimal[byte & 0x0FU];

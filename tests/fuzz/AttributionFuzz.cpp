@@ -6,6 +6,8 @@
 
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
+#include "probe/SlabParser.h"
+#include "report/InstructionFileSet.h"
 #include "report/SlabAttributor.h"
 
 namespace Loadwick {

@@ -5,7 +5,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "fuzz/JsonOracle.h"
 #include "history/ScanHistoryFile.h"
-#include "text/IsoDate.h"
+#include "text/DateText.h"
 #include "text/UnicodeText.h"
 
 namespace Loadwick {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "text/DateText.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 
@@ -10,7 +11,7 @@ namespace {
 
 std::string hour()
 {
-    return DateText::timeOfDay({}, {.dates = "de_DE"});
+    return dateText({}, DateForm::timeOfDay, {.dates = "de_DE"});
 }
 
 } // namespace

@@ -15,7 +15,7 @@ std::string cell(std::string_view text)
     return table.bytes();
 }
 
-TEST(CsvTableTest, partsCellsByCommasAndEndsRowsByCarriageReturnAndLineFeed)
+TEST(CsvTableTest, separatesCellsByCommasAndEndsRowsByCarriageReturnAndLineFeed)
 {
     CsvTable table;
     table.text("a").figure(1).empty().text("b").endRow();
@@ -30,7 +30,7 @@ TEST(CsvTableTest, anEmptyTextIsACell)
     EXPECT_EQ(table.bytes(), ",a\r\n");
 }
 
-TEST(CsvTableTest, quotesOnlyWhatHasToBe)
+TEST(CsvTableTest, quotesOnlyWhereNecessary)
 {
     EXPECT_EQ(cell("plain words"), "plain words");
     EXPECT_EQ(cell("a,b"), "\"a,b\"");

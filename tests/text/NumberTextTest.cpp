@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "text/TextLocale.h"
+
 namespace Loadwick {
 
 namespace {
@@ -44,7 +46,7 @@ TEST(NumberTextTest, groupsFourDigitsWhereTheLocaleDoes)
     EXPECT_EQ(groupedIn("es_ES", 1'234), "1234");
 }
 
-TEST(NumberTextTest, signsAChangeAlsoWhereNothingChanged)
+TEST(NumberTextTest, signsAChangeEvenOfZero)
 {
     EXPECT_EQ(NumberText::groupedChange(1'234, {}), "+1,234");
     EXPECT_EQ(NumberText::groupedChange(0, {}), "+0");
@@ -73,7 +75,7 @@ TEST(NumberTextTest, writesEverySixtyFourBitInteger)
               "-9,223,372,036,854,775,808");
 }
 
-TEST(NumberTextTest, changesTheLocaleFromCallToCall)
+TEST(NumberTextTest, followsTheLocaleFromCallToCall)
 {
     for (int round = 0; round < 3; ++round) {
         EXPECT_EQ(groupedIn("en_US", 60'000), "60,000");
@@ -81,7 +83,7 @@ TEST(NumberTextTest, changesTheLocaleFromCallToCall)
     }
 }
 
-TEST(NumberTextTest, survivesALocaleThatNobodyKnows)
+TEST(NumberTextTest, groupsInAnUnknownLocale)
 {
     EXPECT_NE(groupedIn("zz_ZZ", 30'000), "");
     EXPECT_NE(groupedIn("", 30'000), "");
@@ -102,7 +104,7 @@ TEST(NumberTextTest, roundsTiesToEven)
     EXPECT_EQ(NumberText::oneDecimal(-0.25), "-0.2");
 }
 
-TEST(NumberTextTest, writesWhatIsNoOrdinaryNumber)
+TEST(NumberTextTest, writesZeroInfinityAndTheLargestNumbers)
 {
     EXPECT_EQ(NumberText::oneDecimal(-0.0), "-0.0");
     EXPECT_EQ(NumberText::oneDecimal(std::numeric_limits<double>::quiet_NaN()), "nan");
@@ -123,7 +125,7 @@ TEST(NumberTextTest, agreesWithPrintfOnRandomNumbers)
     }
 }
 
-TEST(NumberTextTest, groupsInTheLibrarysOwnLocaleWhereNoneIsNamed)
+TEST(NumberTextTest, groupsInTheLibrarysOwnLocaleWithoutAName)
 {
     std::string text;
     std::thread([&] { text = groupedIn("", 1'234) + groupedIn("", 5); }).join();

@@ -28,7 +28,7 @@ TEST(PathTextTest, keepsTheRoot)
     EXPECT_EQ(standardizedPath("//a").native(), "/a");
 }
 
-TEST(PathTextTest, spellsARootOfSeveralSlashesAsOneWhenAPathWasJoinedToIt)
+TEST(PathTextTest, spellsAJoinedRootOfSeveralSlashesAsOne)
 {
     EXPECT_EQ(standardizedPath(std::filesystem::path("//") / "a").native(), "/a");
     EXPECT_EQ(standardizedPath(std::filesystem::path("///") / "a" / "b").native(), "/a/b");

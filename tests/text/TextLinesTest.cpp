@@ -36,7 +36,7 @@ TEST(TextLinesTest, endsLinesAtEveryLineBreak)
               (Lines{"a", "b", "c", "d", "e", "f", "g", "h"}));
 }
 
-TEST(TextLinesTest, takesCarriageReturnAndLineFeedForOneBreak)
+TEST(TextLinesTest, countsCarriageReturnAndLineFeedAsOneBreak)
 {
     EXPECT_EQ(linesOf("a\r\nb\n\rc"), (Lines{"a", "b", "", "c"}));
 }
@@ -65,7 +65,7 @@ TEST(TextLinesTest, leavesHalfABreakAtTheEndAlone)
     EXPECT_EQ(linesOf("a\xC2"), (Lines{"a\xC2"}));
 }
 
-TEST(TextLinesTest, findsABreakAtEveryPlaceAndNothingThatResemblesOne)
+TEST(TextLinesTest, findsABreakAtEveryIndexAndNothingThatResemblesOne)
 {
     for (std::size_t length = 0; length < 40; ++length)
         for (const std::string_view other : {"", "\t", "\x1F", "\x7F", "\u00A0", "\xFF", "\x8A"})

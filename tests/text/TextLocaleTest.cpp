@@ -23,14 +23,14 @@ TEST(TextLocaleTest, takesTheFirstVariableThatIsSet)
     EXPECT_EQ(TextLocale::fromEnvironment(environment), (TextLocale{"hi_IN", "hi_IN"}));
 }
 
-TEST(TextLocaleTest, passesOverAnEmptyVariable)
+TEST(TextLocaleTest, skipsAnEmptyVariable)
 {
     const Environment environment{
         {"LC_ALL", ""}, {"LC_NUMERIC", ""}, {"LC_TIME", "de_AT"}, {"LANG", "fr_FR"}};
     EXPECT_EQ(TextLocale::fromEnvironment(environment), (TextLocale{"fr_FR", "de_AT"}));
 }
 
-TEST(TextLocaleTest, countsTheComputersLocaleAsEnglish)
+TEST(TextLocaleTest, countsTheCLocaleAsEnglish)
 {
     for (const char *value :
          {"C", "POSIX", "C.UTF-8", "C.utf8", ".UTF-8", "/usr/share/locale/x", "x"})
@@ -50,7 +50,7 @@ TEST(TextLocaleTest, turnsAModifierIntoAScript)
     EXPECT_EQ(numbers("ca"), "ca");
 }
 
-TEST(TextLocaleTest, takesTwoOrThreeLettersForALanguageAndNothingElse)
+TEST(TextLocaleTest, acceptsOnlyTwoOrThreeLettersAsALanguage)
 {
     const auto numbers = [](const char *value) {
         return TextLocale::fromEnvironment({{"LANG", value}}).numbers;

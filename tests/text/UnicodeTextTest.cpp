@@ -18,7 +18,7 @@ TEST(UnicodeTextTest, tellsUtf8FromOtherBytes)
     EXPECT_FALSE(isUtf8("\xFF"));
 }
 
-TEST(UnicodeTextTest, findsWhatIsNotUtf8BehindAsciiOfAnyLength)
+TEST(UnicodeTextTest, rejectsOtherBytesBehindAsciiOfAnyLength)
 {
     for (std::size_t length = 0; length < 40; ++length) {
         const std::string ascii(length, 'a');
@@ -28,7 +28,7 @@ TEST(UnicodeTextTest, findsWhatIsNotUtf8BehindAsciiOfAnyLength)
     }
 }
 
-TEST(UnicodeTextTest, putsReplacementCharactersForWhatIsNotUtf8)
+TEST(UnicodeTextTest, replacesEachPartThatIsNotUtf8)
 {
     EXPECT_EQ(repairedUtf8("a\xFFz"), "a\xEF\xBF\xBDz");
     EXPECT_EQ(repairedUtf8("a\xE2\x82z"), "a\xEF\xBF\xBDz");
@@ -65,7 +65,7 @@ TEST(UnicodeTextTest, keepsLettersAndNumbers)
 
 TEST(UnicodeTextTest, makesASearchKeyOfLettersAndNumbersInLowerCase)
 {
-    std::string key = "whatever stood there before";
+    std::string key = "an earlier key";
     for (const std::string_view text : {"Memory_files, 2: [x]!", "", "_",
                                         "AZaz09@[`{/:", "Memory_files, №2: É日!", "É", "a\xFFZ"}) {
         setSearchKey(key, text);
@@ -87,7 +87,7 @@ TEST(UnicodeTextTest, countsUserPerceivedCharacters)
     EXPECT_EQ(byteCountOfCharacters(mixed, 100), mixed.size());
 }
 
-TEST(UnicodeTextTest, saysThatThereWasNoMemoryToCountCharactersWhereverItRanOut)
+TEST(UnicodeTextTest, throwsWhereverMemoryRunsOutWhileItCountsCharacters)
 {
     loadCharacterRules();
     bool ranOut = true;

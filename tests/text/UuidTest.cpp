@@ -17,7 +17,7 @@ TEST(UuidTest, readsItsTextInEitherCaseAndWritesItInUpperCase)
     EXPECT_EQ(*fromUpper, *fromLower);
 }
 
-TEST(UuidTest, readsTheLowestAndTheHighest)
+TEST(UuidTest, readsTheLowestAndTheHighestOne)
 {
     for (const std::string text :
          {"00000000-0000-0000-0000-000000000000", "FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF"}) {

@@ -104,7 +104,7 @@ private Q_SLOTS:
         // The axis of a single day's scans has hours alone.
         const auto moment = m_window->loadwick().model().history().get().back().date;
         QVERIFY(drawing.contains(">2 scans "));
-        QVERIFY(drawing.contains((DateText::day(moment, TextLocale()) + ".<").c_str()));
+        QVERIFY(drawing.contains((dateText(moment, DateForm::day, TextLocale()) + ".<").c_str()));
     }
 
     void aComparisonSaysWhatItShows()

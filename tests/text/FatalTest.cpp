@@ -1,4 +1,4 @@
-#include "text/CheckedSum.h"
+#include "text/Fatal.h"
 
 #include <limits>
 
@@ -9,14 +9,19 @@ namespace Loadwick {
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
 
-TEST(CheckedSumTest, addsUpToTheLargestInteger)
+TEST(FatalTest, endsTheProgramWithItsMessage)
+{
+    EXPECT_DEATH(fatalError("the reason"), "^loadwick: the reason\n$");
+}
+
+TEST(FatalTest, addsUpToTheLargestInteger)
 {
     EXPECT_EQ(checkedSum(largest - 1, 1), largest);
     EXPECT_EQ(checkedSum(-5, 3), -2);
     EXPECT_EQ(checkedDifference(3, 5), -2);
 }
 
-TEST(CheckedSumTest, endsTheProgramOnOverflow)
+TEST(FatalTest, endsTheProgramOnOverflow)
 {
     EXPECT_DEATH((void)checkedSum(largest, 1), "does not fit 64 bits");
     EXPECT_DEATH((void)checkedSum(smallest, -1), "does not fit 64 bits");
