@@ -18,9 +18,6 @@ public:
     /// From 0 to `upperBound` (at least 1) in at most `mostIntervals` (at least 1) steps.
     AxisScale(std::int64_t upperBound, int mostIntervals) noexcept;
 
-    [[nodiscard]] std::int64_t upperBound() const noexcept { return m_upperBound; }
-    [[nodiscard]] std::int64_t step() const noexcept { return m_step; }
-
     /// 0 and every multiple of the step up to the upper bound.
     [[nodiscard]] std::vector<std::int64_t> ticks() const;
 

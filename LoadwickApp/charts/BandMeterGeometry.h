@@ -31,8 +31,6 @@ struct Extent
 
     [[nodiscard]] double right() const noexcept { return left + width; }
     [[nodiscard]] double middle() const noexcept { return left + width / 2; }
-
-    friend bool operator==(const Extent &, const Extent &) = default;
 };
 
 /// A label under its segment; the extent means nothing while it is hidden.

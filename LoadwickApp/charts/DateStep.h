@@ -40,8 +40,6 @@ struct DateStep
     /// A round moment in as few words as the step allows; `withDay` adds the day to a time of day.
     [[nodiscard]] std::string label(std::chrono::sys_seconds moment, bool withDay,
                                     const TextLocale &locale) const;
-
-    friend bool operator==(const DateStep &, const DateStep &) = default;
 };
 
 } // namespace Loadwick

@@ -92,14 +92,10 @@ std::vector<DonutGeometry::Mark> DonutGeometry::marks(double radius,
             ++next;
         } while (next < m_slices.size() && sweep * radius < leastWidth && selected != first &&
                  selected != next);
-        marks.push_back({first, sectorOf(start, sweep, radius), opacity(first, selected)});
+        const double opacity = !selected || *selected == first ? 1.0 : dimmedOpacity;
+        marks.push_back({first, sectorOf(start, sweep, radius), opacity});
     }
     return marks;
-}
-
-double DonutGeometry::opacity(std::size_t slice, std::optional<std::size_t> selected) noexcept
-{
-    return !selected || *selected == slice ? 1.0 : dimmedOpacity;
 }
 
 DonutGeometry::Sector DonutGeometry::sectorOf(double start, double sweep, double radius) const

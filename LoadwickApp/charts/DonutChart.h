@@ -39,7 +39,7 @@ public:
     {
         std::size_t slice; ///< whose colour it has
         Sector sector;
-        double opacity;
+        double opacity; ///< 1 unless another slice is selected
     };
 
     static constexpr double innerRadius = 0.62; ///< of the outer radius
@@ -72,10 +72,6 @@ public:
     /// to tell apart share one mark, so that thousands cost no more than the eye can see; the
     /// selected slice always has a mark of its own.
     [[nodiscard]] std::vector<Mark> marks(double radius, std::optional<std::size_t> selected) const;
-
-    /// 1 for the selected slice and, with nothing selected, for all.
-    [[nodiscard]] static double opacity(std::size_t slice,
-                                        std::optional<std::size_t> selected) noexcept;
 
 private:
     [[nodiscard]] Sector sectorOf(double start, double sweep, double radius) const;

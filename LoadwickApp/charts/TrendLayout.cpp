@@ -5,7 +5,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr double axisGap = 8;           // between the plot and its labels
+constexpr double axisGap = 8;       // between the plot and its labels
 constexpr double readoutMargin = 2; // above and below the words
 constexpr double readoutPadding = 8;
 

@@ -18,8 +18,6 @@ struct PlotRect
     {
         return pointX >= x && pointX <= right() && pointY >= y && pointY <= bottom();
     }
-
-    friend bool operator==(const PlotRect &, const PlotRect &) = default;
 };
 
 /// Divides the chart of a trend: at the left the axis of totals, below the axis of dates, at the
