@@ -25,8 +25,7 @@ namespace RecordedCategoryName {
 
 namespace {
 
-/// Whether a word's last dot stands inside it, with nothing but letters (with their marks) and
-/// digits behind it.
+/// Whether a word's last dot is inside it, followed only by letters (with their marks) and digits.
 bool endsLikeFileName(std::string_view word)
 {
     const std::size_t dot = word.rfind('.');
@@ -38,7 +37,7 @@ bool endsLikeFileName(std::string_view word)
 
 bool exceedsLimit(std::string_view name)
 {
-    // A character takes a byte at least, which spares most names the search for boundaries.
+    // A character takes at least a byte, so most names need no search for boundaries.
     return name.size() > limit && byteCountOfCharacters(name, limit) < name.size();
 }
 

@@ -18,26 +18,26 @@ inline constexpr double loginShellKillGraceSeconds = 1.0;
 inline constexpr std::string_view loginShell = "/bin/zsh";
 
 /// The paths tried, in order: the override unless it is blank (spaces and tabs), then the fixed
-/// places, of which the first is under `home`.
+/// paths, of which the first is under `home`.
 [[nodiscard]] std::vector<std::string> candidates(const std::optional<std::string> &cliOverride,
                                                   const std::string &home);
 
-/// What the search asks of the outside world.
+/// The outside world as the search sees it.
 struct Lookup
 {
     std::function<bool(const std::string &path)> isExecutable;
     std::function<std::optional<std::string>()> loginShellLookup;
 };
 
-/// The first candidate that is executable, else the login shell's answer when that is.
-/// Throws `cliNotFound` with everything tried, as text, `loginShellProbeLabel` last.
+/// The first executable candidate, else the login shell's answer if that is executable. Throws
+/// `cliNotFound` with everything tried, as text, `loginShellProbeLabel` last.
 [[nodiscard]] std::string resolve(const std::optional<std::string> &cliOverride,
                                   const std::string &home, const Lookup &lookup);
 
 /// Whether `path` is a regular file (links followed) that this user may execute.
 [[nodiscard]] bool isExecutableFile(const std::string &path);
 
-/// What the login shell `shell` says to `command -v claude`: its standard output, untrimmed.
+/// The answer of the login shell `shell` to `command -v claude`: its standard output, untrimmed.
 /// Nothing when it cannot start, fails, runs past `timeoutSeconds` (then it is stopped), or answers
 /// with more than 64 KiB or with bytes that are not UTF-8. Blocking.
 [[nodiscard]] std::optional<std::string> loginShellPath(const std::string &shell,

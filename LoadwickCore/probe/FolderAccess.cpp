@@ -13,12 +13,12 @@ namespace Loadwick::FolderAccess {
 
 namespace {
 
-bool canBeListed(const std::filesystem::path &folder)
+bool canBeListed(const std::filesystem::path &repository)
 {
-    if (folder.native().find('\0') != std::string::npos)
+    if (repository.native().find('\0') != std::string::npos)
         return false;
     const auto close = [](DIR *open) { closedir(open); };
-    const std::unique_ptr<DIR, decltype(close)> entries(opendir(folder.c_str()), close);
+    const std::unique_ptr<DIR, decltype(close)> entries(opendir(repository.c_str()), close);
     if (!entries)
         return false;
     errno = 0;

@@ -15,9 +15,9 @@ inline constexpr std::array<std::string_view, 4> scrubbedExactKeys{
     "CLAUDECODE", "ANTHROPIC_BASE_URL", "ANTHROPIC_API_KEY", "ANTHROPIC_AUTH_TOKEN"};
 inline constexpr std::string_view scrubbedKeyPrefix = "CLAUDE_CODE_";
 
-/// `parent` without keys, tokens and endpoints of its own, so that the command runs under the
-/// user's own sign-in. CLAUDE_CONFIG_DIR is made absolute against `workingDirectory`, so that the
-/// child and the transcript search look at one folder.
+/// `parent` without its API keys, tokens and endpoints, so that the command runs under the user's
+/// own sign-in. CLAUDE_CONFIG_DIR is made absolute against `workingDirectory`, so that the child
+/// and the transcript search use the same folder.
 [[nodiscard]] Environment childEnvironment(const Environment &parent,
                                            const std::filesystem::path &workingDirectory);
 

@@ -8,98 +8,74 @@ namespace Loadwick {
 
 namespace {
 
-struct Headline
+struct ErrorWords
 {
-    std::string operator()(const ProbeError::RepositoryUnreadable &) const
-    {
-        return "This folder could not be read.";
-    }
-    std::string operator()(const ProbeError::CliNotFound &) const
-    {
-        return "Could not find the claude command.";
-    }
-    std::string operator()(const ProbeError::UnreadableOutput &) const
-    {
-        return "The probe session returned output this app could not read.";
-    }
-    std::string operator()(const ProbeError::NoTranscript &) const
-    {
-        return "The probe session produced no readable token usage.";
-    }
-    std::string operator()(const ProbeError::SessionFailed &) const
-    {
-        return "The probe session reported an error.";
-    }
-    std::string operator()(const ProbeError::MultiTurnUsageOnly &) const
-    {
-        return "The probe session did not produce a startup total.";
-    }
-    std::string operator()(const ProbeError::NotAuthenticated &) const
-    {
-        return "Claude Code is not signed in.";
-    }
-    std::string operator()(const ProbeError::TimedOut &) const
-    {
-        return "The probe session took longer than 5 minutes.";
-    }
-    std::string operator()(const ProbeError::UnknownTurnCount &) const
-    {
-        return "The probe session did not produce a startup total.";
-    }
+    std::string headline;
+    std::string detail;
 };
 
-struct Detail
+struct ErrorWordsOf
 {
-    std::string operator()(const ProbeError::RepositoryUnreadable &error) const
+    ErrorWords operator()(const ProbeError::RepositoryUnreadable &error) const
     {
-        return error.path +
-               " exists but its contents could not be listed. macOS may be blocking "
-               "access — allow Loadwick under System Settings → Privacy & Security → "
-               "Files & Folders (or move the repository outside a protected folder) — or the "
-               "folder may have been moved or deleted since it was chosen. Nothing was "
-               "measured and none of your Claude allowance was used.";
+        return {"This folder could not be read.",
+                error.path +
+                    " exists but its contents could not be listed. macOS may be blocking "
+                    "access — allow Loadwick under System Settings → Privacy & Security → "
+                    "Files & Folders (or move the repository outside a protected folder) — or the "
+                    "folder may have been moved or deleted since it was chosen. Nothing was "
+                    "measured and none of your Claude allowance was used."};
     }
-    std::string operator()(const ProbeError::CliNotFound &error) const
+    ErrorWords operator()(const ProbeError::CliNotFound &error) const
     {
         std::string lines;
         for (const std::string &path : error.searched)
             lines += (lines.empty() ? "  • " : "\n  • ") + path;
-        return "Looked in:\n" + lines;
+        return {"Could not find the claude command.", "Looked in:\n" + lines};
     }
-    std::string operator()(const ProbeError::UnreadableOutput &error) const
+    ErrorWords operator()(const ProbeError::UnreadableOutput &error) const
     {
-        return ProbeError::bounded(error.text, ProbeError::detailLimit);
+        return {"The probe session returned output this app could not read.",
+                ProbeError::bounded(error.text, ProbeError::detailLimit)};
     }
-    std::string operator()(const ProbeError::NoTranscript &error) const
+    ErrorWords operator()(const ProbeError::NoTranscript &error) const
     {
-        return "No session transcript was found under " + error.searchedRoot +
-               " and the CLI returned no usage block.";
+        return {"The probe session produced no readable token usage.",
+                "No session transcript was found under " + error.searchedRoot +
+                    " and the CLI returned no usage block."};
     }
-    std::string operator()(const ProbeError::SessionFailed &error) const
+    ErrorWords operator()(const ProbeError::SessionFailed &error) const
     {
-        return ProbeError::bounded(error.text, ProbeError::detailLimit);
+        return {"The probe session reported an error.",
+                ProbeError::bounded(error.text, ProbeError::detailLimit)};
     }
-    std::string operator()(const ProbeError::MultiTurnUsageOnly &error) const
+    ErrorWords operator()(const ProbeError::MultiTurnUsageOnly &error) const
     {
-        return "No session transcript was found, and the CLI usage block covers " +
-               std::to_string(error.turns) +
-               " turns. That block accumulates across turns, so it double-counts cached tokens "
-               "and cannot be shown as the startup total. Nothing was measured — try again.";
+        return {
+            "The probe session did not produce a startup total.",
+            "No session transcript was found, and the CLI usage block covers " +
+                std::to_string(error.turns) +
+                " turns. That block accumulates across turns, so it double-counts cached tokens "
+                "and cannot be shown as the startup total. Nothing was measured — try again."};
     }
-    std::string operator()(const ProbeError::NotAuthenticated &) const
+    ErrorWords operator()(const ProbeError::NotAuthenticated &) const
     {
-        return "Run `claude` in Terminal and sign in, then scan again. This app never handles "
-               "Claude credentials.";
+        return {"Claude Code is not signed in.",
+                "Run `claude` in Terminal and sign in, then scan again. This app never handles "
+                "Claude credentials."};
     }
-    std::string operator()(const ProbeError::TimedOut &) const
+    ErrorWords operator()(const ProbeError::TimedOut &) const
     {
-        return "Nothing was measured. Try again, or try a smaller repository.";
+        return {"The probe session took longer than 5 minutes.",
+                "Nothing was measured. Try again, or try a smaller repository."};
     }
-    std::string operator()(const ProbeError::UnknownTurnCount &) const
+    ErrorWords operator()(const ProbeError::UnknownTurnCount &) const
     {
-        return "No session transcript was found, and the CLI did not report how many turns its "
-               "usage block covers. That block accumulates across turns, so it can only be trusted "
-               "for a single-turn session. Nothing was measured — try again.";
+        return {
+            "The probe session did not produce a startup total.",
+            "No session transcript was found, and the CLI did not report how many turns its "
+            "usage block covers. That block accumulates across turns, so it can only be trusted "
+            "for a single-turn session. Nothing was measured — try again."};
     }
 };
 
@@ -154,12 +130,12 @@ ProbeError ProbeError::unknownTurnCount()
 
 std::string ProbeError::headline() const
 {
-    return std::visit(Headline{}, m_case);
+    return std::visit(ErrorWordsOf{}, m_case).headline;
 }
 
 std::string ProbeError::detail() const
 {
-    return std::visit(Detail{}, m_case);
+    return std::visit(ErrorWordsOf{}, m_case).detail;
 }
 
 std::string ProbeError::bounded(std::string_view text, std::size_t limit)

@@ -9,8 +9,8 @@
 
 namespace Loadwick {
 
-/// The one error of a scan. Every text about a failure that a user sees is computed here, from the
-/// case and its payload; nothing that throws or catches it composes words of its own.
+/// The one error of a scan. Every failure text that a user sees is computed here, from the case and
+/// its payload; code that throws or catches it composes no words.
 class ProbeError
 {
 public:

@@ -17,8 +17,8 @@ namespace {
 constexpr std::array<std::string_view, 4> signInComplaints{
     "failed to authenticate", "oauth session expired", "please run /login", "invalid api key"};
 
-/// An answer may be a gigabyte long: it is searched in pieces. Two neighbours share more bytes than
-/// any complaint can have, even spelled with letters of four bytes.
+/// An answer may be a gigabyte long, so it is searched in pieces. Neighbouring pieces share more
+/// bytes than any complaint has, even spelled with letters of four bytes.
 constexpr std::size_t pieceSize = 65536;
 constexpr std::size_t sharedSize = 128;
 
@@ -42,7 +42,7 @@ ProbeError unreadable(std::string_view text)
     return ProbeError::unreadableOutput(ProbeError::bounded(text, ProbeError::detailLimit));
 }
 
-/// Why standard output is no JSON object.
+/// The reason why standard output is no JSON object.
 ProbeError failureWithoutObject(std::string_view standardOutput, std::string_view standardError,
                                 std::int32_t exitCode)
 {

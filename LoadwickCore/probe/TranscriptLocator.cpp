@@ -21,17 +21,17 @@ bool isPlainFileName(std::string_view name) noexcept
            name.find_first_of(separators) == std::string_view::npos;
 }
 
-/// A walk through the folders below a root. The folders still to be listed are kept in a list of
-/// their own, so that no depth is too great; one that answers to the wanted name comes next, and
-/// one that neither does nor holds folders need not be listed.
+/// A walk through the folders below a root. Pending folders are in a list, so that depth needs no
+/// stack. A folder that may hold the file comes next; one that holds neither it nor folders is not
+/// listed.
 class Search
 {
 public:
-    Search(const FileSystem &fileSystem, std::string wantedName, const fs::path &root)
-        : m_fileSystem(fileSystem), m_wantedName(std::move(wantedName)), m_pending{root}
+    Search(const FileSystem &fileSystem, std::string fileName, const fs::path &root)
+        : m_fileSystem(fileSystem), m_fileName(std::move(fileName)), m_pending{root}
     {}
 
-    /// A file of the wanted name, else another entry of that name, else nothing.
+    /// A file of the given name, else another entry of that name, else nothing.
     std::optional<fs::path> run()
     {
         while (!m_file && !m_pending.empty()) {
@@ -51,7 +51,7 @@ private:
             return Walk::goOn;
         if (kind == EntryKind::folder)
             addPending(folder / name);
-        if (name != m_wantedName)
+        if (name != m_fileName)
             return Walk::goOn;
         if (kind == EntryKind::file) {
             m_file = folder / name;
@@ -64,14 +64,14 @@ private:
 
     void addPending(fs::path folder)
     {
-        if (m_fileSystem.mayHold(folder / m_wantedName))
+        if (m_fileSystem.mayHold(folder / m_fileName))
             m_pending.push_front(std::move(folder));
         else if (m_fileSystem.mayHoldFolders(folder))
             m_pending.push_back(std::move(folder));
     }
 
     const FileSystem &m_fileSystem;
-    std::string m_wantedName;
+    std::string m_fileName;
     std::deque<fs::path> m_pending;
     std::optional<fs::path> m_file;
     std::optional<fs::path> m_otherEntry;

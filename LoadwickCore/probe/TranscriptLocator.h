@@ -18,16 +18,16 @@ inline constexpr std::string_view configDirEnvironmentKey = "CLAUDE_CONFIG_DIR";
 [[nodiscard]] std::filesystem::path defaultProjectsRoot(const std::string &home,
                                                         const Environment &environment);
 
-/// A configuration folder as given by a user, made absolute: trimmed, "~" at its head expanded to
-/// the user's home folder, a relative value joined to `workingDirectory`, "." and ".." removed.
-/// Nothing when only white space was given.
+/// A user's configuration folder made absolute: trimmed, a leading "~" expanded to the user's home
+/// folder, a relative value joined to `workingDirectory`, "." and ".." removed. Nothing for white
+/// space alone.
 [[nodiscard]] std::optional<std::string>
 normalizedConfigDir(std::string_view value, const std::filesystem::path &workingDirectory);
 
-/// A file named `sessionID` + ".jsonl" at any depth under `root`; only where there is none, another
-/// entry of that name. Which of several is not specified. Hidden files and folders are skipped,
-/// links to folders not followed, folders that cannot be listed count as empty. An identifier that
-/// is no plain file name (empty, with "/" or NUL, or a leading ".") finds nothing.
+/// A file named `sessionID` + ".jsonl" at any depth under `root`, or, if there is none, another
+/// entry of that name; any one of several. Hidden files and folders are skipped, links to folders
+/// are not followed, folders that cannot be listed count as empty. An identifier that is no plain
+/// file name (empty, with "/" or NUL, or a leading ".") finds nothing.
 [[nodiscard]] std::optional<std::filesystem::path>
 find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem);
 

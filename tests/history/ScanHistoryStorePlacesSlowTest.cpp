@@ -126,10 +126,10 @@ TEST(ScanHistoryStorePlacesSlowTest, staysWholeWhileTwoProgramsAppendAtOnce)
     const ScanHistoryStore store(folder.path());
     const pid_t other = fork();
     if (other == 0)
-        _exit(appendScans(folder.path(), "theirs") ? 0 : 1);
+        _exit(appendScans(folder.path(), "other") ? 0 : 1);
     int status = 0;
     bool isWhole = true;
-    EXPECT_TRUE(appendScans(folder.path(), "ours"));
+    EXPECT_TRUE(appendScans(folder.path(), "first"));
     while (waitpid(other, &status, WNOHANG) == 0)
         isWhole = isWhole && ScanHistoryFile::decoded(contentOf(store.fileURL())).has_value();
     EXPECT_EQ(status, 0);

@@ -63,7 +63,7 @@ TEST(ProbeOutputParserTest, hasNoUsageFromWhatIsNoObject)
     EXPECT_FALSE(output(R"({"session_id":"s","usage":null})").usage);
 }
 
-TEST(ProbeOutputParserTest, takesAResultThatIsNoTextForEmpty)
+TEST(ProbeOutputParserTest, readsAResultThatIsNoTextAsEmpty)
 {
     EXPECT_EQ(output(R"({"session_id":"s","result":{"a":1}})").result, "");
     EXPECT_EQ(output(R"({"session_id":"s","result":null})").result, "");

@@ -74,7 +74,7 @@ std::string printing(const char *text)
 
 } // namespace
 
-TEST(ProbeRunnerDeadlineTest, takesASessionKilledAtTheTimeoutForTimedOutWhateverItPrinted)
+TEST(ProbeRunnerDeadlineTest, reportsASessionKilledAtTheTimeoutAsTimedOutWhateverItPrinted)
 {
     for (const char *const text : {"{\"session_id\":", complete, failed})
         EXPECT_EQ(errorOf({.script = printing(text) + "exec sleep 30\n", .timeoutSeconds = 0.3}),
@@ -82,7 +82,7 @@ TEST(ProbeRunnerDeadlineTest, takesASessionKilledAtTheTimeoutForTimedOutWhatever
             << text;
 }
 
-TEST(ProbeRunnerDeadlineTest, takesAStoppedSessionThatExitsByItselfForTimedOut)
+TEST(ProbeRunnerDeadlineTest, reportsAStoppedSessionThatExitsByItselfAsTimedOut)
 {
     EXPECT_EQ(errorOf({.script = exitsWith143, .timeoutSeconds = 0.5}), ProbeError::timedOut());
 }
@@ -95,7 +95,7 @@ TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedSessionThatExitsBy
               ProbeError::sessionFailed("no"));
 }
 
-TEST(ProbeRunnerDeadlineTest, takesPartialOutputOfAReaderThatHadToStopForTimedOut)
+TEST(ProbeRunnerDeadlineTest, reportsPartialOutputOfAReaderThatHadToStopAsTimedOut)
 {
     EXPECT_EQ(errorOf({.script = "echo '{\"session_id\":'\nsleep 3 &\n"}), ProbeError::timedOut());
 }
@@ -105,7 +105,7 @@ TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAReaderThatHadToStop)
     EXPECT_EQ(errorOf({.script = printing(complete) + "sleep 3 &\n"}), std::nullopt);
 }
 
-TEST(ProbeRunnerDeadlineTest, goesOnWithoutTranscriptWhenTheDiskDoesNotAnswer)
+TEST(ProbeRunnerDeadlineTest, continuesWithoutATranscriptWhenTheDiskDoesNotAnswer)
 {
     const Stopwatch watch;
     EXPECT_EQ(errorOf({.script = printing(complete),
@@ -113,7 +113,7 @@ TEST(ProbeRunnerDeadlineTest, goesOnWithoutTranscriptWhenTheDiskDoesNotAnswer)
                        .transcriptSearchSeconds = 0.05}),
               std::nullopt);
     EXPECT_GE(watch.seconds(), 0.05);
-    // The search goes on alone; it must be over before the program is, for the leak checker.
+    // The search continues alone; it must end before the program does, for the leak checker.
     std::this_thread::sleep_for(std::chrono::milliseconds(1900));
 }
 

@@ -37,7 +37,8 @@ private:
     std::function<void()> m_listing;
 };
 
-ProbeRunner::Settings searching(const std::filesystem::path &root, int attempts, double delaySeconds)
+ProbeRunner::Settings searching(const std::filesystem::path &root, int attempts,
+                                double delaySeconds)
 {
     ProbeRunner::Settings settings;
     settings.projectsRoot = root;

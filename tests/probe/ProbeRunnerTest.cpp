@@ -150,7 +150,7 @@ TEST(ProbeRunnerTest, neverLooksForTheTranscriptOfASessionThatFailed)
     EXPECT_EQ(setting.error(), ProbeError::sessionFailed("Credit balance is too low"));
 }
 
-TEST(ProbeRunnerTest, tellsASessionThatIsNotSignedIn)
+TEST(ProbeRunnerTest, reportsASessionThatIsNotSignedIn)
 {
     const Setting setting;
     setting.commandRuns("echo 'Invalid API key' >&2\nexit 1\n");
@@ -174,7 +174,7 @@ TEST(ProbeRunnerTest, findsNoCommandWhereThereIsNone)
     EXPECT_EQ(searched.front(), setting.settings.home + "/.local/bin/claude");
 }
 
-TEST(ProbeRunnerTest, asksTheUsersDiskWhatIsExecutable)
+TEST(ProbeRunnerTest, looksOnTheUsersDiskForExecutables)
 {
     const Setting setting;
     const auto user = ProbeRunner::userSettings(setting.settings.environment, nullptr);
@@ -191,7 +191,7 @@ TEST(ProbeRunnerTest, runsTheOverrideWhenThereIsOne)
     EXPECT_EQ(setting.result().resolvedCLIPath, *setting.settings.cliOverride);
 }
 
-TEST(ProbeRunnerTest, saysWhatCouldNotBeStarted)
+TEST(ProbeRunnerTest, namesWhatCouldNotBeStarted)
 {
     const Setting setting;
     const auto cli = setting.folder
@@ -214,7 +214,7 @@ TEST(ProbeRunnerTest, runsTheCommandWithItsArgumentsInTheRepository)
                   "><--output-format><json><--model><sonnet>");
 }
 
-TEST(ProbeRunnerTest, hidesKeysOfItsOwnFromTheCommand)
+TEST(ProbeRunnerTest, hidesKeysFromTheCommand)
 {
     Setting setting;
     setting.settings.environment["ANTHROPIC_API_KEY"] = "secret";
@@ -284,7 +284,7 @@ TEST(ProbeRunnerTest, readsTurnsOnlyFromAnExactInteger)
     EXPECT_EQ(ProbeRunner::reportedTurns(""), std::nullopt);
 }
 
-TEST(ProbeRunnerTest, needsNobodyWhoCouldAskForTheEnd)
+TEST(ProbeRunnerTest, needsNoShutdown)
 {
     Setting setting;
     setting.settings.shutdown = nullptr;

@@ -84,7 +84,7 @@ TEST(TranscriptLocatorTest, expandsTheHomeFolderAtTheHead)
     EXPECT_EQ(normalizedConfigDir(" ~/a/../b ", "/w"), "/home/u/b");
 }
 
-TEST(TranscriptLocatorTest, leavesAnotherTildeAsItIs)
+TEST(TranscriptLocatorTest, keepsAnyOtherTilde)
 {
     const EnvironmentSwap swap({"HOME=/home/u"});
     EXPECT_EQ(normalizedConfigDir("~other/x", "/w"), "/w/~other/x");
@@ -139,7 +139,7 @@ TEST(TranscriptLocatorTest, findsNothingUnderARootThatIsMissing)
     EXPECT_FALSE(found("s", folder.write("s.jsonl", "")));
 }
 
-TEST(TranscriptLocatorTest, takesNoIdentifierThatIsNoPlainFileName)
+TEST(TranscriptLocatorTest, rejectsAnIdentifierThatIsNoPlainFileName)
 {
     const TemporaryFolder folder;
     (void)folder.write("a/s.jsonl", "");
@@ -164,7 +164,7 @@ TEST(TranscriptLocatorTest, followsALinkToAFileButNotToAFolder)
     EXPECT_EQ(found("t", folder.path() / "root"), folder.path() / "root/t.jsonl");
 }
 
-TEST(TranscriptLocatorTest, goesOnPastAFolderThatCannotBeRead)
+TEST(TranscriptLocatorTest, continuesPastAFolderThatCannotBeRead)
 {
     const TemporaryFolder folder;
     (void)folder.write("closed/s.jsonl", "");
@@ -192,7 +192,7 @@ TEST(TranscriptLocatorTest, stopsAtTheFirstFile)
     EXPECT_EQ(fileSystem.listed(), (std::vector<fs::path>{"/r"}));
 }
 
-TEST(TranscriptLocatorTest, listsNextTheFolderThatAnswersToTheName)
+TEST(TranscriptLocatorTest, listsNextTheFolderThatMayHoldTheFile)
 {
     InMemoryFileSystem fileSystem;
     for (const char *folder : {"/r/a", "/r/b", "/r/c", "/r/d"})
@@ -202,7 +202,7 @@ TEST(TranscriptLocatorTest, listsNextTheFolderThatAnswersToTheName)
     EXPECT_EQ(fileSystem.listed(), (std::vector<fs::path>{"/r", "/r/c"}));
 }
 
-TEST(TranscriptLocatorTest, believesAListingAlone)
+TEST(TranscriptLocatorTest, trustsOnlyAListing)
 {
     // A disk without letter case answers to a name that stands in no folder.
     class AnsweringFileSystem : public InMemoryFileSystem
@@ -216,7 +216,7 @@ TEST(TranscriptLocatorTest, believesAListingAlone)
     EXPECT_FALSE(TranscriptLocator::find("s", "/r", fileSystem));
 }
 
-TEST(TranscriptLocatorTest, passesOverAFolderThatHoldsNeitherTheNameNorFolders)
+TEST(TranscriptLocatorTest, skipsAFolderThatHoldsNeitherTheFileNorFolders)
 {
     class CountingFileSystem : public InMemoryFileSystem
     {
@@ -264,7 +264,7 @@ TEST(TranscriptLocatorTest, walksFoldersOfAnyDepth)
     EXPECT_EQ(TranscriptLocator::find("s", "/r", fileSystem), folder / "s.jsonl");
 }
 
-TEST(TranscriptLocatorTest, endsInATreeDeeperThanAPathMayBeLong)
+TEST(TranscriptLocatorTest, endsInATreeDeeperThanTheLongestPath)
 {
     const TemporaryFolder folder;
     const fs::path before = fs::current_path();
