@@ -8,6 +8,8 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 
+#include "base/SourcePages.h"
+
 namespace Loadwick::ApplicationStyle {
 namespace {
 
@@ -56,6 +58,7 @@ void applyFont(QGuiApplication &application)
 void addModulePath(QQmlEngine &engine)
 {
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    readPagesFromSource(engine);
 }
 
 } // namespace Loadwick::ApplicationStyle

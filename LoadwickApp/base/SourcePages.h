@@ -1,0 +1,12 @@
+#pragma once
+
+class QQmlEngine;
+
+namespace Loadwick {
+
+/// In a build for everyday work, lets the engine read each page of our module from the source tree
+/// instead of from the program, so that an edited page is seen at the next start without a build.
+/// Other builds know no source tree: there it does nothing.
+void readPagesFromSource(QQmlEngine &engine);
+
+} // namespace Loadwick
