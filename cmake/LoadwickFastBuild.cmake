@@ -34,6 +34,8 @@ function(loadwick_unity target)
         set_source_files_properties("${source}" PROPERTIES UNITY_GROUP "${folder}")
     endforeach()
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    # It takes every file but the one that is compiled for a header.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()
 
 # Compiles the pages that Qt made C++ of a dozen at a time; our warnings are not about that code.
