@@ -13,40 +13,40 @@ namespace {
 
 constexpr double finalWaitSeconds = 1.0;
 
-/// Counts the readers under way.
-class WaitGroup
-{
-public:
-    void enter()
-    {
-        const std::lock_guard lock(m_lock);
-        ++m_count;
-    }
-
-    void leave()
-    {
-        const std::lock_guard lock(m_lock);
-        --m_count;
-        m_changed.notify_all();
-    }
-
-    /// Blocks until all have left, or until `deadline`; true for the former.
-    [[nodiscard]] bool waitUntil(Deadline deadline)
-    {
-        std::unique_lock lock(m_lock);
-        return m_changed.wait_until(lock, deadline, [this] { return m_count == 0; });
-    }
-
-private:
-    std::mutex m_lock;
-    std::condition_variable m_changed;
-    int m_count = 0;
-};
-
 } // namespace
 
 struct StreamReaders::Shared
 {
+    /// Counts the readers under way.
+    class WaitGroup
+    {
+    public:
+        void enter()
+        {
+            const std::lock_guard lock(m_lock);
+            ++m_count;
+        }
+
+        void leave()
+        {
+            const std::lock_guard lock(m_lock);
+            --m_count;
+            m_changed.notify_all();
+        }
+
+        /// Blocks until all have left, or until `deadline`; true for the former.
+        [[nodiscard]] bool waitUntil(Deadline deadline)
+        {
+            std::unique_lock lock(m_lock);
+            return m_changed.wait_until(lock, deadline, [this] { return m_count == 0; });
+        }
+
+    private:
+        std::mutex m_lock;
+        std::condition_variable m_changed;
+        int m_count = 0;
+    };
+
     explicit Shared(std::size_t captureLimit) : box(captureLimit) {}
 
     void read(FileDescriptor descriptor, OutputBox::Stream stream)

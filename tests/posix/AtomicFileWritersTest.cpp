@@ -21,7 +21,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-bool replaces(const fs::path &path, std::string_view bytes)
+bool isWritten(const fs::path &path, std::string_view bytes)
 {
     return !AtomicFile::replace(path, bytes);
 }
@@ -33,7 +33,7 @@ TEST(AtomicFileWritersTest, removesWhatACrashedWriterLeft)
     const TemporaryFolder folder;
     folder.write(".file.json.a1B2c3", "half");
     folder.write(".file.json.zzzzzz", "half");
-    EXPECT_TRUE(replaces(folder.path() / "file.json", "new"));
+    EXPECT_TRUE(isWritten(folder.path() / "file.json", "new"));
     EXPECT_EQ(namesIn(folder.path()), Names{"file.json"});
 }
 
@@ -43,10 +43,10 @@ TEST(AtomicFileWritersTest, keepsTheTemporaryFileOfALivingWriter)
     const fs::path other = folder.write(".file.json.a1B2c3", "half");
     FileDescriptor writer(open(other.c_str(), O_RDWR | O_CLOEXEC));
     ASSERT_EQ(flock(writer.number(), LOCK_EX), 0);
-    EXPECT_TRUE(replaces(folder.path() / "file.json", "new"));
+    EXPECT_TRUE(isWritten(folder.path() / "file.json", "new"));
     EXPECT_EQ(contentOf(other), "half");
     writer.reset();
-    EXPECT_TRUE(replaces(folder.path() / "file.json", "new"));
+    EXPECT_TRUE(isWritten(folder.path() / "file.json", "new"));
     EXPECT_FALSE(fs::exists(other));
 }
 
@@ -60,7 +60,7 @@ TEST(AtomicFileWritersTest, takesNothingElseForATemporaryFile)
         folder.write(name, "kept");
     fs::create_directory(folder.path() / ".file.json.folder");
     fs::create_symlink("file.json.a1B2c3", folder.path() / ".file.json.linked");
-    EXPECT_TRUE(replaces(folder.path() / "file.json", "new"));
+    EXPECT_TRUE(isWritten(folder.path() / "file.json", "new"));
     EXPECT_EQ(namesIn(folder.path()).size(), others.size() + 3);
 }
 
@@ -85,11 +85,11 @@ TEST(AtomicFileWritersTest, letsTwoWritersWorkSideBySide)
     if (child == 0) {
         int failures = 0;
         for (int count = 0; count < 100; ++count)
-            failures += replaces(path, theirs) ? 0 : 1;
+            failures += isWritten(path, theirs) ? 0 : 1;
         _exit(failures == 0 ? 0 : 1);
     }
     for (int count = 0; count < 100; ++count) {
-        EXPECT_TRUE(replaces(path, ours));
+        EXPECT_TRUE(isWritten(path, ours));
         const std::string content = contentOf(path);
         EXPECT_TRUE(content == ours || content == theirs);
     }
@@ -116,7 +116,7 @@ TEST(AtomicFileWritersTest, showsTheOldContentOrTheNewWhenTheWriterIsKilled)
         const std::string content = contentOf(path);
         ASSERT_TRUE(content == first || content == second) << "round " << round;
     }
-    EXPECT_TRUE(replaces(path, first));
+    EXPECT_TRUE(isWritten(path, first));
     EXPECT_EQ(namesIn(folder.path()), Names{"file.json"});
 }
 

@@ -20,10 +20,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::size_t openDescriptors()
+std::ptrdiff_t descriptorCount()
 {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
 }
 
 int failureNumber(const fs::path &path)
@@ -192,7 +191,7 @@ TEST(RegularFileTest, leavesNoDescriptorOpen)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.write("a", "abc");
-    const std::size_t before = openDescriptors();
+    const std::ptrdiff_t before = descriptorCount();
     {
         auto first = RegularFile::open(path);
         auto second = RegularFile::open(path);
@@ -203,7 +202,7 @@ TEST(RegularFileTest, leavesNoDescriptorOpen)
         (void)RegularFile::open(folder.path());
         (void)RegularFile::open(folder.path() / "missing");
     }
-    EXPECT_EQ(openDescriptors(), before);
+    EXPECT_EQ(descriptorCount(), before);
 }
 
 TEST(RegularFileTest, hidesItsDescriptorFromChildren)

@@ -14,7 +14,7 @@ namespace Loadwick {
 
 namespace {
 
-ChildCommand hostileCommand(std::vector<std::string> arguments)
+ChildCommand commandInRoot(std::vector<std::string> arguments)
 {
     return {hostileChildPath(), std::move(arguments), {}, "/"};
 }
@@ -44,14 +44,14 @@ std::string lineOf(const std::string &description, const std::string &start)
 
 TEST(ProcessSpawnTest, givesTheChildASessionOfItsOwnWithoutATerminal)
 {
-    const std::string description = described(hostileCommand({"describe"}));
+    const std::string description = described(commandInRoot({"describe"}));
     EXPECT_EQ(lineOf(description, "leads"), "leads session and group: yes");
     EXPECT_EQ(lineOf(description, "terminal"), "terminal: no");
 }
 
 TEST(ProcessSpawnTest, givesTheChildTheNullDeviceForInput)
 {
-    EXPECT_EQ(lineOf(described(hostileCommand({"describe"})), "input"), "input bytes: 0");
+    EXPECT_EQ(lineOf(described(commandInRoot({"describe"})), "input"), "input bytes: 0");
 }
 
 TEST(ProcessSpawnTest, passesNoOtherDescriptorOn)
@@ -59,7 +59,7 @@ TEST(ProcessSpawnTest, passesNoOtherDescriptorOn)
     const FileDescriptor leaky(open("/dev/null", O_RDONLY));
     const FileDescriptor high(fcntl(leaky.number(), F_DUPFD, 300));
     ASSERT_TRUE(high.isOpen());
-    EXPECT_EQ(lineOf(described(hostileCommand({"describe"})), "descriptors"), "descriptors: 0 1 2");
+    EXPECT_EQ(lineOf(described(commandInRoot({"describe"})), "descriptors"), "descriptors: 0 1 2");
 }
 
 TEST(ProcessSpawnTest, startsTheChildWithDefaultSignals)
@@ -72,7 +72,7 @@ TEST(ProcessSpawnTest, startsTheChildWithDefaultSignals)
         sigset_t all;
         sigfillset(&all);
         pthread_sigmask(SIG_BLOCK, &all, nullptr);
-        description = described(hostileCommand({"describe"}));
+        description = described(commandInRoot({"describe"}));
     }).join();
     std::signal(SIGPIPE, previous);
     std::signal(SIGHUP, previousHangUp);
@@ -82,14 +82,14 @@ TEST(ProcessSpawnTest, startsTheChildWithDefaultSignals)
 
 TEST(ProcessSpawnTest, startsTheChildInItsFolder)
 {
-    ChildCommand command = hostileCommand({"describe"});
+    ChildCommand command = commandInRoot({"describe"});
     command.workingFolder = "/usr/bin";
     EXPECT_EQ(lineOf(described(command), "folder"), "folder: /usr/bin");
 }
 
 TEST(ProcessSpawnTest, looksForARelativeExecutableInItsOwnFolderNotInTheChilds)
 {
-    ChildCommand command = hostileCommand({"describe"});
+    ChildCommand command = commandInRoot({"describe"});
     command.executable = std::filesystem::relative(hostileChildPath()).string();
     command.workingFolder = "/usr/bin";
     EXPECT_EQ(lineOf(described(command), "folder"), "folder: /usr/bin");
@@ -97,13 +97,13 @@ TEST(ProcessSpawnTest, looksForARelativeExecutableInItsOwnFolderNotInTheChilds)
 
 TEST(ProcessSpawnTest, passesArgumentsOnAsTheyAre)
 {
-    EXPECT_EQ(described(hostileCommand({"arguments", "", "two words", "*$HOME", "\n\xFF"})),
+    EXPECT_EQ(described(commandInRoot({"arguments", "", "two words", "*$HOME", "\n\xFF"})),
               "\ntwo words\n*$HOME\n\n\xFF\n");
 }
 
 TEST(ProcessSpawnTest, givesTheChildExactlyItsEnvironment)
 {
-    ChildCommand command = hostileCommand({"environment"});
+    ChildCommand command = commandInRoot({"environment"});
     EXPECT_EQ(described(command), "");
     command.environment = {{"A", "1"}, {"EMPTY", ""}};
     EXPECT_EQ(described(command), "A=1\nEMPTY=\n");
