@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <memory>
 
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QHoverEvent>
 #include <QQmlEngine>
@@ -11,6 +10,7 @@
 #include "charts/MarkedChart.h"
 #include "shell/ApplicationSetup.h"
 #include "stage/Camera.h"
+#include "stage/FrameMeter.h"
 #include "stage/Subcommand.h"
 #include "theme/Appearance.h"
 #include "theme/ApplicationStyle.h"
@@ -19,15 +19,8 @@ namespace Loadwick {
 
 namespace {
 
-constexpr int settlingMilliseconds = 700; // longer than the entrance of a page
-constexpr int greatestHeight = 900;       // of a window; the page is longer than a screen
-
-void letSettle()
-{
-    const QDeadlineTimer end(settlingMilliseconds);
-    while (!end.hasExpired())
-        QGuiApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-}
+constexpr FrameMeter::Milliseconds settling{700}; // longer than the entrance of a page
+constexpr int greatestHeight = 900;               // of a window; the page is longer than a screen
 
 bool isPointedAt(const QQuickItem *item)
 {
@@ -79,9 +72,9 @@ public:
     [[nodiscard]] QImage picture()
     {
         m_window->show();
-        letSettle();
+        FrameMeter::run(settling);
         pointAtCharts(*m_window->rootObject());
-        letSettle();
+        FrameMeter::run(settling);
         return m_window->grabWindow();
     }
 

@@ -7,11 +7,11 @@
 
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QTimer>
 
 #include "samples/Confinement.h"
 #include "samples/ThrowAwayHome.h"
 #include "stage/ConfinedWindow.h"
+#include "stage/FrameMeter.h"
 #include "stage/ProcessOfItsOwn.h"
 #include "stage/Subcommand.h"
 #include "stage/WindowControl.h"
@@ -36,14 +36,6 @@ void pressScanKey(QQuickWindow &window)
 {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
         QCoreApplication::postEvent(&window, new QKeyEvent(type, Qt::Key_R, Qt::ControlModifier));
-}
-
-/// Lets the events run for a while.
-void rest(std::chrono::milliseconds time)
-{
-    QEventLoop loop;
-    QTimer::singleShot(time, &loop, &QEventLoop::quit);
-    loop.exec();
 }
 
 struct Round
@@ -99,12 +91,12 @@ int measure(const ThrowAwayHome &home, int rounds)
     loadwick.window().requestActivate();
     loadwick.content().chooseFolder();
     WindowControl::waitUntil("the chosen folder", [&] { return loadwick.content().canScan(); });
-    rest(std::chrono::seconds(1));
+    FrameMeter::run(std::chrono::seconds(1));
     for (int count = 0; count <= rounds; ++count) {
         const double alone = sessionAlone(home);
         const Round round = scanInWindow(loadwick);
-        rest(std::chrono::seconds(2)); // longer than the longest spring
-        if (count > 0)                 // the first one warms up
+        FrameMeter::run(std::chrono::seconds(2)); // longer than the longest spring
+        if (count > 0)                            // the first one warms up
             std::printf("%.1f %.1f %.1f\n", round.total, alone, round.frame);
     }
     return 0;
