@@ -149,8 +149,7 @@ class AccessibleTree:
     def type(self, text: str) -> None:
         """Types the text with real keys into what has the keyboard, once the window is active."""
         self._until("the active window", self._is_active)
-        command = ["xdotool", "type", "--delay", "1", text]
-        subprocess.run(command, check=True, timeout=LIMIT_SECONDS)
+        xdotool("type", "--delay", "1", text)
 
     def resize(self, width: int, height: int) -> None:
         """Gives the program's window this size, once it is active."""
@@ -179,7 +178,7 @@ def is_showing(item: Any) -> bool:
 
 
 def is_in_window(item: Any) -> bool:
-    """Whether the whole object lies inside its window; that of one too high for it never does."""
+    """Whether the whole object is inside its window, which a taller object never is."""
     holder = item
     while holder.get_role_name() not in ("frame", "window"):
         holder = holder.get_parent()

@@ -1,4 +1,4 @@
-"""The first launch, as somebody with a screen reader and a keyboard lives through it."""
+"""The first launch with a screen reader and a keyboard."""
 
 from __future__ import annotations
 

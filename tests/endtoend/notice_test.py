@@ -1,4 +1,4 @@
-"""A scan that ends while nobody looks: the desktop says so, until somebody does."""
+"""A scan that ends unseen: the desktop announces it until the window is seen."""
 
 from __future__ import annotations
 

@@ -46,7 +46,7 @@ class OverviewReadingTest(EndToEndCase):
         }
 
     def open_report(self) -> Program:
-        """The window with a whole report, come to rest."""
+        """The window with a whole report."""
         program = self.open()
         self.choose(program, self.repository)
         program.window.press(SCAN)
@@ -54,8 +54,8 @@ class OverviewReadingTest(EndToEndCase):
         return program
 
     def open_whole_report(self) -> Program:
-        """The same in a window that holds all of the page: the toolkit says of what is scrolled away
-        just what it says of what is hidden."""
+        """The same in a window that holds the whole page: on the bus, an object that is scrolled away
+        looks like a hidden one."""
         program = self.open_report()
         program.window.resize(1180, self.display_height - 100)
         program.window.wait_for(REPORT[-1])

@@ -1,4 +1,4 @@
-"""A scan's course, as a screen reader is told of it without looking."""
+"""A scan's progress, as a screen reader hears it."""
 
 from __future__ import annotations
 
@@ -35,7 +35,7 @@ class NameChanges:
             self.names.append(str(unless_gone(event.source.get_name, "")))
 
     def _hear(self) -> None:
-        """Takes what has come; the toolkit waits for a loop that asks."""
+        """Processes the events that have arrived; without a loop nothing does."""
         context = GLib.MainContext.default()
         while context.iteration(False):
             pass

@@ -14,7 +14,7 @@ MARK = "LOADWICK_OWN_SESSION"
 
 
 def run_again_in_own_session() -> None:
-    """Ends the script with the status of a second run of it in a session of its own.
+    """Runs the script again in its own session and ends with that run's status.
 
     Returns only in that second run. The accessibility bus listens on a socket whose name is fixed
     inside the folder for sockets: two scripts that share the folder take each other's bus away.

@@ -27,7 +27,7 @@ class SuccessesTest(EndToEndCase):
         program.window.wait_for("Scan complete")
 
     def copy_summary(self, program: Program) -> None:
-        """Presses the button at the page's end: seen, since what is scrolled away cannot be."""
+        """Presses the button at the page's end, which must be in sight."""
         program.window.resize(1180, self.display_height - 100)
         program.window.press("Copy Summary")
 

@@ -91,7 +91,7 @@ class ThrowAwayHome:
         return folder
 
     def will_choose(self, folder: bytes) -> None:
-        """Decides with which folder the dialog's twin answers from now on."""
+        """Decides which folder the fake dialog chooses from now on."""
         (self.path / "folder-to-choose").write_bytes(folder)
 
     def scans(self) -> list[dict[str, Any]]:

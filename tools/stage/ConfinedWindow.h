@@ -15,8 +15,8 @@ namespace Loadwick::ConfinedWindow {
 [[nodiscard]] LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home,
                                                           ProbeRunner::Settings settings);
 
-/// A folder dialog's twin, which answers by itself with the folder that `answer` returns at that
-/// moment. It can name folders that a dialog cannot, such as those whose names are not text.
+/// A fake folder dialog, which chooses the folder that `answer` returns when it opens: also folders
+/// that no dialog can name, because their names are not UTF-8.
 [[nodiscard]] std::unique_ptr<FolderChooser>
 givenFolder(std::function<std::filesystem::path()> answer);
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <memory>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QHoverEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -42,7 +42,7 @@ void pointAtCharts(const QQuickItem &root)
     }
 }
 
-/// The gallery in one scheme. Each has an engine, and so a theme, of its own.
+/// The gallery in one scheme. Each has its own engine, and so its own theme.
 class GalleryView
 {
 public:
@@ -86,13 +86,13 @@ private:
 int openWindows(const Invocation &invocation)
 {
     ApplicationSetup::prepare();
-    QGuiApplication application(invocation.argc, invocation.argv);
+    QApplication application(invocation.argc, invocation.argv);
     ApplicationSetup::apply(application);
     GalleryView light(Appearance::Light);
     GalleryView dark(Appearance::Dark);
     light.showAt(20);
     dark.showAt(40 + light.window().width());
-    return QGuiApplication::exec();
+    return QApplication::exec();
 }
 
 int writePictures(const PictureFolder &folder)

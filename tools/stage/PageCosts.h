@@ -21,7 +21,7 @@ public:
     /// Adds those of another page.
     void add(const PageCosts &other);
 
-    /// Whether nobody waits for the page and nothing on it stutters.
+    /// Whether the page appears at once and nothing on it stutters.
     [[nodiscard]] bool areLow() const;
 
     /// One line each on the standard output.

@@ -14,7 +14,8 @@ using namespace WindowControl;
 
 namespace {
 
-/// Those of a window in which nobody scans: what it could start or read lies in an empty home.
+/// Collaborators of a window in which nobody scans: all that it could start or read is an empty
+/// home.
 LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home)
 {
     return {.probeRunner =

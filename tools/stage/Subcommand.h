@@ -19,11 +19,11 @@ struct Invocation
 int demo(const Invocation &invocation);
 
 /// The program's window over the home that HOME names and the preferences in it, for the end-to-end
-/// tests: the stand-in for `claude` is the only command it can start, and its waits are short. The
-/// folder dialog's twin answers with the bytes of the file "folder-to-choose" in that home.
-///   --platform-dialog   the real folder dialog instead of its twin
+/// tests: the stand-in for `claude` is the only command it can start, and its waits are short. A
+/// fake folder dialog chooses the path in the file "folder-to-choose" of that home.
+///   --platform-dialog   the real folder dialog instead
 ///   --timeout SECONDS   how long a session may take (default 60)
-///   --beside-others     a window of its own where another one is open over the same data
+///   --beside-others     a second window where one is open over the same data
 int window(const Invocation &invocation);
 
 /// Shows every component in every state, light and dark side by side. With a folder, writes
@@ -40,8 +40,7 @@ int pictures(const Invocation &invocation);
 int looks(const Invocation &invocation);
 
 /// Prints what the frames of each page cost; see PageCosts. `[--check] [ROUNDS [NAME...]]`: a name
-/// selects all pages whose names begin with it. With --check the program fails when a page takes
-/// longer than a reader should wait.
+/// selects all pages whose names begin with it. With --check the program fails when a page is slow.
 int frames(const Invocation &invocation);
 
 /// Scans with a stand-in that answers at once and prints one line for each of `[ROUNDS]`, three

@@ -4,7 +4,7 @@
 #include <iostream>
 #include <string_view>
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include "shell/ApplicationSetup.h"
 #include "stage/Subcommand.h"
@@ -47,7 +47,7 @@ int runOffScreen(const Invocation &invocation, const std::function<int()> &work)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     ApplicationSetup::prepare();
-    QGuiApplication application(invocation.argc, invocation.argv);
+    QApplication application(invocation.argc, invocation.argv);
     ApplicationSetup::apply(application);
     return work();
 }
