@@ -18,10 +18,10 @@ void appendEscape(std::string &text, char character)
     constexpr std::string_view named = "\"\\\b\f\n\r\t";
     constexpr std::string_view letters = "\"\\bfnrt";
     constexpr std::string_view hexadecimal = "0123456789abcdef";
-    const std::size_t place = named.find(character);
-    if (place != std::string_view::npos) {
+    const std::size_t index = named.find(character);
+    if (index != std::string_view::npos) {
         text += '\\';
-        text += letters[place];
+        text += letters[index];
     } else {
         const auto code = static_cast<unsigned char>(character);
         text += "\\u00";

@@ -6,7 +6,7 @@
 
 namespace Faults {
 
-TEST(FaultTest, isReplayedFromTheWordsInWhichItIsReported)
+TEST(FaultTest, isReplayedFromItsReport)
 {
     for (const CallRefusals &refusals : callRefusals())
         for (const int number : refusals.errorNumbers)
@@ -22,7 +22,7 @@ TEST(FaultTest, isReplayedFromTheWordsInWhichItIsReported)
             }
 }
 
-TEST(FaultTest, isNotMadeFromOtherWords)
+TEST(FaultTest, isNotReadFromOtherWords)
 {
     EXPECT_TRUE(Fault::fromText("history-load,read,EIO,1,once"));
     for (const char *text : {"", "history-load", "history-load,read,EIO,1",
@@ -32,7 +32,7 @@ TEST(FaultTest, isNotMadeFromOtherWords)
         EXPECT_FALSE(Fault::fromText(text)) << text;
 }
 
-TEST(FaultTest, knowsTheKindsInTheOrderInWhichTheyAreCounted)
+TEST(FaultTest, listsTheKindsInTheirCountingOrder)
 {
     ASSERT_EQ(callRefusals().size(), callKinds);
     for (std::size_t kind = 0; kind < callKinds; ++kind)
@@ -48,12 +48,12 @@ TEST(FaultTest, interruptsOnceOrInABurstAndFailsOtherwiseOnceOrForEver)
     EXPECT_GT(Fault{.mode = Mode::always}.count(), 1'000'000'000);
 }
 
-TEST(FaultTest, tellsWantsThatPassFromOthers)
+TEST(FaultTest, tellsTransientErrorsFromOthers)
 {
     for (const int number : {ENOMEM, EMFILE, ENFILE, EINTR, EAGAIN})
-        EXPECT_TRUE(Fault{.errorNumber = number}.isPassing());
+        EXPECT_TRUE(Fault{.errorNumber = number}.isTransient());
     for (const int number : {EIO, EACCES, EROFS})
-        EXPECT_FALSE(Fault{.errorNumber = number}.isPassing());
+        EXPECT_FALSE(Fault{.errorNumber = number}.isTransient());
 }
 
 } // namespace Faults

@@ -52,7 +52,7 @@ TEST(HistoryFixtureTest, acceptsTheOldFileOnlyAfterAFault)
     EXPECT_FALSE(fixture.problemAfterClear(elsewhere));
 }
 
-TEST(HistoryFixtureTest, seesATornFile)
+TEST(HistoryFixtureTest, reportsATornFile)
 {
     const Loadwick::TemporaryFolder home;
     const HistoryFixture fixture(home.path(), Start::threeScans);
@@ -76,7 +76,7 @@ TEST(HistoryFixtureTest, forgivesLostScansOnlyWhereReadingFailsForGood)
     EXPECT_TRUE(fixture.problemAfterAppend(std::nullopt));
 }
 
-TEST(HistoryFixtureTest, seesAFileThatIsGoneAndOneThatWasLeftBehind)
+TEST(HistoryFixtureTest, reportsAMissingFileAndALeftoverOne)
 {
     const Loadwick::TemporaryFolder home;
     const HistoryFixture fixture(home.path(), Start::threeScans);
@@ -88,7 +88,7 @@ TEST(HistoryFixtureTest, seesAFileThatIsGoneAndOneThatWasLeftBehind)
     EXPECT_TRUE(fixture.problemAfterClear(lasting));
 }
 
-TEST(HistoryFixtureTest, canBeginWithNothing)
+TEST(HistoryFixtureTest, mayStartEmpty)
 {
     const Loadwick::TemporaryFolder home;
     const HistoryFixture fixture(home.path(), Start::nothing);

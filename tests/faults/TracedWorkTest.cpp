@@ -8,7 +8,7 @@
 
 namespace Faults {
 
-TEST(TracedWorkTest, killsBeforeAndBehindEachCall)
+TEST(TracedWorkTest, killsBeforeAndAfterEachCall)
 {
     const Loadwick::TemporaryFolder folder;
     const std::filesystem::path path = folder.path() / "made";
@@ -26,7 +26,7 @@ TEST(TracedWorkTest, killsBeforeAndBehindEachCall)
     EXPECT_TRUE(std::filesystem::exists(path));
 }
 
-TEST(TracedWorkTest, leavesWorkAloneThatIsDoneBefore)
+TEST(TracedWorkTest, leavesFinishedWorkAlone)
 {
     EXPECT_FALSE(isKilledAt(1'000, [] {}));
 }

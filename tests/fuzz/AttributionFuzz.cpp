@@ -78,9 +78,9 @@ public:
         if (m_input.slabs.empty())
             add("Startup context (categories not self-reported)",
                 std::max<std::int64_t>(m_input.total, 0), Provenance::claudeReported);
-        for (std::size_t place = 0; place < m_input.slabs.size(); ++place)
-            if (isFirstOfItsName(place))
-                addCategory(m_input.slabs[place].name);
+        for (std::size_t index = 0; index < m_input.slabs.size(); ++index)
+            if (isFirstOfItsName(index))
+                addCategory(m_input.slabs[index].name);
         for (const LocalCategoryEstimate &estimate : m_input.estimates)
             if (!m_input.slabs.empty() && estimate.tokens > 0)
                 add(estimate.name, estimate.tokens, Provenance::localEstimate);
@@ -93,11 +93,11 @@ public:
     }
 
 private:
-    bool isFirstOfItsName(std::size_t place) const
+    bool isFirstOfItsName(std::size_t index) const
     {
         return std::none_of(
-            m_input.slabs.begin(), m_input.slabs.begin() + static_cast<std::ptrdiff_t>(place),
-            [&](const auto &slab) { return isSame(slab.name, m_input.slabs[place].name); });
+            m_input.slabs.begin(), m_input.slabs.begin() + static_cast<std::ptrdiff_t>(index),
+            [&](const auto &slab) { return isSame(slab.name, m_input.slabs[index].name); });
     }
 
     void addCategory(const std::string &name)
@@ -106,9 +106,9 @@ private:
         for (const SelfReportedSlab &slab : m_input.slabs)
             reported += isSame(slab.name, name) ? slab.tokens : 0;
         std::vector<std::size_t> matching;
-        for (std::size_t place = 0; place < m_left.size(); ++place)
-            if (matches(m_input.estimates[place], name))
-                matching.push_back(place);
+        for (std::size_t index = 0; index < m_left.size(); ++index)
+            if (matches(m_input.estimates[index], name))
+                matching.push_back(index);
         if (matching.empty())
             return add(name, reported, Provenance::selfReported);
         std::int64_t beyond = 0;
@@ -120,9 +120,9 @@ private:
 
     bool takeOne(const std::vector<std::size_t> &matching)
     {
-        for (const std::size_t place : matching) {
-            if (m_left[place] > 0) {
-                --m_left[place];
+        for (const std::size_t index : matching) {
+            if (m_left[index] > 0) {
+                --m_left[index];
                 return true;
             }
         }
@@ -148,9 +148,9 @@ std::vector<SlabAttribution> byCreation(std::vector<SlabAttribution> rows)
 
 void checkOrder(const std::vector<SlabAttribution> &rows)
 {
-    for (std::size_t place = 1; place < rows.size(); ++place) {
-        const SlabAttribution &above = rows[place - 1];
-        const SlabAttribution &row = rows[place];
+    for (std::size_t index = 1; index < rows.size(); ++index) {
+        const SlabAttribution &above = rows[index - 1];
+        const SlabAttribution &row = rows[index];
         const bool isTie = above.tokens == row.tokens;
         require(above.tokens > row.tokens || (isTie && above.name < row.name) ||
                     (isTie && above.name == row.name && above.ordinal < row.ordinal),

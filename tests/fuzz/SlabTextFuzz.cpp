@@ -57,15 +57,15 @@ std::optional<SelfReportedSlab> slabByTheRules(std::string_view line)
 {
     const std::vector<std::string> words = wordsOf(stripped(stripped(line, " \t"), "-*`> "));
     std::size_t last = words.size();
-    for (std::size_t place = 0; place < words.size(); ++place)
-        if (lowercased(words[place]) == "tokens")
-            last = place;
+    for (std::size_t index = 0; index < words.size(); ++index)
+        if (lowercased(words[index]) == "tokens")
+            last = index;
     if (words.size() < 4 || lowercased(words[0]) != "slab" || last < 2 || last + 1 >= words.size())
         return std::nullopt;
     const auto count = countOf(words[last + 1]);
     std::string name = words[1];
-    for (std::size_t place = 2; place < last; ++place)
-        name += " " + words[place];
+    for (std::size_t index = 2; index < last; ++index)
+        name += " " + words[index];
     return count ? std::optional(SelfReportedSlab{.name = name, .tokens = *count}) : std::nullopt;
 }
 

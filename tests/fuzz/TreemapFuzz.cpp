@@ -57,7 +57,8 @@ void checkTreemap(std::string_view input)
         sum += counts(weight) ? static_cast<long double>(weight) : 0.0L;
     for (std::size_t index = 0; index < rects.size(); ++index) {
         const bool isShown = counts(weights[index]);
-        require(isShown || rects[index] == TreemapRect::zero, "what has no weight has no place");
+        require(isShown || rects[index] == TreemapRect::zero,
+                "an item without weight has no rectangle");
         require(isInside(rects[index]), "a rectangle lies in the square");
         const auto share = isShown ? static_cast<double>(weights[index] / sum) : 0.0;
         require(std::abs(rects[index].area() - share) < 1e-9, "an area is the weight's share");

@@ -1,7 +1,8 @@
 // Kills the writer of the history before and behind each of its system calls, and looks at what a
-// crash there leaves: the old file or the new one, and a place where the next scan can be recorded.
+// crash there leaves: the old file or the new one, and a history to which the next scan can be
+// added.
 //
-//   loadwick-crashes               every place
+//   loadwick-crashes               every system call
 //   loadwick-crashes SCENARIO N    one of them
 
 #include <array>
@@ -48,7 +49,7 @@ constexpr std::array scenarios{
     Scenario{"clear-behind-link", HistoryFixture::Start::threeScans, clear, true},
 };
 
-/// The store that works on the fixture, through a link if the scenario wants one.
+/// The store that works on the fixture, through a link if the scenario has one.
 ScanHistoryStore storeFor(const Scenario &scenario, const HistoryFixture &fixture,
                           const fs::path &home)
 {

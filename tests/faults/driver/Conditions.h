@@ -19,8 +19,8 @@ struct Condition
 
 [[nodiscard]] std::span<const Condition> conditions();
 
-/// Performs every operation under every condition; the number of those that went wrong. Says on
-/// standard output which.
+/// Performs every operation under every condition and reports on standard output. Returns the
+/// number of failures.
 [[nodiscard]] long runUnderConditions(const std::filesystem::path &workFolder);
 
 } // namespace Faults

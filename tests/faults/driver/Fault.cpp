@@ -143,13 +143,13 @@ std::optional<Fault> Fault::fromText(std::string_view text)
     return fault;
 }
 
-bool Fault::isPassing() const
+bool Fault::isTransient() const
 {
     constexpr std::array passing{EINTR, EAGAIN, EMFILE, ENFILE, ENOMEM};
     return std::find(passing.begin(), passing.end(), errorNumber) != passing.end();
 }
 
-bool Fault::isWantOfMemoryOrThread() const
+bool Fault::isShortageOfMemoryOrThreads() const
 {
     return call == Call::malloc || call == Call::mmap || call == Call::pthreadCreate;
 }

@@ -9,12 +9,12 @@
 
 namespace Faults {
 
-/// How often a call fails that has begun to.
+/// How often a call fails once it has failed.
 enum class Mode
 {
     once,
     always,
-    burst ///< a hundred times, as no signal interrupts without end
+    burst ///< a hundred times, since no signal interrupts for ever
 };
 
 /// One entry of the matrix: which call fails, in which operation, and how.
@@ -26,20 +26,20 @@ struct Fault
     long nth = 1;
     Mode mode = Mode::once;
 
-    /// "history-append,write,ENOSPC,3,once", which is also what is read for a replay.
+    /// "history-append,write,ENOSPC,3,once", which a replay reads.
     [[nodiscard]] std::string text() const;
     [[nodiscard]] static std::optional<Fault> fromText(std::string_view text);
 
-    /// A want that passes: of memory, of descriptors, of quiet.
-    [[nodiscard]] bool isPassing() const;
+    /// A transient shortage (memory, descriptors), or an interruption.
+    [[nodiscard]] bool isTransient() const;
 
-    /// There is no memory, or no thread, to be had.
-    [[nodiscard]] bool isWantOfMemoryOrThread() const;
+    /// Neither memory nor a thread is available.
+    [[nodiscard]] bool isShortageOfMemoryOrThreads() const;
 
     [[nodiscard]] long count() const;
 };
 
-/// A kind of call with the reasons for which the system refuses it.
+/// A kind of call with the errors by which the system refuses it.
 struct CallRefusals
 {
     Call call;
@@ -52,7 +52,7 @@ struct CallRefusals
 
 [[nodiscard]] std::string_view nameOf(Call call);
 
-/// Interruptions come in bursts, everything else once or from then on.
+/// Interruptions come in bursts, all other errors once or for ever.
 [[nodiscard]] std::span<const Mode> modesOf(int errorNumber);
 
 } // namespace Faults

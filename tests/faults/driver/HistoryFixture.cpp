@@ -23,7 +23,7 @@ void writeFile(const std::filesystem::path &path, const std::string &bytes)
 /// one that knows the new scan alone.
 bool mayLoseOldScans(const std::optional<Fault> &fault)
 {
-    if (!fault || fault->isPassing())
+    if (!fault || fault->isTransient())
         return false;
     return fault->call == Call::read || fault->call == Call::open || fault->call == Call::stat ||
            fault->call == Call::fstat;

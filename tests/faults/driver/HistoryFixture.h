@@ -10,7 +10,7 @@
 
 namespace Faults {
 
-/// A history of three scans in a home folder, and what may have become of it.
+/// A history of three scans in a home folder, and what an operation may make of it.
 class HistoryFixture
 {
 public:
@@ -32,15 +32,15 @@ public:
     [[nodiscard]] std::optional<std::string> bytes() const;
     [[nodiscard]] bool isUntouched() const { return bytes() == m_oldBytes; }
 
-    /// What is wrong after one scan was to be recorded.
+    /// What is wrong after an attempt to record one scan.
     [[nodiscard]] std::optional<std::string>
     problemAfterAppend(const std::optional<Fault> &fault) const;
 
-    /// What is wrong after the file was to be deleted.
+    /// What is wrong after an attempt to delete the file.
     [[nodiscard]] std::optional<std::string>
     problemAfterClear(const std::optional<Fault> &fault) const;
 
-    /// Something else than the file in its folder.
+    /// Anything beside the file in its folder.
     [[nodiscard]] std::optional<std::string> leftovers() const;
 
     /// What is wrong with a changed file of these bytes: it is the old scans and a new one, whole.

@@ -11,27 +11,27 @@
 
 namespace Faults {
 
-/// How an operation came back.
+/// How an operation ended.
 enum class Ending
 {
     returned,
     probeError,
     systemError,
     outOfMemory,
-    otherwise ///< with an exception of no type that an operation may end with
+    otherwise ///< with an exception that no operation may throw
 };
 
-/// One thing that the core does, over files of its own in a throw-away home.
+/// One operation of the core, over files of its own in a throw-away home.
 class Operation
 {
 public:
     virtual ~Operation() = default;
 
-    /// Does it, once, while calls fail.
+    /// Performs it once, while calls fail.
     virtual void perform() = 0;
 
-    /// What is wrong with how it went, if anything is. `fault` is absent when nothing was made to
-    /// fail: only complete success is right then.
+    /// What is wrong with its ending, if anything is. Without a `fault` only complete success is
+    /// right.
     [[nodiscard]] virtual std::optional<std::string>
     problem(Ending ending, const std::optional<Fault> &fault) const = 0;
 };
@@ -42,7 +42,7 @@ struct OperationKind
     std::string_view name;
     std::unique_ptr<Operation> (*make)(const std::filesystem::path &home);
     std::string_view watched = {}; ///< only calls on this path in the home fail; empty for all
-    bool isThreaded = false;       ///< memory is wanted in the background only
+    bool isThreaded = false;       ///< memory is needed in the background only
 };
 
 /// Those on the history file, on other files, on texts, on processes, and the whole scan.

@@ -12,9 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool isWantOfMemoryOrThread(Ending ending, const std::optional<Fault> &fault)
+bool isShortageOfMemoryOrThreads(Ending ending, const std::optional<Fault> &fault)
 {
-    return fault && fault->isWantOfMemoryOrThread() &&
+    return fault && fault->isShortageOfMemoryOrThreads() &&
            (ending == Ending::outOfMemory || ending == Ending::systemError);
 }
 
@@ -50,7 +50,7 @@ public:
     std::optional<std::string> problem(Ending ending,
                                        const std::optional<Fault> &fault) const override
     {
-        if (isWantOfMemoryOrThread(ending, fault))
+        if (isShortageOfMemoryOrThreads(ending, fault))
             return std::nullopt;
         if (fault && ending == Ending::probeError && m_isUnreadable)
             return std::nullopt;
@@ -86,7 +86,7 @@ public:
     std::optional<std::string> problem(Ending ending,
                                        const std::optional<Fault> &fault) const override
     {
-        if (isWantOfMemoryOrThread(ending, fault))
+        if (isShortageOfMemoryOrThreads(ending, fault))
             return std::nullopt;
         if (ending != Ending::returned)
             return "asking threw";

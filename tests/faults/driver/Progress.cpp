@@ -12,20 +12,20 @@ namespace Faults {
 
 namespace {
 
-/// The places inside the system where the threads of a process wait.
-std::string placesOf(pid_t processID)
+/// The kernel functions in which the threads of a process wait.
+std::string waitsOf(pid_t processID)
 {
     const std::filesystem::path tasks = "/proc/" + std::to_string(processID) + "/task";
-    std::string places;
+    std::string functions;
     std::error_code ignored;
     for (std::filesystem::directory_iterator task(tasks, ignored), end; task != end;
          task.increment(ignored)) {
-        std::string place;
-        std::getline(std::ifstream(task->path() / "wchan"), place);
-        if (!place.empty() && place != "0")
-            places += (places.empty() ? "; threads in " : ", ") + place;
+        std::string function;
+        std::getline(std::ifstream(task->path() / "wchan"), function);
+        if (!function.empty() && function != "0")
+            functions += (functions.empty() ? "; threads in " : ", ") + function;
     }
-    return places;
+    return functions;
 }
 
 } // namespace
@@ -51,7 +51,7 @@ void Progress::begin(const char *step) noexcept
 
 std::string Progress::of(pid_t processID) const
 {
-    return m_step->load() + placesOf(processID);
+    return m_step->load() + waitsOf(processID);
 }
 
 } // namespace Faults

@@ -7,8 +7,8 @@
 
 namespace Faults {
 
-/// What a process is about, as another one sees it that was forked from the same program: so that
-/// a wait without an end can be said to be one in a place.
+/// The progress of a process that was forked from this program, so that an endless wait can be
+/// reported with its kernel functions.
 class Progress
 {
 public:
@@ -20,8 +20,8 @@ public:
     /// From now on the process is `step`, a literal.
     void begin(const char *step) noexcept;
 
-    /// "performing; threads in futex_wait, do_poll", of the process that began the last step. The
-    /// system may keep to itself where threads are.
+    /// "performing; threads in futex_wait, do_poll", for the process that began the last step. The
+    /// system may conceal the functions.
     [[nodiscard]] std::string of(pid_t processID) const;
 
 private:

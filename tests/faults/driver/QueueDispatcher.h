@@ -9,7 +9,7 @@
 
 namespace Faults {
 
-/// The two places of a program without an event loop: threads, and whoever calls `runUntil`.
+/// Dispatches without an event loop: to threads, and to the caller of `runUntil`.
 class QueueDispatcher final : public Loadwick::TaskDispatcher
 {
 public:

@@ -34,7 +34,7 @@ public:
     std::optional<std::string> problem(Ending ending,
                                        const std::optional<Fault> &fault) const override
     {
-        const bool mayThrow = fault && fault->isWantOfMemoryOrThread();
+        const bool mayThrow = fault && fault->isShortageOfMemoryOrThreads();
         if (ending != Ending::returned)
             return mayThrow && (ending == Ending::systemError || ending == Ending::outOfMemory)
                        ? std::nullopt

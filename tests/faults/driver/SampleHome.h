@@ -15,16 +15,16 @@ inline constexpr std::int64_t resultTotal = 24'311; ///< of the command's own us
 void write(const std::filesystem::path &path, std::string_view text);
 void writeProgram(const std::filesystem::path &path, std::string_view text);
 
-/// A repository with three instruction files, one inherited and one personal. Gives its path.
+/// A repository with three instruction files, one inherited and one personal. Returns its path.
 std::filesystem::path writeRepository(const std::filesystem::path &home);
 
-/// A session's transcript under the projects root, which is given.
+/// Writes a session's transcript. Returns the projects root above it.
 std::filesystem::path writeTranscript(const std::filesystem::path &home);
 
-/// A program in the place of the `claude` command that prints one result. Gives its path.
+/// Writes a program that prints one result, as the `claude` command does. Returns its path.
 std::filesystem::path writeCommand(const std::filesystem::path &home);
 
-/// A login shell that says where that command is. Gives its path.
+/// A login shell that tells where that command is. Returns its path.
 std::filesystem::path writeShell(const std::filesystem::path &home);
 
 } // namespace Faults::SampleHome

@@ -87,7 +87,7 @@ private:
         const bool isExpected =
             std::holds_alternative<ProbeError::UnreadableOutput>(error.value()) ||
             std::holds_alternative<ProbeError::RepositoryUnreadable>(error.value());
-        if (fault->isWantOfMemoryOrThread() && !isExpected)
+        if (fault->isShortageOfMemoryOrThreads() && !isExpected)
             return "want of memory or of a thread ended as: " + error.headline();
         return std::nullopt;
     }

@@ -34,7 +34,7 @@ void require(char **arguments)
         Loadwick::fatalError("the library for the faults cannot be preloaded");
     setenv("LD_PRELOAD", LOADWICK_FAULTS_SHIM, 1);
     execv("/proc/self/exe", arguments);
-    Loadwick::fatalError("the driver cannot be started anew");
+    Loadwick::fatalError("the driver cannot be restarted");
 }
 
 void arm(const Plan &plan)

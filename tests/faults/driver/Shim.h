@@ -5,7 +5,7 @@
 /// The preloaded library, as the driver reaches it.
 namespace Faults::Shim {
 
-/// Starts this program anew with the library preloaded, unless it is there. What the program starts
+/// Restarts this program with the library preloaded, unless it already is. What the program starts
 /// later does not get it.
 void require(char **arguments);
 

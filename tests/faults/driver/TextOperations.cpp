@@ -31,7 +31,7 @@ public:
     std::optional<std::string> problem(Ending ending,
                                        const std::optional<Fault> &fault) const override
     {
-        if (fault && fault->isWantOfMemoryOrThread() && ending == Ending::outOfMemory)
+        if (fault && fault->isShortageOfMemoryOrThreads() && ending == Ending::outOfMemory)
             return problemOf(parsed(), "later: ");
         if (ending != Ending::returned)
             return "handling texts threw";

@@ -63,7 +63,7 @@ Ending endingOf(const std::exception_ptr &thrown)
     return Ending::returned;
 }
 
-/// A thread or a child of ours may need a poll interval to notice that it is over.
+/// Our threads and children may need a poll interval to notice the end.
 std::optional<std::string> remainsBeyond(const Loadwick::ProcessCensus &before)
 {
     constexpr std::chrono::seconds pollIntervals(1);
@@ -134,10 +134,10 @@ std::optional<Report> reportFrom(int descriptor, double limitSeconds)
     return report;
 }
 
-std::string deathOf(int status, const std::string &place)
+std::string deathOf(int status, const std::string &functions)
 {
     if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
-        return "it never came back from " + place;
+        return "it never came back from " + functions;
     if (WIFSIGNALED(status))
         return std::string("ended by ") + strsignal(WTERMSIG(status));
     return "ended with status " + std::to_string(WEXITSTATUS(status));
@@ -163,7 +163,7 @@ Trial::Verdict Trial::run(const fs::path &workFolder) const
     const std::optional<Report> report = reportFrom(pipe.readEnd.number(), limitSeconds);
     const bool hasEnded =
         report && Loadwick::ExitWatch(child).waitUntil(Loadwick::deadlineAfter(limitSeconds));
-    const std::string place = hasEnded ? std::string() : progress.of(child);
+    const std::string functions = hasEnded ? std::string() : progress.of(child);
     if (!hasEnded)
         kill(child, SIGKILL);
     int status = 0;
@@ -171,7 +171,7 @@ Trial::Verdict Trial::run(const fs::path &workFolder) const
     std::error_code ignored; // a child that was left behind may still write
     fs::remove_all(home, ignored);
     if (!hasEnded)
-        return {.tally = {}, .problem = deathOf(status, place)};
+        return {.tally = {}, .problem = deathOf(status, functions)};
     const std::string problem = report->problem.data();
     return {.tally = report->tally,
             .problem = problem.empty() ? std::nullopt : std::optional(problem)};
