@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Loadwick
+import LoadwickGallery
 
 // What opens above the window. The button opens the real dialog.
 RowLayout {
@@ -30,9 +31,7 @@ RowLayout {
             anchors { fill: parent; margins: AppTheme.pageMargin }
             PlainLabel { text: "A sheet"; font: AppTheme.headlineFont }
             OnboardingStepDots { currentIndex: 1; stepCount: 4; position: "Step 2 of 4" }
-            OnboardingBandLegend.BandRow { index: 0; title: "Lean"; detail: "under 30,000 tokens" }
-            OnboardingBandLegend.BandRow { index: 1; title: "Heavy"; detail: "30,000 to 60,000 tokens" }
-            OnboardingBandLegend.BandRow { index: 2; title: "Excessive"; detail: "over 60,000 tokens" }
+            OnboardingBandLegend { Layout.fillWidth: true; onboarding: GallerySamples.onboarding }
         }
     }
     ColumnLayout {

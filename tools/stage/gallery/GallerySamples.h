@@ -5,13 +5,14 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "compare/LeaderboardRows.h"
+#include "onboarding/OnboardingPresenter.h"
 #include "overview/BandPresenter.h"
 #include "overview/InstructionFilesPresenter.h"
 #include "trends/TrendChartPresenter.h"
 
 namespace Loadwick {
 
-/// The data of the gallery's charts and lists: sample scans and histories.
+/// The data of the gallery's charts, lists and sheet: sample scans and histories.
 class GallerySamples : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,7 @@ class GallerySamples : public QObject
     Q_PROPERTY(Loadwick::InstructionFilesPresenter *noFiles READ noFiles CONSTANT)
     Q_PROPERTY(Loadwick::TrendChartPresenter *manyScans READ manyScans CONSTANT)
     Q_PROPERTY(Loadwick::TrendChartPresenter *twoScans READ twoScans CONSTANT)
+    Q_PROPERTY(Loadwick::OnboardingPresenter *onboarding READ onboarding CONSTANT)
     Q_PROPERTY(QAbstractItemModel *leaderboard READ leaderboard CONSTANT)
 
 public:
@@ -38,6 +40,7 @@ public:
     [[nodiscard]] InstructionFilesPresenter *noFiles() { return &m_noFiles; }
     [[nodiscard]] TrendChartPresenter *manyScans() { return &m_manyScans; }
     [[nodiscard]] TrendChartPresenter *twoScans() { return &m_twoScans; }
+    [[nodiscard]] OnboardingPresenter *onboarding() { return &m_onboarding; }
     [[nodiscard]] QAbstractItemModel *leaderboard() { return &m_leaderboard; }
 
 private:
@@ -49,6 +52,7 @@ private:
     InstructionFilesPresenter m_noFiles;
     TrendChartPresenter m_manyScans;
     TrendChartPresenter m_twoScans;
+    OnboardingPresenter m_onboarding{nullptr};
     LeaderboardRows m_leaderboard;
 };
 
