@@ -1,6 +1,7 @@
 #include "GallerySamples.h"
 
 #include "history/ScanHistory.h"
+#include "onboarding/PreferencesCompletionStore.h"
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
 #include "text/TextLocale.h"
@@ -9,7 +10,7 @@ namespace Loadwick {
 namespace {
 
 const TextLocale locale{.numbers = "en_US", .dates = "en_US"};
-const std::filesystem::path home = "/home/someone"; // nothing there is read
+const std::filesystem::path home = "/home/someone"; // nothing there is read or written
 
 } // namespace
 
@@ -23,6 +24,7 @@ GallerySamples::GallerySamples(QObject *parent)
       m_noFiles(locale, home),
       m_manyScans(locale),
       m_twoScans(locale),
+      m_onboarding(std::make_shared<PreferencesCompletionStore>(home / "preferences.ini")),
       m_leaderboard(locale)
 {
     m_zero.show(SampleScans::zero().report());

@@ -52,7 +52,7 @@ private:
     InstructionFilesPresenter m_noFiles;
     TrendChartPresenter m_manyScans;
     TrendChartPresenter m_twoScans;
-    OnboardingPresenter m_onboarding{nullptr};
+    OnboardingPresenter m_onboarding;
     LeaderboardRows m_leaderboard;
 };
 
