@@ -32,7 +32,7 @@ constexpr bool isDecoration(char byte) noexcept
     return byte == '-' || byte == '*' || byte == '`' || byte == '>' || byte == blank;
 }
 
-/// `text` without such bytes at both ends.
+/// `text` without unwanted bytes at either end.
 template<typename Test>
 std::string_view stripped(std::string_view text, Test isUnwanted) noexcept
 {
@@ -51,7 +51,7 @@ std::string_view takeFirstWord(std::string_view &rest) noexcept
     return word;
 }
 
-/// Takes the last word off `rest`, and the blanks behind it; empty when there is none.
+/// Takes the last word and the blanks after it off `rest`; empty when there is none.
 std::string_view takeLastWord(std::string_view &rest) noexcept
 {
     while (rest.ends_with(blank))
@@ -61,8 +61,8 @@ std::string_view takeLastWord(std::string_view &rest) noexcept
     return word;
 }
 
-/// Whether a word is a keyword in lower case. A letter beyond ASCII takes more bytes than the one
-/// that it becomes, so a word of the keyword's size is ASCII or no keyword.
+/// Whether a word is a keyword in any letter case. A letter beyond ASCII takes more bytes than the
+/// ASCII letter that it becomes, so a word of the keyword's size is ASCII or no keyword.
 bool isKeyword(std::string_view word, std::string_view keyword)
 {
     const auto isSame = [](char letter, char lower) {
@@ -73,7 +73,7 @@ bool isKeyword(std::string_view word, std::string_view keyword)
     return word.size() <= longestLetter * keyword.size() && lowercased(word) == keyword;
 }
 
-/// The number that the digits of a word make, commas and underscores left out.
+/// The number in a word of digits, commas and underscores.
 std::optional<std::int64_t> countIn(std::string_view word) noexcept
 {
     std::int64_t count = 0;

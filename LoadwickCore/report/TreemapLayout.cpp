@@ -10,7 +10,7 @@
 namespace Loadwick::TreemapLayout {
 namespace {
 
-/// One weight to be placed.
+/// A weight on its way into the square.
 struct Item
 {
     std::size_t index; ///< of the weight
@@ -28,7 +28,7 @@ std::vector<Item> itemsOf(std::span<const double> weights)
     const auto sumUp = [](double sum, const Item &item) { return sum + item.area; };
     double sum = std::accumulate(items.begin(), items.end(), 0.0, sumUp);
     if (!std::isfinite(sum)) {
-        // A power of two, so that nothing but weights that are nothing beside these is rounded.
+        // A power of two, so that only negligible weights are rounded.
         for (Item &item : items)
             item.area = std::ldexp(item.area, -64);
         sum = std::accumulate(items.begin(), items.end(), 0.0, sumUp);
@@ -41,7 +41,7 @@ std::vector<Item> itemsOf(std::span<const double> weights)
     return items;
 }
 
-/// The items that are to be laid out side by side, and what their shapes depend on.
+/// Items laid out side by side, and what their shapes depend on.
 struct Row
 {
     std::span<const Item> items; ///< neighbours in the order of all items
@@ -51,7 +51,7 @@ struct Row
     double worstRatio = std::numeric_limits<double>::max();
 };
 
-/// Of a row along a side of the free space; the greatest for one without an area or a length.
+/// Along a side of the free space; the largest number for a row without an area or a length.
 double worstRatio(const Row &row, double side) noexcept
 {
     if (!(row.sum > 0.0 && side > 0.0 && row.minimum > 0.0))
@@ -74,15 +74,15 @@ Row extended(const Row &row, const Item &item, double side) noexcept
     return longer;
 }
 
-/// What a row of that area takes away from the free space, whose edge it lies along.
+/// How much of the free space a row of that area takes when it is laid along an edge.
 double thicknessOf(double sum, double edge, double available) noexcept
 {
     const double thickness = edge > 0.0 ? sum / edge : available;
     return thickness <= available ? thickness : available;
 }
 
-/// Where the item of a row ends that begins at `begin`; the last one ends at the very end. A row
-/// that is placed has a thickness: it has an area, and the free space ends in one direction only.
+/// The end of the row's item that begins at `begin`; the last item ends at `end`. A placed row has
+/// a thickness: it has an area, and the free space is used up in one direction only.
 double itemEnd(const Row &row, const Item &item, double begin, double thickness, double end)
 {
     if (&item == &row.items.back())

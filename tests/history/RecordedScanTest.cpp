@@ -75,7 +75,7 @@ TEST(RecordedScanTest, derivesTheBandFromTheTotal)
     EXPECT_EQ(RecordedScanBuilder().ofTotal(60'001).build().band(), OpinionBand::excessive);
 }
 
-TEST(RecordedScanTest, wordsTheReplacement)
+TEST(RecordedScanTest, hasAFixedReplacement)
 {
     EXPECT_EQ(withheld, "Other (name withheld)");
     EXPECT_EQ(storable(withheld), withheld);
@@ -137,7 +137,7 @@ TEST(RecordedScanTest, examinesTheLastDotOfAWordOnly)
     EXPECT_FALSE(looksLikePath("a.md,x.-"));
 }
 
-TEST(RecordedScanTest, letsADotAtEitherEndOfAWordPass)
+TEST(RecordedScanTest, acceptsADotAtEitherEndOfAWord)
 {
     EXPECT_FALSE(looksLikePath(".gitignore"));
     EXPECT_FALSE(looksLikePath("Tools etc."));
@@ -146,7 +146,7 @@ TEST(RecordedScanTest, letsADotAtEitherEndOfAWordPass)
     EXPECT_FALSE(looksLikePath(""));
 }
 
-TEST(RecordedScanTest, asksForLettersOrDigitsBehindTheDot)
+TEST(RecordedScanTest, requiresLettersOrDigitsAfterTheDot)
 {
     EXPECT_TRUE(looksLikePath("version 2.1"));
     EXPECT_TRUE(looksLikePath("notes.averylongextension"));

@@ -266,11 +266,11 @@ TEST_F(ScanHistoryStoreTest, retriesWhenDescriptorsRunOutForAMoment)
 {
     static_cast<void>(store.append(scanAt(1)));
     getrlimit(RLIMIT_NOFILE, &generousLimit);
-    // At a limit of the next free number nothing can be opened any more.
+    // With the limit at the next free number, nothing can be opened.
     rlimit tight = generousLimit;
     tight.rlim_cur = static_cast<rlim_t>(FileDescriptor(dup(0)).number());
-    // A timer's signal lifts it in the first pause: unlike a thread, it comes in time on a busy
-    // machine too.
+    // A timer's signal lifts the limit in the first pause: unlike a thread, it is in time even on a
+    // busy machine.
     const auto before = std::signal(SIGALRM, liftLimit);
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
     const itimerval soon = {.it_interval = {}, .it_value = {.tv_sec = 0, .tv_usec = 500}};

@@ -16,7 +16,7 @@ RecordedScanBuilder webshop()
     return RecordedScanBuilder().named("webshop").in("/home/a/webshop").at(1'772'615'727);
 }
 
-TEST(ScanTablesTest, aTableWithoutScansHasItsHead)
+TEST(ScanTablesTest, aTableWithoutScansHasItsHeader)
 {
     EXPECT_EQ(ScanTables::totals({}), head + "\r\n");
     EXPECT_EQ(ScanTables::categories({}), head + "\r\n");

@@ -145,7 +145,7 @@ TEST_F(WeeklyKPIReaderTest, wordsOfAnotherTypeReadUnknown)
         EXPECT_EQ(parsed(std::string(",\"window\":") + window).windowStart, "unknown") << window;
 }
 
-TEST_F(WeeklyKPIReaderTest, oneWordOfTheWindowStandsWithoutTheOther)
+TEST_F(WeeklyKPIReaderTest, oneEndOfTheWindowIsReadWithoutTheOther)
 {
     const WeeklyKPILine line = parsed(R"(,"window":{"end":"Sunday"})");
     EXPECT_EQ(line.windowStart, "unknown");
@@ -251,7 +251,7 @@ TEST_F(WeeklyKPIReaderTest, readsALongFileFromTheFirstLineFeedOfItsEndOn)
     EXPECT_EQ(medianAt(path, 20), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, takesNoPartOfALineForALine)
+TEST_F(WeeklyKPIReaderTest, readsNoPartOfALineAsALine)
 {
     // Cut in the middle, the first line would read as a usable one.
     const fs::path path = write("{\"x\":\"" + loggedLine(1) + loggedLine(2).substr(0, 30));
@@ -260,7 +260,7 @@ TEST_F(WeeklyKPIReaderTest, takesNoPartOfALineForALine)
 
 TEST_F(WeeklyKPIReaderTest, ignoresInvalidUtf8BeforeTheEndThatItReads)
 {
-    // The limit cuts "é" in two; the line feed behind it makes good.
+    // The limit cuts "é" in two; reading resumes after the line feed.
     EXPECT_EQ(medianAt(write("caf\xE9 \u00E9\n" + loggedLine(1)), 53), 1);
 }
 

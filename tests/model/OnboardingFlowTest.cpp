@@ -68,7 +68,7 @@ TEST_F(OnboardingFlowTest, goesBackAndRemembersTheDirection)
     EXPECT_EQ(flow.direction(), Direction::forward);
 }
 
-TEST_F(OnboardingFlowTest, goesNowhereBackFromTheFirstStep)
+TEST_F(OnboardingFlowTest, staysAtTheFirstStepWhenGoingBack)
 {
     flow.goBack();
     EXPECT_EQ(flow.currentIndex(), 0);

@@ -9,7 +9,7 @@ namespace Loadwick {
 
 using Log = std::vector<std::string>;
 
-TEST(PublishedTest, tellsOfAChangeBeforeAndAfterItHolds)
+TEST(PublishedTest, announcesAChangeBeforeAndAfterItHolds)
 {
     Published<int> value(1);
     Log log;
@@ -24,7 +24,7 @@ TEST(PublishedTest, tellsOfAChangeBeforeAndAfterItHolds)
     EXPECT_EQ(log, (Log{"will 1>2", "did 2"}));
 }
 
-TEST(PublishedTest, tellsOfAnEqualValueToo)
+TEST(PublishedTest, announcesAnEqualValueToo)
 {
     Published<int> value(1);
     int count = 0;
@@ -33,7 +33,7 @@ TEST(PublishedTest, tellsOfAnEqualValueToo)
     EXPECT_EQ(count, 1);
 }
 
-TEST(PublishedTest, callsObserversInTheOrderInWhichTheyCame)
+TEST(PublishedTest, callsObserversInTheOrderOfTheirArrival)
 {
     Published<int> value(1);
     Log log;

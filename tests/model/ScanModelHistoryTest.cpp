@@ -85,7 +85,7 @@ TEST_F(ScanModelHistoryTest, publishesTwoHundredScansWhenTwoHundredWereRecorded)
     EXPECT_EQ(after.back().date, Harness::now);
 }
 
-TEST_F(ScanModelHistoryTest, publishesTheListThatItMeantToWriteWhenWritingFails)
+TEST_F(ScanModelHistoryTest, publishesTheNewListEvenWhenWritingFails)
 {
     const TemporaryFolder folder;
     folder.write("scan-history.json/in the way", "");
@@ -96,7 +96,7 @@ TEST_F(ScanModelHistoryTest, publishesTheListThatItMeantToWriteWhenWritingFails)
     EXPECT_EQ(model.history().get().size(), 1U);
 }
 
-TEST_F(ScanModelHistoryTest, forgetsTheHistory)
+TEST_F(ScanModelHistoryTest, clearsTheHistory)
 {
     ScanModel model(harness.collaborators());
     harness.scanOnce(model);
@@ -107,7 +107,7 @@ TEST_F(ScanModelHistoryTest, forgetsTheHistory)
     EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
 }
 
-TEST_F(ScanModelHistoryTest, forgetsTheHistoryEvenIfTheFileCannotBeDeleted)
+TEST_F(ScanModelHistoryTest, clearsTheHistoryEvenIfTheFileCannotBeDeleted)
 {
     ScanModel model(harness.collaborators());
     harness.scanOnce(model);
@@ -119,7 +119,7 @@ TEST_F(ScanModelHistoryTest, forgetsTheHistoryEvenIfTheFileCannotBeDeleted)
     EXPECT_TRUE(std::filesystem::exists(file));
 }
 
-TEST_F(ScanModelHistoryTest, recordsAScanAfterTheHistoryWasForgottenMeanwhile)
+TEST_F(ScanModelHistoryTest, recordsAScanWhoseHistoryWasClearedMeanwhile)
 {
     ScanModel model(harness.collaborators());
     harness.scanOnce(model);

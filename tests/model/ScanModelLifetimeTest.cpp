@@ -17,7 +17,7 @@ constexpr Harness::Stage everyRunningStage[] = {Harness::folderCheck, Harness::p
 
 } // namespace
 
-TEST(ScanModelLifetimeTest, dropsWhatAStageFindsOutAfterTheModelHasGone)
+TEST(ScanModelLifetimeTest, dropsAnOutcomeThatArrivesAfterTheModelHasGone)
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness harness;
@@ -31,7 +31,7 @@ TEST(ScanModelLifetimeTest, dropsWhatAStageFindsOutAfterTheModelHasGone)
     }
 }
 
-TEST(ScanModelLifetimeTest, dropsAnOutcomeThatWasPostedBeforeTheModelWent)
+TEST(ScanModelLifetimeTest, dropsAnOutcomeThatWasPostedBeforeTheModelWasDestroyed)
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness harness;

@@ -56,7 +56,7 @@ TEST_F(ScanModelObserversTest, seeNoHistoryOfAFailure)
     EXPECT_EQ(log, (Log{"selection", "idle", "scanning", "failed"}));
 }
 
-TEST_F(ScanModelObserversTest, seeNothingOfACallThatIsIgnored)
+TEST_F(ScanModelObserversTest, seeNoChangeFromACallThatIsIgnored)
 {
     logOf(model, log);
     model.scan();
@@ -68,7 +68,7 @@ TEST_F(ScanModelObserversTest, seeNothingOfACallThatIsIgnored)
     EXPECT_EQ(log, Log{});
 }
 
-TEST_F(ScanModelObserversTest, hearOfAChangeBeforeItHolds)
+TEST_F(ScanModelObserversTest, seeAChangeBeforeItHolds)
 {
     model.state().observe({.willChange = [&](const ScanState &incoming) {
         log.push_back(nameOf(model.state().get()) + ">" + nameOf(incoming));
@@ -144,7 +144,7 @@ TEST_F(ScanModelObserversTest, mayScanAsSoonAsAFolderIsChosen)
     EXPECT_EQ(harness.probe->runs().size(), 1U);
 }
 
-TEST_F(ScanModelObserversTest, mayForgetTheHistoryAsItGrows)
+TEST_F(ScanModelObserversTest, mayClearTheHistoryAsItGrows)
 {
     model.history().observe({.didChange = [&] {
         if (!model.history().get().empty())

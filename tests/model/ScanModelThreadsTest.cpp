@@ -45,7 +45,7 @@ public:
         task();
     }
 
-    // A task may start another one, and the last to let go of the dispatcher may be one of its own.
+    // A task may start another, and the dispatcher's last owner may be one of its own tasks.
     void joinAll()
     {
         for (std::vector<std::thread> threads = taken(); !threads.empty(); threads = taken())
@@ -82,7 +82,7 @@ TEST(ScanModelThreadsTest, scansWithItsStagesOnThreadsOfTheirOwn)
     EXPECT_EQ(model.history().get().size(), 1U);
 }
 
-TEST(ScanModelThreadsTest, mayGoWhileAStageRuns)
+TEST(ScanModelThreadsTest, mayBeDestroyedWhileAStageRuns)
 {
     const ScanModelHarness harness;
     const auto dispatcher = std::make_shared<ThreadDispatcher>();

@@ -34,13 +34,13 @@ void walk(std::uint32_t seed, ScanModelWalk::Recording recording)
 
 } // namespace
 
-TEST(ScanModelWalkTest, isWhatTheTableOfStatesSaysAfterEveryStep)
+TEST(ScanModelWalkTest, agreesWithTheTableOfStatesAfterEveryStep)
 {
     for (const std::uint32_t seed : seeds())
         walk(seed, ScanModelWalk::Recording::withStore);
 }
 
-TEST(ScanModelWalkTest, isWhatTheTableSaysWithoutAStoreToo)
+TEST(ScanModelWalkTest, agreesWithTheTableWithoutAStoreToo)
 {
     walk(seeds().front(), ScanModelWalk::Recording::withoutStore);
 }

@@ -34,7 +34,7 @@ TEST(ProbeOutputParserSlowTest, copiesAHugeComplaintOnce)
     EXPECT_LT(memory.growthInBytes(), size + size / 20);
 }
 
-TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeArraysInThePlaceOfTextsAndCounts)
+TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeArraysWhereTextsAndCountsBelong)
 {
     std::string zeros = "0";
     for (zeros.reserve(size); zeros.size() < size;)

@@ -204,7 +204,7 @@ TEST(TranscriptLocatorTest, listsNextTheFolderThatMayHoldTheFile)
 
 TEST(TranscriptLocatorTest, trustsOnlyAListing)
 {
-    // A disk without letter case answers to a name that stands in no folder.
+    // A case-insensitive disk finds a name that no folder lists.
     class AnsweringFileSystem : public InMemoryFileSystem
     {
     public:

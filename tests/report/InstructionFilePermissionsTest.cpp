@@ -81,7 +81,7 @@ TEST_F(InstructionFilePermissionsTest, namesALinkToAnUnreadableFileByTheLink)
     EXPECT_EQ(scanned().unreadablePaths, Paths{folder.path() / "shop/CLAUDE.md"});
 }
 
-TEST_F(InstructionFilePermissionsTest, passesOverAShutFolder)
+TEST_F(InstructionFilePermissionsTest, skipsAFolderThatCannotBeSearched)
 {
     std::filesystem::create_directories(folder.path() / "shop/CLAUDE.md");
     std::filesystem::permissions(folder.path() / "shop/CLAUDE.md", std::filesystem::perms::none);

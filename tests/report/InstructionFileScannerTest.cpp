@@ -94,7 +94,7 @@ TEST_F(InstructionFileScannerTest, searchesAtMostSixtyFourFoldersAbove)
     EXPECT_EQ(pathsOf(set.inheritedFiles).back(), "home/d/d/CLAUDE.md");
 }
 
-TEST_F(InstructionFileScannerTest, takesTheHomeFolderItselfForARepository)
+TEST_F(InstructionFileScannerTest, acceptsTheHomeFolderAsTheRepository)
 {
     folder.write("home/CLAUDE.md", "x");
     folder.write("home/.claude/CLAUDE.md", "x");

@@ -105,7 +105,7 @@ TEST(InstructionFileWalkTest, admitsNothingBelowADepthOfZero)
 TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
 {
     const TemporaryFolder folder;
-    // The link is the shorter road to shared.md, and "near.md" stands beside the link alone.
+    // The link is the shorter way to shared.md, and only the link has a "near.md" beside it.
     folder.write("repository/CLAUDE.md", "@a.md @link/shared.md");
     folder.write("repository/a.md", "@deep/shared.md");
     folder.write("repository/deep/shared.md", "@near.md");
@@ -117,7 +117,7 @@ TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
     EXPECT_EQ(set.repositoryFiles[3].path, folder.path() / "repository/link/near.md");
 }
 
-TEST(InstructionFileWalkTest, takesAnImportWithASlashAtItsEndForTheFileOfThatName)
+TEST(InstructionFileWalkTest, readsAnImportWithATrailingSlashAsTheFileOfThatName)
 {
     const TemporaryFolder folder;
     folder.write("repository/CLAUDE.md", "@notes/");
@@ -142,7 +142,7 @@ TEST(InstructionFileWalkTest, followsTheImportsOfARepositoryWhosePathIsRelative)
     EXPECT_EQ(set.repositoryFiles[2].path, repository / "tests.md");
 }
 
-TEST(InstructionFileWalkTest, takesEverythingForTheRootsOwnWhenThatIsTheRepository)
+TEST(InstructionFileWalkTest, countsEveryFileAsTheRepositorysOwnWhenItIsTheRoot)
 {
     const TemporaryFolder folder;
     const auto file = folder.write("home/.claude/CLAUDE.md", "Be brief.\n");

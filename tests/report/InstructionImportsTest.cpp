@@ -75,7 +75,7 @@ TEST(InstructionImportsTest, dropsATokenOfPunctuationAlone)
     EXPECT_EQ(inLine("@ @. @?! @"), Tokens{});
 }
 
-TEST(InstructionImportsTest, takesEveryUnicodeWhiteSpaceForABorder)
+TEST(InstructionImportsTest, endsATokenAtEveryUnicodeWhiteSpace)
 {
     for (const char *space : {" ", "\t", "\v", "\f", "\r", "\u0085", "\u00A0", "\u2003", "\u2028",
                               "\u2029", "\u3000"}) {
@@ -122,7 +122,7 @@ TEST(InstructionImportsTest, readsOnAfterAnUnclosedFence)
     EXPECT_EQ(in("```\n@a\n```\n@b\n``` @c\n@d"), (Tokens{"b", "c", "d"}));
 }
 
-TEST(InstructionImportsTest, takesTheOtherMarkerInsideAFenceForText)
+TEST(InstructionImportsTest, readsTheOtherMarkerInsideAFenceAsText)
 {
     EXPECT_EQ(in("```\n~~~\n@a\n```\n@b\n~~~\n@c"), (Tokens{"b", "c"}));
     EXPECT_EQ(in("```\n~~~\n@a\n~~~\n@b"), (Tokens{"a", "b"})) << "the outer fence never closes";

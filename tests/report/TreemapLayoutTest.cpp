@@ -197,7 +197,7 @@ TEST(TreemapLayoutTest, sharesTheSquareAmongTheSmallestWeights)
     expectSoundMap({smallest, smallest, smallest * 2.0});
 }
 
-TEST(TreemapLayoutTest, keepsAWeightThatIsNothingBesideTheOthersInsideTheSquare)
+TEST(TreemapLayoutTest, keepsANegligibleWeightInsideTheSquare)
 {
     expectSoundMap({1.0, 1e-17, 1e-300, smallest});
     expectSoundMap({largest, smallest, smallest});
