@@ -1,21 +1,37 @@
 #include "icons/Symbol.h"
 
-#include "icons/SymbolCatalog.h"
-#include "icons/SymbolPictures.h"
+#include <algorithm>
 
+#include <QCache>
 #include <QDebug>
-#include <QImage>
+#include <QMutex>
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include <algorithm>
+#include "icons/SymbolCatalog.h"
 
 namespace Loadwick {
 namespace {
 
 constexpr qreal naturalSize = 16;
 
+// More than a page shows in all its sizes and colours; at 16 to 64 pixels they take a megabyte.
+constexpr int greatestPictureCount = 200;
+
 } // namespace
+
+// Which thread paints is the renderer's choice.
+QImage SymbolPictures::find(const QString &key, const std::function<QImage()> &make)
+{
+    static QMutex mutex;
+    static QCache<QString, QImage> pictures(greatestPictureCount);
+    const QMutexLocker locker(&mutex);
+    if (const QImage *known = pictures.object(key))
+        return *known;
+    const QImage made = make();
+    pictures.insert(key, new QImage(made));
+    return made;
+}
 
 Symbol::Symbol(QQuickItem *parent) : QQuickPaintedItem(parent)
 {
@@ -66,7 +82,7 @@ void Symbol::paint(QPainter *painter)
     painter->drawImage(square, picture(pixels));
 }
 
-// One that turns is another at every moment.
+// While a drawing turns, no picture of it is shown twice.
 QImage Symbol::picture(int side)
 {
     if (!qFuzzyIsNull(m_angle))
@@ -75,7 +91,7 @@ QImage Symbol::picture(int side)
     return SymbolPictures::find(key, [this, side] { return drawn(side); });
 }
 
-// A drawing is black on nothing; the tint takes the place of the black. Drawn at the size in device
+// A drawing is black on transparent; the tint replaces the black. Drawn at the size in device
 // pixels and coloured as a whole, overlapping strokes of a translucent tint leave no seams.
 QImage Symbol::drawn(int side)
 {

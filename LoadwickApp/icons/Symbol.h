@@ -1,16 +1,28 @@
 #pragma once
 
-#include <QColor>
-#include <QQuickPaintedItem>
-
+#include <functional>
 #include <memory>
+
+#include <QColor>
+#include <QImage>
+#include <QQuickPaintedItem>
 
 class QSvgRenderer;
 
 namespace Loadwick {
 
-/// One of our own drawings in one colour, crisp at any size and scale. It keeps its proportions
-/// and stands in the middle of the item. A name without a drawing paints nothing and warns.
+/// Drawings as they were last made, shared by all items: lists show the same few many times, and
+/// reading and drawing one costs more than the rest of its row. For any thread.
+namespace SymbolPictures {
+
+/// The picture of that key, made by `make` on a miss. When there are many, the least recently used
+/// is dropped.
+[[nodiscard]] QImage find(const QString &key, const std::function<QImage()> &make);
+
+} // namespace SymbolPictures
+
+/// One drawing of the window's own set in one colour, crisp at any size and scale. It keeps its
+/// proportions and is centred in the item. A name without a drawing paints nothing and warns.
 class Symbol : public QQuickPaintedItem
 {
     Q_OBJECT

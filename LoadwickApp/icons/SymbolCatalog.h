@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The one place that knows which drawing stands for which name.
+/// Which drawing belongs to which name.
 namespace Loadwick::SymbolCatalog {
 
 /// The drawing of a system image name ("folder.fill") or of one of our own role names

@@ -7,7 +7,7 @@ QtObject {
     readonly property bool dark: Appearance.dark
     readonly property bool reduceMotion: Appearance.reduceMotion
     readonly property bool moreContrast: Appearance.moreContrast
-    // How much larger than usual words are wanted; what holds words grows with them.
+    // How much larger than usual text is; what holds text grows with it.
     readonly property real textScale: Appearance.textScale
 
     function scaled(pixels) {
@@ -19,10 +19,10 @@ QtObject {
     readonly property color sidebar: dark ? "#232327" : "#EBEBEF"
     readonly property color surface: dark ? "#29292E" : "#FFFFFF"
     readonly property list<color> grounds: [window, sidebar, surface]
-    // Where more contrast is asked for, lines reach 3:1 and quiet words 7:1.
+    // With more contrast, lines reach 3:1 and quiet words 7:1.
     readonly property color separator: moreContrast ? (dark ? "#85858F" : "#80808A")
                                                     : (dark ? "#3B3B42" : "#DCDCE2")
-    // Of a card that nothing points at.
+    // The border of a card that is not hovered.
     readonly property real quietBorderOpacity: moreContrast ? 1 : 0.6
 
     readonly property color text: dark ? "#F1F1F4" : "#1B1B1F"
@@ -31,46 +31,46 @@ QtObject {
     readonly property color ownAccent: dark ? "#7AA7FF" : "#2157C5"
     readonly property color accent: Appearance.hasAccent
         ? Appearance.readable(Appearance.accent, grounds, selectionOpacity) : ownAccent
-    // Words on a ground filled with the accent.
+    // Text on the accent.
     readonly property color accentText: dark ? "#14161C" : "#FFFFFF"
 
-    // A band has two shades of one colour: one that glows as a shape, one that can be read as text.
+    // A band has two shades of one colour: a bright one for shapes, one that is readable as text.
     readonly property color bandLean: dark ? "#46BF78" : "#2B9A57"
     readonly property color bandHeavy: dark ? "#F0A036" : "#D97F00"
     readonly property color bandExcessive: dark ? "#FA6A5E" : "#D63A2E"
     readonly property color bandLeanText: dark ? "#5FD08C" : "#196B3C"
     readonly property color bandHeavyText: dark ? "#F5AE4E" : "#8B5000"
     readonly property color bandExcessiveText: dark ? "#FF8075" : "#B1271E"
-    // Both by the place of the band in its order: lean, heavy, excessive.
+    // Indexed by band: lean, heavy, excessive.
     readonly property list<color> bandShapes: [bandLean, bandHeavy, bandExcessive]
     readonly property list<color> bandTexts: [bandLeanText, bandHeavyText, bandExcessiveText]
 
-    // Blue, teal, purple, orange, gray: series and slices take them by position, wrapping around.
+    // Blue, teal, purple, orange, gray: series and slices take them by index, wrapping around.
     readonly property list<color> chartColors: dark
         ? ["#6295F5", "#38B6C3", "#AC82EE", "#EE9440", "#9B9EA8"]
         : ["#2F6FED", "#12899A", "#8549D6", "#D97706", "#767983"]
 
-    // What lies over a ground while the pointer is on it, while it is pressed, and for good.
+    // Overlays for a hovered, a pressed and a resting ground.
     readonly property color hoverFill: Qt.alpha(text, 0.06)
     readonly property color pressedFill: Qt.alpha(text, 0.10)
     readonly property color quietFill: Qt.alpha(text, 0.06)
     readonly property real selectionOpacity: dark ? 0.18 : 0.12
     readonly property color selectionFill: Qt.alpha(accent, selectionOpacity)
-    // Over everything that a modal sheet covers.
+    // Covers everything behind a modal sheet.
     readonly property color dim: Qt.rgba(0, 0, 0, dark ? 0.5 : 0.3)
-    // Fainter than what parts two things.
+    // Fainter than a separator.
     readonly property color gridLine: Qt.alpha(separator, dark ? 0.7 : 0.8)
     readonly property real tintOpacity: 0.12
     readonly property real disabledOpacity: moreContrast ? 0.6 : 0.4
 
-    // What fills a tile at rest and the one in focus, on which names have to be read, and how much is
-    // left of the others meanwhile.
+    // The fill of a tile at rest and of the current one, on both of which names have to be readable, and
+    // the opacity of the others meanwhile.
     readonly property real tileOpacity: dark ? 0.4 : 0.45
     readonly property real currentTileOpacity: dark ? 0.5 : 0.65
     readonly property real tileDimming: 0.5
 
-    // The family is the application's own; its figures are all equally wide, which makes it the font
-    // of numbers too. It has no medium weight: what should be medium is semibold.
+    // The application's own family; its figures are all equally wide, so it serves for numbers too. It
+    // has no medium weight, so medium text is semibold.
     readonly property font heroMetricFont: Qt.font({ pixelSize: scaled(46), weight: Font.DemiBold, letterSpacing: -0.5 })
     readonly property font largeTitleFont: Qt.font({ pixelSize: scaled(28), weight: Font.DemiBold, letterSpacing: -0.3 })
     readonly property font gaugeFont: Qt.font({ pixelSize: scaled(24), weight: Font.DemiBold })
@@ -95,10 +95,10 @@ QtObject {
     readonly property int wideSpace: 32
     readonly property int cardPadding: 16
     readonly property int contentWidth: 1040
-    // Of the column that shows the pages; no page is laid out in less.
+    // The width of the column that shows the pages; no page is laid out in less.
     readonly property int detailMinimumWidth: 480
     readonly property int stateWidth: scaled(420)
-    // What words beside a figure need before they go below it.
+    // The width that words beside a figure need; with less they go below it.
     readonly property int copyMinimumWidth: scaled(280)
     readonly property int controlHeight: scaled(32)
     readonly property int iconSize: 16
@@ -133,11 +133,11 @@ QtObject {
     readonly property int cardRadius: 14
     readonly property int controlRadius: 8
 
-    // Milliseconds; what is to move multiplies nothing by itself, it asks for these.
+    // Milliseconds, already adapted to reduced motion.
     readonly property int hoverDuration: reduceMotion ? 0 : 180
     readonly property int pageDuration: reduceMotion ? 0 : 320
     readonly property int turnDuration: 1000
-    // How long a note of what was done stays to be read.
+    // How long a note of what was done stays.
     readonly property int noteDuration: 2000
     readonly property int stepDuration: reduceMotion ? 120 : 220
     readonly property int sheetCloseDuration: reduceMotion ? 100 : 160

@@ -1,8 +1,7 @@
 #include "theme/Appearance.h"
 
-#include "theme/AppearanceSource.h"
-#include "theme/PaletteAppearanceSource.h"
-#include "theme/ReadableAccent.h"
+#include "theme/ColorContrast.h"
+#include "theme/DesktopAppearanceSource.h"
 
 #include <QQmlEngine>
 
@@ -52,41 +51,38 @@ double Appearance::textScale() const
     return m_textScale.value_or(m_source.wishes().textScale());
 }
 
-void Appearance::setTextScale(double scale)
-{
-    if (m_textScale == scale)
-        return;
-    m_textScale = scale;
-    Q_EMIT changed();
-}
-
 QColor Appearance::readable(const QColor &accent, const QList<QColor> &grounds, double tint) const
 {
     return readableAccent(accent, grounds, static_cast<float>(tint));
 }
 
+template<typename Value>
+void Appearance::set(Value &field, const Value &value)
+{
+    if (field == value)
+        return;
+    field = value;
+    Q_EMIT changed();
+}
+
+void Appearance::setTextScale(double scale)
+{
+    set(m_textScale, std::optional(scale));
+}
+
 void Appearance::setScheme(Scheme scheme)
 {
-    if (m_scheme == scheme)
-        return;
-    m_scheme = scheme;
-    Q_EMIT changed();
+    set(m_scheme, scheme);
 }
 
 void Appearance::setMotion(Motion motion)
 {
-    if (m_motion == motion)
-        return;
-    m_motion = motion;
-    Q_EMIT changed();
+    set(m_motion, motion);
 }
 
 void Appearance::setContrast(Contrast contrast)
 {
-    if (m_contrast == contrast)
-        return;
-    m_contrast = contrast;
-    Q_EMIT changed();
+    set(m_contrast, contrast);
 }
 
 } // namespace Loadwick

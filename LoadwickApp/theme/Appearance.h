@@ -16,7 +16,7 @@ class AppearanceSource;
 
 /// Dark or light, moving or still, quiet or strong, as QML sees it: one object for each engine. The
 /// answers come from the AppearanceSource among the engine's children, or from the palette if there
-/// is none. Tests and makers of pictures say what they want with `scheme`, `motion`, `contrast` and
+/// is none. Tests and makers of pictures override them with `scheme`, `motion`, `contrast` and
 /// `textScale`.
 class Appearance : public QObject
 {
@@ -84,6 +84,9 @@ Q_SIGNALS:
     void changed();
 
 private:
+    template<typename Value>
+    void set(Value &field, const Value &value);
+
     AppearanceSource &m_source;
     Scheme m_scheme = DesktopScheme;
     Motion m_motion = DesktopMotion;

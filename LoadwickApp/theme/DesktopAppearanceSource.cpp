@@ -2,11 +2,31 @@
 
 #include <utility>
 
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPalette>
+
 #include "theme/KdeAppearanceSource.h"
-#include "theme/PaletteAppearanceSource.h"
 #include "theme/PortalAppearanceSource.h"
 
 namespace Loadwick {
+
+PaletteAppearanceSource::PaletteAppearanceSource(QObject *parent) : AppearanceSource(parent)
+{
+    qGuiApp->installEventFilter(this);
+}
+
+DesktopWishes PaletteAppearanceSource::wishes() const
+{
+    return {.dark = QGuiApplication::palette().window().color().lightness() < 128};
+}
+
+bool PaletteAppearanceSource::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
+        Q_EMIT changed();
+    return AppearanceSource::eventFilter(watched, event);
+}
 
 DesktopAppearanceSource::DesktopAppearanceSource(Sources sources, QObject *parent)
     : AppearanceSource(parent), m_sources(std::move(sources))

@@ -8,7 +8,20 @@
 
 namespace Loadwick {
 
-/// Asks several sources in their order; of each wish the first that says something about it counts.
+/// Reads dark or light off the application's palette: a window darker than middle grey is dark. A
+/// palette says nothing about motion or contrast.
+class PaletteAppearanceSource : public AppearanceSource
+{
+    Q_OBJECT
+
+public:
+    explicit PaletteAppearanceSource(QObject *parent = nullptr);
+
+    [[nodiscard]] DesktopWishes wishes() const override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+};
+
+/// Asks several sources in their order; for each wish the first that says something counts.
 class DesktopAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -19,7 +32,7 @@ public:
     explicit DesktopAppearanceSource(Sources sources, QObject *parent = nullptr);
 
     /// The desktop that the program runs on: its portal, then what KDE keeps in a file, then the
-    /// palette. What works in the background goes through the dispatcher.
+    /// palette. Background work goes through the dispatcher.
     [[nodiscard]] static std::unique_ptr<AppearanceSource>
     ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher);
 

@@ -2,12 +2,23 @@
 
 #include <filesystem>
 #include <memory>
+#include <string_view>
 
 #include <QFileSystemWatcher>
 #include <QTimer>
 
 #include "model/TaskDispatcher.h"
 #include "theme/AppearanceSource.h"
+
+/// Reads what KDE's programs share: the file "kdeglobals" of the user's configuration folder.
+namespace Loadwick::KdeGlobals {
+
+/// The wishes in the text of the file: dark by the ground of its windows, else by the name of its
+/// colour scheme; contrast by that name; reduced motion if animations take 0 times as long. Other
+/// lines say nothing.
+[[nodiscard]] DesktopWishes wishes(std::string_view text);
+
+} // namespace Loadwick::KdeGlobals
 
 namespace Loadwick {
 
@@ -21,8 +32,8 @@ public:
     KdeAppearanceSource(std::filesystem::path file, std::shared_ptr<TaskDispatcher> dispatcher,
                         QObject *parent = nullptr);
 
-    /// Where the user's file is. Empty on a desktop that calls itself something else than KDE: what
-    /// KDE once left there is nobody's wish any more.
+    /// Where the user's file is. Empty on a desktop that says it is another: a file that KDE once
+    /// left there is out of date.
     [[nodiscard]] static std::filesystem::path userFile();
 
     [[nodiscard]] DesktopWishes wishes() const override { return m_wishes; }

@@ -1,6 +1,12 @@
 #include "theme/PortalAppearanceSource.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
 
 #include "base/QtTaskDispatcher.h"
 
@@ -14,7 +20,121 @@ constexpr QLatin1String interface("org.freedesktop.portal.Settings");
 /// A portal that the question itself has to start may take its time at log-in.
 constexpr int answerMilliseconds = 25'000;
 
+constexpr auto commonSpace = "org.freedesktop.appearance";
+constexpr auto gnomeSpace = "org.gnome.desktop.interface";
+constexpr auto gnomeAccessSpace = "org.gnome.desktop.a11y.interface";
+
+/// An answer comes in two wrappings, a change in one.
+QVariant unwrapped(QVariant value)
+{
+    while (value.canConvert<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value;
+}
+
+/// 1 asks for it; 0 is no preference, and so is any value that future portals may add.
+std::optional<bool> asked(const QVariant &value)
+{
+    return value.typeId() == QMetaType::UInt && value.toUInt() == 1 ? std::optional(true)
+                                                                    : std::nullopt;
+}
+
+std::optional<bool> flag(const QVariant &value)
+{
+    return value.typeId() == QMetaType::Bool ? std::optional(value.toBool()) : std::nullopt;
+}
+
+std::optional<bool> negated(std::optional<bool> wish)
+{
+    return wish ? std::optional(!*wish) : std::nullopt;
+}
+
+/// 0 is no preference, 1 dark, 2 light.
+std::optional<bool> darkOfNumber(const QVariant &value)
+{
+    const uint scheme = value.typeId() == QMetaType::UInt ? value.toUInt() : 0;
+    return scheme == 1 || scheme == 2 ? std::optional(scheme == 1) : std::nullopt;
+}
+
+std::optional<bool> darkOfWord(const QVariant &value)
+{
+    if (value.toString() == QLatin1String("prefer-dark"))
+        return true;
+    return value.toString() == QLatin1String("prefer-light") ? std::optional(false) : std::nullopt;
+}
+
+/// Rejects non-positive sizes.
+std::optional<double> positive(double number)
+{
+    return std::isfinite(number) && number > 0 ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> factor(const QVariant &value)
+{
+    return value.typeId() == QMetaType::Double ? positive(value.toDouble()) : std::nullopt;
+}
+
+/// "Cantarell 11": the points come last.
+std::optional<double> pointsOfFont(const QVariant &value)
+{
+    return positive(value.toString().section(QLatin1Char(' '), -1).toDouble());
+}
+
+/// Red, green and blue of sRGB; parts outside of 0 to 1 mean that none is set.
+std::optional<QColor> accentOfParts(const QVariant &value)
+{
+    if (!value.canConvert<QDBusArgument>())
+        return {};
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String("(ddd)"))
+        return {};
+    std::array<double, 3> parts{};
+    argument.beginStructure();
+    argument >> parts[0] >> parts[1] >> parts[2];
+    argument.endStructure();
+    if (!std::ranges::all_of(parts, [](double part) { return part >= 0.0 && part <= 1.0; }))
+        return {};
+    return QColor::fromRgbF(static_cast<float>(parts[0]), static_cast<float>(parts[1]),
+                            static_cast<float>(parts[2]));
+}
+
+using Wishes = DesktopWishes;
+constexpr std::array<PortalAnswers::Key, 9> allKeys = {{
+    {commonSpace, "color-scheme",
+     [](Wishes &wishes, const QVariant &value) { wishes.dark = darkOfNumber(value); }},
+    {commonSpace, "contrast",
+     [](Wishes &wishes, const QVariant &value) { wishes.moreContrast = asked(value); }},
+    {commonSpace, "reduced-motion",
+     [](Wishes &wishes, const QVariant &value) { wishes.reducedMotion = asked(value); }},
+    {commonSpace, "accent-color",
+     [](Wishes &wishes, const QVariant &value) { wishes.accent = accentOfParts(value); }},
+    {gnomeSpace, "color-scheme",
+     [](Wishes &wishes, const QVariant &value) { wishes.dark = darkOfWord(value); }},
+    {gnomeSpace, "enable-animations",
+     [](Wishes &wishes, const QVariant &value) { wishes.reducedMotion = negated(flag(value)); }},
+    {gnomeSpace, "font-name",
+     [](Wishes &wishes, const QVariant &value) { wishes.fontPoints = pointsOfFont(value); }},
+    {gnomeSpace, "text-scaling-factor",
+     [](Wishes &wishes, const QVariant &value) { wishes.textFactor = factor(value); }},
+    {gnomeAccessSpace, "high-contrast",
+     [](Wishes &wishes, const QVariant &value) { wishes.moreContrast = flag(value); }},
+}};
+
 } // namespace
+
+std::span<const PortalAnswers::Key> PortalAnswers::keys()
+{
+    return allKeys;
+}
+
+void PortalAnswers::take(const QString &space, const QString &name, const QVariant &value)
+{
+    const auto key = std::ranges::find_if(allKeys, [&](const Key &candidate) {
+        return space == QLatin1String(candidate.space) && name == QLatin1String(candidate.name);
+    });
+    if (key != allKeys.end())
+        key->read(space == QLatin1String(commonSpace) ? m_common : m_gnome, unwrapped(value));
+}
 
 PortalAppearanceSource::PortalAppearanceSource(const std::shared_ptr<TaskDispatcher> &dispatcher,
                                                const Connect &connect, QObject *parent)

@@ -2,19 +2,48 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QString>
+#include <QVariant>
 
 #include "model/TaskDispatcher.h"
 #include "theme/AppearanceSource.h"
-#include "theme/PortalAnswers.h"
 
 namespace Loadwick {
 
+/// What the desktop's settings portal has answered so far, and what that means. The keys are those
+/// of every desktop (XDG Desktop Portal, org.freedesktop.portal.Settings) and, for portals that do
+/// not know them yet, GNOME's own. Where both speak, a key of every desktop comes first.
+class PortalAnswers
+{
+public:
+    struct Key
+    {
+        const char *space; ///< the portal calls it a namespace
+        const char *name;
+        void (*read)(DesktopWishes &wishes, const QVariant &value);
+    };
+
+    /// What to ask for.
+    [[nodiscard]] static std::span<const Key> keys();
+
+    /// A value as it comes off the bus. A key that is none of these, or a value of another type
+    /// than the key's, says nothing.
+    void take(const QString &space, const QString &name, const QVariant &value);
+
+    [[nodiscard]] DesktopWishes wishes() const { return m_common.orElse(m_gnome); }
+
+private:
+    DesktopWishes m_common;
+    DesktopWishes m_gnome;
+};
+
 /// The wishes that the desktop's settings portal knows, and their changes while the program runs.
-/// The bus is connected in the background, for a bus that hangs would hang who connects; questions
-/// are not waited for. Without a bus, a portal or an answer all wishes are absent.
+/// The bus is connected in the background, since a bus that hangs blocks whoever connects; nothing
+/// waits for answers. Without a bus, a portal or an answer all wishes are absent.
 class PortalAppearanceSource : public AppearanceSource
 {
     Q_OBJECT

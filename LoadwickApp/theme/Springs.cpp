@@ -1,15 +1,27 @@
 #include "theme/Springs.h"
 
 #include <cmath>
-
-#include "theme/Spring.h"
+#include <numbers>
 
 namespace Loadwick {
 namespace {
 
+constexpr double restTolerance = 0.001;
+
 constexpr Spring meterSpring{.response = 0.6, .dampingFraction = 0.85};
 constexpr Spring donutSpring{.response = 0.55, .dampingFraction = 0.82};
 constexpr Spring stepDotSpring{.response = 0.4, .dampingFraction = 0.6};
+
+double undampedFrequency(const Spring &spring)
+{
+    return 2 * std::numbers::pi / spring.response;
+}
+
+/// The frequency of the damped oscillation, as a fraction of the undamped one.
+double dampedFraction(const Spring &spring)
+{
+    return std::sqrt(1 - spring.dampingFraction * spring.dampingFraction);
+}
 
 /// The curve takes a bare function, so the spring has to be part of its type.
 template<Spring spring>
@@ -33,34 +45,29 @@ int milliseconds(const Spring &spring)
 
 } // namespace
 
-QEasingCurve Springs::meter() const
+double Spring::valueAt(double seconds) const noexcept
 {
-    return curve<meterSpring>();
+    const double decay = dampingFraction * undampedFrequency(*this);
+    const double frequency = dampedFraction(*this) * undampedFrequency(*this);
+    const double angle = frequency * seconds;
+    return 1 - std::exp(-decay * seconds) * (std::cos(angle) + decay / frequency * std::sin(angle));
 }
 
-int Springs::meterDuration() const
+// The oscillation lies within its envelope exp(-decay t) / dampedFraction.
+double Spring::settlingSeconds() const noexcept
 {
-    return milliseconds(meterSpring);
+    const double decay = dampingFraction * undampedFrequency(*this);
+    return std::log(1 / (restTolerance * dampedFraction(*this))) / decay;
 }
 
-QEasingCurve Springs::donut() const
-{
-    return curve<donutSpring>();
-}
-
-int Springs::donutDuration() const
-{
-    return milliseconds(donutSpring);
-}
-
-QEasingCurve Springs::stepDot() const
-{
-    return curve<stepDotSpring>();
-}
-
-int Springs::stepDotDuration() const
-{
-    return milliseconds(stepDotSpring);
-}
+Springs::Springs(QObject *parent)
+    : QObject(parent),
+      meter(curve<meterSpring>()),
+      donut(curve<donutSpring>()),
+      stepDot(curve<stepDotSpring>()),
+      meterDuration(milliseconds(meterSpring)),
+      donutDuration(milliseconds(donutSpring)),
+      stepDotDuration(milliseconds(stepDotSpring))
+{}
 
 } // namespace Loadwick

@@ -6,33 +6,50 @@
 
 namespace Loadwick {
 
-/// The springs of the window, each as an easing curve and the milliseconds that it takes; see
-/// `Spring` for their formula. An animation needs both: `NumberAnimation { duration:
-/// Springs.meterDuration; easing: Springs.meter }`. Where motion is unwanted, do not animate.
+/// A damped spring that is let go at 0, at rest, and comes to rest at 1.
+///
+/// With z the damping fraction and w = 2 pi / response, its position x obeys
+/// x'' + 2 z w x' + w^2 (x - 1) = 0 with x(0) = x'(0) = 0: the damped oscillation of Landau and
+/// Lifshitz, Mechanics, section 25, with the rest position moved to 1.
+struct Spring
+{
+    double response;        ///< seconds; the period that the spring would have without damping
+    double dampingFraction; ///< of the critical damping; above 0 and below 1
+
+    /// The position after that many seconds. It may swing beyond 1 on its way.
+    [[nodiscard]] double valueAt(double seconds) const noexcept;
+
+    /// Seconds after which it keeps within a thousandth of 1.
+    [[nodiscard]] double settlingSeconds() const noexcept;
+};
+
+/// The springs of the window, each as an easing curve and its duration in milliseconds. An
+/// animation needs both: `NumberAnimation { duration: Springs.meterDuration; easing: Springs.meter
+/// }`. Under reduced motion, do not animate.
 class Springs : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// Of a marker or a needle that moves to its place: response 0.6 s, damping fraction 0.85.
-    Q_PROPERTY(QEasingCurve meter READ meter CONSTANT)
-    Q_PROPERTY(int meterDuration READ meterDuration CONSTANT)
-    /// Of a donut that opens: response 0.55 s, damping fraction 0.82.
-    Q_PROPERTY(QEasingCurve donut READ donut CONSTANT)
-    Q_PROPERTY(int donutDuration READ donutDuration CONSTANT)
-    /// Of the dot of a step that is reached: response 0.4 s, damping fraction 0.6.
-    Q_PROPERTY(QEasingCurve stepDot READ stepDot CONSTANT)
-    Q_PROPERTY(int stepDotDuration READ stepDotDuration CONSTANT)
+    /// A marker or a needle that moves to its target: response 0.6 s, damping fraction 0.85.
+    Q_PROPERTY(QEasingCurve meter MEMBER meter CONSTANT)
+    Q_PROPERTY(int meterDuration MEMBER meterDuration CONSTANT)
+    /// A donut that opens: response 0.55 s, damping fraction 0.82.
+    Q_PROPERTY(QEasingCurve donut MEMBER donut CONSTANT)
+    Q_PROPERTY(int donutDuration MEMBER donutDuration CONSTANT)
+    /// The dot of a step that is reached: response 0.4 s, damping fraction 0.6.
+    Q_PROPERTY(QEasingCurve stepDot MEMBER stepDot CONSTANT)
+    Q_PROPERTY(int stepDotDuration MEMBER stepDotDuration CONSTANT)
 
 public:
-    using QObject::QObject;
+    explicit Springs(QObject *parent = nullptr);
 
-    [[nodiscard]] QEasingCurve meter() const;
-    [[nodiscard]] int meterDuration() const;
-    [[nodiscard]] QEasingCurve donut() const;
-    [[nodiscard]] int donutDuration() const;
-    [[nodiscard]] QEasingCurve stepDot() const;
-    [[nodiscard]] int stepDotDuration() const;
+    const QEasingCurve meter;
+    const QEasingCurve donut;
+    const QEasingCurve stepDot;
+    const int meterDuration;
+    const int donutDuration;
+    const int stepDotDuration;
 };
 
 } // namespace Loadwick

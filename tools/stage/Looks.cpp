@@ -7,7 +7,7 @@
 #include "stage/Stage.h"
 #include "stage/Subcommand.h"
 #include "stage/WindowControl.h"
-#include "theme/DesktopWishes.h"
+#include "theme/AppearanceSource.h"
 
 namespace Loadwick {
 

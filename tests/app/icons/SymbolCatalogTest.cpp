@@ -14,91 +14,84 @@ class SymbolCatalogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void knowsEveryNameThatTheWindowUses();
-    void everyNameHasADrawing_data();
-    void everyNameHasADrawing();
-    void everyDrawingHasAName();
+    void knowsEveryNameThatTheWindowUses()
+    {
+        const QStringList pages = {QStringLiteral("square.grid.2x2"),
+                                   QStringLiteral("chart.line.uptrend.xyaxis"),
+                                   QStringLiteral("rectangle.split.2x1")};
+        const QStringList states = {QStringLiteral("circle"),
+                                    QStringLiteral("arrow.triangle.2.circlepath"),
+                                    QStringLiteral("exclamationmark.triangle"),
+                                    QStringLiteral("exclamationmark.triangle.fill"),
+                                    QStringLiteral("checkmark.circle.fill"),
+                                    QStringLiteral("magnifyingglass")};
+        const QStringList commands = {QStringLiteral("folder"), QStringLiteral("folder.fill"),
+                                      QStringLiteral("waveform.path.ecg"),
+                                      QStringLiteral("doc.on.doc"), QStringLiteral("trash")};
+        const QStringList marks = {
+            QStringLiteral("arrow.up.right"), QStringLiteral("arrow.down.right"),
+            QStringLiteral("equal"),          QStringLiteral("scalemass"),
+            QStringLiteral("chevron.right"),  QStringLiteral("chevron.down"),
+            QStringLiteral("gauge"),          QStringLiteral("arrow.up")};
+        QStringList names = pages + states + commands + marks;
+        names.sort();
+        QCOMPARE(SymbolCatalog::systemNames(), names);
+    }
+
+    void everyNameHasADrawing_data()
+    {
+        QTest::addColumn<QString>("name");
+        const QStringList names = SymbolCatalog::systemNames();
+        for (const QString &name : names)
+            QTest::newRow(qPrintable(name)) << name;
+    }
+
+    void everyNameHasADrawing()
+    {
+        QFETCH(QString, name);
+        QVERIFY(QSvgRenderer(SymbolCatalog::file(name)).isValid());
+    }
+
+    void everyDrawingHasAName()
+    {
+        QStringList drawings =
+            QDir(QStringLiteral(":/qt/qml/Loadwick/icons")).entryList({QStringLiteral("*.svg")});
+        drawings.replaceInStrings(QStringLiteral(".svg"), QString());
+        drawings.sort();
+        QCOMPARE(drawings, SymbolCatalog::roles());
+    }
+
     void drawingsShareOneGridAndOneStroke_data() { everyNameHasADrawing_data(); }
-    void drawingsShareOneGridAndOneStroke();
-    void aRoleNameFindsTheSameDrawing();
-    void anUnknownNameHasNone();
-    void aNameCannotLeaveTheFolder();
+
+    void drawingsShareOneGridAndOneStroke()
+    {
+        QFETCH(QString, name);
+        QFile file(SymbolCatalog::file(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray drawing = file.readAll();
+        QVERIFY(drawing.contains("viewBox=\"2 2 20 20\""));
+        QCOMPARE(drawing.count("stroke-width"), 1);
+        QVERIFY(drawing.contains(
+            "stroke-width=\"1.75\" stroke-linecap=\"round\" stroke-linejoin=\"round\""));
+    }
+
+    void aRoleNameFindsTheSameDrawing()
+    {
+        QCOMPARE(SymbolCatalog::file(QStringLiteral("repository")),
+                 SymbolCatalog::file(QStringLiteral("folder.fill")));
+    }
+
+    void anUnknownNameHasNone()
+    {
+        QCOMPARE(SymbolCatalog::file(QStringLiteral("unicorn")), QString());
+        QCOMPARE(SymbolCatalog::file(QString()), QString());
+    }
+
+    void aNameCannotLeaveTheFolder()
+    {
+        QCOMPARE(SymbolCatalog::file(QStringLiteral("../icons/repository")), QString());
+    }
 };
-
-void SymbolCatalogTest::knowsEveryNameThatTheWindowUses()
-{
-    const QStringList pages = {QStringLiteral("square.grid.2x2"),
-                               QStringLiteral("chart.line.uptrend.xyaxis"),
-                               QStringLiteral("rectangle.split.2x1")};
-    const QStringList states = {QStringLiteral("circle"),
-                                QStringLiteral("arrow.triangle.2.circlepath"),
-                                QStringLiteral("exclamationmark.triangle"),
-                                QStringLiteral("exclamationmark.triangle.fill"),
-                                QStringLiteral("checkmark.circle.fill"),
-                                QStringLiteral("magnifyingglass")};
-    const QStringList commands = {QStringLiteral("folder"), QStringLiteral("folder.fill"),
-                                  QStringLiteral("waveform.path.ecg"), QStringLiteral("doc.on.doc"),
-                                  QStringLiteral("trash")};
-    const QStringList marks = {QStringLiteral("arrow.up.right"), QStringLiteral("arrow.down.right"),
-                               QStringLiteral("equal"),          QStringLiteral("scalemass"),
-                               QStringLiteral("chevron.right"),  QStringLiteral("chevron.down"),
-                               QStringLiteral("gauge"),          QStringLiteral("arrow.up")};
-    QStringList names = pages + states + commands + marks;
-    names.sort();
-    QCOMPARE(SymbolCatalog::systemNames(), names);
-}
-
-void SymbolCatalogTest::everyNameHasADrawing_data()
-{
-    QTest::addColumn<QString>("name");
-    const QStringList names = SymbolCatalog::systemNames();
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << name;
-}
-
-void SymbolCatalogTest::everyNameHasADrawing()
-{
-    QFETCH(QString, name);
-    QVERIFY(QSvgRenderer(SymbolCatalog::file(name)).isValid());
-}
-
-void SymbolCatalogTest::everyDrawingHasAName()
-{
-    QStringList drawings =
-        QDir(QStringLiteral(":/qt/qml/Loadwick/icons")).entryList({QStringLiteral("*.svg")});
-    drawings.replaceInStrings(QStringLiteral(".svg"), QString());
-    drawings.sort();
-    QCOMPARE(drawings, SymbolCatalog::roles());
-}
-
-void SymbolCatalogTest::drawingsShareOneGridAndOneStroke()
-{
-    QFETCH(QString, name);
-    QFile file(SymbolCatalog::file(name));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray drawing = file.readAll();
-    QVERIFY(drawing.contains("viewBox=\"2 2 20 20\""));
-    QCOMPARE(drawing.count("stroke-width"), 1);
-    QVERIFY(drawing.contains(
-        "stroke-width=\"1.75\" stroke-linecap=\"round\" stroke-linejoin=\"round\""));
-}
-
-void SymbolCatalogTest::aRoleNameFindsTheSameDrawing()
-{
-    QCOMPARE(SymbolCatalog::file(QStringLiteral("repository")),
-             SymbolCatalog::file(QStringLiteral("folder.fill")));
-}
-
-void SymbolCatalogTest::anUnknownNameHasNone()
-{
-    QCOMPARE(SymbolCatalog::file(QStringLiteral("unicorn")), QString());
-    QCOMPARE(SymbolCatalog::file(QString()), QString());
-}
-
-void SymbolCatalogTest::aNameCannotLeaveTheFolder()
-{
-    QCOMPARE(SymbolCatalog::file(QStringLiteral("../icons/repository")), QString());
-}
 
 const RegisteredTest<SymbolCatalogTest> registered("SymbolCatalog");
 

@@ -45,117 +45,135 @@ class SymbolTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void isSixteenPixelsWideByItself();
-    void paintsInItsTintOnly();
-    void aTranslucentTintIsEvenlyTranslucent();
-    void anUnknownNamePaintsNothingAndWarns();
-    void anEmptyNamePaintsNothingInSilence();
-    void isDrawnAtTheResolutionOfTheScreen();
-    void standsInTheMiddleOfAnOblongItem();
-    void turnsWithItsAngle();
-    void saysWhatChanged();
-};
-
-void SymbolTest::isSixteenPixelsWideByItself()
-{
-    const Symbol symbol;
-    QCOMPARE(symbol.implicitWidth(), 16.0);
-    QCOMPARE(symbol.implicitHeight(), 16.0);
-}
-
-void SymbolTest::paintsInItsTintOnly()
-{
-    Symbol symbol;
-    symbol.setSize({48, 48});
-    symbol.setName(QStringLiteral("folder.fill"));
-    symbol.setTint(QColor(36, 96, 216));
-    const QImage image = painted(symbol);
-    QCOMPARE(image.pixelColor(24, 28), QColor(36, 96, 216));
-    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
-}
-
-void SymbolTest::aTranslucentTintIsEvenlyTranslucent()
-{
-    Symbol symbol;
-    symbol.setSize({48, 48});
-    symbol.setName(QStringLiteral("folder.fill"));
-    symbol.setTint(QColor(0, 0, 0, 100));
-    const QImage image = painted(symbol);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            QVERIFY(qAlpha(image.pixel(x, y)) <= 100);
-    QCOMPARE(qAlpha(image.pixel(24, 28)), 100);
-}
-
-void SymbolTest::anUnknownNamePaintsNothingAndWarns()
-{
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("symbol \"unicorn\"")));
-    Symbol symbol;
-    symbol.setSize({16, 16});
-    symbol.setName(QStringLiteral("unicorn"));
-    QVERIFY(isEmpty(painted(symbol)));
-}
-
-void SymbolTest::anEmptyNamePaintsNothingInSilence()
-{
-    Symbol symbol;
-    symbol.setSize({16, 16});
-    symbol.setName(QStringLiteral("circle"));
-    symbol.setName(QString());
-    QVERIFY(isEmpty(painted(symbol)));
-}
-
-void SymbolTest::isDrawnAtTheResolutionOfTheScreen()
-{
-    Symbol small;
-    small.setSize({24, 24});
-    small.setName(QStringLiteral("square.grid.2x2"));
-    Symbol large;
-    large.setSize({72, 72});
-    large.setName(QStringLiteral("square.grid.2x2"));
-    QImage scaled = painted(small, 3);
-    scaled.setDevicePixelRatio(1);
-    QCOMPARE(scaled, painted(large));
-}
-
-void SymbolTest::standsInTheMiddleOfAnOblongItem()
-{
-    Symbol symbol;
-    symbol.setSize({64, 16});
-    symbol.setName(QStringLiteral("checkmark.circle.fill"));
-    const QImage image = painted(symbol);
-    QVERIFY(isEmpty(image.copy(0, 0, 24, 16)));
-    QVERIFY(isEmpty(image.copy(40, 0, 24, 16)));
-    QVERIFY(!isEmpty(image.copy(24, 0, 16, 16)));
-}
-
-void SymbolTest::turnsWithItsAngle()
-{
-    Symbol right;
-    right.setSize({40, 40});
-    right.setName(QStringLiteral("chevron.right"));
-    const QImage before = painted(right);
-    right.setAngle(90);
-    QVERIFY(painted(right) != before);
-    right.setAngle(45);
-    QVERIFY2(softPixels(painted(right)) > 20, "a turned edge is smooth");
-}
-
-void SymbolTest::saysWhatChanged()
-{
-    Symbol symbol;
-    const QSignalSpy names(&symbol, &Symbol::nameChanged);
-    const QSignalSpy tints(&symbol, &Symbol::tintChanged);
-    const QSignalSpy angles(&symbol, &Symbol::angleChanged);
-    for (int time = 0; time < 2; ++time) {
-        symbol.setName(QStringLiteral("circle"));
-        symbol.setTint(Qt::red);
-        symbol.setAngle(10);
+    void isSixteenPixelsWideByItself()
+    {
+        const Symbol symbol;
+        QCOMPARE(symbol.implicitWidth(), 16.0);
+        QCOMPARE(symbol.implicitHeight(), 16.0);
     }
-    QCOMPARE(names.size(), 1);
-    QCOMPARE(tints.size(), 1);
-    QCOMPARE(angles.size(), 1);
-}
+
+    void paintsInItsTintOnly()
+    {
+        Symbol symbol;
+        symbol.setSize({48, 48});
+        symbol.setName(QStringLiteral("folder.fill"));
+        symbol.setTint(QColor(36, 96, 216));
+        const QImage image = painted(symbol);
+        QCOMPARE(image.pixelColor(24, 28), QColor(36, 96, 216));
+        QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+    }
+
+    void aTranslucentTintIsEvenlyTranslucent()
+    {
+        Symbol symbol;
+        symbol.setSize({48, 48});
+        symbol.setName(QStringLiteral("folder.fill"));
+        symbol.setTint(QColor(0, 0, 0, 100));
+        const QImage image = painted(symbol);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                QVERIFY(qAlpha(image.pixel(x, y)) <= 100);
+        QCOMPARE(qAlpha(image.pixel(24, 28)), 100);
+    }
+
+    void anUnknownNamePaintsNothingAndWarns()
+    {
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("symbol \"unicorn\"")));
+        Symbol symbol;
+        symbol.setSize({16, 16});
+        symbol.setName(QStringLiteral("unicorn"));
+        QVERIFY(isEmpty(painted(symbol)));
+    }
+
+    void anEmptyNamePaintsNothingInSilence()
+    {
+        Symbol symbol;
+        symbol.setSize({16, 16});
+        symbol.setName(QStringLiteral("circle"));
+        symbol.setName(QString());
+        QVERIFY(isEmpty(painted(symbol)));
+    }
+
+    void isDrawnAtTheResolutionOfTheScreen()
+    {
+        Symbol small;
+        small.setSize({24, 24});
+        small.setName(QStringLiteral("square.grid.2x2"));
+        Symbol large;
+        large.setSize({72, 72});
+        large.setName(QStringLiteral("square.grid.2x2"));
+        QImage scaled = painted(small, 3);
+        scaled.setDevicePixelRatio(1);
+        QCOMPARE(scaled, painted(large));
+    }
+
+    void isCentredInAnOblongItem()
+    {
+        Symbol symbol;
+        symbol.setSize({64, 16});
+        symbol.setName(QStringLiteral("checkmark.circle.fill"));
+        const QImage image = painted(symbol);
+        QVERIFY(isEmpty(image.copy(0, 0, 24, 16)));
+        QVERIFY(isEmpty(image.copy(40, 0, 24, 16)));
+        QVERIFY(!isEmpty(image.copy(24, 0, 16, 16)));
+    }
+
+    void turnsWithItsAngle()
+    {
+        Symbol right;
+        right.setSize({40, 40});
+        right.setName(QStringLiteral("chevron.right"));
+        const QImage before = painted(right);
+        right.setAngle(90);
+        QVERIFY(painted(right) != before);
+        right.setAngle(45);
+        QVERIFY2(softPixels(painted(right)) > 20, "a turned edge is smooth");
+    }
+
+    void saysWhatChanged()
+    {
+        Symbol symbol;
+        const QSignalSpy names(&symbol, &Symbol::nameChanged);
+        const QSignalSpy tints(&symbol, &Symbol::tintChanged);
+        const QSignalSpy angles(&symbol, &Symbol::angleChanged);
+        for (int time = 0; time < 2; ++time) {
+            symbol.setName(QStringLiteral("circle"));
+            symbol.setTint(Qt::red);
+            symbol.setAngle(10);
+        }
+        QCOMPARE(names.size(), 1);
+        QCOMPARE(tints.size(), 1);
+        QCOMPARE(angles.size(), 1);
+    }
+
+    void aPictureIsMadeOnce() { QCOMPARE(picture("test:once"), picture("test:once")); }
+
+    void anotherKeyHasAnotherPicture() { QVERIFY(picture("test:one") != picture("test:other")); }
+
+    void theLeastRecentlyUsedPicturesAreDropped()
+    {
+        m_madeCount = 0;
+        (void)picture("test:oldest");
+        for (int count = 0; count < 1'000; ++count)
+            (void)picture(QByteArray::number(count).constData());
+        (void)picture("test:oldest");
+        QCOMPARE(m_madeCount, 1'002);
+    }
+
+private:
+    /// Another colour each time it has to be made.
+    QImage picture(const char *key)
+    {
+        return SymbolPictures::find(QString::fromLatin1(key), [this] {
+            QImage image(1, 1, QImage::Format_ARGB32);
+            image.fill(QColor(++m_madeCount % 256, 0, 0));
+            return image;
+        });
+    }
+
+    int m_madeCount = 0;
+};
 
 const RegisteredTest<SymbolTest> registered("Symbol");
 

@@ -12,7 +12,7 @@
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"
-#include "theme/DesktopWishes.h"
+#include "theme/AppearanceSource.h"
 
 namespace Loadwick {
 namespace {

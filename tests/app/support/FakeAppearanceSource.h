@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-/// A desktop that wishes what the test says; nothing at first.
+/// A desktop with the wishes that a test sets; none at first.
 class FakeAppearanceSource : public AppearanceSource
 {
     Q_OBJECT

@@ -14,106 +14,97 @@ class AppearanceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void asksTheDesktop();
-    void followsTheDesktop();
-    void aWishOfItsOwnWins();
-    void returnsToTheDesktop();
-    void saysOnceWhatIsWished();
-    void followsTheWishForContrast();
-    void tellsTheAccentOnlyWhereThereIsOne();
-    void theEngineHandsInTheSource();
+    void asksTheDesktop()
+    {
+        FakeAppearanceSource desktop;
+        const Appearance appearance(desktop);
+        QVERIFY(!appearance.dark());
+        QVERIFY(!appearance.reduceMotion());
+    }
+
+    void followsTheDesktop()
+    {
+        FakeAppearanceSource desktop;
+        const Appearance appearance(desktop);
+        const QSignalSpy changes(&appearance, &Appearance::changed);
+        desktop.prefer(true, true);
+        QVERIFY(appearance.dark());
+        QVERIFY(appearance.reduceMotion());
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void anOverrideWins()
+    {
+        FakeAppearanceSource desktop;
+        desktop.prefer(true, true);
+        Appearance appearance(desktop);
+        appearance.setScheme(Appearance::Light);
+        appearance.setMotion(Appearance::Full);
+        QVERIFY(!appearance.dark());
+        QVERIFY(!appearance.reduceMotion());
+    }
+
+    void returnsToTheDesktop()
+    {
+        FakeAppearanceSource desktop;
+        desktop.prefer(true, true);
+        Appearance appearance(desktop);
+        appearance.setScheme(Appearance::Light);
+        appearance.setMotion(Appearance::Full);
+        appearance.setScheme(Appearance::DesktopScheme);
+        appearance.setMotion(Appearance::DesktopMotion);
+        QVERIFY(appearance.dark());
+        QVERIFY(appearance.reduceMotion());
+    }
+
+    void signalsEachOverrideOnce()
+    {
+        FakeAppearanceSource desktop;
+        Appearance appearance(desktop);
+        const QSignalSpy changes(&appearance, &Appearance::changed);
+        appearance.setScheme(Appearance::Dark);
+        appearance.setScheme(Appearance::Dark);
+        appearance.setMotion(Appearance::Reduced);
+        appearance.setMotion(Appearance::Reduced);
+        QCOMPARE(changes.size(), 2);
+    }
+
+    void followsAndOverridesTheContrast()
+    {
+        FakeAppearanceSource desktop;
+        Appearance appearance(desktop);
+        QVERIFY(!appearance.moreContrast());
+        desktop.wish({.moreContrast = true});
+        QVERIFY(appearance.moreContrast());
+        const QSignalSpy changes(&appearance, &Appearance::changed);
+        appearance.setContrast(Appearance::Standard);
+        appearance.setContrast(Appearance::Standard);
+        QVERIFY(!appearance.moreContrast());
+        QCOMPARE(changes.size(), 1);
+        desktop.wish({});
+        appearance.setContrast(Appearance::More);
+        QVERIFY(appearance.moreContrast());
+    }
+
+    void hasAnAccentOnlyIfTheDesktopHasOne()
+    {
+        FakeAppearanceSource desktop;
+        const Appearance appearance(desktop);
+        QVERIFY(!appearance.hasAccent());
+        desktop.wish({.accent = QColor(Qt::magenta)});
+        QVERIFY(appearance.hasAccent());
+        QCOMPARE(appearance.accent(), QColor(Qt::magenta));
+    }
+
+    void takesTheSourceFromTheEngine()
+    {
+        QQmlEngine engine;
+        auto *desktop = new FakeAppearanceSource(&engine);
+        desktop->prefer(true, false);
+        const std::unique_ptr<Appearance> appearance(Appearance::create(&engine, &engine));
+        QVERIFY(appearance->dark());
+    }
 };
-
-void AppearanceTest::asksTheDesktop()
-{
-    FakeAppearanceSource desktop;
-    const Appearance appearance(desktop);
-    QVERIFY(!appearance.dark());
-    QVERIFY(!appearance.reduceMotion());
-}
-
-void AppearanceTest::followsTheDesktop()
-{
-    FakeAppearanceSource desktop;
-    const Appearance appearance(desktop);
-    const QSignalSpy changes(&appearance, &Appearance::changed);
-    desktop.prefer(true, true);
-    QVERIFY(appearance.dark());
-    QVERIFY(appearance.reduceMotion());
-    QCOMPARE(changes.size(), 1);
-}
-
-void AppearanceTest::aWishOfItsOwnWins()
-{
-    FakeAppearanceSource desktop;
-    desktop.prefer(true, true);
-    Appearance appearance(desktop);
-    appearance.setScheme(Appearance::Light);
-    appearance.setMotion(Appearance::Full);
-    QVERIFY(!appearance.dark());
-    QVERIFY(!appearance.reduceMotion());
-}
-
-void AppearanceTest::returnsToTheDesktop()
-{
-    FakeAppearanceSource desktop;
-    desktop.prefer(true, true);
-    Appearance appearance(desktop);
-    appearance.setScheme(Appearance::Light);
-    appearance.setMotion(Appearance::Full);
-    appearance.setScheme(Appearance::DesktopScheme);
-    appearance.setMotion(Appearance::DesktopMotion);
-    QVERIFY(appearance.dark());
-    QVERIFY(appearance.reduceMotion());
-}
-
-void AppearanceTest::saysOnceWhatIsWished()
-{
-    FakeAppearanceSource desktop;
-    Appearance appearance(desktop);
-    const QSignalSpy changes(&appearance, &Appearance::changed);
-    appearance.setScheme(Appearance::Dark);
-    appearance.setScheme(Appearance::Dark);
-    appearance.setMotion(Appearance::Reduced);
-    appearance.setMotion(Appearance::Reduced);
-    QCOMPARE(changes.size(), 2);
-}
-
-void AppearanceTest::followsTheWishForContrast()
-{
-    FakeAppearanceSource desktop;
-    Appearance appearance(desktop);
-    QVERIFY(!appearance.moreContrast());
-    desktop.wish({.moreContrast = true});
-    QVERIFY(appearance.moreContrast());
-    const QSignalSpy changes(&appearance, &Appearance::changed);
-    appearance.setContrast(Appearance::Standard);
-    appearance.setContrast(Appearance::Standard);
-    QVERIFY(!appearance.moreContrast());
-    QCOMPARE(changes.size(), 1);
-    desktop.wish({});
-    appearance.setContrast(Appearance::More);
-    QVERIFY(appearance.moreContrast());
-}
-
-void AppearanceTest::tellsTheAccentOnlyWhereThereIsOne()
-{
-    FakeAppearanceSource desktop;
-    const Appearance appearance(desktop);
-    QVERIFY(!appearance.hasAccent());
-    desktop.wish({.accent = QColor(Qt::magenta)});
-    QVERIFY(appearance.hasAccent());
-    QCOMPARE(appearance.accent(), QColor(Qt::magenta));
-}
-
-void AppearanceTest::theEngineHandsInTheSource()
-{
-    QQmlEngine engine;
-    auto *desktop = new FakeAppearanceSource(&engine);
-    desktop->prefer(true, false);
-    const std::unique_ptr<Appearance> appearance(Appearance::create(&engine, &engine));
-    QVERIFY(appearance->dark());
-}
 
 const RegisteredTest<AppearanceTest> registered("Appearance");
 

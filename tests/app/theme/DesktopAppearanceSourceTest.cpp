@@ -29,7 +29,7 @@ private Q_SLOTS:
         m_source = std::make_unique<DesktopAppearanceSource>(std::move(sources));
     }
 
-    void asksInOrder()
+    void asksTheSourcesInOrder()
     {
         m_fakes[2]->wish({.dark = true});
         QVERIFY(m_source->prefersDark());
@@ -49,7 +49,7 @@ private Q_SLOTS:
         QVERIFY(m_source->wishes() == all);
     }
 
-    void aWishThatIsTakenBackGoesToTheNext()
+    void aWishThatIsWithdrawnPassesToTheNextSource()
     {
         m_fakes[2]->wish({.dark = false});
         m_fakes[0]->wish({.dark = true});
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QVERIFY(!m_source->prefersDark());
     }
 
-    void tellsOnlyOfWhatCounts()
+    void signalsOnlyChangesThatCount()
     {
         m_fakes[0]->wish({.dark = true});
         const QSignalSpy changes(m_source.get(), &AppearanceSource::changed);
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), 1);
     }
 
-    void theUsersEndsAtThePalette()
+    void fallsBackToThePalette()
     {
         const auto stepping = std::make_shared<SteppingDispatcher>();
         const auto source = DesktopAppearanceSource::ofUser(stepping);
@@ -76,6 +76,25 @@ private Q_SLOTS:
         QGuiApplication::setPalette(QPalette(Qt::gray, Qt::white));
         QTRY_VERIFY(!source->prefersDark());
         stepping->discardAll();
+    }
+
+    void aPaletteWithADarkWindowIsDark_data()
+    {
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<bool>("dark");
+        QTest::newRow("white") << QColor(255, 255, 255) << false;
+        QTest::newRow("just light") << QColor(128, 128, 128) << false;
+        QTest::newRow("just dark") << QColor(127, 127, 127) << true;
+        QTest::newRow("black") << QColor(0, 0, 0) << true;
+    }
+
+    void aPaletteWithADarkWindowIsDark()
+    {
+        QFETCH(QColor, window);
+        QFETCH(bool, dark);
+        const PaletteAppearanceSource source;
+        QGuiApplication::setPalette(QPalette(Qt::gray, window));
+        QVERIFY(source.wishes() == DesktopWishes{.dark = dark});
     }
 
 private:

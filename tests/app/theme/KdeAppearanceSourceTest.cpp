@@ -61,7 +61,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!source.prefersDark());
     }
 
-    void followsAFileThatComesLater()
+    void followsAFileThatAppearsLater()
     {
         const KdeAppearanceSource source(m_file, m_dispatcher);
         QTest::qWait(50);
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QTRY_VERIFY(source.prefersDark());
     }
 
-    void forgetsAFileThatGoes()
+    void forgetsAFileThatIsDeleted()
     {
         m_folder->write("kdeglobals", darkText);
         const KdeAppearanceSource source(m_file, m_dispatcher);
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!source.wishes().dark);
     }
 
-    void saysNothingOfAChangeToOtherSettings()
+    void ignoresAChangeToOtherSettings()
     {
         m_folder->write("kdeglobals", darkText);
         const KdeAppearanceSource source(m_file, m_dispatcher);
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(changes.isEmpty());
     }
 
-    void doesWithoutAFileOrAThread()
+    void needsNeitherAFileNorAThread()
     {
         const auto stepping = std::make_shared<SteppingDispatcher>();
         const KdeAppearanceSource none({}, stepping);
@@ -100,14 +100,14 @@ private Q_SLOTS:
         QVERIFY(unread.wishes() == DesktopWishes());
     }
 
-    void mayGoBeforeTheFileIsRead()
+    void canBeDestroyedBeforeTheFileIsRead()
     {
         const auto stepping = std::make_shared<SteppingDispatcher>();
         std::make_unique<KdeAppearanceSource>(m_file, stepping).reset();
         stepping->runAll();
     }
 
-    void anotherDesktopsProgramLeavesKdesFileAlone_data()
+    void ignoresTheFileOnAnotherDesktop_data()
     {
         QTest::addColumn<QByteArray>("desktop");
         QTest::addColumn<bool>("reads");
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QTest::newRow("GNOME") << QByteArray("ubuntu:GNOME") << false;
     }
 
-    void anotherDesktopsProgramLeavesKdesFileAlone()
+    void ignoresTheFileOnAnotherDesktop()
     {
         QFETCH(QByteArray, desktop);
         QFETCH(bool, reads);
@@ -128,7 +128,79 @@ private Q_SLOTS:
         QCOMPARE(file.empty(), !reads);
     }
 
+    void readsTheWishesInItsText_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<DesktopWishes>("wishes");
+        schemeRows();
+        motionRows();
+        fontRows();
+        ignoredRows();
+    }
+
+    void readsTheWishesInItsText()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const DesktopWishes, wishes);
+        QVERIFY(KdeGlobals::wishes(text.toStdString()) == wishes);
+    }
+
 private:
+    static void row(const char *name, const QByteArray &text, const DesktopWishes &wishes)
+    {
+        QTest::newRow(name) << text << wishes;
+    }
+
+    static void schemeRows()
+    {
+        row("a whole file",
+            "[General]\nAccentColor=61,174,233\nColorScheme=BreezeDark\nName[de]=Breeze Dunkel\n\n"
+            "[KDE]\nAnimationDurationFactor=0\n",
+            {.dark = true, .reducedMotion = true, .accent = QColor(61, 174, 233)});
+        row("the ground of windows outranks the name",
+            "[Colors:Window]\nBackgroundNormal=239,240,241\n"
+            "[General]\nColorScheme=NotAsDarkAsItSounds\n",
+            {.dark = false});
+        row("a light name", "[General]\nColorScheme=BreezeLight\n", {.dark = false});
+        row("a name of high contrast", "[General]\nColorScheme=BreezeHighContrast\n",
+            {.dark = false, .moreContrast = true});
+    }
+
+    static void motionRows()
+    {
+        const QByteArray factor = "[KDE]\nAnimationDurationFactor=";
+        row("no animations", factor + "0", {.reducedMotion = true});
+        row("no animations, written long", factor + "0.0", {.reducedMotion = true});
+        row("quick animations", factor + "0.25", {.reducedMotion = false});
+        row("animations as they are", factor + "1", {.reducedMotion = false});
+        row("a factor that is no number", factor + "fast", {});
+        row("an empty factor", factor, {});
+        row("suffixes of a name", "[KDE][$i]\n[KDE]\nAnimationDurationFactor[$i]=0\n",
+            {.reducedMotion = true});
+    }
+
+    static void fontRows()
+    {
+        const QByteArray font = "[General]\nfont=Noto Sans";
+        row("a font", font + ",14,-1,5,50,0,0,0,0,0\n", {.fontPoints = 14});
+        row("parts of a point", font + ", 10.5,-1\n", {.fontPoints = 10.5});
+        row("a size in pixels", font + ",-1,18,5\n", {});
+        row("a font without a size", font + "\n", {});
+        row("a size that is no number", font + ",large\n", {});
+    }
+
+    static void ignoredRows()
+    {
+        row("nothing", {}, {});
+        row("a comment", "[KDE]\n#AnimationDurationFactor=0\n", {});
+        row("no group", "AnimationDurationFactor=0\n", {});
+        row("another group", "[Plasma]\nAnimationDurationFactor=0\nColorScheme=Dark\n", {});
+        row("half a colour", "[General]\nAccentColor=1,2\n", {});
+        row("a colour out of range", "[General]\nAccentColor=1,2,256\n", {});
+        row("no colour", "[General]\nAccentColor=red,green,blue\n", {});
+        row("bytes", QByteArray("\0=[\xff]\n=\n[", 9), {});
+    }
+
     void replace(std::string_view text)
     {
         const auto next = m_folder->write("kdeglobals.next", text);

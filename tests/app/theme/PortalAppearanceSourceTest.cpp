@@ -38,27 +38,190 @@ class PortalAppearanceSourceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void aDarkDesktopIsDarkFromTheStart();
-    void followsChangesWhileItRuns();
-    void takesTheAccent();
-    void anAccentOutOfBoundsIsNone();
-    void takesTheSizeOfText();
-    void saysNothingOfWhatStaysTheSame();
-    void hearsOnlyThePortal();
-    void withoutABusThereAreNoWishes();
-    void withoutAPortalThereAreNoWishes();
-    void aPortalThatNeverAnswersHoldsUpNobody();
-    void aSilentPortalsChangesAreStillHeard();
-    void connectsInTheBackground();
-    void mayGoBeforeTheBusIsConnected();
-    void doesWithoutAThread();
+    void init()
+    {
+        m_dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
+        m_bus = std::make_unique<PrivateBus>();
+    }
+
+    void cleanup()
+    {
+        m_source.reset();
+        m_portal.reset();
+        m_bus.reset();
+    }
+
+    void aDarkDesktopIsDarkFromTheStart()
+    {
+        portal().set(common, scheme, 1U);
+        portal().set(gnome, animations, false);
+        PortalAppearanceSource &asked = source();
+        QVERIFY(!asked.wishes().dark);
+        QTRY_VERIFY(asked.prefersDark());
+        QTRY_VERIFY(asked.prefersReducedMotion());
+        QVERIFY(!asked.wishes().moreContrast);
+        QVERIFY(!asked.wishes().accent);
+    }
+
+    void followsChangesWhileItRuns()
+    {
+        portal().set(common, scheme, 1U);
+        PortalAppearanceSource &asked = source();
+        QTRY_VERIFY(asked.prefersDark());
+        portal().change(common, scheme, 2U);
+        QTRY_VERIFY(!asked.prefersDark());
+        portal().change(common, QStringLiteral("contrast"), 1U);
+        QTRY_VERIFY(asked.prefersMoreContrast());
+        portal().change(gnome, animations, false);
+        QTRY_VERIFY(asked.prefersReducedMotion());
+        portal().change(gnome, animations, true);
+        QTRY_VERIFY(!asked.prefersReducedMotion());
+    }
+
+    void takesTheAccent()
+    {
+        portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
+        PortalAppearanceSource &asked = source();
+        QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(1.0F, 0.0F, 0.0F)));
+        portal().change(common, accent, colorParts(0.0, 0.0, 1.0));
+        QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(0.0F, 0.0F, 1.0F)));
+    }
+
+    void ignoresAnAccentOutOfRange()
+    {
+        portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
+        PortalAppearanceSource &asked = source();
+        QTRY_VERIFY(asked.wishes().accent);
+        portal().change(common, accent, colorParts(-1.0, -1.0, -1.0));
+        QTRY_VERIFY(!asked.wishes().accent);
+    }
+
+    void takesTheSizeOfText()
+    {
+        portal().set(gnome, QStringLiteral("font-name"), QStringLiteral("Cantarell 12"));
+        PortalAppearanceSource &asked = source();
+        QTRY_COMPARE(asked.wishes().textScale(), 1.2);
+        portal().change(gnome, QStringLiteral("text-scaling-factor"), 1.1);
+        QTRY_COMPARE(asked.wishes().textScale(), 1.32);
+    }
+
+    void signalsOnlyChanges()
+    {
+        portal().set(common, scheme, 1U);
+        PortalAppearanceSource &asked = source();
+        QTRY_VERIFY(asked.prefersDark());
+        const QSignalSpy changes(&asked, &AppearanceSource::changed);
+        portal().change(common, scheme, 1U);
+        portal().change(gnome, QStringLiteral("clock-format"), QStringLiteral("24h"));
+        portal().change(common, QStringLiteral("contrast"), 1U);
+        QTRY_VERIFY(asked.prefersMoreContrast());
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void ignoresOtherSenders()
+    {
+        portal().set(common, scheme, 2U);
+        PortalAppearanceSource &asked = source();
+        QTRY_VERIFY(asked.wishes().dark);
+        QDBusConnection other = m_bus->connection(newName());
+        QDBusMessage lie = QDBusMessage::createSignal(
+            QStringLiteral("/org/freedesktop/portal/desktop"),
+            QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+        lie << common << scheme << QVariant::fromValue(QDBusVariant(1U));
+        QVERIFY(other.send(lie));
+        portal().change(common, QStringLiteral("contrast"), 1U);
+        QTRY_VERIFY(asked.prefersMoreContrast());
+        QVERIFY(!asked.prefersDark());
+    }
+
+    void withoutABusThereAreNoWishes()
+    {
+        const auto stepping = std::make_shared<SteppingDispatcher>();
+        const PortalAppearanceSource asked(
+            stepping, [] { return QDBusConnection(QStringLiteral("no such bus")); });
+        stepping->runAll();
+        QVERIFY(asked.wishes() == DesktopWishes());
+    }
+
+    void withoutAPortalThereAreNoWishes()
+    {
+        PortalAppearanceSource &asked = source();
+        const QSignalSpy changes(&asked, &AppearanceSource::changed);
+        QTest::qWait(200);
+        QVERIFY(changes.isEmpty());
+        QVERIFY(asked.wishes() == DesktopWishes());
+    }
+
+    void aPortalThatNeverAnswersBlocksNothing()
+    {
+        portal().fallSilent();
+        QElapsedTimer timer;
+        timer.start();
+        PortalAppearanceSource &asked = source();
+        QTRY_COMPARE(portal().questionCount(), keyCount);
+        QVERIFY(asked.wishes() == DesktopWishes());
+        m_source.reset();
+        QVERIFY2(timer.elapsed() < 3'000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void hearsTheChangesOfAPortalThatDoesNotAnswer()
+    {
+        portal().fallSilent();
+        PortalAppearanceSource &asked = source();
+        QTRY_COMPARE(portal().questionCount(), keyCount);
+        portal().change(common, scheme, 1U);
+        QTRY_VERIFY(asked.prefersDark());
+    }
+
+    void connectsInTheBackground()
+    {
+        const auto stepping = std::make_shared<SteppingDispatcher>();
+        bool isConnected = false;
+        const PortalAppearanceSource asked(stepping, [&isConnected] {
+            isConnected = true;
+            return QDBusConnection(QStringLiteral("no such bus"));
+        });
+        QVERIFY(!isConnected);
+        QCOMPARE(stepping->backgroundCount(), std::size_t(1));
+        stepping->runAll();
+        QVERIFY(isConnected);
+    }
+
+    void canBeDestroyedBeforeTheBusIsConnected()
+    {
+        portal().set(common, scheme, 1U);
+        const auto stepping = std::make_shared<SteppingDispatcher>();
+        const QDBusConnection bus = m_bus->connection(newName());
+        std::make_unique<PortalAppearanceSource>(stepping, [bus] { return bus; }).reset();
+        stepping->runAll();
+        QTest::qWait(50);
+        QCOMPARE(portal().questionCount(), 0);
+    }
+
+    void needsNoThread()
+    {
+        const auto stepping = std::make_shared<SteppingDispatcher>();
+        stepping->refuseBackground();
+        const PortalAppearanceSource asked(stepping);
+        QVERIFY(asked.wishes() == DesktopWishes());
+    }
 
 private:
     [[nodiscard]] QString newName() { return QStringLiteral("connection %1").arg(++m_count); }
-    [[nodiscard]] StandInPortal &portal();
-    [[nodiscard]] PortalAppearanceSource &source();
+
+    [[nodiscard]] StandInPortal &portal()
+    {
+        if (!m_portal)
+            m_portal = std::make_unique<StandInPortal>(m_bus->connection(newName()));
+        return *m_portal;
+    }
+
+    [[nodiscard]] PortalAppearanceSource &source()
+    {
+        const QDBusConnection bus = m_bus->connection(newName());
+        m_source = std::make_unique<PortalAppearanceSource>(m_dispatcher, [bus] { return bus; });
+        return *m_source;
+    }
 
     QObject m_interface;
     std::shared_ptr<TaskDispatcher> m_dispatcher;
@@ -67,188 +230,6 @@ private:
     std::unique_ptr<PortalAppearanceSource> m_source;
     int m_count = 0;
 };
-
-void PortalAppearanceSourceTest::init()
-{
-    m_dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
-    m_bus = std::make_unique<PrivateBus>();
-}
-
-void PortalAppearanceSourceTest::cleanup()
-{
-    m_source.reset();
-    m_portal.reset();
-    m_bus.reset();
-}
-
-StandInPortal &PortalAppearanceSourceTest::portal()
-{
-    if (!m_portal)
-        m_portal = std::make_unique<StandInPortal>(m_bus->connection(newName()));
-    return *m_portal;
-}
-
-PortalAppearanceSource &PortalAppearanceSourceTest::source()
-{
-    const QDBusConnection bus = m_bus->connection(newName());
-    m_source = std::make_unique<PortalAppearanceSource>(m_dispatcher, [bus] { return bus; });
-    return *m_source;
-}
-
-void PortalAppearanceSourceTest::aDarkDesktopIsDarkFromTheStart()
-{
-    portal().set(common, scheme, 1U);
-    portal().set(gnome, animations, false);
-    PortalAppearanceSource &asked = source();
-    QVERIFY(!asked.wishes().dark);
-    QTRY_VERIFY(asked.prefersDark());
-    QTRY_VERIFY(asked.prefersReducedMotion());
-    QVERIFY(!asked.wishes().moreContrast);
-    QVERIFY(!asked.wishes().accent);
-}
-
-void PortalAppearanceSourceTest::followsChangesWhileItRuns()
-{
-    portal().set(common, scheme, 1U);
-    PortalAppearanceSource &asked = source();
-    QTRY_VERIFY(asked.prefersDark());
-    portal().change(common, scheme, 2U);
-    QTRY_VERIFY(!asked.prefersDark());
-    portal().change(common, QStringLiteral("contrast"), 1U);
-    QTRY_VERIFY(asked.prefersMoreContrast());
-    portal().change(gnome, animations, false);
-    QTRY_VERIFY(asked.prefersReducedMotion());
-    portal().change(gnome, animations, true);
-    QTRY_VERIFY(!asked.prefersReducedMotion());
-}
-
-void PortalAppearanceSourceTest::takesTheAccent()
-{
-    portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
-    PortalAppearanceSource &asked = source();
-    QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(1.0F, 0.0F, 0.0F)));
-    portal().change(common, accent, colorParts(0.0, 0.0, 1.0));
-    QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(0.0F, 0.0F, 1.0F)));
-}
-
-void PortalAppearanceSourceTest::anAccentOutOfBoundsIsNone()
-{
-    portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
-    PortalAppearanceSource &asked = source();
-    QTRY_VERIFY(asked.wishes().accent);
-    portal().change(common, accent, colorParts(-1.0, -1.0, -1.0));
-    QTRY_VERIFY(!asked.wishes().accent);
-}
-
-void PortalAppearanceSourceTest::takesTheSizeOfText()
-{
-    portal().set(gnome, QStringLiteral("font-name"), QStringLiteral("Cantarell 12"));
-    PortalAppearanceSource &asked = source();
-    QTRY_COMPARE(asked.wishes().textScale(), 1.2);
-    portal().change(gnome, QStringLiteral("text-scaling-factor"), 1.1);
-    QTRY_COMPARE(asked.wishes().textScale(), 1.32);
-}
-
-void PortalAppearanceSourceTest::saysNothingOfWhatStaysTheSame()
-{
-    portal().set(common, scheme, 1U);
-    PortalAppearanceSource &asked = source();
-    QTRY_VERIFY(asked.prefersDark());
-    const QSignalSpy changes(&asked, &AppearanceSource::changed);
-    portal().change(common, scheme, 1U);
-    portal().change(gnome, QStringLiteral("clock-format"), QStringLiteral("24h"));
-    portal().change(common, QStringLiteral("contrast"), 1U);
-    QTRY_VERIFY(asked.prefersMoreContrast());
-    QCOMPARE(changes.size(), 1);
-}
-
-void PortalAppearanceSourceTest::hearsOnlyThePortal()
-{
-    portal().set(common, scheme, 2U);
-    PortalAppearanceSource &asked = source();
-    QTRY_VERIFY(asked.wishes().dark);
-    QDBusConnection other = m_bus->connection(newName());
-    QDBusMessage lie = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
-                                                  QStringLiteral("org.freedesktop.portal.Settings"),
-                                                  QStringLiteral("SettingChanged"));
-    lie << common << scheme << QVariant::fromValue(QDBusVariant(1U));
-    QVERIFY(other.send(lie));
-    portal().change(common, QStringLiteral("contrast"), 1U);
-    QTRY_VERIFY(asked.prefersMoreContrast());
-    QVERIFY(!asked.prefersDark());
-}
-
-void PortalAppearanceSourceTest::withoutABusThereAreNoWishes()
-{
-    const auto stepping = std::make_shared<SteppingDispatcher>();
-    const PortalAppearanceSource asked(
-        stepping, [] { return QDBusConnection(QStringLiteral("no such bus")); });
-    stepping->runAll();
-    QVERIFY(asked.wishes() == DesktopWishes());
-}
-
-void PortalAppearanceSourceTest::withoutAPortalThereAreNoWishes()
-{
-    PortalAppearanceSource &asked = source();
-    const QSignalSpy changes(&asked, &AppearanceSource::changed);
-    QTest::qWait(200);
-    QVERIFY(changes.isEmpty());
-    QVERIFY(asked.wishes() == DesktopWishes());
-}
-
-void PortalAppearanceSourceTest::aPortalThatNeverAnswersHoldsUpNobody()
-{
-    portal().fallSilent();
-    QElapsedTimer timer;
-    timer.start();
-    PortalAppearanceSource &asked = source();
-    QTRY_COMPARE(portal().questionCount(), keyCount);
-    QVERIFY(asked.wishes() == DesktopWishes());
-    m_source.reset();
-    QVERIFY2(timer.elapsed() < 3'000, qPrintable(QString::number(timer.elapsed())));
-}
-
-void PortalAppearanceSourceTest::aSilentPortalsChangesAreStillHeard()
-{
-    portal().fallSilent();
-    PortalAppearanceSource &asked = source();
-    QTRY_COMPARE(portal().questionCount(), keyCount);
-    portal().change(common, scheme, 1U);
-    QTRY_VERIFY(asked.prefersDark());
-}
-
-void PortalAppearanceSourceTest::connectsInTheBackground()
-{
-    const auto stepping = std::make_shared<SteppingDispatcher>();
-    bool isConnected = false;
-    const PortalAppearanceSource asked(stepping, [&isConnected] {
-        isConnected = true;
-        return QDBusConnection(QStringLiteral("no such bus"));
-    });
-    QVERIFY(!isConnected);
-    QCOMPARE(stepping->backgroundCount(), std::size_t(1));
-    stepping->runAll();
-    QVERIFY(isConnected);
-}
-
-void PortalAppearanceSourceTest::mayGoBeforeTheBusIsConnected()
-{
-    portal().set(common, scheme, 1U);
-    const auto stepping = std::make_shared<SteppingDispatcher>();
-    const QDBusConnection bus = m_bus->connection(newName());
-    std::make_unique<PortalAppearanceSource>(stepping, [bus] { return bus; }).reset();
-    stepping->runAll();
-    QTest::qWait(50);
-    QCOMPARE(portal().questionCount(), 0);
-}
-
-void PortalAppearanceSourceTest::doesWithoutAThread()
-{
-    const auto stepping = std::make_shared<SteppingDispatcher>();
-    stepping->refuseBackground();
-    const PortalAppearanceSource asked(stepping);
-    QVERIFY(asked.wishes() == DesktopWishes());
-}
 
 const RegisteredTest<PortalAppearanceSourceTest> registered("PortalAppearanceSource");
 

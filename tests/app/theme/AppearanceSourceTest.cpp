@@ -1,4 +1,4 @@
-#include "theme/DesktopWishes.h"
+#include "theme/AppearanceSource.h"
 
 #include "support/TestRegistry.h"
 
@@ -6,19 +6,19 @@
 
 namespace Loadwick {
 
-class DesktopWishesTest : public QObject
+class AppearanceSourceTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatOneSaysWins()
+    void itsOwnWishesWin()
     {
         const DesktopWishes one{.dark = false, .reducedMotion = true, .accent = QColor(Qt::red)};
         const DesktopWishes other{.dark = true, .reducedMotion = false, .accent = QColor(Qt::blue)};
         QVERIFY(one.orElse(other) == one);
     }
 
-    void whatOneDoesNotSayTheOtherMay()
+    void absentWishesComeFromTheOther()
     {
         const DesktopWishes one{.dark = true};
         const DesktopWishes other{.dark = false, .moreContrast = true};
@@ -26,9 +26,12 @@ private Q_SLOTS:
         QVERIFY(one.orElse(other) == both);
     }
 
-    void nothingSaidStaysUnsaid() { QVERIFY(DesktopWishes().orElse({}) == DesktopWishes()); }
+    void wishesAbsentFromBothStayAbsent()
+    {
+        QVERIFY(DesktopWishes().orElse({}) == DesktopWishes());
+    }
 
-    void aWishForTheOppositeIsNotSilence()
+    void aWishForTheOppositeIsNotAbsent()
     {
         QVERIFY(DesktopWishes{.dark = false} != DesktopWishes());
     }
@@ -59,11 +62,11 @@ private Q_SLOTS:
         QCOMPARE(wishes.textScale(), scale);
     }
 
-    void textStaysAsItIsWhereNothingWasSaid() { QCOMPARE(DesktopWishes().textScale(), 1.0); }
+    void withoutAWishTextKeepsItsSize() { QCOMPARE(DesktopWishes().textScale(), 1.0); }
 };
 
-const RegisteredTest<DesktopWishesTest> registered("DesktopWishes");
+const RegisteredTest<AppearanceSourceTest> registered("AppearanceSource");
 
 } // namespace Loadwick
 
-#include "DesktopWishesTest.moc"
+#include "AppearanceSourceTest.moc"

@@ -1,4 +1,4 @@
-#include "theme/DesktopWishes.h"
+#include "theme/AppearanceSource.h"
 
 #include <algorithm>
 
@@ -19,8 +19,8 @@ double DesktopWishes::textScale() const
     constexpr double usualPoints = 10;
     constexpr double mostUsualPoints = 11;
     const double points = fontPoints.value_or(usualPoints);
-    const double ofFont = points > mostUsualPoints ? points / usualPoints : 1.0;
-    return std::clamp(ofFont * textFactor.value_or(1.0), 1.0, largestTextScale);
+    const double fontScale = points > mostUsualPoints ? points / usualPoints : 1.0;
+    return std::clamp(fontScale * textFactor.value_or(1.0), 1.0, largestTextScale);
 }
 
 } // namespace Loadwick
