@@ -20,7 +20,7 @@ Dialog {
     focus: true
     closePolicy: Popup.CloseOnEscape
     padding: AppTheme.pageMargin
-    // The title names the dialog for assistive technology; its words stand in the content.
+    // The title names the dialog for assistive technology; it is shown in the content.
     header: null
     onAboutToShow: (dialog.contentItem as Confirmation).focusCancel()
     onAccepted: dialog.confirmed()

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Controls
 import Loadwick
 
-// A path on one line that leaves out its middle where it is too long. The tool tip holds the whole,
-// and so does the line itself, selected and ready to be copied, once it is pressed or focused.
+// A path on one line that leaves out its middle where it is too long. The tool tip shows the whole
+// path; so does the line itself, selected and ready to be copied, once it is pressed or focused.
 Item {
     id: control
 
@@ -11,9 +10,9 @@ Item {
     property bool secondary: false
     property font font: AppTheme.bodyFont
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
-    // Not in a list, which is one stop by itself.
+    // False in a list, which is one stop by itself.
     property bool tabStop: true
-    // Its folders stand from left to right, whatever they are written in; only to be looked at.
+    // With its folders from left to right, whatever their script; for display only.
     readonly property string shownText: "\u200E" + control.text.split("/").join("/\u200E")
     readonly property alias truncated: label.truncated
     readonly property alias selecting: edit.activeFocus
@@ -51,7 +50,7 @@ Item {
         activeFocusOnTab: control.tabStop
         selectionColor: AppTheme.accent
         selectedTextColor: AppTheme.accentText
-        // Not hidden, which would keep the focus away.
+        // Hidden, it could not take the focus.
         opacity: edit.activeFocus ? 1 : 0
 
         Accessible.role: Accessible.EditableText
@@ -75,23 +74,10 @@ Item {
         onClicked: edit.forceActiveFocus(Qt.MouseFocusReason)
     }
 
-    HoverHandler { id: pointer }
-
-    // Made for the one that is pointed at: there may be many paths.
-    Loader {
-        id: tip
-
+    HoverTip {
         objectName: "tip"
-        readonly property bool wanted: pointer.hovered && label.truncated
-
-        onWantedChanged: {
-            if (tip.wanted)
-                tip.setSource("PlainToolTip.qml", { words: control.shownText, visible: true });
-            else
-                tip.source = "";
-        }
+        words: label.truncated ? control.shownText : ""
     }
-
     FocusRing {
         shown: edit.activeFocus
         controlRadius: 2

@@ -4,7 +4,7 @@ import Loadwick
 // Shows where the keyboard is: a line of 2 px in the accent, 2 px outside the control's own edge.
 Rectangle {
     required property bool shown
-    // Of the control it surrounds.
+    // The radius of the control it surrounds.
     property real controlRadius: AppTheme.controlRadius
 
     anchors.fill: parent

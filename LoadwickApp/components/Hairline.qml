@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Parts two things by one line, across the width it is given.
+// A line between two things, as wide as it is made.
 Rectangle {
     implicitHeight: AppTheme.hairline
     implicitWidth: AppTheme.hairline

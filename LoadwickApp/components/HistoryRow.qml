@@ -2,19 +2,19 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// One line of a list of scans or repositories: its rank, what it is, its figure, and beside that
-// whatever it is given as a child. Words that are too long are cut short, figures never are.
+// One line of a list of scans or repositories: its rank, what it is, its figure, and whatever it has
+// as a child. Words that are too long are cut short, figures never are.
 Item {
     id: row
 
-    // From 1; 0 for a list without ranks.
+    // From 1; 0 in a list without ranks.
     property int rank: 0
     required property string title
     required property string detail
     required property string value
     property color valueTint: AppTheme.text
     property string valueCaption: ""
-    // What tells two rows of one title apart, where something does.
+    // Tells rows of one title apart; empty where nothing does.
     property string place: ""
     // The least room kept for the child, so that the figures of all rows end on one line.
     property real accessoryWidth: 0
@@ -25,7 +25,7 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: row.title
     Accessible.description: row.place
-    // One that waits to be used again is not there.
+    // Hidden while pooled.
     ListView.onPooled: row.visible = false
     ListView.onReused: row.visible = true
 
@@ -44,19 +44,69 @@ Item {
             horizontalAlignment: Text.AlignRight
             visible: row.rank > 0
         }
-        RowWords {
+        // Each on one line; the tool tip holds what had to be left out, and the path.
+        Item {
+            id: words
+
+            readonly property bool cutShort: heading.truncated || note.truncated
+            readonly property string both: row.title + "\n" + row.detail
+            readonly property string whole: !words.cutShort ? row.place
+                : row.place.length > 0 ? words.both + "\n" + row.place : words.both
+
             objectName: "words"
             Layout.fillWidth: true
-            title: row.title
-            detail: row.detail
-            place: row.place
+            implicitWidth: Math.max(heading.implicitWidth, note.implicitWidth)
+            implicitHeight: heading.implicitHeight + note.implicitHeight
+
+            PlainLabel {
+                id: heading
+
+                objectName: "title"
+                anchors { left: parent.left; right: parent.right; bottom: note.top }
+                text: row.title
+                font: AppTheme.subheadlineStrongFont
+                elide: Text.ElideRight
+                maximumLineCount: 1
+            }
+            PlainLabel {
+                id: note
+
+                objectName: "detail"
+                anchors { left: parent.left; right: parent.right }
+                y: 0.5 * (words.height - words.implicitHeight) + heading.implicitHeight
+                text: row.detail
+                font: AppTheme.captionFont
+                secondary: true
+                elide: Text.ElideRight
+                maximumLineCount: 1
+            }
+            HoverTip { words: words.whole }
         }
-        RowFigure {
+        Item {
             objectName: "figure"
             Layout.fillWidth: false
-            value: row.value
-            tint: row.valueTint
-            caption: row.valueCaption
+            implicitWidth: Math.max(number.implicitWidth, caption.visible ? caption.implicitWidth : 0)
+            implicitHeight: number.implicitHeight + (caption.visible ? caption.implicitHeight : 0)
+
+            PlainLabel {
+                id: number
+
+                objectName: "value"
+                anchors.right: parent.right
+                text: row.value
+                font: AppTheme.subheadlineStrongFont
+                color: row.valueTint
+            }
+            PlainLabel {
+                id: caption
+
+                objectName: "caption"
+                anchors { right: parent.right; top: number.bottom }
+                text: row.valueCaption
+                font: AppTheme.captionFont
+                secondary: true
+                visible: row.valueCaption.length > 0
+            }
         }
         RowLayout {
             id: slot

@@ -1,22 +1,23 @@
 import QtQuick
 import Loadwick
 
-// Says more about the item it is in while the pointer is on that. The tool tip itself is made only
-// then, so that a long list of items costs next to nothing.
+// Says more about the item it is in. The tool tip itself exists only while it is shown, so that a
+// long list of items costs next to nothing.
 HoverHandler {
     id: tip
 
     // Nothing is said while these are empty.
     required property string words
-    // What they are about: where many items are in one that answers the pointer for all.
+    // Where the tool tip hangs, if many items are in one that answers the pointer for all.
     property Item about: tip.parent
-    readonly property bool wanted: tip.hovered && tip.words.length > 0
+    property bool wanted: tip.hovered
+    readonly property bool isDue: tip.wanted && tip.words.length > 0
     property PlainToolTip shown: null
 
     function showOrHide() {
         if (tip.shown)
             tip.shown.destroy();
-        tip.shown = tip.wanted ? tip.make() : null;
+        tip.shown = tip.isDue ? tip.make() : null;
     }
 
     function make() {
@@ -24,7 +25,7 @@ HoverHandler {
         return maker.createObject(tip.parent, { parent: tip.about, words: tip.words, visible: true }) as PlainToolTip;
     }
 
-    onWantedChanged: tip.showOrHide()
+    onIsDueChanged: tip.showOrHide()
     onWordsChanged: tip.showOrHide()
     onAboutChanged: tip.showOrHide()
 }

@@ -1,15 +1,15 @@
 import QtQuick
 import Loadwick
 
-// Rows of one height inside a scrolling page, as many as there are: only those exist that the page
-// shows, except in a short list, which a screen reader is to find whole. The delegate is `rowHeight`
-// high, names itself for assistive technology, and hides itself while it waits to be used again.
+// Any number of rows of one height inside a scrolling page. Only those exist that the page shows,
+// except in a short list, which a screen reader finds whole. The delegate is `rowHeight` high, names
+// itself for assistive technology, and hides itself while pooled.
 FocusScope {
     id: list
 
     property alias model: rows.model
     property alias delegate: rows.delegate
-    // Whether it has all rows that a page can show before any of them is seen.
+    // Whether all rows that a page can show exist before any of them is seen.
     property alias isFilled: rows.isFilled
     readonly property alias count: rows.count
     required property real rowHeight
@@ -17,9 +17,9 @@ FocusScope {
     required property Flickable viewport
     // The row that the keys have reached or that was pressed, -1 before that.
     property int currentIndex: -1
-    // A row that something beside the list speaks of, -1 for none.
+    // The row that something beside the list refers to, -1 for none.
     property int markedIndex: -1
-    // A list of no more rows than this is there as a whole.
+    // A list of at most so many rows exists as a whole.
     property int shortCount: 60
 
     signal copyRequested(int index)
@@ -32,13 +32,13 @@ FocusScope {
         return top;
     }
 
-    // Before its rows are those of something else: nobody is to be left on one of them.
+    // Call it before the rows become those of something else: the keyboard leaves them.
     function begin() {
         rows.takeFocusBack();
         list.currentIndex = -1;
     }
 
-    // The row at a height in the list, null where there is none or it is out of sight.
+    // The row at that height in the list, null if none is there or it is out of sight.
     function rowUnder(y) {
         return rows.itemAt(0.5 * rows.width, y);
     }
@@ -71,7 +71,7 @@ FocusScope {
         return row && row !== list.Window.activeFocusItem ? rows.indexAt(0, row.y) : -1;
     }
 
-    // NaN for a key that moves nothing, as at the end of the list: the page may have a use for it.
+    // NaN for a key that moves nothing, as at the end of the list; the page may use it.
     function indexAfterKey(key) {
         const index = Math.max(0, Math.min(rows.count - 1, list.indexBeyond(key)));
         return index === list.currentIndex ? NaN : index;

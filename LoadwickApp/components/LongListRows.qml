@@ -1,9 +1,9 @@
 import QtQuick
 
 // The rows of a LongList that exist: as many as the page has ever shown of it at once, or all of a
-// short list. A row that has left the page comes again as another one, which costs a fraction of a new
-// one; so the view must keep its size and its place while the page scrolls, since Qt lets go of all
-// rows in waiting when either changes.
+// short list. A row that has left the page is pooled and reused, which costs a fraction of a new one;
+// so the view must keep its size and position while the page scrolls, since Qt drops all pooled rows
+// when either changes.
 ListView {
     id: rows
 
@@ -13,7 +13,7 @@ ListView {
     required property real pageTop
     required property int shortCount
     readonly property bool isShort: rows.count <= rows.shortCount
-    // Whether it has all rows that a page can show before any of them is seen.
+    // Whether all rows that a page can show exist before any of them is seen.
     property bool isFilled: false
     // None while rows have no height yet.
     readonly property int pageRows: rows.rowHeight > 0 ? Math.ceil(rows.page.height / rows.rowHeight) + 1 : 0
@@ -40,11 +40,11 @@ ListView {
         return item;
     }
 
-    // From a row that leaves: it comes again as another one.
+    // A row that leaves is reused as another one.
     function takeFocusFromLeaving() {
         const row = rows.activeFocus ? rows.focusedRow() : null;
-        const place = row ? Math.round(row.y / rows.rowHeight) : -1;
-        if (row && (place < rows.firstRow || place >= rows.firstRow + rows.shownRows))
+        const index = row ? Math.round(row.y / rows.rowHeight) : -1;
+        if (row && (index < rows.firstRow || index >= rows.firstRow + rows.shownRows))
             rows.takeFocusBack();
     }
 

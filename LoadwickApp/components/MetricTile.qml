@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// One figure, what it is of, and what to hold it against.
+// One figure, what it measures, and what to compare it with.
 ColumnLayout {
     id: tile
 

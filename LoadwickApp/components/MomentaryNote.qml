@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Says for a moment that something was done, then gives way.
+// Says for a moment that something was done, then disappears.
 Row {
     id: note
 

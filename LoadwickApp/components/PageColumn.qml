@@ -8,10 +8,10 @@ PageAppear {
     id: page
 
     default property alias cards: column.data
-    // What scrolls, for lists that show no more of themselves than it does.
+    // What scrolls; long lists make only the rows that it shows.
     readonly property Flickable viewport: scroller.contentItem as Flickable
-    // Until its first frame a page may have no width, or one pixel of it. Laid out in that, every word
-    // would be a line of its own, and nested layouts do not settle on it.
+    // Until its first frame a page may be 0 or 1 pixels wide. At that width every word would be a line
+    // of its own, and nested layouts do not settle on it.
     readonly property real room: scroller.availableWidth < AppTheme.detailMinimumWidth
         ? AppTheme.contentWidth : scroller.availableWidth
 

@@ -1,15 +1,16 @@
 import QtQuick
 import Loadwick
 
-// Moves a scrolling page for the keyboard: by the keys that scroll, and to what has got the focus.
+// Scrolls a page for the keyboard: by the keys that scroll, and to the item that got the focus.
 Item {
     id: scroll
 
     required property Flickable viewport
     readonly property real farthest: Math.max(0, scroll.viewport.contentHeight - scroll.viewport.height)
-    // What was at the edge stays in sight.
+    // Less than a page, so that what was at the edge stays in sight.
     readonly property real pageStep: scroll.viewport.height - AppTheme.wideSpace
-    // Whose head has the keyboard, and whether it was opened since the page last changed its height.
+    // The section whose head has the keyboard, and whether it was opened since the page last changed
+    // its height.
     property CollapsibleSection section: null
     property bool isOpening: false
 
@@ -17,7 +18,7 @@ Item {
         scroll.viewport.contentY = Math.max(0, Math.min(scroll.farthest, y));
     }
 
-    // Gives whether it is a key that scrolls.
+    // Returns whether the key scrolls.
     function press(key) {
         const here = scroll.viewport.contentY;
         switch (key) {
@@ -38,7 +39,7 @@ Item {
         return holder === scroll.viewport.contentItem;
     }
 
-    // What is higher than the page can show stays where it is.
+    // An item that is higher than the page stays where it is.
     function reveal(item) {
         const box = item.mapToItem(scroll.viewport.contentItem, 0, 0, item.width, item.height);
         const start = box.y - AppTheme.cardSpace;
@@ -51,7 +52,7 @@ Item {
             scroll.moveTo(end - scroll.viewport.height);
     }
 
-    // Under a pressed pointer nothing moves: it would be released over something else.
+    // Under a pressed pointer nothing moves, or the release would hit something else.
     function revealFocus() {
         const item = scroll.Window.activeFocusItem;
         if (item && !pointer.active && scroll.holds(item))
@@ -64,7 +65,7 @@ Item {
         scroll.isOpening = false;
     }
 
-    // What was just opened comes into sight with its head.
+    // A section that was just opened comes into sight with its head.
     function revealOpened() {
         if (scroll.isOpening && scroll.section && !pointer.active)
             scroll.reveal(scroll.section);
@@ -87,7 +88,7 @@ Item {
         function onContentHeightChanged() { scroll.revealOpened(); }
     }
 
-    // The pointer below hears of its press only after what it has pressed.
+    // The pointer handler below hears of a press only after the item that was pressed.
     Timer {
         id: afterwards
 

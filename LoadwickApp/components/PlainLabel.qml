@@ -2,9 +2,8 @@ import QtQuick
 import QtQuick.Templates as Templates
 import Loadwick
 
-// The one label of the window. Whatever it is given is shown letter by letter, never as markup. Of
-// the template, not of a style: a style's label makes a palette of its own, which costs more than the
-// label.
+// The one label of the window. It shows its text letter by letter, never as markup. It derives from the
+// template, since a style's label makes a palette of its own, which costs more than the label.
 Templates.Label {
     property bool secondary: false
 
@@ -12,7 +11,7 @@ Templates.Label {
     font: AppTheme.bodyFont
     color: secondary ? AppTheme.secondaryText : AppTheme.text
     linkColor: color
-    // Where lines begin is the window's question, not that of the words in them.
+    // The window decides where lines begin, not the script of the words.
     horizontalAlignment: Text.AlignLeft
     lineHeight: 1.0
 }

@@ -23,11 +23,37 @@ MenuItem {
     Accessible.checkable: item.marked
     Accessible.checked: item.marked
 
-    contentItem: MenuLines {
-        title: item.title
-        detail: item.detail
-        marked: item.marked
-        usable: item.enabled
+    contentItem: Item {
+        Column {
+            anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
+            anchors.rightMargin: item.marked ? AppTheme.iconSize + AppTheme.smallSpace : 0
+
+            PlainLabel {
+                width: parent.width
+                text: item.title
+                opacity: item.enabled ? 1 : AppTheme.disabledOpacity
+                elide: Text.ElideMiddle
+                maximumLineCount: 1
+                Accessible.ignored: true
+            }
+            PlainLabel {
+                width: parent.width
+                text: item.detail
+                font: AppTheme.captionFont
+                secondary: true
+                elide: Text.ElideMiddle
+                maximumLineCount: 1
+                visible: item.detail.length > 0
+                Accessible.ignored: true
+            }
+        }
+        Symbol {
+            objectName: "mark"
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            name: "checkmark.circle.fill"
+            tint: AppTheme.accent
+            visible: item.marked
+        }
     }
     background: Rectangle {
         radius: AppTheme.tightSpace

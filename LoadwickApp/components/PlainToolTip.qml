@@ -9,7 +9,7 @@ ToolTip {
     required property string words
 
     delay: 600
-    // What has the keyboard keeps it, and a tool tip would lie over the page as long.
+    // Without it, the tool tip of the focused item would cover the page for good.
     timeout: 10000
     padding: AppTheme.smallSpace
     contentItem: PlainLabel {

@@ -16,9 +16,9 @@ AbstractButton {
     property bool prominent: false
     // Filled with red while it can be pressed: what it does cannot be undone.
     property bool destructive: false
-    // Edged with a line at rest, for a button that stands alone on a card.
+    // Edged with a line at rest, for a button that is alone on a card.
     property bool outlined: false
-    // Of a button whose title changes: it keeps its width, and what is beside it its place.
+    // For a button whose title changes: it keeps its width, and its neighbours stay where they are.
     property real leastTextWidth: 0
     readonly property bool filled: (prominent || destructive) && enabled
     readonly property color wordColor: filled ? AppTheme.accentText : AppTheme.text
@@ -61,11 +61,6 @@ AbstractButton {
         }
     }
 
-    HoverHandler {
-        enabled: control.enabled
-        cursorShape: Qt.PointingHandCursor
-    }
-
     Shortcut {
         sequence: control.shortcut
         autoRepeat: false
@@ -75,7 +70,9 @@ AbstractButton {
 
     FocusRing { shown: control.visualFocus }
 
-    LateToolTip {
+    HoverTip {
+        enabled: control.enabled
+        cursorShape: Qt.PointingHandCursor
         words: control.toolTip + (control.toolTip && control.shortcut ? "\n" : "") + control.shortcut
         wanted: control.hovered || control.visualFocus
     }

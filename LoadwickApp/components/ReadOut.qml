@@ -1,27 +1,27 @@
 import QtQuick
 import Loadwick
 
-// What is said of the mark that a chart points at, in a place of its own beside the chart, where it
-// covers nothing; a hint stands there while there is no such mark. It is as high as its longest
-// words could be, so that nothing moves.
+// Describes the chart's current mark, beside the chart, where it covers nothing; while there is no such
+// mark it shows a hint. It is as high as its longest text could be, so that nothing moves.
 Item {
     id: readOut
 
     required property string hint
-    // Empty while no mark is pointed at.
+    // Empty while there is no current mark.
     required property string title
     required property string detail
-    // Of a path that takes too many lines the middle is left out, not the end.
+    // A path that takes too many lines is shown on one, without its middle.
     property bool isPath: false
     property int titleLines: 3
     property int detailLines: 1
-    // Beside something high it stands at the top, else in the middle.
+    // At the top, for a neighbour that is high; else in the middle.
     property bool atTop: false
     // The colour of the mark in the chart.
     property color swatch: "transparent"
     readonly property bool isEmpty: readOut.title.length === 0
+    readonly property bool isCut: readOut.isPath && heading.truncated
     readonly property bool hasSwatch: readOut.swatch.a > 0
-    // Of the words beside the swatch, and the width that is left to them.
+    // The indent of the words beside the swatch, and the width that is left to them.
     readonly property real indent: hasSwatch ? AppTheme.dotSize + AppTheme.smallSpace : 0
     readonly property real room: Math.max(0, width - indent - 2 * AppTheme.mediumSpace)
     // A label rounds both parts of a line up.
@@ -74,11 +74,25 @@ Item {
             y: AppTheme.smallSpace
             spacing: 2
 
-            ReadOutTitle {
-                width: Math.min(implicitWidth, readOut.room)
+            PlainLabel {
+                id: heading
+
+                objectName: "title"
+                width: Math.min(Math.ceil(implicitWidth), readOut.room)
                 text: readOut.title
-                isPath: readOut.isPath
-                mostLines: readOut.titleLines
+                font: readOut.isPath ? AppTheme.bodyFont : AppTheme.bodyStrongFont
+                wrapMode: readOut.isPath ? Text.WrapAnywhere : Text.Wrap
+                elide: readOut.isPath ? Text.ElideNone : Text.ElideRight
+                maximumLineCount: readOut.titleLines
+                visible: !readOut.isCut
+            }
+            PlainLabel {
+                objectName: "shortPath"
+                width: heading.width
+                text: readOut.isPath ? readOut.title : ""
+                elide: Text.ElideMiddle
+                maximumLineCount: 1
+                visible: readOut.isCut
             }
             PlainLabel {
                 objectName: "detail"

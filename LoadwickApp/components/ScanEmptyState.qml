@@ -2,12 +2,12 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Nothing has been measured yet, and what to do about it.
+// Says that nothing has been measured yet, and what to do about it.
 StatePlaceholder {
     id: placeholder
 
     required property string detail
-    // What is worth knowing before the first step; set apart, so that it does not read as a step.
+    // Worth knowing before the first step; set apart, so that it does not read as a step.
     property string note: ""
 
     symbol: "magnifyingglass"

@@ -3,9 +3,9 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
-// A scan has failed, and what is known about it. It has no words of its own. The detail can be
-// selected, and scrolls where it is longer than the page is high. One of several lines, which may be
-// a list, is not centred.
+// Says that a scan has failed and what is known about it, in no words of its own. The detail can be
+// selected, and scrolls where it is longer than the page is high. A detail of several lines may be a
+// list, so it is not centred.
 StatePlaceholder {
     id: placeholder
 

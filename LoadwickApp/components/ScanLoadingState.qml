@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// A scan is on its way.
+// Says that a scan is running.
 StatePlaceholder {
     id: placeholder
 

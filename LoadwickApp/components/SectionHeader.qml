@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Names a section and, where there is more to say, says it in one quieter line.
+// The title of a section and, where there is more to say, a quieter line below it.
 ColumnLayout {
     id: header
 

@@ -1,9 +1,9 @@
 import QtQuick
 import Loadwick
 
-// Plain text that can be read, selected and copied, but not changed. The tabulator reaches it, so
-// that it can be copied without a mouse. There are many such texts, and what selects costs ten times
-// what shows: it is made when the pointer or the keyboard comes.
+// Plain text that can be read, selected and copied, but not changed. It is a tab stop, so that it can
+// be copied without a mouse. There are many such texts, and the part that selects costs ten times the
+// part that shows: it is made when the pointer or the keyboard comes.
 Item {
     id: control
 
@@ -12,23 +12,23 @@ Item {
     property font font: AppTheme.bodyFont
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
     property int horizontalAlignment: Text.AlignLeft
-    // 0: as many as it takes. What lies beyond the last line stays part of the text to be copied.
+    // 0: no limit. Text beyond the last line is still copied.
     property int maximumLineCount: 0
-    // Else the keyboard comes by the arrows, from a text that is one: see KeyNavigation.
+    // False where the arrow keys lead here from a text that is a tab stop: see KeyNavigation.
     property bool tabStop: true
     readonly property real lineSpacing: words.contentHeight / Math.max(1, words.lineCount)
     readonly property bool truncated: words.truncated
-    // While it is read with the keyboard or selected, the text itself shows and not its short form.
+    // While the text is focused or selected, all of it shows instead of its short form.
     readonly property bool isRead: reader !== null && reader.isRead
-    // The text as it would stand with its words, or the folders of a path, left whole: where that
-    // is in question.
-    property SilentText whole: null
+    // The text laid out with its words, or the folders of a path, left whole; made only if the number
+    // of lines is limited.
+    property Text whole: null
     readonly property bool fits: whole !== null ? whole.lineCount <= maximumLineCount : maximumLineCount !== 1
     property TextReader reader: null
 
     function equip() {
         if (!control.reader)
-            control.reader = control.make("TextReader.qml", {
+            control.reader = Qt.createComponent("TextReader.qml").createObject(control, {
                 text: Qt.binding(() => control.text),
                 font: Qt.binding(() => control.font),
                 color: Qt.binding(() => control.color),
@@ -39,8 +39,11 @@ Item {
             }) as TextReader;
     }
 
-    function make(part, properties) {
-        return Qt.createComponent(part).createObject(control, properties);
+    // Looks like a PlainLabel; the control itself is named for assistive technology.
+    component Words: Text {
+        textFormat: Text.PlainText
+        horizontalAlignment: Text.AlignLeft
+        linkColor: color
     }
 
     implicitWidth: words.implicitWidth
@@ -55,13 +58,11 @@ Item {
 
     Component.onCompleted: {
         if (control.maximumLineCount > 1)
-            control.whole = control.make("SilentText.qml", {
+            control.whole = wholeMaker.createObject(control, {
                 text: Qt.binding(() => control.text),
                 font: Qt.binding(() => control.font),
-                width: Qt.binding(() => control.width),
-                wrapMode: Text.Wrap,
-                visible: false
-            }) as SilentText;
+                width: Qt.binding(() => control.width)
+            }) as Text;
     }
     onActiveFocusChanged: {
         if (control.activeFocus) {
@@ -70,7 +71,16 @@ Item {
         }
     }
 
-    SilentText {
+    Component {
+        id: wholeMaker
+
+        Words {
+            wrapMode: Text.Wrap
+            visible: false
+        }
+    }
+
+    Words {
         id: words
 
         objectName: "shown"

@@ -8,8 +8,8 @@
 namespace Loadwick {
 
 /// Lets the window's shortcuts through an item that has the focus. A read-only text edit of Qt 6.4
-/// claims every key for itself, also those of which it makes nothing: with the focus in it no
-/// shortcut works. What it does with keys that are no shortcuts stays as it is.
+/// claims every key, even those that it ignores: with the focus in it no shortcut works. Keys that
+/// are no shortcuts still reach the item.
 class ShortcutPass : public QObject
 {
     Q_OBJECT

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Its children side by side where all of them fit, else one below the other. What a child needs is
-// its minimum width where it names one (text that wraps does), else its preferred, else its own.
+// Its children side by side where all of them fit, else one below the other. A child needs its minimum
+// width if it has one (text that wraps does), else its preferred width, else its implicit width.
 GridLayout {
     id: layout
 
@@ -25,10 +25,10 @@ GridLayout {
             sum += need + layout.columnSpacing;
         return sum - layout.columnSpacing;
     }
-    // Before its width is known it takes the common case: each change of mind lays the page out anew.
+    // Before its width is known it assumes the common case: every change lays the page out again.
     readonly property bool stacked: layout.width > 0 && layout.width < layout.neededWidth
 
-    // A layout that is being laid out takes no note of other columns, so they come right after.
+    // A layout ignores new columns while it is being laid out, so they are set right after.
     function arrange() {
         layout.columns = layout.stacked ? 1 : Math.max(1, layout.needs.length);
     }
@@ -43,7 +43,7 @@ GridLayout {
         onTriggered: layout.arrange()
     }
 
-    // Not the width of its columns: then it would be made too wide rather than stacked.
+    // Not the width of its columns, or it would be made too wide instead of stacked.
     Layout.minimumWidth: 0
     columns: 2
     columnSpacing: AppTheme.wideSpace

@@ -1,8 +1,7 @@
 import QtQuick
 import Loadwick
 
-// A symbol that can turn, once a second, to show that time passes; it stands still where motion is
-// unwanted.
+// A symbol that can turn, once a second, to show that time passes; still under reduced motion.
 Symbol {
     id: icon
 

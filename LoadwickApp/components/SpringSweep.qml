@@ -1,8 +1,8 @@
 import QtQuick
 import Loadwick
 
-// Moves a value from nothing to its end, when it is first seen and whenever it is asked to begin
-// again. Where motion is unwanted, the value is at its end at once.
+// Moves a value from 0 to its end, when it is first seen and whenever `begin` is called. Under reduced
+// motion the value is at its end at once.
 Item {
     id: sweep
 

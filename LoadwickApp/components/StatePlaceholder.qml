@@ -2,10 +2,10 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What stands in place of a page's content: a mark, a title, and below them what the state has to
-// say. The group stands a little above the middle, where the eye expects the middle.
+// Replaces a page's content: a mark, a title, and below them what the state has to say. The group is a
+// little above the middle, where the eye expects the middle.
 Item {
-    id: place
+    id: placeholder
 
     required property string symbol
     required property color tint
@@ -22,20 +22,20 @@ Item {
         id: column
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: Math.round(Math.max(AppTheme.pageMargin, place.height * 0.45 - height / 2))
-        width: Math.min(AppTheme.stateWidth, place.width - 2 * AppTheme.pageMargin)
+        y: Math.round(Math.max(AppTheme.pageMargin, placeholder.height * 0.45 - height / 2))
+        width: Math.min(AppTheme.stateWidth, placeholder.width - 2 * AppTheme.pageMargin)
         spacing: AppTheme.smallSpace
 
         StateIcon {
             Layout.alignment: Qt.AlignHCenter
             Layout.bottomMargin: AppTheme.smallSpace
-            symbol: place.symbol
-            tint: place.tint
-            turning: place.turning
+            symbol: placeholder.symbol
+            tint: placeholder.tint
+            turning: placeholder.turning
         }
         PlainLabel {
             Layout.fillWidth: true
-            text: place.title
+            text: placeholder.title
             font: AppTheme.headlineFont
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap

@@ -1,14 +1,16 @@
 import QtQuick
 import Loadwick
 
-// A word with a symbol in one colour, on a capsule thinly filled with it.
+// A few words in one colour, with a symbol where they have one, on a capsule thinly filled with it.
 Rectangle {
     id: pill
 
     required property string title
+    // None when empty.
     required property string symbol
-    // A text colour of the theme: the word has to be read.
+    // A text colour of the theme: the words have to be readable.
     required property color tint
+    property font font: AppTheme.subheadlineStrongFont
     // Whether the symbol turns, to show that something goes on.
     property bool turning: false
 
@@ -19,21 +21,25 @@ Rectangle {
 
     Row {
         id: line
+
         anchors.centerIn: parent
         spacing: AppTheme.tightSpace + 1
 
         SpinnerIcon {
+            objectName: "symbol"
             anchors.verticalCenter: parent.verticalCenter
             width: 14
             height: 14
             name: pill.symbol
             tint: pill.tint
             turning: pill.turning
+            visible: pill.symbol.length > 0
         }
         PlainLabel {
+            objectName: "label"
             anchors.verticalCenter: parent.verticalCenter
             text: pill.title
-            font: AppTheme.subheadlineStrongFont
+            font: pill.font
             color: pill.tint
         }
     }

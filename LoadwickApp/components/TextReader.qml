@@ -1,8 +1,8 @@
 import QtQuick
 import Loadwick
 
-// Lets a text be selected and copied where it stands. It is seen while it is read: while it has the
-// keyboard or its menu is open.
+// Lets a text be selected and copied in place. It is visible while it has the keyboard or its menu is
+// open.
 Item {
     id: reader
 
@@ -11,21 +11,19 @@ Item {
     required property color color
     required property int horizontalAlignment
     required property int wrapMode
-    // Only its first lines have a place.
+    // Only its first lines fit.
     required property bool isCut
     required property bool tabStop
     readonly property TextEdit edit: words
     readonly property bool isRead: words.activeFocus || reader.isMenuOpen
-    // Not bound to the loader's item: Qt 6.4 turns that binding into C++ that does not compile.
-    property TextMenu menu: null
-    // From before the text loses the keyboard to it.
+    // Made when it is first opened.
+    property PlainMenu menu: null
+    // Set before the text loses the keyboard to the menu.
     property bool isMenuOpen: false
 
     function openMenu(x, y) {
-        if (!reader.menu) {
-            loader.setSource("TextMenu.qml", { edit: words });
-            reader.menu = loader.item as TextMenu;
-        }
+        if (!reader.menu)
+            reader.menu = maker.createObject(reader, { edit: words }) as PlainMenu;
         reader.isMenuOpen = true;
         words.forceActiveFocus(Qt.PopupFocusReason);
         reader.menu.popup(words, x, y);
@@ -44,13 +42,13 @@ Item {
         readOnly: true
         selectByMouse: true
         persistentSelection: true
-        // From what is no stop, Qt would go back to the first one of all.
+        // From an item that is no tab stop, Qt would go back to the first stop of the window.
         activeFocusOnTab: reader.tabStop || words.activeFocus
         wrapMode: reader.wrapMode
         horizontalAlignment: reader.horizontalAlignment
         font: reader.font
         color: reader.color
-        // Not hidden, which would keep the pointer and the focus away.
+        // Hidden, it could take neither the pointer nor the focus.
         opacity: reader.isRead ? 1 : 0
         selectionColor: AppTheme.accent
         selectedTextColor: AppTheme.accentText
@@ -70,7 +68,28 @@ Item {
     }
 
     ShortcutPass { item: words }
-    Loader { id: loader }
+    Component {
+        id: maker
+
+        PlainMenu {
+            id: textMenu
+
+            required property TextEdit edit
+
+            implicitWidth: 160
+
+            PlainMenuItem {
+                title: qsTr("Copy")
+                detail: ""
+                onTriggered: {
+                    // Without a selection the whole text is meant.
+                    if (textMenu.edit.selectedText.length === 0)
+                        textMenu.edit.selectAll();
+                    textMenu.edit.copy();
+                }
+            }
+        }
+    }
     Connections {
         target: reader.menu
         function onClosed() { reader.isMenuOpen = false; }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// A scroll bar that is there whenever there is more to see, and no louder than that.
+// A quiet scroll bar, shown whenever there is more to see.
 ScrollBar {
     id: bar
 

@@ -5,10 +5,28 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
-#include "components/TrendKind.h"
 #include "history/ScanHistory.h"
 #include "text/TextLocale.h"
+
+/// What a trend pill says of a repository's total. A namespace of its own, so that QML can name
+/// the values.
+namespace Loadwick::TrendKind {
+
+Q_NAMESPACE
+QML_ELEMENT
+
+enum Value
+{
+    FirstScan, ///< there is nothing to compare with
+    Grew,
+    Shrank,
+    Unchanged
+};
+Q_ENUM_NS(Value)
+
+} // namespace Loadwick::TrendKind
 
 namespace Loadwick {
 

@@ -28,9 +28,11 @@ ReportSurface {
                 title: qsTr("Context headroom")
                 detail: card.band.scoreDetail
             }
-            TintPill {
-                label: qsTr("Illustrative score — not a measurement")
+            StatusPill {
+                title: qsTr("Illustrative score — not a measurement")
+                symbol: ""
                 tint: AppTheme.bandTexts[card.band.band]
+                font: AppTheme.captionStrongFont
             }
             PlainLabel {
                 Layout.fillWidth: true

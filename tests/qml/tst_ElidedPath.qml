@@ -15,7 +15,7 @@ Item {
     ElidedPath { id: last; y: 120; width: 200; text: "/last" }
 
     ElidedPath { id: hebrew; y: 160; width: 400; text: "/\u05D0\u05D1/\u05D2\u05D3/app" }
-    // Shows where each letter of a text stands.
+    // Measures the position of each letter of a text.
     TextInput { id: ruler; y: 200; width: 400 }
 
     TestCase {
@@ -47,16 +47,16 @@ Item {
             compare(edit(brief).displayText, "/srv/<b>app</b>/CLAUDE.md");
         }
 
-        function placeOf(words) {
+        function positionOf(words) {
             return ruler.positionToRectangle(ruler.text.indexOf(words)).x;
         }
 
         function test_foldersStandFromLeftToRightInEveryScript() {
             ruler.text = hebrew.text;
-            verify(placeOf("\u05D0") > placeOf("\u05D2")); // as it would be by itself
+            verify(positionOf("\u05D0") > positionOf("\u05D2")); // as it would be by itself
             ruler.text = label(hebrew).text;
-            verify(placeOf("\u05D0") < placeOf("\u05D2"));
-            verify(placeOf("\u05D2") < placeOf("app"));
+            verify(positionOf("\u05D0") < positionOf("\u05D2"));
+            verify(positionOf("\u05D2") < positionOf("app"));
             compare(edit(hebrew).text, hebrew.text); // what is copied is the path and nothing else
         }
 
@@ -120,7 +120,7 @@ Item {
         }
 
         function tip(path) {
-            return findChild(path, "tip").item;
+            return findChild(path, "tip").shown;
         }
 
         function test_theToolTipHoldsTheWholePath() {

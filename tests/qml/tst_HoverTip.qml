@@ -27,6 +27,16 @@ Item {
         HoverTip { id: forAll; words: "Of one"; about: forAll.point.position.x < 50 ? one : other }
     }
 
+    Item {
+        x: 120; width: 100; height: 40
+        HoverTip { id: asked; words: "asked"; wanted: false }
+    }
+
+    Component {
+        id: plain
+        PlainToolTip { }
+    }
+
     TestCase {
         name: "HoverTip"
         when: windowShown
@@ -52,7 +62,7 @@ Item {
             compare(toolTipOf(tip).contentItem.textFormat, Text.PlainText);
         }
 
-        function test_itStandsAtTheItemItIsAbout() {
+        function test_hangsAtTheItemThatItIsAbout() {
             mouseMove(crowd, 20, 20);
             tryVerify(function () { return toolTipOf(forAll) !== null && toolTipOf(forAll).parent === one; });
             mouseMove(crowd, 70, 20);
@@ -73,6 +83,34 @@ Item {
             tip.words = "";
             compare(toolTipOf(tip), null);
             tip.words = "<b>/srv/one</b>";
+        }
+
+        function test_itsConditionCanBeAnother() {
+            compare(toolTipOf(asked), null);
+            asked.wanted = true;
+            compare(toolTipOf(asked).words, "asked");
+            asked.wanted = false;
+            compare(toolTipOf(asked), null);
+        }
+
+        function test_showsMarkupLetterByLetter() {
+            const tip = createTemporaryObject(plain, scene, { words: "<img src=x>" });
+            compare(tip.text, "");
+            compare(tip.contentItem.textFormat, Text.PlainText);
+            compare(tip.contentItem.text, "<img src=x>");
+        }
+
+        function test_goesByItselfWhereTheKeyboardStays() {
+            const tip = createTemporaryObject(plain, scene, { words: "a", delay: 0, timeout: 50 });
+            tip.visible = true;
+            tryCompare(tip, "opened", true);
+            tryCompare(tip, "visible", false);
+            compare(createTemporaryObject(plain, scene, { words: "a" }).timeout, 10000);
+        }
+
+        function test_isNeverWiderThanAComfortableLine() {
+            const tip = createTemporaryObject(plain, scene, { words: "word ".repeat(80) });
+            compare(tip.implicitWidth, 320);
         }
 
         function test_theToolTipGoesWithThePointer() {

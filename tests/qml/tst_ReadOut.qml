@@ -52,7 +52,7 @@ Item {
             verify(!findChild(readOut, "panel").visible);
         }
 
-        function test_showsWhatIsPointedAtInItsPlace() {
+        function test_showsTheCurrentMarkInsteadOfTheHint() {
             readOut.title = "Messages";
             readOut.detail = "812 tokens · 2.9%";
             verify(!findChild(readOut, "hint").visible);

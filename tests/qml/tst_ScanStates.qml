@@ -45,7 +45,7 @@ Item {
             compare(texts(empty), ["Start a context scan", "Choose.", "One session is used."]);
         }
 
-        function test_loadingSaysWhatGoesOn() {
+        function test_loadingSaysWhatHappens() {
             loading.visible = true;
             compare(texts(loading), ["Scanning repository",
                 "Running one real Claude Code session and measuring local instruction files."]);
@@ -64,7 +64,7 @@ Item {
             compare(failure.tint, AppTheme.bandExcessive);
         }
 
-        function test_theGroupStandsALittleAboveTheMiddle() {
+        function test_theGroupIsALittleAboveTheMiddle() {
             empty.visible = true;
             waitForRendering(empty);
             const group = empty.children[0];

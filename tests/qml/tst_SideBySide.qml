@@ -70,7 +70,7 @@ TestCase {
         verify(layout.stacked);
     }
 
-    function test_whatIsNotSeenNeedsNoRoom() {
+    function test_aHiddenChildNeedsNoRoom() {
         const layout = createTemporaryObject(pair, test, { width: 100 }) as SideBySide;
         layout.second.visible = false;
         verify(!layout.stacked);

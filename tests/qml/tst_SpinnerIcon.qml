@@ -39,7 +39,7 @@ Item {
             compare(icon.angle, 0);
         }
 
-        function test_standsStillWhereNobodySeesIt() {
+        function test_standsStillWhileHidden() {
             Appearance.motion = Appearance.Full;
             icon.turning = true;
             icon.visible = false;

@@ -5,12 +5,12 @@ import Loadwick
 Item {
     id: scene
 
-    property real place: 0
+    property real position: 0
 
     NumberAnimation {
         id: animation
         target: scene
-        property: "place"
+        property: "position"
         to: 1
         duration: Springs.meterDuration
         easing: Springs.meter
@@ -20,12 +20,12 @@ Item {
         name: "Springs"
         when: windowShown
 
-        function test_moveAnythingToItsPlace() {
-            scene.place = 0;
+        function test_moveAPropertyToItsTarget() {
+            scene.position = 0;
             animation.start();
-            tryVerify(() => scene.place > 0 && scene.place < 1);
+            tryVerify(() => scene.position > 0 && scene.position < 1);
             tryCompare(animation, "running", false);
-            compare(scene.place, 1);
+            compare(scene.position, 1);
         }
     }
 }

@@ -3,7 +3,7 @@
 #include <QAbstractItemModelTester>
 #include <QTest>
 
-#include "components/TrendKind.h"
+#include "components/TrendMark.h"
 #include "history/ScanHistory.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/TestRegistry.h"

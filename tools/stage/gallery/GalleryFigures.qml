@@ -43,7 +43,7 @@ ColumnLayout {
                 Layout.fillWidth: true
                 text: "/home/somebody/projects/clients/of-the-north/loadwick-sample/with/a/folder/deep/inside/CLAUDE.md"
             }
-            TintPill { label: "Illustrative score — not a measurement"; tint: AppTheme.bandHeavyText }
+            StatusPill { title: "Illustrative score — not a measurement"; symbol: ""; tint: AppTheme.bandHeavyText; font: AppTheme.captionStrongFont }
         }
         ReportSurface {
             Layout.fillWidth: true
