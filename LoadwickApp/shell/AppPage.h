@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string_view>
 
 namespace Loadwick {
@@ -17,23 +16,37 @@ public:
         compare
     };
 
-    /// In the order in which the sidebar lists them.
+    /// In the order of the sidebar.
     static const std::array<AppPage, 3> all;
 
     constexpr AppPage(Value value) noexcept : m_value(value) {}
     constexpr operator Value() const noexcept { return m_value; }
 
     /// The case's name, as in identifiers.
-    [[nodiscard]] std::string_view rawValue() const noexcept;
-    [[nodiscard]] static std::optional<AppPage> fromRawValue(std::string_view text) noexcept;
-
-    [[nodiscard]] std::string_view title() const noexcept;
-
+    [[nodiscard]] constexpr std::string_view rawValue() const noexcept { return row().rawValue; }
+    [[nodiscard]] constexpr std::string_view title() const noexcept { return row().title; }
     /// The name of its picture.
-    [[nodiscard]] std::string_view symbol() const noexcept;
+    [[nodiscard]] constexpr std::string_view symbol() const noexcept { return row().symbol; }
 
 private:
+    struct Row
+    {
+        std::string_view rawValue;
+        std::string_view title;
+        std::string_view symbol;
+    };
+
+    static constexpr std::array<Row, 3> rows = {{
+        {"overview", "Overview", "square.grid.2x2"},
+        {"trends", "Trends", "chart.line.uptrend.xyaxis"},
+        {"compare", "Compare", "rectangle.split.2x1"},
+    }};
+
+    [[nodiscard]] constexpr const Row &row() const noexcept { return rows[m_value]; }
+
     Value m_value;
 };
+
+inline constexpr std::array<AppPage, 3> AppPage::all = {overview, trends, compare};
 
 } // namespace Loadwick

@@ -24,7 +24,7 @@ void apply(QGuiApplication &application)
     if (QLocale(QLocale().uiLanguages().value(0)).textDirection() == Qt::RightToLeft)
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     ApplicationStyle::applyFont(application);
-    // For the desktops that do not take it from the desktop entry.
+    // For desktops that do not take it from the desktop entry.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Loadwick/application.png")));
     AccessiblePress::install();
     ModalGround::install();

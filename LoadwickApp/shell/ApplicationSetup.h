@@ -2,13 +2,14 @@
 
 class QGuiApplication;
 
-/// What the program, its tests and the makers of pictures set up alike before they open the window.
+/// The set-up that the program, its tests and the makers of pictures share, before the window
+/// opens.
 namespace Loadwick::ApplicationSetup {
 
-/// To be called before the application object is made.
+/// Call it before the application object is made.
 void prepare();
 
-/// To be called before the window is made.
+/// Call it before the window is made.
 void apply(QGuiApplication &application);
 
 } // namespace Loadwick::ApplicationSetup

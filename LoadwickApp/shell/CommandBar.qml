@@ -45,7 +45,7 @@ Item {
         }
     }
 
-    // A second press where "Choose" was is not to start a scan.
+    // The buttons keep their positions: a second press on "Choose" must not start a scan.
     TextMetrics {
         id: longestScanTitle
 

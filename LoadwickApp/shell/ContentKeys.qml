@@ -1,24 +1,24 @@
 import QtQuick
 import Loadwick
 
-// The keys of the window that belong to no control: F6 goes to and fro between the sidebar and the
-// detail, Ctrl+W and Ctrl+Q close the window, which is all there is of the program.
+// The keys of the window that belong to no control: F6 switches between the sidebar and the detail,
+// Ctrl+W and Ctrl+Q close the window and thus the program.
 Item {
     id: keys
 
-    // Where the keyboard goes in the sidebar.
+    // What takes the keyboard in the sidebar.
     required property Item sidebar
-    // The right column with its toolbar, and the page in it that is shown.
+    // The right column with its toolbar, and the page that it shows.
     required property Item detail
     required property Item page
     // Where the keyboard last was in the detail.
     property Item lastStop: null
 
     function holds(holder, item) {
-        let place = item;
-        while (place && place !== holder)
-            place = place.parent;
-        return Boolean(holder) && place === holder;
+        let above = item;
+        while (above && above !== holder)
+            above = above.parent;
+        return Boolean(holder) && above === holder;
     }
 
     // Where the keyboard was in the page, else the page's first stop, else the toolbar's.
@@ -35,14 +35,14 @@ Item {
         stop.forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
-    // Gives the keyboard a place to begin, if nothing has it.
+    // Puts the keyboard where it begins, if nothing has it.
     function begin() {
         const item = keys.Window.activeFocusItem;
         if (!keys.holds(keys.sidebar, item) && !keys.holds(keys.detail, item))
             keys.detailStop().forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
-    // Keys that go to a page that is not shown would be lost.
+    // Keys would be lost on a page that is hidden.
     function leaveHiddenPage() {
         const item = keys.Window.activeFocusItem;
         if (item && !item.visible && keys.holds(keys.detail, item))
@@ -62,7 +62,7 @@ Item {
         sequences: ["F6", "Shift+F6"]
         onActivated: keys.switchSides()
     }
-    // Nothing modal keeps anyone in.
+    // They work while a modal sheet is open too.
     Shortcut {
         sequences: ["Ctrl+W", "Ctrl+Q"]
         context: Qt.ApplicationShortcut

@@ -14,7 +14,7 @@
 namespace Loadwick {
 
 /// What the frame of the window shows, and its two commands. Belongs to the interface thread; model
-/// and chooser outlive it, and the model changes no more once it is gone.
+/// and chooser outlive it, and the model must not change after it is gone.
 class ContentPresenter final : public QObject
 {
     Q_OBJECT
@@ -61,20 +61,20 @@ public:
     /// A scan can be started, and the selection has no result yet that it would compete with.
     [[nodiscard]] bool scanIsNextStep() const;
     [[nodiscard]] QString scanTitle() const;
-    /// Of all that it can be.
+    /// The longest value of scanTitle.
     [[nodiscard]] static QString longestScanTitle();
     [[nodiscard]] QString allowanceDisclosure() const;
 
     /// One row per page, "title", "symbol" and "shortcut", in the order of the sidebar.
     [[nodiscard]] QAbstractItemModel *pages() { return &m_pages; }
 
-    /// The place of the page in that order. An index that is none of them means the first page.
+    /// The page's index in that order. Setting an index out of range shows the first page.
     [[nodiscard]] int pageIndex() const noexcept { return static_cast<int>(m_page); }
     void setPageIndex(int index);
 
-    /// Lets the user choose a folder and then shows the Overview; nothing while a scan runs.
+    /// Lets the user choose a folder and then shows the Overview; does nothing while a scan runs.
     Q_INVOKABLE void chooseFolder();
-    /// The same with a folder that is known already.
+    /// The same with a folder that is already known.
     void choose(const std::filesystem::path &folder);
 
     Q_INVOKABLE void scan();

@@ -15,6 +15,24 @@ SplitView {
     required property PageExport trendsExport
     required property PageExport compareExport
 
+    // A page that is made when it is first shown, and then stays.
+    component LatePage: Loader {
+        id: page
+
+        required property bool isShown
+
+        // To be answered by `setSource`.
+        signal wanted()
+
+        function ask() {
+            if (page.isShown && page.status === Loader.Null)
+                page.wanted();
+        }
+
+        onIsShownChanged: page.ask()
+        Component.onCompleted: page.ask()
+    }
+
     function takeKeyboard() { keys.begin(); }
 
     orientation: Qt.Horizontal
@@ -66,12 +84,12 @@ SplitView {
             }
             LatePage {
                 id: trendsPage
-                isLookedAt: pages.currentIndex === 1
+                isShown: pages.currentIndex === 1
                 onWanted: trendsPage.setSource("TrendsView.qml", { trends: view.trends, exporter: view.trendsExport })
             }
             LatePage {
                 id: comparePage
-                isLookedAt: pages.currentIndex === 2
+                isShown: pages.currentIndex === 2
                 onWanted: comparePage.setSource("CompareView.qml", { compare: view.compare, exporter: view.compareExport })
             }
         }

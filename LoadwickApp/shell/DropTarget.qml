@@ -1,13 +1,13 @@
 import QtQuick
 import Loadwick
 
-// Where a folder can be dropped: the whole of what it is laid over. It shows that it would be taken,
-// and for a moment why it was not.
+// Where a folder can be dropped: the whole of what it is laid over. It shows that the folder would be
+// taken, and for a moment why it was not.
 DropArea {
     id: area
 
     required property FolderDrop folderDrop
-    // Whether a sheet lies over the window; nothing behind it is to be reached.
+    // Whether a sheet lies over the window; nothing behind it can be reached.
     required property ModalGround ground
     property string objection: ""
     readonly property string words: area.containsDrag ? qsTr("Drop a folder here to choose it") : area.objection
@@ -31,12 +31,31 @@ DropArea {
         area.folderDrop.take(drop.urls);
     }
 
-    Loader {
-        id: hint
-
+    Rectangle {
         anchors { fill: parent; margins: AppTheme.smallSpace }
-        active: area.containsDrag || refusal.running
-        Component.onCompleted: hint.setSource("DropHint.qml", { words: Qt.binding(() => area.words) })
+        visible: area.containsDrag || refusal.running
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: area.words
+        radius: AppTheme.cardRadius
+        color: Qt.alpha(AppTheme.window, 0.95)
+        border { width: 2; color: AppTheme.accent }
+
+        Column {
+            anchors.centerIn: parent
+            spacing: AppTheme.cardSpace
+
+            StateIcon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                symbol: "folder"
+                tint: AppTheme.accent
+            }
+            PlainLabel {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: area.words
+                Accessible.ignored: true
+                font: AppTheme.headlineFont
+            }
+        }
     }
     Timer {
         id: refusal

@@ -13,7 +13,7 @@ FolderDrop::FolderDrop(ContentPresenter &content, std::shared_ptr<TaskDispatcher
 
 bool FolderDrop::accepts(const QList<QUrl> &urls) const
 {
-    return onlyPlace(urls).has_value();
+    return onlyFolder(urls).has_value();
 }
 
 QString FolderDrop::objection(const QList<QUrl> &urls) const
@@ -28,10 +28,10 @@ QString FolderDrop::objection(const QList<QUrl> &urls) const
 
 void FolderDrop::take(const QList<QUrl> &urls)
 {
-    const auto place = onlyPlace(urls);
-    if (!place)
+    const auto folder = onlyFolder(urls);
+    if (!folder)
         return;
-    const auto settle = [this, folder = *place](bool isChoosable) {
+    const auto settle = [this, folder = *folder](bool isChoosable) {
         if (isChoosable)
             m_content.choose(folder);
         else
@@ -39,10 +39,10 @@ void FolderDrop::take(const QList<QUrl> &urls)
     };
     // Without a thread nothing happens; the dialog remains.
     inBackground(
-        this, m_dispatcher, [folder = *place] { return isFolder(folder); }, settle);
+        this, m_dispatcher, [folder = *folder] { return isFolder(folder); }, settle);
 }
 
-std::optional<std::filesystem::path> FolderDrop::onlyPlace(const QList<QUrl> &urls) const
+std::optional<std::filesystem::path> FolderDrop::onlyFolder(const QList<QUrl> &urls) const
 {
     return m_content.canChoose() && urls.size() == 1 ? folderPath(urls.first()) : std::nullopt;
 }

@@ -25,12 +25,12 @@ class FolderDrop final : public QObject
 public:
     FolderDrop(ContentPresenter &content, std::shared_ptr<TaskDispatcher> dispatcher);
 
-    /// Whether what is dragged may be dropped: one place of this machine, and no scan runs. That it
-    /// is a folder is not known yet, since asking its disk may take any time.
+    /// Whether what is dragged may be dropped: one local path, while no scan runs. Whether it is a
+    /// folder is not known yet, since asking its disk may take any time.
     Q_INVOKABLE bool accepts(const QList<QUrl> &urls) const;
 
-    /// Why what is dragged may not be dropped, for the user to read. Empty where it may, and where
-    /// it is nothing that has a place.
+    /// Why what is dragged may not be dropped, for the user to read. Empty if it may, or if it is
+    /// no file at all.
     Q_INVOKABLE QString objection(const QList<QUrl> &urls) const;
 
     /// Chooses what was dropped once it turns out to be a folder, unless a scan was started
@@ -42,7 +42,7 @@ Q_SIGNALS:
     void refused();
 
 private:
-    [[nodiscard]] std::optional<std::filesystem::path> onlyPlace(const QList<QUrl> &urls) const;
+    [[nodiscard]] std::optional<std::filesystem::path> onlyFolder(const QList<QUrl> &urls) const;
 
     ContentPresenter &m_content;
     std::shared_ptr<TaskDispatcher> m_dispatcher;

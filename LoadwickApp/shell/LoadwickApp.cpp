@@ -1,21 +1,61 @@
 #include "shell/LoadwickApp.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 #include <utility>
 
 #include <QApplication>
+#include <QByteArray>
+#include <QString>
 
 #include "desktop/SingleInstance.h"
 #include "desktop/WindowActivation.h"
 #include "shell/ApplicationSetup.h"
-#include "shell/DisplayFailure.h"
-#include "shell/FirstSize.h"
 #include "shell/ProgramEnd.h"
-#include "shell/ProgramSignals.h"
 
 namespace Loadwick::LoadwickApp {
 namespace {
+
+QtMessageHandler previousHandler = nullptr;
+
+QByteArray displayFailureReason()
+{
+    return qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")
+               ? QByteArray("no display answers.")
+               : QByteArray("the platform that QT_QPA_PLATFORM names cannot be used.");
+}
+
+QByteArray setting(const char *variable)
+{
+    const QByteArray value = qgetenv(variable);
+    return value.isEmpty() ? QByteArray() : QByteArray(" ") + variable + " is \"" + value + "\".";
+}
+
+void reportDisplayFailure(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type != QtFatalMsg) {
+        previousHandler(type, context, message);
+        return;
+    }
+    const QByteArray words = "Loadwick cannot open its window: " + displayFailureReason() +
+                             setting("DISPLAY") + setting("WAYLAND_DISPLAY") +
+                             setting("QT_QPA_PLATFORM") + "\n";
+    std::fputs(words.constData(), stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// While it exists, a display that does not answer, or a platform that Qt does not have, ends the
+/// program with status 1 and one line on standard error. Qt by itself aborts, and says that the
+/// installation is broken.
+class DisplayFailure final
+{
+public:
+    DisplayFailure() { previousHandler = qInstallMessageHandler(&reportDisplayFailure); }
+    ~DisplayFailure() { qInstallMessageHandler(previousHandler); }
+    DisplayFailure(const DisplayFailure &) = delete;
+    DisplayFailure &operator=(const DisplayFailure &) = delete;
+};
 
 int runWindow(int argc, char **argv, const MakeCollaborators &make,
               const std::shared_ptr<Shutdown> &shutdown)
@@ -36,9 +76,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
                      [&window = loadwick.window()](const QByteArray &token) {
                          WindowActivation::bringToFront(window, token);
                      });
-    FirstSize::putOn(loadwick.window());
-    loadwick.window().show();
-    loadwick.window().requestActivate();
+    loadwick.show();
     const int status = QApplication::exec();
     // What follows tidies up (a copied summary goes to the desktop's clipboard) and may hang.
     ProgramEnd::begin(shutdown, status);
@@ -50,7 +88,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
 void run(int argc, char **argv, const MakeCollaborators &make)
 {
     const auto shutdown = std::make_shared<Shutdown>();
-    ProgramSignals::install(shutdown);
+    ProgramEnd::followSignals(shutdown);
     ApplicationSetup::prepare();
     const int status = runWindow(argc, argv, make, shutdown);
     ProgramEnd::leave(*shutdown, status);

@@ -12,8 +12,8 @@ namespace Loadwick::LoadwickApp {
 using MakeCollaborators =
     std::function<LoadwickWindow::Collaborators(std::shared_ptr<Shutdown> shutdown)>;
 
-/// Opens the window, runs until it is closed or a signal comes, and ends the program. Child
-/// processes that `make`'s collaborators start must be entered in the `shutdown` it is given.
+/// Opens the window, runs until it is closed or a signal comes, and ends the program. The
+/// collaborators that `make` returns register the child processes that they start with `shutdown`.
 [[noreturn]] void run(int argc, char **argv, const MakeCollaborators &make);
 
 } // namespace Loadwick::LoadwickApp

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QDir>
+#include <QScreen>
 #include <QUrl>
 
 #include "base/QmlObject.h"
@@ -21,17 +22,14 @@
 namespace Loadwick {
 namespace {
 
-std::chrono::sys_seconds systemNow()
-{
-    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-}
+constexpr int titleBarHeight = 40; // the true one is not known before the window is shown
 
 QUrl homeUrl()
 {
     return QUrl::fromLocalFile(QDir::homePath());
 }
 
-/// Of a window that walks nobody through.
+/// For a window without a walk-through.
 class AlwaysCompleted final : public OnboardingCompletionStore
 {
 public:
@@ -53,69 +51,64 @@ LoadwickWindow::Collaborators
 LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
 {
     const Environment environment = currentEnvironment();
+    const std::filesystem::path dataFolder = ScanHistoryStore::defaultDirectory(environment);
+    const std::string home = homeFolder(environment);
     return {
-        .probeRunner = std::make_shared<ProbeRunner>(
-            ProbeRunner::userSettings(environment, std::move(shutdown))),
-        .instructionScanner = std::make_shared<InstructionFileScanner>(
-            InstructionFileScanner::Settings{.home = homeFolder(environment)}),
-        .historyStore =
-            std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
-        .locale = TextLocale::fromEnvironment(environment),
-        .weeklyLog = WeeklyKPIReader::defaultPath(homeFolder(environment)),
+        .scan = {.probeRunner = std::make_shared<ProbeRunner>(
+                     ProbeRunner::userSettings(environment, std::move(shutdown))),
+                 .instructionScanner = std::make_shared<InstructionFileScanner>(
+                     InstructionFileScanner::Settings{.home = home}),
+                 .historyStore = std::make_unique<ScanHistoryStore>(dataFolder)},
         .completionStore = std::make_shared<PreferencesCompletionStore>(
             PreferencesCompletionStore::defaultFile(environment)),
-        .home = homeFolder(environment),
         .appearance = &DesktopAppearanceSource::ofUser,
         .notices =
             [](const auto &dispatcher) { return std::make_unique<DesktopNoticeBoard>(dispatcher); },
-        .dataFolder = ScanHistoryStore::defaultDirectory(environment),
+        .locale = TextLocale::fromEnvironment(environment),
+        .weeklyLog = WeeklyKPIReader::defaultPath(home),
+        .home = home,
+        .dataFolder = dataFolder,
     };
 }
 
-LoadwickWindow::LoadwickWindow(Collaborators collaborators)
-    : m_onboarding(onboardingOver(std::move(collaborators.completionStore))),
-      m_chooser(collaborators.folderChooser ? std::move(collaborators.folderChooser)
-                                            : platformFolderChooser(homeUrl())),
-      m_saver(collaborators.fileSaver ? std::move(collaborators.fileSaver)
-                                      : platformFileSaver(homeUrl()))
+LoadwickWindow::LoadwickWindow(Collaborators given)
+    : m_onboarding(onboardingOver(std::move(given.completionStore))),
+      m_chooser(given.folderChooser ? std::move(given.folderChooser)
+                                    : platformFolderChooser(homeUrl())),
+      m_saver(given.fileSaver ? std::move(given.fileSaver) : platformFileSaver(homeUrl()))
 {
-    if (!collaborators.dispatcher)
-        collaborators.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
-    const std::shared_ptr<TaskDispatcher> dispatcher = collaborators.dispatcher;
+    if (!given.scan.dispatcher)
+        given.scan.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
+    const std::shared_ptr<TaskDispatcher> dispatcher = given.scan.dispatcher;
     // First of all: its answers are on their way while everything else is made.
-    if (collaborators.appearance)
-        collaborators.appearance(dispatcher).release()->setParent(&m_engine);
-    const std::filesystem::path weeklyLog = collaborators.weeklyLog;
-    const TextLocale locale = collaborators.locale;
-    const std::filesystem::path home = collaborators.home;
-    const MakeNoticeBoard notices = collaborators.notices;
-    const QString title = collaborators.title;
-    makeModel(std::move(collaborators));
-    makePresenters(locale, home);
+    if (given.appearance)
+        given.appearance(dispatcher).release()->setParent(&m_engine);
+    m_model = std::make_unique<ScanModel>(std::move(given.scan));
+    makePresenters(given.locale, given.home);
     makeCommands(dispatcher);
     makeWindow();
-    if (!title.isEmpty())
-        m_window->setTitle(title);
+    if (!given.title.isEmpty())
+        m_window->setTitle(given.title);
     m_chooser->attach(*m_window);
     m_saver->attach(*m_window);
-    if (notices)
-        putNoticesOn(notices(dispatcher));
-    if (!weeklyLog.empty())
-        m_overview->weekly()->load(weeklyLog, dispatcher);
+    if (given.notices)
+        putNoticesOn(given.notices(dispatcher));
+    if (!given.weeklyLog.empty())
+        m_overview->weekly()->load(given.weeklyLog, dispatcher);
     presentOnAppearance(dispatcher);
 }
 
-void LoadwickWindow::makeModel(Collaborators collaborators)
+void LoadwickWindow::show()
 {
-    if (!collaborators.now)
-        collaborators.now = systemNow;
-    m_model = std::make_unique<ScanModel>(ScanModel::Collaborators{
-        .probeRunner = std::move(collaborators.probeRunner),
-        .instructionScanner = std::move(collaborators.instructionScanner),
-        .historyStore = std::move(collaborators.historyStore),
-        .dispatcher = std::move(collaborators.dispatcher),
-        .now = std::move(collaborators.now),
-    });
+    const QSize room = m_window->screen()->availableSize() - QSize(0, titleBarHeight);
+    m_window->resize(firstSize(m_window->size(), m_window->minimumSize(), room));
+    m_window->show();
+    m_window->requestActivate();
+}
+
+QSize LoadwickWindow::firstSize(QSize wanted, QSize least, QSize room)
+{
+    return wanted.boundedTo(room).expandedTo(least);
 }
 
 void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesystem::path &home)

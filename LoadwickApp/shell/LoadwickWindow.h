@@ -1,12 +1,12 @@
 #pragma once
 
-#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QSize>
 
 #include "compare/ComparePresenter.h"
 #include "desktop/NoticeBoard.h"
@@ -29,7 +29,7 @@
 namespace Loadwick {
 
 /// The program's one window with the model behind it. Make it after the application object, on its
-/// thread. Destroying it waits for no background work: late outcomes are dropped.
+/// thread. Its destructor waits for no background work: late outcomes are dropped.
 class LoadwickWindow
 {
 public:
@@ -42,19 +42,16 @@ public:
     /// What stands between the window and the outside world.
     struct Collaborators
     {
-        std::shared_ptr<ProbeRunning> probeRunner;
-        std::shared_ptr<InstructionFileScanning> instructionScanner;
-        std::unique_ptr<ScanHistoryStore> historyStore = {}; ///< none: nothing is recorded
-        std::unique_ptr<FolderChooser> folderChooser = {};   ///< none: the platform's dialog
-        std::unique_ptr<FileSaver> fileSaver = {};           ///< none: the platform's dialog
-        std::shared_ptr<TaskDispatcher> dispatcher = {};     ///< none: threads of their own
-        std::function<std::chrono::sys_seconds()> now = {};  ///< none: the system's clock
-        TextLocale locale = {};
-        std::filesystem::path weeklyLog = {};                            ///< empty: none is read
+        /// No dispatcher: the window makes one with threads of its own.
+        ScanModel::Collaborators scan;
+        std::unique_ptr<FolderChooser> folderChooser = {};               ///< none: the platform's
+        std::unique_ptr<FileSaver> fileSaver = {};                       ///< none: the platform's
         std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< none: no walk-through
-        std::filesystem::path home = {}; ///< tells whose a file is; nothing in it is read
-        MakeAppearance appearance = {};  ///< none: the palette's
-        MakeNoticeBoard notices = {};    ///< none: the program says nothing outside its window
+        MakeAppearance appearance = {};                                  ///< none: the palette's
+        MakeNoticeBoard notices = {}; ///< none: the program says nothing outside its window
+        TextLocale locale = {};
+        std::filesystem::path weeklyLog = {}; ///< empty: none is read
+        std::filesystem::path home = {};      ///< tells whose a file is; nothing in it is read
         /// A second program over the same folder shows this one's window; empty: it opens its own.
         std::filesystem::path dataFolder = {};
         QString title = {}; ///< of the window; empty: the program's name
@@ -63,11 +60,18 @@ public:
         [[nodiscard]] static Collaborators ofUser(std::shared_ptr<Shutdown> shutdown);
     };
 
-    explicit LoadwickWindow(Collaborators collaborators);
+    explicit LoadwickWindow(Collaborators given);
     ~LoadwickWindow() = default;
 
     LoadwickWindow(const LoadwickWindow &) = delete;
     LoadwickWindow &operator=(const LoadwickWindow &) = delete;
+
+    /// Shows the window for the first time, no larger than its screen, less the panels of the
+    /// desktop and a title bar.
+    void show();
+
+    /// As much of `wanted` as `room` holds, and not less than `least` either way.
+    [[nodiscard]] static QSize firstSize(QSize wanted, QSize least, QSize room);
 
     [[nodiscard]] ScanModel &model() noexcept { return *m_model; }
     [[nodiscard]] ContentPresenter &content() noexcept { return *m_content; }
@@ -76,15 +80,14 @@ public:
     [[nodiscard]] QQuickWindow &window() noexcept { return *m_window; }
 
 private:
-    void makeModel(Collaborators collaborators);
     void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
     void makeWindow();
     void makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher);
     void putNoticesOn(std::unique_ptr<NoticeBoard> board);
     void presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
-    // Destroyed from the last to the first: what shows before what is shown.
-    QObject m_interface; ///< what background work posts to
+    // Destroyed from the last to the first: every view before its presenter.
+    QObject m_interface; ///< receives what background work posts
     std::unique_ptr<ScanModel> m_model;
     std::unique_ptr<ContentPresenter> m_content;
     std::unique_ptr<OverviewPresenter> m_overview;

@@ -49,14 +49,14 @@ ApplicationWindow {
             ground: ground
         }
     }
-    // Made when it is wanted: most launches do without.
+    // Made on demand: most launches do without it.
     Loader {
         id: sheet
 
-        readonly property bool isWanted: window.onboarding.isPresented
+        readonly property bool isDue: window.onboarding.isPresented
 
-        onIsWantedChanged: {
-            if (sheet.isWanted) {
+        onIsDueChanged: {
+            if (sheet.isDue) {
                 sheet.setSource("OnboardingView.qml", { onboarding: window.onboarding });
             } else {
                 sheet.source = "";

@@ -3,43 +3,81 @@
 #include <algorithm>
 
 #include <QAccessible>
+#include <QAccessibleObject>
 #include <QQuickWindow>
-#include <QtQuick/private/qaccessiblequickitem_p.h>
-#include <QtQuickTemplates2/private/qquickoverlay_p.h>
-#include <QtQuickTemplates2/private/qquickoverlay_p_p.h>
-#include <QtQuickTemplates2/private/qquickpopup_p.h>
 
 namespace Loadwick {
 namespace {
 
-/// Qt takes the children of an ignored item for its parent's, so that ignoring would hide nothing.
-class AccessibleGround final : public QAccessibleQuickItem
+/// The accessible items nearest below an item: those that are none stand for what is in them.
+void appendAccessible(const QQuickItem &item, QList<QAccessibleInterface *> &found)
+{
+    for (QQuickItem *child : item.childItems()) {
+        if (QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(child))
+            found.append(accessible);
+        else
+            appendAccessible(*child, found);
+    }
+}
+
+/// An item that Qt ignores passes its children on to its parent, so ignoring would hide nothing.
+class AccessibleGround final : public QAccessibleObject
 {
 public:
-    explicit AccessibleGround(ModalGround &ground) : QAccessibleQuickItem(&ground), m_ground(ground)
-    {}
+    explicit AccessibleGround(ModalGround &ground) : QAccessibleObject(&ground), m_ground(ground) {}
 
-    QAccessibleInterface *child(int index) const override
+    QWindow *window() const override { return m_ground.window(); }
+
+    QAccessibleInterface *parent() const override
     {
-        return m_ground.isCovered() ? nullptr : QAccessibleQuickItem::child(index);
+        QAccessibleInterface *found = nullptr;
+        for (QQuickItem *above = m_ground.parentItem(); above != nullptr && found == nullptr;
+             above = above->parentItem())
+            found = QAccessible::queryAccessibleInterface(above);
+        return found != nullptr ? found : QAccessible::queryAccessibleInterface(m_ground.window());
     }
 
-    int childCount() const override
+    int childCount() const override { return static_cast<int>(children().size()); }
+    QAccessibleInterface *child(int index) const override { return children().value(index); }
+    int indexOfChild(const QAccessibleInterface *child) const override
     {
-        return m_ground.isCovered() ? 0 : QAccessibleQuickItem::childCount();
-    }
-
-    QAccessibleInterface *childAt(int x, int y) const override
-    {
-        return m_ground.isCovered() ? nullptr : QAccessibleQuickItem::childAt(x, y);
+        return static_cast<int>(children().indexOf(child));
     }
 
     QAccessibleInterface *focusChild() const override
     {
-        return m_ground.isCovered() ? nullptr : QAccessibleQuickItem::focusChild();
+        QQuickItem *const focused =
+            m_ground.window() != nullptr ? m_ground.window()->activeFocusItem() : nullptr;
+        const bool isHere = focused != nullptr && m_ground.isAncestorOf(focused);
+        return isHere && !m_ground.isCovered() ? QAccessible::queryAccessibleInterface(focused)
+                                               : nullptr;
+    }
+
+    QString text(QAccessible::Text) const override { return {}; }
+    QAccessible::Role role() const override { return QAccessible::Pane; }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.invisible = !m_ground.isVisible();
+        return state;
+    }
+
+    QRect rect() const override
+    {
+        const QPointF corner = m_ground.mapToGlobal(QPointF());
+        return QRectF(corner, m_ground.size()).toRect();
     }
 
 private:
+    [[nodiscard]] QList<QAccessibleInterface *> children() const
+    {
+        QList<QAccessibleInterface *> found;
+        if (!m_ground.isCovered())
+            appendAccessible(m_ground, found);
+        return found;
+    }
+
     ModalGround &m_ground;
 };
 
@@ -51,6 +89,13 @@ QAccessibleInterface *accessibleGround(const QString &className, QObject *object
     return ground != nullptr ? new AccessibleGround(*ground) : nullptr;
 }
 
+bool isModalSheet(const QQuickItem &item)
+{
+    const QObject *popup = item.parent();
+    return popup != nullptr && popup->inherits("QQuickPopup") &&
+           popup->property("modal").toBool() && popup->property("visible").toBool();
+}
+
 } // namespace
 
 void ModalGround::install()
@@ -58,15 +103,18 @@ void ModalGround::install()
     QAccessible::installFactory(accessibleGround);
 }
 
+// Qt Quick keeps the open popups of a window in one item over its content.
 bool ModalGround::isCovered() const
 {
-    QQuickOverlay *const overlay = window() != nullptr ? QQuickOverlay::overlay(window()) : nullptr;
-    if (overlay == nullptr)
+    if (window() == nullptr)
         return false;
-    const QList<QQuickPopup *> &popups = QQuickOverlayPrivate::get(overlay)->allPopups;
-    return std::any_of(popups.begin(), popups.end(), [](const QQuickPopup *popup) {
-        return popup->isVisible() && popup->isModal();
-    });
+    for (const QQuickItem *layer : window()->contentItem()->childItems()) {
+        const QList<QQuickItem *> sheets =
+            layer->inherits("QQuickOverlay") ? layer->childItems() : QList<QQuickItem *>();
+        if (std::ranges::any_of(sheets, [](const auto *sheet) { return isModalSheet(*sheet); }))
+            return true;
+    }
+    return false;
 }
 
 bool ModalGround::hides(const QQuickItem &item)

@@ -5,8 +5,8 @@
 
 namespace Loadwick {
 
-/// What lies behind the modal sheets of a window. While one is open, assistive technology finds
-/// nothing in here, as the pointer and the keyboard do.
+/// Everything behind the modal sheets of a window, as one pane. While a sheet is open, assistive
+/// technology finds nothing in it, and neither do the pointer and the keyboard.
 class ModalGround : public QQuickItem
 {
     Q_OBJECT
@@ -15,12 +15,12 @@ class ModalGround : public QQuickItem
 public:
     using QQuickItem::QQuickItem;
 
-    /// Makes the program's accessibility tree look at grounds. Call it once, before the first one.
+    /// Makes the program's accessibility tree respect grounds. Call it once, before the first one.
     static void install();
 
     Q_INVOKABLE bool isCovered() const;
 
-    /// Whether the item stands on a covered ground. Who found it before can still ask it to act.
+    /// Whether the item is on a covered ground. A client that found it before can still address it.
     [[nodiscard]] static bool hides(const QQuickItem &item);
 };
 

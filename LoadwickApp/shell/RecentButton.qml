@@ -11,7 +11,7 @@ AbstractButton {
     // Made when it is first asked for.
     property RecentMenu menu: null
     readonly property bool isOpen: button.menu !== null && button.menu.visible
-    // Since the pointer or the keyboard came here: there is nothing left to explain.
+    // Since the pointer or the keyboard came here; then there is nothing left to explain.
     property bool wasOpen: false
 
     function open() {
@@ -52,12 +52,10 @@ AbstractButton {
              : button.hovered ? AppTheme.hoverFill : "transparent"
     }
 
-    HoverHandler {
+    FocusRing { shown: button.visualFocus }
+    HoverTip {
         enabled: button.enabled
         cursorShape: Qt.PointingHandCursor
-    }
-    FocusRing { shown: button.visualFocus }
-    LateToolTip {
         words: qsTr("Choose a repository that was scanned before")
         wanted: button.enabled && !button.wasOpen && (button.hovered || button.visualFocus)
     }

@@ -12,9 +12,5 @@ SelectableText {
     secondary: true
     maximumLineCount: 2
 
-    HoverHandler { id: pointer }
-    LateToolTip {
-        words: path.text
-        wanted: pointer.hovered && path.truncated
-    }
+    HoverTip { words: path.truncated ? path.text : "" }
 }

@@ -9,15 +9,15 @@
 
 namespace Loadwick {
 
-/// Tells on the desktop that a scan has ended while the window is not looked at, in the words that
-/// the window has for it, until it is looked at. Belongs to the interface thread; all that it is
+/// Shows a notice on the desktop when a scan ends while the window is inactive, in the window's own
+/// words, until the window becomes active. Belongs to the interface thread; everything that it is
 /// given outlives it.
 class ScanNotices final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the notice says comes from these.
+    /// Where the words of the notice come from.
     struct Words
     {
         ContentPresenter &content;

@@ -2,12 +2,20 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The chosen repository, and the pages that can be shown of it.
+// The chosen repository with the state of its scan, and the pages that can be shown of it.
 Rectangle {
     id: sidebar
 
     required property ContentPresenter content
     readonly property alias pages: pages
+    readonly property color statusTint: {
+        switch (sidebar.content.status) {
+        case ContentPresenter.Scanning: return AppTheme.accent;
+        case ContentPresenter.Failed: return AppTheme.bandExcessiveText;
+        case ContentPresenter.Complete: return AppTheme.bandLeanText;
+        default: return AppTheme.secondaryText;
+        }
+    }
 
     color: AppTheme.sidebar
 
@@ -15,11 +23,56 @@ Rectangle {
         anchors { fill: parent; topMargin: AppTheme.cardSpace }
         spacing: 0
 
-        SidebarRepository {
+        ColumnLayout {
             Layout.fillWidth: true
             Layout.leftMargin: AppTheme.cardSpace
             Layout.rightMargin: AppTheme.cardSpace
-            content: sidebar.content
+            spacing: AppTheme.smallSpace
+
+            RowLayout {
+                Layout.fillWidth: true
+                spacing: AppTheme.smallSpace
+
+                Symbol {
+                    name: "folder.fill"
+                    tint: sidebar.content.hasRepository ? AppTheme.accent : AppTheme.secondaryText
+                }
+                PlainLabel {
+                    id: name
+
+                    Layout.fillWidth: true
+                    text: sidebar.content.repositoryName
+                    font: AppTheme.emphasisFont
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                    Accessible.name: text
+
+                    HoverTip { words: name.truncated ? name.text : "" }
+                }
+            }
+            Loader {
+                id: path
+
+                Layout.fillWidth: true
+                active: sidebar.content.hasRepository
+                visible: active
+                Component.onCompleted: path.setSource("RepositoryPath.qml", { content: sidebar.content })
+            }
+            PlainLabel {
+                Layout.fillWidth: true
+                text: sidebar.content.repositoryDetail
+                font: AppTheme.captionFont
+                secondary: true
+                wrapMode: Text.Wrap
+                visible: !sidebar.content.hasRepository
+            }
+            StatusPill {
+                Layout.topMargin: AppTheme.tightSpace
+                title: sidebar.content.statusTitle
+                symbol: sidebar.content.statusSymbol
+                turning: sidebar.content.status === ContentPresenter.Scanning
+                tint: sidebar.statusTint
+            }
         }
         PlainLabel {
             Layout.fillWidth: true

@@ -1,4 +1,6 @@
 import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
 import Loadwick
 
 // One row per page. The arrow keys move the choice, Home and End to the first and the last.
@@ -10,7 +12,7 @@ ListView {
     model: content.pages
     interactive: false
     keyNavigationEnabled: true
-    // The view's own mark of the current row is not to be seen, but would slide and grow.
+    // The view's own mark of the current row would slide and grow; the rows draw theirs.
     highlightFollowsCurrentItem: false
     activeFocusOnTab: true
     spacing: 2
@@ -32,12 +34,63 @@ ListView {
     // Unlike a plain binding, it survives what the arrow keys and the rows write.
     Binding on currentIndex { value: list.content.pageIndex }
 
-    delegate: SidebarRow {
+    // To assistive technology a plain button stays a button, whatever role it is given.
+    delegate: T.ItemDelegate {
         id: row
 
+        required property int index
+        required property string title
+        required property string symbol
+        // The key that goes to the page from anywhere in the window.
+        required property string shortcut
+        readonly property bool selected: ListView.isCurrentItem
+        readonly property bool hasKeyboard: row.selected && ListView.view.activeFocus
+        readonly property color wordColor: row.selected ? AppTheme.accent : AppTheme.text
+
         width: ListView.view.width
-        selected: ListView.isCurrentItem
-        ringed: ListView.isCurrentItem && ListView.view.activeFocus
+        implicitHeight: AppTheme.controlHeight
+        leftPadding: AppTheme.smallSpace
+        rightPadding: AppTheme.smallSpace
+        focusPolicy: Qt.NoFocus
+        hoverEnabled: true
+        Accessible.role: Accessible.ListItem
+        Accessible.name: title
+        Accessible.selectable: true
+        Accessible.selected: selected
         onClicked: row.ListView.view.currentIndex = row.index
+
+        contentItem: RowLayout {
+            spacing: AppTheme.smallSpace
+
+            Symbol {
+                name: row.symbol
+                tint: row.wordColor
+            }
+            PlainLabel {
+                Layout.fillWidth: true
+                text: row.title
+                font: row.selected ? AppTheme.bodyStrongFont : AppTheme.bodyFont
+                color: row.wordColor
+                Accessible.ignored: true
+            }
+        }
+
+        background: Rectangle {
+            radius: AppTheme.controlRadius
+            color: row.selected ? AppTheme.selectionFill
+                 : row.down ? AppTheme.pressedFill
+                 : row.hovered ? AppTheme.hoverFill : "transparent"
+            border { width: row.hasKeyboard ? 2 : 0; color: AppTheme.accent }
+        }
+
+        Shortcut {
+            sequence: row.shortcut
+            autoRepeat: false
+            onActivated: row.clicked()
+        }
+        HoverTip {
+            cursorShape: Qt.PointingHandCursor
+            words: row.shortcut
+        }
     }
 }

@@ -32,8 +32,8 @@ public:
     {
         std::shared_ptr<ProbeRunning> probeRunner;
         std::shared_ptr<InstructionFileScanning> instructionScanner;
-        std::unique_ptr<ScanHistoryStore> historyStore; ///< null: nothing is recorded
-        std::shared_ptr<TaskDispatcher> dispatcher;
+        std::unique_ptr<ScanHistoryStore> historyStore = {}; ///< null: nothing is recorded
+        std::shared_ptr<TaskDispatcher> dispatcher = {};
         /// The clock that dates recorded scans.
         std::function<std::chrono::sys_seconds()> now = [] {
             return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());

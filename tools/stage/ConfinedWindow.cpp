@@ -38,11 +38,11 @@ LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home,
 {
     const Environment environment = settings.environment;
     return {
-        .probeRunner = std::make_shared<ProbeRunner>(std::move(settings)),
-        .instructionScanner = std::make_shared<InstructionFileScanner>(
-            InstructionFileScanner::Settings{.home = home.string()}),
-        .historyStore =
-            std::make_unique<ScanHistoryStore>(ScanHistoryStore::defaultDirectory(environment)),
+        .scan = {.probeRunner = std::make_shared<ProbeRunner>(std::move(settings)),
+                 .instructionScanner = std::make_shared<InstructionFileScanner>(
+                     InstructionFileScanner::Settings{.home = home.string()}),
+                 .historyStore = std::make_unique<ScanHistoryStore>(
+                     ScanHistoryStore::defaultDirectory(environment))},
         .locale = TextLocale::fromEnvironment(environment),
         .weeklyLog = WeeklyKPIReader::defaultPath(home.string()),
         .home = home,

@@ -18,17 +18,17 @@ namespace {
 /// home.
 LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home)
 {
-    return {.probeRunner =
-                std::make_shared<ProbeRunner>(Confinement::runnerSettings(home, nullptr)),
-            .instructionScanner = std::make_shared<InstructionFileScanner>(
-                InstructionFileScanner::Settings{.home = home.string()}),
+    return {.scan = {.probeRunner =
+                         std::make_shared<ProbeRunner>(Confinement::runnerSettings(home, nullptr)),
+                     .instructionScanner = std::make_shared<InstructionFileScanner>(
+                         InstructionFileScanner::Settings{.home = home.string()})},
             .home = "/home/someone"};
 }
 
 LoadwickWindow::Collaborators withHistory(const std::filesystem::path &home)
 {
     LoadwickWindow::Collaborators made = collaborators(home);
-    made.historyStore = std::make_unique<ScanHistoryStore>(home);
+    made.scan.historyStore = std::make_unique<ScanHistoryStore>(home);
     return made;
 }
 

@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(column(focused()) > 250);
     }
 
-    // The page that is shown takes them from elsewhere.
+    // Elsewhere the page takes these keys.
     void homeAndEndReachTheFirstAndTheLastPage()
     {
         m_window->press(Qt::Key_Tab);
@@ -125,7 +125,7 @@ private Q_SLOTS:
                          QStringLiteral("Scanned repositories"), QStringLiteral("Scan Again")}));
     }
 
-    // What holds the focus looks otherwise than without it, at every stop of the window.
+    // Every tab stop of the window looks different with the focus.
     void everyStopShowsThatItHasTheFocus()
     {
         stopMotion();
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, key);
         m_window->choose(m_window->folder().path());
-        // Only then everything has its place.
+        // Lays everything out.
         (void)m_window->loadwick().window().grabWindow();
         auto *control = qobject_cast<QQuickItem *>(m_window->find(name)->object());
         const QPointF middle(control->width() / 2, control->height() / 2);
@@ -194,7 +194,7 @@ private:
     }
     [[nodiscard]] QString focusedName() { return nameOf(focused()); }
 
-    /// The words of the tool tip that stands open at a control; none while there is none.
+    /// The words of the control's open tool tip; empty while there is none.
     [[nodiscard]] static QString shownToolTip(const QQuickItem &control)
     {
         const QList<QObject *> children = control.findChildren<QObject *>();
@@ -206,9 +206,7 @@ private:
 
     void scan()
     {
-        m_window->choose(m_window->folder().path());
-        m_window->press(Qt::Key_R, Qt::ControlModifier);
-        m_window->finishScan();
+        m_window->scan(m_window->folder().path());
         QTRY_VERIFY(m_window->shows(QStringLiteral("Scan complete")));
     }
 

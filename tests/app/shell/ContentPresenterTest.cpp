@@ -23,7 +23,7 @@ private Q_SLOTS:
         m_content = std::make_unique<ContentPresenter>(m_scanning->model, *m_chooser);
     }
 
-    void saysThatNoRepositoryIsChosen()
+    void saysThatNoRepositoryIsSelected()
     {
         QVERIFY(!m_content->hasRepository());
         QCOMPARE(m_content->repositoryName(), QStringLiteral("No repository selected"));
@@ -50,7 +50,7 @@ private Q_SLOTS:
         QVERIFY(m_content->canScan());
     }
 
-    void saysHowTheScanStands()
+    void showsTheStateOfTheScan()
     {
         checkStatus(Status::Idle, "Ready to scan", "circle");
         m_scanning->choose();
@@ -64,7 +64,7 @@ private Q_SLOTS:
         checkStatus(Status::Failed, "Scan failed", "exclamationmark.triangle.fill");
     }
 
-    void whileScanningTheCommandsRest()
+    void commandsAreDisabledWhileScanning()
     {
         m_scanning->choose();
         m_content->scan();
@@ -110,7 +110,7 @@ private Q_SLOTS:
                      QStringLiteral("Ctrl+%1").arg(page + 1));
     }
 
-    void anIndexThatIsNoPageShowsTheOverview()
+    void anIndexOutOfRangeShowsTheOverview()
     {
         m_content->setPageIndex(2);
         m_content->setPageIndex(-1);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(m_content->pageIndex(), 0);
     }
 
-    void tellsOfAPageOnlyWhenItChanges()
+    void signalsOnlyAChangeOfThePage()
     {
         QSignalSpy changed(m_content.get(), &ContentPresenter::pageIndexChanged);
         m_content->setPageIndex(0);
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(m_content->scanIsNextStep());
     }
 
-    void tellsOfEveryChangeOfTheCommands()
+    void signalsEveryChangeOfTheCommands()
     {
         QSignalSpy changed(m_content.get(), &ContentPresenter::commandsChanged);
         m_scanning->choose();

@@ -1,4 +1,4 @@
-// What a window is made of when it first shows: what is not to be seen then, is not there.
+// What a window consists of when it first shows: what is not visible then does not exist.
 #include <algorithm>
 #include <fstream>
 #include <string>
@@ -45,7 +45,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("type");
         for (const char *type :
              {"TrendsView", "CompareView", "OverviewLoading", "OverviewFailure", "OverviewReport",
-              "RepositoryPath", "SelectableText", "RecentButton", "RecentMenu", "PlainToolTip",
+              "SelectableText", "RepositoryPath", "RecentButton", "RecentMenu", "PlainToolTip",
               "ConfirmationDialog", "OnboardingView"})
             QTest::newRow(type) << QByteArray(type);
     }
@@ -70,7 +70,7 @@ private Q_SLOTS:
                  qPrintable(QString::number(count)));
     }
 
-    void aPageIsMadeWhenItIsFirstLookedAtAndStays_data()
+    void aPageIsMadeWhenItIsFirstShownAndStays_data()
     {
         QTest::addColumn<int>("page");
         QTest::addColumn<QByteArray>("type");
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTest::newRow("Compare") << static_cast<int>(AppPage::compare) << QByteArray("CompareView");
     }
 
-    void aPageIsMadeWhenItIsFirstLookedAtAndStays()
+    void aPageIsMadeWhenItIsFirstShownAndStays()
     {
         QFETCH(const int, page);
         QFETCH(const QByteArray, type);
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(m_window->shows(m_window->loadwick().content().repositoryDetail()));
     }
 
-    void aFailureIsMadeWhenItHappensAndGoesWithIt()
+    void aFailureStateIsMadeOnDemandAndDestroyedWithIt()
     {
         ScanModel &model = m_window->loadwick().model();
         model.select(RepoSelection::fromUrl(m_window->folder().path()));

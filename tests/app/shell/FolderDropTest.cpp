@@ -47,7 +47,7 @@ private Q_SLOTS:
         QVERIFY(isChosen(folder));
     }
 
-    void whatIsNotOneLocalFolderIsRefused_data()
+    void anythingButOneLocalFolderIsRefused_data()
     {
         QTest::addColumn<QList<QUrl>>("urls");
         const QUrl folder(QStringLiteral("file:///tmp"));
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QTest::newRow("of another machine") << QList<QUrl>{QUrl(QStringLiteral("file://far/tmp"))};
     }
 
-    void whatIsNotOneLocalFolderIsRefused()
+    void anythingButOneLocalFolderIsRefused()
     {
         QFETCH(const QList<QUrl>, urls);
         QVERIFY(!drop(urls));
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->loadwick().content().hasRepository());
     }
 
-    void whileScanningItIsRefused()
+    void isRefusedWhileScanning()
     {
         const auto other = m_window->folder().path() / "other";
         std::filesystem::create_directory(other);
@@ -86,8 +86,8 @@ private Q_SLOTS:
         QVERIFY(isChosen(m_window->folder().path()));
     }
 
-    // The folder is looked at in the background, and the keyboard is quick.
-    void aScanThatBeginsMeanwhileKeepsItsFolder()
+    // The folder is checked in the background.
+    void aScanThatStartsMeanwhileKeepsItsFolder()
     {
         const auto other = m_window->folder().path() / "other";
         std::filesystem::create_directory(other);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(isChosen(m_window->folder().path()));
     }
 
-    void theWindowSaysThatItWouldBeTaken()
+    void theWindowSaysThatItAcceptsTheFolder()
     {
         const auto says = [this] {
             return m_window->shows(QStringLiteral("Drop a folder here to choose it"));
@@ -112,7 +112,7 @@ private Q_SLOTS:
         QVERIFY(!says());
     }
 
-    void theWindowSaysWhyAFileIsNotTaken()
+    void theWindowSaysWhyItRefusesAFile()
     {
         const auto says = [this] {
             return m_window->shows(QStringLiteral("Only a folder can be chosen."));
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QVERIFY(!says());
     }
 
-    void theWindowSaysWhyADragIsNotTaken_data()
+    void theWindowSaysWhyItRefusesADrag_data()
     {
         QTest::addColumn<QList<QUrl>>("urls");
         QTest::addColumn<bool>("scans");
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QTest::newRow("while scanning") << QList<QUrl>{folder} << true << later;
     }
 
-    void theWindowSaysWhyADragIsNotTaken()
+    void theWindowSaysWhyItRefusesADrag()
     {
         QFETCH(const QList<QUrl>, urls);
         QFETCH(const bool, scans);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->shows(words));
     }
 
-    void theWordOnAFileGoesByItself()
+    void theRefusalDisappearsByItself()
     {
         const QString word = QStringLiteral("Only a folder can be chosen.");
         QVERIFY(drop({urlOf(m_window->folder().path() / "gone")}));
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!m_window->shows(word), 8'000);
     }
 
-    void theWindowMayGoBeforeTheFolderIsLookedAt()
+    void theWindowCanBeDestroyedBeforeTheFolderIsChecked()
     {
         QVERIFY(drop({urlOf(m_window->folder().path())}));
         m_window->destroy();

@@ -55,8 +55,8 @@ LoadwickWindow::Collaborators blockedCollaborators(const std::filesystem::path &
     };
     auto chooser = std::make_unique<FakeFolderChooser>();
     chooser->answer = folder;
-    return {.probeRunner = probe,
-            .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+    return {.scan = {.probeRunner = probe,
+                     .instructionScanner = std::make_shared<FakeInstructionScanner>()},
             .folderChooser = std::move(chooser)};
 }
 

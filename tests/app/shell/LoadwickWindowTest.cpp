@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QQuickItem>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -32,7 +33,37 @@ private Q_SLOTS:
         QCOMPARE(window.minimumSize(), QSize(960, 640));
     }
 
-    void withoutARepositoryItAsksForOneAndCannotScan()
+    void opensAsLargeAsItsScreenAllows_data()
+    {
+        QTest::addColumn<QSize>("room");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("a large screen") << QSize(2560, 1400) << QSize(1180, 780);
+        QTest::newRow("exactly") << QSize(1180, 780) << QSize(1180, 780);
+        QTest::newRow("a low screen") << QSize(1366, 700) << QSize(1180, 700);
+        QTest::newRow("a narrow screen") << QSize(1080, 1880) << QSize(1080, 780);
+        QTest::newRow("smaller than the minimum") << QSize(800, 560) << QSize(960, 640);
+    }
+
+    void opensAsLargeAsItsScreenAllows()
+    {
+        QFETCH(const QSize, room);
+        QFETCH(const QSize, size);
+        QCOMPARE(LoadwickWindow::firstSize(QSize(1180, 780), QSize(960, 640), room), size);
+    }
+
+    void leavesRoomForItsTitleBar()
+    {
+        QQuickWindow &window = m_window->loadwick().window();
+        const QSize room = window.screen()->availableSize();
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+        window.setMinimumSize(QSize(100, 100));
+        window.resize(2 * room);
+        m_window->loadwick().show();
+        QCOMPARE(window.width(), room.width());
+        QVERIFY(window.height() < room.height());
+    }
+
+    void withoutARepositoryAsksForOneAndCannotScan()
     {
         QVERIFY(shows("No repository selected"));
         QVERIFY(shows("Choose a local repository to begin one scan."));
@@ -47,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(m_window->probe().runs().empty());
     }
 
-    void theCostOfAScanIsSaidBeforeTheFirstOne()
+    void saysWhatAScanCostsBeforeTheFirstOne()
     {
         const QString disclosure = m_window->loadwick().content().allowanceDisclosure();
         QVERIFY(m_window->shows(disclosure));
@@ -90,7 +121,7 @@ private Q_SLOTS:
         m_window->probe().answer = []() -> ProbeResult {
             throw ProbeError::sessionFailed("<b>Credit balance</b> is too low");
         };
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(shows("Scan failed"));
         QVERIFY(shows("The probe session reported an error."));
         QVERIFY(shows("<b>Credit balance</b> is too low"));
@@ -100,18 +131,18 @@ private Q_SLOTS:
     {
         m_window->choose(m_window->folder().path());
         m_window->press(Qt::Key_R, Qt::ControlModifier);
-        pressAccessibly("Trends");
+        press("Trends");
         QVERIFY(shows("Startup context over time, against the Lean, Heavy and Excessive bands."));
-        pressAccessibly("Compare");
+        press("Compare");
         QVERIFY(shows("No recorded scans yet"));
-        pressAccessibly("Overview");
+        press("Overview");
         QVERIFY(shows("Scanning repository"));
     }
 
     void choosingOnAnotherPageSwitchesToTheOverview()
     {
         for (const char *page : {"Trends", "Compare"}) {
-            pressAccessibly(page);
+            press(page);
             QVERIFY(!shows("Start a context scan"));
             m_window->choose(m_window->folder().path());
             QVERIFY(shows("Start a context scan"));
@@ -156,7 +187,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, name);
         const auto folder = m_window->folder().path() / name.toStdString();
         std::filesystem::create_directory(folder);
-        scan(folder);
+        m_window->scan(folder);
         QTRY_VERIFY(shows("Scan complete"));
         QVERIFY(m_window->probe().runs().front() == folder);
         QCOMPARE(m_window->loadwick().model().history().get().size(), std::size_t(1));
@@ -167,7 +198,7 @@ private Q_SLOTS:
     // Each warning that a layout prints fails the test.
     void everyPageSettlesAtEverySize()
     {
-        scan(m_window->folder().path());
+        scan();
         QQuickWindow &window = m_window->loadwick().window();
         for (const QSize size : {QSize(1180, 780), QSize(960, 640), QSize(2560, 1440)}) {
             window.resize(size);
@@ -187,7 +218,7 @@ private Q_SLOTS:
                 .personalFiles = {InstructionFileEstimate::fromPath("/two/CLAUDE.md", 9'000)},
                 .unreadablePaths = {}};
         };
-        scan(m_window->folder().path());
+        scan();
         QQuickWindow &window = m_window->loadwick().window();
         for (const QSize size :
              {QSize(960, 640), QSize(1180, 780), QSize(2560, 1440), QSize(960, 640)}) {
@@ -201,17 +232,18 @@ private Q_SLOTS:
         }
     }
 
-    void followsTheDesktopThatItIsGiven()
+    void followsTheGivenAppearance()
     {
         FakeAppearanceSource *desktop = nullptr;
-        LoadwickWindow given({.probeRunner = std::make_shared<FakeProbe>(),
-                              .instructionScanner = std::make_shared<FakeInstructionScanner>(),
-                              .folderChooser = std::make_unique<FakeFolderChooser>(),
-                              .appearance = [&desktop](const auto &) {
-                                  auto made = std::make_unique<FakeAppearanceSource>();
-                                  desktop = made.get();
-                                  return made;
-                              }});
+        LoadwickWindow given(
+            {.scan = {.probeRunner = std::make_shared<FakeProbe>(),
+                      .instructionScanner = std::make_shared<FakeInstructionScanner>()},
+             .folderChooser = std::make_unique<FakeFolderChooser>(),
+             .appearance = [&desktop](const auto &) {
+                 auto made = std::make_unique<FakeAppearanceSource>();
+                 desktop = made.get();
+                 return made;
+             }});
         QVERIFY(given.window().color().lightness() > 128);
         desktop->wish({.dark = true});
         QVERIFY(given.window().color().lightness() < 128);
@@ -221,18 +253,18 @@ private Q_SLOTS:
 
     void copySummaryIsAButton()
     {
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
-        pressAccessibly("Copy Summary");
+        press("Copy Summary");
         QVERIFY(m_window->loadwick().overview().summary().startsWith(QStringLiteral("Repository")));
     }
 
-    void copySummarySaysForAMomentThatItDid()
+    void copySummarySaysForAMomentThatItCopied()
     {
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
         QVERIFY(!shows("Copied"));
-        pressAccessibly("Copy Summary");
+        press("Copy Summary");
         QVERIFY(shows("Copied"));
         QVERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
         QTRY_VERIFY(!shows("Copied"));
@@ -268,23 +300,23 @@ private Q_SLOTS:
         QVERIFY(m_window->isPressable(QStringLiteral("Scan Again")));
     }
 
-    void theOtherPagesKnowOfARecordedScan()
+    void theOtherPagesShowARecordedScan()
     {
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(shows("Scan complete"));
-        pressAccessibly("Trends");
+        press("Trends");
         QVERIFY(shows("One scan recorded"));
-        pressAccessibly("Compare");
+        press("Compare");
         QVERIFY(shows("Only one repository recorded"));
-        scan(m_window->folder().path());
-        pressAccessibly("Trends");
+        scan();
+        press("Trends");
         QVERIFY(shows("Trends"));
         QVERIFY(!shows("One scan recorded"));
     }
 
     void theWeeklyCardStaysWithoutALog()
     {
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(shows("Weekly usage"));
         QVERIFY(shows("No weekly KPI line is available locally."));
         QVERIFY(!shows("Tokens/PR"));
@@ -294,7 +326,7 @@ private Q_SLOTS:
     {
         m_window->folder().write("weekly.jsonl", "{\"median_tokens_per_session\":27510462,"
                                                  "\"tokens_per_pr\":37681167}\n");
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(shows("27,510,462"));
         QVERIFY(shows("+0 versus target"));
         QVERIFY(shows("-1 versus target"));
@@ -304,10 +336,10 @@ private Q_SLOTS:
 
     void theSessionDetailsOpen()
     {
-        scan(m_window->folder().path());
+        scan();
         QTRY_VERIFY(shows("Session details"));
         QVERIFY(!shows("12.5 seconds"));
-        pressAccessibly("Session details");
+        press("Session details");
         QTRY_VERIFY(shows("12.5 seconds"));
         QVERIFY(shows("Claude executable"));
         QVERIFY(shows("Total: authoritative — reported by Claude (source: session transcript: "
@@ -329,19 +361,8 @@ private:
         return m_window->shows(QString::fromUtf8(name));
     }
 
-    void scan(const std::filesystem::path &folder)
-    {
-        m_window->choose(folder);
-        m_window->press(Qt::Key_R, Qt::ControlModifier);
-        m_window->finishScan();
-    }
-
-    void pressAccessibly(const char *name)
-    {
-        QAccessibleInterface *button = m_window->find(QString::fromUtf8(name));
-        QVERIFY2(button != nullptr && button->actionInterface() != nullptr, name);
-        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    }
+    void scan() { m_window->scan(m_window->folder().path()); }
+    void press(const char *name) { m_window->pressButton(QString::fromUtf8(name)); }
 
     std::unique_ptr<WindowFixture> m_window;
 };

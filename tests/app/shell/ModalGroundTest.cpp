@@ -34,7 +34,6 @@ private Q_SLOTS:
                 ModalGround {
                     anchors.fill: parent
                     Accessible.role: Accessible.Pane
-                    Accessible.name: "ground"
                     PushButton { title: "behind"; onClicked: clicks++ }
                 }
                 Popup { id: modal; modal: true; PushButton { title: "before" } }
@@ -48,22 +47,30 @@ private Q_SLOTS:
 
     void cleanup() { m_window.reset(); }
 
-    void isFoundWithAllThatIsInIt() { QVERIFY(finds(QStringLiteral("behind"))); }
+    void isFoundWithAllThatIsInIt()
+    {
+        QVERIFY(finds(QStringLiteral("behind")));
+        QCOMPARE(ground().parent(), QAccessible::queryAccessibleInterface(m_window.get()));
+        QCOMPARE(ground().child(0)->parent(), &ground());
+        QCOMPARE(ground().indexOfChild(ground().child(0)), 0);
+        QCOMPARE(ground().rect().size(), QSize(300, 200));
+    }
 
     void isEmptyWhileAModalSheetIsOpen()
     {
         call("modal", "open");
         QTRY_VERIFY(finds(QStringLiteral("before")));
         QVERIFY(!finds(QStringLiteral("behind")));
-        QVERIFY(finds(QStringLiteral("ground")));
+        QCOMPARE(ground().role(), QAccessible::Pane);
+        QCOMPARE(ground().childAt(5, 5), nullptr);
+        QCOMPARE(ground().focusChild(), nullptr);
         call("modal", "close");
         QTRY_VERIFY(finds(QStringLiteral("behind")));
     }
 
     void aButtonThatWasFoundBeforeIsNotPressedWhileCovered()
     {
-        QAccessibleInterface *button =
-            QAccessible::queryAccessibleInterface(m_window.get())->child(0)->child(0);
+        QAccessibleInterface *button = ground().child(0);
         call("modal", "open");
         button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(m_window->property("clicks").toInt(), 0);
@@ -79,6 +86,11 @@ private Q_SLOTS:
     }
 
 private:
+    [[nodiscard]] QAccessibleInterface &ground() const
+    {
+        return *QAccessible::queryAccessibleInterface(m_window.get())->child(0);
+    }
+
     void call(const char *popup, const char *method)
     {
         QVERIFY(QMetaObject::invokeMethod(m_window->property(popup).value<QObject *>(), method));

@@ -1,5 +1,7 @@
 #include "shell/RecentRepositories.h"
 
+#include <algorithm>
+
 #include <QAccessible>
 #include <QTest>
 
@@ -31,7 +33,7 @@ private Q_SLOTS:
         scan("two");
         openList();
         QVERIFY(m_window->isPressable(QStringLiteral("one")));
-        press(QStringLiteral("one"));
+        m_window->pressButton(QStringLiteral("one"));
         QVERIFY(m_window->loadwick().model().selection().get()->url ==
                 m_window->folder().path() / "one");
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Idle);
@@ -48,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
     }
 
-    void theOneThatIsChosenKeepsItsResult()
+    void choosingTheCurrentOneKeepsItsResult()
     {
         scan("one");
         m_window->loadwick().content().setPageIndex(1);
@@ -59,42 +61,40 @@ private Q_SLOTS:
         QCOMPARE(m_window->loadwick().content().pageIndex(), 0);
     }
 
-    void onlyTheOneThatIsChosenHasAMark()
+    void onlyTheCurrentOneHasAMark()
     {
         scan("one");
         scan("two");
-        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
-                                  std::make_shared<SteppingDispatcher>());
+        const auto recent = unseenList();
         openList();
-        QCOMPARE(markedRows(recent), QStringList{QStringLiteral("two")});
+        QCOMPARE(markedRows(*recent), QStringList{QStringLiteral("two")});
         QCOMPARE(marks().size(), 1);
         m_window->press(Qt::Key_Escape);
         m_window->choose(m_window->folder().path() / "one");
         openList();
-        QCOMPARE(markedRows(recent), QStringList{QStringLiteral("one")});
+        QCOMPARE(markedRows(*recent), QStringList{QStringLiteral("one")});
         QCOMPARE(marks().size(), 1);
     }
 
-    void theDialogChoosesAnewWhatIsChosen()
+    void choosingTheCurrentOneInTheDialogDiscardsItsResult()
     {
         scan("one");
         m_window->choose(m_window->folder().path() / "one");
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Idle);
     }
 
-    void whereOneIsReadsFromLeftToRight()
+    void pathsReadFromLeftToRight()
     {
         scan("one");
-        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
-                                  std::make_shared<SteppingDispatcher>());
-        const QString detail = firstDetail(recent);
+        const auto recent = unseenList();
+        const QString detail = firstDetail(*recent);
         const QString path = QString::fromStdString((m_window->folder().path() / "one").string());
         QVERIFY(detail.startsWith(QChar(0x200E)));
         QCOMPARE(detail.count(QChar(0x200E)), path.count(u'/') + 1);
         QCOMPARE(QString(detail).remove(QChar(0x200E)), path);
     }
 
-    void oneThatIsGoneIsShownDisabled()
+    void aMissingFolderIsDisabled()
     {
         scan("one");
         scan("two");
@@ -102,12 +102,12 @@ private Q_SLOTS:
         openList();
         QVERIFY(m_window->shows(QStringLiteral("one")));
         QVERIFY(!m_window->isPressable(QStringLiteral("one")));
-        press(QStringLiteral("one"));
+        m_window->pressButton(QStringLiteral("one"));
         QVERIFY(m_window->loadwick().model().selection().get()->url ==
                 m_window->folder().path() / "two");
     }
 
-    void oneThatIsGoneSaysSo()
+    void aMissingFolderSaysSo()
     {
         scan("one");
         scan("two"); // the sidebar names it
@@ -120,8 +120,7 @@ private Q_SLOTS:
         QVERIFY(spokenDetail(QStringLiteral("one")).endsWith(QStringLiteral("one")));
     }
 
-    // Its words would be as hard to read as those that nobody can press.
-    void whyOneCannotBeChosenIsNotFaint()
+    void theDetailOfAMissingFolderIsNotFaint()
     {
         scan("one");
         std::filesystem::remove_all(m_window->folder().path() / "one");
@@ -136,16 +135,15 @@ private Q_SLOTS:
             QCOMPARE(item->opacity(), 1.0);
     }
 
-    void nothingIsSaidOfOneThatWasNotLookedFor()
+    void saysNothingOfAFolderThatWasNotLookedFor()
     {
         scan("one");
         std::filesystem::remove_all(m_window->folder().path() / "one");
-        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
-                                  std::make_shared<SteppingDispatcher>());
-        QVERIFY(!firstDetail(recent).contains(notFound));
+        const auto recent = unseenList();
+        QVERIFY(!firstDetail(*recent).contains(notFound));
     }
 
-    void oneThatIsBackCanBeChosen()
+    void aFolderThatIsBackCanBeChosen()
     {
         scan("one");
         scan("two"); // the sidebar names it
@@ -158,22 +156,20 @@ private Q_SLOTS:
         QVERIFY(!spokenDetail(QStringLiteral("one")).contains(notFound));
     }
 
-    void eachIsListedOnceTheLastScannedFirst()
+    void listsEachRepositoryOnce()
     {
         for (const char *name : {"one", "two", "one"})
             scan(name);
-        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
-                                  std::make_shared<SteppingDispatcher>());
-        QCOMPARE(recent.count(), 2);
+        const auto recent = unseenList();
+        QCOMPARE(recent->count(), 2);
     }
 
-    void theListIsNeverLong()
+    void listsTenRepositoriesAtMost()
     {
         for (int number = 0; number < 12; ++number)
             scan(std::to_string(number));
-        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
-                                  std::make_shared<SteppingDispatcher>());
-        QCOMPARE(recent.count(), static_cast<int>(RecentRepositories::longestList));
+        const auto recent = unseenList();
+        QCOMPARE(recent->count(), static_cast<int>(RecentRepositories::longestList));
     }
 
     void whileScanningNoneCanBeChosen()
@@ -184,15 +180,14 @@ private Q_SLOTS:
         QVERIFY(!m_window->isPressable(list));
     }
 
-    void noneIsChosenBeforeItWasLookedFor()
+    void aFolderCannotBeChosenBeforeItWasLookedFor()
     {
         scan("one");
-        RecentRepositories recent(m_window->loadwick().model(), m_window->loadwick().content(),
-                                  std::make_shared<SteppingDispatcher>());
-        recent.choose(0);
+        const auto recent = unseenList();
+        recent->choose(0);
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Complete);
-        recent.choose(-1);
-        recent.choose(1);
+        recent->choose(-1);
+        recent->choose(1);
     }
 
     void clearingTheHistoryClearsTheList()
@@ -202,18 +197,72 @@ private Q_SLOTS:
         QVERIFY(!m_window->shows(list));
     }
 
+    void homeAndEndGoToTheEndsOfTheMenu_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("row");
+        QTest::newRow("home") << Qt::Key_Home << 1;
+        QTest::newRow("page up") << Qt::Key_PageUp << 1;
+        QTest::newRow("end") << Qt::Key_End << 2;
+        QTest::newRow("page down") << Qt::Key_PageDown << 2;
+    }
+
+    void homeAndEndGoToTheEndsOfTheMenu()
+    {
+        QFETCH(const Qt::Key, key);
+        QFETCH(const int, row);
+        for (const char *name : {"one", "two", "three", "four"})
+            scan(name);
+        const auto recent = unseenList();
+        for (const int end : {0, 3})
+            std::filesystem::remove_all(m_window->folder().path() /
+                                        titleOf(*recent, end).toStdString());
+        openList();
+        m_window->press(key);
+        m_window->press(Qt::Key_Return);
+        QCOMPARE(m_window->loadwick().model().selection().get()->path(),
+                 m_window->folder().path() / titleOf(*recent, row).toStdString());
+    }
+
+    void theButtonHasAToolTipUntilTheMenuWasOpen()
+    {
+        constexpr int longerThanTheDelay = 1000; // milliseconds
+        QQuickWindow &window = m_window->loadwick().window();
+        scan("one");
+        scan("two");
+        const QPoint button = middleOf(QStringLiteral("Scanned repositories"));
+        QTest::mouseMove(&window, button);
+        QTRY_VERIFY(isExplained());
+        QTest::mouseClick(&window, Qt::LeftButton, {}, button);
+        QVERIFY(!isExplained());
+        m_window->finishScan(); // what looks for the folders
+        m_window->press(Qt::Key_Down);
+        m_window->press(Qt::Key_Return);
+        QTest::qWait(longerThanTheDelay); // the pointer is still there
+        QVERIFY(!isExplained());
+        QTest::mouseMove(&window, QPoint(1, 1));
+        QTest::mouseMove(&window, button);
+        QTRY_VERIFY(isExplained());
+    }
+
 private:
+    /// Another list over the same model, which has not looked for the folders yet.
+    [[nodiscard]] std::unique_ptr<RecentRepositories> unseenList()
+    {
+        return std::make_unique<RecentRepositories>(m_window->loadwick().model(),
+                                                    m_window->loadwick().content(),
+                                                    std::make_shared<SteppingDispatcher>());
+    }
+
     void scan(const std::string &name)
     {
         std::filesystem::create_directory(m_window->folder().path() / name);
-        m_window->choose(m_window->folder().path() / name);
-        m_window->press(Qt::Key_R, Qt::ControlModifier);
-        m_window->finishScan();
+        m_window->scan(m_window->folder().path() / name);
     }
 
     void openList()
     {
-        press(list);
+        m_window->pressButton(list);
         m_window->finishScan(); // what looks for the folders
     }
 
@@ -245,11 +294,25 @@ private:
         return visibleItems(m_window->loadwick().window().contentItem(), QStringLiteral("mark"));
     }
 
-    void press(const QString &name)
+    [[nodiscard]] QPoint middleOf(const QString &name) const
     {
-        QAccessibleInterface *button = m_window->find(name);
-        QVERIFY(button != nullptr && button->actionInterface() != nullptr);
-        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        const auto *item = qobject_cast<QQuickItem *>(m_window->find(name)->object());
+        return item->mapRectToScene(item->boundingRect()).center().toPoint();
+    }
+
+    [[nodiscard]] bool isExplained() const
+    {
+        const QList<QQuickItem *> items = shownItems(*m_window->loadwick().window().contentItem());
+        return std::any_of(items.begin(), items.end(), [](const QQuickItem *item) {
+            return item->property("text").toString() ==
+                   QStringLiteral("Choose a repository that was scanned before");
+        });
+    }
+
+    [[nodiscard]] static QString titleOf(RecentRepositories &recent, int row)
+    {
+        const QAbstractItemModel &rows = *recent.rows();
+        return rows.index(row, 0).data(rows.roleNames().key("title")).toString();
     }
 
     std::unique_ptr<WindowFixture> m_window;

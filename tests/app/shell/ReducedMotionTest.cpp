@@ -1,4 +1,4 @@
-// Whether anything moves in the running window, seen frame by frame.
+// Whether anything moves in the running window, frame by frame.
 #include <functional>
 
 #include <QDeadlineTimer>
@@ -30,13 +30,13 @@ class ReducedMotionTest : public QObject
 
 private Q_SLOTS:
     void cleanup();
-    void nothingMovesWhereMotionIsUnwanted_data() { changes(); }
-    void nothingMovesWhereMotionIsUnwanted();
-    void somethingMovesWhereMotionIsWanted_data() { changes(); }
-    void somethingMovesWhereMotionIsWanted();
-    void theSheetOnlyFadesWhereMotionIsUnwanted();
-    void theSheetMovesWhereMotionIsWanted();
-    void aScanStopsTurningOnceMotionIsUnwanted();
+    void nothingMovesUnderReducedMotion_data() { changes(); }
+    void nothingMovesUnderReducedMotion();
+    void somethingMovesUnderFullMotion_data() { changes(); }
+    void somethingMovesUnderFullMotion();
+    void theSheetOnlyFadesUnderReducedMotion();
+    void theSheetMovesUnderFullMotion();
+    void aScanStopsTurningOnceMotionIsReduced();
 
 private:
     using Change = void (ReducedMotionTest::*)();
@@ -77,26 +77,26 @@ void ReducedMotionTest::changes()
     QTest::newRow("sections open") << &ReducedMotionTest::openSections;
 }
 
-void ReducedMotionTest::nothingMovesWhereMotionIsUnwanted()
+void ReducedMotionTest::nothingMovesUnderReducedMotion()
 {
     QFETCH(const Change, change);
     open(Appearance::Reduced);
     QCOMPARE(movingDuring(change).join(u' '), QString());
 }
 
-void ReducedMotionTest::somethingMovesWhereMotionIsWanted()
+void ReducedMotionTest::somethingMovesUnderFullMotion()
 {
     QFETCH(const Change, change);
     open(Appearance::Full);
     QVERIFY(!movingDuring(change).isEmpty());
 }
 
-void ReducedMotionTest::theSheetOnlyFadesWhereMotionIsUnwanted()
+void ReducedMotionTest::theSheetOnlyFadesUnderReducedMotion()
 {
     openSheet(Appearance::Reduced);
     QStringList moving = movingDuring(&ReducedMotionTest::walkThroughSheet);
     QVERIFY(moving.contains(QStringLiteral("OnboardingStepContent.opacity")));
-    // How strongly a dot stands out is what its opacity follows.
+    // The opacity of a dot follows its emphasis.
     moving.removeIf([](const QString &name) {
         return name.endsWith(QStringLiteral(".opacity")) ||
                name.endsWith(QStringLiteral(".emphasis"));
@@ -104,7 +104,7 @@ void ReducedMotionTest::theSheetOnlyFadesWhereMotionIsUnwanted()
     QCOMPARE(moving.join(u' '), QString());
 }
 
-void ReducedMotionTest::theSheetMovesWhereMotionIsWanted()
+void ReducedMotionTest::theSheetMovesUnderFullMotion()
 {
     openSheet(Appearance::Full);
     const QStringList moving = movingDuring(&ReducedMotionTest::walkThroughSheet);
@@ -113,7 +113,7 @@ void ReducedMotionTest::theSheetMovesWhereMotionIsWanted()
         QVERIFY2(moving.contains(QLatin1String(name)), name);
 }
 
-void ReducedMotionTest::aScanStopsTurningOnceMotionIsUnwanted()
+void ReducedMotionTest::aScanStopsTurningOnceMotionIsReduced()
 {
     open(Appearance::Full);
     QVERIFY(!movingDuring(&ReducedMotionTest::scan).isEmpty());
@@ -139,15 +139,15 @@ void ReducedMotionTest::openSheet(Appearance::Motion motion)
     QTest::qWait(stretchMilliseconds);
 }
 
-// What the page was put into is not looked at.
+// Ignores the way to the state in which a test begins.
 void ReducedMotionTest::settleAndBegin()
 {
     QTest::qWait(2 * stretchMilliseconds);
     m_sampler->begin();
 }
 
-// A stretch ends here: in the next one, what is laid out anew may settle again. It goes on while
-// frames come and were too few to tell.
+// Ends a stretch: in the next one, a new layout may settle again. It goes on while frames come and
+// were too few to tell.
 void ReducedMotionTest::rest(int milliseconds)
 {
     const QDeadlineTimer latest(longestMilliseconds);

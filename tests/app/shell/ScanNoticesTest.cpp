@@ -24,7 +24,7 @@ private Q_SLOTS:
         m_window.reset();
     }
 
-    void aScanThatEndsUnseenIsToldInTheWordsOfTheWindow()
+    void announcesAScanThatEndsUnseenInTheWordsOfTheWindow()
     {
         scanUnseen();
         QVERIFY(shown());
@@ -35,7 +35,7 @@ private Q_SLOTS:
                                     "which falls in the Lean band (under 30,000)."));
     }
 
-    void aFailureIsToldByItsHeadlineAndDetail()
+    void announcesAFailureByItsHeadlineAndDetail()
     {
         m_window->probe().answer = []() -> ProbeResult {
             throw ProbeError::sessionFailed("<b>Credit balance</b> is too low");
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QVERIFY(shown()->body.contains(QStringLiteral("<b>Credit balance</b> is too low")));
     }
 
-    void aScanThatEndsBeforeTheEyesIsNotTold()
+    void doesNotAnnounceAScanThatEndsInTheActiveWindow()
     {
         m_window->press(Qt::Key_R, Qt::ControlModifier);
         m_window->finishScan();
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->notices().showCount, 0);
     }
 
-    void lookingAtTheWindowTakesItBack()
+    void activatingTheWindowWithdrawsTheNotice()
     {
         scanUnseen();
         QVERIFY(shown());
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QVERIFY(!shown());
     }
 
-    void pressingItBringsTheWindow()
+    void pressingTheNoticeBringsTheWindowToTheFront()
     {
         scanUnseen();
         m_window->loadwick().window().showMinimized();
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QVERIFY(!shown());
     }
 
-    void theNextScanTakesItBack()
+    void theNextScanWithdrawsTheNotice()
     {
         scanUnseen();
         QVERIFY(shown());
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->notices().showCount, 2);
     }
 
-    void choosingIsNoEndOfAScan()
+    void choosingAFolderIsNotTheEndOfAScan()
     {
         lookElsewhere();
         m_window->loadwick().content().choose(m_window->folder().path());

@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-/// Asks nobody: answers at once with the place that a test has laid out, or not at all.
+/// Answers at once with the place that a test has set, or not at all.
 class FakeFileSaver final : public FileSaver
 {
 public:

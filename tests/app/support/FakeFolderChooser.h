@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-/// Asks nobody: answers at once with the folder that a test has laid out, or not at all.
+/// Answers at once with the folder that a test has set, or not at all.
 class FakeFolderChooser final : public FolderChooser
 {
 public:

@@ -12,8 +12,9 @@
 namespace Loadwick::LayoutAudit {
 namespace {
 
-constexpr double tolerance = 1.0; // pixels: widths of words are fractions, those of places are not
-constexpr double leastOverlap = 3.0; // of two lines that stand close
+constexpr double tolerance =
+    1.0; // pixels: the widths of words are fractions, those of items are not
+constexpr double leastOverlap = 3.0; // pixels; lines that are close overlap by less
 constexpr int tipDistance = 4;       // how far up a tool tip may hang
 
 bool isText(const QQuickItem &item)
@@ -51,14 +52,14 @@ QRectF words(const QQuickItem &text)
     return {left, top, width, height};
 }
 
-/// What the window and the items that clip leave of a place in the window.
-QRectF shownPart(const QQuickItem &item, QRectF place)
+/// The part of an area of the window that the window and the items that clip leave visible.
+QRectF shownPart(const QQuickItem &item, QRectF area)
 {
     for (const QQuickItem *holder = item.parentItem(); holder; holder = holder->parentItem()) {
         if (holder->clip() || holder->parentItem() == nullptr)
-            place &= holder->mapRectToScene(holder->boundingRect());
+            area &= holder->mapRectToScene(holder->boundingRect());
     }
-    return place;
+    return area;
 }
 
 bool isTip(const QObject &object)
@@ -92,7 +93,7 @@ QStringList faultsOf(const QQuickItem &item)
         QRectF(QPointF(), item.size()).adjusted(-tolerance, -tolerance, tolerance, tolerance);
     const QRectF painted = words(item);
     if (!own.contains(painted))
-        found << described(item) + QStringLiteral(" is larger than its place");
+        found << described(item) + QStringLiteral(" is larger than its item");
     const QRectF scene = item.mapRectToScene(painted);
     const QRectF shown = shownPart(item, scene);
     if (!shown.isEmpty() && shown.width() < scene.width() - tolerance)
@@ -117,14 +118,14 @@ bool isOnSheet(const QQuickItem &item)
 struct PaintedText
 {
     const QQuickItem *item;
-    QRectF place;
+    QRectF area;
     bool isOnSheet;
 };
 
 /// A sheet covers what is below it.
 bool overlap(const PaintedText &first, const PaintedText &second)
 {
-    const QRectF common = first.place & second.place;
+    const QRectF common = first.area & second.area;
     return first.isOnSheet == second.isOnSheet && common.width() >= leastOverlap &&
            common.height() >= leastOverlap;
 }
@@ -135,7 +136,7 @@ std::vector<PaintedText> paintedTexts(const QQuickWindow &window)
     for (const QQuickItem *item : shownItems(*window.contentItem())) {
         if (isText(*item) && hasWords(*item))
             texts.push_back({.item = item,
-                             .place = shownPart(*item, item->mapRectToScene(words(*item))),
+                             .area = shownPart(*item, item->mapRectToScene(words(*item))),
                              .isOnSheet = isOnSheet(*item)});
     }
     return texts;

@@ -9,7 +9,7 @@ namespace Loadwick {
 /// answer has one line per fault and is empty where all is well.
 namespace LayoutAudit {
 
-/// Texts that reach beyond their own place, that lie beside the window or under the edge of what
+/// Texts that reach beyond their own item, that lie beside the window or under the edge of what
 /// clips them, or that are cut short with no tool tip to tell the rest.
 [[nodiscard]] QStringList clippedTexts(QQuickWindow &window);
 

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int settlingSteps = 6; // a layout within layouts, until all of them agree
 
-/// No layout has a say in these: from one value to the next is all they may do.
+/// No layout sets these: they may change once at most.
 constexpr std::array<std::string_view, 9> paintedNumbers{
     "opacity", "scale", "rotation", "angle", "progress", "emphasis", "bob", "rise", "presence"};
 
@@ -69,12 +69,12 @@ void MotionSampler::sampleItem(const QQuickItem &item)
     note(item, "opacity", item.opacity());
     note(item, "width", item.width());
     note(item, "height", item.height());
-    // Place, scale, rotation and whatever transforms are listed, all in one.
-    const QTransform place = item.itemTransform(item.parentItem(), nullptr);
-    note(item, "x", place.dx());
-    note(item, "y", place.dy());
-    note(item, "scale", place.m11());
-    note(item, "rotation", place.m12());
+    // Position, scale, rotation and all further transforms in one.
+    const QTransform transform = item.itemTransform(item.parentItem(), nullptr);
+    note(item, "x", transform.dx());
+    note(item, "y", transform.dy());
+    note(item, "scale", transform.m11());
+    note(item, "rotation", transform.m12());
     sampleOwnNumbers(item);
 }
 

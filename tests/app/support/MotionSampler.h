@@ -13,8 +13,8 @@ namespace Loadwick {
 
 /// Looks at everything in a window before each of its frames: where each item is, how large, turned
 /// and opaque, and the numbers that the module's own types add, such as how far a chart has grown.
-/// What has values between its first and its last within one stretch of frames moves. Only what is
-/// laid out anew may take some frames to settle.
+/// A number that takes values between its first and its last within one stretch of frames moves. A
+/// new layout alone may take some frames to settle.
 class MotionSampler : public QObject
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ public:
     /// The window outlives this object.
     explicit MotionSampler(QQuickWindow &window);
 
-    /// Begins a stretch: what was seen before counts no more.
+    /// Begins a stretch: earlier frames no longer count.
     void begin();
 
     /// Frames seen since then.
     [[nodiscard]] int frameCount() const { return m_frameCount; }
 
-    /// "Type.property" of all that moved.
+    /// "Type.property" of everything that moved.
     [[nodiscard]] QStringList moving() const;
 
 private:
@@ -38,7 +38,7 @@ private:
         QString name;
         double last = 0;
         int steps = 0;     ///< frames in which it had another value than before
-        int mostSteps = 0; ///< that it may take and stand still
+        int mostSteps = 0; ///< with more, it moves
     };
 
     void sample();

@@ -8,12 +8,12 @@
 
 namespace Loadwick {
 
-/// A message bus of the test's own, with nobody on it and nobody who could be started. Its programs
-/// are connections of the test program, each by a name of its own.
+/// A private message bus without services, on which none can be activated. Its clients are
+/// connections of the test program, each under its own name.
 class PrivateBus
 {
 public:
-    /// Ends the test program when there is no bus daemon.
+    /// Ends the test program if there is no bus daemon.
     PrivateBus();
     ~PrivateBus();
 

@@ -9,10 +9,10 @@
 
 namespace Loadwick {
 
-/// A scan model over fakes, with an empty folder to scan. Its scans go on when a test says so.
+/// A scan model over fakes, with an empty folder to scan. Its scans proceed when a test says so.
 class ScanningModel
 {
-    /// What a scan left waiting holds the dispatcher that holds it: at the end, it is let run.
+    /// A pending scan and the dispatcher own each other, so pending work runs at the end.
     struct Rest
     {
         std::shared_ptr<SteppingDispatcher> dispatcher;
@@ -26,7 +26,7 @@ public:
     std::shared_ptr<FakeInstructionScanner> scanner = std::make_shared<FakeInstructionScanner>();
     std::shared_ptr<SteppingDispatcher> dispatcher = std::make_shared<SteppingDispatcher>();
     TemporaryFolder folder;
-    Rest rest{dispatcher}; ///< goes after the model, which then hears of nothing
+    Rest rest{dispatcher}; ///< destroyed after the model, which then hears of nothing
     ScanModel model;
 
     void choose();

@@ -14,7 +14,7 @@ StandInNotifications::StandInNotifications(QDBusConnection bus) : m_bus(std::mov
 {
     if (!m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots) ||
         !m_bus.registerService(service))
-        qFatal("The stand-in for notifications does not come onto the bus.");
+        qFatal("The stand-in for notifications cannot register on the bus.");
 }
 
 StandInNotifications::~StandInNotifications()

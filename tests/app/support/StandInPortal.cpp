@@ -12,7 +12,7 @@ StandInPortal::StandInPortal(QDBusConnection bus) : m_bus(std::move(bus))
 {
     if (!m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots) ||
         !m_bus.registerService(service))
-        qFatal("The stand-in portal does not come onto the bus.");
+        qFatal("The stand-in portal cannot register on the bus.");
 }
 
 StandInPortal::~StandInPortal()

@@ -11,10 +11,10 @@ class StandInProgram
 public:
     using Main = int (*)(int argc, char **argv);
 
-    /// Enters it before main. One constant of it stands in the test's file.
+    /// Registers it before main, as a constant of the test's file.
     StandInProgram(const char *name, Main main);
 
-    /// Null for a name that nobody entered.
+    /// Null for an unregistered name.
     [[nodiscard]] static Main find(const QString &name);
 };
 

@@ -9,20 +9,20 @@
 
 namespace Loadwick {
 
-/// The Qt Test classes of the program by the name of the type they test. Each test file enters its
-/// own class with a RegisteredTest; the program's main runs the one it is asked for.
+/// The Qt Test classes of the program by the name of the type they test. Each test file registers
+/// its own class with a RegisteredTest; the program's main runs the one that its argument names.
 class TestRegistry
 {
 public:
     using Maker = std::function<std::unique_ptr<QObject>()>;
 
     static void add(const QString &type, Maker make);
-    /// A new test object, or null for a name that nobody entered.
+    /// A new test object, or null for an unregistered name.
     [[nodiscard]] static std::unique_ptr<QObject> make(const QString &type);
     [[nodiscard]] static QStringList types();
 };
 
-/// Enters a test class before main. One constant of it stands at the end of each test file.
+/// Registers a test class before main, as a constant at the end of each test file.
 template<typename Test>
 class RegisteredTest
 {

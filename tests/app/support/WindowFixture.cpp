@@ -28,22 +28,20 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
 WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore,
                              const TextLocale &locale)
 {
-    // Layouts that do not settle, bindings that loop, properties that are not there. A font that
-    // lacks a script is none of it: Qt then takes another.
+    // Layouts that do not settle, bindings that loop, missing properties; but not a font that lacks
+    // a script, for which Qt takes another.
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?! *OpenType support missing)")));
     auto chooser = std::make_unique<FakeFolderChooser>();
     m_chooser = chooser.get();
     auto saver = std::make_unique<FakeFileSaver>();
     m_saver = saver.get();
     m_loadwick = std::make_unique<LoadwickWindow>(LoadwickWindow::Collaborators{
-        .probeRunner = m_probe,
-        .instructionScanner = m_scanner,
-        .historyStore = std::make_unique<ScanHistoryStore>(m_folder.path() / "history"),
+        .scan = {.probeRunner = m_probe,
+                 .instructionScanner = m_scanner,
+                 .historyStore = std::make_unique<ScanHistoryStore>(m_folder.path() / "history"),
+                 .dispatcher = m_dispatcher},
         .folderChooser = std::move(chooser),
         .fileSaver = std::move(saver),
-        .dispatcher = m_dispatcher,
-        .locale = locale,
-        .weeklyLog = m_folder.path() / "weekly.jsonl",
         .completionStore = std::move(completionStore),
         .notices =
             [this](const auto &) {
@@ -51,6 +49,8 @@ WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completi
                 m_notices = board.get();
                 return board;
             },
+        .locale = locale,
+        .weeklyLog = m_folder.path() / "weekly.jsonl",
     });
     m_loadwick->window().show();
     m_loadwick->window().requestActivate();
@@ -58,7 +58,7 @@ WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completi
         qFatal("The window does not become active.");
 }
 
-// What a scan left waiting holds the dispatcher that holds it.
+// A pending scan and the dispatcher own each other.
 WindowFixture::~WindowFixture()
 {
     destroy();
@@ -84,6 +84,20 @@ void WindowFixture::choose(const std::filesystem::path &folder)
 {
     m_chooser->answer = folder;
     press(Qt::Key_O, Qt::ControlModifier);
+}
+
+void WindowFixture::scan(const std::filesystem::path &folder)
+{
+    choose(folder);
+    press(Qt::Key_R, Qt::ControlModifier);
+    finishScan();
+}
+
+void WindowFixture::pressButton(const QString &name) const
+{
+    QAccessibleInterface *button = find(name);
+    QVERIFY2(button != nullptr && button->actionInterface() != nullptr, qPrintable(name));
+    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 QAccessibleInterface *WindowFixture::find(const QString &name) const

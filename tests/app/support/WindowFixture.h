@@ -17,12 +17,12 @@ class QAccessibleInterface;
 
 namespace Loadwick {
 
-/// The real window over fakes, shown and ready for keys. Its scans go on when a test says so. A
+/// The real window over fakes, shown and ready for keys. Its scans proceed when a test says so. A
 /// test that has one fails on every warning that Qt prints from then on.
 class WindowFixture
 {
 public:
-    /// Without a store nobody is walked through.
+    /// Without a store there is no walk-through.
     explicit WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore = {},
                            const TextLocale &locale = {});
     ~WindowFixture();
@@ -46,10 +46,14 @@ public:
     /// Ctrl+O with `folder` as the answer.
     void choose(const std::filesystem::path &folder);
     void finishScan() { m_dispatcher->runAll(); }
-    /// Lets the store be asked whether this is a first launch; the sheet's delay then begins.
+    /// One whole scan of the folder, by the keys.
+    void scan(const std::filesystem::path &folder);
+    /// Presses the button of that name as assistive technology does.
+    void pressButton(const QString &name) const;
+    /// Runs the query whether this is a first launch; the sheet's delay then begins.
     void askForFirstLaunch() { m_dispatcher->runAll(); }
 
-    /// What assistive technology finds under that name and can see; null when there is none.
+    /// What assistive technology finds visible under that name; null if there is none.
     [[nodiscard]] QAccessibleInterface *find(const QString &name) const;
     [[nodiscard]] bool shows(const QString &name) const { return find(name) != nullptr; }
     [[nodiscard]] bool isPressable(const QString &name) const;

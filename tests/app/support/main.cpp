@@ -1,5 +1,5 @@
 // Runs the Qt Test class named by the first argument; the rest goes to Qt Test. A stand-in program
-// may be named in its place.
+// may be named instead.
 #include "shell/ApplicationSetup.h"
 #include "support/StandInProgram.h"
 #include "support/TestRegistry.h"

@@ -1,4 +1,4 @@
-#include "shell/ProgramSignals.h"
+#include "shell/ProgramEnd.h"
 
 #include <csignal>
 #include <cstdio>
@@ -23,13 +23,13 @@ const char *dispositionOf(int signal)
     return action.sa_handler == SIG_IGN ? "ignored" : "handled";
 }
 
-/// Inherits the opposite of what is wanted, and prints what it is left with.
+/// Inherits the opposite of what it needs, and prints what it is left with.
 int dispositions(int, char **)
 {
     std::signal(SIGCHLD, SIG_IGN);
     std::signal(SIGPIPE, SIG_DFL);
     std::signal(SIGHUP, SIG_IGN);
-    ProgramSignals::install(std::make_shared<Shutdown>());
+    ProgramEnd::followSignals(std::make_shared<Shutdown>());
     for (const int signal : {SIGCHLD, SIGPIPE, SIGTERM, SIGINT, SIGHUP})
         std::printf("%s ", dispositionOf(signal));
     return 0;
@@ -39,7 +39,7 @@ const StandInProgram dispositionsProgram("dispositions", dispositions);
 
 } // namespace
 
-class ProgramSignalsTest : public QObject
+class ProgramEndTest : public QObject
 {
     Q_OBJECT
 
@@ -54,8 +54,8 @@ private Q_SLOTS:
     }
 };
 
-const RegisteredTest<ProgramSignalsTest> registered("ProgramSignals");
+const RegisteredTest<ProgramEndTest> registered("ProgramEnd");
 
 } // namespace Loadwick
 
-#include "ProgramSignalsTest.moc"
+#include "ProgramEndTest.moc"
