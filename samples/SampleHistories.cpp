@@ -29,7 +29,8 @@ constexpr std::array<std::string_view, 9> categories{"System tools",
 
 std::string numbered(std::string_view name, std::int64_t round)
 {
-    return std::string(name) + (round == 0 ? "" : "-" + std::to_string(round + 1));
+    const std::string first(name);
+    return round == 0 ? first : first + '-' + std::to_string(round + 1);
 }
 
 std::string nameOf(std::int64_t repository)

@@ -26,3 +26,5 @@ void RowList::copy(int row, const QString &role) const
 }
 
 } // namespace Loadwick
+
+#include "moc_ListOf.cpp"

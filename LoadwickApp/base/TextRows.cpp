@@ -38,3 +38,5 @@ QHash<int, QByteArray> TextRows::roleNames() const
 }
 
 } // namespace Loadwick
+
+#include "moc_TextRows.cpp"

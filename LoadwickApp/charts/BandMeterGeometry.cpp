@@ -139,3 +139,5 @@ std::array<BandMeterGeometry::Label, 3> BandMeterLayout::labels() const
 }
 
 } // namespace Loadwick
+
+#include "moc_BandMeterGeometry.cpp"

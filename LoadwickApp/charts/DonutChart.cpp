@@ -165,3 +165,5 @@ QColor DonutChart::colorOf(std::size_t slice) const
 }
 
 } // namespace Loadwick
+
+#include "moc_DonutChart.cpp"

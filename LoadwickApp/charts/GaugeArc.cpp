@@ -38,3 +38,5 @@ void GaugeArc::drawArc(QPainter &painter, const QColor &color, double span) cons
 }
 
 } // namespace Loadwick
+
+#include "moc_GaugeArc.cpp"

@@ -94,3 +94,5 @@ void MarkedChart::setMarks(int pointed, int chosen)
 }
 
 } // namespace Loadwick
+
+#include "moc_MarkedChart.cpp"

@@ -240,3 +240,5 @@ void TreemapChart::paintNames(QPainter &painter) const
 }
 
 } // namespace Loadwick
+
+#include "moc_TreemapChart.cpp"

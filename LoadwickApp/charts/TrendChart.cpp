@@ -109,3 +109,5 @@ const TrendPicture &TrendChart::picture() const
 }
 
 } // namespace Loadwick
+
+#include "moc_TrendChart.cpp"

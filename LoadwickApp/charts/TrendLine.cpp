@@ -83,3 +83,5 @@ QString TrendLine::total(std::size_t index) const
 }
 
 } // namespace Loadwick
+
+#include "moc_TrendLine.cpp"

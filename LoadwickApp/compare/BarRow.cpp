@@ -117,3 +117,5 @@ void BarRow::paintWords(QPainter &painter, const BarRowPlaces &places) const
 }
 
 } // namespace Loadwick
+
+#include "moc_BarRow.cpp"

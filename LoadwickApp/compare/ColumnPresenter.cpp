@@ -151,3 +151,5 @@ QHash<int, QByteArray> ColumnPresenter::roleNames() const
 }
 
 } // namespace Loadwick
+
+#include "moc_ColumnPresenter.cpp"

@@ -84,3 +84,5 @@ void CombinedPicture::paintBar(QPainter &painter, const QModelIndex &row, const 
 }
 
 } // namespace Loadwick
+
+#include "moc_CombinedPicture.cpp"

@@ -88,3 +88,5 @@ QHash<int, QByteArray> CombinedRows::roleNames() const
 }
 
 } // namespace Loadwick
+
+#include "moc_CombinedRows.cpp"

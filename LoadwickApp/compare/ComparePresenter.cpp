@@ -97,3 +97,5 @@ void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)
 }
 
 } // namespace Loadwick
+
+#include "moc_ComparePresenter.cpp"

@@ -84,3 +84,5 @@ QHash<int, QByteArray> LeaderboardRows::roleNames() const
 }
 
 } // namespace Loadwick
+
+#include "moc_LeaderboardRows.cpp"

@@ -23,3 +23,5 @@ bool ShortcutPass::eventFilter(QObject *watched, QEvent *event)
 }
 
 } // namespace Loadwick
+
+#include "moc_ShortcutPass.cpp"

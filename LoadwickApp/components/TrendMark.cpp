@@ -34,3 +34,5 @@ TrendMark TrendMark::of(std::optional<TrendDirection> trend, std::optional<std::
 }
 
 } // namespace Loadwick
+
+#include "moc_TrendMark.cpp"

@@ -140,3 +140,5 @@ void DesktopNoticeBoard::followAction(const QDBusMessage &signal)
 }
 
 } // namespace Loadwick
+
+#include "moc_DesktopNoticeBoard.cpp"

@@ -125,3 +125,5 @@ void SingleInstance::answer(int descriptor)
 }
 
 } // namespace Loadwick
+
+#include "moc_SingleInstance.cpp"

@@ -116,3 +116,5 @@ FileDialog *FileDialogPlace::newDialog()
 }
 
 } // namespace Loadwick
+
+#include "moc_FileDialog.cpp"

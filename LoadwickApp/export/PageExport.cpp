@@ -87,3 +87,5 @@ void PageExport::tell(const FileSaver::Place &place, const std::error_code &fail
 }
 
 } // namespace Loadwick
+
+#include "moc_PageExport.cpp"

@@ -82,3 +82,5 @@ double PictureFrame::headingHeight(double width) const
 }
 
 } // namespace Loadwick
+
+#include "moc_PictureFrame.cpp"

@@ -111,3 +111,5 @@ QImage Symbol::drawn(int side)
 }
 
 } // namespace Loadwick
+
+#include "moc_Symbol.cpp"

@@ -151,3 +151,5 @@ void OnboardingPresenter::move(void (OnboardingFlow::*way)())
 }
 
 } // namespace Loadwick
+
+#include "moc_OnboardingPresenter.cpp"

@@ -112,3 +112,5 @@ QString BandPresenter::bandTitle() const
 }
 
 } // namespace Loadwick
+
+#include "moc_BandPresenter.cpp"

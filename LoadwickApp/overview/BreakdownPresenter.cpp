@@ -97,3 +97,5 @@ QString BreakdownPresenter::summaryOfChart() const
 }
 
 } // namespace Loadwick
+
+#include "moc_BreakdownPresenter.cpp"

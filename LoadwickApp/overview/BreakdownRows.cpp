@@ -80,3 +80,5 @@ QHash<int, QByteArray> BreakdownRows::roleNames() const
 }
 
 } // namespace Loadwick
+
+#include "moc_BreakdownRows.cpp"

@@ -117,3 +117,5 @@ QString InstructionFileRows::grouped(std::int64_t number) const
 }
 
 } // namespace Loadwick
+
+#include "moc_InstructionFileRows.cpp"

@@ -83,3 +83,5 @@ void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &co
 }
 
 } // namespace Loadwick
+
+#include "moc_InstructionFilesPresenter.cpp"

@@ -107,3 +107,5 @@ void OverviewPresenter::showCurrentState()
 }
 
 } // namespace Loadwick
+
+#include "moc_OverviewPresenter.cpp"

@@ -61,3 +61,5 @@ WeeklyPresenter::Figure WeeklyPresenter::figure(std::int64_t tokens, std::int64_
 }
 
 } // namespace Loadwick
+
+#include "moc_WeeklyPresenter.cpp"

@@ -164,3 +164,5 @@ void ContentPresenter::showPage(AppPage page)
 }
 
 } // namespace Loadwick
+
+#include "moc_ContentPresenter.cpp"

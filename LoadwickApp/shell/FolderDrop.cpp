@@ -48,3 +48,5 @@ std::optional<std::filesystem::path> FolderDrop::onlyFolder(const QList<QUrl> &u
 }
 
 } // namespace Loadwick
+
+#include "moc_FolderDrop.cpp"

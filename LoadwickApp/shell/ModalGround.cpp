@@ -126,3 +126,5 @@ bool ModalGround::hides(const QQuickItem &item)
 }
 
 } // namespace Loadwick
+
+#include "moc_ModalGround.cpp"

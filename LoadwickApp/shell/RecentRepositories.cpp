@@ -81,3 +81,5 @@ void RecentRepositories::choose(int row)
 }
 
 } // namespace Loadwick
+
+#include "moc_RecentRepositories.cpp"

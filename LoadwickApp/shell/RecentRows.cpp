@@ -69,3 +69,5 @@ QHash<int, QByteArray> RecentRows::roleNames() const
 }
 
 } // namespace Loadwick
+
+#include "moc_RecentRows.cpp"

@@ -48,3 +48,5 @@ NoticeBoard::Notice ScanNotices::notice() const
 }
 
 } // namespace Loadwick
+
+#include "moc_ScanNotices.cpp"

@@ -86,3 +86,5 @@ void Appearance::setContrast(Contrast contrast)
 }
 
 } // namespace Loadwick
+
+#include "moc_Appearance.cpp"

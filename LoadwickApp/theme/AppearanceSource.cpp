@@ -24,3 +24,5 @@ double DesktopWishes::textScale() const
 }
 
 } // namespace Loadwick
+
+#include "moc_AppearanceSource.cpp"

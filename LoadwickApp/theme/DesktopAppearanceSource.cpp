@@ -57,3 +57,5 @@ void DesktopAppearanceSource::ask()
 }
 
 } // namespace Loadwick
+
+#include "moc_DesktopAppearanceSource.cpp"

@@ -144,3 +144,5 @@ void KdeAppearanceSource::show(const DesktopWishes &wishes)
 }
 
 } // namespace Loadwick
+
+#include "moc_KdeAppearanceSource.cpp"

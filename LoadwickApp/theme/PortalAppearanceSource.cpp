@@ -188,3 +188,5 @@ void PortalAppearanceSource::take(const QString &space, const QString &name, con
 }
 
 } // namespace Loadwick
+
+#include "moc_PortalAppearanceSource.cpp"

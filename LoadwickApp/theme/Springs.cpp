@@ -71,3 +71,5 @@ Springs::Springs(QObject *parent)
 {}
 
 } // namespace Loadwick
+
+#include "moc_Springs.cpp"

@@ -60,3 +60,5 @@ QString PreviousRunRows::placeOf(const RecordedScan &scan) const
 }
 
 } // namespace Loadwick
+
+#include "moc_PreviousRunRows.cpp"

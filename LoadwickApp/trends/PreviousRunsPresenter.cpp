@@ -20,3 +20,5 @@ void PreviousRunsPresenter::show(std::span<const RecordedScan> history)
 }
 
 } // namespace Loadwick
+
+#include "moc_PreviousRunsPresenter.cpp"

@@ -44,3 +44,5 @@ void RecordedDataPresenter::clear()
 }
 
 } // namespace Loadwick
+
+#include "moc_RecordedDataPresenter.cpp"

@@ -97,3 +97,5 @@ QString TrendChartPresenter::periodOf(const std::vector<LineSample> &samples) co
 }
 
 } // namespace Loadwick
+
+#include "moc_TrendChartPresenter.cpp"

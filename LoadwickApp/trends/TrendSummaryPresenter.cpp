@@ -30,3 +30,5 @@ void TrendSummaryPresenter::word(std::span<const LineSample> samples)
 }
 
 } // namespace Loadwick
+
+#include "moc_TrendSummaryPresenter.cpp"

@@ -78,3 +78,5 @@ void TrendsPresenter::showHistory()
 }
 
 } // namespace Loadwick
+
+#include "moc_TrendsPresenter.cpp"
