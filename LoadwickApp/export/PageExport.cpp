@@ -6,24 +6,11 @@
 
 #include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
-#include "export/SavingFailure.h"
-#include "posix/AtomicFile.h"
+#include "export/SavedFile.h"
 #include "text/PathText.h"
 
 namespace Loadwick {
 namespace {
-
-/// Empty when the file is there.
-std::error_code writeFile(const FileSaver::Place &place, const QByteArray &bytes)
-{
-    std::error_code unknown;
-    if (!place.mayReplace && std::filesystem::exists(place.file, unknown))
-        return std::make_error_code(std::errc::file_exists);
-    if (bytes.isEmpty()) // a picture too large to be made
-        return std::make_error_code(std::errc::not_enough_memory);
-    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return AtomicFile::replace(place.file, content);
-}
 
 bool isDrawing(const std::filesystem::path &file)
 {
@@ -62,15 +49,14 @@ void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
         .filters = {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)")}};
     m_saver.open(request, [page, shown, around](const FileSaver::Place &place) {
         if (page && shown && around)
-            page->write(place, isDrawing(place.file) ? ChartFile::svg(*shown, *around)
-                                                     : ChartFile::png(*shown, *around));
+            page->write(place, isDrawing(place.file) ? around->svg(*shown) : around->png(*shown));
     });
 }
 
-void PageExport::write(const FileSaver::Place &place, const ChartFile::Bytes &bytes)
+void PageExport::write(const FileSaver::Place &place, const PictureFrame::Bytes &bytes)
 {
     const bool isStarted = inBackground(
-        this, m_dispatcher, [place, bytes] { return writeFile(place, bytes()); },
+        this, m_dispatcher, [place, bytes] { return SavedFile::write(place, bytes()); },
         [this, place](const std::error_code &failure) { tell(place, failure); });
     if (!isStarted)
         tell(place, std::make_error_code(std::errc::resource_unavailable_try_again));
@@ -80,9 +66,8 @@ void PageExport::tell(const FileSaver::Place &place, const std::error_code &fail
 {
     m_failed = static_cast<bool>(failure);
     const QString file = qtText(pathText(place.file));
-    m_outcome = m_failed
-                    ? tr("%1 could not be written: %2").arg(file, SavingFailure::reason(failure))
-                    : tr("Saved as %1.").arg(file);
+    m_outcome = m_failed ? tr("%1 could not be written: %2").arg(file, SavedFile::reason(failure))
+                         : tr("Saved as %1.").arg(file);
     Q_EMIT changed();
 }
 

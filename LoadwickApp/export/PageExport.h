@@ -11,7 +11,6 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "dialogs/FileSaver.h"
-#include "export/ChartFile.h"
 #include "export/PictureFrame.h"
 #include "model/TaskDispatcher.h"
 
@@ -51,7 +50,7 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void write(const FileSaver::Place &place, const ChartFile::Bytes &bytes);
+    void write(const FileSaver::Place &place, const PictureFrame::Bytes &bytes);
     void tell(const FileSaver::Place &place, const std::error_code &failure);
 
     Contents m_contents;

@@ -2,7 +2,10 @@
 
 #include <cmath>
 
+#include <QBuffer>
 #include <QGuiApplication>
+#include <QImage>
+#include <QSvgGenerator>
 #include <QTextLayout>
 #include <QTextOption>
 
@@ -12,6 +15,8 @@ namespace {
 constexpr int margin = 16;
 constexpr double lineGap = 2;
 constexpr double chartGap = 16;
+constexpr int pixelsPerPoint = 2;
+constexpr int tallestImage = 32'000; // many programs open no larger picture
 
 /// Breaks the words into lines of that width at most and gives the height of all of them. A name
 /// from outside may be one long word, or hold line feeds.
@@ -52,6 +57,47 @@ void write(QPainter &painter, const QString &words, const QFont &font, double wi
 }
 
 } // namespace
+
+PictureFrame::Bytes PictureFrame::png(QQuickPaintedItem &chart) const
+{
+    QImage image(sizeWith(chart) * pixelsPerPoint, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.scale(pixelsPerPoint, pixelsPerPoint);
+    paintWith(chart, painter);
+    painter.end();
+    return [image] {
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        image.save(&file, "PNG");
+        return file.data();
+    };
+}
+
+PictureFrame::Bytes PictureFrame::svg(QQuickPaintedItem &chart) const
+{
+    QBuffer file;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&file);
+    generator.setTitle(m_title);
+    generator.setSize(sizeWith(chart));
+    generator.setViewBox(QRect(QPoint(0, 0), sizeWith(chart)));
+    QPainter painter(&generator);
+    paintWith(chart, painter);
+    painter.end();
+    return [bytes = file.data()] { return bytes; };
+}
+
+QSize PictureFrame::sizeWith(const QQuickPaintedItem &chart) const
+{
+    return sizeAround(chart.size()).boundedTo(QSize(tallestImage, tallestImage) / pixelsPerPoint);
+}
+
+void PictureFrame::paintWith(QQuickPaintedItem &chart, QPainter &painter) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint(painter, sizeWith(chart));
+    chart.paint(&painter);
+}
 
 QSize PictureFrame::sizeAround(const QSizeF &chart) const
 {

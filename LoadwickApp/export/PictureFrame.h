@@ -1,18 +1,22 @@
 #pragma once
 
+#include <functional>
+
+#include <QByteArray>
 #include <QColor>
 #include <QFont>
 #include <QList>
 #include <QObject>
 #include <QPainter>
+#include <QQuickPaintedItem>
 #include <QSize>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
 namespace Loadwick {
 
-/// What a saved picture of a chart has around the chart: a ground, a margin, and above the chart
-/// the words without which its figures say nothing elsewhere. Lengths are points.
+/// Makes files of charts. Around the chart such a picture has a ground, a margin, and above the
+/// chart the words that explain its figures outside the program. Lengths are points.
 class PictureFrame : public QObject
 {
     Q_OBJECT
@@ -29,9 +33,16 @@ class PictureFrame : public QObject
 public:
     using QObject::QObject;
 
-    [[nodiscard]] const QString &title() const { return m_title; }
+    /// Makes the bytes of a file; may be called on any thread.
+    using Bytes = std::function<QByteArray()>;
 
-    /// Of a picture with a chart of that size.
+    /// The chart as it is now, at twice its size.
+    [[nodiscard]] Bytes png(QQuickPaintedItem &chart) const;
+
+    /// The chart as it is now, drawn with lines and letters.
+    [[nodiscard]] Bytes svg(QQuickPaintedItem &chart) const;
+
+    /// The size of a picture with a chart of that size.
     [[nodiscard]] QSize sizeAround(const QSizeF &chart) const;
 
     /// Fills a picture of that size, writes the words, and leaves the painter's origin where the
@@ -39,6 +50,8 @@ public:
     void paint(QPainter &painter, const QSize &size) const;
 
 private:
+    [[nodiscard]] QSize sizeWith(const QQuickPaintedItem &chart) const;
+    void paintWith(QQuickPaintedItem &chart, QPainter &painter) const;
     [[nodiscard]] double headingHeight(double width) const;
 
     QString m_title;

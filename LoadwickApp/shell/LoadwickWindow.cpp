@@ -9,7 +9,7 @@
 #include "base/QmlObject.h"
 #include "base/QtTaskDispatcher.h"
 #include "desktop/DesktopNoticeBoard.h"
-#include "export/FileName.h"
+#include "export/SavedFile.h"
 #include "history/WeeklyKPIReader.h"
 #include "onboarding/PreferencesCompletionStore.h"
 #include "posix/ProcessContext.h"
@@ -125,7 +125,8 @@ void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatc
     m_folderDrop = std::make_unique<FolderDrop>(*m_content, dispatcher);
     m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher);
     const auto trendName = [this] {
-        return FileName::suggested(QStringLiteral("loadwick-trend"), m_trends->repositoryName());
+        return SavedFile::suggestedName(QStringLiteral("loadwick-trend"),
+                                        m_trends->repositoryName());
     };
     m_trendsExport = std::make_unique<PageExport>(
         PageExport::Contents{.name = trendName, .table = [this] { return m_trends->table(); }},

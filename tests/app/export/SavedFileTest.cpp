@@ -1,4 +1,4 @@
-#include "export/SavingFailure.h"
+#include "export/SavedFile.h"
 
 #include <QTest>
 
@@ -6,11 +6,38 @@
 
 namespace Loadwick {
 
-class SavingFailureTest : public QObject
+class SavedFileTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aSuggestedNameNamesTheRepository()
+    {
+        QCOMPARE(SavedFile::suggestedName(QStringLiteral("trend"), QStringLiteral("web_shop.2")),
+                 QStringLiteral("trend-web_shop.2"));
+        QCOMPARE(SavedFile::suggestedName(QStringLiteral("trend"), QStringLiteral("Käse日")),
+                 QStringLiteral("trend-Käse日"));
+    }
+
+    void aSuggestedNameIsTheKindAloneWithoutARepository()
+    {
+        QCOMPARE(SavedFile::suggestedName(QStringLiteral("trend"), QString()),
+                 QStringLiteral("trend"));
+    }
+
+    void aSuggestedNameLeadsToNoOtherFolder()
+    {
+        QCOMPARE(
+            SavedFile::suggestedName(QStringLiteral("trend"), QStringLiteral("../a b\n\u202Ec")),
+            QStringLiteral("trend-..-a-b--c"));
+    }
+
+    void aSuggestedNameIsNeverLong()
+    {
+        const QString name = SavedFile::suggestedName(QStringLiteral("trend"), QString(300, u'x'));
+        QCOMPARE(name.size(), 6 + 60);
+    }
+
     void everyUsualFailureHasPlainWords_data()
     {
         QTest::addColumn<int>("failure");
@@ -34,24 +61,24 @@ private Q_SLOTS:
     {
         QFETCH(int, failure);
         QFETCH(QString, words);
-        QCOMPARE(SavingFailure::reason({failure, std::generic_category()}), words);
+        QCOMPARE(SavedFile::reason({failure, std::generic_category()}), words);
     }
 
     void aQuotaThatIsUsedUpIsAFullDisk()
     {
-        QCOMPARE(SavingFailure::reason({EDQUOT, std::generic_category()}),
+        QCOMPARE(SavedFile::reason({EDQUOT, std::generic_category()}),
                  QStringLiteral("the disk is full."));
     }
 
     void anyOtherFailureHasTheSystemsWords()
     {
-        QCOMPARE(SavingFailure::reason(std::make_error_code(std::errc::io_error)),
+        QCOMPARE(SavedFile::reason(std::make_error_code(std::errc::io_error)),
                  QStringLiteral("the system says \"Input/output error\"."));
     }
 };
 
-const RegisteredTest<SavingFailureTest> registered("SavingFailure");
+const RegisteredTest<SavedFileTest> registered("SavedFile");
 
 } // namespace Loadwick
 
-#include "SavingFailureTest.moc"
+#include "SavedFileTest.moc"

@@ -1,0 +1,59 @@
+#include "export/SavedFile.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "posix/AtomicFile.h"
+
+namespace Loadwick {
+
+QString SavedFile::suggestedName(const QString &kind, const QString &repositoryName)
+{
+    constexpr qsizetype longest = 60;
+    constexpr QChar dash = u'-';
+    QString name = repositoryName.left(longest);
+    const auto stays = [](QChar letter) {
+        return letter.isLetterOrNumber() || letter == u'.' || letter == u'_';
+    };
+    std::replace_if(
+        name.begin(), name.end(), [&](QChar letter) { return !stays(letter); }, dash);
+    return name.isEmpty() ? kind : kind + dash + name;
+}
+
+std::error_code SavedFile::write(const FileSaver::Place &place, const QByteArray &bytes)
+{
+    std::error_code unknown;
+    if (!place.mayReplace && std::filesystem::exists(place.file, unknown))
+        return std::make_error_code(std::errc::file_exists);
+    if (bytes.isEmpty()) // a picture too large to be made
+        return std::make_error_code(std::errc::not_enough_memory);
+    const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return AtomicFile::replace(place.file, content);
+}
+
+QString SavedFile::reason(const std::error_code &failure)
+{
+    switch (failure.value()) {
+    case EEXIST:
+        return tr("a file of that name is there already. Choose another name.");
+    case EISDIR:
+        return tr("a folder has that name. Choose another name.");
+    case ENAMETOOLONG:
+        return tr("its name is too long.");
+    case ENOENT:
+    case ENOTDIR:
+        return tr("its folder is not there.");
+    case EACCES:
+    case EPERM:
+        return tr("you may not write in that folder.");
+    case EROFS:
+        return tr("that disk cannot be written to.");
+    case ENOSPC:
+    case EDQUOT:
+        return tr("the disk is full.");
+    default:
+        return tr("the system says \"%1\".").arg(QString::fromStdString(failure.message()));
+    }
+}
+
+} // namespace Loadwick
