@@ -34,15 +34,6 @@ public:
         : QAccessibleQuickItem(&button), m_button(button)
     {}
 
-    QString text(QAccessible::Text kind) const override
-    {
-        const QString words = QAccessibleQuickItem::text(kind);
-        // The lines of Qt's own file dialogs have no words but in what they draw.
-        return kind == QAccessible::Name && words.isEmpty()
-                   ? m_button.property("fileName").toString()
-                   : words;
-    }
-
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleQuickItem::state();

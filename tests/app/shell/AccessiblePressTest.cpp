@@ -40,12 +40,6 @@ private Q_SLOTS:
         QVERIFY(!accessible(*button)->state().disabled);
     }
 
-    void aLineOfAFileDialogHasTheNameOfItsFile()
-    {
-        const auto line = make("ItemDelegate { property string fileName: 'webshop' }");
-        QCOMPARE(accessible(*line)->text(QAccessible::Name), QStringLiteral("webshop"));
-    }
-
     void pressTriggersTheAction()
     {
         const auto button =
