@@ -31,14 +31,18 @@ QPalette paletteOf(const QObject &look)
     return palette;
 }
 
-/// For the class of all widgets: the application's own palette remains the desktop's, by which a
-/// PaletteAppearanceSource tells whether the desktop is dark.
-void apply(const QObject &look)
+/// The class of all widgets is for the dialog's menus, lists that drop down and tool tips. The
+/// application's own palette remains the desktop's, by which a PaletteAppearanceSource tells
+/// whether the desktop is dark.
+void apply(const QObject &look, QWidget &dialog)
 {
     const QPalette palette = paletteOf(look);
     if (QApplication::palette("QWidget") != palette)
         QApplication::setPalette(palette, "QWidget");
-    QApplication::setFont(look.property("font").value<QFont>(), "QWidget");
+    dialog.setPalette(palette);
+    const auto font = look.property("font").value<QFont>();
+    QApplication::setFont(font, "QWidget");
+    dialog.setFont(font);
 }
 
 } // namespace
@@ -52,10 +56,10 @@ void follow(QWindow &window, QWidget &dialog)
     const QUrl page(QStringLiteral("qrc:/qt/qml/Loadwick/DialogLook.qml"));
     QObject *look = qmlObject(*engine, page, {}, failure).release();
     look->setParent(&dialog);
-    apply(*look);
+    apply(*look, dialog);
     const int type = qmlTypeId("Loadwick", 1, 0, "Appearance");
     QObject::connect(engine->singletonInstance<Appearance *>(type), &Appearance::changed, &dialog,
-                     [look] { apply(*look); });
+                     [look, &dialog] { apply(*look, dialog); });
 }
 
 } // namespace Loadwick::DialogLook

@@ -83,9 +83,12 @@ void FileDialog::accept()
 /// A typed address can name a folder whose name is not UTF-8, which Qt's dialog does not list.
 bool FileDialog::takesAddress(const QString &text)
 {
+    m_addressed.reset();
     if (fileMode() == Directory && text.startsWith(QLatin1String("file:")))
         m_addressed = folderPath(QUrl(text));
-    return m_addressed && isFolder(*m_addressed);
+    if (m_addressed && !isFolder(*m_addressed))
+        m_addressed.reset();
+    return m_addressed.has_value();
 }
 
 void FileDialog::childEvent(QChildEvent *event)
@@ -110,8 +113,10 @@ FileDialog *FileDialogPlace::newDialog()
         return nullptr;
     m_dialog = new FileDialog(*m_window);
     m_dialog->setDirectoryUrl(m_folder);
-    QObject::connect(m_dialog, &QDialog::finished, m_dialog,
-                     [this] { m_folder = m_dialog->directoryUrl(); });
+    QObject::connect(m_dialog, &QDialog::finished, m_dialog, [this] {
+        m_folder = m_dialog->directoryUrl();
+        m_dialog = nullptr; // it deletes itself
+    });
     return m_dialog;
 }
 

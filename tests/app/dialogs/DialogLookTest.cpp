@@ -43,10 +43,11 @@ void DialogLookTest::init()
     window.setData("import QtQuick\nWindow {}", {});
     m_window.reset(qobject_cast<QQuickWindow *>(window.create()));
     m_dialog = std::make_unique<QWidget>();
+    m_dialog->show();
+    DialogLook::follow(*m_window, *m_dialog);
     const int type = qmlTypeId("Loadwick", 1, 0, "Appearance");
     m_appearance = m_engine->singletonInstance<Appearance *>(type);
     m_appearance->setScheme(Appearance::Light);
-    DialogLook::follow(*m_window, *m_dialog);
 }
 
 void DialogLookTest::cleanup()

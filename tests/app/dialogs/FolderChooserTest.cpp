@@ -26,6 +26,7 @@ private Q_SLOTS:
     void choosesTheFolderThatIsTyped();
     void staysOpenForWhatIsNoFolder_data();
     void staysOpenForWhatIsNoFolder();
+    void forgetsAnAddressOfNothing();
     void choosesAFolderWhoseNameIsNotUtf8();
     void givesNothingWhenTheUserCancels();
     void asksOnceAtATime();
@@ -136,6 +137,13 @@ void FolderChooserTest::staysOpenForWhatIsNoFolder()
     (void)DialogFixture::pressEnterAndAnswer(QDialogButtonBox::Ok);
     QVERIFY(!m_chosen);
     QVERIFY(DialogFixture::dialog() != nullptr);
+}
+
+void FolderChooserTest::forgetsAnAddressOfNothing()
+{
+    open();
+    m_fixture->type("file://$/nowhere");
+    (void)DialogFixture::pressEnterAndAnswer(QDialogButtonBox::Ok);
     m_fixture->type("api");
     DialogFixture::press(Qt::Key_Enter);
     QCOMPARE(m_chosen, root() / "api");

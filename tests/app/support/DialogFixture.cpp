@@ -49,6 +49,7 @@ QStringList DialogFixture::listedNames(int count)
         QStringList listed;
         for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
             listed += list->model()->index(row, 0, list->rootIndex()).data().toString();
+        listed.sort();
         return listed;
     };
     (void)QTest::qWaitFor([&] { return names().size() == count; });
@@ -57,9 +58,7 @@ QStringList DialogFixture::listedNames(int count)
 
 void DialogFixture::type(const QByteArray &text) const
 {
-    nameField().clear();
-    QTest::keyClicks(&nameField(),
-                     QString::fromUtf8(QByteArray(text).replace('$', root().c_str())));
+    nameField().setText(QString::fromUtf8(QByteArray(text).replace('$', root().c_str())));
 }
 
 void DialogFixture::press(Qt::Key key)

@@ -33,10 +33,10 @@ public:
     [[nodiscard]] static QFileDialog *dialog();
     [[nodiscard]] static QLineEdit &nameField();
     [[nodiscard]] static QPushButton &button(QDialogButtonBox::StandardButton which);
-    /// The names in the list, once there are that many.
+    /// The names in the list, sorted, once there are that many.
     [[nodiscard]] static QStringList listedNames(int count);
 
-    /// In place of what stands in the name field; "$" is the path of the folder.
+    /// Replaces what is in the name field; "$" is the path of the folder.
     void type(const QByteArray &text) const;
     static void press(Qt::Key key);
     /// Presses Enter and answers the question that this leads to; gives its words, or nothing when
