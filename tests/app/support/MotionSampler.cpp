@@ -25,10 +25,11 @@ int mostSteps(const char *property)
     return isPainted ? 1 : settlingSteps;
 }
 
+/// An inline component bears its bare name.
 bool isOwnType(const QMetaObject &type)
 {
     const QByteArray name = type.className();
-    return name.contains("_QML") || name.startsWith("Loadwick::");
+    return name.contains("_QML") || !name.startsWith('Q');
 }
 
 } // namespace
