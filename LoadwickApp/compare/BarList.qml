@@ -1,14 +1,22 @@
 import QtQuick
 import Loadwick
 
-// The rows of a bar chart, as a list that can be read row by row. What is too long for a row is said
-// while the pointer is on it.
+// The rows of a bar chart, as a list that can be read row by row. While the pointer is on a row that
+// cannot show all it has to say, a tool tip does.
 LongList {
     id: list
 
     required property BarStyle style
-    // Of the bars that have no colour of their own.
-    property color fill: AppTheme.quietFill
+
+    // How all bars look, in the theme's fonts and colours.
+    component Style: BarStyle {
+        nameFont: AppTheme.captionFont
+        valueFont: AppTheme.captionStrongFont
+        headingFont: AppTheme.bodyStrongFont
+        text: AppTheme.text
+        secondaryText: AppTheme.secondaryText
+        track: AppTheme.quietFill
+    }
 
     HoverTip {
         id: tip

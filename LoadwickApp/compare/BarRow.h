@@ -1,31 +1,86 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPointer>
 #include <QQuickPaintedItem>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "compare/BarRowPlaces.h"
-#include "compare/BarStyle.h"
-
 namespace Loadwick {
 
+/// What the bars of one chart have in common: their fonts and colours, the columns that keep the
+/// figures of all rows on one line, and the side on which reading begins.
+class BarStyle : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QFont nameFont MEMBER nameFont NOTIFY changed)
+    Q_PROPERTY(QFont valueFont MEMBER valueFont NOTIFY changed)
+    Q_PROPERTY(QFont headingFont MEMBER headingFont NOTIFY changed)
+    Q_PROPERTY(QColor text MEMBER text NOTIFY changed)
+    Q_PROPERTY(QColor secondaryText MEMBER secondaryText NOTIFY changed)
+    Q_PROPERTY(QColor track MEMBER track NOTIFY changed)
+    Q_PROPERTY(qreal nameWidth MEMBER nameWidth NOTIFY changed)
+    Q_PROPERTY(qreal valueWidth MEMBER valueWidth NOTIFY changed)
+    Q_PROPERTY(bool isMirrored MEMBER isMirrored NOTIFY changed)
+
+public:
+    using QObject::QObject;
+
+    QFont nameFont;
+    QFont valueFont;
+    QFont headingFont; ///< of a row that names those below it
+    QColor text;
+    QColor secondaryText;
+    QColor track;            ///< behind a bar, as long as a bar can be
+    qreal nameWidth = 0;     ///< pixels, where name, bar and figure share a line
+    qreal valueWidth = 0;    ///< the same
+    bool isMirrored = false; ///< lines begin at the right
+
+Q_SIGNALS:
+    void changed();
+};
+
+/// Where the parts of a bar chart's row are; a part that a row does not have is empty.
+struct BarRowPlaces
+{
+    QRectF name;
+    QRectF value;
+    QRectF track; ///< as long as a bar can be
+    QRectF bar;
+
+    /// Name and figure over the bar. The figure takes its `valueWidth`, the name the rest.
+    [[nodiscard]] static BarRowPlaces stacked(const QSizeF &row, qreal lineHeight, qreal valueWidth,
+                                              double length);
+
+    /// Name, bar and figure on one line, in columns. `length` is how much of the track the bar
+    /// fills, 0 to 1.
+    [[nodiscard]] static BarRowPlaces inLine(const QSizeF &row, qreal nameWidth, qreal valueWidth,
+                                             double length);
+
+    /// A name alone, low over the rows that it names.
+    [[nodiscard]] static BarRowPlaces heading(const QSizeF &row, qreal lineHeight);
+
+    /// The same row for readers who begin at the right.
+    [[nodiscard]] BarRowPlaces mirrored(qreal rowWidth) const;
+};
+
 /// One row of a bar chart, painted: a name, a figure and a bar on the track of its scale. One item
-/// in place of five, because a page of bars has hundreds that come and go as it scrolls. A name
-/// that does not fit leaves out its middle, a figure never does.
+/// rather than five, because a page of bars has hundreds that come and go as it scrolls. A name
+/// that does not fit loses its middle, a figure never does.
 class BarRow : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Loadwick::BarStyle *style READ style WRITE setStyle NOTIFY styleChanged)
-    Q_PROPERTY(Arrangement arrangement MEMBER m_arrangement NOTIFY changed)
-    Q_PROPERTY(QString name MEMBER m_name NOTIFY changed)
-    Q_PROPERTY(QString place MEMBER m_place NOTIFY changed)
-    Q_PROPERTY(QString value MEMBER m_value NOTIFY changed)
-    Q_PROPERTY(double length MEMBER m_length NOTIFY changed)
-    Q_PROPERTY(bool isRecorded MEMBER m_isRecorded NOTIFY changed)
-    Q_PROPERTY(QColor fill MEMBER m_fill NOTIFY changed)
+    Q_PROPERTY(Arrangement arrangement MEMBER arrangement NOTIFY changed)
+    Q_PROPERTY(QString name MEMBER name NOTIFY changed)
+    Q_PROPERTY(QString place MEMBER place NOTIFY changed)
+    Q_PROPERTY(QString value MEMBER value NOTIFY changed)
+    Q_PROPERTY(double length MEMBER length NOTIFY changed)
+    Q_PROPERTY(bool isRecorded MEMBER isRecorded NOTIFY changed)
+    Q_PROPERTY(QColor fill MEMBER fill NOTIFY changed)
     Q_PROPERTY(QString tip READ tip NOTIFY changed)
 
 public:
@@ -43,13 +98,21 @@ public:
     /// Nothing is painted without one.
     void setStyle(BarStyle *style);
 
-    /// What a tool tip has to add to what is painted: the name where it is cut short, or with the
-    /// place that tells it from its equals. Empty where it has nothing.
+    /// What a tool tip adds to what is painted: the whole name where it is cut, or the name with
+    /// the path that tells it from its namesakes. Empty where there is nothing to add.
     [[nodiscard]] QString tip() const;
 
     [[nodiscard]] BarRowPlaces places() const;
 
     void paint(QPainter *painter) override;
+
+    Arrangement arrangement = Stacked;
+    QString name;
+    QString place; ///< the path of the repository of that name, empty for a category
+    QString value;
+    double length = 0; ///< of the bar, 0 to 1
+    bool isRecorded = true;
+    QColor fill;
 
 Q_SIGNALS:
     void changed();
@@ -63,13 +126,6 @@ private:
     void paintBar(QPainter &painter, const BarRowPlaces &places) const;
 
     QPointer<BarStyle> m_style;
-    Arrangement m_arrangement = Stacked;
-    QString m_name;
-    QString m_place;
-    QString m_value;
-    double m_length = 0; ///< of the bar, 0 to 1
-    bool m_isRecorded = true;
-    QColor m_fill;
 };
 
 } // namespace Loadwick

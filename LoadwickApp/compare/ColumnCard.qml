@@ -7,11 +7,11 @@ ReportSurface {
     id: card
 
     required property ComparePresenter compare
-    // Among all repositories: their colours start again when they are used up.
+    // The repository's position among all: after five, the colours start again.
     required property int place
     required property Flickable viewport
     required property BarStyle style
-    // Whether it has rows before the page comes near: cards come near three at a time.
+    // Whether it has rows before it is in sight: three cards come into sight at a time.
     required property bool isFilled
     readonly property ColumnPresenter column: ColumnPresenter {
         compare: card.compare
@@ -48,14 +48,34 @@ ReportSurface {
             y: line.y + line.height + card.spacing
             width: parent.width
             Accessible.name: card.column.chartName
-            model: card.column
+            model: card.column.bars
             viewport: card.viewport
             shortCount: card.compare.isLarge ? 0 : 60
             isFilled: card.isFilled
             rowHeight: AppTheme.barRowHeight
-            delegate: ColumnBar { }
             style: card.style
-            fill: card.fill
+            // One category: its name and its tokens over its bar.
+            delegate: BarRow {
+                id: bar
+
+                required property string category
+                required value
+                required length
+                required isRecorded
+                required property string spoken
+
+                objectName: "bar"
+                width: bars.width
+                height: bars.rowHeight
+                name: bar.category
+                style: card.style
+                fill: card.fill
+                Accessible.role: Accessible.ListItem
+                Accessible.name: bar.spoken
+                // Hidden while pooled.
+                ListView.onPooled: bar.visible = false
+                ListView.onReused: bar.visible = true
+            }
         }
         Loader {
             y: bars.y
@@ -70,7 +90,7 @@ ReportSurface {
         ScaleEnds {
             id: ends
 
-            // As far below as all bars reach, also for a scan without any.
+            // Below the room for all bars, even for a scan without any.
             y: bars.y + Math.max(1, card.compare.categoryCount) * bars.rowHeight + card.spacing
             width: parent.width
             start: card.compare.scaleStart

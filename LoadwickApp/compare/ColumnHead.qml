@@ -1,9 +1,9 @@
 import QtQuick
 import Loadwick
 
-// Whose card it is, when that was scanned, and the one number that is authoritative. One stop: of many
-// cards, four would be a long way; from the name, the arrows go through the other words. Of anchors:
-// of nested layouts, each lays out all words anew.
+// Whose card it is, when it was scanned, and the one number that is authoritative. The head is one tab
+// stop, because four on each of many cards would be a long way; the arrow keys lead from the name
+// through the other words. It uses anchors, because each nested layout would lay out all words again.
 Item {
     id: head
 

@@ -3,23 +3,12 @@
 #include <utility>
 
 #include "base/QtText.h"
-#include "compare/BarText.h"
 #include "text/DateText.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {
-namespace {
-
-// A scan without categories has no bars to list, although the axis has rows.
-int rowCountOf(const Comparison &comparison, std::size_t column)
-{
-    return comparison.bars.hasBars(column) ? static_cast<int>(comparison.bars.rowCount()) : 0;
-}
-
-} // namespace
-
 ColumnPresenter::ColumnPresenter(TextLocale locale, QObject *parent)
-    : QAbstractListModel(parent), m_locale(std::move(locale))
+    : QObject(parent), m_locale(std::move(locale)), m_bars(barRoles())
 {}
 
 void ColumnPresenter::setCompare(ComparePresenter *compare)
@@ -52,15 +41,9 @@ void ColumnPresenter::follow()
 
 void ColumnPresenter::show(std::shared_ptr<const Comparison> comparison, std::size_t column)
 {
-    const bool keepsRows = rowCount() == rowCountOf(*comparison, column);
-    if (!keepsRows)
-        beginResetModel();
-    m_comparison = std::move(comparison);
+    const auto before = std::exchange(m_comparison, std::move(comparison)); // its bars' names
     m_column = column;
-    if (!keepsRows)
-        endResetModel();
-    else if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    m_bars.updateRows(shownBars());
     Q_EMIT changed();
 }
 
@@ -113,41 +96,30 @@ QString ColumnPresenter::chartName() const
         .arg(name(), qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale)));
 }
 
-int ColumnPresenter::rowCount(const QModelIndex &parent) const
+std::vector<ColumnPresenter::Bar> ColumnPresenter::shownBars() const
 {
-    return parent.isValid() || !m_comparison ? 0 : rowCountOf(*m_comparison, m_column);
-}
-
-QVariant ColumnPresenter::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
     const BarGeometry &bars = m_comparison->bars;
-    const auto row = static_cast<std::size_t>(index.row());
-    const std::optional<std::int64_t> tokens = bars.tokens(m_column, row);
-    switch (role) {
-    case Category:
-        return qtText(bars.category(row));
-    case Value:
-        return BarText::value(tokens, m_locale);
-    case Length:
-        return bars.length(tokens.value_or(0));
-    case IsRecorded:
-        return tokens.has_value();
-    case Spoken:
-        return BarText::spoken(qtText(bars.category(row)), tokens, m_locale);
-    default:
-        return {};
-    }
+    std::vector<Bar> shown(bars.hasBars(m_column) ? bars.rowCount() : 0);
+    for (std::size_t row = 0; row < shown.size(); ++row)
+        shown[row] = {.category = bars.category(row), .tokens = bars.tokens(m_column, row)};
+    return shown;
 }
 
-QHash<int, QByteArray> ColumnPresenter::roleNames() const
+std::vector<ListOf<ColumnPresenter::Bar>::Role> ColumnPresenter::barRoles() const
 {
-    return {{Category, "category"},
-            {Value, "value"},
-            {Length, "length"},
-            {IsRecorded, "isRecorded"},
-            {Spoken, "spoken"}};
+    const auto length = [this](const Bar &bar) {
+        return m_comparison->bars.length(bar.tokens.value_or(0));
+    };
+    const auto spoken = [this](const Bar &bar) {
+        return BarText::spoken(qtText(bar.category), bar.tokens, m_locale);
+    };
+    return {
+        {"category", [](const Bar &bar) { return qtText(bar.category); }},
+        {"value", [this](const Bar &bar) { return BarText::value(bar.tokens, m_locale); }},
+        {"length", length},
+        {"isRecorded", [](const Bar &bar) { return bar.tokens.has_value(); }},
+        {"spoken", spoken},
+    };
 }
 
 } // namespace Loadwick

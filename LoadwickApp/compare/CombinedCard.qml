@@ -12,6 +12,12 @@ ReportSurface {
     readonly property real nameWidth: Math.round(Math.min(AppTheme.scaled(200), 0.28 * card.width))
     // No figure is wider than that of the longest bar.
     readonly property real valueWidth: Math.ceil(widest.advanceWidth)
+    readonly property list<string> reading: [
+        qsTr("One bar is one category of one repository's latest recorded scan. Its length is the category's tokens; all bars share one scale."),
+        qsTr("The categories stand heaviest first, by their tokens in all repositories together. Within each, the repositories keep one order and one colour; after five, the colours start again."),
+        qsTr("A missing bar, with a dash for its figure, means that the category was not recorded for that repository. A category recorded with no tokens says 0."),
+        qsTr("Totals are authoritative, as reported by Claude. The category splits are local estimates.")
+    ]
 
     SectionHeader {
         id: header
@@ -21,14 +27,42 @@ ReportSurface {
         detail: qsTr("Same categories, every recorded repository, on one axis. Totals are authoritative; the category splits are local estimates.")
     }
     BarList {
+        id: bars
+
         objectName: "combined"
         Layout.fillWidth: true
         Accessible.name: qsTr("Category for category")
         model: card.compare.combined
         viewport: card.viewport
         rowHeight: AppTheme.combinedRowHeight
-        delegate: CombinedRow { }
-        style: ThemedBarStyle {
+        // A category's name, or a repository's bar within the category.
+        delegate: BarRow {
+            id: row
+
+            required property bool isCategory
+            required property string title
+            required place
+            required property int column
+            required value
+            required length
+            required isRecorded
+            required property string spoken
+
+            objectName: row.isCategory ? "category" : "bar"
+            width: bars.width
+            height: bars.rowHeight
+            arrangement: row.isCategory ? BarRow.Heading : BarRow.InLine
+            name: row.title
+            style: bars.style
+            fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
+            Accessible.role: row.isCategory ? Accessible.Heading : Accessible.ListItem
+            Accessible.name: row.spoken
+            Accessible.description: row.place
+            // Hidden while pooled.
+            ListView.onPooled: row.visible = false
+            ListView.onReused: row.visible = true
+        }
+        style: BarList.Style {
             nameWidth: card.nameWidth
             valueWidth: card.valueWidth
             isMirrored: card.LayoutMirroring.enabled
@@ -53,7 +87,7 @@ ReportSurface {
         title: qsTr("How to read this")
 
         Repeater {
-            model: card.compare.reading
+            model: card.reading
 
             PlainLabel {
                 required property string modelData
@@ -71,7 +105,7 @@ ReportSurface {
         exporter: card.exporter
         chart: picture
         title: header.title
-        lines: [header.detail, card.compare.reading[0]]
+        lines: [header.detail, card.reading[0]]
     }
 
     CombinedPicture {
@@ -80,11 +114,11 @@ ReportSurface {
         visible: false
         width: 900
         rows: card.compare.combined
-        font: AppTheme.captionFont
-        strongFont: AppTheme.bodyStrongFont
+        style: BarList.Style {
+            nameWidth: 200
+            valueWidth: 88
+        }
         colors: AppTheme.chartColors
-        textColor: AppTheme.text
-        secondaryTextColor: AppTheme.secondaryText
     }
     TextMetrics {
         id: widest

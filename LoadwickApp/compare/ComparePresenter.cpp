@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/QtText.h"
+#include "components/TrendMark.h"
 #include "history/ScanTables.h"
 #include "text/NumberText.h"
 
@@ -12,10 +13,41 @@ namespace {
 // About two windows full.
 constexpr std::size_t manyBars = 120;
 
+QString scanCountText(std::int64_t count)
+{
+    return (count == 1 ? ComparePresenter::tr("%1 scan") : ComparePresenter::tr("%1 scans"))
+        .arg(count);
+}
+
 } // namespace
 
+std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale)
+{
+    using Entry = LeaderboardEntry;
+    const auto mark = [locale](const Entry &entry) {
+        return TrendMark::of(entry.trend(), entry.delta(), locale);
+    };
+    const auto value = [locale](const Entry &entry) {
+        return qtText(NumberText::grouped(entry.latest.total, locale));
+    };
+    return {
+        {"title", [](const Entry &entry) { return qtText(entry.latest.repositoryName); }},
+        {"detail", [](const Entry &entry) { return scanCountText(entry.scanCount); }},
+        {"value", value},
+        {"band", [](const Entry &entry) { return static_cast<int>(entry.latest.band()); }},
+        {"bandTitle", [](const Entry &entry) { return qtText(entry.latest.band().title()); }},
+        {"trendKind", [mark](const Entry &entry) { return static_cast<int>(mark(entry).kind); }},
+        {"trendTitle", [mark](const Entry &entry) { return mark(entry).title; }},
+        {"trendSymbol", [mark](const Entry &entry) { return mark(entry).symbol; }},
+        {"place", [](const Entry &entry) { return qtText(entry.latest.repositoryPath); }},
+    };
+}
+
 ComparePresenter::ComparePresenter(ScanModel &model, TextLocale locale)
-    : m_model(model), m_locale(std::move(locale)), m_leaderboard(m_locale), m_combined(m_locale)
+    : m_model(model),
+      m_locale(std::move(locale)),
+      m_leaderboard(leaderboardRoles(m_locale)),
+      m_combined(combinedRoles(m_locale))
 {
     m_model.history().observe({.didChange = [this] { showHistory(); }});
     showHistory();
@@ -46,21 +78,6 @@ QString ComparePresenter::scaleEnd() const
     return qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale));
 }
 
-QStringList ComparePresenter::reading() const
-{
-    return {
-        tr("One bar is one category of one repository's latest recorded scan. Its "
-           "length is the category's tokens; all bars share one scale."),
-        tr("The categories stand heaviest first, by their tokens in all repositories "
-           "together. Within each, the repositories keep one order and one colour; "
-           "after five, the colours start again."),
-        tr("A missing bar, with a dash for its figure, means that the category was not "
-           "recorded for that repository. A category recorded with no tokens says 0."),
-        tr("Totals are authoritative, as reported by Claude. The category splits are "
-           "local estimates."),
-    };
-}
-
 std::string ComparePresenter::table() const
 {
     return ScanTables::categories(m_comparison->columns);
@@ -75,8 +92,8 @@ void ComparePresenter::showHistory()
         showWhyEmpty(m_comparison->columns);
         m_comparison = std::make_shared<const Comparison>();
     }
-    m_leaderboard.setEntries(m_comparison->leaderboard);
-    m_combined.show(m_comparison);
+    m_leaderboard.setRows(m_comparison->leaderboard);
+    m_combined.setRows(CombinedLines(m_comparison));
     Q_EMIT changed();
 }
 

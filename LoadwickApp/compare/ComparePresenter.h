@@ -2,22 +2,30 @@
 
 #include <memory>
 #include <span>
+#include <string>
+#include <vector>
 
 #include <QObject>
 #include <QString>
-#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-#include "compare/CombinedRows.h"
+#include "base/ListOf.h"
+#include "compare/CombinedChart.h"
 #include "compare/Comparison.h"
-#include "compare/LeaderboardRows.h"
 #include "model/ScanModel.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
 
+using LeaderboardRows = ListOf<LeaderboardEntry>;
+
+/// What a row of the leaderboard says: "title", "detail", "value", "band" and "bandTitle" of the
+/// latest total, "trendKind", "trendTitle" and "trendSymbol" for a `TrendPill`, and "place", the
+/// path that tells namesakes apart.
+[[nodiscard]] std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale);
+
 /// What the Compare page says of the recorded repositories. Belongs to the interface thread; the
-/// model outlives it, and changes no more once it is gone.
+/// model outlives it, and does not change after it is gone.
 class ComparePresenter final : public QObject
 {
     Q_OBJECT
@@ -25,14 +33,13 @@ class ComparePresenter final : public QObject
     QML_UNCREATABLE("Made by the window.")
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY changed)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY changed)
-    Q_PROPERTY(QAbstractItemModel *leaderboard READ leaderboard CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *leaderboard READ leaderboard CONSTANT)
     Q_PROPERTY(int columnCount READ columnCount NOTIFY changed)
     Q_PROPERTY(int categoryCount READ categoryCount NOTIFY changed)
     Q_PROPERTY(bool isLarge READ isLarge NOTIFY changed)
-    Q_PROPERTY(QAbstractItemModel *combined READ combined CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *combined READ combined CONSTANT)
     Q_PROPERTY(QString scaleStart READ scaleStart CONSTANT)
     Q_PROPERTY(QString scaleEnd READ scaleEnd NOTIFY changed)
-    Q_PROPERTY(QStringList reading READ reading CONSTANT)
 
 public:
     ComparePresenter(ScanModel &model, TextLocale locale);
@@ -41,27 +48,26 @@ public:
     [[nodiscard]] QString emptyTitle() const { return m_emptyTitle; }
     [[nodiscard]] QString emptyText() const { return m_emptyText; }
 
-    [[nodiscard]] QAbstractItemModel *leaderboard() { return &m_leaderboard; }
+    /// Every repository, the heaviest first.
+    [[nodiscard]] RowList *leaderboard() { return &m_leaderboard; }
 
     /// How many repositories there are; 0 when there is nothing to compare.
     [[nodiscard]] int columnCount() const;
-    /// What they are, for their cards. It does not change: `changed` tells of another one.
+    /// What they are, for their cards. Immutable: `changed` announces another one.
     [[nodiscard]] std::shared_ptr<const Comparison> comparison() const { return m_comparison; }
     [[nodiscard]] const TextLocale &locale() const { return m_locale; }
 
     /// How many rows each card has.
     [[nodiscard]] int categoryCount() const;
-    /// There are more bars than should all be made before anything is seen.
+    /// There are too many bars to make them all before the page is shown.
     [[nodiscard]] bool isLarge() const;
 
-    [[nodiscard]] QAbstractItemModel *combined() { return &m_combined; }
+    /// The lines of the chart that puts all repositories on one axis.
+    [[nodiscard]] RowList *combined() { return &m_combined; }
 
     /// The ends of the scale that all bars share, in figures.
     [[nodiscard]] QString scaleStart() const;
     [[nodiscard]] QString scaleEnd() const;
-
-    /// How the bars are to be read, in paragraphs.
-    [[nodiscard]] QStringList reading() const;
 
     /// The repositories for other programs, as `ScanTables::categories` gives them, by name.
     [[nodiscard]] std::string table() const;

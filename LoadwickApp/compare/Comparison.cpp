@@ -1,6 +1,10 @@
 #include "compare/Comparison.h"
 
+#include <QCoreApplication>
+
+#include "base/QtText.h"
 #include "history/ScanHistory.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 
@@ -12,6 +16,19 @@ Comparison Comparison::of(std::span<const RecordedScan> history)
     comparison.bars =
         BarGeometry(ScanHistory::categoryAxis(comparison.columns), comparison.columns);
     return comparison;
+}
+
+QString BarText::value(std::optional<std::int64_t> tokens, const TextLocale &locale)
+{
+    return tokens ? qtText(NumberText::grouped(*tokens, locale)) : QStringLiteral("–");
+}
+
+QString BarText::spoken(const QString &name, std::optional<std::int64_t> tokens,
+                        const TextLocale &locale)
+{
+    return tokens ? QCoreApplication::translate("BarText", "%1: %2 tokens")
+                        .arg(name, value(tokens, locale))
+                  : QCoreApplication::translate("BarText", "%1: not recorded").arg(name);
 }
 
 } // namespace Loadwick

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
+#include <QString>
+
 #include "charts/BarGeometry.h"
-#include "history/RecordedScan.h"
 #include "history/ScanHistory.h"
+#include "text/TextLocale.h"
 
 namespace Loadwick {
 
@@ -19,4 +23,15 @@ struct Comparison
     [[nodiscard]] static Comparison of(std::span<const RecordedScan> history);
 };
 
+/// The words of one bar.
+namespace BarText {
+
+/// The figure beside the bar; a dash where the category was not recorded.
+[[nodiscard]] QString value(std::optional<std::int64_t> tokens, const TextLocale &locale);
+
+/// The whole bar for a screen reader. `name` is the bar's category or repository.
+[[nodiscard]] QString spoken(const QString &name, std::optional<std::int64_t> tokens,
+                             const TextLocale &locale);
+
+} // namespace BarText
 } // namespace Loadwick

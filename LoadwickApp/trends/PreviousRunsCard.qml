@@ -6,18 +6,18 @@ import Loadwick
 ReportSurface {
     id: card
 
-    required property PreviousRunsPresenter runs
+    required property RecordedDataPresenter recordedData
     required property Flickable viewport
 
     SectionHeader {
         Layout.fillWidth: true
         title: qsTr("Previous runs")
-        detail: card.runs.detail
+        detail: card.recordedData.runsDetail
     }
     LongList {
         objectName: "runs"
         Layout.fillWidth: true
-        model: card.runs.rows
+        model: card.recordedData.runs
         viewport: card.viewport
         rowHeight: AppTheme.listRowHeight
         visible: count > 0

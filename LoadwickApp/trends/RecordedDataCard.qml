@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What is stored on this machine, and the one way to delete it.
+// What is stored on this machine, and the button that deletes it.
 ReportSurface {
     id: card
 

@@ -1,9 +1,13 @@
 #include "trends/RecordedDataPresenter.h"
 
+#include <algorithm>
 #include <set>
 #include <string_view>
+#include <utility>
 
 #include "base/QtText.h"
+#include "history/ScanHistory.h"
+#include "text/DateText.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {
@@ -19,14 +23,62 @@ std::size_t repositoryCount(const std::vector<RecordedScan> &history)
 
 } // namespace
 
+RecordedDataPresenter::RecordedDataPresenter(ScanModel &model, TextLocale locale)
+    : m_model(model), m_locale(std::move(locale)), m_runs(runRoles())
+{}
+
+void RecordedDataPresenter::showHistory()
+{
+    const std::vector<RecordedScan> &history = m_model.history().get();
+    std::vector<RecordedScan> newest = ScanHistory::newestFirst(history);
+    newest.erase(newest.begin() + static_cast<std::ptrdiff_t>(std::min(newest.size(), mostRuns)),
+                 newest.end());
+    m_runs.setRows(std::move(newest));
+    m_runsDetail = history.size() <= mostRuns
+                       ? tr("Every recorded scan, newest first, across every repository.")
+                       : tr("The newest 30 of %1 recorded scans, across every repository.")
+                             .arg(history.size());
+    Q_EMIT changed();
+}
+
+std::vector<ListOf<RecordedScan>::Role> RecordedDataPresenter::runRoles() const
+{
+    using Scan = RecordedScan;
+    const auto detail = [this](const Scan &scan) {
+        return qtText(dateText(scan.date, DateForm::dayAndTime, m_locale));
+    };
+    const auto value = [this](const Scan &scan) {
+        return qtText(NumberText::grouped(scan.total, m_locale));
+    };
+    const auto valueCaption = [](const Scan &scan) {
+        return scan.categories.empty() ? tr("No category estimates") : QString();
+    };
+    return {
+        {"title", [](const Scan &scan) { return qtText(scan.repositoryName); }},
+        {"detail", detail},
+        {"value", value},
+        {"valueCaption", valueCaption},
+        {"band", [](const Scan &scan) { return static_cast<int>(scan.band()); }},
+        {"place", [this](const Scan &scan) { return placeOf(scan); }},
+    };
+}
+
+QString RecordedDataPresenter::placeOf(const RecordedScan &scan) const
+{
+    const auto isNamesake = [&scan](const RecordedScan &other) {
+        return other.repositoryName == scan.repositoryName &&
+               other.repositoryPath != scan.repositoryPath;
+    };
+    return std::ranges::any_of(m_runs.rows(), isNamesake) ? qtText(scan.repositoryPath) : QString();
+}
+
 QString RecordedDataPresenter::storageNote() const
 {
     const std::vector<RecordedScan> &history = m_model.history().get();
     const std::size_t scans = history.size();
     const std::size_t repositories = repositoryCount(history);
     return tr("%1 across %2, stored on this Mac. Totals only — no instruction-file contents are "
-              "ever "
-              "written. The newest %3 are kept.")
+              "ever written. The newest %3 are kept.")
         .arg((scans == 1 ? tr("%1 scan") : tr("%1 scans")).arg(scans),
              (repositories == 1 ? tr("%1 repository") : tr("%1 repositories")).arg(repositories),
              qtText(NumberText::grouped(std::int64_t{ScanHistoryStore::maximumScans}, m_locale)));

@@ -4,34 +4,46 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/ListOf.h"
+#include "history/RecordedScan.h"
 #include "model/ScanModel.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
 
-/// The card that says what is stored, and can delete it. The model outlives it.
+/// What is recorded of all repositories: the newest scans, how much is stored, and its deletion.
+/// The model outlives it.
 class RecordedDataPresenter final : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the page's presenter.")
+    Q_PROPERTY(Loadwick::RowList *runs READ runs CONSTANT)
+    Q_PROPERTY(QString runsDetail READ runsDetail NOTIFY changed)
     Q_PROPERTY(QString storageNote READ storageNote NOTIFY changed)
     Q_PROPERTY(QString deleteTitle READ deleteTitle NOTIFY changed)
     Q_PROPERTY(bool canClear READ canClear NOTIFY changed)
 
 public:
-    RecordedDataPresenter(ScanModel &model, TextLocale locale)
-        : m_model(model), m_locale(std::move(locale))
-    {}
+    static constexpr std::size_t mostRuns = 30;
 
-    /// To be called whenever the model's history has changed.
-    void showHistory() { Q_EMIT changed(); }
+    RecordedDataPresenter(ScanModel &model, TextLocale locale);
 
-    /// Worded when it is asked for: its figures load the locale's data, of which a start has no
+    /// Call it whenever the model's history has changed.
+    void showHistory();
+
+    /// The newest scans first, `mostRuns` at most: "title" (the repository), "detail" (when),
+    /// "value" (tokens), "valueCaption", "band" (its number) and "place", the repository's path
+    /// where its name is ambiguous, else empty.
+    [[nodiscard]] RowList *runs() { return &m_runs; }
+    /// Which scans these are.
+    [[nodiscard]] QString runsDetail() const { return m_runsDetail; }
+
+    /// Composed on demand: its figures load the locale's data, which the program's start does not
     /// need.
     [[nodiscard]] QString storageNote() const;
 
-    /// What deletes so many scans for good.
+    /// The button that deletes so many scans for good.
     [[nodiscard]] QString deleteTitle() const;
     [[nodiscard]] bool canClear() const { return m_model.canClearHistory(); }
 
@@ -42,8 +54,13 @@ Q_SIGNALS:
     void changed();
 
 private:
+    [[nodiscard]] std::vector<ListOf<RecordedScan>::Role> runRoles() const;
+    [[nodiscard]] QString placeOf(const RecordedScan &scan) const;
+
     ScanModel &m_model;
     TextLocale m_locale;
+    ListOf<RecordedScan> m_runs;
+    QString m_runsDetail;
 };
 
 } // namespace Loadwick

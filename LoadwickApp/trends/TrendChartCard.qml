@@ -7,17 +7,41 @@ ReportSurface {
     id: card
 
     required property TrendChartPresenter chart
-    // None: there is nothing to save from here.
+    // Null: there is nothing to save from here.
     property PageExport exporter: null
     // What the page is about, for those who see the picture without it.
     property string subject: ""
     readonly property bool isEmpty: card.chart.emptyText.length > 0
 
-    TrendPlaceholder {
-        Layout.fillWidth: true
-        title: card.chart.emptyTitle
-        detail: card.chart.emptyText
+    ColumnLayout {
+        Layout.alignment: Qt.AlignHCenter
+        Layout.maximumWidth: AppTheme.stateWidth
+        Layout.topMargin: AppTheme.pageMargin
+        Layout.bottomMargin: AppTheme.pageMargin
+        spacing: AppTheme.smallSpace
         visible: card.isEmpty
+
+        StateIcon {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.bottomMargin: AppTheme.smallSpace
+            symbol: "chart.line.uptrend.xyaxis"
+            tint: AppTheme.secondaryText
+        }
+        PlainLabel {
+            Layout.fillWidth: true
+            text: card.chart.emptyTitle
+            font: AppTheme.headlineFont
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            visible: card.chart.emptyTitle.length > 0
+        }
+        PlainLabel {
+            Layout.fillWidth: true
+            text: card.chart.emptyText
+            secondary: true
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
     }
     SectionHeader {
         id: header

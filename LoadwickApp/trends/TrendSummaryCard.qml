@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Where the repository's total stands now, and how far it has moved.
+// The repository's latest total, and how far it has moved.
 ReportSurface {
     id: card
 

@@ -22,11 +22,7 @@ QString pageDetail(const QString &repositoryName)
 } // namespace
 
 TrendsPresenter::TrendsPresenter(ScanModel &model, const TextLocale &locale)
-    : m_model(model),
-      m_chart(locale),
-      m_summary(locale),
-      m_previousRuns(locale),
-      m_recordedData(model, locale)
+    : m_model(model), m_chart(locale), m_summary(locale), m_recordedData(model, locale)
 {
     m_model.selection().observe({.didChange = [this] { showRepository(); }});
     m_model.history().observe({.didChange = [this] { showHistory(); }});
@@ -73,7 +69,6 @@ void TrendsPresenter::showRepository()
 void TrendsPresenter::showHistory()
 {
     showRepository();
-    m_previousRuns.show(m_model.history().get());
     m_recordedData.showHistory();
 }
 

@@ -10,16 +10,15 @@
 
 #include "model/ScanModel.h"
 #include "text/TextLocale.h"
-#include "trends/PreviousRunsPresenter.h"
 #include "trends/RecordedDataPresenter.h"
 #include "trends/TrendChartPresenter.h"
 #include "trends/TrendSummaryPresenter.h"
 
 namespace Loadwick {
 
-/// The Trends page: the chosen repository's recorded scans, or the most recently scanned one's
-/// while none is chosen, and what is recorded at all. Belongs to the interface thread; the model
-/// outlives it, and changes no more once it is gone.
+/// The Trends page: the recorded scans of the chosen repository, or of the one scanned last while
+/// none is chosen, and what is recorded of all repositories. Belongs to the interface thread; the
+/// model outlives it, and does not change after it is gone.
 class TrendsPresenter final : public QObject
 {
     Q_OBJECT
@@ -28,7 +27,6 @@ class TrendsPresenter final : public QObject
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
     Q_PROPERTY(Loadwick::TrendChartPresenter *chart READ chart CONSTANT)
     Q_PROPERTY(Loadwick::TrendSummaryPresenter *summary READ summary CONSTANT)
-    Q_PROPERTY(Loadwick::PreviousRunsPresenter *previousRuns READ previousRuns CONSTANT)
     Q_PROPERTY(Loadwick::RecordedDataPresenter *recordedData READ recordedData CONSTANT)
 
 public:
@@ -39,7 +37,6 @@ public:
 
     [[nodiscard]] TrendChartPresenter *chart() { return &m_chart; }
     [[nodiscard]] TrendSummaryPresenter *summary() { return &m_summary; }
-    [[nodiscard]] PreviousRunsPresenter *previousRuns() { return &m_previousRuns; }
     [[nodiscard]] RecordedDataPresenter *recordedData() { return &m_recordedData; }
 
     /// The scans of the chart for other programs, as `ScanTables::totals` gives them.
@@ -50,11 +47,11 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The page is about another repository than before, and not about none.
+    /// The page is about another repository than before, and there is one.
     void repositoryChanged();
 
 private:
-    /// Its path.
+    /// The path of the repository that the page is about.
     [[nodiscard]] std::optional<std::string> shownRepository() const;
     [[nodiscard]] std::vector<RecordedScan> shownScans() const;
     void showRepository();
@@ -66,7 +63,6 @@ private:
     QString m_detail;
     TrendChartPresenter m_chart;
     TrendSummaryPresenter m_summary;
-    PreviousRunsPresenter m_previousRuns;
     RecordedDataPresenter m_recordedData;
 };
 

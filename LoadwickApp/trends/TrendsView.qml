@@ -12,7 +12,7 @@ PageColumn {
     Connections {
         target: page.trends
 
-        // From its beginning.
+        // Another repository is read from the top.
         function onRepositoryChanged() { page.viewport.contentY = 0; }
     }
     PageHeader {
@@ -33,7 +33,7 @@ PageColumn {
     }
     PreviousRunsCard {
         Layout.fillWidth: true
-        runs: page.trends.previousRuns
+        recordedData: page.trends.recordedData
         viewport: page.viewport
     }
     RecordedDataCard {

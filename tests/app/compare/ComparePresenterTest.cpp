@@ -1,14 +1,35 @@
 #include "compare/ComparePresenter.h"
 
+#include <QAbstractItemModelTester>
 #include <QTest>
 
 #include "compare/ColumnPresenter.h"
+#include "components/TrendMark.h"
 #include "samples/SampleHistories.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/ScanningModel.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
+
+namespace {
+
+std::vector<RecordedScan> fourRepositories()
+{
+    const auto scan = [](const char *name, std::int64_t at, std::int64_t total) {
+        return RecordedScanBuilder()
+            .named(name)
+            .in(std::string("/srv/") + name)
+            .at(at)
+            .ofTotal(total)
+            .build();
+    };
+    return {scan("webshop", 1, 60'001), scan("notes", 2, 3),      scan("webshop", 3, 61'235),
+            scan("ferry", 4, 30'080),   scan("ferry", 5, 30'000), scan("tides", 6, 29'999),
+            scan("tides", 7, 29'999)};
+}
+
+} // namespace
 
 class ComparePresenterTest : public QObject
 {
@@ -75,18 +96,18 @@ private Q_SLOTS:
     void oneRepositoryHasNoLeaderboardAndNoCards()
     {
         record({RecordedScanBuilder().withCategory("Tools", 1).build()});
-        QCOMPARE(m_compare->leaderboard()->rowCount(), 0);
-        QCOMPARE(m_compare->combined()->rowCount(), 0);
+        QCOMPARE(m_compare->leaderboard()->count(), 0);
+        QCOMPARE(m_compare->combined()->count(), 0);
         QCOMPARE(m_compare->columnCount(), 0);
     }
 
     void twoRepositoriesHaveALeaderboardCardsAndACombinedChart()
     {
         record(twoRepositories());
-        QCOMPARE(m_compare->leaderboard()->rowCount(), 2);
+        QCOMPARE(m_compare->leaderboard()->count(), 2);
         QCOMPARE(m_compare->columnCount(), 2);
         QCOMPARE(m_compare->categoryCount(), 2);
-        QCOMPARE(m_compare->combined()->rowCount(), 2 * 3);
+        QCOMPARE(m_compare->combined()->count(), 2 * 3);
         QCOMPARE(card(0)->place(), QStringLiteral("/a"));
         QCOMPARE(card(1)->place(), QStringLiteral("/b"));
         QCOMPARE(card(2)->place(), QString());
@@ -130,7 +151,7 @@ private Q_SLOTS:
         record({});
         QCOMPARE(m_compare->columnCount(), 0);
         QCOMPARE(last->place(), QStringLiteral("/b"));
-        QCOMPARE(m_compare->leaderboard()->rowCount(), 0);
+        QCOMPARE(m_compare->leaderboard()->count(), 0);
     }
 
     void twoHundredRepositoriesOfFiftyCategoriesAreLarge()
@@ -140,24 +161,7 @@ private Q_SLOTS:
         record(SampleHistories::ofSize(200, 200, 50));
         QVERIFY(m_compare->isLarge());
         QCOMPARE(m_compare->columnCount(), 200);
-        QCOMPARE(m_compare->combined()->rowCount(), 50 * 201);
-    }
-
-    void saysHowToReadTheBars()
-    {
-        const QStringList expected = {
-            QStringLiteral("One bar is one category of one repository's latest recorded scan. Its "
-                           "length is the category's tokens; all bars share one scale."),
-            QStringLiteral("The categories stand heaviest first, by their tokens in all "
-                           "repositories together. Within each, the repositories keep one order "
-                           "and one colour; after five, the colours start again."),
-            QStringLiteral("A missing bar, with a dash for its figure, means that the category was "
-                           "not recorded for that repository. A category recorded with no tokens "
-                           "says 0."),
-            QStringLiteral("Totals are authoritative, as reported by Claude. The category splits "
-                           "are local estimates."),
-        };
-        QCOMPARE(m_compare->reading(), expected);
+        QCOMPARE(m_compare->combined()->count(), 50 * 201);
     }
 
     void isEmptyAgainWhenTheHistoryIsCleared()
@@ -165,6 +169,91 @@ private Q_SLOTS:
         record({RecordedScanBuilder().build()});
         record({});
         QCOMPARE(m_compare->emptyTitle(), QStringLiteral("No recorded scans yet"));
+    }
+
+    void theLeaderboardListsTheHeaviestFirst()
+    {
+        record(fourRepositories());
+        QCOMPARE(allRanked("title"),
+                 QStringList({QStringLiteral("webshop"), QStringLiteral("ferry"),
+                              QStringLiteral("tides"), QStringLiteral("notes")}));
+    }
+
+    void countsScansInTheSingularAndThePlural()
+    {
+        record(fourRepositories());
+        QCOMPARE(allRanked("detail"),
+                 QStringList({QStringLiteral("2 scans"), QStringLiteral("2 scans"),
+                              QStringLiteral("2 scans"), QStringLiteral("1 scan")}));
+    }
+
+    void showsTheLatestTotalWithItsBand()
+    {
+        record(fourRepositories());
+        QCOMPARE(allRanked("value"),
+                 QStringList({QStringLiteral("61,235"), QStringLiteral("30,000"),
+                              QStringLiteral("29,999"), QStringLiteral("3")}));
+        QCOMPARE(allRanked("bandTitle"),
+                 QStringList({QStringLiteral("Excessive"), QStringLiteral("Heavy"),
+                              QStringLiteral("Lean"), QStringLiteral("Lean")}));
+        QCOMPARE(ranked(0, "band").toInt(), 2);
+        QCOMPARE(ranked(1, "band").toInt(), 1);
+        QCOMPARE(ranked(3, "band").toInt(), 0);
+    }
+
+    void aRepositoryScannedOnceSaysFirstScan()
+    {
+        record(fourRepositories());
+        QCOMPARE(ranked(3, "trendTitle").toString(), QStringLiteral("First scan"));
+        QCOMPARE(ranked(3, "trendKind").toInt(), int(TrendKind::FirstScan));
+    }
+
+    void theTrendComparesTheTwoMostRecentScans()
+    {
+        record(fourRepositories());
+        QCOMPARE(
+            allRanked("trendTitle").mid(0, 3),
+            QStringList({QStringLiteral("+1,234"), QStringLiteral("-80"), QStringLiteral("±0")}));
+        QCOMPARE(allRanked("trendSymbol"),
+                 QStringList({QStringLiteral("arrow.up.right"), QStringLiteral("arrow.down.right"),
+                              QStringLiteral("equal"), QString()}));
+    }
+
+    void repositoriesOfOneNameAreToldApartByTheirPath()
+    {
+        record({RecordedScanBuilder().named("app").in("/b/app").build(),
+                RecordedScanBuilder().named("app").in("/a/app").build()});
+        QCOMPARE(ranked(0, "title"), ranked(1, "title"));
+        QCOMPARE(ranked(0, "place").toString(), QStringLiteral("/a/app"));
+        QCOMPARE(ranked(1, "place").toString(), QStringLiteral("/b/app"));
+    }
+
+    void equalTotalsKeepTheOrderOfTheirNames()
+    {
+        record({RecordedScanBuilder().named("b").in("/1").ofTotal(5).build(),
+                RecordedScanBuilder().named("a").in("/2").ofTotal(5).build()});
+        QCOMPARE(ranked(0, "title").toString(), QStringLiteral("a"));
+    }
+
+    void theLeaderboardGroupsFiguresAsTheLocaleDoes()
+    {
+        ComparePresenter hindi(m_scanning->model, {.numbers = "hi_IN"});
+        record({RecordedScanBuilder().at(1).ofTotal(7).build(),
+                RecordedScanBuilder().at(2).ofTotal(1'234'567).build(),
+                RecordedScanBuilder().in("/other").build()});
+        QCOMPARE(hindi.leaderboard()->text(0, QStringLiteral("value")),
+                 QStringLiteral("12,34,567"));
+        QCOMPARE(hindi.leaderboard()->text(0, QStringLiteral("trendTitle")),
+                 QStringLiteral("+12,34,560"));
+    }
+
+    void theLeaderboardIsAModelWhileItsEntriesChange()
+    {
+        const QAbstractItemModelTester tester(m_compare->leaderboard());
+        record(fourRepositories());
+        QCOMPARE(m_compare->leaderboard()->count(), 4);
+        record({});
+        QCOMPARE(m_compare->leaderboard()->count(), 0);
     }
 
 private:
@@ -182,6 +271,19 @@ private:
         card->setNumber(number);
         card->setCompare(&compare);
         return card;
+    }
+
+    [[nodiscard]] QVariant ranked(int row, const char *role)
+    {
+        return m_compare->leaderboard()->value(row, QString::fromLatin1(role));
+    }
+
+    [[nodiscard]] QStringList allRanked(const char *role)
+    {
+        QStringList found;
+        for (int row = 0; row < m_compare->leaderboard()->count(); ++row)
+            found.append(ranked(row, role).toString());
+        return found;
     }
 
     void record(std::vector<RecordedScan> scans)

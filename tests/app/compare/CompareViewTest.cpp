@@ -17,6 +17,27 @@ QString nameOf(const QQuickItem &bar)
     return bar.property("name").toString();
 }
 
+void collectParts(const QObject &object, std::set<const QObject *> &parts)
+{
+    if (!parts.insert(&object).second)
+        return;
+    for (const QObject *child : object.children())
+        collectParts(*child, parts);
+    if (const auto *item = qobject_cast<const QQuickItem *>(&object)) {
+        const auto children = item->childItems();
+        for (const QQuickItem *child : children)
+            collectParts(*child, parts);
+    }
+}
+
+/// How many objects an item is made of: what making it costs, without a clock.
+std::size_t partCount(const QObject &item)
+{
+    std::set<const QObject *> parts;
+    collectParts(item, parts);
+    return parts.size();
+}
+
 } // namespace
 
 /// What the page shows of a few repositories.
@@ -38,6 +59,9 @@ private Q_SLOTS:
     void aScanWithoutCategoriesSaysSoOnItsCard();
     void figuresOfAListEndOnOneLine();
     void aLongNameAndALongCategoryPushNoFigureOut();
+    void saysHowToReadTheBars();
+    void aCardIsMadeOfFewParts();
+    void aRowIsMadeOfFewParts();
 
 private:
     std::unique_ptr<ComparePage> m_page;
@@ -171,6 +195,47 @@ void CompareViewTest::aLongNameAndALongCategoryPushNoFigureOut()
         QVERIFY(place.width() >= metrics.horizontalAdvance(bar->property("value").toString()));
         QVERIFY(bar->places().name.right() < place.left());
     }
+}
+
+void CompareViewTest::saysHowToReadTheBars()
+{
+    const QStringList expected = {
+        QStringLiteral("One bar is one category of one repository's latest recorded scan. Its "
+                       "length is the category's tokens; all bars share one scale."),
+        QStringLiteral("The categories stand heaviest first, by their tokens in all repositories "
+                       "together. Within each, the repositories keep one order and one colour; "
+                       "after five, the colours start again."),
+        QStringLiteral("A missing bar, with a dash for its figure, means that the category was not "
+                       "recorded for that repository. A category recorded with no tokens says 0."),
+        QStringLiteral("Totals are authoritative, as reported by Claude. The category splits are "
+                       "local estimates."),
+    };
+    m_page->record(SampleHistories::ofSize(2, 2, 6));
+    const QQuickItem *card = m_page->items("combined").constFirst();
+    while (!card->property("reading").isValid())
+        card = card->parentItem();
+    QCOMPARE(card->property("reading").toStringList(), expected);
+}
+
+void CompareViewTest::aCardIsMadeOfFewParts()
+{
+    m_page->record(SampleHistories::ofSize(2, 2, 6));
+    const QQuickItem *card = m_page->cards().constFirst();
+    const std::size_t bars =
+        6 * partCount(*ComparePage::barsBelow(m_page->items("bars")[0]).constFirst());
+    const std::size_t count = partCount(*card) - bars;
+    QVERIFY2(count <= 100, qPrintable(QString::number(count)));
+}
+
+void CompareViewTest::aRowIsMadeOfFewParts()
+{
+    m_page->record(SampleHistories::ofSize(2, 2, 6));
+    const auto bars = ComparePage::barsBelow(m_page->view().rootObject());
+    for (const BarRow *bar : bars)
+        QVERIFY2(partCount(*bar) <= 3, qPrintable(QString::number(partCount(*bar))));
+    const QQuickItem *rank = m_page->items("rank").constFirst();
+    const std::size_t count = partCount(*rank->parentItem()->parentItem());
+    QVERIFY2(count <= 40, qPrintable(QString::number(count)));
 }
 
 const RegisteredTest<CompareViewTest> registered("CompareView");

@@ -53,6 +53,27 @@ private Q_SLOTS:
         QCOMPARE(comparison.bars.category(0), std::string("y"));
         QCOMPARE(comparison.bars.category(1), std::string("x"));
     }
+
+    void aBarHasItsTokens()
+    {
+        QCOMPARE(BarText::value(16'851, {}), QStringLiteral("16,851"));
+        QCOMPARE(BarText::spoken(QStringLiteral("Tools"), 16'851, {}),
+                 QStringLiteral("Tools: 16,851 tokens"));
+    }
+
+    void aCategoryOfNoTokensIsNotAMissingOne()
+    {
+        QCOMPARE(BarText::value(0, {}), QStringLiteral("0"));
+        QCOMPARE(BarText::value(std::nullopt, {}), QStringLiteral("–"));
+        QCOMPARE(BarText::spoken(QStringLiteral("Tools"), std::nullopt, {}),
+                 QStringLiteral("Tools: not recorded"));
+    }
+
+    void groupsFiguresAsTheLocaleDoes()
+    {
+        QCOMPARE(BarText::value(1'234'567, {.numbers = "de_DE"}), QStringLiteral("1.234.567"));
+        QCOMPARE(BarText::value(1'234'567, {.numbers = "hi_IN"}), QStringLiteral("12,34,567"));
+    }
 };
 
 const RegisteredTest<ComparisonTest> registered("Comparison");

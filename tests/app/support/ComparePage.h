@@ -35,7 +35,7 @@ public:
     [[nodiscard]] QList<QQuickItem *> items(const char *name) const;
     /// The rows with a bar below an item.
     [[nodiscard]] static QList<BarRow *> barsBelow(QQuickItem *root);
-    /// The cards that were made, in the order of their places in the grid.
+    /// The cards that were made, in the order of their cells.
     [[nodiscard]] QList<QQuickItem *> cards() const;
     /// What scrolls; there is one as soon as two repositories are recorded.
     [[nodiscard]] QQuickItem *viewport() const;

@@ -1,5 +1,6 @@
 #include "trends/RecordedDataPresenter.h"
 
+#include <QAbstractItemModelTester>
 #include <QTest>
 
 #include "samples/TemporaryFolder.h"
@@ -7,6 +8,7 @@
 #include "support/ScanFakes.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
+#include "support/TimeZone.h"
 
 namespace Loadwick {
 
@@ -24,6 +26,7 @@ private Q_SLOTS:
             .historyStore = std::make_unique<ScanHistoryStore>(m_folder->path()),
             .dispatcher = std::make_shared<SteppingDispatcher>(),
         });
+        m_data = std::make_unique<RecordedDataPresenter>(*m_model, TextLocale());
     }
 
     void saysWhatIsStored_data()
@@ -50,12 +53,11 @@ private Q_SLOTS:
         QFETCH(const int, repositoryCount);
         QFETCH(const QString, stored);
         record(scanCount, repositoryCount);
-        RecordedDataPresenter data(*m_model, TextLocale());
-        data.showHistory();
-        QCOMPARE(data.storageNote(),
+        m_data->showHistory();
+        QCOMPARE(m_data->storageNote(),
                  stored + QStringLiteral(", stored on this Mac. Totals only — no instruction-file "
                                          "contents are ever written. The newest 200 are kept."));
-        QTEST(data.deleteTitle(), "deleteTitle");
+        QTEST(m_data->deleteTitle(), "deleteTitle");
     }
 
     void writesTheLimitInTheLocalesFiguresAndCountsInPlainDecimal()
@@ -73,18 +75,16 @@ private Q_SLOTS:
         m_model->history().set({RecordedScanBuilder().in("/a").build(),
                                 RecordedScanBuilder().in("/b").build(),
                                 RecordedScanBuilder().in("/a").named("other").build()});
-        RecordedDataPresenter data(*m_model, TextLocale());
-        data.showHistory();
-        QVERIFY(data.storageNote().startsWith(QStringLiteral("3 scans across 2 repositories,")));
+        m_data->showHistory();
+        QVERIFY(m_data->storageNote().startsWith(QStringLiteral("3 scans across 2 repositories,")));
     }
 
     void anEmptyHistoryCannotBeCleared()
     {
-        RecordedDataPresenter data(*m_model, TextLocale());
-        data.showHistory();
-        QVERIFY(!data.canClear());
+        m_data->showHistory();
+        QVERIFY(!m_data->canClear());
         record(1, 1);
-        QVERIFY(data.canClear());
+        QVERIFY(m_data->canClear());
     }
 
     void clearsTheHistoryAndItsFile()
@@ -92,11 +92,84 @@ private Q_SLOTS:
         ScanHistoryStore store(m_folder->path());
         m_model->history().set(store.append(RecordedScanBuilder().build()));
         QVERIFY(std::filesystem::exists(store.fileURL()));
-        RecordedDataPresenter data(*m_model, TextLocale());
-        data.clear();
+        m_data->clear();
         QVERIFY(m_model->history().get().empty());
         QVERIFY(!std::filesystem::exists(store.fileURL()));
-        QVERIFY(!data.canClear());
+        QVERIFY(!m_data->canClear());
+    }
+
+    void listsThirtyScansAsEveryScan()
+    {
+        show(*m_data, scans(30));
+        QCOMPARE(m_data->runsDetail(),
+                 QStringLiteral("Every recorded scan, newest first, across every repository."));
+        QCOMPARE(m_data->runs()->count(), 30);
+    }
+
+    void listsTheNewestThirtyOfThirtyOneScans()
+    {
+        show(*m_data, scans(31));
+        QCOMPARE(m_data->runsDetail(),
+                 QStringLiteral("The newest 30 of 31 recorded scans, across every "
+                                "repository."));
+        QCOMPARE(m_data->runs()->count(), 30);
+        QCOMPARE(run(0, "value"), QStringLiteral("31"));
+        QCOMPARE(run(29, "value"), QStringLiteral("2"));
+    }
+
+    void writesTheNumberOfScansInPlainDecimal()
+    {
+        RecordedDataPresenter data(*m_model, {.numbers = "ar_EG", .dates = "ar_EG"});
+        show(data, scans(200));
+        QVERIFY(data.runsDetail().startsWith(QStringLiteral("The newest 30 of 200 ")));
+    }
+
+    void listsNothingWithoutScans()
+    {
+        show(*m_data, {});
+        QCOMPARE(m_data->runs()->count(), 0);
+        QCOMPARE(m_data->runsDetail(),
+                 QStringLiteral("Every recorded scan, newest first, across every repository."));
+    }
+
+    void aRunIsOneScan()
+    {
+        const TimeZone utc("UTC");
+        RecordedDataPresenter data(*m_model, {.numbers = "de_DE", .dates = "de_DE"});
+        show(data, {RecordedScanBuilder().ofTotal(61'000).withCategory("a", 1).build()});
+        QCOMPARE(data.runs()->text(0, QStringLiteral("title")), QStringLiteral("webshop"));
+        QCOMPARE(data.runs()->text(0, QStringLiteral("detail")),
+                 QStringLiteral("4. März 2026, 09:15"));
+        QCOMPARE(data.runs()->text(0, QStringLiteral("value")), QStringLiteral("61.000"));
+        QCOMPARE(data.runs()->text(0, QStringLiteral("band")), QStringLiteral("2"));
+        QCOMPARE(data.runs()->text(0, QStringLiteral("valueCaption")), QString());
+        QCOMPARE(data.runs()->text(0, QStringLiteral("place")), QString());
+    }
+
+    void aScanWithoutCategoriesSaysSo()
+    {
+        show(*m_data, scans(1));
+        QCOMPARE(run(0, "valueCaption"), QStringLiteral("No category estimates"));
+    }
+
+    void oneNameAtTwoPathsIsToldApartByThePath()
+    {
+        show(*m_data, {RecordedScanBuilder().in("/a").at(3).build(),
+                       RecordedScanBuilder().in("/b").at(2).build(),
+                       RecordedScanBuilder().named("other").in("/c").at(1).build()});
+        QCOMPARE(run(0, "place"), QStringLiteral("/a"));
+        QCOMPARE(run(1, "place"), QStringLiteral("/b"));
+        QCOMPARE(run(2, "place"), QString());
+        QCOMPARE(run(0, "title"), QStringLiteral("webshop"));
+    }
+
+    void theRunsAreAProperModel()
+    {
+        const QAbstractItemModelTester tester(
+            m_data->runs(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        show(*m_data, scans(3));
+        show(*m_data, scans(40));
+        show(*m_data, {});
     }
 
 private:
@@ -111,8 +184,29 @@ private:
         m_model->history().set(std::move(scans));
     }
 
+    [[nodiscard]] QString run(int row, const char *role) const
+    {
+        return m_data->runs()->text(row, QString::fromLatin1(role));
+    }
+
+    /// The oldest first; the nth has n tokens.
+    static std::vector<RecordedScan> scans(int count)
+    {
+        std::vector<RecordedScan> scans;
+        for (int number = 1; number <= count; ++number)
+            scans.push_back(RecordedScanBuilder().at(number).ofTotal(number).build());
+        return scans;
+    }
+
+    void show(RecordedDataPresenter &data, std::vector<RecordedScan> scans)
+    {
+        m_model->history().set(std::move(scans));
+        data.showHistory();
+    }
+
     std::unique_ptr<TemporaryFolder> m_folder;
     std::unique_ptr<ScanModel> m_model;
+    std::unique_ptr<RecordedDataPresenter> m_data;
 };
 
 const RegisteredTest<RecordedDataPresenterTest> registered("RecordedDataPresenter");

@@ -37,7 +37,7 @@ private Q_SLOTS:
         QCOMPARE(m_trends->detail(), m_anyRepository);
         QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Nothing recorded for ")));
         QVERIFY(!m_trends->summary()->hasScans());
-        QCOMPARE(m_trends->previousRuns()->rows()->rowCount(), 1);
+        QCOMPARE(m_trends->recordedData()->runs()->count(), 1);
     }
 
     void namesTheRepository()
@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(samples[0].total, 1);
         QCOMPARE(samples[1].total, 3);
         QCOMPARE(m_trends->summary()->drift(), QStringLiteral("+2"));
-        QCOMPARE(m_trends->previousRuns()->rows()->rowCount(), 3);
+        QCOMPARE(m_trends->recordedData()->runs()->count(), 3);
         QVERIFY(m_trends->recordedData()->storageNote().startsWith(
             QStringLiteral("3 scans across 2 repositories, ")));
     }
@@ -85,7 +85,7 @@ private Q_SLOTS:
         record({RecordedScanBuilder().build()});
         TrendsPresenter late(m_scanning->model, TextLocale());
         QCOMPARE(late.chart()->emptyTitle(), QStringLiteral("One scan recorded"));
-        QCOMPARE(late.previousRuns()->rows()->rowCount(), 1);
+        QCOMPARE(late.recordedData()->runs()->count(), 1);
     }
 
     void tellsOfEveryRecordedScan()
@@ -94,7 +94,7 @@ private Q_SLOTS:
         record({RecordedScanBuilder().build()});
         QCOMPARE(changed.count(), 1);
         record({});
-        QCOMPARE(m_trends->previousRuns()->rows()->rowCount(), 0);
+        QCOMPARE(m_trends->recordedData()->runs()->count(), 0);
         QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Scans are recorded ")));
         QVERIFY(!m_trends->summary()->hasScans());
     }

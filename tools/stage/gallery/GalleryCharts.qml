@@ -28,16 +28,7 @@ ColumnLayout {
         spacing: AppTheme.cardSpace
 
         TrendChartCard { Layout.fillWidth: true; Layout.fillHeight: true; Layout.preferredWidth: 1; chart: GallerySamples.twoScans }
-        ReportSurface {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            Layout.preferredWidth: 1
-            TrendPlaceholder {
-                Layout.fillWidth: true
-                title: "One scan recorded"
-                detail: "A trend needs at least two scans of harbor-api. Scan again to plot a line."
-            }
-        }
+        TrendChartCard { Layout.fillWidth: true; Layout.fillHeight: true; Layout.preferredWidth: 1; chart: GallerySamples.oneScan }
     }
     ReportSurface {
         id: tiles

@@ -28,7 +28,7 @@ ColumnLayout {
             model: GallerySamples.leaderboard
             viewport: card.viewport
             rowHeight: AppTheme.listRowHeight
-            delegate: LeaderboardRow { }
+            delegate: Leaderboard.Entry { }
         }
     }
 

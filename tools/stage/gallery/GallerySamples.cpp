@@ -24,8 +24,9 @@ GallerySamples::GallerySamples(QObject *parent)
       m_noFiles(locale, home),
       m_manyScans(locale),
       m_twoScans(locale),
+      m_oneScan(locale),
       m_onboarding(std::make_shared<PreferencesCompletionStore>(home / "preferences.ini")),
-      m_leaderboard(locale)
+      m_leaderboard(leaderboardRoles(locale))
 {
     m_zero.show(SampleScans::zero().report());
     m_lean.show(SampleScans::lean().report());
@@ -35,7 +36,8 @@ GallerySamples::GallerySamples(QObject *parent)
     m_noFiles.show(SampleScans::zero().report());
     m_manyScans.show(SampleHistories::ofSize(30, 1, 1));
     m_twoScans.show(SampleHistories::ofSize(2, 1, 1));
-    m_leaderboard.setEntries(ScanHistory::leaderboard(SampleHistories::ofSize(31, 5, 1)));
+    m_oneScan.show(SampleHistories::ofSize(1, 1, 1));
+    m_leaderboard.setRows(ScanHistory::leaderboard(SampleHistories::ofSize(31, 5, 1)));
 }
 
 } // namespace Loadwick

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QAbstractItemModel>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-#include "compare/LeaderboardRows.h"
+#include "compare/ComparePresenter.h"
 #include "onboarding/OnboardingPresenter.h"
 #include "overview/BandPresenter.h"
 #include "overview/InstructionFilesPresenter.h"
@@ -26,8 +25,9 @@ class GallerySamples : public QObject
     Q_PROPERTY(Loadwick::InstructionFilesPresenter *noFiles READ noFiles CONSTANT)
     Q_PROPERTY(Loadwick::TrendChartPresenter *manyScans READ manyScans CONSTANT)
     Q_PROPERTY(Loadwick::TrendChartPresenter *twoScans READ twoScans CONSTANT)
+    Q_PROPERTY(Loadwick::TrendChartPresenter *oneScan READ oneScan CONSTANT)
     Q_PROPERTY(Loadwick::OnboardingPresenter *onboarding READ onboarding CONSTANT)
-    Q_PROPERTY(QAbstractItemModel *leaderboard READ leaderboard CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *leaderboard READ leaderboard CONSTANT)
 
 public:
     explicit GallerySamples(QObject *parent = nullptr);
@@ -40,8 +40,9 @@ public:
     [[nodiscard]] InstructionFilesPresenter *noFiles() { return &m_noFiles; }
     [[nodiscard]] TrendChartPresenter *manyScans() { return &m_manyScans; }
     [[nodiscard]] TrendChartPresenter *twoScans() { return &m_twoScans; }
+    [[nodiscard]] TrendChartPresenter *oneScan() { return &m_oneScan; }
     [[nodiscard]] OnboardingPresenter *onboarding() { return &m_onboarding; }
-    [[nodiscard]] QAbstractItemModel *leaderboard() { return &m_leaderboard; }
+    [[nodiscard]] RowList *leaderboard() { return &m_leaderboard; }
 
 private:
     BandPresenter m_zero;
@@ -52,6 +53,7 @@ private:
     InstructionFilesPresenter m_noFiles;
     TrendChartPresenter m_manyScans;
     TrendChartPresenter m_twoScans;
+    TrendChartPresenter m_oneScan;
     OnboardingPresenter m_onboarding;
     LeaderboardRows m_leaderboard;
 };

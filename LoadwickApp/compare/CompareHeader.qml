@@ -1,7 +1,0 @@
-import QtQuick
-import Loadwick
-
-PageHeader {
-    title: qsTr("Compare")
-    detail: qsTr("The latest recorded scan of each repository, side by side, category for category.")
-}
