@@ -11,7 +11,7 @@ RowList::RowList(QHash<int, QByteArray> roleNames, QObject *parent)
 
 QVariant RowList::value(int row, const QString &role) const
 {
-    return data(index(row), m_roleNames.key(role.toUtf8(), -1));
+    return hasIndex(row, 0) ? data(index(row), m_roleNames.key(role.toUtf8(), -1)) : QVariant();
 }
 
 QString RowList::text(int row, const QString &role) const

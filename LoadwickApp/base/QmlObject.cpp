@@ -9,7 +9,7 @@ std::unique_ptr<QObject> qmlObject(QQmlEngine &engine, const QUrl &url,
                                    const QVariantMap &properties, QString &failure)
 {
     QQmlComponent component(&engine, url);
-    // To create from a component that is not ready ends the program.
+    // Creating from a component that is not ready ends the program.
     std::unique_ptr<QObject> object(
         component.isReady() ? component.createWithInitialProperties(properties) : nullptr);
     if (component.isError())

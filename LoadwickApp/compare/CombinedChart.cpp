@@ -112,3 +112,5 @@ void CombinedPicture::fill(BarRow &bar, int row) const
 }
 
 } // namespace Loadwick
+
+#include "moc_CombinedChart.cpp"

@@ -9,12 +9,12 @@
 namespace Loadwick {
 namespace {
 
-QList<QStringList> legendRows()
+std::vector<ListOf<OnboardingLegendEntry>::Role> legendRoles()
 {
-    QList<QStringList> rows;
-    for (const OnboardingLegendEntry &entry : OnboardingFlow::legend)
-        rows.append({qtText(entry.title()), qtText(entry.detail)});
-    return rows;
+    return {
+        {"title", [](const OnboardingLegendEntry &entry) { return qtText(entry.title()); }},
+        {"detail", [](const OnboardingLegendEntry &entry) { return qtText(entry.detail); }},
+    };
 }
 
 } // namespace
@@ -49,13 +49,11 @@ OnboardingStepTexts::Illustration OnboardingStepTexts::illustration() const
 }
 
 OnboardingPresenter::OnboardingPresenter(std::shared_ptr<OnboardingCompletionStore> store)
-    : m_store(std::move(store)),
-      m_flow(OnboardingCompletion(m_store)),
-      m_legend({"title", "detail"})
+    : m_store(std::move(store)), m_flow(OnboardingCompletion(m_store)), m_legend(legendRoles())
 {
     for (const OnboardingStep &step : OnboardingFlow::steps)
         m_steps.append(new OnboardingStepTexts(step, this));
-    m_legend.setRows(legendRows());
+    m_legend.setRows({OnboardingFlow::legend.begin(), OnboardingFlow::legend.end()});
     m_delay.setSingleShot(true);
     m_delay.setTimerType(Qt::PreciseTimer);
     m_delay.setInterval(delay);

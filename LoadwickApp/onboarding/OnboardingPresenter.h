@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
-#include "base/TextRows.h"
+#include "base/ListOf.h"
 #include "model/OnboardingFlow.h"
 #include "model/TaskDispatcher.h"
 
@@ -67,7 +67,7 @@ class OnboardingPresenter final : public QObject
     Q_PROPERTY(Loadwick::OnboardingStepTexts *currentStep READ currentStep NOTIFY moved)
     Q_PROPERTY(QString position READ position NOTIFY moved)
     Q_PROPERTY(bool isFinished READ isFinished NOTIFY isFinishedChanged)
-    Q_PROPERTY(QAbstractItemModel *legend READ legend CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *legend READ legend CONSTANT)
     Q_PROPERTY(QString legendCaption READ legendCaption CONSTANT)
 
 public:
@@ -97,7 +97,7 @@ public:
     [[nodiscard]] bool isFinished() const { return m_flow.isFinished(); }
 
     /// One row per band, "title" and "detail", in the order of the bands.
-    [[nodiscard]] QAbstractItemModel *legend() { return &m_legend; }
+    [[nodiscard]] RowList *legend() { return &m_legend; }
     [[nodiscard]] QString legendCaption() const;
 
     /// The flow's moves, which do nothing once it has finished.
@@ -118,7 +118,7 @@ private:
     std::shared_ptr<OnboardingCompletionStore> m_store;
     OnboardingFlow m_flow;
     QList<OnboardingStepTexts *> m_steps;
-    TextRows m_legend;
+    ListOf<OnboardingLegendEntry> m_legend;
     QTimer m_delay;
     int m_request = 0; ///< the number of the latest request; answers to older ones are dropped
     bool m_isPresented = false;

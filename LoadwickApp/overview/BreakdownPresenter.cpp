@@ -4,9 +4,6 @@
 #include <optional>
 #include <utility>
 
-#include <QClipboard>
-#include <QGuiApplication>
-
 #include "base/QtText.h"
 #include "text/NumberText.h"
 
@@ -53,34 +50,20 @@ void BreakdownPresenter::show(const ScanReport &report)
 
 QString BreakdownPresenter::readOutTitle(int row) const
 {
-    const SlabAttribution *found = at(row);
-    return found != nullptr ? m_rows.name(*found) : QString();
+    return m_rows.text(row, QStringLiteral("name"));
 }
 
 QString BreakdownPresenter::readOutDetail(int row) const
 {
-    const SlabAttribution *found = at(row);
-    return found != nullptr ? tr("%1 tokens · %2").arg(m_rows.tokens(*found), m_rows.share(*found))
-                            : QString();
+    return m_rows.hasIndex(row, 0) ? tr("%1 tokens · %2")
+                                         .arg(m_rows.text(row, QStringLiteral("tokens")),
+                                              m_rows.text(row, QStringLiteral("share")))
+                                   : QString();
 }
 
 QString BreakdownPresenter::readOutSentence(int row) const
 {
-    const SlabAttribution *found = at(row);
-    return found != nullptr ? m_rows.sentence(*found) : QString();
-}
-
-void BreakdownPresenter::copyRow(int row) const
-{
-    if (const SlabAttribution *found = at(row))
-        QGuiApplication::clipboard()->setText(m_rows.sentence(*found));
-}
-
-const SlabAttribution *BreakdownPresenter::at(int row) const noexcept
-{
-    const auto &rows = m_rows.rows();
-    const auto index = static_cast<std::size_t>(row);
-    return row >= 0 && index < rows.size() ? &rows[index] : nullptr;
+    return m_rows.text(row, QStringLiteral("sentence"));
 }
 
 QString BreakdownPresenter::summaryOfChart() const
@@ -88,12 +71,15 @@ QString BreakdownPresenter::summaryOfChart() const
     const auto &rows = m_rows.rows();
     if (!m_hasSlices)
         return {};
-    const auto largest = std::ranges::max_element(rows, {}, &SlabAttribution::tokens);
+    const auto found = std::ranges::max_element(rows, {}, &SlabAttribution::tokens);
+    const auto largest = static_cast<int>(found - rows.begin());
     const auto count = static_cast<std::int64_t>(rows.size());
     return tr("Donut chart of the breakdown by category, %1 tokens in all. "
               "The largest of %2: %3, %4 tokens, %5")
-        .arg(m_total, qtText(NumberText::grouped(count, m_locale)), m_rows.name(*largest),
-             m_rows.tokens(*largest), m_rows.share(*largest));
+        .arg(m_total, qtText(NumberText::grouped(count, m_locale)),
+             m_rows.text(largest, QStringLiteral("name")),
+             m_rows.text(largest, QStringLiteral("tokens")),
+             m_rows.text(largest, QStringLiteral("share")));
 }
 
 } // namespace Loadwick

@@ -16,7 +16,7 @@ class BreakdownPresenter final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the Overview.")
-    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *rows READ rows CONSTANT)
     Q_PROPERTY(QList<qreal> slices READ slices NOTIFY changed)
     Q_PROPERTY(bool hasSlices READ hasSlices NOTIFY changed)
     Q_PROPERTY(QString total READ total NOTIFY changed)
@@ -29,7 +29,7 @@ public:
 
     void show(const ScanReport &report);
 
-    [[nodiscard]] QAbstractItemModel *rows() { return &m_rows; }
+    [[nodiscard]] RowList *rows() { return &m_rows; }
 
     /// Tokens per row, for the chart.
     [[nodiscard]] const QList<qreal> &slices() const noexcept { return m_slices; }
@@ -53,14 +53,10 @@ public:
     /// The whole row, for a screen reader; empty without such a row.
     Q_INVOKABLE [[nodiscard]] QString readOutSentence(int row) const;
 
-    /// Puts one row on the clipboard.
-    Q_INVOKABLE void copyRow(int row) const;
-
 Q_SIGNALS:
     void changed();
 
 private:
-    [[nodiscard]] const SlabAttribution *at(int row) const noexcept;
     [[nodiscard]] QString summaryOfChart() const;
 
     TextLocale m_locale;

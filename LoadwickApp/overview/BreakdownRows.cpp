@@ -1,84 +1,49 @@
 #include "overview/BreakdownRows.h"
 
-#include <utility>
+#include <QCoreApplication>
 
 #include "base/QtText.h"
 #include "overview/ShareText.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {
+namespace {
 
-BreakdownRows::BreakdownRows(TextLocale locale, QObject *parent)
-    : QAbstractListModel(parent), m_locale(std::move(locale))
-{}
+QString sentenceOf(const SlabAttribution &row, const QString &tokens, const QString &share)
+{
+    return QCoreApplication::translate("BreakdownRows", "%1, %2 tokens, %3, %4")
+        .arg(qtText(row.name), tokens, share, qtText(row.provenance.sourceLabel()));
+}
+
+std::vector<ListOf<SlabAttribution>::Role> breakdownRoles(const TextLocale &locale,
+                                                          const std::int64_t &total)
+{
+    const auto tokens = [locale](const SlabAttribution &row) {
+        return qtText(NumberText::grouped(row.tokens, locale));
+    };
+    const auto share = [&total](const SlabAttribution &row) {
+        return ShareText::percent(row.tokens, total);
+    };
+    return {
+        {"name", [](const SlabAttribution &row) { return qtText(row.name); }},
+        {"tokens", tokens},
+        {"share", share},
+        {"source", [](const SlabAttribution &row) { return qtText(row.provenance.sourceLabel()); }},
+        {"provenance",
+         [](const SlabAttribution &row) { return qtText(row.provenance.rawValue()); }},
+        {"sentence",
+         [=](const SlabAttribution &row) { return sentenceOf(row, tokens(row), share(row)); }},
+    };
+}
+
+} // namespace
+
+BreakdownRows::BreakdownRows(const TextLocale &locale) : ListOf(breakdownRoles(locale, m_total)) {}
 
 void BreakdownRows::show(const ScanReport &report)
 {
-    beginResetModel();
-    m_rows = report.rows;
     m_total = report.total;
-    endResetModel();
-}
-
-QString BreakdownRows::name(const SlabAttribution &row) const
-{
-    return qtText(row.name);
-}
-
-QString BreakdownRows::tokens(const SlabAttribution &row) const
-{
-    return qtText(NumberText::grouped(row.tokens, m_locale));
-}
-
-QString BreakdownRows::share(const SlabAttribution &row) const
-{
-    return ShareText::percent(row.tokens, m_total);
-}
-
-QString BreakdownRows::sentence(const SlabAttribution &row) const
-{
-    return tr("%1, %2 tokens, %3, %4")
-        .arg(name(row), tokens(row), share(row), qtText(row.provenance.sourceLabel()));
-}
-
-int BreakdownRows::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant BreakdownRows::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const SlabAttribution &row = m_rows[static_cast<std::size_t>(index.row())];
-    switch (role) {
-    case NameRole:
-        return name(row);
-    case TokensRole:
-        return tokens(row);
-    case ShareRole:
-        return share(row);
-    case SourceRole:
-        return qtText(row.provenance.sourceLabel());
-    case ColorPlaceRole:
-        return index.row();
-    case ProvenanceRole:
-        return qtText(row.provenance.rawValue());
-    case SentenceRole:
-        return sentence(row);
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> BreakdownRows::roleNames() const
-{
-    return {
-        {NameRole, "name"},        {TokensRole, "tokens"},         {ShareRole, "share"},
-        {SourceRole, "source"},    {ColorPlaceRole, "colorPlace"}, {ProvenanceRole, "provenance"},
-        {SentenceRole, "sentence"}};
+    setRows(report.rows);
 }
 
 } // namespace Loadwick
-
-#include "moc_BreakdownRows.cpp"

@@ -100,7 +100,7 @@ ColumnLayout {
         rowHeight: headings.rowHeight
         markedIndex: table.markedRow
         Accessible.name: qsTr("Estimated breakdown by category")
-        onCopyRequested: index => table.breakdown.copyRow(index)
+        onCopyRequested: index => table.breakdown.rows.copy(index, "sentence")
 
         delegate: Item {
             id: row
@@ -109,7 +109,7 @@ ColumnLayout {
             required property string tokens
             required property string share
             required property string source
-            required property int colorPlace
+            required property int index
             required property string sentence
 
             width: row.ListView.view.width
@@ -128,7 +128,7 @@ ColumnLayout {
                 tokens: row.tokens
                 share: row.share
                 source: row.source
-                dot: AppTheme.chartColors[row.colorPlace % AppTheme.chartColors.length]
+                dot: AppTheme.chartColors[row.index % AppTheme.chartColors.length]
             }
         }
     }

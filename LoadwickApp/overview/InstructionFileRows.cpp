@@ -1,9 +1,7 @@
 #include "overview/InstructionFileRows.h"
 
+#include <functional>
 #include <utility>
-
-#include <QClipboard>
-#include <QGuiApplication>
 
 #include "base/QtText.h"
 #include "overview/ShareText.h"
@@ -12,103 +10,77 @@
 namespace Loadwick {
 namespace {
 
-QString nameOf(std::string_view path)
+QString nameOf(const ListedFile &file)
 {
-    return qtText(path.substr(path.find_last_of('/') + 1));
+    return qtText(file.path.substr(file.path.find_last_of('/') + 1));
 }
 
-QVariant unreadableData(std::string_view path, int role)
+double weightOf(const ListedFile &file)
 {
-    const QString words = InstructionFileRows::tr("Could not be read");
-    switch (role) {
-    case InstructionFileRows::Size:
-        return words;
-    case InstructionFileRows::Weight:
-        return 0.0;
-    case InstructionFileRows::IsReadable:
-        return false;
-    case InstructionFileRows::Words:
-        return InstructionFileRows::tr("%1. %2.").arg(qtText(path), words);
-    default:
-        return QString();
-    }
+    return file.estimate != nullptr ? static_cast<double>(file.estimate->estimatedTokens) : 0.0;
 }
 
 } // namespace
 
+InstructionFileRows::InstructionFileRows()
+    : ListOf({
+          {"path", [](const ListedFile &file) { return qtText(file.path); }},
+          {"name", nameOf},
+          {"size", std::bind_front(&InstructionFileRows::size, this)},
+          {"tokens", std::bind_front(&InstructionFileRows::tokens, this)},
+          {"amount", std::bind_front(&InstructionFileRows::amount, this)},
+          {"share", std::bind_front(&InstructionFileRows::share, this)},
+          {"figures", std::bind_front(&InstructionFileRows::figures, this)},
+          {"weight", weightOf},
+          {"isReadable", [](const ListedFile &file) { return file.estimate != nullptr; }},
+          {"words", std::bind_front(&InstructionFileRows::words, this)},
+      })
+{}
+
 void InstructionFileRows::show(Context context, std::vector<ListedFile> rows)
 {
-    beginResetModel();
-    m_context = std::move(context);
-    m_rows = std::move(rows);
-    endResetModel();
-    Q_EMIT countChanged();
+    const Context before = std::exchange(m_context, std::move(context)); // the old rows' files
+    setRows(std::move(rows));
 }
 
-void InstructionFileRows::copyPath(int row) const
+QString InstructionFileRows::size(const ListedFile &file) const
 {
-    if (row >= 0 && row < count())
-        QGuiApplication::clipboard()->setText(path(row));
+    return file.estimate != nullptr ? tr("%1 bytes on disk · local estimate at 4 bytes/token")
+                                          .arg(grouped(file.estimate->byteCount))
+                                    : tr("Could not be read");
 }
 
-int InstructionFileRows::rowCount(const QModelIndex &parent) const
+QString InstructionFileRows::tokens(const ListedFile &file) const
 {
-    return parent.isValid() ? 0 : count();
+    return file.estimate != nullptr ? grouped(file.estimate->estimatedTokens) : QString();
 }
 
-QVariant InstructionFileRows::data(const QModelIndex &index, int role) const
+QString InstructionFileRows::amount(const ListedFile &file) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (file.estimate == nullptr)
         return {};
-    const ListedFile &row = m_rows[static_cast<std::size_t>(index.row())];
-    if (role == Path)
-        return qtText(row.path);
-    if (role == Name)
-        return nameOf(row.path);
-    return row.estimate != nullptr ? readableData(*row.estimate, role)
-                                   : unreadableData(row.path, role);
+    return (file.estimate->estimatedTokens == 1 ? tr("%1 token") : tr("%1 tokens"))
+        .arg(tokens(file));
 }
 
-QHash<int, QByteArray> InstructionFileRows::roleNames() const
+QString InstructionFileRows::share(const ListedFile &file) const
 {
-    return {{Path, "path"},       {Name, "name"},     {Size, "size"},
-            {Tokens, "tokens"},   {Amount, "amount"}, {Share, "share"},
-            {Figures, "figures"}, {Weight, "weight"}, {IsReadable, "isReadable"},
-            {Words, "words"}};
+    return file.estimate != nullptr
+               ? ShareText::ofTotal(file.estimate->estimatedTokens, m_context.total)
+               : QString();
 }
 
-QString InstructionFileRows::text(int row, Role role) const
+QString InstructionFileRows::figures(const ListedFile &file) const
 {
-    return row >= 0 && row < count() ? data(index(row), role).toString() : QString();
+    return file.estimate != nullptr ? tr("%1 estimated tokens · %2").arg(tokens(file), share(file))
+                                    : QString();
 }
 
-QVariant InstructionFileRows::readableData(const InstructionFileEstimate &file, int role) const
+QString InstructionFileRows::words(const ListedFile &file) const
 {
-    const auto share = [&] { return ShareText::ofTotal(file.estimatedTokens, m_context.total); };
-    switch (role) {
-    case Size:
-        return tr("%1 bytes on disk · local estimate at 4 bytes/token")
-            .arg(grouped(file.byteCount));
-    case Tokens:
-        return grouped(file.estimatedTokens);
-    case Amount:
-        return (file.estimatedTokens == 1 ? tr("%1 token") : tr("%1 tokens"))
-            .arg(grouped(file.estimatedTokens));
-    case Share:
-        return share();
-    case Figures:
-        return tr("%1 estimated tokens · %2").arg(grouped(file.estimatedTokens), share());
-    case Weight:
-        return static_cast<double>(file.estimatedTokens);
-    case IsReadable:
-        return true;
-    case Words:
-        return tr("%1. %2. %3.")
-            .arg(qtText(file.path), readableData(file, Figures).toString(),
-                 readableData(file, Size).toString());
-    default:
-        return {};
-    }
+    const QString path = qtText(file.path);
+    return file.estimate != nullptr ? tr("%1. %2. %3.").arg(path, figures(file), size(file))
+                                    : tr("%1. %2.").arg(path, size(file));
 }
 
 QString InstructionFileRows::grouped(std::int64_t number) const
@@ -117,5 +89,3 @@ QString InstructionFileRows::grouped(std::int64_t number) const
 }
 
 } // namespace Loadwick
-
-#include "moc_InstructionFileRows.cpp"

@@ -4,38 +4,25 @@
 #include <memory>
 #include <vector>
 
-#include <QAbstractListModel>
-#include <QtQml/qqmlregistration.h>
+#include <QCoreApplication>
 
+#include "base/ListOf.h"
 #include "overview/ListedFile.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
 
-/// A list of instruction files for the screen. What a row says is written when it is asked for, so
-/// that ten thousand files cost nothing before they are looked at.
-class InstructionFileRows : public QAbstractListModel
+/// A list of instruction files for the screen. A file without figures could not be read: its
+/// "tokens", "amount", "share" and "figures" are empty. The roles:
+/// "path", "name" (the last part of the path), "size" (bytes on disk, or that the file could not be
+/// read), "tokens" ("1,234"), "amount" ("1,234 tokens"), "share" ("12.3% of total"), "figures"
+/// (tokens and share in one line), "weight" (tokens as a double), "isReadable" and "words" (the
+/// whole row, for a screen reader).
+class InstructionFileRows final : public ListOf<ListedFile>
 {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Made by the presenters.")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_DECLARE_TR_FUNCTIONS(InstructionFileRows)
 
 public:
-    enum Role
-    {
-        Path = Qt::UserRole,
-        Name,       ///< the last part of the path
-        Size,       ///< bytes on disk, or that the file could not be read
-        Tokens,     ///< "1,234"; empty for a file without figures
-        Amount,     ///< "1,234 tokens"; empty for a file without figures
-        Share,      ///< "12.3% of total"; empty for a file without figures
-        Figures,    ///< tokens and share in one line
-        Weight,     ///< tokens as a double
-        IsReadable, ///< whether there are figures
-        Words       ///< the whole row, for a screen reader
-    };
-
     /// What all the rows of one report have in common.
     struct Context
     {
@@ -44,34 +31,20 @@ public:
         TextLocale locale = {};
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    InstructionFileRows();
 
     void show(Context context, std::vector<ListedFile> rows);
 
-    [[nodiscard]] int count() const noexcept { return static_cast<int>(m_rows.size()); }
-    [[nodiscard]] const std::vector<ListedFile> &rows() const noexcept { return m_rows; }
-
-    /// What a row says; empty where there is none.
-    Q_INVOKABLE QString path(int row) const { return text(row, Path); }
-    Q_INVOKABLE QString figures(int row) const { return text(row, Figures); }
-    Q_INVOKABLE QString words(int row) const { return text(row, Words); }
-    /// Puts the row's path on the clipboard.
-    Q_INVOKABLE void copyPath(int row) const;
-
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
-Q_SIGNALS:
-    void countChanged();
-
 private:
-    [[nodiscard]] QString text(int row, Role role) const;
-    [[nodiscard]] QVariant readableData(const InstructionFileEstimate &file, int role) const;
+    [[nodiscard]] QString size(const ListedFile &file) const;
+    [[nodiscard]] QString tokens(const ListedFile &file) const;
+    [[nodiscard]] QString amount(const ListedFile &file) const;
+    [[nodiscard]] QString share(const ListedFile &file) const;
+    [[nodiscard]] QString figures(const ListedFile &file) const;
+    [[nodiscard]] QString words(const ListedFile &file) const;
     [[nodiscard]] QString grouped(std::int64_t number) const;
 
     Context m_context;
-    std::vector<ListedFile> m_rows;
 };
 
 } // namespace Loadwick

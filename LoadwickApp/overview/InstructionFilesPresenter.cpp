@@ -78,8 +78,9 @@ void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &co
     const int largest = indexOfLargest(m_tiles.rows());
     m_sizeSummary = tr("Relative size of %1, %2 estimated tokens together. The largest: %3, %4.")
                         .arg(countOf(m_tiles.rows().size(), m_locale),
-                             qtText(NumberText::grouped(tokens, m_locale)), m_tiles.path(largest),
-                             m_tiles.figures(largest));
+                             qtText(NumberText::grouped(tokens, m_locale)),
+                             m_tiles.text(largest, QStringLiteral("path")),
+                             m_tiles.text(largest, QStringLiteral("figures")));
 }
 
 } // namespace Loadwick

@@ -22,11 +22,11 @@ class InstructionFilesPresenter final : public QObject
     Q_PROPERTY(QString note READ note NOTIFY changed)
     Q_PROPERTY(QString sizeSummary READ sizeSummary NOTIFY changed)
     Q_PROPERTY(bool hasSizes READ hasSizes NOTIFY changed)
-    Q_PROPERTY(Loadwick::InstructionFileRows *tiles READ tiles CONSTANT)
-    Q_PROPERTY(Loadwick::InstructionFileRows *repositoryRows READ repositoryRows CONSTANT)
-    Q_PROPERTY(Loadwick::InstructionFileRows *inheritedRows READ inheritedRows CONSTANT)
-    Q_PROPERTY(Loadwick::InstructionFileRows *personalRows READ personalRows CONSTANT)
-    Q_PROPERTY(Loadwick::InstructionFileRows *largestRows READ largestRows CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *tiles READ tiles CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *repositoryRows READ repositoryRows CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *inheritedRows READ inheritedRows CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *personalRows READ personalRows CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *largestRows READ largestRows CONSTANT)
 
 public:
     static constexpr std::size_t largestCount = 5;
@@ -44,13 +44,13 @@ public:
     /// Whether there is a tile to draw.
     [[nodiscard]] bool hasSizes() const { return !m_sizeSummary.isEmpty(); }
     /// The files with figures, in the order of their tiers.
-    [[nodiscard]] InstructionFileRows *tiles() { return &m_tiles; }
+    [[nodiscard]] RowList *tiles() { return &m_tiles; }
 
-    [[nodiscard]] InstructionFileRows *repositoryRows() { return &m_repositoryRows; }
-    [[nodiscard]] InstructionFileRows *inheritedRows() { return &m_inheritedRows; }
-    [[nodiscard]] InstructionFileRows *personalRows() { return &m_personalRows; }
+    [[nodiscard]] RowList *repositoryRows() { return &m_repositoryRows; }
+    [[nodiscard]] RowList *inheritedRows() { return &m_inheritedRows; }
+    [[nodiscard]] RowList *personalRows() { return &m_personalRows; }
     /// The largest first; files of equal tokens in the order of the tiers.
-    [[nodiscard]] InstructionFileRows *largestRows() { return &m_largestRows; }
+    [[nodiscard]] RowList *largestRows() { return &m_largestRows; }
 
 Q_SIGNALS:
     void changed();

@@ -14,7 +14,7 @@ ReportSurface {
         id: tier
 
         required property string title
-        required property InstructionFileRows rows
+        required property RowList rows
         required property Flickable viewport
 
         Layout.fillWidth: true
@@ -33,7 +33,7 @@ ReportSurface {
             model: tier.rows
             visible: tier.rows.count > 0
             Accessible.name: tier.title
-            onCopyRequested: index => tier.rows.copyPath(index)
+            onCopyRequested: index => tier.rows.copy(index, "path")
 
             delegate: InstructionFileRow { width: ListView.view.width }
         }

@@ -6,7 +6,7 @@ import Loadwick
 ReportSurface {
     id: section
 
-    required property InstructionFileRows rows
+    required property RowList rows
     required property Flickable viewport
     readonly property bool isEmpty: section.rows.count === 0
 
@@ -108,7 +108,7 @@ ReportSurface {
             viewport: section.viewport
             model: section.rows
             Accessible.name: header.title
-            onCopyRequested: index => section.rows.copyPath(index)
+            onCopyRequested: index => section.rows.copy(index, "path")
 
             delegate: Cells {
                 id: row

@@ -13,7 +13,7 @@
 namespace Loadwick {
 namespace {
 
-QList<QStringList> detailsOf(const ScanReport &report)
+std::vector<SessionDetail> detailsOf(const ScanReport &report)
 {
     return {
         {OverviewPresenter::tr("Repository path"), qtText(report.repositoryPath)},
@@ -42,7 +42,8 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_start(m_clock()),
       m_breakdown(m_locale),
       m_files(m_locale, std::move(home)),
-      m_details({"label", "value"}),
+      m_details({{"label", [](const SessionDetail &detail) { return detail.label; }},
+                 {"value", [](const SessionDetail &detail) { return detail.value; }}}),
       m_weekly(m_locale),
       m_band(m_locale)
 {

@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
-#include "base/TextRows.h"
+#include "base/ListOf.h"
 #include "model/ScanModel.h"
 #include "overview/BandPresenter.h"
 #include "overview/BreakdownPresenter.h"
@@ -17,6 +17,12 @@
 #include "text/TextLocale.h"
 
 namespace Loadwick {
+
+struct SessionDetail
+{
+    QString label;
+    QString value;
+};
 
 /// The Overview of the current or the last scan. Belongs to the interface thread; the model
 /// outlives it, but must not change afterwards.
@@ -34,7 +40,7 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
     Q_PROPERTY(Loadwick::BreakdownPresenter *breakdown READ breakdown CONSTANT)
     Q_PROPERTY(Loadwick::InstructionFilesPresenter *files READ files CONSTANT)
-    Q_PROPERTY(QAbstractItemModel *sessionDetails READ sessionDetails CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *sessionDetails READ sessionDetails CONSTANT)
     Q_PROPERTY(Loadwick::WeeklyPresenter *weekly READ weekly CONSTANT)
     Q_PROPERTY(Loadwick::BandPresenter *band READ band CONSTANT)
 
@@ -76,7 +82,7 @@ public:
     [[nodiscard]] InstructionFilesPresenter *files() { return &m_files; }
 
     /// One row per detail, "label" and "value".
-    [[nodiscard]] QAbstractItemModel *sessionDetails() { return &m_details; }
+    [[nodiscard]] RowList *sessionDetails() { return &m_details; }
 
     [[nodiscard]] WeeklyPresenter *weekly() { return &m_weekly; }
     [[nodiscard]] BandPresenter *band() { return &m_band; }
@@ -108,7 +114,7 @@ private:
     QStringList m_notes;
     BreakdownPresenter m_breakdown;
     InstructionFilesPresenter m_files;
-    TextRows m_details;
+    ListOf<SessionDetail> m_details;
     WeeklyPresenter m_weekly;
     BandPresenter m_band;
 };

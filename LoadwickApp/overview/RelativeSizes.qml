@@ -52,7 +52,7 @@ ColumnLayout {
                 dimming: AppTheme.tileDimming
                 Accessible.role: Accessible.Graphic
                 Accessible.name: sizes.files.sizeSummary
-                Accessible.description: sizes.files.tiles.words(map.currentMark)
+                Accessible.description: sizes.files.tiles.text(map.currentMark, "words")
                 Accessible.focusable: true
 
                 FocusRing {
@@ -74,8 +74,8 @@ ColumnLayout {
             Layout.minimumWidth: sizes.readOutWidth
             Layout.preferredWidth: sizes.readOutWidth
             Layout.alignment: Qt.AlignTop
-            title: sizes.files.tiles.path(map.currentMark)
-            detail: sizes.files.tiles.figures(map.currentMark)
+            title: sizes.files.tiles.text(map.currentMark, "path")
+            detail: sizes.files.tiles.text(map.currentMark, "figures")
             hint: qsTr("Hover a tile, or walk the tiles with the arrow keys, for its path and share.")
             isPath: true
             titleLines: pair.stacked ? 2 : 4

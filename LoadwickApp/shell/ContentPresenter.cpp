@@ -18,21 +18,21 @@ struct StatusOf
     Status operator()(const ScanState::Failed &) const { return Status::Failed; }
 };
 
-QList<QStringList> pageRows()
+std::vector<ListOf<AppPage>::Role> pageRoles()
 {
-    QList<QStringList> rows;
-    for (const AppPage page : AppPage::all)
-        rows.append({qtText(page.title()), qtText(page.symbol()),
-                     QStringLiteral("Ctrl+%1").arg(rows.size() + 1)});
-    return rows;
+    return {
+        {"title", [](AppPage page) { return qtText(page.title()); }},
+        {"symbol", [](AppPage page) { return qtText(page.symbol()); }},
+        {"shortcut", [](AppPage page) { return QStringLiteral("Ctrl+%1").arg(page + 1); }},
+    };
 }
 
 } // namespace
 
 ContentPresenter::ContentPresenter(ScanModel &model, FolderChooser &chooser)
-    : m_model(model), m_chooser(chooser), m_pages({"title", "symbol", "shortcut"})
+    : m_model(model), m_chooser(chooser), m_pages(pageRoles())
 {
-    m_pages.setRows(pageRows());
+    m_pages.setRows({AppPage::all.begin(), AppPage::all.end()});
     m_model.selection().observe({.didChange = [this] {
         Q_EMIT selectionChanged();
         Q_EMIT commandsChanged();

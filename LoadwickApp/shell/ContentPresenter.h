@@ -6,7 +6,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include "base/TextRows.h"
+#include "base/ListOf.h"
 #include "dialogs/FolderChooser.h"
 #include "model/ScanModel.h"
 #include "shell/AppPage.h"
@@ -32,7 +32,7 @@ class ContentPresenter final : public QObject
     Q_PROPERTY(QString scanTitle READ scanTitle NOTIFY commandsChanged)
     Q_PROPERTY(QString longestScanTitle READ longestScanTitle CONSTANT)
     Q_PROPERTY(QString allowanceDisclosure READ allowanceDisclosure CONSTANT)
-    Q_PROPERTY(QAbstractItemModel *pages READ pages CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *pages READ pages CONSTANT)
     Q_PROPERTY(int pageIndex READ pageIndex WRITE setPageIndex NOTIFY pageIndexChanged)
 
 public:
@@ -66,7 +66,7 @@ public:
     [[nodiscard]] QString allowanceDisclosure() const;
 
     /// One row per page, "title", "symbol" and "shortcut", in the order of the sidebar.
-    [[nodiscard]] QAbstractItemModel *pages() { return &m_pages; }
+    [[nodiscard]] RowList *pages() { return &m_pages; }
 
     /// The page's index in that order. Setting an index out of range shows the first page.
     [[nodiscard]] int pageIndex() const noexcept { return static_cast<int>(m_page); }
@@ -90,7 +90,7 @@ private:
 
     ScanModel &m_model;
     FolderChooser &m_chooser;
-    TextRows m_pages;
+    ListOf<AppPage> m_pages;
     AppPage::Value m_page = AppPage::overview;
 };
 

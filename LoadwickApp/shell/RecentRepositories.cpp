@@ -12,9 +12,11 @@
 namespace Loadwick {
 namespace {
 
-std::vector<RecentRows::Row> recentRows(std::span<const RecordedScan> history)
+using Row = RecentRepositories::Row;
+
+std::vector<Row> recentRows(std::span<const RecordedScan> history)
 {
-    std::vector<RecentRows::Row> rows;
+    std::vector<Row> rows;
     std::set<std::string> listed;
     for (const RecordedScan &scan : ScanHistory::newestFirst(history)) {
         if (rows.size() == RecentRepositories::longestList)
@@ -27,11 +29,23 @@ std::vector<RecentRows::Row> recentRows(std::span<const RecordedScan> history)
     return rows;
 }
 
+QString detailOf(const Row &row)
+{
+    const bool isGone = !row.isThere.value_or(true);
+    return isGone ? RecentRepositories::tr("Folder not found: %1").arg(row.place) : row.place;
+}
+
 } // namespace
 
 RecentRepositories::RecentRepositories(ScanModel &model, ContentPresenter &content,
                                        std::shared_ptr<TaskDispatcher> dispatcher)
-    : m_model(model), m_content(content), m_dispatcher(std::move(dispatcher))
+    : m_model(model),
+      m_content(content),
+      m_dispatcher(std::move(dispatcher)),
+      m_rows({{"title", [](const Row &row) { return row.title; }},
+              {"detail", detailOf},
+              {"isThere", [](const Row &row) { return row.isThere.value_or(false); }},
+              {"isCurrent", [](const Row &row) { return row.isCurrent; }}})
 {
     m_model.history().observe({.didChange = [this] { showHistory(); }});
     m_model.selection().observe({.didChange = [this] { showSelection(); }});
@@ -48,14 +62,16 @@ void RecentRepositories::showHistory()
 void RecentRepositories::showSelection()
 {
     const auto &selection = m_model.selection().get();
-    m_rows.setCurrent(selection ? std::optional<std::filesystem::path>(selection->path())
-                                : std::nullopt);
+    std::vector<Row> rows = m_rows.rows();
+    for (Row &row : rows)
+        row.isCurrent = selection && row.folder == std::filesystem::path(selection->path());
+    m_rows.updateRows(std::move(rows));
 }
 
 void RecentRepositories::look()
 {
     // Each on a thread of its own: a disk that hangs holds up no other.
-    for (const RecentRows::Row &row : m_rows.rows())
+    for (const Row &row : m_rows.rows())
         lookFor(row.folder);
 }
 
@@ -64,14 +80,23 @@ void RecentRepositories::lookFor(const std::filesystem::path &folder)
     // Without a thread the folder stays disabled; the dialog remains.
     inBackground(
         this, m_dispatcher, [folder] { return isFolder(folder); },
-        [this, folder](bool isThere) { m_rows.setIsThere(folder, isThere); });
+        [this, folder](bool isThere) { setIsThere(folder, isThere); });
+}
+
+void RecentRepositories::setIsThere(const std::filesystem::path &folder, bool isThere)
+{
+    std::vector<Row> rows = m_rows.rows();
+    for (Row &row : rows)
+        if (row.folder == folder)
+            row.isThere = isThere;
+    m_rows.updateRows(std::move(rows));
 }
 
 void RecentRepositories::choose(int row)
 {
     if (row < 0 || row >= count())
         return;
-    const RecentRows::Row chosen = m_rows.rows()[static_cast<std::size_t>(row)];
+    const Row chosen = m_rows.rows()[static_cast<std::size_t>(row)];
     if (!chosen.isThere.value_or(false))
         return;
     if (chosen.isCurrent)

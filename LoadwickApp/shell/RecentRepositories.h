@@ -1,14 +1,17 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
+#include <optional>
 
 #include <QObject>
+#include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/ListOf.h"
 #include "model/ScanModel.h"
 #include "model/TaskDispatcher.h"
 #include "shell/ContentPresenter.h"
-#include "shell/RecentRows.h"
 
 namespace Loadwick {
 
@@ -20,18 +23,28 @@ class RecentRepositories final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window.")
-    Q_PROPERTY(QAbstractItemModel *rows READ rows CONSTANT)
+    Q_PROPERTY(Loadwick::RowList *rows READ rows CONSTANT)
     Q_PROPERTY(int count READ count NOTIFY changed)
 
 public:
     static constexpr std::size_t longestList = 10;
 
+    struct Row
+    {
+        QString title;
+        QString place; ///< the folder, as text
+        std::filesystem::path folder;
+        std::optional<bool> isThere = {}; ///< nothing until it was looked for
+        bool isCurrent = false;           ///< the repository that is chosen now
+    };
+
     RecentRepositories(ScanModel &model, ContentPresenter &content,
                        std::shared_ptr<TaskDispatcher> dispatcher);
 
-    /// The repository scanned last first. None counts as there until it was looked for.
-    [[nodiscard]] QAbstractItemModel *rows() { return &m_rows; }
-    [[nodiscard]] int count() const { return m_rows.rowCount(); }
+    /// The repository scanned last first: "title", "detail" (where it is, or was), "isThere", which
+    /// is false until it was looked for, and "isCurrent".
+    [[nodiscard]] RowList *rows() { return &m_rows; }
+    [[nodiscard]] int count() const { return m_rows.count(); }
 
     /// Looks, in the background, which of the folders are there.
     Q_INVOKABLE void look();
@@ -47,11 +60,12 @@ private:
     void showHistory();
     void showSelection();
     void lookFor(const std::filesystem::path &folder);
+    void setIsThere(const std::filesystem::path &folder, bool isThere);
 
     ScanModel &m_model;
     ContentPresenter &m_content;
     std::shared_ptr<TaskDispatcher> m_dispatcher;
-    RecentRows m_rows;
+    ListOf<Row> m_rows;
 };
 
 } // namespace Loadwick

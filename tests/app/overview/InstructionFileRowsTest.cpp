@@ -14,8 +14,6 @@
 namespace Loadwick {
 namespace {
 
-using Role = InstructionFileRows::Role;
-
 InstructionFileRows::Context contextOf(InstructionFileSet files, const char *locale = "en_US")
 {
     return {.files = std::make_shared<const InstructionFileSet>(std::move(files)),
@@ -36,9 +34,9 @@ void showAll(InstructionFileRows &rows, const InstructionFileRows::Context &cont
     rows.show(context, ListedFile::allReadable(*context.files));
 }
 
-QString textOf(const InstructionFileRows &rows, Role role)
+QString textOf(const InstructionFileRows &rows, const char *role)
 {
-    return rows.index(0).data(role).toString();
+    return rows.text(0, QString::fromLatin1(role));
 }
 
 } // namespace
@@ -78,22 +76,22 @@ private Q_SLOTS:
         QFETCH(const QString, figures);
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(1'234'567), QTest::currentDataTag()));
-        QCOMPARE(textOf(rows, Role::Size), size);
-        QCOMPARE(textOf(rows, Role::Tokens), tokens);
-        QCOMPARE(textOf(rows, Role::Amount), tokens + QStringLiteral(" tokens"));
-        QCOMPARE(textOf(rows, Role::Share), QStringLiteral("100.0% of total"));
-        QCOMPARE(textOf(rows, Role::Figures), figures);
-        QCOMPARE(rows.figures(0), figures);
-        QCOMPARE(textOf(rows, Role::Words), QStringLiteral("/code/app/docs/CLAUDE.md. ") + figures +
-                                                QStringLiteral(". ") + size + QStringLiteral("."));
+        QCOMPARE(textOf(rows, "size"), size);
+        QCOMPARE(textOf(rows, "tokens"), tokens);
+        QCOMPARE(textOf(rows, "amount"), tokens + QStringLiteral(" tokens"));
+        QCOMPARE(textOf(rows, "share"), QStringLiteral("100.0% of total"));
+        QCOMPARE(textOf(rows, "figures"), figures);
+        QCOMPARE(rows.text(0, QStringLiteral("figures")), figures);
+        QCOMPARE(textOf(rows, "words"), QStringLiteral("/code/app/docs/CLAUDE.md. ") + figures +
+                                            QStringLiteral(". ") + size + QStringLiteral("."));
     }
 
     void aFileLargerThanTheTotalShowsAShareOfAHundredPercent()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(40'004)));
-        QCOMPARE(textOf(rows, Role::Tokens), QStringLiteral("10,001"));
-        QCOMPARE(textOf(rows, Role::Share), QStringLiteral("100.0% of total"));
+        QCOMPARE(textOf(rows, "tokens"), QStringLiteral("10,001"));
+        QCOMPARE(textOf(rows, "share"), QStringLiteral("100.0% of total"));
     }
 
     void aShareOfNoTotalIsZero()
@@ -102,26 +100,27 @@ private Q_SLOTS:
         InstructionFileRows::Context context = contextOf(oneFile(4'000));
         context.total = 0;
         showAll(rows, context);
-        QCOMPARE(textOf(rows, Role::Share), QStringLiteral("0.0% of total"));
-        QCOMPARE(rows.figures(0), QStringLiteral("1,000 estimated tokens · 0.0% of total"));
+        QCOMPARE(textOf(rows, "share"), QStringLiteral("0.0% of total"));
+        QCOMPARE(rows.text(0, QStringLiteral("figures")),
+                 QStringLiteral("1,000 estimated tokens · 0.0% of total"));
     }
 
     void showsAnEmptyFileWithItsFigures()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(0)));
-        QCOMPARE(textOf(rows, Role::Size),
+        QCOMPARE(textOf(rows, "size"),
                  QStringLiteral("0 bytes on disk · local estimate at 4 bytes/token"));
-        QCOMPARE(textOf(rows, Role::Amount), QStringLiteral("0 tokens"));
-        QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 0.0);
-        QVERIFY(rows.index(0).data(Role::IsReadable).toBool());
+        QCOMPARE(textOf(rows, "amount"), QStringLiteral("0 tokens"));
+        QCOMPARE(rows.value(0, QStringLiteral("weight")).toDouble(), 0.0);
+        QVERIFY(rows.value(0, QStringLiteral("isReadable")).toBool());
     }
 
     void saysOneTokenInTheSingular()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(4)));
-        QCOMPARE(textOf(rows, Role::Amount), QStringLiteral("1 token"));
+        QCOMPARE(textOf(rows, "amount"), QStringLiteral("1 token"));
     }
 
     void saysInsteadOfFiguresThatAFileIsUnreadable()
@@ -129,25 +128,24 @@ private Q_SLOTS:
         InstructionFileRows rows;
         const InstructionFileRows::Context context = contextOf({});
         rows.show(context, {{.path = "/code/app/CLAUDE.md"}});
-        QCOMPARE(textOf(rows, Role::Path), QStringLiteral("/code/app/CLAUDE.md"));
-        QCOMPARE(textOf(rows, Role::Size), QStringLiteral("Could not be read"));
-        for (const Role role : {Role::Tokens, Role::Amount, Role::Share, Role::Figures})
+        QCOMPARE(textOf(rows, "path"), QStringLiteral("/code/app/CLAUDE.md"));
+        QCOMPARE(textOf(rows, "size"), QStringLiteral("Could not be read"));
+        for (const char *role : {"tokens", "amount", "share", "figures"})
             QCOMPARE(textOf(rows, role), QString());
-        QCOMPARE(textOf(rows, Role::Words),
-                 QStringLiteral("/code/app/CLAUDE.md. Could not be read."));
-        QVERIFY(!rows.index(0).data(Role::IsReadable).toBool());
-        QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 0.0);
+        QCOMPARE(textOf(rows, "words"), QStringLiteral("/code/app/CLAUDE.md. Could not be read."));
+        QVERIFY(!rows.value(0, QStringLiteral("isReadable")).toBool());
+        QCOMPARE(rows.value(0, QStringLiteral("weight")).toDouble(), 0.0);
     }
 
     void knowsTheFilesNameAndPath()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
-        QCOMPARE(rows.path(0), QStringLiteral("/code/app/docs/CLAUDE.md"));
-        QCOMPARE(textOf(rows, Role::Name), QStringLiteral("CLAUDE.md"));
-        QCOMPARE(rows.index(0).data(Role::Weight).toDouble(), 100.0);
+        QCOMPARE(rows.text(0, QStringLiteral("path")), QStringLiteral("/code/app/docs/CLAUDE.md"));
+        QCOMPARE(textOf(rows, "name"), QStringLiteral("CLAUDE.md"));
+        QCOMPARE(rows.value(0, QStringLiteral("weight")).toDouble(), 100.0);
         rows.show(contextOf({}), {{.path = "bare.md"}});
-        QCOMPARE(textOf(rows, Role::Name), QStringLiteral("bare.md"));
+        QCOMPARE(textOf(rows, "name"), QStringLiteral("bare.md"));
     }
 
     void isEmptyBeyondItsRows()
@@ -155,9 +153,9 @@ private Q_SLOTS:
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
         for (const int row : {-1, 1, std::numeric_limits<int>::max()}) {
-            QCOMPARE(rows.path(row), QString());
-            QCOMPARE(rows.figures(row), QString());
-            QCOMPARE(rows.words(row), QString());
+            QCOMPARE(rows.text(row, QStringLiteral("path")), QString());
+            QCOMPARE(rows.text(row, QStringLiteral("figures")), QString());
+            QCOMPARE(rows.text(row, QStringLiteral("words")), QString());
         }
     }
 
@@ -165,10 +163,10 @@ private Q_SLOTS:
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
-        rows.copyPath(0);
+        rows.copy(0, QStringLiteral("path"));
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("/code/app/docs/CLAUDE.md"));
         QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
-        rows.copyPath(1);
+        rows.copy(1, QStringLiteral("path"));
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
     }
 
@@ -179,7 +177,7 @@ private Q_SLOTS:
             const InstructionFileRows::Context context = contextOf(oneFile(400));
             showAll(rows, context);
         }
-        QCOMPARE(rows.path(0), QStringLiteral("/code/app/docs/CLAUDE.md"));
+        QCOMPARE(rows.text(0, QStringLiteral("path")), QStringLiteral("/code/app/docs/CLAUDE.md"));
     }
 
     void behavesAsAModel()
@@ -209,7 +207,7 @@ private Q_SLOTS:
         const qint64 showing = timer.nsecsElapsed();
         timer.restart();
         for (int row = 0; row < rows.count(); ++row)
-            (void)rows.index(row).data(Role::Words);
+            (void)rows.value(row, QStringLiteral("words"));
         const qint64 writing = timer.nsecsElapsed();
         QVERIFY2(showing * 4 < writing, qPrintable(QString::number(showing)));
         QCOMPARE(rows.count(), 10'000);

@@ -11,8 +11,6 @@
 namespace Loadwick {
 namespace {
 
-using Role = InstructionFileRows::Role;
-
 InstructionFileEstimate file(const char *path, std::int64_t byteCount)
 {
     return InstructionFileEstimate::fromPath(path, byteCount);
@@ -57,11 +55,11 @@ QStringList words(const char *list)
     return QString::fromUtf8(list).split(QLatin1Char(' '));
 }
 
-QStringList textsOf(const InstructionFileRows *rows, Role role)
+QStringList textsOf(const RowList *rows, const char *role)
 {
     QStringList texts;
     for (int row = 0; row < rows->count(); ++row)
-        texts.append(rows->index(row).data(role).toString());
+        texts.append(rows->text(row, QString::fromLatin1(role)));
     return texts;
 }
 
@@ -76,13 +74,16 @@ private Q_SLOTS:
     {
         InstructionFilesPresenter files({}, "/home/ada");
         files.show(reportOf(threeTiers()));
-        QCOMPARE(textsOf(files.repositoryRows(), Role::Path),
+        QCOMPARE(textsOf(files.repositoryRows(), "path"),
                  QStringList({QStringLiteral("/home/ada/app/CLAUDE.md"),
                               QStringLiteral("/home/ada/app/AGENTS.md")}));
-        QCOMPARE(files.inheritedRows()->path(0), QStringLiteral("/home/ada/CLAUDE.md"));
-        QCOMPARE(files.personalRows()->path(0), QStringLiteral("/home/ada/.claude/CLAUDE.md"));
+        QCOMPARE(files.inheritedRows()->text(0, QStringLiteral("path")),
+                 QStringLiteral("/home/ada/CLAUDE.md"));
+        QCOMPARE(files.personalRows()->text(0, QStringLiteral("path")),
+                 QStringLiteral("/home/ada/.claude/CLAUDE.md"));
         QCOMPARE(files.tiles()->count(), 4);
-        QCOMPARE(files.tiles()->path(2), QStringLiteral("/home/ada/CLAUDE.md"));
+        QCOMPARE(files.tiles()->text(2, QStringLiteral("path")),
+                 QStringLiteral("/home/ada/CLAUDE.md"));
     }
 
     void writesFiguresInTheLocale_data()
@@ -108,13 +109,12 @@ private Q_SLOTS:
     {
         InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
         files.show(reportOf(threeTiers()));
-        const QModelIndex first = files.repositoryRows()->index(0);
-        QTEST(first.data(Role::Size).toString(), "size");
-        QTEST(first.data(Role::Amount).toString(), "amount");
-        QTEST(files.tiles()->figures(0), "figures");
-        QTEST(files.largestRows()->figures(0), "figures");
+        QTEST(files.repositoryRows()->text(0, QStringLiteral("size")), "size");
+        QTEST(files.repositoryRows()->text(0, QStringLiteral("amount")), "amount");
+        QTEST(files.tiles()->text(0, QStringLiteral("figures")), "figures");
+        QTEST(files.largestRows()->text(0, QStringLiteral("figures")), "figures");
         // Written with a point whatever the locale.
-        QCOMPARE(files.inheritedRows()->index(0).data(Role::Share).toString(),
+        QCOMPARE(files.inheritedRows()->value(0, QStringLiteral("share")).toString(),
                  QStringLiteral("0.1% of total"));
     }
 
@@ -125,11 +125,13 @@ private Q_SLOTS:
                                "/home/ada/app/docs/a.md"};
         InstructionFilesPresenter files({}, "/home/ada");
         files.show(reportOf(set));
-        QCOMPARE(files.repositoryRows()->path(2), QStringLiteral("/home/ada/app/docs/a.md"));
-        QCOMPARE(files.inheritedRows()->path(1), QStringLiteral("/home/ada/CLAUDE.local.md"));
-        QCOMPARE(files.personalRows()->path(1), QStringLiteral("/home/ada/.claude/notes.md"));
-        QCOMPARE(textsOf(files.personalRows(), Role::Size).at(1),
-                 QStringLiteral("Could not be read"));
+        QCOMPARE(files.repositoryRows()->text(2, QStringLiteral("path")),
+                 QStringLiteral("/home/ada/app/docs/a.md"));
+        QCOMPARE(files.inheritedRows()->text(1, QStringLiteral("path")),
+                 QStringLiteral("/home/ada/CLAUDE.local.md"));
+        QCOMPARE(files.personalRows()->text(1, QStringLiteral("path")),
+                 QStringLiteral("/home/ada/.claude/notes.md"));
+        QCOMPARE(textsOf(files.personalRows(), "size").at(1), QStringLiteral("Could not be read"));
         QCOMPARE(files.tiles()->count(), 4);
     }
 
@@ -152,7 +154,7 @@ private Q_SLOTS:
         InstructionFilesPresenter files({}, "/home/ada");
         files.show(reportOf(set));
         QCOMPARE(files.inheritedRows()->count(), 1);
-        QVERIFY(files.inheritedRows()->index(0).data(Role::IsReadable).toBool());
+        QVERIFY(files.inheritedRows()->value(0, QStringLiteral("isReadable")).toBool());
     }
 
     void summarizesTheSizesForAScreenReader_data()
@@ -209,9 +211,9 @@ private Q_SLOTS:
     {
         InstructionFilesPresenter files({}, "/home/ada");
         files.show(reportOfTokens({10, 700, 30, 4'000, 50, 60, 20'000}));
-        QCOMPARE(textsOf(files.largestRows(), Role::Path), words("/r/6 /r/3 /r/1 /r/5 /r/4"));
-        QCOMPARE(textsOf(files.largestRows(), Role::Tokens), words("20,000 4,000 700 60 50"));
-        QCOMPARE(textsOf(files.largestRows(), Role::Share),
+        QCOMPARE(textsOf(files.largestRows(), "path"), words("/r/6 /r/3 /r/1 /r/5 /r/4"));
+        QCOMPARE(textsOf(files.largestRows(), "tokens"), words("20,000 4,000 700 60 50"));
+        QCOMPARE(textsOf(files.largestRows(), "share"),
                  QStringList({QStringLiteral("100.0% of total"), QStringLiteral("40.0% of total"),
                               QStringLiteral("7.0% of total"), QStringLiteral("0.6% of total"),
                               QStringLiteral("0.5% of total")}));
@@ -221,7 +223,7 @@ private Q_SLOTS:
     {
         InstructionFilesPresenter files({}, "/home/ada");
         files.show(reportOfTokens({5, 7, 5, 7, 5, 5, 5}));
-        QCOMPARE(textsOf(files.largestRows(), Role::Path), words("/r/1 /r/3 /r/0 /r/2 /r/4"));
+        QCOMPARE(textsOf(files.largestRows(), "path"), words("/r/1 /r/3 /r/0 /r/2 /r/4"));
     }
 
     void equalFilesOfAllTiersKeepTheOrderOfTheTiers()
@@ -231,7 +233,7 @@ private Q_SLOTS:
         report.fileSet.inheritedFiles = {InstructionFileEstimate::fromPath("/i", 20)};
         InstructionFilesPresenter files({}, "/home/ada");
         files.show(report);
-        QCOMPARE(textsOf(files.largestRows(), Role::Path), words("/r/0 /i /p"));
+        QCOMPARE(textsOf(files.largestRows(), "path"), words("/r/0 /i /p"));
     }
 
     void fewerThanFiveFilesShowAllOfThem()
