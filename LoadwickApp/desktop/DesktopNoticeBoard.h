@@ -16,7 +16,7 @@ namespace Loadwick {
 
 /// The notifications of the desktop, by the interface org.freedesktop.Notifications. The bus is
 /// connected in the background, and only when there is something to show. Without a bus or a
-/// service nothing is shown and nobody is told.
+/// service it shows nothing, silently.
 class DesktopNoticeBoard final : public NoticeBoard
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ private:
     bool m_isConnecting = false;
     std::optional<QDBusConnection> m_bus;
     std::optional<bool> m_takesMarkup; ///< nothing until the service has said so
-    std::optional<Notice> m_notice;    ///< what is to be seen
+    std::optional<Notice> m_notice;    ///< what the user should see
     quint32 m_identifier = 0;          ///< the service's name for what it shows; 0: nothing
     QByteArray m_token;
 };

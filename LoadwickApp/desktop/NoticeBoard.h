@@ -7,7 +7,7 @@
 namespace Loadwick {
 
 /// Where the program says something outside its window. It shows one notice at most. Belongs to the
-/// interface thread; nothing of it waits.
+/// interface thread and never blocks it.
 class NoticeBoard : public QObject
 {
     Q_OBJECT
@@ -21,14 +21,14 @@ public:
 
     using QObject::QObject;
 
-    /// Shows the notice in the place of the one before, if the desktop can.
+    /// Replaces the notice that is shown, if the desktop can show any.
     virtual void show(const Notice &notice) = 0;
 
-    /// Takes back what is shown, or about to be; does nothing without a notice.
+    /// Takes back the notice that is shown or on its way; does nothing without one.
     virtual void withdraw() = 0;
 
 Q_SIGNALS:
-    /// The user wants to see what the notice is about. `token` is the desktop's leave to come to
+    /// The user asks for what the notice is about. `token` is the desktop's permission to come to
     /// the front, if it gave one.
     void pressed(const QByteArray &token);
 };

@@ -23,7 +23,7 @@ constexpr char lineEnd = '\n';
 
 QByteArray nameOf(const std::filesystem::path &dataFolder)
 {
-    // With an end of its own, however the folder is written.
+    // With a slash at its end, whether the folder is given with one or not.
     const std::filesystem::path normal = (dataFolder / "").lexically_normal();
     const QByteArray folder = QByteArray::fromStdString(normal.string());
     return "loadwick-" + QByteArray::number(::geteuid()) + '-' +
@@ -35,7 +35,7 @@ FileDescriptor newSocket()
     return FileDescriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
 }
 
-/// Names beside the file system's have no owner; whoever took this one may be somebody else.
+/// Abstract names have no owner: another user may have taken this one.
 bool isOurs(int descriptor)
 {
     ucred peer = {};
@@ -85,7 +85,7 @@ LocalAddress::LocalAddress(const std::filesystem::path &dataFolder)
     const QByteArray name = nameOf(dataFolder);
     static_assert(sizeof m_address.sun_path > 1 + 9 + 10 + 1 + 64);
     m_address.sun_family = AF_UNIX;
-    // A first byte of zero makes it a name beside the file system's.
+    // A first byte of zero makes the name abstract.
     std::copy(name.begin(), name.end(), m_address.sun_path + 1);
     m_length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 +
                                       static_cast<std::size_t>(name.size()));
@@ -103,7 +103,7 @@ SingleInstance::SingleInstance(const std::filesystem::path &dataFolder, QObject 
         return;
     const LocalAddress address(dataFolder);
     m_isAnswered = ask(address);
-    // Of two that start at once one finds nobody to ask and then the name taken.
+    // When two start at once, one finds no answer and then the name taken.
     if (!m_isAnswered && !listen(address) && errno == EADDRINUSE)
         m_isAnswered = ask(address);
 }

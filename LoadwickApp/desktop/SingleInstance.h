@@ -14,9 +14,9 @@
 
 namespace Loadwick {
 
-/// The address at which the window over one data folder listens: a name that belongs to no file
-/// system, so that nothing has to be created, may be left behind or be forbidden. It differs from
-/// user to user and from folder to folder; the folder itself is not looked at.
+/// The address at which the window over one data folder listens: an abstract socket name, so that
+/// there is nothing to create, to leave behind or to forbid. It differs from user to user and from
+/// folder to folder; the folder itself is not read.
 class LocalAddress
 {
 public:
@@ -30,26 +30,26 @@ private:
     socklen_t m_length = 0;
 };
 
-/// Sees to it that a user has one window over one data folder. The program that comes second asks
-/// the first to show itself; where that does not answer, both go on side by side.
+/// Keeps a user to one window over one data folder. A second program asks the first to show itself;
+/// without an answer, both go on side by side.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Asks whoever is there, else is there for those who come later. Takes a second at most, and
-    /// that only when somebody is there who does not answer. Without a folder it does nothing.
+    /// Asks the instance that is running, or else listens for later ones. Blocks for a second at
+    /// most, and only when a running instance does not answer. Without a folder it does nothing.
     explicit SingleInstance(const std::filesystem::path &dataFolder, QObject *parent = nullptr);
 
-    /// Another program's window shows itself instead: this one has nothing left to do.
+    /// A running instance shows its window instead: this one has nothing left to do.
     [[nodiscard]] bool isAnswered() const noexcept { return m_isAnswered; }
 
-    /// Somebody who comes later would be heard.
+    /// Later instances are heard.
     [[nodiscard]] bool isListening() const noexcept { return m_listener != nullptr; }
 
 Q_SIGNALS:
-    /// Another program was started over the same folder and has gone again. `token` is the
-    /// desktop's leave to come to the front, if it gave one.
+    /// A second program was started over the same folder and has ended. `token` is the desktop's
+    /// permission to come to the front, if it gave one.
     void windowWanted(const QByteArray &token);
 
 private:

@@ -3,11 +3,11 @@
 class QByteArray;
 class QWindow;
 
-/// How the window comes before the eyes of who asked for it from outside.
+/// How the window comes to the front when it is asked for from outside.
 namespace Loadwick::WindowActivation {
 
 /// Shows the window, in front and with the keyboard where the desktop lets it; else the desktop
-/// says that it wants attention. `token` is the desktop's leave, empty where there is none.
+/// marks it as asking for attention. `token` is the desktop's permission; empty for none.
 void bringToFront(QWindow &window, const QByteArray &token);
 
 } // namespace Loadwick::WindowActivation

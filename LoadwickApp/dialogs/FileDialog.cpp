@@ -24,7 +24,7 @@ QString endingOf(const QString &kind)
     return kind.section(QLatin1Char('*'), -1).chopped(1);
 }
 
-/// Qt's dialog gives its places a tenth of its width, and dates half of what they need.
+/// Qt's dialog gives its bookmarks a tenth of its width, and cuts dates in half.
 void widenColumns(const FileDialog &dialog)
 {
     if (auto *columns = dialog.findChild<QSplitter *>())
@@ -107,7 +107,7 @@ void FileDialog::showEvent(QShowEvent *event)
         field->selectAll();
 }
 
-FileDialog *FileDialogPlace::newDialog()
+FileDialog *FileDialogOpener::newDialog()
 {
     if (!m_window || m_dialog)
         return nullptr;

@@ -38,15 +38,15 @@ private:
     std::optional<std::filesystem::path> m_addressed; ///< by what was typed
 };
 
-/// Where the dialogs of one purpose open, one at a time.
-class FileDialogPlace
+/// Opens the dialogs of one purpose, one at a time.
+class FileDialogOpener
 {
 public:
-    explicit FileDialogPlace(const QUrl &startFolder) : m_folder(startFolder) {}
-    ~FileDialogPlace() { delete m_dialog; }
+    explicit FileDialogOpener(const QUrl &startFolder) : m_folder(startFolder) {}
+    ~FileDialogOpener() { delete m_dialog; }
 
-    FileDialogPlace(const FileDialogPlace &) = delete;
-    FileDialogPlace &operator=(const FileDialogPlace &) = delete;
+    FileDialogOpener(const FileDialogOpener &) = delete;
+    FileDialogOpener &operator=(const FileDialogOpener &) = delete;
 
     void attach(QWindow &window) { m_window = &window; }
 

@@ -11,7 +11,7 @@ namespace Loadwick {
 namespace {
 
 /// An ending that is added now was part of no question whether to replace a file.
-FileSaver::Place placeOf(const FileDialog &dialog, std::filesystem::path file)
+FileSaver::Target targetOf(const FileDialog &dialog, std::filesystem::path file)
 {
     const QString missing = dialog.missingEnding(qtText(pathText(file)));
     file += missing.toStdString();
@@ -21,13 +21,13 @@ FileSaver::Place placeOf(const FileDialog &dialog, std::filesystem::path file)
 class PlatformFileSaver final : public FileSaver
 {
 public:
-    explicit PlatformFileSaver(const QUrl &startFolder) : m_place(startFolder) {}
+    explicit PlatformFileSaver(const QUrl &startFolder) : m_opener(startFolder) {}
 
-    void attach(QWindow &window) override { m_place.attach(window); }
+    void attach(QWindow &window) override { m_opener.attach(window); }
 
     void open(const Request &request, Chosen chosen) override
     {
-        FileDialog *dialog = m_place.newDialog();
+        FileDialog *dialog = m_opener.newDialog();
         if (dialog == nullptr)
             return;
         dialog->setWindowTitle(request.title);
@@ -37,13 +37,13 @@ public:
         dialog->selectFile(request.name);
         QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, chosen = std::move(chosen)] {
             if (auto file = dialog->chosenPath())
-                chosen(placeOf(*dialog, std::move(*file)));
+                chosen(targetOf(*dialog, std::move(*file)));
         });
         dialog->open();
     }
 
 private:
-    FileDialogPlace m_place;
+    FileDialogOpener m_opener;
 };
 
 } // namespace

@@ -22,12 +22,12 @@ public:
         QString name;        ///< what is suggested, with its ending
         QStringList filters; ///< kinds of file, as "Words (*.ending)"; the first is the usual one
     };
-    struct Place
+    struct Target
     {
         std::filesystem::path file;
         bool mayReplace; ///< the user was asked about the file that is there, if there is one
     };
-    using Chosen = std::function<void(const Place &place)>;
+    using Chosen = std::function<void(const Target &target)>;
 
     virtual ~FileSaver() = default;
 

@@ -10,13 +10,13 @@ namespace {
 class PlatformFolderChooser final : public FolderChooser
 {
 public:
-    explicit PlatformFolderChooser(const QUrl &startFolder) : m_place(startFolder) {}
+    explicit PlatformFolderChooser(const QUrl &startFolder) : m_opener(startFolder) {}
 
-    void attach(QWindow &window) override { m_place.attach(window); }
+    void attach(QWindow &window) override { m_opener.attach(window); }
 
     void open(Chosen chosen) override
     {
-        FileDialog *dialog = m_place.newDialog();
+        FileDialog *dialog = m_opener.newDialog();
         if (dialog == nullptr)
             return;
         dialog->setWindowTitle(FileDialog::tr("Choose a local repository to scan."));
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    FileDialogPlace m_place;
+    FileDialogOpener m_opener;
 };
 
 } // namespace

@@ -30,9 +30,9 @@ void PageExport::saveTable()
     const FileSaver::Request request = {.title = tr("Save the data"),
                                         .name = m_contents.name() + QStringLiteral(".csv"),
                                         .filters = {tr("Comma-separated values (*.csv)")}};
-    m_saver.open(request, [page](const FileSaver::Place &place) {
+    m_saver.open(request, [page](const FileSaver::Target &target) {
         if (page)
-            page->write(place, [table = QByteArray::fromStdString(page->m_contents.table())] {
+            page->write(target, [table = QByteArray::fromStdString(page->m_contents.table())] {
                 return table;
             });
     });
@@ -47,25 +47,25 @@ void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
         .title = tr("Save the chart"),
         .name = m_contents.name() + QStringLiteral(".png"),
         .filters = {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)")}};
-    m_saver.open(request, [page, shown, around](const FileSaver::Place &place) {
+    m_saver.open(request, [page, shown, around](const FileSaver::Target &target) {
         if (page && shown && around)
-            page->write(place, isDrawing(place.file) ? around->svg(*shown) : around->png(*shown));
+            page->write(target, isDrawing(target.file) ? around->svg(*shown) : around->png(*shown));
     });
 }
 
-void PageExport::write(const FileSaver::Place &place, const PictureFrame::Bytes &bytes)
+void PageExport::write(const FileSaver::Target &target, const PictureFrame::Bytes &bytes)
 {
     const bool isStarted = inBackground(
-        this, m_dispatcher, [place, bytes] { return SavedFile::write(place, bytes()); },
-        [this, place](const std::error_code &failure) { tell(place, failure); });
+        this, m_dispatcher, [target, bytes] { return SavedFile::write(target, bytes()); },
+        [this, target](const std::error_code &failure) { tell(target, failure); });
     if (!isStarted)
-        tell(place, std::make_error_code(std::errc::resource_unavailable_try_again));
+        tell(target, std::make_error_code(std::errc::resource_unavailable_try_again));
 }
 
-void PageExport::tell(const FileSaver::Place &place, const std::error_code &failure)
+void PageExport::tell(const FileSaver::Target &target, const std::error_code &failure)
 {
     m_failed = static_cast<bool>(failure);
-    const QString file = qtText(pathText(place.file));
+    const QString file = qtText(pathText(target.file));
     m_outcome = m_failed ? tr("%1 could not be written: %2").arg(file, SavedFile::reason(failure))
                          : tr("Saved as %1.").arg(file);
     Q_EMIT changed();

@@ -50,8 +50,8 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void write(const FileSaver::Place &place, const PictureFrame::Bytes &bytes);
-    void tell(const FileSaver::Place &place, const std::error_code &failure);
+    void write(const FileSaver::Target &target, const PictureFrame::Bytes &bytes);
+    void tell(const FileSaver::Target &target, const std::error_code &failure);
 
     Contents m_contents;
     FileSaver &m_saver;

@@ -20,15 +20,15 @@ QString SavedFile::suggestedName(const QString &kind, const QString &repositoryN
     return name.isEmpty() ? kind : kind + dash + name;
 }
 
-std::error_code SavedFile::write(const FileSaver::Place &place, const QByteArray &bytes)
+std::error_code SavedFile::write(const FileSaver::Target &target, const QByteArray &bytes)
 {
     std::error_code unknown;
-    if (!place.mayReplace && std::filesystem::exists(place.file, unknown))
+    if (!target.mayReplace && std::filesystem::exists(target.file, unknown))
         return std::make_error_code(std::errc::file_exists);
-    if (bytes.isEmpty()) // a picture too large to be made
+    if (bytes.isEmpty()) // a picture too large to make
         return std::make_error_code(std::errc::not_enough_memory);
     const std::string_view content(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return AtomicFile::replace(place.file, content);
+    return AtomicFile::replace(target.file, content);
 }
 
 QString SavedFile::reason(const std::error_code &failure)

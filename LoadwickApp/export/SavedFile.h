@@ -20,7 +20,7 @@ struct SavedFile
 
     /// Writes the file; empty on success. Fails with `std::errc::file_exists` and leaves the file
     /// alone when there is one that may not be replaced. Without bytes, memory ran out for them.
-    [[nodiscard]] static std::error_code write(const FileSaver::Place &place,
+    [[nodiscard]] static std::error_code write(const FileSaver::Target &target,
                                                const QByteArray &bytes);
 
     /// Why `write` failed: the end of a sentence, with its full stop, and what to do where there is

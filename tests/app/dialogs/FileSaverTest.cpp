@@ -46,7 +46,7 @@ private:
 
     std::unique_ptr<DialogFixture> m_fixture;
     std::unique_ptr<FileSaver> m_saver;
-    std::optional<FileSaver::Place> m_place;
+    std::optional<FileSaver::Target> m_target;
 };
 
 void FileSaverTest::init()
@@ -55,7 +55,7 @@ void FileSaverTest::init()
     std::filesystem::create_directory(root() / "sub");
     m_saver = platformFileSaver(m_fixture->url());
     m_saver->attach(m_fixture->window());
-    m_place.reset();
+    m_target.reset();
 }
 
 void FileSaverTest::cleanup()
@@ -70,7 +70,7 @@ void FileSaverTest::open()
         {.title = QStringLiteral("Save the chart"),
          .name = QStringLiteral("trend.png"),
          .filters = {QStringLiteral("PNG picture (*.png)"), QStringLiteral("SVG drawing (*.svg)")}},
-        [this](const FileSaver::Place &place) { m_place = place; });
+        [this](const FileSaver::Target &target) { m_target = target; });
     QVERIFY(DialogFixture::dialog() != nullptr);
 }
 
@@ -111,8 +111,8 @@ void FileSaverTest::enterSaves()
     QFETCH(const Qt::Key, key);
     open();
     DialogFixture::press(key);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / "trend.png");
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / "trend.png");
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
@@ -132,8 +132,8 @@ void FileSaverTest::savesWhereThePathSaysThatIsTyped()
     QFETCH(const QByteArray, text);
     QFETCH(const QByteArray, file);
     save(text);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / file.toStdString());
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / file.toStdString());
 }
 
 void FileSaverTest::addsTheEndingOfTheKindThatIsMissing_data()
@@ -154,9 +154,9 @@ void FileSaverTest::addsTheEndingOfTheKindThatIsMissing()
     QFETCH(const QByteArray, name);
     QFETCH(const QByteArray, file);
     save(name);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / file.toStdString());
-    QVERIFY(m_place->mayReplace);
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / file.toStdString());
+    QVERIFY(m_target->mayReplace);
 }
 
 void FileSaverTest::theEndingFollowsTheKindThatIsChosen()
@@ -167,8 +167,8 @@ void FileSaverTest::theEndingFollowsTheKindThatIsChosen()
     QCOMPARE(DialogFixture::nameField().text(), QStringLiteral("trend.svg"));
     m_fixture->type("all");
     DialogFixture::press(Qt::Key_Return);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / "all.svg");
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / "all.svg");
 }
 
 void FileSaverTest::entersAFolderThatIsTyped_data()
@@ -184,18 +184,18 @@ void FileSaverTest::entersAFolderThatIsTyped()
 {
     QFETCH(const QByteArray, text);
     save(text);
-    QVERIFY(!m_place);
+    QVERIFY(!m_target);
     QCOMPARE(DialogFixture::dialog()->directory().dirName(), QStringLiteral("sub"));
     m_fixture->type("a.png");
     DialogFixture::press(Qt::Key_Return);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / "sub" / "a.png");
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / "sub" / "a.png");
 }
 
 void FileSaverTest::staysOpenWithoutAName()
 {
     save("");
-    QVERIFY(!m_place);
+    QVERIFY(!m_target);
     QVERIFY(DialogFixture::dialog() != nullptr);
 }
 
@@ -215,11 +215,11 @@ void FileSaverTest::replacesAFileOnlyWhenTheUserAgrees()
     const auto question = DialogFixture::pressEnterAndAnswer(QDialogButtonBox::No);
     QCOMPARE(question.words,
              QStringLiteral("there.png already exists.\nDo you want to replace it?"));
-    QVERIFY(!m_place);
+    QVERIFY(!m_target);
     (void)DialogFixture::pressEnterAndAnswer(QDialogButtonBox::Yes);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / "there.png");
-    QVERIFY(m_place->mayReplace);
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / "there.png");
+    QVERIFY(m_target->mayReplace);
 }
 
 void FileSaverTest::asksInPlainText()
@@ -237,15 +237,15 @@ void FileSaverTest::givesNothingWhenTheUserCancels()
     open();
     DialogFixture::press(Qt::Key_Escape);
     QVERIFY(DialogFixture::dialog() == nullptr);
-    QVERIFY(!m_place);
+    QVERIFY(!m_target);
 }
 
 void FileSaverTest::asksOnceAtATime()
 {
     open();
-    m_saver->open({}, [](const FileSaver::Place &) { QFAIL("the first question is open"); });
+    m_saver->open({}, [](const FileSaver::Target &) { QFAIL("the first question is open"); });
     DialogFixture::press(Qt::Key_Return);
-    QVERIFY(m_place);
+    QVERIFY(m_target);
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
@@ -255,13 +255,13 @@ void FileSaverTest::opensInTheFolderItShowedLast()
     DialogFixture::press(Qt::Key_Escape);
     open();
     DialogFixture::press(Qt::Key_Return);
-    QVERIFY(m_place);
-    QCOMPARE(m_place->file, root() / "sub" / "trend.png");
+    QVERIFY(m_target);
+    QCOMPARE(m_target->file, root() / "sub" / "trend.png");
 }
 
 void FileSaverTest::asksNobodyWithoutAWindow()
 {
-    platformFileSaver({})->open({}, [](const FileSaver::Place &) { QFAIL("asked"); });
+    platformFileSaver({})->open({}, [](const FileSaver::Target &) { QFAIL("asked"); });
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 

@@ -149,7 +149,7 @@ private Q_SLOTS:
                                 QStringLiteral(" could not be written: its folder is not there.")));
     }
 
-    void thinkingBetterOfItSavesNothing()
+    void cancellingSavesNothing()
     {
         m_window->loadwick().content().setPageIndex(1);
         press("Save Data…");

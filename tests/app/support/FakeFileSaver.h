@@ -6,12 +6,12 @@
 
 namespace Loadwick {
 
-/// Answers at once with the place that a test has set, or not at all.
+/// Answers at once with the target that a test has set, or not at all.
 class FakeFileSaver final : public FileSaver
 {
 public:
-    /// None: the user thinks better of it.
-    std::optional<Place> answer;
+    /// None: the user cancels.
+    std::optional<Target> answer;
     std::optional<Request> asked;
 
     void open(const Request &request, Chosen chosen) override

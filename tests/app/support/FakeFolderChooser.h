@@ -11,7 +11,7 @@ namespace Loadwick {
 class FakeFolderChooser final : public FolderChooser
 {
 public:
-    /// None: the user thinks better of it.
+    /// None: the user cancels.
     std::optional<std::filesystem::path> answer;
     int openCount = 0;
 
