@@ -34,11 +34,11 @@ struct StreamReaders::Shared
             m_changed.notify_all();
         }
 
-        /// Blocks until all have left, or until `deadline`; true for the former.
-        [[nodiscard]] bool waitUntil(Deadline deadline)
+        /// Blocks until all have left, or until `latest`; true for the former.
+        [[nodiscard]] bool waitUntil(Deadline latest)
         {
             std::unique_lock lock(m_lock);
-            return m_changed.wait_until(lock, deadline, [this] { return m_count == 0; });
+            return m_changed.wait_until(lock, latest, [this] { return m_count == 0; });
         }
 
     private:
