@@ -81,7 +81,7 @@ ReportSurface {
             y: bars.y
             width: parent.width
             active: card.column.emptyText.length > 0
-            Component.onCompleted: setSource("SelectableText.qml", {
+            Component.onCompleted: setSource("qrc:/qt/qml/Loadwick/SelectableText.qml", {
                 objectName: "empty",
                 text: Qt.binding(() => card.column.emptyText),
                 secondary: true

@@ -57,7 +57,8 @@ ApplicationWindow {
 
         onIsDueChanged: {
             if (sheet.isDue) {
-                sheet.setSource("OnboardingView.qml", { onboarding: window.onboarding });
+                sheet.setSource("qrc:/qt/qml/Loadwick/OnboardingView.qml",
+                    { onboarding: window.onboarding });
             } else {
                 sheet.source = "";
                 contents.takeKeyboard();
