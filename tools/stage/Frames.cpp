@@ -11,16 +11,16 @@ namespace Loadwick {
 
 namespace {
 
-struct Options
+struct MeasuringOptions
 {
     bool isCheck = false;
     int rounds = 10;
     std::vector<std::string> names;
 };
 
-Options parsed(std::vector<std::string> words)
+MeasuringOptions measuringOptions(std::vector<std::string> words)
 {
-    Options options;
+    MeasuringOptions options;
     options.isCheck = std::erase(words, "--check") > 0;
     if (words.empty())
         return options;
@@ -31,7 +31,7 @@ Options parsed(std::vector<std::string> words)
 
 /// The Overview of every sample scan and of one with 8,000 categories and 10,000 files; Trends and
 /// Compare of histories named "<repositories>x<categories>".
-std::vector<Scene> allScenes()
+std::vector<Scene> measuredScenes()
 {
     std::vector<Scene> scenes;
     for (const SampleScan &scan : SampleScans::all())
@@ -47,13 +47,13 @@ std::vector<Scene> allScenes()
     return scenes;
 }
 
-int measure(const Options &options)
+int measure(const MeasuringOptions &options)
 {
     Stage stage;
     WindowControl::appearanceOf(stage.window()).setMotion(Appearance::Full);
     bool areLow = true;
     PageCosts all;
-    for (const Scene &scene : allScenes()) {
+    for (const Scene &scene : measuredScenes()) {
         if (!scene.isNamedBy(options.names))
             continue;
         const PageCosts costs = PageCosts::measured(stage, scene, options.rounds);
@@ -71,7 +71,7 @@ int measure(const Options &options)
 
 int frames(const Invocation &invocation)
 {
-    return runOffScreen(invocation, [&] { return measure(parsed(invocation.words)); });
+    return runOffScreen(invocation, [&] { return measure(measuringOptions(invocation.words)); });
 }
 
 } // namespace Loadwick

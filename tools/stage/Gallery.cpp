@@ -19,8 +19,8 @@ namespace Loadwick {
 
 namespace {
 
-constexpr FrameMeter::Milliseconds settling{700}; // longer than the entrance of a page
-constexpr int greatestHeight = 900;               // of a window; the page is longer than a screen
+constexpr FrameMeter::Milliseconds pageEntrance{700}; // longer than the entrance of a page
+constexpr int greatestWindowHeight = 900; // of a window; the page is longer than a screen
 
 bool isPointedAt(const QQuickItem *item)
 {
@@ -64,7 +64,7 @@ public:
     void showAt(int x)
     {
         m_window->setPosition(x, 40);
-        m_window->resize(m_window->width(), std::min(m_window->height(), greatestHeight));
+        m_window->resize(m_window->width(), std::min(m_window->height(), greatestWindowHeight));
         m_window->show();
     }
 
@@ -72,9 +72,9 @@ public:
     [[nodiscard]] QImage picture()
     {
         m_window->show();
-        FrameMeter::run(settling);
+        FrameMeter::run(pageEntrance);
         pointAtCharts(*m_window->rootObject());
-        FrameMeter::run(settling);
+        FrameMeter::run(pageEntrance);
         return m_window->grabWindow();
     }
 

@@ -16,7 +16,7 @@ using Words = std::vector<std::string>;
 const std::vector<QSize> sizes{QSize(960, 640), QSize(1180, 780), QSize(2560, 1440)};
 
 /// The Overview of every sample scan, Trends and Compare of every sample history.
-std::vector<Scene> allScenes()
+std::vector<Scene> picturedScenes()
 {
     std::vector<Scene> scenes;
     for (const SampleScan &scan : SampleScans::all())
@@ -29,7 +29,7 @@ std::vector<Scene> allScenes()
 
 std::vector<Scene> scenesNamedBy(const Words &words)
 {
-    std::vector<Scene> scenes = allScenes();
+    std::vector<Scene> scenes = picturedScenes();
     std::erase_if(scenes, [&words](const Scene &scene) { return !scene.isNamedBy(words); });
     return scenes;
 }
@@ -46,7 +46,7 @@ bool includesFirstLaunch(const Words &words)
 int wrongCallWithNames(const std::string &line)
 {
     std::cerr << line << "\nThere are:\n  " << FirstLaunch::name << '\n';
-    for (const Scene &scene : allScenes())
+    for (const Scene &scene : picturedScenes())
         std::cerr << "  " << scene.name() << '\n';
     return 2;
 }

@@ -20,16 +20,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Options
+struct WindowOptions
 {
     bool usesPlatformDialog = false;
     bool opensBesideOthers = false; ///< over the same data
     double timeoutSeconds = 60.0;
 };
 
-Options parsed(const std::vector<std::string> &words)
+WindowOptions windowOptions(const std::vector<std::string> &words)
 {
-    Options options;
+    WindowOptions options;
     for (auto word = words.begin(); word != words.end(); ++word) {
         if (*word == "--platform-dialog")
             options.usesPlatformDialog = true;
@@ -59,7 +59,7 @@ ProbeRunner::Settings runnerSettings(const fs::path &home, double timeoutSeconds
     return settings;
 }
 
-LoadwickWindow::Collaborators collaborators(const fs::path &home, const Options &options,
+LoadwickWindow::Collaborators collaborators(const fs::path &home, const WindowOptions &options,
                                             std::shared_ptr<Shutdown> shutdown)
 {
     auto made = ConfinedWindow::collaborators(
@@ -85,7 +85,7 @@ int window(const Invocation &invocation)
         return wrongCall("HOME is no throw-away home");
     const fs::path folder = home;
     Confinement::pinEnvironment(folder);
-    const Options options = parsed(invocation.words);
+    const WindowOptions options = windowOptions(invocation.words);
     LoadwickApp::run(invocation.argc, invocation.argv, [&](std::shared_ptr<Shutdown> shutdown) {
         return collaborators(folder, options, std::move(shutdown));
     });
