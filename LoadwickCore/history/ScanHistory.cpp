@@ -41,7 +41,7 @@ auto nameKey(const RecordedScan &scan)
     return std::tie(scan.repositoryName, scan.repositoryPath);
 }
 
-/// One repository, as far as the leaderboard has read the scans.
+/// One repository, accumulated over the scans read so far.
 struct Standing
 {
     const RecordedScan *latest = nullptr;

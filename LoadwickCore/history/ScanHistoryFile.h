@@ -20,7 +20,7 @@ struct ScanHistoryFile
     /// identifier) makes the whole file unreadable; unknown keys are ignored.
     [[nodiscard]] static std::optional<ScanHistoryFile> decoded(std::string_view json);
 
-    /// UTF-8 JSON, indented by two blanks, keys in alphabetical order, `"key" : value`.
+    /// UTF-8 JSON, two-space indent, keys in alphabetical order, `"key" : value`.
     [[nodiscard]] std::string encoded() const;
 
     friend bool operator==(const ScanHistoryFile &, const ScanHistoryFile &) = default;

@@ -12,11 +12,11 @@
 
 namespace Loadwick {
 
-/// Owns the history file. Keeps no list between calls: each one reads the file. Reports no error:
-/// an unreadable history is an empty one, and a failed write leaves the old file. A transient
-/// shortage (memory, descriptors) does not count as unreadable. A history file that is a link is
-/// read and written through it. Belongs to the interface thread; of two programs that write at the
-/// same time, one overwrites the other's whole file.
+/// Owns the history file. Caches nothing: every call reads the file. Reports no error: an
+/// unreadable history is an empty one, and a failed write leaves the old file. A transient shortage
+/// (memory, descriptors) does not count as unreadable. A history file that is a link is read and
+/// written through it. Belongs to the interface thread. Programs are not synchronised with each
+/// other: the last to write the file wins.
 class ScanHistoryStore
 {
 public:
@@ -30,7 +30,7 @@ public:
     /// Creates nothing on disk.
     explicit ScanHistoryStore(std::filesystem::path directory);
 
-    /// Where the platform keeps a program's data: $XDG_DATA_HOME/Loadwick, or
+    /// The platform's data folder for this program: $XDG_DATA_HOME/Loadwick, or
     /// ~/.local/share/Loadwick when that is unset or relative (~/Library/Application Support/
     /// Loadwick on macOS).
     [[nodiscard]] static std::filesystem::path defaultDirectory(const Environment &environment);
@@ -52,7 +52,7 @@ public:
     void clear();
 
 private:
-    /// Nothing while a transient shortage keeps them from being read.
+    /// Nothing while a transient shortage prevents reading.
     [[nodiscard]] std::optional<std::vector<RecordedScan>> knownScans() const;
     void write(const std::vector<RecordedScan> &scans) const;
 

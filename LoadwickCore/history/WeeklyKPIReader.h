@@ -41,7 +41,7 @@ inline constexpr std::string_view targetsSource =
 
 inline constexpr std::size_t maximumBytes = std::size_t{64} << 20;
 
-/// The log's path under a home folder, which is given without a trailing slash.
+/// The log's path under `home`, which has no trailing slash.
 [[nodiscard]] std::string defaultPath(std::string_view home);
 
 /// The newest usable line of the file; nothing when it cannot be read, is no regular file or is not
@@ -51,7 +51,7 @@ inline constexpr std::size_t maximumBytes = std::size_t{64} << 20;
                                                 std::size_t byteLimit = maximumBytes);
 
 /// The last line that is a JSON object with integers under "median_tokens_per_session" and
-/// "tokens_per_pr"; the dates in the lines are not compared. Words that are missing read "unknown".
+/// "tokens_per_pr"; the dates in the lines are not compared. Missing strings read "unknown".
 [[nodiscard]] std::optional<WeeklyKPILine> parseLatest(std::string_view text);
 
 } // namespace Loadwick::WeeklyKPIReader

@@ -176,7 +176,7 @@ Slot JsonReader::slotOfMember(std::string_view keyLiteral)
     const auto path = pathTo(key, *container.path, m_keptPaths);
     if (!path)
         return {};
-    // An earlier member of this name goes, whatever this one holds.
+    // A duplicate key drops the earlier member, whatever this one holds.
     std::erase_if(members, [&](const JsonMember &earlier) { return earlier.key == key; });
     const bool leadsOn = path->ends_with('.');
     const bool isObject = m_tokens.next() == '{';

@@ -127,7 +127,7 @@ std::optional<JsonValue> numberAs(std::string_view literal)
 
 void JsonTokens::skipSpace() noexcept
 {
-    // A plain loop: find_first_not_of calls memchr for each byte, a seventh of a whole reading.
+    // A plain loop: find_first_not_of calls memchr for each byte: a seventh of the whole parse.
     while (m_index < m_text.size() && isJsonSpace(m_text[m_index]))
         ++m_index;
 }

@@ -9,28 +9,28 @@
 
 namespace Loadwick {
 
-/// Walks over the tokens of a JSON document (RFC 8259), which may be a gigabyte long: a token is
-/// checked where it is and never copied. A call that finds no such token stays where it is, or
-/// inside a broken one.
+/// Tokenizes a JSON document (RFC 8259), which may be a gigabyte long: tokens are checked in place
+/// and never copied. A call that does not find its token does not advance, or stops inside a
+/// malformed one.
 class JsonTokens
 {
 public:
-    /// `document` must outlive the tokens and be UTF-8; that is not checked here.
+    /// `document` must outlive the tokens and be valid UTF-8 (unchecked).
     explicit JsonTokens(std::string_view document) noexcept : m_text(document) {}
 
     [[nodiscard]] bool isAtEnd() const noexcept { return m_index == m_text.size(); }
 
-    /// The next byte; NUL, which begins no token, at the end.
+    /// The next byte; at the end NUL, which begins no token.
     [[nodiscard]] char next() const noexcept { return isAtEnd() ? '\0' : m_text[m_index]; }
 
     void skipSpace() noexcept;
     bool take(char byte) noexcept;
     [[nodiscard]] bool takeWord(std::string_view word) noexcept;
 
-    /// A number as it is written.
+    /// A number's raw text.
     [[nodiscard]] std::optional<std::string_view> takeNumber() noexcept;
 
-    /// A string as it is written between its quotation marks. Nothing if it has no end, or holds a
+    /// A string's raw text between its quotation marks. Nothing if it is unterminated, or holds a
     /// control character, an unknown escape or half a surrogate pair.
     [[nodiscard]] std::optional<std::string_view> takeString() noexcept;
 

@@ -26,7 +26,7 @@ JsonValue &JsonValue::operator=(JsonValue &&other) noexcept
     return *this;
 }
 
-/// The last item or member of a container; null if it has none, and for what is no container.
+/// The last item or member of a container; null if it is empty or no container.
 JsonValue *JsonValue::lastChild() noexcept
 {
     if (auto *const items = as<Array>())

@@ -19,7 +19,7 @@ class JsonValue
 public:
     using Array = std::vector<JsonValue>;
     using Object =
-        std::vector<JsonMember>; ///< in the order of the document, repeated keys included
+        std::vector<JsonMember>; ///< in the order of the document, duplicate keys included
 
     /// A number is an `std::int64_t` when it was written as an integer that fits, else a `double`.
     using Content =
@@ -62,7 +62,7 @@ struct JsonMember
 };
 
 /// The member of an object, or null if `object` is no object or has no such key. The last of
-/// repeated keys counts.
+/// duplicate keys wins.
 [[nodiscard]] const JsonValue *member(const JsonValue &object, std::string_view key) noexcept;
 [[nodiscard]] JsonValue *member(JsonValue &object, std::string_view key) noexcept;
 

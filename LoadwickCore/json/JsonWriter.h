@@ -7,9 +7,9 @@
 
 namespace Loadwick {
 
-/// Writes one JSON document (RFC 8259) for people to read: two blanks an indent, `"key" : value`,
-/// every member and element on a line of its own, {} and [] for what is empty, no line feed at the
-/// end. The caller sees to it that brackets match and every key gets one value.
+/// Pretty-prints one JSON document (RFC 8259): two-space indent, `"key" : value`, one member or
+/// element a line, {} and [] when empty, no trailing line feed. The caller must balance the
+/// brackets and give every key exactly one value.
 class JsonWriter
 {
 public:
@@ -27,8 +27,8 @@ public:
 
     void value(std::int64_t number);
 
-    /// Only the quotation mark, the backslash and control characters are escaped. What is not UTF-8
-    /// is written as U+FFFD: a single such byte would make the document unreadable.
+    /// Only the quotation mark, the backslash and control characters are escaped. Ill-formed UTF-8
+    /// is written as U+FFFD: a single bad byte would make the document unreadable.
     void value(std::string_view text);
 
     [[nodiscard]] const std::string &text() const noexcept { return m_text; }

@@ -88,7 +88,7 @@ public:
     virtual void setOnboardingCompleted(bool completed) = 0;
 };
 
-/// Whether the walk-through was ever completed, as its store says at each call.
+/// Whether the walk-through was ever completed. Asks the store at each call.
 class OnboardingCompletion
 {
 public:
@@ -127,7 +127,7 @@ public:
         return OnboardingStep::lastIndex + 1;
     }
 
-    /// Of the last move; forward before the first one.
+    /// The direction of the last move; forward before the first one.
     [[nodiscard]] Direction direction() const noexcept { return m_direction; }
     [[nodiscard]] bool isFinished() const noexcept { return m_isFinished; }
     [[nodiscard]] bool shouldPresent() const { return m_completion.shouldPresent(); }

@@ -17,7 +17,7 @@ const std::string_view ScanModel::allowanceDisclosure =
     "Claude allowance.";
 
 /// The values and the stages of a scan. A stage runs in the background on copies and shared
-/// collaborators alone; its outcome is posted as a value, and dropped if the model has gone.
+/// collaborators alone; its outcome is posted as a value, and dropped if the model is gone.
 class ScanModel::Internals : public std::enable_shared_from_this<Internals>
 {
 public:
@@ -105,7 +105,7 @@ void ScanModel::Internals::succeed(const ScanReport &report)
         history.set(m_with.historyStore->append(
             RecordedScan::fromReport(report, m_with.now(), Uuid::random())));
     } catch (const std::bad_alloc &) {
-        // Not recorded: the earlier scans stay, on disk and on the pages.
+        // Not recorded: the earlier scans remain, on disk and on the pages.
     }
 }
 
@@ -119,8 +119,8 @@ template<typename Stage, typename Next>
 void ScanModel::Internals::run(Stage stage, Next next)
 {
     try {
-        // Everything that delivers and words the outcome is made and loaded here: after the stage
-        // there may be no memory.
+        // Allocates and loads everything that delivering and wording the outcome needs: memory may
+        // have run out after the stage.
         loadCharacterRules();
         const auto outcome = std::make_shared<std::optional<decltype(scanOutcomeOf(stage))>>();
         TaskDispatcher::Task arrival = [weak = weak_from_this(), next, outcome] {

@@ -20,12 +20,12 @@ namespace Loadwick {
 
 /// Drives one scan at a time from a chosen folder to a recorded report, and owns the history.
 /// Belongs to the interface thread; only the blocking work of its collaborators runs elsewhere, and
-/// outcomes that arrive after the model has gone are dropped. An observer of its values may call
-/// it, but not end its life.
+/// outcomes that arrive after the model is destroyed are dropped. Observers of its values may call
+/// it but must not destroy it.
 class ScanModel
 {
 public:
-    /// What a scan costs.
+    /// Tells the user what a scan costs.
     static const std::string_view allowanceDisclosure;
 
     struct Collaborators
@@ -69,7 +69,7 @@ public:
 
 private:
     class Internals;
-    std::shared_ptr<Internals> m_internals; ///< shared so that late outcomes can see it gone
+    std::shared_ptr<Internals> m_internals; ///< shared so that late outcomes notice its end
 };
 
 } // namespace Loadwick

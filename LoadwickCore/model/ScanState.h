@@ -56,7 +56,7 @@ using ScanOutcome = std::variant<Value, ProbeError>;
 /// An exception's own text, as the error of a scan.
 [[nodiscard]] ProbeError probeErrorFrom(const std::exception &error) noexcept;
 
-/// Runs a stage. Throws nothing: an exception that is no `ProbeError` counts as unreadable output.
+/// Runs a stage. Never throws: any exception but a `ProbeError` counts as unreadable output.
 template<typename Stage>
 [[nodiscard]] auto scanOutcomeOf(Stage &stage) -> ScanOutcome<decltype(stage())>
 {

@@ -4,8 +4,8 @@
 
 namespace Loadwick {
 
-/// Runs work in the background and on the interface thread. The window's starts threads and posts
-/// to its event loop; a test's is stepped by hand.
+/// Runs work in the background and on the interface thread. The window's implementation starts
+/// threads and posts to its event loop; the tests' is stepped by hand.
 class TaskDispatcher
 {
 public:
@@ -18,7 +18,7 @@ public:
     virtual void runInBackground(Task task) = 0;
 
     /// Runs `task` on the interface thread, after all tasks posted earlier. Called on any thread.
-    /// Drops the task when the interface has gone.
+    /// Drops the task once the interface is gone.
     virtual void postToInterface(Task task) = 0;
 };
 

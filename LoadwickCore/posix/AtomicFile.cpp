@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view randomPart = "XXXXXX"; // as mkostemp demands
+constexpr std::string_view randomPart = "XXXXXX"; // required by mkostemp
 constexpr int attempts = 5;
 
 std::string prefixFor(const fs::path &target)
@@ -40,11 +40,11 @@ bool isAbandonedName(std::string_view name, std::string_view prefix)
 /// first; a file system without locks counts as locked.
 bool lockOwn(int descriptor)
 {
-    // rarely taken: another program would have to come within this call
+    // rarely taken: another program would have to lock it during this call
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return false;
     struct stat status = {};
-    // rarely taken: another program would have to come before this call
+    // rarely taken: another program would have to lock it before this call
     return fstat(descriptor, &status) == 0 && status.st_nlink > 0;
 }
 
@@ -77,8 +77,8 @@ bool sync(int descriptor)
     return result == 0;
 }
 
-/// A file under construction, which becomes another file at once or never. It has a random name
-/// beside that file, and its writer holds a lock on it: without a lock it was left by a crash.
+/// A temporary file that replaces its target atomically or not at all. It has a random name beside
+/// the target, and its writer holds a lock on it: an unlocked one was left by a crash.
 class TemporaryFile
 {
 public:
@@ -90,13 +90,13 @@ public:
     TemporaryFile(const TemporaryFile &) = delete;
     TemporaryFile &operator=(const TemporaryFile &) = delete;
 
-    /// Removes the file unless it has become another one.
+    /// Removes the file unless it has replaced its target.
     ~TemporaryFile();
 
     /// Writes all of `bytes` and syncs them to the disk.
     [[nodiscard]] bool write(std::string_view bytes);
 
-    /// Becomes `target`, whose old content is gone then.
+    /// Renames the file over `target`.
     [[nodiscard]] bool replace(const fs::path &target);
 
 private:
@@ -118,7 +118,7 @@ std::optional<TemporaryFile> TemporaryFile::createFor(const fs::path &target)
         if (!descriptor.isOpen())
             continue;
         TemporaryFile file(std::move(descriptor), std::move(path));
-        // The umask may have taken even our own permissions.
+        // The umask may have removed even the owner's permissions.
         if (lockOwn(file.m_descriptor.number()) && fchmod(file.m_descriptor.number(), 0600) == 0)
             return file;
     }
@@ -148,7 +148,7 @@ bool TemporaryFile::replace(const fs::path &target)
     return true;
 }
 
-/// Removes what crashed writers left beside `target`. Never fails.
+/// Removes the files of crashed writers beside `target`. Never fails.
 void removeAbandoned(const fs::path &target)
 {
     const std::string prefix = prefixFor(target);
@@ -169,8 +169,7 @@ fs::file_type typeOf(const fs::path &path)
     return fs::symlink_status(path, unknown).type();
 }
 
-/// Where a chain of links ends, whether or not something is there. Nothing for a chain that has no
-/// end or cannot be read.
+/// Where a chain of links ends, dangling or not. Nothing for a chain that is endless or unreadable.
 std::optional<fs::path> linkTarget(fs::path path)
 {
     for (int count = 0; count < linkLimit; ++count) {
@@ -187,7 +186,7 @@ std::optional<fs::path> linkTarget(fs::path path)
     return std::nullopt;
 }
 
-/// Empty for a file, and where nothing is yet.
+/// No error for a regular file or an unused path.
 std::error_code whyNotToReplace(const fs::path &path)
 {
     std::error_code unknown;
@@ -202,8 +201,7 @@ std::error_code whyNotToReplace(const fs::path &path)
     }
 }
 
-/// Makes a rename or an unlink in the folder of `path` outlive a power cut, where the file system
-/// can.
+/// Makes a rename or an unlink in the folder of `path` durable, where the file system can.
 void syncFolderOf(const fs::path &path)
 {
     const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";

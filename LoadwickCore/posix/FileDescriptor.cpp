@@ -42,7 +42,7 @@ int permittedCapacity()
     return capacity;
 }
 
-// One user's pipes together are limited too, so the largest may be refused and a smaller one not.
+// A user's pipes also share a limit, so a smaller size may work where the largest is refused.
 void enlarge(int descriptor)
 {
     for (int capacity = permittedCapacity(); capacity > usualCapacity; capacity /= 2)
@@ -87,7 +87,7 @@ void FileDescriptor::reset() noexcept
     if (number < 0)
         return;
     const int before = errno;
-    // Never repeated: after EINTR the number may already belong to another thread's file.
+    // Never retried: after EINTR the number may already belong to another thread's file.
     close(number);
     errno = before;
 }

@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-/// The one owner of an open descriptor.
+/// The sole owner of an open descriptor.
 class FileDescriptor
 {
 public:
@@ -12,7 +12,7 @@ public:
 
     FileDescriptor() noexcept = default;
 
-    /// Owns `number` from now on; -1, as a failed call returns it, is none.
+    /// Takes ownership of `number`; -1, a failed call's result, means none.
     explicit FileDescriptor(int number) noexcept : m_number(number) {}
     ~FileDescriptor() { reset(); }
 
@@ -27,11 +27,11 @@ public:
     /// -1 when there is none.
     [[nodiscard]] int number() const noexcept { return m_number; }
 
-    /// A second descriptor for the same open file, closed on exec and above the three standard
-    /// ones; none, and `errno` set, on failure.
+    /// A duplicate of the descriptor, closed on exec and above the three standard ones; none, and
+    /// `errno` set, on failure.
     [[nodiscard]] FileDescriptor duplicate() const noexcept;
 
-    /// Closes it now. `errno` stays as it was.
+    /// Closes it now. Preserves `errno`.
     void reset() noexcept;
 
 private:

@@ -26,7 +26,7 @@ using Listing = std::unique_ptr<DIR, ListingCloser>;
 
 /// Whether the disk that holds `folder` gives each folder one link for its name, one for its ".",
 /// and one for the ".." of each folder in it. Others always give one (btrfs), always two (some
-/// network disks), or what the layer on top has (overlays).
+/// network disks), or the count of the layer on top (overlays).
 bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) noexcept
 {
 #if defined(__linux__)
@@ -55,13 +55,13 @@ unsigned char examinedType(int folder, const char *name, int flags) noexcept
 
 void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &visit) const
 {
-    // The system would cut the path at a NUL and list another folder.
+    // The system would truncate the path at a NUL and list another folder.
     if (folder.native().find('\0') != std::string::npos)
         return;
     const Listing listing(::opendir(folder.c_str()));
     if (!listing)
         return;
-    std::string name; // one for all entries: a string for each took half of the time
+    std::string name; // reused: a string per entry took half of the time
     while (const dirent *const entry = ::readdir(listing.get())) {
         name = entry->d_name;
         if (name == "." || name == "..")
@@ -75,7 +75,7 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
 
 bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
 {
-    // A link that leads nowhere is an entry too, and what cannot be examined may be one.
+    // A dangling link is an entry too, and a path that cannot be examined may be one.
     struct stat status
     {};
     return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;

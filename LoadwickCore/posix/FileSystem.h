@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-/// The questions that the transcript search asks a disk.
+/// The disk queries that the transcript search needs.
 class FileSystem
 {
 public:
@@ -27,24 +27,24 @@ public:
 
     virtual ~FileSystem() = default;
 
-    /// Visits the entries of `folder` in the disk's own order, "." and ".." left out. A link to a
+    /// Visits the entries of `folder` in the disk's own order, without "." and "..". A link to a
     /// file counts as a file, a link to a folder as `other`. A folder that cannot be listed has no
     /// entries.
     virtual void list(const std::filesystem::path &folder, const Visitor &visit) const = 0;
 
-    /// Whether something may answer to that path. A disk may accept other names for the same entry,
-    /// so only a listing is certain of a yes; a no is certain.
+    /// Whether the path may exist. False is certain; true is not, because a disk may accept other
+    /// names for the same entry: only a listing confirms it.
     [[nodiscard]] virtual bool mayHold(const std::filesystem::path &path) const = 0;
 
-    /// Whether `folder` may hold folders; no only where the disk counts them.
+    /// Whether `folder` may hold folders; false only where the disk counts them.
     [[nodiscard]] virtual bool mayHoldFolders(const std::filesystem::path & /*folder*/) const
     {
         return true;
     }
 };
 
-/// The machine's own disks. Kinds come from the folder's listing; an entry is examined only where
-/// the listing does not tell, and where it is a link.
+/// The machine's own disks. Kinds come from the folder's listing; an entry is examined only if the
+/// listing does not tell its kind or it is a link.
 class PosixFileSystem : public FileSystem
 {
 public:

@@ -24,11 +24,11 @@ using Environment = std::map<std::string, std::string>;
 /// else "/".
 [[nodiscard]] std::string homeFolder(const Environment &environment);
 
-/// A lookup as getpwuid_r does it.
+/// A lookup with the signature of getpwuid_r.
 using PasswordLookup = int (*)(uid_t, passwd *, char *, std::size_t, passwd **);
 
 /// The home folder that the password database records for `user`; "/" when it records none. Reads
-/// an entry of any length and repeats an interrupted lookup.
+/// an entry of any length and retries an interrupted lookup.
 [[nodiscard]] std::string recordedHome(uid_t user, PasswordLookup lookup = getpwuid_r);
 
 } // namespace Loadwick

@@ -52,7 +52,7 @@ bool RegularFile::Failure::isDenied() const noexcept
 
 std::optional<RegularFile> RegularFile::open(const std::string &path, Failure *failure)
 {
-    // The system would cut the path at a NUL and open another file.
+    // The system would truncate the path at a NUL and open another file.
     if (path.find('\0') != std::string::npos) {
         report(failure, ENOENT);
         return std::nullopt;

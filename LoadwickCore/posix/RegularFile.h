@@ -13,20 +13,20 @@
 
 namespace Loadwick {
 
-/// A regular file, open for reading. Nothing else is ever opened for long: the path is examined
-/// before it is opened (a FIFO, device or socket is refused unopened) and once more through the
-/// open descriptor, and opening cannot block.
+/// A regular file, open for reading. Nothing else is ever held open: the path is examined before it
+/// is opened (a FIFO, device or socket is refused unopened) and once more through the open
+/// descriptor, and opening cannot block.
 class RegularFile
 {
 public:
-    /// The folder of the process, as `openat` names it.
+    /// The process's current folder, as `openat` takes it.
     static constexpr int currentFolder = AT_FDCWD;
 
-    /// Why there is no file: an `errno` value, or 0 when the path leads to something else.
+    /// Why there is no file: an `errno` value, or 0 when the path is no regular file.
     struct Failure
     {
         int errorNumber = 0;
-        /// No permission to read (EACCES, EPERM).
+        /// Permission to read was denied (EACCES, EPERM).
         [[nodiscard]] bool isDenied() const noexcept;
     };
 
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] static std::optional<RegularFile>
     openSeen(const std::string &path, Failure *failure = nullptr, int folder = currentFolder);
 
-    /// Bytes when it was opened.
+    /// Its size in bytes when it was opened.
     [[nodiscard]] std::int64_t size() const noexcept { return m_size; }
 
     /// Device and inode: equal for two names of one file.
@@ -52,15 +52,15 @@ public:
     };
     [[nodiscard]] Identity identity() const noexcept { return m_identity; }
 
-    /// Moves to `offset` bytes behind the beginning; false when that is impossible.
+    /// Seeks to `offset` bytes from the beginning; false on failure.
     [[nodiscard]] bool skipTo(std::int64_t offset) noexcept;
 
-    /// Reads into `buffer`; bytes read, 0 at the end, nothing on an error. Repeats an interrupted
+    /// Reads into `buffer`; bytes read, 0 at the end, nothing on an error. Retries an interrupted
     /// read.
     [[nodiscard]] std::optional<std::size_t> read(std::span<char> buffer,
                                                   Failure *failure = nullptr);
 
-    /// Everything from here on, but at most `limit` bytes. Nothing on an error.
+    /// The rest of the file, but at most `limit` bytes. Nothing on an error.
     [[nodiscard]] std::optional<std::string> readUpTo(std::size_t limit,
                                                       Failure *failure = nullptr);
 

@@ -10,7 +10,7 @@
 namespace Loadwick {
 
 /// The one error of a scan. Every failure text that a user sees is computed here, from the case and
-/// its payload; code that throws or catches it composes no words.
+/// its payload; code that throws or catches it composes no text of its own.
 class ProbeError
 {
 public:
@@ -84,8 +84,8 @@ public:
     /// The explanation, built from the payload. Raw session text is bounded to `detailLimit`.
     [[nodiscard]] std::string detail() const;
 
-    /// `text` without white space at its ends, "(no output)" when nothing is left, and cut after
-    /// `limit` user-perceived characters (grapheme clusters) with "…" behind the cut.
+    /// `text` trimmed of white space, "(no output)" when nothing is left, and truncated after
+    /// `limit` user-perceived characters (grapheme clusters) with "…" appended.
     [[nodiscard]] static std::string bounded(std::string_view text, std::size_t limit);
 
     friend bool operator==(const ProbeError &, const ProbeError &) = default;

@@ -61,7 +61,7 @@ ProbeError failureReportedAs(std::string result)
     return ProbeError::sessionFailed(std::move(result));
 }
 
-/// Moves the text of a member out of `object`; empty when it is absent or no text.
+/// Moves the text of a member out of `object`; empty when it is absent or not a string.
 std::string takeText(JsonValue &object, std::string_view key)
 {
     JsonValue *const value = member(object, key);

@@ -197,7 +197,7 @@ std::optional<std::int64_t> ProbeRunner::reportedTurns(std::string_view standard
     return record ? exactInteger(member(*record, "num_turns")) : std::nullopt;
 }
 
-// On a thread of its own, since a disk may not answer: the search shares all that it touches.
+// On a thread of its own, since a disk may not answer: the search shares ownership of its inputs.
 std::optional<ProbeUsage> ProbeRunner::transcriptUsage(const std::string &sessionID) const
 {
     const double seconds = m_settings->transcriptSearchSeconds;

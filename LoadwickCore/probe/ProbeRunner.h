@@ -54,7 +54,7 @@ public:
         std::optional<std::string> cliOverride;
         std::string home;
         std::filesystem::path projectsRoot;
-        Environment environment; ///< the program's own, of which the child inherits a part
+        Environment environment; ///< the program's own; the child inherits part of it
         std::filesystem::path workingDirectory; ///< resolves the environment's relative folders
         ClaudeCLILocator::Lookup lookup;
         std::shared_ptr<const FileSystem> fileSystem;
@@ -88,16 +88,16 @@ public:
     };
 
     /// Starts the child in a session of its own, captures both its streams and returns when it has
-    /// ended and both are drained, or when the time-out and its graces say to stop waiting.
-    /// Blocking. Throws `unreadableOutput` when the child cannot be started.
+    /// ended and both are drained, or when the time-out and its grace periods are over. Blocking.
+    /// Throws `unreadableOutput` when the child cannot be started.
     [[nodiscard]] static Execution execute(const Launch &launch);
 
     /// "num_turns" of the result record, when there is one and it is an exact integer.
     [[nodiscard]] static std::optional<std::int64_t> reportedTurns(std::string_view standardOutput);
 
     /// The usage of the session's first assistant message. The command may still be writing its
-    /// transcript, so it is looked for several times. Nothing when no attempt yields a usage, or
-    /// when the search limit passes or the program's end is requested first. Blocking.
+    /// transcript, so the search is retried. Nothing when no attempt yields a usage, or when the
+    /// search limit passes or the program's end is requested first. Blocking.
     [[nodiscard]] std::optional<ProbeUsage> transcriptUsage(const std::string &sessionID) const;
 
 private:

@@ -16,7 +16,7 @@ struct ProbeUsage
     std::int64_t outputTokens;
 
     /// Reads "input_tokens", "cache_creation_input_tokens", "cache_read_input_tokens" and
-    /// "output_tokens" of a JSON object. A value that is no exact integer counts as absent, an
+    /// "output_tokens" of a JSON object. A value that is not an exact integer counts as absent, an
     /// absent one as 0; nothing when none of the three input counts is present.
     [[nodiscard]] static std::optional<ProbeUsage> from(const JsonValue &object);
 

@@ -20,8 +20,8 @@ struct SelfReportedSlab
 } // namespace Loadwick
 
 /// Reads lines of the form "SLAB <category name> TOKENS <integer>" out of a session's answer.
-/// Forgiving about decoration (bullets, quotes, backticks, letter case, digit grouping), strict
-/// about the rest: a line that does not fit is dropped silently.
+/// Lenient about decoration (bullets, quotes, backticks, letter case, digit grouping), strict about
+/// the rest: a line that does not fit is dropped silently.
 namespace Loadwick::SlabParser {
 
 /// The slabs of all lines that fit, in order; repeated names stay. Lines end at every Unicode

@@ -17,7 +17,7 @@ constexpr std::size_t overlap = assistant.size() - 1;
 
 /// Whether a line with this text may be an assistant's message: its type holds "ssis", which JSON
 /// can spell in no other way than with \u. This rules out nearly every other line without parsing
-/// it. Not stopping at a find lets the compiler vectorise the loop.
+/// it. Not stopping at a match lets the compiler vectorise the loop.
 bool mayBeAssistants(std::string_view text) noexcept
 {
     const auto is = [](char byte, char wanted) { return static_cast<unsigned>(byte == wanted); };

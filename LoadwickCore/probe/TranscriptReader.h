@@ -29,7 +29,7 @@ namespace Loadwick {
 
 /// Looks for the first usage of an assistant's message in a transcript that arrives in pieces, cut
 /// anywhere. A line within one piece is parsed in place. A line across several pieces is not kept,
-/// only its position and whether it may be an assistant's; if so, it is read again as a whole.
+/// only its position and whether it may be an assistant's; if so, the whole line is read again.
 class TranscriptPieces
 {
 public:
@@ -41,7 +41,7 @@ public:
 
     explicit TranscriptPieces(Again again) : m_again(std::move(again)) {}
 
-    /// The first usage in the lines that `piece` completes. Take no more once there was one.
+    /// The first usage in the lines that `piece` completes. Do not call again once it returned one.
     [[nodiscard]] std::optional<ProbeUsage> take(std::string_view piece);
 
     /// The usage in the line that the transcript's end completes.
@@ -58,8 +58,8 @@ private:
     Again m_again;
     std::int64_t m_lineBegin = 0;   ///< position of the incomplete line
     std::size_t m_lineSize = 0;     ///< its bytes so far
-    bool m_mayBeAssistants = false; ///< judged by these
-    std::string m_end;              ///< their last few, in which a word may have begun
+    bool m_mayBeAssistants = false; ///< judged by those bytes
+    std::string m_end;              ///< their last few, where a word may begin
 };
 
 } // namespace Loadwick

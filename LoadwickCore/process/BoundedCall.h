@@ -13,8 +13,7 @@ namespace Loadwick {
 
 /// Runs `call` on a thread of its own and waits at most `limit` seconds for its value. Nothing when
 /// the limit came first, and always when it is 0 or less: the call then continues alone, so it must
-/// own all that it touches. An exception of the call, or of starting the thread, reaches the
-/// caller.
+/// own everything it uses. An exception of the call, or of starting the thread, reaches the caller.
 template<typename Call>
 [[nodiscard]] auto callWithin(std::chrono::duration<double> limit, Call call)
     -> std::optional<decltype(call())>

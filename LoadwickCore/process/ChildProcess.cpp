@@ -134,9 +134,8 @@ ChildProcess::Ending ChildProcess::reap()
     return {found.si_status, found.si_pid != 0 && found.si_code != CLD_EXITED};
 }
 
-// The number travels alone: a thread that cannot be started must not leave an owner whose
-// destructor would wait once more. The shutdown list does without the child, since the kill was
-// sent.
+// Passes on only the process ID: if the thread cannot be started, no owner may be left whose
+// destructor would wait again. The child leaves the shutdown list, since it was already killed.
 void ChildProcess::abandon(ChildProcess child) noexcept
 {
     const pid_t processID = std::exchange(child.m_processID, 0);

@@ -12,16 +12,16 @@
 
 namespace Loadwick {
 
-/// Waits for the end of a child without reaping it, so that its number stays its own while it may
-/// be signalled.
+/// Waits for the end of a child without reaping it, so that its process ID cannot be reused while
+/// it may be signalled.
 class ExitWatch
 {
 public:
     /// `child` is a child of this process that has not been reaped.
     explicit ExitWatch(pid_t child) noexcept;
 
-    /// Blocks until the child has ended or `deadline` has passed; true for the former. A process
-    /// that is not, or no longer, our child counts as ended.
+    /// Blocks until `deadline` at most; true if the child has ended. A process that is not, or no
+    /// longer, our child counts as ended.
     [[nodiscard]] bool waitUntil(Deadline deadline) const;
 
 private:
@@ -29,8 +29,8 @@ private:
     FileDescriptor m_handle; ///< becomes readable when the child ends; none where unsupported
 };
 
-/// The one owner of a running child, which leads a process group of its own. Nothing else reaps it,
-/// so its number stays valid until `reap`. Used by one thread at a time; movable.
+/// The sole owner of a running child, which leads a process group of its own. Nothing else reaps
+/// it, so its process ID stays valid until `reap`. Used by one thread at a time; movable.
 class ChildProcess
 {
 public:
@@ -45,13 +45,13 @@ public:
     };
 
     /// Starts the child and lists its group in `shutdown` (which may be null) until it is reaped.
-    /// Throws `std::system_error`; ECANCELED once the end of the program was requested.
+    /// Throws `std::system_error`, with ECANCELED once the end of the program was requested.
     [[nodiscard]] static ChildProcess start(const ChildCommand &command,
                                             const ChildStreams &streams,
                                             std::shared_ptr<Shutdown> shutdown);
 
-    /// Kills a child that was not reaped, with its group, and reaps it: at once, or in the
-    /// background if it survives for `survivalSeconds`.
+    /// Kills a child that was not reaped, with its group, and reaps it: now, or in the background
+    /// if it survives for `survivalSeconds`.
     ~ChildProcess();
 
     ChildProcess(ChildProcess &&other) noexcept;
@@ -65,7 +65,7 @@ public:
     [[nodiscard]] bool waitUntil(Deadline deadline) const { return m_exit.waitUntil(deadline); }
     [[nodiscard]] bool isRunning() const { return !waitUntil(Deadline::min()); }
 
-    /// Signals the child alone, or its whole group. Errors are ignored: the process is gone then.
+    /// Signals the child alone, or its whole group. Errors are ignored: the process is gone.
     void signal(int number) const noexcept;
     void signalGroup(int number) const noexcept;
 
@@ -93,7 +93,7 @@ inline constexpr double sweepGraceSeconds = 0.2;
 void terminateThenKill(const ChildProcess &child, double graceSeconds);
 
 /// Asks the rest of the child's group to end, and kills it `sweepGraceSeconds` later. The child
-/// must not have been reaped: its number could be another process's.
+/// must not have been reaped: its ID could be another process's.
 void sweepGroup(const ChildProcess &child);
 
 } // namespace ProcessTermination

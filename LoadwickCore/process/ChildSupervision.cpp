@@ -60,7 +60,7 @@ bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &bo
 }
 
 // True when the time-out found the child running. Without a limit on the wait for its death, a
-// child that is stuck inside the system would block the caller for ever.
+// child that is stuck inside the system would block the caller forever.
 bool stopAtTimeout(const ChildProcess &child, const Request &request, const OutputBox &box)
 {
     if (endsBefore(deadlineAfter(request.limits.timeoutSeconds), child, box))

@@ -33,7 +33,7 @@ void CapturedBytes::makeRoomFor(std::size_t byteCount)
     try {
         m_text.reserve(m_limit);
     } catch (const std::bad_alloc &) {
-        return; // the text then grows step by step
+        return; // the text then grows incrementally
     }
 }
 

@@ -9,7 +9,7 @@
 namespace Loadwick {
 
 /// The bytes read from one stream, up to a limit. A long text reserves address space for its whole
-/// limit at once: that costs no memory until it is written, and nothing is ever copied or held
+/// limit up front: that costs no memory until it is written, and no byte is ever copied or held
 /// twice.
 class CapturedBytes
 {
@@ -61,7 +61,7 @@ public:
     /// Throws `std::bad_alloc`.
     [[nodiscard]] std::optional<std::string> take(Stream stream);
 
-    /// Whether a stream was lost for want of memory: `take` of it would throw.
+    /// Whether a stream was lost for lack of memory: `take` would throw for it.
     [[nodiscard]] bool ranOutOfMemory() const;
 
     /// Notes that a reader had to stop before its stream ended.

@@ -52,7 +52,7 @@ Step readOnce(int descriptor, std::span<char> buffer, const PipeDrain::Sink &sin
         sink(buffer.first(static_cast<std::size_t>(count)));
         return Step::goOn;
     }
-    // unreachable: nothing else reads what poll has seen, and two of the numbers are one here
+    // unreachable: nothing else reads what poll has seen, and EAGAIN equals EWOULDBLOCK here
     if (count == 0 || (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR))
         return Step::stop;
     std::this_thread::sleep_for(PipeDrain::backOff);

@@ -100,7 +100,7 @@ void Attributes::setOwnSessionAndDefaultSignals()
     check(posix_spawnattr_setflags(&m_attributes, static_cast<short>(flags)));
 }
 
-// The system would cut such a text at the NUL.
+// The system would truncate such a text at the NUL.
 void refuseEmbeddedNul(const std::string &text, int error)
 {
     if (text.find('\0') != std::string::npos)

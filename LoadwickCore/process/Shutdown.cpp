@@ -71,7 +71,7 @@ void Shutdown::stopChildren(std::chrono::duration<double> grace)
     signalGroups(SIGKILL);
 }
 
-// Under the lock, so that no listed leader is reaped and its number reused meanwhile.
+// Under the lock, so that no listed leader is reaped and its ID reused meanwhile.
 void Shutdown::signalGroups(int number)
 {
     for (const pid_t group : m_groups)
@@ -97,7 +97,7 @@ bool ShutdownEntry::enter(pid_t group)
 
 void ShutdownEntry::leave()
 {
-    // The pointer also tells a live entry from one that was moved from.
+    // A null pointer also marks an entry that was moved from.
     const std::shared_ptr<Shutdown> shutdown = std::move(m_shutdown);
     if (!shutdown)
         return;

@@ -19,7 +19,7 @@ public:
     void request();
     [[nodiscard]] bool isRequested() const;
 
-    /// Sleeps until `duration` has passed or the end was requested; true for the latter.
+    /// Sleeps for `duration`, or until the end is requested; true if it was.
     bool waitFor(std::chrono::duration<double> duration);
 
     /// Announces a child that is about to start, so that `stopChildren` waits until its group is
@@ -33,8 +33,8 @@ public:
     /// requested: the caller then stops the child itself.
     [[nodiscard]] bool add(pid_t group);
 
-    /// Removes a group from the list. Call it before the leader is reaped: from then on the number
-    /// may belong to another process.
+    /// Removes a group from the list. Call it before the leader is reaped: from then on its ID may
+    /// belong to another process.
     void remove(pid_t group);
 
     /// Requests the end, sends every listed group SIGTERM and, to those still listed after `grace`,

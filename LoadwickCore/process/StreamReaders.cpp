@@ -34,7 +34,7 @@ struct StreamReaders::Shared
             m_changed.notify_all();
         }
 
-        /// Blocks until all have left, or until `latest`; true for the former.
+        /// Blocks until `latest` at most; true if all have left.
         [[nodiscard]] bool waitUntil(Deadline latest)
         {
             std::unique_lock lock(m_lock);

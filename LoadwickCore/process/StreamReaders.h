@@ -8,7 +8,7 @@
 
 namespace Loadwick {
 
-/// The background readers of one child's streams. They share the ownership of all they touch, so
+/// The background readers of one child's streams. They share ownership of everything they use, so
 /// that a blocked reader may outlive this object; it then stops when it next checks the deadline.
 class StreamReaders
 {

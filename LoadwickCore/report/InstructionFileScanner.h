@@ -17,8 +17,8 @@ public:
     [[nodiscard]] virtual InstructionFileSet scan(const std::filesystem::path &repository) = 0;
 };
 
-/// Reads the instruction files that a session in a repository loads, and those that they import.
-/// It never writes and never fails: what cannot be read is listed.
+/// Reads the instruction files that a session in a repository loads, and those that they import. It
+/// never writes and never fails: unreadable files are listed.
 class InstructionFileScanner final : public InstructionFileScanning
 {
 public:
@@ -32,7 +32,7 @@ public:
     {
         std::string home;
         int maxImportDepth = defaultMaxImportDepth;
-        double limitSeconds = 30.0; ///< then `scan` gives what it has found so far
+        double limitSeconds = 30.0; ///< then `scan` returns what it has found
     };
 
     explicit InstructionFileScanner(Settings settings);

@@ -21,7 +21,7 @@ std::size_t readLimit(const RegularFile &file)
     return static_cast<std::size_t>(file.size() > 0 ? std::min(file.size(), limit) : limit);
 }
 
-/// Whether a path, which is not empty, needs no standardizing behind a standardized folder. False
+/// Whether a non-empty path needs no standardizing below a standardized folder. Conservative: false
 /// for some that need none.
 bool isPlain(std::string_view path)
 {
@@ -130,7 +130,7 @@ InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &
     const auto known = m_seenByPath.find(path);
     if (known != m_seenByPath.end())
         return known->second;
-    // A system call would cut the path at a NUL.
+    // A system call would truncate the path at a NUL.
     if (path.find('\0') != std::string::npos)
         return nullptr;
     const InstructionFolders::Entry entry = m_folders.entryAt(path);

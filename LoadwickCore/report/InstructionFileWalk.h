@@ -28,7 +28,7 @@ public:
     /// A copy of everything so far.
     [[nodiscard]] InstructionFileSet set() const;
 
-    /// Ends the walk before its next file: nobody waits for it any more.
+    /// Ends the walk before its next file: its caller has stopped waiting.
     void stop() noexcept { m_isStopped = true; }
     [[nodiscard]] bool isStopped() const noexcept { return m_isStopped; }
 
@@ -41,7 +41,7 @@ private:
 
 /// One walk over the instruction files of a repository: its own, those of the folders above it up
 /// to the home folder, the user's, and what they import, each file's imports before the next file.
-/// It owns all that it touches, so that it may outlive whoever waits for it.
+/// It owns everything it uses, so that it may outlive its caller.
 class InstructionFileWalk
 {
 public:

@@ -12,9 +12,8 @@
 
 namespace Loadwick {
 
-/// The folders that one walk comes through. Each is resolved, links and all, once for all its
-/// files: doing so for every file took a third of the time that opening, reading and closing it
-/// takes.
+/// The folders that one walk visits. The links in a folder's path are resolved once for all its
+/// files: doing so for every file cost a third as much as opening, reading and closing it.
 class InstructionFolders
 {
 public:

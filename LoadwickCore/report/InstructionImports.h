@@ -11,7 +11,7 @@ namespace Loadwick::InstructionImports {
 [[nodiscard]] std::vector<std::string_view> tokensIn(std::string_view text);
 
 /// The import tokens of one line: what follows an "@" at its start or behind white space, without
-/// closing punctuation; web addresses and doubled "@" are none. Views into `line`.
+/// closing punctuation; web addresses and doubled "@" do not count. Views into `line`.
 [[nodiscard]] std::vector<std::string_view> tokensInLine(std::string_view line);
 
 } // namespace Loadwick::InstructionImports

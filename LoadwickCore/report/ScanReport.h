@@ -84,8 +84,8 @@ struct ScanReport
     /// Nothing when every file could be read.
     [[nodiscard]] std::optional<std::string> unreadableFilesNote() const;
 
-    /// Which kind of row exceeds the total by itself; meaningful only when `overAttributed`.
-    /// Overflow of a 64-bit sum ends the program.
+    /// Which kind of row alone exceeds the total; meaningful only when `overAttributed`. Overflow
+    /// of a 64-bit sum ends the program.
     [[nodiscard]] OverAttributionSource overAttributionSource() const;
 
     /// Nothing unless `overAttributed`.

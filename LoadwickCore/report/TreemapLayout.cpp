@@ -10,7 +10,7 @@
 namespace Loadwick::TreemapLayout {
 namespace {
 
-/// A weight on its way into the square.
+/// A weight to lay out.
 struct Item
 {
     std::size_t index; ///< of the weight
@@ -51,7 +51,7 @@ struct Row
     double worstRatio = std::numeric_limits<double>::max();
 };
 
-/// Along a side of the free space; the largest number for a row without an area or a length.
+/// Along a side of the free space; the largest double for a row without area or length.
 double worstRatio(const Row &row, double side) noexcept
 {
     if (!(row.sum > 0.0 && side > 0.0 && row.minimum > 0.0))
@@ -90,7 +90,7 @@ double itemEnd(const Row &row, const Item &item, double begin, double thickness,
     return std::min(begin + item.area / thickness, end);
 }
 
-/// The square and what of it is still free.
+/// The square and the part of it that is still free.
 class Map
 {
 public:

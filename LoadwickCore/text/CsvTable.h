@@ -7,8 +7,8 @@
 namespace Loadwick {
 
 /// A table as comma-separated values by RFC 4180: UTF-8, every row ended by CR LF, a cell quoted
-/// where necessary. A text that a spreadsheet would take for a formula gets an apostrophe in front;
-/// a figure stays a figure.
+/// where necessary. A text cell that a spreadsheet would take for a formula is prefixed with an
+/// apostrophe; a figure is not.
 class CsvTable
 {
 public:

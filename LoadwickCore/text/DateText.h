@@ -30,8 +30,7 @@ enum class DateForm
 /// Moments as ISO 8601 text in UTC with whole seconds: 2026-03-04T09:15:27Z.
 namespace IsoDate {
 
-/// A moment outside the years 0 to 9999, which this form cannot express, gives the nearest one
-/// inside.
+/// A moment outside the years 0 to 9999, which this form cannot express, is clamped to them.
 [[nodiscard]] std::string text(std::chrono::sys_seconds moment);
 
 /// Reads exactly that form; a day or an hour that does not exist gives nothing.

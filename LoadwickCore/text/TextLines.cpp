@@ -17,14 +17,14 @@ constexpr bool isPlain(char byte) noexcept
     return static_cast<unsigned char>(byte - ' ') < 0x80 - ' ';
 }
 
-/// Bytes at the head of a text that are plain, compared eight at a time while all eight are.
+/// Number of plain bytes at the head of a text, compared eight at a time while possible.
 std::size_t plainHead(std::string_view text) noexcept
 {
     constexpr std::uint64_t everyByte = 0x0101010101010101;
     std::size_t index = 0;
     for (std::uint64_t eight = 0; text.size() - index >= sizeof eight; index += sizeof eight) {
         std::memcpy(&eight, text.data() + index, sizeof eight);
-        // The difference has the high bit below a blank, the byte itself beyond ASCII.
+        // The high bit is set in the difference below a blank, in the byte itself beyond ASCII.
         if ((((eight - everyByte * ' ') | eight) & (everyByte * 0x80)) != 0)
             break;
     }

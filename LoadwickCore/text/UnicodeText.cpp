@@ -39,7 +39,7 @@ constexpr bool isAscii(char byte) noexcept
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
-/// Bytes at the head of a text that are ASCII, compared eight at a time while all eight are.
+/// Number of ASCII bytes at the head of a text, compared eight at a time while possible.
 std::size_t asciiHead(std::string_view text) noexcept
 {
     constexpr std::uint64_t highBits = 0x8080808080808080;
@@ -84,7 +84,7 @@ std::size_t previousStart(std::string_view text, std::size_t end) noexcept
     return end - 1;
 }
 
-/// The library brings its own data, so memory is all that it can lack.
+/// ICU has its data built in, so only memory can be missing.
 void requireSuccess(UErrorCode status)
 {
     if (U_FAILURE(status))
@@ -157,7 +157,7 @@ std::string_view trimmedBlanks(std::string_view text) noexcept
 
 std::string lowercased(std::string_view text)
 {
-    // ICU takes as long to start as a whole line of ASCII, like nearly every text, takes here.
+    // Starting ICU costs as much as a whole line of ASCII here, and nearly every text is ASCII.
     if (isAscii(text)) {
         std::string lower(text);
         std::transform(lower.begin(), lower.end(), lower.begin(), lowercasedAscii);

@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-/// UTF-8 text by the tables of Unicode. Bytes that are not UTF-8 never fail: each maximal
-/// ill-formed part counts as one U+FFFD.
+/// UTF-8 text by the Unicode tables. Ill-formed bytes are never an error: each maximal ill-formed
+/// part counts as one U+FFFD.
 namespace Loadwick {
 
-/// Whether `bytes` is well-formed UTF-8 (no surrogates, no overlong forms). The empty text is.
+/// Whether `bytes` is well-formed UTF-8 (no surrogates, no overlong forms). Empty text is.
 [[nodiscard]] bool isUtf8(std::string_view bytes) noexcept;
 
 /// `bytes` with every ill-formed part replaced by U+FFFD.
@@ -40,8 +40,8 @@ void setSearchKey(std::string &key, std::string_view text);
 /// `std::bad_alloc` once the rules are loaded.
 [[nodiscard]] std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit);
 
-/// Loads the rules by which characters are counted, once for the program. ICU ends the program if
-/// memory runs out meanwhile, so call it while there is some.
+/// Loads the rules for counting characters, once per program. ICU ends the program if memory runs
+/// out meanwhile, so call it while there is some.
 void loadCharacterRules();
 
 } // namespace Loadwick
