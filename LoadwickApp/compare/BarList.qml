@@ -7,16 +7,8 @@ LongList {
     id: list
 
     required property BarStyle style
-
-    // How all bars look, in the theme's fonts and colours.
-    component Style: BarStyle {
-        nameFont: AppTheme.captionFont
-        valueFont: AppTheme.captionStrongFont
-        headingFont: AppTheme.bodyStrongFont
-        text: AppTheme.text
-        secondaryText: AppTheme.secondaryText
-        track: AppTheme.quietFill
-    }
+    // The colour of bars that have none of their own.
+    property color fill: AppTheme.quietFill
 
     HoverTip {
         id: tip

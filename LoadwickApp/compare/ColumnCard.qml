@@ -19,6 +19,30 @@ ReportSurface {
     }
     readonly property color fill: AppTheme.chartColors[card.place % AppTheme.chartColors.length]
 
+    // One category: its name and its tokens over its bar.
+    component Bar: BarRow {
+        id: bar
+
+        required property string category
+        required value
+        required length
+        required isRecorded
+        required property string spoken
+        readonly property BarList bars: bar.ListView.view ? bar.ListView.view.parent as BarList : null
+
+        objectName: "bar"
+        width: bar.bars ? bar.bars.width : 0
+        height: bar.bars ? bar.bars.rowHeight : 0
+        name: bar.category
+        style: bar.bars ? bar.bars.style : null
+        fill: bar.bars ? bar.bars.fill : "transparent"
+        Accessible.role: Accessible.ListItem
+        Accessible.name: bar.spoken
+        // Hidden while pooled.
+        ListView.onPooled: bar.visible = false
+        ListView.onReused: bar.visible = true
+    }
+
     onPlaceChanged: bars.begin()
     Accessible.role: Accessible.Grouping
     Accessible.name: card.column.name
@@ -54,28 +78,8 @@ ReportSurface {
             isFilled: card.isFilled
             rowHeight: AppTheme.barRowHeight
             style: card.style
-            // One category: its name and its tokens over its bar.
-            delegate: BarRow {
-                id: bar
-
-                required property string category
-                required value
-                required length
-                required isRecorded
-                required property string spoken
-
-                objectName: "bar"
-                width: bars.width
-                height: bars.rowHeight
-                name: bar.category
-                style: card.style
-                fill: card.fill
-                Accessible.role: Accessible.ListItem
-                Accessible.name: bar.spoken
-                // Hidden while pooled.
-                ListView.onPooled: bar.visible = false
-                ListView.onReused: bar.visible = true
-            }
+            fill: card.fill
+            delegate: Bar { }
         }
         Loader {
             y: bars.y

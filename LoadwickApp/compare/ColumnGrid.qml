@@ -1,140 +1,15 @@
 import QtQuick
 import Loadwick
 
-// The repositories' cards: side by side where they fit, in further lines where they do not, all
-// equally wide and high. A large grid pools its cards: it has as many lines as a screen can show, and
-// two more. When the page scrolls by a line, the cards that left it take over the repositories that
-// appear, one card per frame. A ListView that reuses whole lines is shorter, but its first frame took
-// ten times as long, and an appearing line (made at once or by asynchronous loaders) up to 30 ms.
-Item {
+// The repositories' cards, all as high as the first.
+ColumnPool {
     id: grid
 
-    required property ComparePresenter compare
-    required property Flickable viewport
-
-    readonly property int leastWidth: AppTheme.scaled(290)
-    readonly property int leastHeight: AppTheme.scaled(200)
-    readonly property real gap: AppTheme.cardSpace
-    readonly property BarStyle style: BarList.Style { isMirrored: grid.LayoutMirroring.enabled }
-    readonly property int count: grid.compare.columnCount
-    readonly property bool isLarge: grid.compare.isLarge
-
-    // Lines as even as possible: four cards where three fit are two by two.
-    readonly property int lineCount: Math.ceil(grid.count / grid.fitting(grid.width))
-    readonly property int acrossCount: Math.max(1, Math.ceil(grid.count / Math.max(1, grid.lineCount)))
-    readonly property real cardWidth: Math.floor((grid.width - (grid.acrossCount - 1) * grid.gap) / grid.acrossCount)
-    // The first card tells how high all are.
-    readonly property real cardHeight: cards.count > 0 && cards.itemAt(0) ? cards.itemAt(0).implicitHeight : 0
-    readonly property real lineStep: grid.cardHeight + grid.gap
-
-    // The grid is in a column that scrolls.
-    readonly property real pageTop: grid.y + (grid.parent ? grid.parent.y : 0)
-    readonly property real screenHeight: Math.max(Screen.height, grid.viewport.height)
-    readonly property int middleLine: Math.floor((grid.viewport.contentY + 0.5 * grid.viewport.height - grid.pageTop) / grid.lineStep)
-    readonly property int neededLines: grid.cardHeight > 0 ? Math.ceil(grid.screenHeight / grid.lineStep) + 2 : 1
-    readonly property int keptLines: grid.isLarge ? Math.min(grid.neededLines, grid.lineCount) : grid.lineCount
-    readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
-    // Independent of the width: another number would make all cards again.
-    readonly property int cellCount: grid.isLarge
-        ? (Math.ceil(grid.screenHeight / grid.leastHeight) + 2) * grid.fitting(AppTheme.contentWidth) : grid.count
-
-    // Before the first frame nothing has its position or height. After it a large grid makes one card in
-    // every other frame, and its rows in the frame between: both together take longer than a frame.
-    property int frameCount: 0
-    readonly property bool isLaidOut: grid.frameCount > 1
-    readonly property int filledCount: Math.floor(0.5 * grid.frameCount)
-    readonly property int madeCount: Math.min(grid.count, Math.floor(0.5 * Math.max(0, grid.frameCount - 1)) + 1)
-
-    // Whether cards are still on lines that left the page, and whether one of them moved in this frame.
-    property bool hasLateCards: false
-    property bool isTaken: false
-
-    // One card whose next line is at most `reach` lines from the page's middle may move.
-    signal turn(reach: int)
-
-    function fitting(width) {
-        return Math.max(1, Math.floor((width + grid.gap) / (grid.leastWidth + grid.gap)));
-    }
-
-    // The line that a pooled line shows: when the page scrolls by a line, one pooled line moves, and the
-    // others stay.
-    function lineOf(keptLine) {
-        const ahead = (keptLine - grid.firstLine) % grid.keptLines;
-        return grid.firstLine + (ahead < 0 ? ahead + grid.keptLines : ahead);
-    }
-
-    implicitHeight: Math.max(0, grid.lineCount * grid.lineStep - grid.gap)
-
-    FrameAnimation {
-        running: !grid.isLaidOut || (grid.isLarge && grid.filledCount < Math.min(grid.count, grid.keptLines * grid.acrossCount))
-        onTriggered: grid.frameCount += 1
-    }
-    // The cards on the page first.
-    FrameAnimation {
-        running: grid.hasLateCards
-        onTriggered: {
-            grid.isTaken = false;
-            grid.turn(1);
-            if (!grid.isTaken)
-                grid.turn(grid.lineCount);
-            grid.hasLateCards = grid.isTaken;
-        }
-    }
+    cardHeight: cards.count > 0 && cards.itemAt(0) ? cards.itemAt(0).implicitHeight : 0
 
     Repeater {
         id: cards
-
         model: grid.cellCount
-
-        Loader {
-            id: cell
-
-            required property int index
-            readonly property int across: cell.index % grid.acrossCount
-            readonly property int keptLine: Math.floor(cell.index / grid.acrossCount)
-            readonly property bool isKept: cell.keptLine < grid.keptLines
-            readonly property int nextLine: grid.lineOf(cell.keptLine)
-            // Once the cell is complete, it follows `nextLine` when it is this card's turn.
-            property int line: cell.nextLine
-            readonly property bool isLate: cell.isKept && cell.line !== cell.nextLine
-            readonly property int place: cell.line * grid.acrossCount + cell.across
-            readonly property real step: grid.cardWidth + grid.gap
-
-            function settle() {
-                cell.line = cell.nextLine;
-            }
-
-            objectName: "cell"
-            x: (LayoutMirroring.enabled ? grid.acrossCount - 1 - cell.across : cell.across) * cell.step
-            y: cell.line * grid.lineStep
-            // The last one takes what the others leave of a whole.
-            width: cell.across === grid.acrossCount - 1 ? grid.width - cell.across * cell.step : grid.cardWidth
-            height: grid.cardHeight
-            visible: cell.place < grid.count && cell.isKept
-            active: cell.index === 0 || !grid.isLarge || (cell.isKept && cell.index < grid.madeCount)
-            sourceComponent: ColumnCard {
-                compare: grid.compare
-                place: cell.place
-                viewport: grid.viewport
-                style: grid.style
-                isFilled: cell.index < grid.filledCount
-            }
-
-            onNextLineChanged: if (!grid.isLarge) cell.settle()
-            onIsLateChanged: if (cell.isLate) grid.hasLateCards = true
-            Component.onCompleted: cell.settle()
-
-            Connections {
-                target: grid
-
-                function onAcrossCountChanged() { cell.settle(); }
-                function onTurn(reach) {
-                    if (grid.isTaken || !cell.isLate || Math.abs(cell.nextLine - grid.middleLine) > reach)
-                        return;
-                    grid.isTaken = true;
-                    cell.settle();
-                }
-            }
-        }
+        ColumnCell { }
     }
 }

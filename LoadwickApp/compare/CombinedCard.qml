@@ -19,6 +19,35 @@ ReportSurface {
         qsTr("Totals are authoritative, as reported by Claude. The category splits are local estimates.")
     ]
 
+    // A category's name, or a repository's bar within the category.
+    component Line: BarRow {
+        id: row
+
+        required property bool isCategory
+        required property string title
+        required place
+        required property int column
+        required value
+        required length
+        required isRecorded
+        required property string spoken
+        readonly property BarList bars: row.ListView.view ? row.ListView.view.parent as BarList : null
+
+        objectName: row.isCategory ? "category" : "bar"
+        width: row.bars ? row.bars.width : 0
+        height: row.bars ? row.bars.rowHeight : 0
+        arrangement: row.isCategory ? BarRow.Heading : BarRow.InLine
+        name: row.title
+        style: row.bars ? row.bars.style : null
+        fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
+        Accessible.role: row.isCategory ? Accessible.Heading : Accessible.ListItem
+        Accessible.name: row.spoken
+        Accessible.description: row.place
+        // Hidden while pooled.
+        ListView.onPooled: row.visible = false
+        ListView.onReused: row.visible = true
+    }
+
     SectionHeader {
         id: header
 
@@ -35,34 +64,8 @@ ReportSurface {
         model: card.compare.combined
         viewport: card.viewport
         rowHeight: AppTheme.combinedRowHeight
-        // A category's name, or a repository's bar within the category.
-        delegate: BarRow {
-            id: row
-
-            required property bool isCategory
-            required property string title
-            required place
-            required property int column
-            required value
-            required length
-            required isRecorded
-            required property string spoken
-
-            objectName: row.isCategory ? "category" : "bar"
-            width: bars.width
-            height: bars.rowHeight
-            arrangement: row.isCategory ? BarRow.Heading : BarRow.InLine
-            name: row.title
-            style: bars.style
-            fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
-            Accessible.role: row.isCategory ? Accessible.Heading : Accessible.ListItem
-            Accessible.name: row.spoken
-            Accessible.description: row.place
-            // Hidden while pooled.
-            ListView.onPooled: row.visible = false
-            ListView.onReused: row.visible = true
-        }
-        style: BarList.Style {
+        delegate: Line { }
+        style: ThemedBarStyle {
             nameWidth: card.nameWidth
             valueWidth: card.valueWidth
             isMirrored: card.LayoutMirroring.enabled
@@ -114,7 +117,7 @@ ReportSurface {
         visible: false
         width: 900
         rows: card.compare.combined
-        style: BarList.Style {
+        style: ThemedBarStyle {
             nameWidth: 200
             valueWidth: 88
         }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
 // Every scanned repository beside the others, or why there is nothing to compare yet.
@@ -10,16 +9,11 @@ Item {
     required property PageExport exporter
     readonly property bool isEmpty: page.compare.columnCount === 0
 
-    component Header: PageHeader {
-        title: qsTr("Compare")
-        detail: qsTr("The latest recorded scan of each repository, side by side, category for category.")
-    }
-
     PageAppear {
         anchors.fill: parent
         visible: page.isEmpty
 
-        Header {
+        CompareHeader {
             anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: AppTheme.pageMargin }
             width: Math.min(AppTheme.contentWidth, page.width - 2 * AppTheme.pageMargin)
         }
@@ -29,8 +23,7 @@ Item {
             detail: page.compare.emptyText
         }
     }
-    // Two repositories or more: who is heaviest, each for itself, all on one axis. Made when the page is
-    // first looked at.
+    // Made when the page is first shown.
     Loader {
         id: report
 
@@ -38,29 +31,12 @@ Item {
 
         anchors.fill: parent
         active: report.wasShown && !page.isEmpty
-        sourceComponent: PageColumn {
-            id: column
-
-            Header { Layout.fillWidth: true }
-            Leaderboard {
-                Layout.fillWidth: true
-                rows: page.compare.leaderboard
-                viewport: column.viewport
-            }
-            ColumnGrid {
-                Layout.fillWidth: true
-                compare: page.compare
-                viewport: column.viewport
-            }
-            CombinedCard {
-                Layout.fillWidth: true
-                compare: page.compare
-                exporter: page.exporter
-                viewport: column.viewport
-            }
+        Component.onCompleted: {
+            report.setSource("qrc:/qt/qml/Loadwick/CompareReport.qml",
+                { compare: page.compare, exporter: page.exporter });
+            report.wasShown = page.visible;
         }
     }
 
-    Component.onCompleted: report.wasShown = page.visible
     onVisibleChanged: if (page.visible) report.wasShown = true
 }

@@ -57,7 +57,7 @@ ColumnLayout {
                     required property int index
                     Layout.fillWidth: true
                     implicitHeight: AppTheme.barRowHeight
-                    style: BarList.Style { }
+                    style: ThemedBarStyle { }
                     name: "Category " + index
                     value: Math.round(24902 * modelData)
                     length: modelData

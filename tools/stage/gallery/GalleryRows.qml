@@ -28,7 +28,7 @@ ColumnLayout {
             model: GallerySamples.leaderboard
             viewport: card.viewport
             rowHeight: AppTheme.listRowHeight
-            delegate: Leaderboard.Entry { }
+            delegate: LeaderboardRow { }
         }
     }
 

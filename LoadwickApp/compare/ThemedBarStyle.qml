@@ -1,0 +1,12 @@
+import QtQuick
+import Loadwick
+
+// How all bars look, in the theme's fonts and colours.
+BarStyle {
+    nameFont: AppTheme.captionFont
+    valueFont: AppTheme.captionStrongFont
+    headingFont: AppTheme.bodyStrongFont
+    text: AppTheme.text
+    secondaryText: AppTheme.secondaryText
+    track: AppTheme.quietFill
+}
