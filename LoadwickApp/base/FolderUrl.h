@@ -8,11 +8,11 @@ class QUrl;
 
 namespace Loadwick {
 
-/// The local path that a URL names, byte for byte: a percent-encoded byte that is not UTF-8 stays
-/// that byte. Nothing when the URL names no file of this machine, or holds a NUL.
+/// The local path that a URL names, byte for byte: percent-encoded bytes need not be UTF-8. Nothing
+/// if the URL names no file on this machine or contains a NUL.
 [[nodiscard]] std::optional<std::filesystem::path> folderPath(const QUrl &url);
 
-/// Whether a folder is there now. Asks its disk, which may take any time.
+/// Whether a folder exists now. Reads its disk, which may take any length of time.
 [[nodiscard]] bool isFolder(const std::filesystem::path &path);
 
 } // namespace Loadwick

@@ -10,7 +10,7 @@
 
 namespace Loadwick {
 
-/// What QML knows of a `ListOf` whatever its rows are.
+/// The part of a `ListOf` that QML sees, whatever the type of its rows.
 class RowList : public QAbstractListModel
 {
     Q_OBJECT
@@ -21,11 +21,11 @@ class RowList : public QAbstractListModel
 public:
     [[nodiscard]] int count() const { return rowCount(); }
 
-    /// What a row says under a role's name; empty where there is no such row.
+    /// A row's value for a role; empty if there is no such row.
     [[nodiscard]] QVariant value(int row, const QString &role) const;
     Q_INVOKABLE [[nodiscard]] QString text(int row, const QString &role) const;
 
-    /// Puts that text on the clipboard, unless there is no such row.
+    /// Copies that text to the clipboard; a no-op if there is no such row.
     Q_INVOKABLE void copy(int row, const QString &role) const;
 
     [[nodiscard]] QHash<int, QByteArray> roleNames() const final { return m_roleNames; }
@@ -40,9 +40,9 @@ private:
     QHash<int, QByteArray> m_roleNames;
 };
 
-/// A list model over rows that are plain values. A role is a name, under which the view's delegate
-/// asks for it, and a function of the row. The function is called when a view looks at the row, so
-/// a row costs nothing before. `Rows` is any sequence with `size()` and `operator[]`.
+/// A list model over rows that are plain values. A role is the name that a delegate binds to, and a
+/// function of the row. The function runs only when a view reads the row, so unread rows cost
+/// nothing. `Rows` is any sequence with `size()` and `operator[]`.
 template<typename Row, typename Rows = std::vector<Row>>
 class ListOf : public RowList
 {
@@ -67,7 +67,7 @@ public:
         Q_EMIT countChanged();
     }
 
-    /// The same, except that views keep their items while there are as many rows as before.
+    /// Like `setRows`, but views keep their items if the number of rows is unchanged.
     void updateRows(Rows rows)
     {
         if (rows.size() != m_rows.size())

@@ -11,8 +11,8 @@ class QUrl;
 
 namespace Loadwick {
 
-/// Makes the object that a QML file of the program describes. Null when the file, or one that it
-/// uses, has a mistake or wants a property that was not given; `failure` then says which.
+/// Creates the object that one of the program's QML files describes. Null if the file, or one that
+/// it uses, has an error or requires a property that was not given; `failure` then says which.
 [[nodiscard]] std::unique_ptr<QObject> qmlObject(QQmlEngine &engine, const QUrl &url,
                                                  const QVariantMap &properties, QString &failure);
 

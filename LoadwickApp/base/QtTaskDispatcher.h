@@ -10,12 +10,12 @@
 
 namespace Loadwick {
 
-/// Runs background work on detached threads and posts to the event loop of one object's thread.
-/// A thread that blocks for ever therefore holds up nobody, not even the program's end.
+/// Runs background work on detached threads and posts to the event loop of one object's thread. A
+/// thread that blocks for ever therefore delays nothing, not even the end of the program.
 class QtTaskDispatcher final : public TaskDispatcher
 {
 public:
-    /// What is posted runs on the thread of `interface`, until that object is destroyed.
+    /// Posted work runs on the thread of `interface`, until that object is destroyed.
     explicit QtTaskDispatcher(QObject &interface);
 
     void runInBackground(Task task) override;
@@ -26,10 +26,10 @@ private:
     std::shared_ptr<Target> m_target;
 };
 
-/// Runs `work` on a background thread and hands its value to `whenDone` on the interface thread,
-/// unless `object` has been destroyed by then. `work` therefore owns all that it touches, while
-/// `whenDone` may use the object. Called on the interface thread. False when no thread could be
-/// started: neither of the two then runs.
+/// Runs `work` on a background thread and passes its value to `whenDone` on the interface thread,
+/// unless `object` has been destroyed by then. `work` must therefore own everything it touches;
+/// `whenDone` may use the object. Call it on the interface thread. False if no thread could be
+/// started: neither function then runs.
 template<typename Work, typename WhenDone>
 bool inBackground(const QObject *object, const std::shared_ptr<TaskDispatcher> &dispatcher,
                   Work work, WhenDone whenDone)

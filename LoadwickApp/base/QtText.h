@@ -12,8 +12,7 @@ namespace Loadwick {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-/// A path to be looked at, not to be copied: its folders stand from left to right, whatever they
-/// are written in.
+/// A path for display, not for copying: its folders read from left to right, whatever their script.
 [[nodiscard]] inline QString shownPath(std::string_view utf8)
 {
     const QChar mark(0x200E);
