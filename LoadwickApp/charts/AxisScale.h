@@ -21,7 +21,7 @@ public:
     /// 0 and every multiple of the step up to the upper bound.
     [[nodiscard]] std::vector<std::int64_t> ticks() const;
 
-    /// `value` as a share of the axis; a value beyond an end counts as that end.
+    /// `value` as a share of the axis, clamped to its ends.
     [[nodiscard]] double position(std::int64_t value) const noexcept;
 
 private:
@@ -29,7 +29,7 @@ private:
     std::int64_t m_step;
 };
 
-/// A labelled moment of an axis of dates.
+/// A labelled moment on a date axis.
 struct DateTick
 {
     std::chrono::sys_seconds moment;
@@ -38,9 +38,9 @@ struct DateTick
     friend bool operator==(const DateTick &, const DateTick &) = default;
 };
 
-/// An axis of dates from one moment to another. Its ticks are round in the calendar and the time
-/// zone of the process (full hours, midnights, first days of weeks, months and years), also across
-/// changes of the clocks.
+/// A date axis from one moment to another. Its ticks are round in the calendar and the time zone of
+/// the process (full hours, midnights, first days of weeks, months and years), across clock changes
+/// too.
 class DateAxisScale
 {
 public:
@@ -49,8 +49,8 @@ public:
         : m_first(first), m_last(last)
     {}
 
-    /// At most `mostTicks` (at least 1), in order, inside the axis, no two with the same label. An
-    /// axis of one moment has that as its only tick; one too short for round moments may have none.
+    /// At most `mostTicks` (at least 1), in order, within the axis, with distinct labels. An axis
+    /// of a single moment has that one tick; an axis too short for round moments may have none.
     [[nodiscard]] std::vector<DateTick> ticks(int mostTicks, const TextLocale &locale) const;
 
     /// The most ticks whose labels fit side by side on an axis `width` long with `gap` between
@@ -59,7 +59,7 @@ public:
     fittingTicks(double width, double gap, const TextLocale &locale,
                  const std::function<double(std::string_view)> &measure) const;
 
-    /// A moment as a share of the axis; the middle when the axis is one moment.
+    /// A moment as a share of the axis; the middle if the axis is a single moment.
     [[nodiscard]] double position(std::chrono::sys_seconds moment) const noexcept;
 
     /// The left edge of the label of `moment`, `labelWidth` wide, on an axis `width` long.

@@ -13,7 +13,7 @@ namespace Loadwick {
 namespace BandMeterGeometry {
 
 inline constexpr double markerSide = 12;
-inline constexpr double labelGap = 8; ///< the least room between two labels
+inline constexpr double labelGap = 8; ///< the minimum between two labels
 
 /// The meter and what it measures.
 struct Meter
@@ -40,27 +40,27 @@ struct Label
     bool isShown;
 };
 
-/// Lean, heavy and excessive, from left to right; together the whole meter. A segment may be empty.
+/// Lean, heavy, excessive, from left to right; together the meter. Segments may be empty.
 [[nodiscard]] std::array<Extent, 3> segments(const Meter &meter) noexcept;
 
 /// Where the segments meet.
 [[nodiscard]] std::array<double, 2> ticks(const Meter &meter) noexcept;
 
-/// The left edge of the marker at a position, which keeps the marker on the meter. On a meter
-/// narrower than the marker it is 0.
+/// The left edge of the marker at a position, clamped to the meter; 0 on a meter narrower than the
+/// marker.
 [[nodiscard]] double markerLeft(double width, double position) noexcept;
 
-/// Centres labels of these widths under their segments. A label moves aside at the meter's ends and
-/// beside a label laid out before it, and is hidden if it would then miss the middle of its own
-/// segment. The band of the total comes first, then the others by the width of their segments.
-/// Shown labels keep `labelGap` apart and lie on the meter.
+/// Centres labels of these widths under their segments. A label moves aside for the meter's ends
+/// and for labels laid out before it, and is hidden if it would then miss the middle of its own
+/// segment. The total's band is laid out first, then the others by segment width. Visible labels
+/// stay `labelGap` apart and on the meter.
 [[nodiscard]] std::array<Label, 3> labels(const Meter &meter,
                                           const std::array<double, 3> &widths) noexcept;
 
 } // namespace BandMeterGeometry
 
-/// The geometry of a band meter as QML binds to it. All lists go from the lean to the excessive
-/// end; missing entries count as zero.
+/// The geometry of a band meter for QML bindings. All lists run from lean to excessive; missing
+/// entries count as zero.
 class BandMeterLayout : public QObject
 {
     Q_OBJECT

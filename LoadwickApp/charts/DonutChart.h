@@ -49,13 +49,13 @@ public:
         0.5; ///< points at the outer radius that the eye can tell apart
 
     DonutGeometry() = default;
-    /// Tokens per row; a negative count is none.
+    /// Tokens per row; a negative count counts as 0.
     explicit DonutGeometry(std::span<const double> tokens);
 
     [[nodiscard]] const std::vector<Slice> &slices() const noexcept { return m_slices; }
 
     /// The first slice whose upper bound is at least that many tokens, counted from the top; the
-    /// last one beyond the end.
+    /// last slice if there is none.
     [[nodiscard]] std::optional<std::size_t> sliceAtTokens(double tokens) const noexcept;
 
     /// The slice at a point relative to the centre (y downwards), in a ring of that outer radius.
@@ -64,8 +64,8 @@ public:
                                                      double radius) const noexcept;
 
     /// The painted part of a slice in a ring of that outer radius in points: its straight edges run
-    /// parallel to its bounds, an inset away, so that the gaps are evenly wide. They take at most
-    /// half the width of a narrow slice, and nothing of a slice that is the whole ring.
+    /// parallel to its bounds, an inset away, so that all gaps are equally wide. The insets take at
+    /// most half the width of a narrow slice, and nothing from a slice that is the whole ring.
     [[nodiscard]] Sector sector(std::size_t slice, double radius) const;
 
     /// The painted parts of a ring of that outer radius in points, clockwise. Neighbours too narrow
@@ -79,17 +79,17 @@ private:
     std::vector<Slice> m_slices;
 };
 
-/// A ring of slices, one for each row that has tokens, as large as the item. Its marks are the
-/// slices; the hole reacts to nothing.
+/// A ring as large as the item, with a slice for each row that has tokens. Its marks are the
+/// slices; the hole is inert.
 class DonutChart : public Loadwick::MarkedChart
 {
     Q_OBJECT
     QML_ELEMENT
     /// Tokens per row.
     Q_PROPERTY(QList<qreal> tokens MEMBER m_tokens NOTIFY tokensChanged)
-    /// The rows take them in turn.
+    /// Assigned to the rows in turn.
     Q_PROPERTY(QList<QColor> colors MEMBER m_colors NOTIFY colorsChanged)
-    /// The row of the current mark, -1 while there is none.
+    /// The row of the current mark, -1 if there is none.
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentMarkChanged)
 
 public:

@@ -15,7 +15,7 @@ namespace GaugeGeometry {
 inline constexpr double startAngle = 225;
 inline constexpr double fullSpan = -270;
 
-/// How far the gauge is filled. A value beyond its ends counts as the end.
+/// How far the gauge is filled; the value is clamped.
 [[nodiscard]] constexpr double span(double value) noexcept
 {
     return fullSpan * std::clamp(value, 0.0, 100.0) / 100;
@@ -29,11 +29,11 @@ class GaugeArc : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// 0 to 100; a value beyond is painted as the end.
+    /// 0 to 100; painted clamped.
     Q_PROPERTY(qreal value MEMBER m_value NOTIFY looksChanged)
     Q_PROPERTY(qreal thickness MEMBER m_thickness NOTIFY looksChanged)
     Q_PROPERTY(QColor tint MEMBER m_tint NOTIFY looksChanged)
-    /// The colour of the part that is not filled.
+    /// The colour of the unfilled part.
     Q_PROPERTY(QColor track MEMBER m_track NOTIFY looksChanged)
 
 public:

@@ -6,11 +6,11 @@
 namespace Loadwick {
 
 /// A painted chart made of marks (slices, tiles, points), of which one may be current: the one
-/// under the pointer or the one that the arrow keys chose while the chart has the focus, whichever
-/// came last. So the keyboard reaches whatever the pointer reaches.
+/// under the pointer, or the one chosen by the arrow keys while the chart has the focus, whichever
+/// came last. The keyboard thus reaches whatever the pointer reaches.
 ///
-/// Arrow keys go to the next or previous mark and stop at the ends, Home and End jump there, and
-/// Escape lets go. The first key chooses the first mark, or the last if it points backwards.
+/// Arrow keys move to the next or previous mark and stop at the ends, Home and End jump there, and
+/// Escape clears it. The first key chooses the first mark, or the last if it points backwards.
 class MarkedChart : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ protected:
     /// The mark at a point of the item, -1 where there is none.
     [[nodiscard]] virtual int markAt(const QPointF &point) const = 0;
 
-    /// Call when the marks have changed; no mark is current then.
+    /// Call when the marks have changed; clears the current mark.
     void forgetMarks();
 
     void hoverEnterEvent(QHoverEvent *event) override;

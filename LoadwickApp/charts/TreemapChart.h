@@ -16,15 +16,15 @@
 
 namespace Loadwick {
 
-/// The tiles of a treemap in a frame of any size, one for each weight. All lengths are points.
+/// The tiles of a treemap in a frame of any size, one per weight. All lengths are points.
 class TreemapTiles
 {
 public:
-    /// The least size of a tile that shows its name.
+    /// The minimum size of a tile that shows its name.
     static constexpr double leastNameWidth = 84.0;
     static constexpr double leastNameHeight = 28.0;
 
-    /// A tile as painted: its edges on whole pixels.
+    /// A tile as painted, its edges on whole pixels.
     struct Box
     {
         double left;
@@ -45,11 +45,11 @@ public:
     [[nodiscard]] TreemapRect tile(std::size_t index) const;
     [[nodiscard]] bool showsName(std::size_t index) const;
 
-    /// The index of the tile at a point, -1 where there is none; no gaps between tiles here.
+    /// The index of the tile at a point, -1 if there is none; tiles have no gaps here.
     [[nodiscard]] int tileAt(double x, double y) const;
 
     /// The tile on a grid of `pixelsPerPoint`, one point short at the right and the bottom where
-    /// another tile follows; one too thin to spare it keeps it.
+    /// another tile follows; a tile too thin to spare it keeps it.
     [[nodiscard]] Box box(std::size_t index, double pixelsPerPoint) const;
 
 private:
@@ -63,7 +63,7 @@ private:
 /// read only then. Each tile is a tint inside an outline of its full colour, which sets it off from
 /// the ground. The current tile stands out and the others step back.
 ///
-/// All tiles are one image, painted once per size, so that moving over ten thousand costs no more
+/// All tiles are one image, painted once per size, so that hovering over ten thousand costs no more
 /// than over one.
 class TreemapChart : public Loadwick::MarkedChart
 {

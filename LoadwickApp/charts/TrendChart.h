@@ -29,7 +29,7 @@ class TrendChart : public Loadwick::MarkedChart
     Q_PROPERTY(QColor textColor MEMBER m_textColor NOTIFY styleChanged)
     Q_PROPERTY(QColor secondaryTextColor MEMBER m_secondaryTextColor NOTIFY styleChanged)
     Q_PROPERTY(QColor groundColor MEMBER m_groundColor NOTIFY styleChanged)
-    /// The words about the current mark; empty without one.
+    /// Describes the current mark; empty without one.
     Q_PROPERTY(QString readout READ readout NOTIFY currentMarkChanged)
 
 public:

@@ -20,9 +20,9 @@ struct PlotRect
     }
 };
 
-/// Divides the chart of a trend: at the left the axis of totals, below the axis of dates, at the
-/// right the names of the thresholds, outside the plot, so that they can cover neither a point nor
-/// an axis.
+/// Lays out a trend chart: the axis of totals on the left, the axis of dates at the bottom, and the
+/// names of the thresholds on the right, outside the plot, where they cover neither a point nor an
+/// axis.
 class TrendLayout
 {
 public:
@@ -39,10 +39,10 @@ public:
 
     explicit TrendLayout(const Needs &needs) noexcept;
 
-    /// The room for the centres of points.
+    /// The area for the centres of points.
     [[nodiscard]] const PlotRect &plot() const noexcept { return m_plot; }
 
-    /// The plot with room for the points at its sides: the extent of grid lines and thresholds.
+    /// The plot including the points at its sides: the extent of grid lines and thresholds.
     [[nodiscard]] const PlotRect &frame() const noexcept { return m_frame; }
 
     /// From a share of the plot to pixels, and back.
@@ -55,12 +55,12 @@ public:
         double lower;
         double upper;
     };
-    /// The y of the middles of the names of two thresholds: each at its line, as far as both fit
+    /// The vertical centres of the names of two thresholds: each at its line, as far as both fit
     /// one above the other beside the plot.
     [[nodiscard]] NameHeights nameHeights(double lowerShare, double upperShare) const noexcept;
 
-    /// The box of the words about a point at `share`: centred on it as far as the sides of the
-    /// frame allow, at the frame's upper edge, which is above all points.
+    /// The box of the read-out of a point at `share`: centred on it as far as the sides of the
+    /// frame allow, at the frame's upper edge, above all points.
     [[nodiscard]] PlotRect readout(double share, double wordsWidth) const noexcept;
 
     /// The upper edge of the labels of the axis of dates.

@@ -37,7 +37,7 @@ struct LinePoint
 class LineGeometry
 {
 public:
-    /// `samples` in any order; samples of one second keep theirs.
+    /// `samples` in any order; samples of the same second keep theirs.
     explicit LineGeometry(std::span<const LineSample> samples);
 
     /// The samples by date, and their points in the same order.
@@ -48,8 +48,8 @@ public:
     /// and 15 % of it, truncated; the largest integer where that does not fit.
     [[nodiscard]] std::int64_t upperBound() const noexcept { return m_upperBound; }
 
-    /// The index of the point nearest by date alone; among points of one date the one whose total
-    /// is nearest. Nothing without points.
+    /// The index of the point nearest by date alone; among points of one date the one with the
+    /// nearest total. Nothing without points.
     [[nodiscard]] std::optional<std::size_t> nearest(const LinePoint &target) const noexcept;
 
 private:
@@ -58,7 +58,7 @@ private:
     std::int64_t m_upperBound;
 };
 
-/// What a trend chart draws: totals by date, and the words about each of them.
+/// What a trend chart draws: totals by date, and the words for each.
 class TrendLine final : public QObject
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ public:
     [[nodiscard]] const LineGeometry &geometry() const noexcept { return m_geometry; }
     [[nodiscard]] const TextLocale &locale() const noexcept { return m_locale; }
 
-    /// When a scan was, to the minute, and its tokens, by the index of its point.
+    /// When a point's scan was made, to the minute, and its tokens; by the point's index.
     [[nodiscard]] QString date(std::size_t index) const;
     [[nodiscard]] QString total(std::size_t index) const;
 

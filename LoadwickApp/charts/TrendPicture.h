@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] const TrendLayout &layout() const noexcept { return m_layout; }
 
-    /// `mark` is the point to single out, -1 for none. `scans`, the result of `paintedScans`, saves
+    /// `mark` is the point to highlight, -1 for none. `scans`, the result of `paintedScans`, saves
     /// painting the line and its points, which takes ten times as long as the rest.
     void paint(QPainter &painter, int mark, const QImage &scans = {}) const;
 
