@@ -9,8 +9,8 @@
 
 namespace Loadwick {
 
-/// What the bars of one chart have in common: their fonts and colours, the columns that keep the
-/// figures of all rows on one line, and the side on which reading begins.
+/// What the bars of one chart share: fonts, colours, the columns that align the figures of all
+/// rows, and the reading direction.
 class BarStyle : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ Q_SIGNALS:
     void changed();
 };
 
-/// Where the parts of a bar chart's row are; a part that a row does not have is empty.
+/// The parts of a bar chart's row; a part that a row lacks is empty.
 struct BarRowPlaces
 {
     QRectF name;
@@ -59,16 +59,16 @@ struct BarRowPlaces
     [[nodiscard]] static BarRowPlaces inLine(const QSizeF &row, qreal nameWidth, qreal valueWidth,
                                              double length);
 
-    /// A name alone, low over the rows that it names.
+    /// A name alone, at the bottom, close to the rows that it names.
     [[nodiscard]] static BarRowPlaces heading(const QSizeF &row, qreal lineHeight);
 
-    /// The same row for readers who begin at the right.
+    /// The same row, mirrored for right-to-left reading.
     [[nodiscard]] BarRowPlaces mirrored(qreal rowWidth) const;
 };
 
 /// One row of a bar chart, painted: a name, a figure and a bar on the track of its scale. One item
 /// rather than five, because a page of bars has hundreds that come and go as it scrolls. A name
-/// that does not fit loses its middle, a figure never does.
+/// that does not fit is elided in the middle, a figure never.
 class BarRow : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -95,11 +95,11 @@ public:
     explicit BarRow(QQuickItem *parent = nullptr);
 
     [[nodiscard]] BarStyle *style() const { return m_style; }
-    /// Nothing is painted without one.
+    /// Paints nothing without one.
     void setStyle(BarStyle *style);
 
-    /// What a tool tip adds to what is painted: the whole name where it is cut, or the name with
-    /// the path that tells it from its namesakes. Empty where there is nothing to add.
+    /// What a tool tip adds to the row: the whole name if it is elided, or the name with the path
+    /// that tells it from its namesakes. Empty if there is nothing to add.
     [[nodiscard]] QString tip() const;
 
     [[nodiscard]] BarRowPlaces places() const;

@@ -7,11 +7,11 @@ ReportSurface {
     id: card
 
     required property ComparePresenter compare
-    // The repository's position among all: after five, the colours start again.
+    // The repository's index. Colours repeat after five.
     required property int place
     required property Flickable viewport
     required property BarStyle style
-    // Whether it has rows before it is in sight: three cards come into sight at a time.
+    // Whether it has rows before it is visible: cards become visible three at a time.
     required property bool isFilled
     readonly property ColumnPresenter column: ColumnPresenter {
         compare: card.compare
@@ -94,7 +94,7 @@ ReportSurface {
         ScaleEnds {
             id: ends
 
-            // Below the room for all bars, even for a scan without any.
+            // Below the room for all bars, even for a scan that has none.
             y: bars.y + Math.max(1, card.compare.categoryCount) * bars.rowHeight + card.spacing
             width: parent.width
             start: card.compare.scaleStart

@@ -1,9 +1,9 @@
 import QtQuick
 import Loadwick
 
-// Whose card it is, when it was scanned, and the one number that is authoritative. The head is one tab
-// stop, because four on each of many cards would be a long way; the arrow keys lead from the name
-// through the other words. It uses anchors, because each nested layout would lay out all words again.
+// The card's repository, when it was scanned, and the one authoritative number. The head is one tab
+// stop, because four on each of many cards would be too many; the arrow keys move from the name
+// through the other words. Anchors, because each nested layout would lay out all words again.
 Item {
     id: head
 

@@ -39,11 +39,11 @@ class ColumnPresenter : public QObject
 public:
     explicit ColumnPresenter(TextLocale locale = {}, QObject *parent = nullptr);
 
-    /// Whose repositories it shows, in whose locale; what it shows follows them.
+    /// The source of the repositories and the locale; changes of it are followed.
     [[nodiscard]] ComparePresenter *compare() const { return m_compare; }
     void setCompare(ComparePresenter *compare);
 
-    /// Which of them. A number without a repository leaves what is shown.
+    /// The repository's index. An index out of range changes nothing.
     [[nodiscard]] int number() const { return m_number; }
     void setNumber(int number);
 
@@ -51,8 +51,8 @@ public:
     void show(std::shared_ptr<const Comparison> comparison, std::size_t column);
 
     /// One row for each category: "category", "value", "length" (0 to 1), "isRecorded" and
-    /// "spoken", the whole row in words. None for a scan without categories, although the axis has
-    /// some.
+    /// "spoken", the whole row in words. No rows for a scan without categories, even if the axis
+    /// has some.
     [[nodiscard]] RowList *bars() { return &m_bars; }
 
     [[nodiscard]] QString name() const;
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] QString place() const;
     [[nodiscard]] QString scanned() const;
     [[nodiscard]] QString total() const;
-    /// The total's, as an index of the theme's bands.
+    /// The total's band, as an index of the theme's bands.
     [[nodiscard]] int band() const;
     [[nodiscard]] QString bandText() const;
     /// Shown instead of the bars of a scan without categories; empty for one with some.
@@ -74,7 +74,7 @@ Q_SIGNALS:
 private:
     struct Bar
     {
-        std::string_view category; ///< belongs to the comparison
+        std::string_view category; ///< owned by the comparison
         std::optional<std::int64_t> tokens;
     };
     [[nodiscard]] std::vector<ListOf<Bar>::Role> barRoles() const;

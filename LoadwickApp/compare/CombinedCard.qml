@@ -10,7 +10,7 @@ ReportSurface {
     required property PageExport exporter
     required property Flickable viewport
     readonly property real nameWidth: Math.round(Math.min(AppTheme.scaled(200), 0.28 * card.width))
-    // No figure is wider than that of the longest bar.
+    // The widest figure is that of the longest bar.
     readonly property real valueWidth: Math.ceil(widest.advanceWidth)
     readonly property list<string> reading: [
         qsTr("One bar is one category of one repository's latest recorded scan. Its length is the category's tokens; all bars share one scale."),

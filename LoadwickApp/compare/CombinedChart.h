@@ -28,7 +28,7 @@ struct CombinedLine
     std::optional<std::size_t> column; ///< the repository; nothing for the category's name
 
     [[nodiscard]] QString title() const;
-    /// Nothing where the repository's scan lacks the category.
+    /// Nothing if the repository's scan lacks the category.
     [[nodiscard]] std::optional<std::int64_t> tokens() const;
 };
 
@@ -53,8 +53,8 @@ using CombinedRows = ListOf<CombinedLine, CombinedLines>;
 
 [[nodiscard]] std::vector<CombinedRows::Role> combinedRoles(const TextLocale &locale);
 
-/// That chart in one piece, for a file: the page itself makes only the lines that it shows. Its
-/// height follows from its lines.
+/// The whole chart, for a file: the page itself creates only the lines that it shows. Its height
+/// follows from its lines.
 class CombinedPicture : public QQuickPaintedItem
 {
     Q_OBJECT

@@ -24,8 +24,8 @@ using LeaderboardRows = ListOf<LeaderboardEntry>;
 /// path that tells namesakes apart.
 [[nodiscard]] std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale);
 
-/// What the Compare page says of the recorded repositories. Belongs to the interface thread; the
-/// model outlives it, and does not change after it is gone.
+/// What the Compare page says about the recorded repositories. Belongs to the interface thread; the
+/// model outlives it and must not change afterwards.
 class ComparePresenter final : public QObject
 {
     Q_OBJECT
@@ -44,28 +44,28 @@ class ComparePresenter final : public QObject
 public:
     ComparePresenter(ScanModel &model, TextLocale locale);
 
-    /// Why there is nothing to compare yet; both empty when there are two repositories or more.
+    /// Why there is nothing to compare yet; both are empty with two or more repositories.
     [[nodiscard]] QString emptyTitle() const { return m_emptyTitle; }
     [[nodiscard]] QString emptyText() const { return m_emptyText; }
 
-    /// Every repository, the heaviest first.
+    /// Every repository, heaviest first.
     [[nodiscard]] RowList *leaderboard() { return &m_leaderboard; }
 
-    /// How many repositories there are; 0 when there is nothing to compare.
+    /// The number of repositories; 0 if there is nothing to compare.
     [[nodiscard]] int columnCount() const;
-    /// What they are, for their cards. Immutable: `changed` announces another one.
+    /// The comparison, for the cards. Immutable: `changed` announces a new one.
     [[nodiscard]] std::shared_ptr<const Comparison> comparison() const { return m_comparison; }
     [[nodiscard]] const TextLocale &locale() const { return m_locale; }
 
-    /// How many rows each card has.
+    /// The number of rows of each card.
     [[nodiscard]] int categoryCount() const;
-    /// There are too many bars to make them all before the page is shown.
+    /// Whether there are too many bars to create them all before the page is shown.
     [[nodiscard]] bool isLarge() const;
 
     /// The lines of the chart that puts all repositories on one axis.
     [[nodiscard]] RowList *combined() { return &m_combined; }
 
-    /// The ends of the scale that all bars share, in figures.
+    /// The ends of the scale that all bars share, as figures.
     [[nodiscard]] QString scaleStart() const;
     [[nodiscard]] QString scaleEnd() const;
 

@@ -13,7 +13,7 @@
 
 namespace Loadwick {
 
-/// Every scanned repository beside the others, worked out once for all that the Compare page shows.
+/// All scanned repositories side by side, computed once for the whole Compare page.
 struct Comparison
 {
     std::vector<LeaderboardEntry> leaderboard; ///< the heaviest first
@@ -26,7 +26,7 @@ struct Comparison
 /// The words of one bar.
 namespace BarText {
 
-/// The figure beside the bar; a dash where the category was not recorded.
+/// The figure beside the bar; a dash if the category was not recorded.
 [[nodiscard]] QString value(std::optional<std::int64_t> tokens, const TextLocale &locale);
 
 /// The whole bar for a screen reader. `name` is the bar's category or repository.

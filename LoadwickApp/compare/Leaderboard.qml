@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// All repositories, the heaviest first.
+// All repositories, heaviest first.
 ReportSurface {
     id: card
 
