@@ -9,7 +9,7 @@ Item {
     required property string symbol
     required property color color
     required property font font
-    // Kept free for other words.
+    // Width reserved for other words.
     property real leastTextWidth: 0
 
     implicitWidth: line.implicitWidth + Math.max(0, face.leastTextWidth - words.implicitWidth)
@@ -33,7 +33,7 @@ Item {
             text: face.title
             font: face.font
             color: face.color
-            // The button itself says its name.
+            // The button itself has the accessible name.
             Accessible.ignored: true
         }
     }

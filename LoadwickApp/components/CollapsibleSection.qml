@@ -3,7 +3,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
-// A section that opens and closes; its header can be pressed over its whole width.
+// A section that opens and closes; its whole header is clickable.
 ColumnLayout {
     id: section
 
@@ -36,7 +36,7 @@ ColumnLayout {
                 name: "chevron.right"
                 tint: AppTheme.secondaryText
                 angle: section.isExpanded ? 90 : head.mirrored ? 180 : 0
-                // Beside the title, not beside the middle of title and detail.
+                // Aligned with the title, not with the middle of title and detail.
                 Layout.alignment: section.detail.length > 0 ? Qt.AlignTop : Qt.AlignVCenter
                 Layout.topMargin: section.detail.length > 0 ? AppTheme.tightSpace : 0
 

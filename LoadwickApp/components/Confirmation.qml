@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What a confirmation dialog says, over its two answers.
+// The words of a confirmation dialog, over its two buttons.
 ColumnLayout {
     id: confirmation
 
@@ -13,7 +13,7 @@ ColumnLayout {
     signal cancelled()
     signal confirmed()
 
-    // With the ring, as if the keyboard had come here.
+    // With the focus ring, as if by the keyboard.
     function focusCancel() {
         cancel.forceActiveFocus(Qt.TabFocusReason);
     }

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// Asks before something is destroyed. Nothing is as easy to press as Cancel: it has the focus, and
-// Escape means the same.
+// Asks before something is destroyed. Cancel is the easiest to press: it has the focus, and Escape
+// means the same.
 Dialog {
     id: dialog
 

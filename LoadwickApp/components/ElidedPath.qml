@@ -1,8 +1,8 @@
 import QtQuick
 import Loadwick
 
-// A path on one line that leaves out its middle where it is too long. The tool tip shows the whole
-// path; so does the line itself, selected and ready to be copied, once it is pressed or focused.
+// A path on one line, elided in the middle if it is too long. The tool tip shows the whole path; so
+// does the line itself, selected and ready to be copied, once it is pressed or focused.
 Item {
     id: control
 
@@ -10,9 +10,9 @@ Item {
     property bool secondary: false
     property font font: AppTheme.bodyFont
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
-    // False in a list, which is one stop by itself.
+    // False in a list, which is a single tab stop.
     property bool tabStop: true
-    // With its folders from left to right, whatever their script; for display only.
+    // Its folders read from left to right, whatever their script; for display only.
     readonly property string shownText: "\u200E" + control.text.split("/").join("/\u200E")
     readonly property alias truncated: label.truncated
     readonly property alias selecting: edit.activeFocus
@@ -50,7 +50,7 @@ Item {
         activeFocusOnTab: control.tabStop
         selectionColor: AppTheme.accent
         selectedTextColor: AppTheme.accentText
-        // Hidden, it could not take the focus.
+        // An invisible item cannot take the focus.
         opacity: edit.activeFocus ? 1 : 0
 
         Accessible.role: Accessible.EditableText
@@ -65,7 +65,7 @@ Item {
         }
     }
 
-    // The first press selects everything; from then on parts can be selected.
+    // The first press selects everything; later presses select parts.
     MouseArea {
         anchors.fill: parent
         enabled: !edit.activeFocus

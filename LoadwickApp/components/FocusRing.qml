@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Shows where the keyboard is: a line of 2 px in the accent, 2 px outside the control's own edge.
+// Shows the keyboard focus: a line of 2 px in the accent, 2 px outside the control's own edge.
 Rectangle {
     required property bool shown
     // The radius of the control it surrounds.

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// A line between two things, as wide as it is made.
+// A separator of any width.
 Rectangle {
     implicitHeight: AppTheme.hairline
     implicitWidth: AppTheme.hairline

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// One line of a list of scans or repositories: its rank, what it is, its figure, and whatever it has
-// as a child. Words that are too long are cut short, figures never are.
+// One line of a list of scans or repositories: rank, title, figure, and an optional child. Words
+// that are too long are elided, figures never are.
 Item {
     id: row
 
@@ -14,9 +14,9 @@ Item {
     required property string value
     property color valueTint: AppTheme.text
     property string valueCaption: ""
-    // Tells rows of one title apart; empty where nothing does.
+    // Tells rows of the same title apart; empty where they are distinct.
     property string place: ""
-    // The least room kept for the child, so that the figures of all rows end on one line.
+    // The minimum room for the child, so that the figures of all rows are aligned.
     property real accessoryWidth: 0
     default property alias accessory: slot.data
 
@@ -44,7 +44,7 @@ Item {
             horizontalAlignment: Text.AlignRight
             visible: row.rank > 0
         }
-        // Each on one line; the tool tip holds what had to be left out, and the path.
+        // One line each; the tool tip holds the elided words and the path.
         Item {
             id: words
 

@@ -1,14 +1,14 @@
 import QtQuick
 import Loadwick
 
-// Says more about the item it is in. The tool tip itself exists only while it is shown, so that a
-// long list of items costs next to nothing.
+// Says more about its parent. The tool tip itself exists only while it is visible, so that a long
+// list of items costs next to nothing.
 HoverHandler {
     id: tip
 
-    // Nothing is said while these are empty.
+    // No tip while these are empty.
     required property string words
-    // Where the tool tip hangs, if many items are in one that answers the pointer for all.
+    // The item the tip points at, if one item handles the pointer for many.
     property Item about: tip.parent
     property bool wanted: tip.hovered
     readonly property bool isDue: tip.wanted && tip.words.length > 0

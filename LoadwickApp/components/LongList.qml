@@ -1,15 +1,15 @@
 import QtQuick
 import Loadwick
 
-// Any number of rows of one height inside a scrolling page. Only those exist that the page shows,
-// except in a short list, which a screen reader finds whole. The delegate is `rowHeight` high, names
+// Any number of rows of one height inside a scrolling page. Only the rows on the page exist, except
+// in a short list, which a screen reader finds whole. The delegate is `rowHeight` high, names
 // itself for assistive technology, and hides itself while pooled.
 FocusScope {
     id: list
 
     property alias model: rows.model
     property alias delegate: rows.delegate
-    // Whether all rows that a page can show exist before any of them is seen.
+    // Whether all rows that a page can show are created before any is visible.
     property alias isFilled: rows.isFilled
     readonly property alias count: rows.count
     required property real rowHeight
@@ -17,14 +17,14 @@ FocusScope {
     required property Flickable viewport
     // The row that the keys have reached or that was pressed, -1 before that.
     property int currentIndex: -1
-    // The row that something beside the list refers to, -1 for none.
+    // The row highlighted from outside the list, -1 for none.
     property int markedIndex: -1
-    // A list of at most so many rows exists as a whole.
+    // A list of at most this many rows exists as a whole.
     property int shortCount: 60
 
     signal copyRequested(int index)
 
-    // Where the list begins on the page. It moves when anything that holds it does.
+    // The list's position on the page. It moves when any of its ancestors does.
     readonly property real pageTop: {
         let top = 0;
         for (let item = list as Item; item && item !== list.viewport.contentItem; item = item.parent)
@@ -32,13 +32,13 @@ FocusScope {
         return top;
     }
 
-    // Call it before the rows become those of something else: the keyboard leaves them.
+    // Call it before the rows are replaced: they lose the focus.
     function begin() {
         rows.takeFocusBack();
         list.currentIndex = -1;
     }
 
-    // The row at that height in the list, null if none is there or it is out of sight.
+    // The row at that height in the list, null if there is none or it is out of sight.
     function rowUnder(y) {
         return rows.itemAt(0.5 * rows.width, y);
     }
@@ -57,7 +57,8 @@ FocusScope {
         list.viewport.contentY = Math.max(0, Math.min(highest, wanted));
     }
 
-    // A screen reader reads what has the focus. A row that scrolls away gives it back to the list.
+    // A screen reader reads the focused item. A row that scrolls away returns the focus to the
+    // list.
     function focusRow() {
         rows.forceLayout();
         const row = rows.itemAtIndex(list.currentIndex);
@@ -65,7 +66,7 @@ FocusScope {
             row.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    // The row in which something has the focus, as after a press on it; -1 where the row itself has.
+    // The row that contains the focus, as after a press in it; -1 if the row itself has the focus.
     function pressedRow() {
         const row = rows.focusedRow();
         return row && row !== list.Window.activeFocusItem ? rows.indexAt(0, row.y) : -1;
@@ -106,7 +107,7 @@ FocusScope {
         else if (event.accepted)
             list.goTo(index);
     }
-    // From the row, the stop before would be the list that holds it.
+    // From a row, the previous tab stop would be its own list.
     Keys.onBacktabPressed: list.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
     Rectangle {

@@ -1,21 +1,21 @@
 import QtQuick
 
-// The rows of a LongList that exist: as many as the page has ever shown of it at once, or all of a
-// short list. A row that has left the page is pooled and reused, which costs a fraction of a new one;
-// so the view must keep its size and position while the page scrolls, since Qt drops all pooled rows
-// when either changes.
+// The rows of a LongList that exist: as many as the page has ever shown at once, or all of a short
+// list. A row that has left the page is pooled and reused, at a fraction of the cost of a new one.
+// The view keeps its size and position while the page scrolls, since Qt drops all pooled rows when
+// either changes.
 ListView {
     id: rows
 
     required property real rowHeight
     required property Flickable page
-    // Where the list begins on the page.
+    // The list's position on the page.
     required property real pageTop
     required property int shortCount
     readonly property bool isShort: rows.count <= rows.shortCount
-    // Whether all rows that a page can show exist before any of them is seen.
+    // Whether all rows that a page can show are created before any is visible.
     property bool isFilled: false
-    // None while rows have no height yet.
+    // 0 while rows have no height yet.
     readonly property int pageRows: rows.rowHeight > 0 ? Math.ceil(rows.page.height / rows.rowHeight) + 1 : 0
     readonly property int seenRows: rows.isFilled
         ? rows.pageRows
@@ -32,7 +32,7 @@ ListView {
         rows.contentY = rows.firstRow * rows.rowHeight;
     }
 
-    // The row that has the focus, or in which something has; null for none.
+    // The row that has the focus or contains it; null for none.
     function focusedRow() {
         let item = rows.Window.activeFocusItem;
         while (item && item.parent !== rows.contentItem)
@@ -69,6 +69,6 @@ ListView {
         rows.placeRows();
     }
     onShownRowsChanged: rows.takeFocusFromLeaving()
-    // A view with another model starts at its top again.
+    // A view returns to its top when its model changes.
     onContentYChanged: rows.placeRows()
 }

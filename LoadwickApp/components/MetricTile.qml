@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// One figure, what it measures, and what to compare it with.
+// A figure, what it measures, and a comparison.
 ColumnLayout {
     id: tile
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Says for a moment that something was done, then disappears.
+// Briefly confirms that something was done, then disappears.
 Row {
     id: note
 

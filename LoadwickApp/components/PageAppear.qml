@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Lets the page it holds arrive: it fades in while it rises 8 px, once, when it is first seen.
+// Animates the arrival of its page: it fades in and rises 8 px, once, when first visible.
 Item {
     id: page
 

@@ -3,15 +3,15 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
-// One page as a scrolling column of cards, no wider than can be read.
+// One page as a scrolling column of cards, of readable width.
 PageAppear {
     id: page
 
     default property alias cards: column.data
-    // What scrolls; long lists make only the rows that it shows.
+    // The viewport; long lists create only the rows that it shows.
     readonly property Flickable viewport: scroller.contentItem as Flickable
-    // Until its first frame a page may be 0 or 1 pixels wide. At that width every word would be a line
-    // of its own, and nested layouts do not settle on it.
+    // Until its first frame a page may be 0 or 1 pixels wide. At that width every word would wrap
+    // to its own line, and nested layouts would not converge.
     readonly property real room: scroller.availableWidth < AppTheme.detailMinimumWidth
         ? AppTheme.contentWidth : scroller.availableWidth
 
@@ -21,7 +21,7 @@ PageAppear {
         anchors.fill: parent
         contentWidth: availableWidth
         contentHeight: column.implicitHeight + 2 * AppTheme.pageMargin
-        // Its own steps would be a tenth of the page, however long that is.
+        // Its default steps would be a tenth of the page, however long that is.
         Keys.onPressed: event => { event.accepted = scroll.press(event.key); }
         ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
         ScrollBar.vertical: ThinScrollBar {
@@ -45,7 +45,7 @@ PageAppear {
 
         viewport: page.viewport
     }
-    // With the keyboard in the sidebar or the toolbar the page can be read too.
+    // The page scrolls while the sidebar or the toolbar has the focus, too.
     Shortcut {
         sequences: ["PgUp"]
         enabled: page.visible && !scroller.activeFocus

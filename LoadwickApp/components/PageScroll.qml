@@ -1,15 +1,15 @@
 import QtQuick
 import Loadwick
 
-// Scrolls a page for the keyboard: by the keys that scroll, and to the item that got the focus.
+// Scrolls a page for the keyboard: by the scroll keys, and to the newly focused item.
 Item {
     id: scroll
 
     required property Flickable viewport
     readonly property real farthest: Math.max(0, scroll.viewport.contentHeight - scroll.viewport.height)
-    // Less than a page, so that what was at the edge stays in sight.
+    // Less than a page, so that the line at the edge stays visible.
     readonly property real pageStep: scroll.viewport.height - AppTheme.wideSpace
-    // The section whose head has the keyboard, and whether it was opened since the page last changed
+    // The section whose header has the focus, and whether it was opened since the page last changed
     // its height.
     property CollapsibleSection section: null
     property bool isOpening: false
@@ -39,7 +39,7 @@ Item {
         return holder === scroll.viewport.contentItem;
     }
 
-    // An item that is higher than the page stays where it is.
+    // An item that is taller than the page stays put.
     function reveal(item) {
         const box = item.mapToItem(scroll.viewport.contentItem, 0, 0, item.width, item.height);
         const start = box.y - AppTheme.cardSpace;
@@ -52,7 +52,7 @@ Item {
             scroll.moveTo(end - scroll.viewport.height);
     }
 
-    // Under a pressed pointer nothing moves, or the release would hit something else.
+    // Nothing moves under a pressed pointer, or the release would hit something else.
     function revealFocus() {
         const item = scroll.Window.activeFocusItem;
         if (item && !pointer.active && scroll.holds(item))
@@ -65,7 +65,7 @@ Item {
         scroll.isOpening = false;
     }
 
-    // A section that was just opened comes into sight with its head.
+    // A section that was just opened scrolls into view, header first.
     function revealOpened() {
         if (scroll.isOpening && scroll.section && !pointer.active)
             scroll.reveal(scroll.section);
@@ -88,7 +88,7 @@ Item {
         function onContentHeightChanged() { scroll.revealOpened(); }
     }
 
-    // The pointer handler below hears of a press only after the item that was pressed.
+    // The pointer handler below sees a press only after the pressed item.
     Timer {
         id: afterwards
 

@@ -2,12 +2,12 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// A menu of plain items on a floating card. Home, End, Page Up and Page Down go to its first and last
-// item; a menu by itself leaves these keys to the page behind it.
+// A menu of plain items on a floating card. Home, End, Page Up and Page Down go to its first and
+// last item; a bare menu leaves these keys to the page behind it.
 Menu {
     id: menu
 
-    // The first or the last item that can be chosen has the keyboard.
+    // Focuses the first or the last enabled item.
     function goToEnd(isLast) {
         const step = isLast ? -1 : 1;
         for (let index = isLast ? menu.count - 1 : 0; index >= 0 && index < menu.count; index += step)

@@ -2,15 +2,15 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// One line of a menu. Its words are `title`, not the control's own text, which would take markup.
+// One line of a menu. Its words are `title`, because the control's own text accepts markup.
 MenuItem {
     id: item
 
     required property string title
-    // A second, quieter line; none when empty. It may say why the item is disabled, and stays
+    // A second, quieter line; none when empty. It may explain why the item is disabled, and stays
     // readable then.
     required property string detail
-    // The one of several that holds now.
+    // The selected one of several.
     property bool marked: false
 
     implicitHeight: item.detail.length > 0 ? 48 : AppTheme.controlHeight

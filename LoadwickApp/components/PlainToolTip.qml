@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// A tool tip in plain text. It names its words `words`: the control's own text takes markup.
+// A tool tip in plain text: `words`, because the control's own text accepts markup.
 ToolTip {
     id: control
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Says where a figure comes from, without colour: an honesty mark, not a warning.
+// Says where a figure comes from, without colour: a disclosure, not a warning.
 Rectangle {
     id: pill
 

@@ -2,23 +2,23 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// The one button of the window: a symbol and words. The words are `title`, not the control's own
-// text, which would take markup.
+// The only button of the window: a symbol and words. The words are `title`, because the control's
+// own text accepts markup.
 AbstractButton {
     id: control
 
     required property string title
     property string symbol: ""
     property string toolTip: ""
-    // The key that presses it from anywhere in the window; the tool tip names it.
+    // The shortcut that presses it from anywhere in the window; the tool tip names it.
     property string shortcut: ""
-    // Filled with the accent while it can be pressed: the one thing to do next.
+    // Filled with the accent while enabled: the one next step.
     property bool prominent: false
-    // Filled with red while it can be pressed: what it does cannot be undone.
+    // Filled with red while enabled: its effect cannot be undone.
     property bool destructive: false
-    // Edged with a line at rest, for a button that is alone on a card.
+    // Outlined at rest, for a button that is alone on a card.
     property bool outlined: false
-    // For a button whose title changes: it keeps its width, and its neighbours stay where they are.
+    // For a button whose title changes: it keeps its width, and its neighbours stay put.
     property real leastTextWidth: 0
     readonly property bool filled: (prominent || destructive) && enabled
     readonly property color wordColor: filled ? AppTheme.accentText : AppTheme.text
@@ -34,7 +34,7 @@ AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: title
     Accessible.description: toolTip
-    // A key that is held down presses once.
+    // No auto-repeat: a held key presses once.
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) control.clicked(); }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) control.clicked(); }
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Describes the chart's current mark, beside the chart, where it covers nothing; while there is no such
+// Describes the chart's current mark, beside the chart, where it covers nothing; without a current
 // mark it shows a hint. It is as high as its longest text could be, so that nothing moves.
 Item {
     id: readOut
@@ -10,18 +10,18 @@ Item {
     // Empty while there is no current mark.
     required property string title
     required property string detail
-    // A path that takes too many lines is shown on one, without its middle.
+    // A path that takes too many lines is elided in the middle, on one line.
     property bool isPath: false
     property int titleLines: 3
     property int detailLines: 1
-    // At the top, for a neighbour that is high; else in the middle.
+    // At the top, beside a tall neighbour; else centred.
     property bool atTop: false
     // The colour of the mark in the chart.
     property color swatch: "transparent"
     readonly property bool isEmpty: readOut.title.length === 0
     readonly property bool isCut: readOut.isPath && heading.truncated
     readonly property bool hasSwatch: readOut.swatch.a > 0
-    // The indent of the words beside the swatch, and the width that is left to them.
+    // The indent of the words beside the swatch, and the remaining width.
     readonly property real indent: hasSwatch ? AppTheme.dotSize + AppTheme.smallSpace : 0
     readonly property real room: Math.max(0, width - indent - 2 * AppTheme.mediumSpace)
     // A label rounds both parts of a line up.

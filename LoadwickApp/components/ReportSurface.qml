@@ -9,7 +9,7 @@ Item {
     default property alias content: column.data
     property alias spacing: column.spacing
     property bool isHovering: pointer.hovered
-    // Made when a pointer first comes.
+    // Created when a pointer first enters.
     property Item shadow: null
 
     function castShadow() {
@@ -46,8 +46,8 @@ Item {
         }
     }
 
-    // Black at 0.16, blurred over 16, a third of that lower. The blur itself never changes: only its
-    // strength does, which costs nothing in any renderer.
+    // Black at 0.16, blurred over 16, a third of that lower. The blur is constant: only its opacity
+    // changes, which costs nothing in any renderer.
     Component {
         id: maker
 
@@ -55,7 +55,7 @@ Item {
             id: shadow
 
             required property bool shown
-            // So that it fades in as it fades out.
+            // Created transparent, so that it fades in as it fades out.
             property bool isMade: false
 
             objectName: "shadow"

@@ -7,7 +7,7 @@ StatePlaceholder {
     id: placeholder
 
     required property string detail
-    // Worth knowing before the first step; set apart, so that it does not read as a step.
+    // A note before the first step; set apart, so that it does not read as a step.
     property string note: ""
 
     symbol: "magnifyingglass"

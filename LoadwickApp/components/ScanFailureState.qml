@@ -3,9 +3,9 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
-// Says that a scan has failed and what is known about it, in no words of its own. The detail can be
-// selected, and scrolls where it is longer than the page is high. A detail of several lines may be a
-// list, so it is not centred.
+// Says that a scan has failed and what is known about it, in the error's own words. The detail can
+// be selected, and scrolls if it is taller than the page. A detail of several lines may be a list,
+// so it is not centred.
 StatePlaceholder {
     id: placeholder
 
@@ -19,7 +19,7 @@ StatePlaceholder {
     Flickable {
         id: scroller
 
-        // What the mark and the headline leave, in whole lines.
+        // The height left by the mark and the headline, in whole lines.
         readonly property int room: Math.max(3, Math.floor((placeholder.availableHeight - 160) / words.lineSpacing))
 
         Layout.fillWidth: true
@@ -32,7 +32,7 @@ StatePlaceholder {
 
         SelectableText {
             id: words
-            // In the middle as a whole, with room on both sides for the scroll bar.
+            // Centred as a whole, with room on both sides for the scroll bar.
             x: Math.round((scroller.width - width) / 2)
             width: Math.min(Math.ceil(words.implicitWidth), scroller.width - 2 * AppTheme.mediumSpace)
             text: placeholder.detail

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The title of a section and, where there is more to say, a quieter line below it.
+// The title of a section and an optional, quieter line below it.
 ColumnLayout {
     id: header
 

@@ -1,9 +1,9 @@
 import QtQuick
 import Loadwick
 
-// Plain text that can be read, selected and copied, but not changed. It is a tab stop, so that it can
-// be copied without a mouse. There are many such texts, and the part that selects costs ten times the
-// part that shows: it is made when the pointer or the keyboard comes.
+// Plain text that can be selected and copied, but not changed. It is a tab stop, so that it can be
+// copied without a mouse. There are many such texts, and the part that selects costs ten times the
+// part that shows: it is created when the pointer or the focus arrives.
 Item {
     id: control
 
@@ -14,14 +14,14 @@ Item {
     property int horizontalAlignment: Text.AlignLeft
     // 0: no limit. Text beyond the last line is still copied.
     property int maximumLineCount: 0
-    // False where the arrow keys lead here from a text that is a tab stop: see KeyNavigation.
+    // False if arrow keys lead here from a text that is a tab stop: see KeyNavigation.
     property bool tabStop: true
     readonly property real lineSpacing: words.contentHeight / Math.max(1, words.lineCount)
     readonly property bool truncated: words.truncated
-    // While the text is focused or selected, all of it shows instead of its short form.
+    // While the text is focused or selected, it is shown in full.
     readonly property bool isRead: reader !== null && reader.isRead
-    // The text laid out with its words, or the folders of a path, left whole; made only if the number
-    // of lines is limited.
+    // The text laid out without breaking words, or folders of a path; created only if the number of
+    // lines is limited.
     property Text whole: null
     readonly property bool fits: whole !== null ? whole.lineCount <= maximumLineCount : maximumLineCount !== 1
     property TextReader reader: null
@@ -48,7 +48,7 @@ Item {
 
     implicitWidth: words.implicitWidth
     implicitHeight: Math.ceil(words.contentHeight)
-    // Qt keeps it true for what has the focus.
+    // Qt keeps it true while focused.
     activeFocusOnTab: (control.tabStop && reader === null) || control.activeFocus
     Accessible.role: Accessible.EditableText
     Accessible.readOnly: true
@@ -89,7 +89,7 @@ Item {
         font: control.font
         color: control.color
         horizontalAlignment: control.horizontalAlignment
-        // A text cut short is broken anywhere: its last line is then full up to the dots. On one line
+        // An elided text breaks anywhere, so that its last line is full up to the dots. On one line
         // the end tells names apart as well as the beginning.
         wrapMode: control.maximumLineCount === 1 ? Text.NoWrap : control.fits ? Text.Wrap : Text.WrapAnywhere
         elide: control.maximumLineCount === 0 ? Text.ElideNone

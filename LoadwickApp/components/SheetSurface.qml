@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// The background of a modal sheet: a card well above the window.
+// The background of a modal sheet: a card raised well above the window.
 Item {
     BorderImage {
         anchors { fill: parent; margins: -24; topMargin: -16; bottomMargin: -32 }

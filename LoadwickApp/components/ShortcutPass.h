@@ -7,9 +7,9 @@
 
 namespace Loadwick {
 
-/// Lets the window's shortcuts through an item that has the focus. A read-only text edit of Qt 6.4
-/// claims every key, even those that it ignores: with the focus in it no shortcut works. Keys that
-/// are no shortcuts still reach the item.
+/// Lets the window's shortcuts through a focused item. A read-only text edit of Qt 6.4 claims every
+/// key, even those that it ignores, so no shortcut works while it has the focus. Other keys still
+/// reach the item.
 class ShortcutPass : public QObject
 {
     Q_OBJECT

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Its children side by side where all of them fit, else one below the other. A child needs its minimum
-// width if it has one (text that wraps does), else its preferred width, else its implicit width.
+// Its children side by side if all of them fit, else stacked. A child needs its minimum width if it
+// has one (text that wraps does), else its preferred width, else its implicit width.
 GridLayout {
     id: layout
 
@@ -28,7 +28,7 @@ GridLayout {
     // Before its width is known it assumes the common case: every change lays the page out again.
     readonly property bool stacked: layout.width > 0 && layout.width < layout.neededWidth
 
-    // A layout ignores new columns while it is being laid out, so they are set right after.
+    // A layout ignores new columns during a layout pass, so they are set right after.
     function arrange() {
         layout.columns = layout.stacked ? 1 : Math.max(1, layout.needs.length);
     }
@@ -43,7 +43,7 @@ GridLayout {
         onTriggered: layout.arrange()
     }
 
-    // Not the width of its columns, or it would be made too wide instead of stacked.
+    // Not the width of its columns, which would make it too wide instead of stacked.
     Layout.minimumWidth: 0
     columns: 2
     columnSpacing: AppTheme.wideSpace

@@ -1,8 +1,8 @@
 import QtQuick
 import Loadwick
 
-// Moves a value from 0 to its end, when it is first seen and whenever `begin` is called. Under reduced
-// motion the value is at its end at once.
+// Animates a value from 0 to its end, when it is first visible and whenever `begin` is called.
+// Under reduced motion the value is at its end at once.
 Item {
     id: sweep
 

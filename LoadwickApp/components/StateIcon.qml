@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// The large round mark over the words of a state.
+// The large round symbol above the words of a state.
 Rectangle {
     id: mark
 

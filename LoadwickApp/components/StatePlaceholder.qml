@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Replaces a page's content: a mark, a title, and below them what the state has to say. The group is a
-// little above the middle, where the eye expects the middle.
+// Replaces a page's content: a symbol, a title, and the state's own content below. The group is a
+// little above the centre, where the eye expects it.
 Item {
     id: placeholder
 
@@ -15,7 +15,7 @@ Item {
     readonly property real availableHeight: height - 2 * AppTheme.pageMargin
 
     implicitWidth: AppTheme.stateWidth + 2 * AppTheme.pageMargin
-    // The page decides how high it is; what the state says never does.
+    // Its height comes from the page, never from its content.
     implicitHeight: 320
 
     ColumnLayout {

@@ -1,17 +1,17 @@
 import QtQuick
 import Loadwick
 
-// A few words in one colour, with a symbol where they have one, on a capsule thinly filled with it.
+// A few words in one colour, with an optional symbol, on a capsule tinted with it.
 Rectangle {
     id: pill
 
     required property string title
     // None when empty.
     required property string symbol
-    // A text colour of the theme: the words have to be readable.
+    // A text colour of the theme: the words must be readable.
     required property color tint
     property font font: AppTheme.subheadlineStrongFont
-    // Whether the symbol turns, to show that something goes on.
+    // Whether the symbol turns, to show activity.
     property bool turning: false
 
     implicitWidth: line.implicitWidth + 2 * AppTheme.smallSpace

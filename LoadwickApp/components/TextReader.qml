@@ -1,8 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Lets a text be selected and copied in place. It is visible while it has the keyboard or its menu is
-// open.
+// Lets a text be selected and copied in place. Visible while it has the focus or its menu is open.
 Item {
     id: reader
 
@@ -11,14 +10,14 @@ Item {
     required property color color
     required property int horizontalAlignment
     required property int wrapMode
-    // Only its first lines fit.
+    // Only the first lines fit.
     required property bool isCut
     required property bool tabStop
     readonly property TextEdit edit: words
     readonly property bool isRead: words.activeFocus || reader.isMenuOpen
-    // Made when it is first opened.
+    // Created when first opened.
     property PlainMenu menu: null
-    // Set before the text loses the keyboard to the menu.
+    // Set before the text loses the focus to the menu.
     property bool isMenuOpen: false
 
     function openMenu(x, y) {
@@ -42,13 +41,13 @@ Item {
         readOnly: true
         selectByMouse: true
         persistentSelection: true
-        // From an item that is no tab stop, Qt would go back to the first stop of the window.
+        // From an item that is no tab stop, Qt would return to the window's first stop.
         activeFocusOnTab: reader.tabStop || words.activeFocus
         wrapMode: reader.wrapMode
         horizontalAlignment: reader.horizontalAlignment
         font: reader.font
         color: reader.color
-        // Hidden, it could take neither the pointer nor the focus.
+        // An invisible item takes neither the pointer nor the focus.
         opacity: reader.isRead ? 1 : 0
         selectionColor: AppTheme.accent
         selectedTextColor: AppTheme.accentText
@@ -82,7 +81,7 @@ Item {
                 title: qsTr("Copy")
                 detail: ""
                 onTriggered: {
-                    // Without a selection the whole text is meant.
+                    // Without a selection it applies to the whole text.
                     if (textMenu.edit.selectedText.length === 0)
                         textMenu.edit.selectAll();
                     textMenu.edit.copy();

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// A quiet scroll bar, shown whenever there is more to see.
+// A quiet scroll bar, visible whenever the content overflows.
 ScrollBar {
     id: bar
 

@@ -10,7 +10,7 @@
 #include "history/ScanHistory.h"
 #include "text/TextLocale.h"
 
-/// What a trend pill says of a repository's total. A namespace of its own, so that QML can name
+/// What a trend pill says about a repository's total. A namespace of its own, so that QML can name
 /// the values.
 namespace Loadwick::TrendKind {
 
@@ -37,7 +37,7 @@ struct TrendMark
     QString title;
     QString symbol; ///< empty for a first scan
 
-    /// A direction without a difference, or a difference without a direction, is a first scan.
+    /// Without both a direction and a difference it is a first scan.
     [[nodiscard]] static TrendMark of(std::optional<TrendDirection> trend,
                                       std::optional<std::int64_t> delta, const TextLocale &locale);
 
