@@ -14,15 +14,14 @@ class QDBusPendingCallWatcher;
 
 namespace Loadwick {
 
-/// The notifications of the desktop, by the interface org.freedesktop.Notifications. The bus is
-/// connected in the background, and only when there is something to show. Without a bus or a
-/// service it shows nothing, silently.
+/// Desktop notifications over org.freedesktop.Notifications. Connects to the bus in the background,
+/// and only when there is something to show. Without a bus or a service it silently shows nothing.
 class DesktopNoticeBoard final : public NoticeBoard
 {
     Q_OBJECT
 
 public:
-    /// Called away from the interface thread.
+    /// Called off the interface thread.
     using Connect = std::function<QDBusConnection()>;
 
     explicit DesktopNoticeBoard(std::shared_ptr<TaskDispatcher> dispatcher,
@@ -51,9 +50,9 @@ private:
     Connect m_connect;
     bool m_isConnecting = false;
     std::optional<QDBusConnection> m_bus;
-    std::optional<bool> m_takesMarkup; ///< nothing until the service has said so
+    std::optional<bool> m_takesMarkup; ///< unknown until the service answers
     std::optional<Notice> m_notice;    ///< what the user should see
-    quint32 m_identifier = 0;          ///< the service's name for what it shows; 0: nothing
+    quint32 m_identifier = 0;          ///< the service's, of the visible notice; 0: none
     QByteArray m_token;
 };
 

@@ -14,9 +14,9 @@
 
 namespace Loadwick {
 
-/// The address at which the window over one data folder listens: an abstract socket name, so that
-/// there is nothing to create, to leave behind or to forbid. It differs from user to user and from
-/// folder to folder; the folder itself is not read.
+/// The address at which the window over one data folder listens: an abstract socket name, which
+/// needs no file, no clean-up and no permissions. It differs by user and by folder; the folder
+/// itself is not read.
 class LocalAddress
 {
 public:
@@ -30,26 +30,26 @@ private:
     socklen_t m_length = 0;
 };
 
-/// Keeps a user to one window over one data folder. A second program asks the first to show itself;
-/// without an answer, both go on side by side.
+/// Limits a user to one window per data folder. A second program asks the first to show itself;
+/// without an answer, both run side by side.
 class SingleInstance final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Asks the instance that is running, or else listens for later ones. Blocks for a second at
-    /// most, and only when a running instance does not answer. Without a folder it does nothing.
+    /// Asks the running instance, or else listens for later ones. Blocks for a second at most, and
+    /// only if a running instance does not answer. A no-op without a folder.
     explicit SingleInstance(const std::filesystem::path &dataFolder, QObject *parent = nullptr);
 
-    /// A running instance shows its window instead: this one has nothing left to do.
+    /// A running instance shows its window instead, and this one can end.
     [[nodiscard]] bool isAnswered() const noexcept { return m_isAnswered; }
 
-    /// Later instances are heard.
+    /// This instance hears later ones.
     [[nodiscard]] bool isListening() const noexcept { return m_listener != nullptr; }
 
 Q_SIGNALS:
     /// A second program was started over the same folder and has ended. `token` is the desktop's
-    /// permission to come to the front, if it gave one.
+    /// permission to raise the window, if it gave one.
     void windowWanted(const QByteArray &token);
 
 private:

@@ -3,11 +3,11 @@
 class QByteArray;
 class QWindow;
 
-/// How the window comes to the front when it is asked for from outside.
+/// Brings the window to the front on a request from outside.
 namespace Loadwick::WindowActivation {
 
-/// Shows the window, in front and with the keyboard where the desktop lets it; else the desktop
-/// marks it as asking for attention. `token` is the desktop's permission; empty for none.
+/// Shows the window, raised and focused if the desktop allows it; otherwise the desktop marks it as
+/// demanding attention. `token` is the desktop's permission; empty for none.
 void bringToFront(QWindow &window, const QByteArray &token);
 
 } // namespace Loadwick::WindowActivation
