@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// AppTheme by the roles of a QPalette, and the font.
+// AppTheme's colours by QPalette role, and the font.
 QtObject {
     readonly property font font: AppTheme.bodyFont
     readonly property color window: AppTheme.window

@@ -10,8 +10,8 @@
 
 namespace Loadwick {
 
-/// The desktop's dialog for folders and files, or Qt's own where the desktop has none. It is modal
-/// to one of the program's windows and has its colours. Deletes itself when it is closed.
+/// The desktop's dialog for folders and files, or Qt's own if the desktop has none. Modal to one of
+/// the program's windows and in its colours. Deletes itself when it is closed.
 class FileDialog final : public QFileDialog
 {
     Q_OBJECT
@@ -19,12 +19,12 @@ class FileDialog final : public QFileDialog
 public:
     explicit FileDialog(QWindow &window);
 
-    /// What the user chose, in the bytes of the disk; nothing for a file of another machine.
+    /// The chosen path, byte for byte; nothing for a file on another machine.
     [[nodiscard]] std::optional<std::filesystem::path> chosenPath() const;
 
-    /// What a file to save still needs at the end of its name: the ending of the chosen kind,
-    /// unless the name has the ending of one of the kinds. Another dot is no ending: the "2" of
-    /// "notes v1.2" names no kind.
+    /// The ending that a file to save still needs: that of the chosen kind, unless the name already
+    /// has the ending of one of the kinds. Another dot is no ending: the "2" of "notes v1.2" names
+    /// no kind.
     [[nodiscard]] QString missingEnding(const QString &name) const;
 
 protected:
@@ -35,7 +35,7 @@ protected:
 private:
     [[nodiscard]] bool takesAddress(const QString &text);
 
-    std::optional<std::filesystem::path> m_addressed; ///< by what was typed
+    std::optional<std::filesystem::path> m_addressed; ///< by the typed address
 };
 
 /// Opens the dialogs of one purpose, one at a time.

@@ -19,19 +19,19 @@ public:
     struct Request
     {
         QString title;
-        QString name;        ///< what is suggested, with its ending
+        QString name;        ///< suggested, with its ending
         QStringList filters; ///< kinds of file, as "Words (*.ending)"; the first is the usual one
     };
     struct Target
     {
         std::filesystem::path file;
-        bool mayReplace; ///< the user was asked about the file that is there, if there is one
+        bool mayReplace; ///< the user has agreed to replace a file that exists
     };
     using Chosen = std::function<void(const Target &target)>;
 
     virtual ~FileSaver() = default;
 
-    /// The window to ask over, before the first question. It outlives this object's use.
+    /// The window to be modal to; set it before the first question. It outlives this object's use.
     virtual void attach(QWindow &) {}
 
     /// Asks the user and returns at once. `chosen` is called later on the interface thread; never

@@ -17,12 +17,12 @@ public:
 
     virtual ~FolderChooser() = default;
 
-    /// The window to ask over, before the first question. It outlives this object's use.
+    /// The window to be modal to; set it before the first question. It outlives this object's use.
     virtual void attach(QWindow &) {}
 
     /// Asks the user and returns at once. `chosen` is called later on the interface thread with the
-    /// folder's path, in the bytes of the disk; never when the user cancels. Does nothing while an
-    /// earlier question is open.
+    /// folder's path, byte for byte; never when the user cancels. Does nothing while an earlier
+    /// question is open.
     virtual void open(Chosen chosen) = 0;
 };
 
