@@ -2,13 +2,13 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Takes what a card shows along as files, and says how that went.
+// Exports a card's content to files, and reports the outcome.
 RowLayout {
     id: bar
 
     required property PageExport exporter
     required property PaintedItem chart
-    // What the picture says above the chart.
+    // The words above the chart in its picture.
     required property string title
     required property list<string> lines
 

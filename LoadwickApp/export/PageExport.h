@@ -24,7 +24,7 @@ class PageExport final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window.")
-    /// How the last saving went; empty before the first.
+    /// The outcome of the last save; empty before the first.
     Q_PROPERTY(QString outcome READ outcome NOTIFY changed)
     Q_PROPERTY(bool failed READ failed NOTIFY changed)
 
@@ -43,7 +43,7 @@ public:
     /// The figures as they are when the user has chosen a file.
     Q_INVOKABLE void saveTable();
 
-    /// As a drawing where the file's name ends in ".svg", else as a picture.
+    /// As a drawing if the file's name ends in ".svg", else as a picture.
     Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, Loadwick::PictureFrame *frame);
 
 Q_SIGNALS:

@@ -15,8 +15,8 @@
 
 namespace Loadwick {
 
-/// Makes files of charts. Around the chart such a picture has a ground, a margin, and above the
-/// chart the words that explain its figures outside the program. Lengths are points.
+/// Exports charts to files. Such a picture adds a ground, a margin, and above the chart the words
+/// that explain its figures outside the program. Lengths are points.
 class PictureFrame : public QObject
 {
     Q_OBJECT
@@ -33,20 +33,20 @@ class PictureFrame : public QObject
 public:
     using QObject::QObject;
 
-    /// Makes the bytes of a file; may be called on any thread.
+    /// Produces the bytes of a file; may be called on any thread.
     using Bytes = std::function<QByteArray()>;
 
     /// The chart as it is now, at twice its size.
     [[nodiscard]] Bytes png(QQuickPaintedItem &chart) const;
 
-    /// The chart as it is now, drawn with lines and letters.
+    /// The chart as it is now, in vector graphics.
     [[nodiscard]] Bytes svg(QQuickPaintedItem &chart) const;
 
     /// The size of a picture with a chart of that size.
     [[nodiscard]] QSize sizeAround(const QSizeF &chart) const;
 
-    /// Fills a picture of that size, writes the words, and leaves the painter's origin where the
-    /// chart begins.
+    /// Fills a picture of that size, writes the words, and leaves the painter's origin at the
+    /// chart's.
     void paint(QPainter &painter, const QSize &size) const;
 
 private:

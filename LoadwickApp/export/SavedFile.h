@@ -14,17 +14,17 @@ namespace Loadwick {
 struct SavedFile
 {
     /// A name to suggest, without its ending: `kind`, a dash and the repository's name. Letters,
-    /// digits, dots and underscores of that name stay, everything else becomes a dash, and it is
-    /// cut after 60 characters.
+    /// digits, dots and underscores of that name are kept, everything else becomes a dash, and it
+    /// is cut after 60 characters.
     [[nodiscard]] static QString suggestedName(const QString &kind, const QString &repositoryName);
 
     /// Writes the file; empty on success. Fails with `std::errc::file_exists` and leaves the file
-    /// alone when there is one that may not be replaced. Without bytes, memory ran out for them.
+    /// alone if it exists and may not be replaced. No bytes mean that memory ran out for them.
     [[nodiscard]] static std::error_code write(const FileSaver::Target &target,
                                                const QByteArray &bytes);
 
-    /// Why `write` failed: the end of a sentence, with its full stop, and what to do where there is
-    /// something to do. An error without words of its own here has the system's.
+    /// Why `write` failed: the end of a sentence, with its full stop, and the remedy if there is
+    /// one. An error without words of its own here has the system's.
     [[nodiscard]] static QString reason(const std::error_code &failure);
 
     Q_DECLARE_TR_FUNCTIONS(SavedFile)
