@@ -11,12 +11,12 @@ class QSvgRenderer;
 
 namespace Loadwick {
 
-/// Drawings as they were last made, shared by all items: lists show the same few many times, and
-/// reading and drawing one costs more than the rest of its row. For any thread.
+/// A cache of rendered drawings, shared by all items: lists repeat the same few, and reading and
+/// rendering one costs more than the rest of its row. Thread-safe.
 namespace SymbolPictures {
 
-/// The picture of that key, made by `make` on a miss. When there are many, the least recently used
-/// is dropped.
+/// The picture of that key, rendered by `make` on a miss. A full cache evicts the least recently
+/// used.
 [[nodiscard]] QImage find(const QString &key, const std::function<QImage()> &make);
 
 } // namespace SymbolPictures
@@ -27,8 +27,7 @@ class Symbol : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// A system image name or a role name of SymbolCatalog; an empty name paints nothing in
-    /// silence.
+    /// A system image name or a role name of SymbolCatalog; an empty name silently paints nothing.
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(QColor tint READ tint WRITE setTint NOTIFY tintChanged)
     /// Degrees clockwise. Turning the drawing keeps its edges smooth in every renderer; turning the
@@ -59,7 +58,7 @@ private:
 
     QString m_name;
     QString m_file;                          ///< of the drawing, empty where there is none
-    std::unique_ptr<QSvgRenderer> m_drawing; ///< read when no picture of it is known
+    std::unique_ptr<QSvgRenderer> m_drawing; ///< read when no picture of it is cached
     QColor m_tint = Qt::black;
     qreal m_angle = 0;
 };
