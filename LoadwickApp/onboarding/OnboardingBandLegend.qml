@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What each band means. Its rows arrive one after the other.
+// What each band means. Its rows arrive one after another.
 ColumnLayout {
     id: legend
 

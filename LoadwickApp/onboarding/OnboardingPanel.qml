@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The sheet's content: the dots, the current step, and the buttons that move on.
+// The sheet's content: the dots, the current step, and the navigation buttons.
 FocusScope {
     id: panel
 
@@ -43,7 +43,7 @@ FocusScope {
             PushButton {
                 id: skipButton
 
-                // Its text, not its edge, lines up with the sheet's column.
+                // Its text, not its edge, aligns with the sheet's column.
                 Layout.rightMargin: -AppTheme.mediumSpace
                 title: qsTr("Skip")
                 focusPolicy: Qt.TabFocus

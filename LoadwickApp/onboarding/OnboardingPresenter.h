@@ -71,13 +71,13 @@ class OnboardingPresenter final : public QObject
     Q_PROPERTY(QString legendCaption READ legendCaption CONSTANT)
 
 public:
-    /// From the window's appearance to the sheet's.
+    /// The delay from the window's appearance to the sheet's.
     static constexpr std::chrono::milliseconds delay{300};
 
     explicit OnboardingPresenter(std::shared_ptr<OnboardingCompletionStore> store);
 
     /// Asks the store in the background whether the walk-through was completed. If not, the sheet
-    /// opens after the delay, at the first step, unless it was called off meanwhile.
+    /// opens after the delay, at the first step, unless it was cancelled meanwhile.
     void presentOnboardingIfFirstLaunch(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
     /// Cancels a sheet that has not opened yet; an open one stays.
@@ -100,7 +100,7 @@ public:
     [[nodiscard]] RowList *legend() { return &m_legend; }
     [[nodiscard]] QString legendCaption() const;
 
-    /// The flow's moves, which do nothing once it has finished.
+    /// The flow's moves; no-ops once it has finished.
     Q_INVOKABLE void advance();
     Q_INVOKABLE void goBack();
     Q_INVOKABLE void skip();

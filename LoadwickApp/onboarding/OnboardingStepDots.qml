@@ -7,10 +7,10 @@ Row {
 
     required property int currentIndex
     required property int stepCount
-    // What the dots show, in words.
+    // The position in words.
     required property string position
 
-    // The dot of one step. It swells by a spring; with reduced motion it fades.
+    // The dot of one step. It grows with a spring; with reduced motion it fades.
     component Dot: Item {
         id: dot
 
@@ -34,7 +34,7 @@ Row {
         onIsCurrentChanged: dot.follow()
         Component.onCompleted: dot.emphasis = dot.isCurrent ? 1 : 0
 
-        // Sized, not scaled: the software renderer tears a small circle that is scaled.
+        // Resized, not scaled: the software renderer tears a small scaled circle.
         Rectangle {
             objectName: "disc"
             x: (dot.width - width) / 2

@@ -1,14 +1,14 @@
 import QtQuick
 import Loadwick
 
-// All steps, of which only the current one shows. Earlier steps wait on its left and later ones on
-// its right, so that a step comes from the side to which the move leads.
+// All steps, of which only the current one is visible. Earlier steps wait on its left and later
+// ones on its right, so that a step enters from the direction of the move.
 Item {
     id: steps
 
     required property OnboardingPresenter onboarding
 
-    // As high as the highest step, so that the buttons stay put.
+    // As high as the tallest step, so that the buttons stay put.
     implicitHeight: {
         let highest = 0;
         for (let index = 0; index < repeater.count; ++index)

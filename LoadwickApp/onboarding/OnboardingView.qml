@@ -33,12 +33,12 @@ Dialog {
         end.start();
     }
 
-    // Not shown; it names the sheet to a screen reader.
+    // Invisible; it names the sheet to a screen reader.
     title: sheet.onboarding.currentStep.title
     header: null
     footer: null
     parent: Overlay.overlay
-    // In the middle, on whole pixels.
+    // Centred, on whole pixels.
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(AppTheme.sheetWidth, parent.width - 2 * AppTheme.pageMargin) : AppTheme.sheetWidth

@@ -7,10 +7,10 @@
 
 namespace Loadwick {
 
-/// Remembers the completion in the user's preferences: the Boolean "hasCompletedOnboarding" of an
-/// INI file, whose other entries are kept. Anything but a regular file of a sensible size is
-/// neither read nor replaced, so that it cannot keep the program waiting. Any thread may call it,
-/// one at a time.
+/// Stores the completion in the user's preferences: the Boolean "hasCompletedOnboarding" of an INI
+/// file, whose other entries are kept. Anything but a regular file of a sensible size is neither
+/// read nor replaced, so that it cannot block the program. Callable on any thread, one call at a
+/// time.
 class PreferencesCompletionStore final : public OnboardingCompletionStore
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     [[nodiscard]] bool onboardingCompleted() const override;
 
-    /// Returns once the file and the folders above it are written, or have failed to be.
+    /// Returns once writing the file and its parent folders has succeeded or failed.
     void setOnboardingCompleted(bool completed) override;
 
 private:
