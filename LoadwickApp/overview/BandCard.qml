@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The one number and who measured it, the band it falls in and why, and its position on the scale.
+// The total and who measured it, its band and why, and its position on the scale.
 ReportSurface {
     id: card
 
@@ -76,7 +76,7 @@ ReportSurface {
     CollapsibleSection {
         Layout.fillWidth: true
         title: qsTr("Why these bands?")
-        // An aside, not a section of its own.
+        // A note, not a section of its own.
         titleFont: AppTheme.subheadlineStrongFont
 
         SelectableText {

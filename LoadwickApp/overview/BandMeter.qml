@@ -6,11 +6,11 @@ Item {
     id: meter
 
     required property BandPresenter band
-    // The marker's position on its way to the total's.
+    // The animated position of the marker.
     readonly property alias markerProgress: entrance.value
     readonly property string total: band.total
 
-    // Cut out of a whole bar, so that the bar's ends are round whatever segments they belong to.
+    // Clipped from a whole bar, so that the bar's ends are round whichever segments they belong to.
     component Segment: Item {
         id: segment
 
@@ -55,7 +55,7 @@ Item {
         color: label.isCurrent ? AppTheme.bandTexts[label.index] : AppTheme.secondaryText
         x: Math.round(label.layout.labelLefts[label.index])
         visible: label.layout.labelsShown[label.index]
-        // The meter as a whole says what it shows.
+        // The meter has one accessible name as a whole.
         Accessible.ignored: true
     }
 
@@ -95,7 +95,7 @@ Item {
         Tick { offset: bar.excessiveLeft }
     }
 
-    // A ring of the card's colour keeps the marker apart from whatever segment it lies on.
+    // A ring in the card's colour separates the marker from the segment beneath it.
     Rectangle {
         objectName: "ring"
         anchors { fill: marker; margins: -AppTheme.meterTickWidth }

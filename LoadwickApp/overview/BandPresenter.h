@@ -14,11 +14,11 @@ namespace Loadwick {
 struct ScanReport;
 
 /// How much of its band scale a total leaves free, in whole hundredths, rounded down: 100 for a
-/// total of nothing, 0 at the scale's end. An illustration of the total, not a second measurement.
+/// total of 0, 0 at the scale's end. An illustration of the total, not a second measurement.
 [[nodiscard]] int headroomScore(std::int64_t total) noexcept;
 
 /// The total of a report, the band it falls in and the room it leaves, for the cards that show
-/// them. A total of nothing before the first report. Belongs to the interface thread.
+/// them. The total is 0 before the first report. Belongs to the interface thread.
 class BandPresenter final : public QObject
 {
     Q_OBJECT
@@ -73,7 +73,7 @@ public:
     [[nodiscard]] QString scoreCaption() const;
 
 Q_SIGNALS:
-    /// Once for each report, also for one that equals the last.
+    /// Emitted for each report, even one that equals the last.
     void changed();
 
 private:

@@ -8,7 +8,7 @@ ColumnLayout {
 
     required property BreakdownPresenter breakdown
     required property Flickable viewport
-    // The row that the chart points at, -1 for none.
+    // The row that the chart highlights, -1 for none.
     required property int markedRow
 
     // One line of the table, headings or row, so that both share one set of columns.
@@ -21,7 +21,7 @@ ColumnLayout {
         required property string source
         property color dot: "transparent"
         property bool heading: false
-        // Too little room for a source on one line.
+        // Too narrow for a source on one line.
         readonly property bool narrow: cells.width < AppTheme.scaled(760)
         readonly property real rowHeight: AppTheme.scaled(cells.narrow ? 44 : 32)
         readonly property font wordFont: cells.heading ? AppTheme.captionStrongFont : AppTheme.bodyFont

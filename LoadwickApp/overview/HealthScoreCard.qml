@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// How much of the band scale the total leaves free. An illustration, and it says so itself.
+// How much of the band scale the total leaves free. An illustration, as the card itself says.
 ReportSurface {
     id: card
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// One instruction file: where it is and what it probably costs, or that it could not be read.
+// One instruction file: its path and estimated cost, or that it could not be read.
 Item {
     id: row
 

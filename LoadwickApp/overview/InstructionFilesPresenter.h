@@ -31,7 +31,7 @@ class InstructionFilesPresenter final : public QObject
 public:
     static constexpr std::size_t largestCount = 5;
 
-    /// `home` tells the tier of an unreadable file; nothing there is read.
+    /// `home` determines the tier of an unreadable file; nothing in it is read.
     InstructionFilesPresenter(TextLocale locale, std::filesystem::path home);
 
     void show(const ScanReport &report);

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Every instruction file that a session loads: how they compare, and each tier as a list.
+// All instruction files that a session loads: how they compare, and each tier as a list.
 ReportSurface {
     id: section
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The few instruction files that weigh most.
+// The heaviest instruction files.
 ReportSurface {
     id: section
 
@@ -22,7 +22,7 @@ ReportSurface {
 
         RowLayout {
             anchors.fill: parent
-            // A share in words is a little wider than its column and reaches to the left of it.
+            // A share in words is a little wider than its column and extends to the left of it.
             spacing: AppTheme.wideSpace
 
             PlainLabel {

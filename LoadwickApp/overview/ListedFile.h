@@ -11,7 +11,7 @@
 
 namespace Loadwick {
 
-/// The folders by which a path alone tells the tier of an instruction file.
+/// The folders that determine the tier of an instruction file by its path alone.
 class TierFolders
 {
 public:
@@ -25,12 +25,12 @@ private:
     std::string m_personal;
 };
 
-/// One line of a list of instruction files. It owns nothing: it points into the set of files that
-/// it was made from.
+/// One line of a list of instruction files. Owns nothing: it points into the set of files that it
+/// was made from.
 struct ListedFile
 {
     std::string_view path;
-    const InstructionFileEstimate *estimate = nullptr; ///< none: it could not be read
+    const InstructionFileEstimate *estimate = nullptr; ///< null: unreadable
 
     /// All files with figures, in the order of their tiers and of discovery.
     [[nodiscard]] static std::vector<ListedFile> allReadable(const InstructionFileSet &files);

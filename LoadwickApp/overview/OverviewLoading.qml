@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The scan of the chosen repository is running, and for how long.
+// The scan of the chosen repository is running; shows the elapsed time.
 ScanLoadingState {
     id: state
 

@@ -63,14 +63,14 @@ public:
 
     [[nodiscard]] State state() const noexcept { return m_state; }
 
-    /// The time that the running scan has taken, as on a stopwatch: "0:07", "61:00".
+    /// The elapsed time of the running scan, as on a stopwatch: "0:07", "61:00".
     [[nodiscard]] QString elapsed() const;
 
     /// The words of the last failure.
     [[nodiscard]] QString headline() const { return m_headline; }
     [[nodiscard]] QString detail() const { return m_detail; }
 
-    /// The last report as a whole; it means something only in the state Report.
+    /// The last report as a whole; meaningful only in the state Report.
     [[nodiscard]] QString repositoryPath() const { return m_repositoryPath; }
     /// The text that "Copy Summary" copies.
     [[nodiscard]] QString summary() const { return m_summary; }

@@ -1,12 +1,12 @@
 import QtQuick
 import Loadwick
 
-// The one scan of the chosen repository, or why there is nothing to show.
+// The scan of the chosen repository, or why there is nothing to show.
 Item {
     id: page
 
     required property OverviewPresenter overview
-    // What a scan costs.
+    // The cost of a scan.
     required property string disclosure
 
     ScanEmptyState {
@@ -16,7 +16,8 @@ Item {
         note: page.disclosure
         visible: page.overview.state === OverviewPresenter.Empty
     }
-    // The other states are made on demand, and every report is a new page, so that it arrives.
+    // The other states are created on demand, and every report is a new page, so that its arrival
+    // is animated.
     Loader {
         id: loading
 

@@ -2,16 +2,16 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The files as tiles of a map, beside the read-out of the current tile.
+// The files as tiles of a treemap, beside the read-out of the current tile.
 ColumnLayout {
     id: sizes
 
     required property InstructionFilesPresenter files
-    // The inner width of the card. The map's height follows from it and not from the layouts' result:
+    // The inner width of the card. The map's height follows from it, not from the layouts' result:
     // a height that changes during a layout pass comes too late.
     required property real room
     readonly property int readOutWidth: 200
-    // At the width of the page it would be as high as the window and push everything else away.
+    // At page width it would be as high as the window and push everything else away.
     readonly property real mapWidth: Math.max(0, Math.min(AppTheme.treemapWidth, sizes.room < pair.neededWidth
         ? sizes.room : sizes.room - pair.columnSpacing - sizes.readOutWidth))
 

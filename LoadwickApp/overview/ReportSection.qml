@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The scan's particulars, and its summary to take away.
+// The scan's details, and a summary to copy.
 ReportSurface {
     id: section
 

@@ -1,12 +1,12 @@
 import QtQuick
 import Loadwick
 
-// The headroom score as a gauge: a ring that fills, the figure in its middle, the name in its gap.
+// The headroom score as a gauge: a ring that fills, the figure in the centre, the name in the gap.
 Item {
     id: gauge
 
     required property BandPresenter band
-    // What the ring shows; it lags behind the figure while the ring sweeps.
+    // The animated value of the ring; it lags behind the figure.
     readonly property alias animatedScore: entrance.value
 
     implicitWidth: AppTheme.gaugeSide

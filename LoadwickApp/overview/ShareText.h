@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What part of the authoritative total a row is, as text: a point before the one decimal in every
+/// A row's share of the authoritative total, as text: a point before the one decimal in every
 /// locale, never below 0.0% nor above 100.0%, and 0.0% when the total is below 1.
 namespace Loadwick::ShareText {
 

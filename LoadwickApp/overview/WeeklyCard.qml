@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// What the user's own weekly log says, beside the scan and never mixed with its figures.
+// The user's own weekly log, beside the scan and never mixed with its figures.
 ReportSurface {
     id: card
 

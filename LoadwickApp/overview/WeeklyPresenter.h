@@ -32,7 +32,7 @@ class WeeklyPresenter final : public QObject
 public:
     explicit WeeklyPresenter(TextLocale locale) : m_locale(std::move(locale)) {}
 
-    /// Reads the log once, in the background, and shows its line. Gives up a disk that does not
+    /// Reads the log once, in the background, and shows its line. Gives up on a disk that does not
     /// answer within half a minute.
     void load(const std::filesystem::path &log, const std::shared_ptr<TaskDispatcher> &dispatcher);
 
