@@ -1,12 +1,12 @@
 #pragma once
 
-/// Makes buttons tell assistive technology the truth. The only code on Qt's private headers: the
-/// name, role and states that QML attaches to an item are in no public header, so that a public
-/// interface of a button would have to work all of them out again.
+/// Makes buttons report the truth to assistive technology. The only code on Qt's private headers:
+/// no public header has the name, role and states that QML attaches to an item, so that a public
+/// interface of a button would have to compute all of them again.
 namespace Loadwick::AccessiblePress {
 
-/// From now on every button answers the accessible action "Press" as it answers a click, and says
-/// when it is disabled. Qt 6.4 does neither by itself.
+/// Makes every button answer the accessible action "Press" as it answers a click, and report when
+/// it is disabled. Qt 6.4 does neither by itself.
 void install();
 
 } // namespace Loadwick::AccessiblePress

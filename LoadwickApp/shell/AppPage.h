@@ -22,10 +22,10 @@ public:
     constexpr AppPage(Value value) noexcept : m_value(value) {}
     constexpr operator Value() const noexcept { return m_value; }
 
-    /// The case's name, as in identifiers.
+    /// The enumerator's name, as in identifiers.
     [[nodiscard]] constexpr std::string_view rawValue() const noexcept { return row().rawValue; }
     [[nodiscard]] constexpr std::string_view title() const noexcept { return row().title; }
-    /// The name of its picture.
+    /// The name of its symbol.
     [[nodiscard]] constexpr std::string_view symbol() const noexcept { return row().symbol; }
 
 private:

@@ -2,14 +2,13 @@
 
 class QGuiApplication;
 
-/// The set-up that the program, its tests and the makers of pictures share, before the window
-/// opens.
+/// The set-up before the window opens, shared by the program, its tests and the picture tools.
 namespace Loadwick::ApplicationSetup {
 
-/// Call it before the application object is made.
+/// Call it before the application object is created.
 void prepare();
 
-/// Call it before the window is made.
+/// Call it before the window is created.
 void apply(QGuiApplication &application);
 
 } // namespace Loadwick::ApplicationSetup

@@ -6,12 +6,12 @@ import Loadwick
 Item {
     id: keys
 
-    // What takes the keyboard in the sidebar.
+    // The item that takes the focus in the sidebar.
     required property Item sidebar
     // The right column with its toolbar, and the page that it shows.
     required property Item detail
     required property Item page
-    // Where the keyboard last was in the detail.
+    // The last focused item in the detail.
     property Item lastStop: null
 
     function holds(holder, item) {
@@ -21,7 +21,7 @@ Item {
         return Boolean(holder) && above === holder;
     }
 
-    // Where the keyboard was in the page, else the page's first stop, else the toolbar's.
+    // The last focused item in the page, else the page's first tab stop, else the toolbar's.
     function detailStop() {
         if (keys.lastStop && keys.lastStop.visible && keys.lastStop.enabled)
             return keys.lastStop;
@@ -35,7 +35,7 @@ Item {
         stop.forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
-    // Puts the keyboard where it begins, if nothing has it.
+    // Sets the initial focus, if nothing has it.
     function begin() {
         const item = keys.Window.activeFocusItem;
         if (!keys.holds(keys.sidebar, item) && !keys.holds(keys.detail, item))
@@ -62,7 +62,7 @@ Item {
         sequences: ["F6", "Shift+F6"]
         onActivated: keys.switchSides()
     }
-    // They work while a modal sheet is open too.
+    // Active while a modal sheet is open, too.
     Shortcut {
         sequences: ["Ctrl+W", "Ctrl+Q"]
         context: Qt.ApplicationShortcut

@@ -14,7 +14,7 @@
 namespace Loadwick {
 
 /// What the frame of the window shows, and its two commands. Belongs to the interface thread; model
-/// and chooser outlive it, and the model must not change after it is gone.
+/// and chooser outlive it, and the model must not change afterwards.
 class ContentPresenter final : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ public:
 
     [[nodiscard]] bool canChoose() const;
     [[nodiscard]] bool canScan() const;
-    /// A scan can be started, and the selection has no result yet that it would compete with.
+    /// A scan can be started, and the selection has no result yet.
     [[nodiscard]] bool scanIsNextStep() const;
     [[nodiscard]] QString scanTitle() const;
     /// The longest value of scanTitle.
@@ -74,7 +74,7 @@ public:
 
     /// Lets the user choose a folder and then shows the Overview; does nothing while a scan runs.
     Q_INVOKABLE void chooseFolder();
-    /// The same with a folder that is already known.
+    /// The same for a folder that is already known.
     void choose(const std::filesystem::path &folder);
 
     Q_INVOKABLE void scan();

@@ -15,13 +15,13 @@ SplitView {
     required property PageExport trendsExport
     required property PageExport compareExport
 
-    // A page that is made when it is first shown, and then stays.
+    // A page that is created when it is first shown, and kept.
     component LatePage: Loader {
         id: page
 
         required property bool isShown
 
-        // To be answered by `setSource`.
+        // Handled by calling `setSource`.
         signal wanted()
 
         function ask() {
@@ -43,7 +43,7 @@ SplitView {
         implicitWidth: AppTheme.hairline
         color: AppTheme.separator
 
-        // Wider than it looks, so that it can be caught.
+        // Wider than it looks, so that it is easy to grab.
         containmentMask: Item {
             x: -AppTheme.tightSpace
             width: 2 * AppTheme.tightSpace + AppTheme.hairline

@@ -1,13 +1,13 @@
 import QtQuick
 import Loadwick
 
-// Where a folder can be dropped: the whole of what it is laid over. It shows that the folder would be
-// taken, and for a moment why it was not.
+// A drop target for folders over its whole parent. It shows that the folder would be accepted, and
+// briefly why it was not.
 DropArea {
     id: area
 
     required property FolderDrop folderDrop
-    // Whether a sheet lies over the window; nothing behind it can be reached.
+    // Whether a modal sheet is open; nothing behind it can be reached.
     required property ModalGround ground
     property string objection: ""
     readonly property string words: area.containsDrag ? qsTr("Drop a folder here to choose it") : area.objection

@@ -14,7 +14,7 @@
 
 namespace Loadwick {
 
-/// Takes a folder that is dropped on the window, as if it came from the folder dialog. Belongs to
+/// Accepts a folder that is dropped on the window, as if it came from the folder dialog. Belongs to
 /// the interface thread; the presenter outlives it.
 class FolderDrop final : public QObject
 {
@@ -25,20 +25,19 @@ class FolderDrop final : public QObject
 public:
     FolderDrop(ContentPresenter &content, std::shared_ptr<TaskDispatcher> dispatcher);
 
-    /// Whether what is dragged may be dropped: one local path, while no scan runs. Whether it is a
-    /// folder is not known yet, since asking its disk may take any time.
+    /// Whether the dragged item may be dropped: one local path, while no scan runs. Whether it is a
+    /// folder is not known yet, since its disk may take any time to answer.
     Q_INVOKABLE bool accepts(const QList<QUrl> &urls) const;
 
-    /// Why what is dragged may not be dropped, for the user to read. Empty if it may, or if it is
-    /// no file at all.
+    /// Why the dragged item may not be dropped, for the user to read. Empty if it may, or if it is
+    /// not a file at all.
     Q_INVOKABLE QString objection(const QList<QUrl> &urls) const;
 
-    /// Chooses what was dropped once it turns out to be a folder, unless a scan was started
-    /// meanwhile.
+    /// Chooses the dropped path once it proves to be a folder, unless a scan was started meanwhile.
     Q_INVOKABLE void take(const QList<QUrl> &urls);
 
 Q_SIGNALS:
-    /// What was dropped is no folder.
+    /// The dropped item is not a folder.
     void refused();
 
 private:

@@ -6,7 +6,7 @@
 #include "process/Shutdown.h"
 #include "shell/LoadwickWindow.h"
 
-/// The application from its first line to its last.
+/// The application from start to end.
 namespace Loadwick::LoadwickApp {
 
 using MakeCollaborators =

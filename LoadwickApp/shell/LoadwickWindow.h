@@ -39,16 +39,16 @@ public:
     using MakeNoticeBoard = std::function<std::unique_ptr<NoticeBoard>(
         const std::shared_ptr<TaskDispatcher> &dispatcher)>;
 
-    /// What stands between the window and the outside world.
+    /// The window's connections to the outside world.
     struct Collaborators
     {
-        /// No dispatcher: the window makes one with threads of its own.
+        /// Without a dispatcher the window creates one with threads of its own.
         ScanModel::Collaborators scan;
-        std::unique_ptr<FolderChooser> folderChooser = {};               ///< none: the platform's
-        std::unique_ptr<FileSaver> fileSaver = {};                       ///< none: the platform's
-        std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< none: no walk-through
+        std::unique_ptr<FolderChooser> folderChooser = {};               ///< null: the platform's
+        std::unique_ptr<FileSaver> fileSaver = {};                       ///< null: the platform's
+        std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< null: no walk-through
         MakeAppearance appearance = {};                                  ///< none: the palette's
-        MakeNoticeBoard notices = {}; ///< none: the program says nothing outside its window
+        MakeNoticeBoard notices = {};                                    ///< none: no notices
         TextLocale locale = {};
         std::filesystem::path weeklyLog = {}; ///< empty: none is read
         std::filesystem::path home = {};      ///< tells whose a file is; nothing in it is read
@@ -70,7 +70,7 @@ public:
     /// desktop and a title bar.
     void show();
 
-    /// As much of `wanted` as `room` holds, and not less than `least` either way.
+    /// `wanted` reduced to `room`, but in neither dimension below `least`.
     [[nodiscard]] static QSize firstSize(QSize wanted, QSize least, QSize room);
 
     [[nodiscard]] ScanModel &model() noexcept { return *m_model; }

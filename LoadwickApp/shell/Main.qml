@@ -49,7 +49,7 @@ ApplicationWindow {
             ground: ground
         }
     }
-    // Made on demand: most launches do without it.
+    // Created on demand: most launches do not need it.
     Loader {
         id: sheet
 

@@ -5,8 +5,8 @@
 
 namespace Loadwick {
 
-/// Everything behind the modal sheets of a window, as one pane. While a sheet is open, assistive
-/// technology finds nothing in it, and neither do the pointer and the keyboard.
+/// Everything behind the modal sheets of a window, as one pane. While a sheet is open, it is out of
+/// reach of assistive technology, the pointer and the keyboard.
 class ModalGround : public QQuickItem
 {
     Q_OBJECT

@@ -2,16 +2,16 @@ import QtQuick
 import QtQuick.Controls
 import Loadwick
 
-// Beside the command that chooses a folder: the ones that were chosen and scanned before.
+// Beside the command that chooses a folder: the repositories chosen and scanned before.
 AbstractButton {
     id: button
 
     required property ContentPresenter content
     required property RecentRepositories recent
-    // Made when it is first asked for.
+    // Created when first opened.
     property RecentMenu menu: null
     readonly property bool isOpen: button.menu !== null && button.menu.visible
-    // Since the pointer or the keyboard came here; then there is nothing left to explain.
+    // Since the pointer or the focus arrived; the tool tip is redundant then.
     property bool wasOpen: false
 
     function open() {

@@ -1,8 +1,8 @@
 import QtQuick
 import Loadwick
 
-// The repositories that can be chosen again. The current one has a mark; one whose folder is gone is
-// disabled and says so.
+// The repositories that can be chosen again. The current one is checked; one whose folder is gone
+// is disabled and says so.
 PlainMenu {
     id: menu
 

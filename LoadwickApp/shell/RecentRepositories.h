@@ -16,8 +16,7 @@
 namespace Loadwick {
 
 /// The repositories of the recorded scans, to be chosen again without the folder dialog. Belongs to
-/// the interface thread; model and presenter outlive it, and the model changes no more once it is
-/// gone.
+/// the interface thread; model and presenter outlive it, and the model must not change afterwards.
 class RecentRepositories final : public QObject
 {
     Q_OBJECT
@@ -34,23 +33,23 @@ public:
         QString title;
         QString place; ///< the folder, as text
         std::filesystem::path folder;
-        std::optional<bool> isThere = {}; ///< nothing until it was looked for
+        std::optional<bool> isThere = {}; ///< unknown until checked
         bool isCurrent = false;           ///< the repository that is chosen now
     };
 
     RecentRepositories(ScanModel &model, ContentPresenter &content,
                        std::shared_ptr<TaskDispatcher> dispatcher);
 
-    /// The repository scanned last first: "title", "detail" (where it is, or was), "isThere", which
-    /// is false until it was looked for, and "isCurrent".
+    /// Most recently scanned first: "title", "detail" (where it is, or was), "isThere" (false until
+    /// checked) and "isCurrent".
     [[nodiscard]] RowList *rows() { return &m_rows; }
     [[nodiscard]] int count() const { return m_rows.count(); }
 
-    /// Looks, in the background, which of the folders are there.
+    /// Checks in the background which of the folders exist.
     Q_INVOKABLE void look();
 
-    /// Chooses the repository of that row, if its folder was there and no scan runs. The one that
-    /// is chosen already keeps its result, which the Overview then shows.
+    /// Chooses the repository of that row, if its folder exists and no scan runs. The current one
+    /// keeps its result, which the Overview then shows.
     Q_INVOKABLE void choose(int row);
 
 Q_SIGNALS:

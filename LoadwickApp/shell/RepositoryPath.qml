@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Where the chosen repository is, on two lines at most.
+// The chosen repository's path, on two lines at most.
 SelectableText {
     id: path
 

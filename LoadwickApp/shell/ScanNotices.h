@@ -10,8 +10,8 @@
 namespace Loadwick {
 
 /// Shows a notice on the desktop when a scan ends while the window is inactive, in the window's own
-/// words, until the window becomes active. Belongs to the interface thread; everything that it is
-/// given outlives it.
+/// words, until the window becomes active. Belongs to the interface thread; all its arguments
+/// outlive it.
 class ScanNotices final : public QObject
 {
     Q_OBJECT

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The chosen repository with the state of its scan, and the pages that can be shown of it.
+// The chosen repository, the state of its scan, and the pages.
 Rectangle {
     id: sidebar
 

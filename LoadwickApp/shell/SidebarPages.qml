@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import Loadwick
 
-// One row per page. The arrow keys move the choice, Home and End to the first and the last.
+// One row per page. The arrow keys move the selection, Home and End go to the ends.
 ListView {
     id: list
 
@@ -12,7 +12,7 @@ ListView {
     model: content.pages
     interactive: false
     keyNavigationEnabled: true
-    // The view's own mark of the current row would slide and grow; the rows draw theirs.
+    // The view's own highlight would slide and grow; the rows draw theirs.
     highlightFollowsCurrentItem: false
     activeFocusOnTab: true
     spacing: 2
@@ -23,7 +23,7 @@ ListView {
 
     function isOwnKey(key) { return key === Qt.Key_Home || key === Qt.Key_End; }
 
-    // Elsewhere these scroll the page.
+    // Elsewhere these keys scroll the page.
     Keys.onShortcutOverride: event => { event.accepted = list.isOwnKey(event.key); }
     Keys.onPressed: event => {
         event.accepted = list.isOwnKey(event.key);
@@ -31,17 +31,17 @@ ListView {
             list.currentIndex = event.key === Qt.Key_Home ? 0 : list.count - 1;
     }
 
-    // Unlike a plain binding, it survives what the arrow keys and the rows write.
+    // Unlike a plain binding, it survives writes by the arrow keys and the rows.
     Binding on currentIndex { value: list.content.pageIndex }
 
-    // To assistive technology a plain button stays a button, whatever role it is given.
+    // To assistive technology a plain button stays a button, whatever role it has.
     delegate: T.ItemDelegate {
         id: row
 
         required property int index
         required property string title
         required property string symbol
-        // The key that goes to the page from anywhere in the window.
+        // The shortcut to the page from anywhere in the window.
         required property string shortcut
         readonly property bool selected: ListView.isCurrentItem
         readonly property bool hasKeyboard: row.selected && ListView.view.activeFocus
