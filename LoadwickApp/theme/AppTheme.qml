@@ -7,14 +7,14 @@ QtObject {
     readonly property bool dark: Appearance.dark
     readonly property bool reduceMotion: Appearance.reduceMotion
     readonly property bool moreContrast: Appearance.moreContrast
-    // How much larger than usual text is; what holds text grows with it.
+    // The scale of text; containers of text grow with it.
     readonly property real textScale: Appearance.textScale
 
     function scaled(pixels) {
         return Math.round(pixels * textScale);
     }
 
-    // Grounds, from the back to the front.
+    // Backgrounds, from the back to the front.
     readonly property color window: dark ? "#1B1B1E" : "#F4F4F6"
     readonly property color sidebar: dark ? "#232327" : "#EBEBEF"
     readonly property color surface: dark ? "#29292E" : "#FFFFFF"
@@ -34,7 +34,7 @@ QtObject {
     // Text on the accent.
     readonly property color accentText: dark ? "#14161C" : "#FFFFFF"
 
-    // A band has two shades of one colour: a bright one for shapes, one that is readable as text.
+    // A band has two shades of one colour: a bright one for shapes, a readable one for text.
     readonly property color bandLean: dark ? "#46BF78" : "#2B9A57"
     readonly property color bandHeavy: dark ? "#F0A036" : "#D97F00"
     readonly property color bandExcessive: dark ? "#FA6A5E" : "#D63A2E"
@@ -45,7 +45,7 @@ QtObject {
     readonly property list<color> bandShapes: [bandLean, bandHeavy, bandExcessive]
     readonly property list<color> bandTexts: [bandLeanText, bandHeavyText, bandExcessiveText]
 
-    // Blue, teal, purple, orange, gray: series and slices take them by index, wrapping around.
+    // Blue, teal, purple, orange, gray: series and slices index them, wrapping around.
     readonly property list<color> chartColors: dark
         ? ["#6295F5", "#38B6C3", "#AC82EE", "#EE9440", "#9B9EA8"]
         : ["#2F6FED", "#12899A", "#8549D6", "#D97706", "#767983"]
@@ -63,14 +63,14 @@ QtObject {
     readonly property real tintOpacity: 0.12
     readonly property real disabledOpacity: moreContrast ? 0.6 : 0.4
 
-    // The fill of a tile at rest and of the current one, on both of which names have to be readable, and
-    // the opacity of the others meanwhile.
+    // The fill of a tile at rest and of the current one, on both of which names must be readable,
+    // and the opacity of the others meanwhile.
     readonly property real tileOpacity: dark ? 0.4 : 0.45
     readonly property real currentTileOpacity: dark ? 0.5 : 0.65
     readonly property real tileDimming: 0.5
 
-    // The application's own family; its figures are all equally wide, so it serves for numbers too. It
-    // has no medium weight, so medium text is semibold.
+    // The application's own family; its figures are of equal width, so it serves for numbers too.
+    // It has no medium weight, so medium text is semibold.
     readonly property font heroMetricFont: Qt.font({ pixelSize: scaled(46), weight: Font.DemiBold, letterSpacing: -0.5 })
     readonly property font largeTitleFont: Qt.font({ pixelSize: scaled(28), weight: Font.DemiBold, letterSpacing: -0.3 })
     readonly property font gaugeFont: Qt.font({ pixelSize: scaled(24), weight: Font.DemiBold })
@@ -95,7 +95,7 @@ QtObject {
     readonly property int wideSpace: 32
     readonly property int cardPadding: 16
     readonly property int contentWidth: 1040
-    // The width of the column that shows the pages; no page is laid out in less.
+    // The width of the page column; no page is laid out narrower.
     readonly property int detailMinimumWidth: 480
     readonly property int stateWidth: scaled(420)
     // The width that words beside a figure need; with less they go below it.
@@ -126,7 +126,7 @@ QtObject {
 
     readonly property int sheetWidth: scaled(560)
     readonly property int illustrationHeight: 140
-    // How far a step of the walk-through comes from the side.
+    // The distance that a step of the walk-through slides.
     readonly property int stepSlide: 16
     readonly property int stepDotSide: 7
 
@@ -137,13 +137,13 @@ QtObject {
     readonly property int hoverDuration: reduceMotion ? 0 : 180
     readonly property int pageDuration: reduceMotion ? 0 : 320
     readonly property int turnDuration: 1000
-    // How long a note of what was done stays.
+    // How long a confirmation note stays.
     readonly property int noteDuration: 2000
     readonly property int stepDuration: reduceMotion ? 120 : 220
     readonly property int sheetCloseDuration: reduceMotion ? 100 : 160
     readonly property int stillDotDuration: 150
     readonly property int bobDuration: 1100
     readonly property int legendDuration: reduceMotion ? 120 : 280
-    // Between a row of the legend and the next.
+    // The delay between rows of the legend.
     readonly property int legendDelay: reduceMotion ? 0 : 60
 }

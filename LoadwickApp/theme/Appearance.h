@@ -14,10 +14,9 @@ namespace Loadwick {
 
 class AppearanceSource;
 
-/// Dark or light, moving or still, quiet or strong, as QML sees it: one object for each engine. The
-/// answers come from the AppearanceSource among the engine's children, or from the palette if there
-/// is none. Tests and makers of pictures override them with `scheme`, `motion`, `contrast` and
-/// `textScale`.
+/// Scheme, motion, contrast and text scale for QML: one object per engine. The values come from the
+/// AppearanceSource among the engine's children, or from the palette if there is none. Tests and
+/// picture tools override them with `scheme`, `motion`, `contrast` and `textScale`.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -26,7 +25,7 @@ class Appearance : public QObject
     Q_PROPERTY(bool dark READ dark NOTIFY changed)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY changed)
     Q_PROPERTY(bool moreContrast READ moreContrast NOTIFY changed)
-    /// The accent of the user's desktop as it was chosen; only where the desktop has one.
+    /// The accent of the user's desktop, unadjusted, if the desktop has one.
     Q_PROPERTY(bool hasAccent READ hasAccent NOTIFY changed)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
     /// See DesktopWishes::textScale.

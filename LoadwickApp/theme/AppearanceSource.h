@@ -7,32 +7,31 @@
 
 namespace Loadwick {
 
-/// What a desktop asks of the look of its programs. A wish is absent where nothing was said about
-/// it, which is not the same as a wish for the opposite.
+/// A desktop's wishes for the look of its programs. An absent wish is not a wish for the opposite.
 struct DesktopWishes
 {
     std::optional<bool> dark = {};          ///< light text on dark ground
-    std::optional<bool> reducedMotion = {}; ///< nothing moves for the sake of moving
-    std::optional<bool> moreContrast = {};  ///< lines and quiet words stand out
+    std::optional<bool> reducedMotion = {}; ///< no decorative motion
+    std::optional<bool> moreContrast = {};  ///< stronger lines and quiet words
     std::optional<QColor> accent = {};      ///< as the user chose it, readable or not
     std::optional<double> fontPoints = {};  ///< size of the desktop's own font
     std::optional<double> textFactor = {};  ///< multiplies the size of all text
 
-    /// These wishes; those that are absent come from `other`.
+    /// These wishes, with absent ones taken from `other`.
     [[nodiscard]] DesktopWishes orElse(const DesktopWishes &other) const;
 
-    /// How much larger than usual text is, from 1 to `largestTextScale`. Desktops come with fonts
-    /// of 9 to 11 points; up to there the scale is 1.
+    /// The scale of text, from 1 to `largestTextScale`. Desktops come with fonts of 9 to 11 points;
+    /// up to there the scale is 1.
     [[nodiscard]] double textScale() const;
 
-    /// 14 points instead of 10; the smallest window has room for no more.
+    /// 14 points instead of 10; the smallest window has no room for more.
     static constexpr double largestTextScale = 1.4;
 
     friend bool operator==(const DesktopWishes &, const DesktopWishes &) = default;
 };
 
-/// Where the desktop's wishes about the look come from. Lives on the interface thread and never
-/// blocks it: what it has not heard yet is absent, and `changed` tells when it has.
+/// A source of the desktop's wishes. Lives on the interface thread and never blocks it: a wish is
+/// absent until it is known, and `changed` announces it.
 class AppearanceSource : public QObject
 {
     Q_OBJECT
@@ -50,7 +49,7 @@ public:
     [[nodiscard]] bool prefersMoreContrast() const { return wishes().moreContrast.value_or(false); }
 
 Q_SIGNALS:
-    /// One of the wishes has changed.
+    /// A wish has changed.
     void changed();
 };
 

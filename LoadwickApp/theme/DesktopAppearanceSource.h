@@ -8,8 +8,8 @@
 
 namespace Loadwick {
 
-/// Reads dark or light off the application's palette: a window darker than middle grey is dark. A
-/// palette says nothing about motion or contrast.
+/// Derives dark or light from the application's palette: a window darker than middle grey is dark.
+/// A palette says nothing about motion or contrast.
 class PaletteAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
-/// Asks several sources in their order; for each wish the first that says something counts.
+/// Combines several sources: each wish comes from the first source that has it.
 class DesktopAppearanceSource : public AppearanceSource
 {
     Q_OBJECT

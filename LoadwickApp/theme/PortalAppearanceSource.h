@@ -14,9 +14,9 @@
 
 namespace Loadwick {
 
-/// What the desktop's settings portal has answered so far, and what that means. The keys are those
-/// of every desktop (XDG Desktop Portal, org.freedesktop.portal.Settings) and, for portals that do
-/// not know them yet, GNOME's own. Where both speak, a key of every desktop comes first.
+/// The answers of the desktop's settings portal so far, and their meaning. The keys are those
+/// shared by all desktops (XDG Desktop Portal, org.freedesktop.portal.Settings) and, for portals
+/// without them, GNOME's own. A shared key takes precedence.
 class PortalAnswers
 {
 public:
@@ -27,11 +27,11 @@ public:
         void (*read)(DesktopWishes &wishes, const QVariant &value);
     };
 
-    /// What to ask for.
+    /// The keys to read.
     [[nodiscard]] static std::span<const Key> keys();
 
-    /// A value as it comes off the bus. A key that is none of these, or a value of another type
-    /// than the key's, says nothing.
+    /// A value as it comes off the bus. An unknown key, or a value of the wrong type for its key,
+    /// is ignored.
     void take(const QString &space, const QString &name, const QVariant &value);
 
     [[nodiscard]] DesktopWishes wishes() const { return m_common.orElse(m_gnome); }
@@ -41,15 +41,15 @@ private:
     DesktopWishes m_gnome;
 };
 
-/// The wishes that the desktop's settings portal knows, and their changes while the program runs.
-/// The bus is connected in the background, since a bus that hangs blocks whoever connects; nothing
-/// waits for answers. Without a bus, a portal or an answer all wishes are absent.
+/// The wishes that the desktop's settings portal knows, updated while the program runs. The bus is
+/// connected in the background, since a bus that hangs blocks its callers; answers are
+/// asynchronous. Without a bus, a portal or an answer all wishes are absent.
 class PortalAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
 
 public:
-    /// Called away from the interface thread.
+    /// Called off the interface thread.
     using Connect = std::function<QDBusConnection()>;
 
     explicit PortalAppearanceSource(const std::shared_ptr<TaskDispatcher> &dispatcher,
