@@ -11,7 +11,7 @@
 
 namespace Loadwick {
 
-/// What is recorded of all repositories: the newest scans, how much is stored, and its deletion.
+/// The recorded data of all repositories: the newest scans, how much is stored, and its deletion.
 /// The model outlives it.
 class RecordedDataPresenter final : public QObject
 {
@@ -36,14 +36,13 @@ public:
     /// "value" (tokens), "valueCaption", "band" (its number) and "place", the repository's path
     /// where its name is ambiguous, else empty.
     [[nodiscard]] RowList *runs() { return &m_runs; }
-    /// Which scans these are.
+    /// Describes which scans these are.
     [[nodiscard]] QString runsDetail() const { return m_runsDetail; }
 
-    /// Composed on demand: its figures load the locale's data, which the program's start does not
-    /// need.
+    /// Composed on demand: its figures load the locale's data, which start-up does not need.
     [[nodiscard]] QString storageNote() const;
 
-    /// The button that deletes so many scans for good.
+    /// The title of the button that deletes that many scans permanently.
     [[nodiscard]] QString deleteTitle() const;
     [[nodiscard]] bool canClear() const { return m_model.canClearHistory(); }
 

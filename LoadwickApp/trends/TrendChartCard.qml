@@ -2,14 +2,14 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The line of one repository's totals, or why there is none yet.
+// One repository's line of totals, or why there is none yet.
 ReportSurface {
     id: card
 
     required property TrendChartPresenter chart
-    // Null: there is nothing to save from here.
+    // Null: nothing can be saved here.
     property PageExport exporter: null
-    // What the page is about, for those who see the picture without it.
+    // The page's subject, for viewers of the picture alone.
     property string subject: ""
     readonly property bool isEmpty: card.chart.emptyText.length > 0
 

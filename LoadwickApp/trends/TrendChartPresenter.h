@@ -12,7 +12,7 @@
 
 namespace Loadwick {
 
-/// The card with the line of one repository's totals, or with why there is none yet.
+/// The card with one repository's line of totals, or the reason why there is none yet.
 class TrendChartPresenter final : public QObject
 {
     Q_OBJECT
@@ -28,17 +28,17 @@ public:
     explicit TrendChartPresenter(const TextLocale &locale) : m_locale(locale), m_line(locale) {}
 
     void showNoHistory();
-    /// The scans of the repository that is shown, in the order of the history.
+    /// The scans of the repository shown, in the order of the history.
     void show(std::span<const RecordedScan> scans);
 
-    /// Why there is no trend yet; both empty when there are scans enough for one. The title may be
-    /// empty by itself.
+    /// Why there is no trend yet; both are empty if there are enough scans. The title alone may be
+    /// empty.
     [[nodiscard]] QString emptyTitle() const { return m_emptyTitle; }
     [[nodiscard]] QString emptyText() const { return m_emptyText; }
 
     /// The chart in words.
     [[nodiscard]] QString summary() const { return m_summary; }
-    /// Of which days the scans are: an axis of hours names none. Empty when there is no line.
+    /// The days of the scans, since an axis of hours names none. Empty without a line.
     [[nodiscard]] QString period() const { return m_period; }
     [[nodiscard]] TrendLine *line() { return &m_line; }
 

@@ -7,7 +7,7 @@ ReportSurface {
     id: card
 
     required property TrendSummaryPresenter summary
-    // All three are equally wide, whatever they say.
+    // All three are of equal width, whatever their content.
     readonly property real tileWidth: Math.max(latest.implicitWidth, band.implicitWidth, drift.implicitWidth)
 
     SectionHeader {

@@ -28,10 +28,10 @@ class TrendSummaryPresenter final : public QObject
 public:
     explicit TrendSummaryPresenter(TextLocale locale) : m_locale(std::move(locale)) {}
 
-    /// By date. A drift that does not fit 64 bits ends the program.
+    /// By date. A drift beyond 64 bits ends the program.
     void show(std::span<const LineSample> samples);
 
-    /// Whether there is anything to say; the words below mean nothing otherwise.
+    /// Whether there is anything to say; otherwise the words below are meaningless.
     [[nodiscard]] bool hasScans() const noexcept { return m_hasScans; }
 
     [[nodiscard]] QString latest() const { return m_latest; } ///< tokens

@@ -16,9 +16,9 @@
 
 namespace Loadwick {
 
-/// The Trends page: the recorded scans of the chosen repository, or of the one scanned last while
-/// none is chosen, and what is recorded of all repositories. Belongs to the interface thread; the
-/// model outlives it, and does not change after it is gone.
+/// The Trends page: the recorded scans of the chosen repository, or of the most recently scanned
+/// one while none is chosen, and the recorded data of all repositories. Belongs to the interface
+/// thread; the model outlives it and must not change afterwards.
 class TrendsPresenter final : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The page is about another repository than before, and there is one.
+    /// The page shows another repository than before; not emitted for none.
     void repositoryChanged();
 
 private:

@@ -12,7 +12,7 @@ PageColumn {
     Connections {
         target: page.trends
 
-        // Another repository is read from the top.
+        // Another repository starts at the top.
         function onRepositoryChanged() { page.viewport.contentY = 0; }
     }
     PageHeader {
