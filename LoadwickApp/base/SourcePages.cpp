@@ -9,7 +9,7 @@
 namespace Loadwick {
 namespace {
 
-/// The tree that the pages are read from; empty where they are part of the program alone.
+/// The tree that the pages are read from; empty if they are built into the program only.
 const QString sourceTree = QStringLiteral(LOADWICK_SOURCE_PAGES);
 
 class SourcePages final : public QQmlAbstractUrlInterceptor
@@ -31,7 +31,7 @@ public:
     }
 
 private:
-    QHash<QString, QUrl> m_pages; ///< by the address in the program
+    QHash<QString, QUrl> m_pages; ///< by their URL in the program
 };
 
 } // namespace
