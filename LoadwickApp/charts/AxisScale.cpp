@@ -32,7 +32,7 @@ std::int64_t niceStep(std::int64_t least) noexcept
     }
 }
 
-/// Moments of one step with their labels; if two have the same label, the first stays.
+/// Moments of one step with their labels; of two equal labels the first is kept.
 std::vector<DateTick> labelled(const std::vector<sys_seconds> &moments, const DateStep &step,
                                const TextLocale &locale)
 {

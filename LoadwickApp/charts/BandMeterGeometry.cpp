@@ -29,7 +29,7 @@ Order labelOrder(const Meter &meter, const std::array<Extent, 3> &segments)
     return order;
 }
 
-/// The room that the labels laid out so far leave for the label of `segment`.
+/// The room left for the label of `segment` by the labels laid out so far.
 Extent freeExtent(const std::array<Label, 3> &labels, std::size_t segment, double width)
 {
     double left = 0;

@@ -18,7 +18,7 @@ using Unit = DateStep::Unit;
 
 constexpr int daysOfWeek = 7;
 
-/// What one of a unit is to the wall clock.
+/// What one unit means to the wall clock.
 struct ClockUnit
 {
     seconds length;    ///< approximate
@@ -70,7 +70,7 @@ public:
     /// From now on a wall-clock time that a day has twice means the later one.
     void preferLaterPass() { m_calendar->setRepeatedWallTimeOption(UCAL_WALLTIME_LAST); }
 
-    /// Fields beyond their range run over into the next larger one.
+    /// Fields out of range carry over into the next larger one.
     sys_seconds moment(const std::vector<int> &fields)
     {
         m_calendar->clear();
@@ -80,7 +80,7 @@ public:
         return sys_seconds(std::chrono::floor<seconds>(sinceEpoch));
     }
 
-    /// Days since the first day of a span of so many weeks; weeks begin on Mondays (ISO 8601).
+    /// Days since the start of a span of that many weeks; weeks begin on Mondays (ISO 8601).
     int daysIntoWeek(int weeks) const
     {
         const int weekday = field(UCAL_DAY_OF_WEEK) - UCAL_MONDAY;
@@ -93,8 +93,8 @@ private:
     std::unique_ptr<icu::GregorianCalendar> m_calendar;
 };
 
-/// The wall clock's year, month, day, hour, minute and second of the last round moment that is not
-/// after the one that `clock` shows.
+/// The wall clock's year, month, day, hour, minute and second at the last round moment not after
+/// the one that `clock` shows.
 std::vector<int> roundedDown(const WallClock &clock, const DateStep &step)
 {
     const auto rounded = [&](UCalendarDateFields name, Unit unit) {

@@ -18,7 +18,7 @@ QRectF circle(qreal radius)
     return {-radius, -radius, 2 * radius, 2 * radius};
 }
 
-// The painter counts its degrees against the clock, from the right.
+// The painter counts degrees anticlockwise from three o'clock.
 qreal painterDegrees(double angle)
 {
     return 90.0 - qRadiansToDegrees(angle);
@@ -50,7 +50,7 @@ DonutGeometry::DonutGeometry(std::span<const double> tokens)
             continue;
         const double after = before + tokens[row];
         const double start = turn * (before / sum);
-        // From bound to bound, so that rounding errors do not add up.
+        // From bound to bound, so that rounding errors do not accumulate.
         m_slices.push_back({row, start, turn * (after / sum) - start, after});
         before = after;
     }

@@ -24,7 +24,7 @@ GaugeArc::GaugeArc(QQuickItem *parent) : QQuickPaintedItem(parent)
 void GaugeArc::paint(QPainter *painter)
 {
     drawArc(*painter, m_track, GaugeGeometry::fullSpan);
-    // An arc without length would still show its round ends, as a dot.
+    // An empty arc would still show its round caps, as a dot.
     if (m_value > 0)
         drawArc(*painter, m_tint, GaugeGeometry::span(m_value));
 }

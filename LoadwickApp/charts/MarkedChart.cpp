@@ -9,7 +9,7 @@
 namespace Loadwick {
 namespace {
 
-/// The mark that a key chooses after `chosen`, -1 for none; nothing for any other key.
+/// The mark that a key moves to from `chosen`, -1 for none; nothing for any other key.
 std::optional<int> markAfterKey(int key, int chosen, int count)
 {
     switch (key) {
@@ -51,8 +51,7 @@ void MarkedChart::forgetMarks()
     update();
 }
 
-// Ignored, so that the event reaches the card that holds the chart, which reacts to the pointer
-// too.
+// Ignored, so that the event also reaches the card that holds the chart.
 void MarkedChart::hoverEnterEvent(QHoverEvent *event)
 {
     hoverMoveEvent(event);
@@ -74,7 +73,7 @@ void MarkedChart::keyPressEvent(QKeyEvent *event)
     const std::optional<int> mark =
         markCount() > 0 ? markAfterKey(event->key(), m_chosen, markCount()) : std::nullopt;
     event->setAccepted(mark.has_value());
-    if (mark) // A resting pointer does not hide what the keys do.
+    if (mark) // A resting pointer does not override the keys.
         setMarks(-1, *mark);
 }
 

@@ -12,7 +12,7 @@ namespace Loadwick {
 namespace {
 
 constexpr double gap = 1.0;
-/// A tile thinner than this would lose too much of itself to the gap.
+/// A thinner tile would lose too much of itself to the gap.
 constexpr double leastWithGap = 3.0;
 
 /// A tile along one axis.
@@ -34,7 +34,7 @@ Stretch snapped(Stretch exact, double frame, double pixelsPerPoint)
     return {.start = start, .length = isLast || length < leastWithGap ? length : length - gap};
 }
 
-/// Smaller tiles have square corners: round ones would leave nothing of them.
+/// Smaller tiles have square corners: rounding would leave nothing of them.
 constexpr qreal leastRounded = 8.0;
 constexpr qreal namePadding = 8.0;
 constexpr qreal restLineWidth = 1.0;
@@ -45,7 +45,7 @@ QRectF rectOf(const TreemapTiles::Box &box)
     return {box.left, box.top, box.width, box.height};
 }
 
-/// -1 for a name that the model does not have.
+/// -1 for a name that the model lacks.
 int roleOf(const QAbstractItemModel &model, const QByteArray &name)
 {
     return model.roleNames().key(name, -1);
@@ -200,8 +200,8 @@ QImage TreemapChart::paintedTiles(qreal pixelsPerPoint) const
     return image;
 }
 
-// The line lies inside the tile, so that it touches no gap and no neighbour. A tile too small for
-// a fill is all line.
+// The outline lies inside the tile, so that it touches neither a gap nor a neighbour. A tile too
+// small for a fill is all outline.
 void TreemapChart::paintTile(QPainter &painter, std::size_t tile, const Ink &ink) const
 {
     const QRectF rect = rectOf(m_tiles.box(tile, painter.deviceTransform().m11()));

@@ -38,8 +38,8 @@ void TrendChart::paint(QPainter *painter)
                         scansFor(*painter));
 }
 
-// The pointer singles out another scan with each step, so the scans are painted once and kept.
-// A vector target, such as a PDF, needs them drawn.
+// Each pointer move highlights another scan, so the scans are painted once and cached. A vector
+// target, such as a PDF, needs them drawn.
 const QImage &TrendChart::scansFor(const QPainter &painter)
 {
     static const QImage none;

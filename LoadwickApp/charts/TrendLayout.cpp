@@ -15,7 +15,7 @@ TrendLayout::TrendLayout(const Needs &needs) noexcept : m_needs(needs)
 {
     const double left = needs.widestTotal + axisGap;
     const double right = needs.width - needs.widestName - axisGap;
-    const double top = needs.lineHeight / 2; // half of the highest label is above its line
+    const double top = needs.lineHeight / 2; // half of the top label is above its line
     const double bottom = needs.height - needs.lineHeight - axisGap;
     m_frame = {.x = left,
                .y = top,

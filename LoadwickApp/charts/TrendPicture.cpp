@@ -20,7 +20,7 @@ constexpr double tickLength = 4;
 constexpr double lineWidth = 2;
 constexpr double pointRadius = 4;
 constexpr double densePointRadius = 2.5;
-constexpr std::size_t denseFrom = 80; // points, from where larger ones would merge into a band
+constexpr std::size_t denseFrom = 80; // from this many points, large ones merge into a band
 constexpr double nameGap = 8;
 constexpr double readoutRadius = 6;
 constexpr double readoutGap = 8; // between its date and its total
@@ -64,7 +64,7 @@ QFont strong(QFont font)
     return font;
 }
 
-/// The middle of a pixel, so that a line one pixel wide is sharp.
+/// The centre of a pixel, so that a line one pixel wide is sharp.
 double crisp(double position)
 {
     return std::floor(position) + 0.5;
