@@ -1,13 +1,13 @@
 import QtQuick
 import Loadwick
 
-// The rows of a bar chart, as a list that can be read row by row. While the pointer is on a row that
-// cannot show all it has to say, a tool tip does.
+// The rows of a bar chart, as a list that can be read row by row. A tool tip completes the row
+// under the pointer if that row cannot show everything.
 LongList {
     id: list
 
     required property BarStyle style
-    // The colour of bars that have none of their own.
+    // The colour of bars without one of their own.
     property color fill: AppTheme.quietFill
 
     HoverTip {

@@ -137,7 +137,7 @@ const QFont &BarRow::nameFont() const
     return arrangement == Heading ? m_style->headingFont : m_style->nameFont;
 }
 
-// Beside bars all names are quiet; over bars only the name of a missing one.
+// Beside bars all names are quiet; above bars only the name of a missing one.
 QColor BarRow::nameColor() const
 {
     const bool isQuiet = arrangement == InLine || (arrangement == Stacked && !isRecorded);

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// One card of the grid. A pooled one shows another repository when its line moves.
+// One card of the grid. A pooled card shows another repository when its line moves.
 Loader {
     id: cell
 
@@ -24,7 +24,7 @@ Loader {
     objectName: "cell"
     x: (LayoutMirroring.enabled ? cell.grid.acrossCount - 1 - cell.across : cell.across) * cell.step
     y: cell.line * cell.grid.lineStep
-    // The last one takes what the others leave of a whole.
+    // The last one takes the remainder.
     width: cell.across === cell.grid.acrossCount - 1 ? cell.grid.width - cell.across * cell.step : cell.grid.cardWidth
     height: cell.grid.cardHeight
     visible: cell.place < cell.grid.count && cell.isKept

@@ -1,11 +1,11 @@
 import QtQuick
 import Loadwick
 
-// Where the cards of a grid are: side by side where they fit, in further lines where they do not, all
-// equally wide and high. A large grid pools its cards: it has as many lines as a screen can show, and
-// two more. When the page scrolls by a line, the cards that left it take over the repositories that
-// appear, one card per frame. A ListView that reuses whole lines is shorter, but its first frame took
-// ten times as long, and an appearing line (made at once or by asynchronous loaders) up to 30 ms.
+// The positions of a grid's cards: side by side where they fit, wrapping into further lines, all of
+// one size. A large grid pools its cards: it has as many lines as a screen can show, plus two. When
+// the page scrolls by a line, the cards that left it take over the repositories that appear, one
+// card per frame. A ListView that reuses whole lines is shorter, but its first frame took ten times
+// as long, and an appearing line (made at once or by asynchronous loaders) up to 30 ms.
 Item {
     id: grid
 
@@ -19,7 +19,7 @@ Item {
     readonly property int count: grid.compare.columnCount
     readonly property bool isLarge: grid.compare.isLarge
 
-    // Lines as even as possible: four cards where three fit are two by two.
+    // Lines as even as possible: four cards in room for three become two by two.
     readonly property int lineCount: Math.ceil(grid.count / grid.fitting(grid.width))
     readonly property int acrossCount: Math.max(1, Math.ceil(grid.count / Math.max(1, grid.lineCount)))
     readonly property real cardWidth: Math.floor((grid.width - (grid.acrossCount - 1) * grid.gap) / grid.acrossCount)
@@ -33,30 +33,30 @@ Item {
     readonly property int neededLines: grid.cardHeight > 0 ? Math.ceil(grid.screenHeight / grid.lineStep) + 2 : 1
     readonly property int keptLines: grid.isLarge ? Math.min(grid.neededLines, grid.lineCount) : grid.lineCount
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
-    // Independent of the width: another number would make all cards again.
+    // Independent of the width: a different number would make all cards again.
     readonly property int cellCount: grid.isLarge
         ? (Math.ceil(grid.screenHeight / grid.leastHeight) + 2) * grid.fitting(AppTheme.contentWidth) : grid.count
 
-    // Before the first frame nothing has its position or height. After it a large grid makes one card in
-    // every other frame, and its rows in the frame between: both together take longer than a frame.
+    // Before the first frame nothing has its position or height. After it a large grid makes one
+    // card every other frame, and its rows in the frame between: both together exceed a frame.
     property int frameCount: 0
     readonly property bool isLaidOut: grid.frameCount > 1
     readonly property int filledCount: Math.floor(0.5 * grid.frameCount)
     readonly property int madeCount: Math.min(grid.count, Math.floor(0.5 * Math.max(0, grid.frameCount - 1)) + 1)
 
-    // Whether cards are still on lines that left the page, and whether one of them moved in this frame.
+    // Whether cards are still on lines that left the page, and whether one has moved in this frame.
     property bool hasLateCards: false
     property bool isTaken: false
 
-    // One card whose next line is at most `reach` lines from the page's middle may move.
+    // Lets one card move whose next line is at most `reach` lines from the page's middle.
     signal turn(reach: int)
 
     function fitting(width) {
         return Math.max(1, Math.floor((width + grid.gap) / (grid.leastWidth + grid.gap)));
     }
 
-    // The line that a pooled line shows: when the page scrolls by a line, one pooled line moves, and the
-    // others stay.
+    // The line that a pooled line shows: when the page scrolls by a line, one pooled line moves,
+    // the others stay.
     function lineOf(keptLine) {
         const ahead = (keptLine - grid.firstLine) % grid.keptLines;
         return grid.firstLine + (ahead < 0 ? ahead + grid.keptLines : ahead);
@@ -68,7 +68,7 @@ Item {
         running: !grid.isLaidOut || (grid.isLarge && grid.filledCount < Math.min(grid.count, grid.keptLines * grid.acrossCount))
         onTriggered: grid.frameCount += 1
     }
-    // The cards on the page first.
+    // Cards on the page come first.
     FrameAnimation {
         running: grid.hasLateCards
         onTriggered: {

@@ -41,7 +41,7 @@ void ColumnPresenter::follow()
 
 void ColumnPresenter::show(std::shared_ptr<const Comparison> comparison, std::size_t column)
 {
-    const auto before = std::exchange(m_comparison, std::move(comparison)); // its bars' names
+    const auto before = std::exchange(m_comparison, std::move(comparison)); // keeps the bars' names
     m_column = column;
     m_bars.updateRows(shownBars());
     Q_EMIT changed();

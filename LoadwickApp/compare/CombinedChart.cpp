@@ -61,7 +61,7 @@ std::vector<CombinedRows::Role> combinedRoles(const TextLocale &locale)
     };
 }
 
-// Never on the scene: a window paints hidden items too, and with many repositories this would be an
+// Never in the scene: a window paints hidden items too, and with many repositories this would be an
 // image of a gigabyte.
 CombinedPicture::CombinedPicture(QQuickItem *parent) : QQuickPaintedItem(parent)
 {

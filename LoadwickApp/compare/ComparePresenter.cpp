@@ -10,7 +10,7 @@
 namespace Loadwick {
 namespace {
 
-// About two windows full.
+// About two windows' worth.
 constexpr std::size_t manyBars = 120;
 
 QString scanCountText(std::int64_t count)

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// Two repositories or more: who is heaviest, each for itself, all on one axis.
+// Two repositories or more: the leaderboard, a card for each, and all on one axis.
 PageColumn {
     id: page
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// Every scanned repository beside the others, or why there is nothing to compare yet.
+// All scanned repositories side by side, or why there is nothing to compare yet.
 Item {
     id: page
 
@@ -23,7 +23,7 @@ Item {
             detail: page.compare.emptyText
         }
     }
-    // Made when the page is first shown.
+    // Created when the page is first visible.
     Loader {
         id: report
 

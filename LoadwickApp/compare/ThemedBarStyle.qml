@@ -1,7 +1,7 @@
 import QtQuick
 import Loadwick
 
-// How all bars look, in the theme's fonts and colours.
+// The look of all bars, in the theme's fonts and colours.
 BarStyle {
     nameFont: AppTheme.captionFont
     valueFont: AppTheme.captionStrongFont
