@@ -57,8 +57,7 @@ FocusScope {
         list.viewport.contentY = Math.max(0, Math.min(highest, wanted));
     }
 
-    // A screen reader reads the focused item. A row that scrolls away returns the focus to the
-    // list.
+    // Screen readers read the focused item. A row that scrolls away gives the focus to the list.
     function focusRow() {
         rows.forceLayout();
         const row = rows.itemAtIndex(list.currentIndex);

@@ -6,7 +6,7 @@
 namespace Loadwick {
 namespace {
 
-// Only growth has a plus sign; a direction that its delta does not bear out gets none.
+// Only growth has a plus sign; a direction that contradicts its delta gets none.
 QString changeText(std::int64_t delta, const TextLocale &locale)
 {
     return qtText(delta > 0 ? NumberText::groupedChange(delta, locale)
