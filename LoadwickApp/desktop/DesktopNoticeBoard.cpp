@@ -14,10 +14,10 @@ namespace {
 constexpr QLatin1String service("org.freedesktop.Notifications");
 constexpr QLatin1String path("/org/freedesktop/Notifications");
 constexpr QLatin1String interface("org.freedesktop.Notifications");
-constexpr QLatin1String defaultAction("default"); ///< what a press on the notice itself invokes
+constexpr QLatin1String defaultAction("default"); ///< invoked by a press on the notice itself
 
 constexpr int answerMilliseconds = 25'000;
-constexpr int serviceDecides = -1; ///< how long it shows
+constexpr int serviceDecides = -1; ///< its duration
 
 QVariantMap hints()
 {
@@ -49,7 +49,7 @@ void DesktopNoticeBoard::withdraw()
 
 void DesktopNoticeBoard::connectInBackground()
 {
-    // Without a thread the next notice tries again.
+    // Without a thread the next notice retries.
     m_isConnecting = inBackground(this, m_dispatcher, m_connect,
                                   [this](const QDBusConnection &bus) { begin(bus); });
 }
@@ -100,7 +100,7 @@ void DesktopNoticeBoard::send()
     const QVariantList arguments = {
         QGuiApplication::applicationDisplayName(),
         m_identifier,
-        QGuiApplication::desktopFileName(), // the icon bears the same name
+        QGuiApplication::desktopFileName(), // the icon has the same name
         m_notice->title,
         body,
         QStringList{defaultAction, tr("Show")},
@@ -114,7 +114,7 @@ void DesktopNoticeBoard::send()
 void DesktopNoticeBoard::take(quint32 identifier)
 {
     m_identifier = identifier;
-    if (!m_notice) // taken back while it was on its way
+    if (!m_notice) // withdrawn while pending
         close();
 }
 

@@ -23,7 +23,7 @@ constexpr char lineEnd = '\n';
 
 QByteArray nameOf(const std::filesystem::path &dataFolder)
 {
-    // With a slash at its end, whether the folder is given with one or not.
+    // With a trailing slash, whether or not the folder is given with one.
     const std::filesystem::path normal = (dataFolder / "").lexically_normal();
     const QByteArray folder = QByteArray::fromStdString(normal.string());
     return "loadwick-" + QByteArray::number(::geteuid()) + '-' +
@@ -69,7 +69,7 @@ bool becomesReadable(int descriptor)
     return count > 0;
 }
 
-/// What has come so far: the first line of it, without its end.
+/// The data so far: its first line, without the line end.
 QByteArray received(int descriptor)
 {
     std::array<char, longestToken + 1> bytes{};
@@ -103,7 +103,7 @@ SingleInstance::SingleInstance(const std::filesystem::path &dataFolder, QObject 
         return;
     const LocalAddress address(dataFolder);
     m_isAnswered = ask(address);
-    // When two start at once, one finds no answer and then the name taken.
+    // If two start at once, one gets no answer and then finds the name in use.
     if (!m_isAnswered && !listen(address) && errno == EADDRINUSE)
         m_isAnswered = ask(address);
 }
@@ -136,7 +136,7 @@ void SingleInstance::receive()
         ::accept4(m_socket.number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (!visitor.isOpen() || !isOurs(visitor.number()))
         return;
-    // Owned by the notifier's connection: it closes when the visitor has been heard, or has gone.
+    // Owned by the notifier's connection: it closes once the visitor was heard or has gone.
     const auto held = std::make_shared<FileDescriptor>(std::move(visitor));
     auto *words = new QSocketNotifier(held->number(), QSocketNotifier::Read, this);
     connect(words, &QSocketNotifier::activated, this, [this, words, held] {

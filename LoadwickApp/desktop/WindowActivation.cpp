@@ -7,7 +7,7 @@ namespace Loadwick::WindowActivation {
 
 void bringToFront(QWindow &window, const QByteArray &token)
 {
-    // Qt's Wayland platform takes the leave from here, where a launcher leaves it too.
+    // Qt's Wayland platform reads the token from here, where a launcher leaves it too.
     if (!token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token);
     window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
