@@ -17,7 +17,7 @@ namespace {
 QPalette paletteOf(const QObject &look)
 {
     const auto color = [&look](const char *role) { return look.property(role).value<QColor>(); };
-    QPalette palette(color("button"), color("window")); // derives the shades of edges
+    QPalette palette(color("button"), color("window")); // derives the edge shades
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                             QPalette::BrightText, QPalette::ToolTipText}) {
         palette.setColor(role, color("text"));
@@ -31,7 +31,7 @@ QPalette paletteOf(const QObject &look)
     return palette;
 }
 
-/// The class of all widgets is for the dialog's menus, lists that drop down and tool tips. The
+/// The class of all widgets covers the dialog's menus, drop-down lists and tool tips. The
 /// application's own palette remains the desktop's, by which a PaletteAppearanceSource tells
 /// whether the desktop is dark.
 void apply(const QObject &look, QWidget &dialog)

@@ -24,7 +24,7 @@ QString endingOf(const QString &kind)
     return kind.section(QLatin1Char('*'), -1).chopped(1);
 }
 
-/// Qt's dialog gives its bookmarks a tenth of its width, and cuts dates in half.
+/// Qt's dialog gives its bookmarks a tenth of its width, and truncates dates.
 void widenColumns(const FileDialog &dialog)
 {
     if (auto *columns = dialog.findChild<QSplitter *>())
@@ -43,7 +43,7 @@ QLineEdit *nameField(const FileDialog &dialog)
 
 FileDialog::FileDialog(QWindow &window)
 {
-    // The desktop's dialogs, too, belong to the window that this one belongs to.
+    // The desktop's dialogs, too, are transient to this one's window.
     (void)winId();
     windowHandle()->setTransientParent(&window);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -73,14 +73,14 @@ void FileDialog::accept()
     QLineEdit *field = nameField(*this);
     if (field != nullptr && takesAddress(field->text()))
         return done(Accepted);
-    // Before the dialog asks whether to replace a file of the whole name.
+    // Before the dialog asks whether to replace a file of the complete name.
     if (field != nullptr && acceptMode() == AcceptSave && !field->text().isEmpty())
         if (const QString file = selectedFiles().value(0); !QFileInfo(file).isDir())
             field->setText(field->text() + missingEnding(file));
     QFileDialog::accept();
 }
 
-/// A typed address can name a folder whose name is not UTF-8, which Qt's dialog does not list.
+/// A typed path can name a folder that is not UTF-8, which Qt's dialog does not list.
 bool FileDialog::takesAddress(const QString &text)
 {
     m_addressed.reset();
@@ -93,7 +93,7 @@ bool FileDialog::takesAddress(const QString &text)
 
 void FileDialog::childEvent(QChildEvent *event)
 {
-    // Its questions hold names of files, which are no markup.
+    // Its questions contain file names, which are not markup.
     if (auto *question = qobject_cast<QMessageBox *>(event->child()); question && event->polished())
         question->setTextFormat(Qt::PlainText);
     QFileDialog::childEvent(event);

@@ -10,7 +10,7 @@
 namespace Loadwick {
 namespace {
 
-/// An ending that is added now was part of no question whether to replace a file.
+/// An ending added now was not part of any question whether to replace a file.
 FileSaver::Target targetOf(const FileDialog &dialog, std::filesystem::path file)
 {
     const QString missing = dialog.missingEnding(qtText(pathText(file)));
