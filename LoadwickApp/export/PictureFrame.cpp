@@ -16,10 +16,10 @@ constexpr int margin = 16;
 constexpr double lineGap = 2;
 constexpr double chartGap = 16;
 constexpr int pixelsPerPoint = 2;
-constexpr int tallestImage = 32'000; // many programs open no larger picture
+constexpr int tallestImage = 32'000; // many programs open nothing larger
 
-/// Breaks the words into lines of that width at most and gives the height of all of them. A name
-/// from outside may be one long word, or hold line feeds.
+/// Breaks the words into lines of at most that width and returns their total height. A name from
+/// outside may be one long word, or contain line feeds.
 double layOut(QTextLayout &words, double width)
 {
     QTextOption option(QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
