@@ -15,12 +15,12 @@ namespace {
 
 constexpr qreal naturalSize = 16;
 
-// More than a page shows in all its sizes and colours; at 16 to 64 pixels they take a megabyte.
+// More than a page shows in all sizes and colours; at 16 to 64 pixels they take a megabyte.
 constexpr int greatestPictureCount = 200;
 
 } // namespace
 
-// Which thread paints is the renderer's choice.
+// The renderer decides which thread paints.
 QImage SymbolPictures::find(const QString &key, const std::function<QImage()> &make)
 {
     static QMutex mutex;
@@ -91,8 +91,8 @@ QImage Symbol::picture(int side)
     return SymbolPictures::find(key, [this, side] { return drawn(side); });
 }
 
-// A drawing is black on transparent; the tint replaces the black. Drawn at the size in device
-// pixels and coloured as a whole, overlapping strokes of a translucent tint leave no seams.
+// A drawing is black on transparent; the tint replaces the black. Rendered at device resolution and
+// coloured as a whole, overlapping strokes of a translucent tint leave no seams.
 QImage Symbol::drawn(int side)
 {
     if (!m_drawing)
