@@ -70,7 +70,7 @@ void OnboardingPresenter::presentOnboardingIfFirstLaunch(
         if (isFirst && m_request == request)
             m_delay.start();
     };
-    // Without a thread the next launch asks again.
+    // Without a thread the next launch retries.
     inBackground(this, dispatcher, isFirstLaunch, presentSoon);
 }
 

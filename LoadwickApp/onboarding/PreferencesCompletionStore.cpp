@@ -18,7 +18,8 @@ constexpr auto key = "hasCompletedOnboarding";
 bool canBePreferences(const fs::path &file)
 {
     std::error_code failure;
-    const std::uintmax_t byteCount = fs::file_size(file, failure); // of regular files only
+    const std::uintmax_t byteCount =
+        fs::file_size(file, failure); // fails unless it is a regular file
     return !failure && byteCount <= mostBytes;
 }
 
