@@ -39,7 +39,7 @@ InstructionFileRows::InstructionFileRows()
 
 void InstructionFileRows::show(Context context, std::vector<ListedFile> rows)
 {
-    const Context before = std::exchange(m_context, std::move(context)); // the old rows' files
+    const Context before = std::exchange(m_context, std::move(context)); // keeps the old files
     setRows(std::move(rows));
 }
 

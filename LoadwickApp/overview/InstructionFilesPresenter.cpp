@@ -60,7 +60,7 @@ void InstructionFilesPresenter::show(const ScanReport &report)
 
 void InstructionFilesPresenter::showLargest(const ScanReport &report)
 {
-    // Keeps only the few files that it shows.
+    // Keeps only the few files shown.
     const auto shown = std::make_shared<InstructionFileSet>();
     for (const ListedFile &file : ListedFile::largest(report.fileSet, largestCount))
         shown->repositoryFiles.push_back(*file.estimate);

@@ -8,7 +8,7 @@
 namespace Loadwick {
 namespace {
 
-/// The root alone ends in a slash, and everything lies below it.
+/// Only the root ends in a slash, and everything lies below it.
 std::string folderText(const std::filesystem::path &folder)
 {
     std::string text = pathText(standardizedPath(folder));

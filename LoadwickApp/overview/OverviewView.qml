@@ -16,8 +16,8 @@ Item {
         note: page.disclosure
         visible: page.overview.state === OverviewPresenter.Empty
     }
-    // The other states are created on demand, and every report is a new page, so that its arrival
-    // is animated.
+    // The other states are created on demand. Every report is a new page, so that its arrival
+    // shows.
     Loader {
         id: loading
 

@@ -19,7 +19,7 @@ std::optional<WeeklyKPILine> readInTime(const std::filesystem::path &log)
         return callWithin(limit, [log] { return WeeklyKPIReader::read(log); })
             .value_or(std::nullopt);
     } catch (const std::exception &) {
-        return std::nullopt; // No memory or no thread: the card does without.
+        return std::nullopt; // Out of memory or threads: the card is omitted.
     }
 }
 
