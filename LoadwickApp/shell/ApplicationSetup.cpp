@@ -20,11 +20,11 @@ void prepare()
 
 void apply(QGuiApplication &application)
 {
-    // Qt would go by the language of its own translations, of which there are none.
+    // Qt would use the language of its own translations, of which there are none.
     if (QLocale(QLocale().uiLanguages().value(0)).textDirection() == Qt::RightToLeft)
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     ApplicationStyle::applyFont(application);
-    // For desktops that do not take it from the desktop entry.
+    // For desktops that do not take the icon from the desktop entry.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Loadwick/application.png")));
     AccessiblePress::install();
     ModalGround::install();

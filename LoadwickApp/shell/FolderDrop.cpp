@@ -37,7 +37,7 @@ void FolderDrop::take(const QList<QUrl> &urls)
         else
             Q_EMIT refused();
     };
-    // Without a thread nothing happens; the dialog remains.
+    // Without a thread the drop is lost; the dialog remains.
     inBackground(
         this, m_dispatcher, [folder = *folder] { return isFolder(folder); }, settle);
 }

@@ -45,8 +45,8 @@ void reportDisplayFailure(QtMsgType type, const QMessageLogContext &context, con
     std::_Exit(EXIT_FAILURE);
 }
 
-/// While it exists, a display that does not answer, or a platform that Qt does not have, ends the
-/// program with status 1 and one line on standard error. Qt by itself aborts, and says that the
+/// While it exists, a display that does not answer, or a platform unknown to Qt, ends the program
+/// with status 1 and one line on standard error. Qt itself would abort, and say that the
 /// installation is broken.
 class DisplayFailure final
 {
@@ -68,7 +68,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
     const SingleInstance instance(collaborators.dataFolder);
     if (instance.isAnswered()) {
         std::puts("Loadwick is open already: its window was asked to come to the front.");
-        std::fflush(stdout); // the program's end does without
+        std::fflush(stdout); // the exit does not flush
         return 0;
     }
     LoadwickWindow loadwick(std::move(collaborators));
@@ -78,7 +78,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
                      });
     loadwick.show();
     const int status = QApplication::exec();
-    // What follows tidies up (a copied summary goes to the desktop's clipboard) and may hang.
+    // The clean-up after this line (a copied summary goes to the desktop's clipboard) may hang.
     ProgramEnd::begin(shutdown, status);
     return status;
 }

@@ -22,7 +22,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr int titleBarHeight = 40; // the true one is not known before the window is shown
+constexpr int titleBarHeight = 40; // unknown before the window is shown
 
 QUrl homeUrl()
 {
@@ -80,7 +80,7 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     if (!given.scan.dispatcher)
         given.scan.dispatcher = std::make_shared<QtTaskDispatcher>(m_interface);
     const std::shared_ptr<TaskDispatcher> dispatcher = given.scan.dispatcher;
-    // First of all: its answers are on their way while everything else is made.
+    // Started first: its answers arrive while everything else is created.
     if (given.appearance)
         given.appearance(dispatcher).release()->setParent(&m_engine);
     m_model = std::make_unique<ScanModel>(std::move(given.scan));

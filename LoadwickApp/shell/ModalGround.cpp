@@ -9,7 +9,7 @@
 namespace Loadwick {
 namespace {
 
-/// The accessible items nearest below an item: those that are none stand for what is in them.
+/// The nearest accessible descendants, searched through items that are not accessible.
 void appendAccessible(const QQuickItem &item, QList<QAccessibleInterface *> &found)
 {
     for (QQuickItem *child : item.childItems()) {
@@ -20,7 +20,7 @@ void appendAccessible(const QQuickItem &item, QList<QAccessibleInterface *> &fou
     }
 }
 
-/// An item that Qt ignores passes its children on to its parent, so ignoring would hide nothing.
+/// An item that Qt ignores passes its children to its parent, so ignoring would hide nothing.
 class AccessibleGround final : public QAccessibleObject
 {
 public:

@@ -23,7 +23,7 @@ constexpr auto childGrace = 500ms;
 constexpr auto longestEnd = 900ms;    // leaves the system a tenth of the second
 constexpr int signalStatusBase = 128; // as a shell reports a death by signal
 
-int writeEnd = -1; // all that a signal handler may safely touch
+int writeEnd = -1; // all that a signal handler may touch
 
 void passOn(int signal)
 {
@@ -49,7 +49,7 @@ int openPipe()
         fatalError("Loadwick cannot open a pipe.");
     for (const int end : ends)
         ::fcntl(end, F_SETFD, FD_CLOEXEC);
-    ::fcntl(ends[1], F_SETFL, O_NONBLOCK); // a handler must never wait
+    ::fcntl(ends[1], F_SETFL, O_NONBLOCK); // a handler must not block
     writeEnd = ends[1];
     return ends[0];
 }

@@ -70,7 +70,7 @@ void RecentRepositories::showSelection()
 
 void RecentRepositories::look()
 {
-    // Each on a thread of its own: a disk that hangs holds up no other.
+    // One thread each, so that a hanging disk delays no other.
     for (const Row &row : m_rows.rows())
         lookFor(row.folder);
 }

@@ -17,7 +17,7 @@ bool isScanning(const ContentPresenter &content)
 ScanNotices::ScanNotices(const Words &words, QWindow &window, NoticeBoard &board)
     : m_words(words), m_window(window), m_board(board), m_wasScanning(isScanning(words.content))
 {
-    // The Overview changes last: by then all words are those of the new state.
+    // The Overview changes last: by then all words belong to the new state.
     connect(&m_words.overview, &OverviewPresenter::changed, this, &ScanNotices::follow);
     connect(&m_window, &QWindow::activeChanged, this, [this] {
         if (m_window.isActive())
