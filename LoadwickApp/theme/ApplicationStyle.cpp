@@ -35,9 +35,10 @@ QString installedFamily(const QStringList &preferred)
 void prepare()
 {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    // The default renderer shows coloured fringes and heavy stems beside the software renderer.
+    // The default renderer has coloured fringes and heavy stems compared with the software
+    // renderer.
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
-    // Emulated GL takes twice the time and memory of the software renderer and gives no more.
+    // Emulated GL takes twice the time and memory of the software renderer for the same result.
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsDevice())
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }

@@ -15,7 +15,7 @@ namespace {
 
 using Entries = QHash<QByteArray, QByteArray>;
 
-/// By "group/name". Marks behind a name, as in "name[$i]", are left out; so are translations.
+/// By "group/name". Flags after a name, as in "name[$i]", are dropped; so are translations.
 Entries entries(const QByteArray &text)
 {
     Entries entries;
@@ -126,7 +126,7 @@ std::filesystem::path KdeAppearanceSource::userFile()
 
 void KdeAppearanceSource::read()
 {
-    // KDE replaces the file, after which the watch on the old one is gone; hence the folder too.
+    // KDE replaces the file, which ends the watch on the old one; hence the folder too.
     m_watcher.addPaths({QString::fromStdString(m_file.parent_path().string()),
                         QString::fromStdString(m_file.string())});
     // Without a thread the earlier wishes remain.

@@ -17,14 +17,14 @@ constexpr QLatin1String service("org.freedesktop.portal.Desktop");
 constexpr QLatin1String path("/org/freedesktop/portal/desktop");
 constexpr QLatin1String interface("org.freedesktop.portal.Settings");
 
-/// A portal that the question itself has to start may take its time at log-in.
+/// A portal started by this very call may take its time at log-in.
 constexpr int answerMilliseconds = 25'000;
 
 constexpr auto commonSpace = "org.freedesktop.appearance";
 constexpr auto gnomeSpace = "org.gnome.desktop.interface";
 constexpr auto gnomeAccessSpace = "org.gnome.desktop.a11y.interface";
 
-/// An answer comes in two wrappings, a change in one.
+/// An answer is wrapped twice, a change once.
 QVariant unwrapped(QVariant value)
 {
     while (value.canConvert<QDBusVariant>())
@@ -32,7 +32,7 @@ QVariant unwrapped(QVariant value)
     return value;
 }
 
-/// 1 asks for it; 0 is no preference, and so is any value that future portals may add.
+/// 1 requests it; 0 is no preference, as is any value that future portals may add.
 std::optional<bool> asked(const QVariant &value)
 {
     return value.typeId() == QMetaType::UInt && value.toUInt() == 1 ? std::optional(true)
@@ -80,7 +80,7 @@ std::optional<double> pointsOfFont(const QVariant &value)
     return positive(value.toString().section(QLatin1Char(' '), -1).toDouble());
 }
 
-/// Red, green and blue of sRGB; parts outside of 0 to 1 mean that none is set.
+/// Red, green and blue of sRGB; components outside 0 to 1 mean that none is set.
 std::optional<QColor> accentOfParts(const QVariant &value)
 {
     if (!value.canConvert<QDBusArgument>())
@@ -148,7 +148,7 @@ void PortalAppearanceSource::begin(QDBusConnection bus)
 {
     if (!bus.isConnected())
         return;
-    // Followed before it is asked, so that no change falls in between.
+    // Subscribed before the query, so that no change is missed.
     bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                 SLOT(followChange(QDBusMessage)));
     for (const PortalAnswers::Key &key : PortalAnswers::keys())

@@ -23,7 +23,7 @@ double dampedFraction(const Spring &spring)
     return std::sqrt(1 - spring.dampingFraction * spring.dampingFraction);
 }
 
-/// The curve takes a bare function, so the spring has to be part of its type.
+/// The curve takes a plain function, so the spring must be part of its type.
 template<Spring spring>
 qreal valueAtProgress(qreal progress)
 {
