@@ -10,7 +10,7 @@ namespace Loadwick {
 void TrendSummaryPresenter::show(std::span<const LineSample> samples)
 {
     m_hasScans = !samples.empty();
-    // The first figure loads the locale's data, which the program's start does not need.
+    // The first figure loads the locale's data, which start-up does not need.
     if (m_hasScans)
         word(samples);
     Q_EMIT changed();
