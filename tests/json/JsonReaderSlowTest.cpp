@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t size = 48U << 20;
 
-/// A document that holds `piece` again and again.
+/// A document that repeats `piece`.
 std::string documentOf(std::string_view head, std::string_view piece, std::string_view tail)
 {
     std::string text;
@@ -36,7 +36,7 @@ TEST(JsonReaderSlowTest, copiesAKeptStringOnce)
     }
 }
 
-TEST(JsonReaderSlowTest, needsNoMemoryForWhatIsSkipped)
+TEST(JsonReaderSlowTest, needsNoMemoryForSkippedValues)
 {
     for (const char *piece : {R"("text",)", "[[],{}],", "[1, 2.5],", "     ", R"({"a":null},)"}) {
         const std::string text = documentOf(R"({"other":[)", piece, "0]}");
@@ -46,7 +46,7 @@ TEST(JsonReaderSlowTest, needsNoMemoryForWhatIsSkipped)
     }
 }
 
-TEST(JsonReaderSlowTest, needsNoMemoryForWhatStandsInThePlaceOfAScalar)
+TEST(JsonReaderSlowTest, needsNoMemoryForAContainerWhereAScalarBelongs)
 {
     const std::string text = documentOf(R"({"result":[)", "0,", "0]}");
     const PeakMemory memory;
@@ -54,7 +54,7 @@ TEST(JsonReaderSlowTest, needsNoMemoryForWhatStandsInThePlaceOfAScalar)
     EXPECT_LT(memory.growthInBytes(), size / 20);
 }
 
-TEST(JsonReaderSlowTest, needsOneBitForALevelOfNesting)
+TEST(JsonReaderSlowTest, needsOneBitPerNestingLevel)
 {
     const std::string text = documentOf(R"({"other":)", "[", "");
     const PeakMemory memory;

@@ -34,7 +34,7 @@ TEST(JsonTokensTest, takesAStringToItsClosingQuotationMark)
     EXPECT_EQ(JsonTokens(R"("a\\")").takeString(), R"(a\\)");
 }
 
-TEST(JsonTokensTest, takesNoStringWithoutItsQuotationMarks)
+TEST(JsonTokensTest, rejectsAStringWithoutItsQuotationMarks)
 {
     for (const char *text : {"", "abc\"", "\"", "\"abc", "\"abc\\", "\"abc\\\""})
         EXPECT_FALSE(hasString(text)) << text;
@@ -58,28 +58,28 @@ TEST(JsonTokensTest, joinsSurrogatePairs)
     EXPECT_EQ(textOf(R"(\uD800\uDC00\uDBFF\uDFFF)"), "\U00010000\U0010ffff");
 }
 
-TEST(JsonTokensTest, refusesHalfASurrogatePair)
+TEST(JsonTokensTest, rejectsHalfASurrogatePair)
 {
     for (const char *literal : {R"(\ud83d)", R"(\ude00)", R"(\ud83dx)", R"(\ud83d\n)",
                                 R"(\ud83d\u0041)", R"(\ude00\ud83d)", R"(\ud83d\ud83d)"})
         EXPECT_FALSE(textOf(literal)) << literal;
 }
 
-TEST(JsonTokensTest, refusesUnknownEscapes)
+TEST(JsonTokensTest, rejectsUnknownEscapes)
 {
     for (const char *literal : {R"(\x)", R"(\u12)", R"(\u12g4)", R"(\u-123)", R"(\U0041)",
                                 R"(\u+041)", R"(\u 041)", R"(\')"})
         EXPECT_FALSE(textOf(literal)) << literal;
 }
 
-TEST(JsonTokensTest, refusesControlCharacters)
+TEST(JsonTokensTest, rejectsControlCharacters)
 {
     for (char byte = 0; byte < 0x20; ++byte)
         EXPECT_FALSE(textOf("a"s + byte)) << static_cast<int>(byte);
     EXPECT_EQ(textOf("\x7F"), "\x7F");
 }
 
-TEST(JsonTokensTest, keepsSeparatorsOfLinesAndParagraphs)
+TEST(JsonTokensTest, keepsLineAndParagraphSeparators)
 {
     EXPECT_EQ(textOf("a\u2028b\u0085c"), "a\u2028b\u0085c");
 }

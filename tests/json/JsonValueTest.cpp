@@ -41,13 +41,13 @@ JsonValue nested(std::size_t depth)
 
 } // namespace
 
-TEST(JsonValueTest, endsHoweverDeepItIs)
+TEST(JsonValueTest, isDestroyedWhateverItsDepth)
 {
     for (const std::size_t depth : {0U, 1U, 2U, 5U, 200'000U})
         EXPECT_EQ(nested(depth).as<std::int64_t>() != nullptr, depth == 0);
 }
 
-TEST(JsonValueTest, endsHoweverWideItIs)
+TEST(JsonValueTest, isDestroyedWhateverItsWidth)
 {
     JsonValue value = array(array(), JsonValue(JsonValue::Object()), JsonValue());
     for (int item = 0; item < 100'000; ++item)
@@ -55,7 +55,7 @@ TEST(JsonValueTest, endsHoweverWideItIs)
     EXPECT_EQ(value.as<JsonValue::Array>()->size(), 100'003U);
 }
 
-TEST(JsonValueTest, isMovedWhole)
+TEST(JsonValueTest, movesItsWholeContent)
 {
     JsonValue first = object("a", integer(1));
     JsonValue second = std::move(first);
@@ -67,7 +67,7 @@ TEST(JsonValueTest, isMovedWhole)
     EXPECT_EQ(exactInteger(member(third, "a")), 1);
 }
 
-TEST(JsonValueTest, givesItsContentByKindOnly)
+TEST(JsonValueTest, givesItsContentOnlyAsItsOwnKind)
 {
     const JsonValue text("words");
     EXPECT_EQ(*text.as<std::string>(), "words");
@@ -77,7 +77,7 @@ TEST(JsonValueTest, givesItsContentByKindOnly)
     EXPECT_NE(JsonValue().as<std::nullptr_t>(), nullptr);
 }
 
-TEST(JsonValueTest, givesMembersOfObjectsOnly)
+TEST(JsonValueTest, onlyObjectsHaveMembers)
 {
     const JsonValue value = object("a", JsonValue());
     EXPECT_NE(member(value, "a"), nullptr);
@@ -88,7 +88,7 @@ TEST(JsonValueTest, givesMembersOfObjectsOnly)
     EXPECT_EQ(member(JsonValue(), "a"), nullptr);
 }
 
-TEST(JsonValueTest, givesTheLastOfEqualKeys)
+TEST(JsonValueTest, givesTheLastDuplicateKey)
 {
     EXPECT_EQ(exactInteger(member(object("before", integer(7)), "before")), 7);
 }
@@ -100,7 +100,7 @@ TEST(JsonValueTest, changesAMemberInPlace)
     EXPECT_EQ(exactInteger(member(value, "a")), 2);
 }
 
-TEST(JsonValueTest, givesTheTextOfStringsOnly)
+TEST(JsonValueTest, onlyStringsHaveText)
 {
     const JsonValue text("words");
     EXPECT_EQ(*textOf(&text), "words");

@@ -19,7 +19,7 @@ std::string literal(std::string_view text)
 
 } // namespace
 
-TEST(JsonWriterTest, laysObjectsAndListsOutOnLinesOfTheirOwn)
+TEST(JsonWriterTest, writesOneMemberOrElementALine)
 {
     JsonWriter writer;
     writer.open('{');
@@ -47,7 +47,7 @@ TEST(JsonWriterTest, laysObjectsAndListsOutOnLinesOfTheirOwn)
                              "}");
 }
 
-TEST(JsonWriterTest, writesEmptyBracketsWithoutALine)
+TEST(JsonWriterTest, writesEmptyContainersOnOneLine)
 {
     JsonWriter writer;
     writer.open('{');
@@ -61,7 +61,7 @@ TEST(JsonWriterTest, writesEmptyBracketsWithoutALine)
     EXPECT_EQ(writer.text(), "{\n  \"list\" : [],\n  \"object\" : {}\n}");
 }
 
-TEST(JsonWriterTest, escapesQuotationMarksBackslashesAndControlCharactersOnly)
+TEST(JsonWriterTest, escapesOnlyQuotationMarksBackslashesAndControlCharacters)
 {
     EXPECT_EQ(literal("a\"b\\c"), R"("a\"b\\c")");
     EXPECT_EQ(literal("\b\f\n\r\t"), R"("\b\f\n\r\t")");
@@ -71,7 +71,7 @@ TEST(JsonWriterTest, escapesQuotationMarksBackslashesAndControlCharactersOnly)
     EXPECT_EQ(literal(""), "\"\"");
 }
 
-TEST(JsonWriterTest, writesWhatAnyReaderGivesBack)
+TEST(JsonWriterTest, roundTripsThroughAnyReader)
 {
     std::string all;
     for (int code = 0; code < 0x80; ++code)
@@ -79,12 +79,12 @@ TEST(JsonWriterTest, writesWhatAnyReaderGivesBack)
     EXPECT_EQ(nlohmann::json::parse(literal(all)).get<std::string>(), all);
 }
 
-TEST(JsonWriterTest, putsReplacementCharactersForWhatIsNotUtf8)
+TEST(JsonWriterTest, replacesIllFormedUtf8)
 {
     EXPECT_EQ(literal("a\xFF\"z"), "\"a\xEF\xBF\xBD\\\"z\"");
 }
 
-TEST(JsonWriterTest, writesNumbersToTheEndsOfTheirRange)
+TEST(JsonWriterTest, writesTheExtremesOfEachNumberType)
 {
     JsonWriter writer;
     writer.value(std::numeric_limits<std::int64_t>::min());

@@ -42,7 +42,7 @@ std::ptrdiff_t openDescriptors()
     return std::distance(begin(entries), end(entries));
 }
 
-/// Runs `action` in a child of its own; its return value as exit status.
+/// Runs `action` in a child process; returns its result, the exit status.
 template<typename Action>
 int exitStatusOf(Action action)
 {
@@ -56,7 +56,7 @@ int exitStatusOf(Action action)
 
 } // namespace
 
-TEST(AtomicFileTest, createsAFileThatOnlyTheUserCanRead)
+TEST(AtomicFileTest, createsAFileThatOnlyItsOwnerCanRead)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.path() / "file.json";
@@ -89,7 +89,7 @@ TEST(AtomicFileTest, replacesTheWholeContent)
     EXPECT_EQ(contentOf(path), large);
 }
 
-TEST(AtomicFileTest, leavesTheOldFileToAReaderThatHasItOpen)
+TEST(AtomicFileTest, keepsTheOldContentForAnOpenReader)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.write("file.json", "old");
@@ -100,7 +100,7 @@ TEST(AtomicFileTest, leavesTheOldFileToAReaderThatHasItOpen)
     EXPECT_EQ(std::string(buffer), "old");
 }
 
-TEST(AtomicFileTest, replacesAFileThatNobodyMayRead)
+TEST(AtomicFileTest, replacesAnUnreadableFile)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.write("file.json", "old");
@@ -147,7 +147,7 @@ TEST(AtomicFileTest, writesThroughAChainOfLinksAndAFolderLink)
     EXPECT_EQ(contentOf(folder.path() / "a/b/target.json"), "new");
 }
 
-TEST(AtomicFileTest, createsWhatADanglingLinkLeadsTo)
+TEST(AtomicFileTest, createsTheTargetOfADanglingLink)
 {
     const TemporaryFolder folder;
     fs::create_directories(folder.path() / "elsewhere");
@@ -162,7 +162,7 @@ TEST(AtomicFileTest, createsWhatADanglingLinkLeadsTo)
     EXPECT_TRUE(fs::is_symlink(link));
 }
 
-TEST(AtomicFileTest, givesUpOnLinksWithoutEnd)
+TEST(AtomicFileTest, givesUpOnAnEndlessChainOfLinks)
 {
     const TemporaryFolder folder;
     fs::create_symlink("b", folder.path() / "a");
@@ -184,7 +184,7 @@ TEST(AtomicFileTest, leavesAFolderAtThePathAlone)
     EXPECT_EQ(namesIn(folder.path()), (Names{"empty.json", "file.json"}));
 }
 
-TEST(AtomicFileTest, neverWritesOverAFifoASocketOrADevice)
+TEST(AtomicFileTest, neverReplacesAFifoSocketOrDevice)
 {
     const TemporaryFolder folder;
     const fs::path fifo = folder.path() / "fifo";
@@ -228,7 +228,7 @@ TEST(AtomicFileTest, removesAFifoAtThePath)
     EXPECT_TRUE(namesIn(folder.path()).empty());
 }
 
-TEST(AtomicFileTest, keepsTheOldFileAndNothingElseWhenTheDiskIsFull)
+TEST(AtomicFileTest, keepsOnlyTheOldFileWhenTheDiskIsFull)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.write("file.json", "old");
@@ -245,14 +245,14 @@ TEST(AtomicFileTest, keepsTheOldFileAndNothingElseWhenTheDiskIsFull)
     EXPECT_EQ(namesIn(folder.path()), Names{"file.json"});
 }
 
-TEST(AtomicFileTest, removesNothingWithoutTheFolder)
+TEST(AtomicFileTest, removingWithoutTheFolderIsANoOp)
 {
     const TemporaryFolder folder;
     AtomicFile::remove(folder.path() / "missing/file.json");
     EXPECT_TRUE(namesIn(folder.path()).empty());
 }
 
-TEST(AtomicFileTest, saysWhyTheNewContentIsNotThere)
+TEST(AtomicFileTest, reportsWhyReplacingFailed)
 {
     const TemporaryFolder folder;
     folder.write("folder.csv/inner", "kept");
@@ -269,7 +269,7 @@ TEST(AtomicFileTest, saysWhyTheNewContentIsNotThere)
     EXPECT_EQ(failureAt(std::string(300, 'n')), std::errc::filename_too_long);
 }
 
-TEST(AtomicFileTest, leavesNoDescriptorOpen)
+TEST(AtomicFileTest, leaksNoDescriptor)
 {
     const TemporaryFolder folder;
     folder.write("directory.json/inner", "kept");

@@ -28,7 +28,7 @@ bool isWritten(const fs::path &path, std::string_view bytes)
 
 } // namespace
 
-TEST(AtomicFileWritersTest, removesWhatACrashedWriterLeft)
+TEST(AtomicFileWritersTest, removesTheFilesOfACrashedWriter)
 {
     const TemporaryFolder folder;
     folder.write(".file.json.a1B2c3", "half");
@@ -37,7 +37,7 @@ TEST(AtomicFileWritersTest, removesWhatACrashedWriterLeft)
     EXPECT_EQ(namesIn(folder.path()), Names{"file.json"});
 }
 
-TEST(AtomicFileWritersTest, keepsTheTemporaryFileOfALivingWriter)
+TEST(AtomicFileWritersTest, keepsTheTemporaryFileOfALiveWriter)
 {
     const TemporaryFolder folder;
     const fs::path other = folder.write(".file.json.a1B2c3", "half");
@@ -50,7 +50,7 @@ TEST(AtomicFileWritersTest, keepsTheTemporaryFileOfALivingWriter)
     EXPECT_FALSE(fs::exists(other));
 }
 
-TEST(AtomicFileWritersTest, takesNothingElseForATemporaryFile)
+TEST(AtomicFileWritersTest, mistakesNoOtherFileForATemporaryOne)
 {
     const TemporaryFolder folder;
     const Names others = {".file.json",        ".file.json.a1B2c",   ".file.json.a1B2c3d",
@@ -64,7 +64,7 @@ TEST(AtomicFileWritersTest, takesNothingElseForATemporaryFile)
     EXPECT_EQ(namesIn(folder.path()).size(), others.size() + 3);
 }
 
-TEST(AtomicFileWritersTest, removesTheFileAndWhatCrashedWritersLeft)
+TEST(AtomicFileWritersTest, removesTheFileAndThoseOfCrashedWriters)
 {
     const TemporaryFolder folder;
     folder.write("file.json", "old");
@@ -75,7 +75,7 @@ TEST(AtomicFileWritersTest, removesTheFileAndWhatCrashedWritersLeft)
     AtomicFile::remove(folder.path() / "file.json");
 }
 
-TEST(AtomicFileWritersTest, letsTwoWritersWorkSideBySide)
+TEST(AtomicFileWritersTest, allowsConcurrentWriters)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.path() / "file.json";
@@ -99,7 +99,7 @@ TEST(AtomicFileWritersTest, letsTwoWritersWorkSideBySide)
     EXPECT_EQ(namesIn(folder.path()), Names{"file.json"});
 }
 
-TEST(AtomicFileWritersTest, showsTheOldContentOrTheNewWhenTheWriterIsKilled)
+TEST(AtomicFileWritersTest, isAtomicWhenTheWriterIsKilled)
 {
     const TemporaryFolder folder;
     const std::string first(300'000, 'a');

@@ -33,7 +33,7 @@ TEST(FileDescriptorTest, ownsNothingAtFirst)
     EXPECT_FALSE(FileDescriptor(-1).isOpen());
 }
 
-TEST(FileDescriptorTest, closesWhenItsOwnerGoes)
+TEST(FileDescriptorTest, closesOnDestruction)
 {
     const int number = openNumber();
     {
@@ -44,7 +44,7 @@ TEST(FileDescriptorTest, closesWhenItsOwnerGoes)
     EXPECT_FALSE(isOpenNumber(number));
 }
 
-TEST(FileDescriptorTest, handsOverWhatItOwns)
+TEST(FileDescriptorTest, transfersOwnershipOnMove)
 {
     const int number = openNumber();
     FileDescriptor first(number);
@@ -60,7 +60,7 @@ TEST(FileDescriptorTest, handsOverWhatItOwns)
     EXPECT_TRUE(isOpenNumber(number));
 }
 
-TEST(FileDescriptorTest, closesOnceAndKeepsTheErrorOfTheCallBefore)
+TEST(FileDescriptorTest, closesOnceAndPreservesErrno)
 {
     FileDescriptor owner(openNumber());
     errno = ENOSPC;
@@ -80,12 +80,12 @@ TEST(FileDescriptorTest, duplicatesClosedOnExecAndAboveTheStandardStreams)
     EXPECT_EQ(fcntl(duplicate.number(), F_GETFD), FD_CLOEXEC);
 }
 
-TEST(FileDescriptorTest, duplicatesNoneToNone)
+TEST(FileDescriptorTest, duplicatesNothingAsNothing)
 {
     EXPECT_FALSE(FileDescriptor().duplicate().isOpen());
 }
 
-TEST(FileDescriptorTest, survivesBeingHandedToItself)
+TEST(FileDescriptorTest, survivesSelfAssignment)
 {
     FileDescriptor owner(openNumber());
     const int number = owner.number();
@@ -113,7 +113,7 @@ TEST(FileDescriptorTest, opensPipesClosedOnExecAndAboveTheStandardStreams)
     }
 }
 
-TEST(FileDescriptorTest, leavesClosedStandardStreamsFreeOfPipes)
+TEST(FileDescriptorTest, opensNoPipeOnAClosedStandardStream)
 {
     const FileDescriptor keptInput(fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 10));
     close(STDIN_FILENO);
@@ -124,17 +124,17 @@ TEST(FileDescriptorTest, leavesClosedStandardStreamsFreeOfPipes)
         dup2(keptInput.number(), STDIN_FILENO);
 }
 
-// The pipes of an unprivileged user may already hold all that they may together.
+// An unprivileged user's pipes may already have used up their common limit.
 TEST(FileDescriptorTest, opensPipesOfAtLeastTheUsualSize)
 {
 #if defined(__linux__)
     EXPECT_GE(fcntl(Pipe::open().readEnd.number(), F_GETPIPE_SZ), 64 * 1024);
 #else
-    GTEST_SKIP() << "this system does not tell";
+    GTEST_SKIP() << "this system does not report the size";
 #endif
 }
 
-TEST(FileDescriptorTest, saysWhyThereIsNoPipe)
+TEST(FileDescriptorTest, throwsTheReasonForAMissingPipe)
 {
     rlimit before{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);

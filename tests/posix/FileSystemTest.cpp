@@ -34,7 +34,7 @@ Entries entriesOf(const fs::path &folder)
 
 } // namespace
 
-TEST(FileSystemTest, tellsFilesFromFolders)
+TEST(FileSystemTest, distinguishesFilesFromFolders)
 {
     const TemporaryFolder folder;
     (void)folder.write("file", "");
@@ -45,7 +45,7 @@ TEST(FileSystemTest, tellsFilesFromFolders)
                                                  {".hidden", EntryKind::file}}));
 }
 
-TEST(FileSystemTest, takesALinkForTheFileItLeadsTo)
+TEST(FileSystemTest, countsALinkToAFileAsAFile)
 {
     const TemporaryFolder folder;
     (void)folder.write("file", "");
@@ -61,7 +61,7 @@ TEST(FileSystemTest, takesALinkForTheFileItLeadsTo)
     EXPECT_EQ(entries.at("toItself"), EntryKind::other);
 }
 
-TEST(FileSystemTest, takesAFifoForNoFile)
+TEST(FileSystemTest, doesNotCountAFifoAsAFile)
 {
     const TemporaryFolder folder;
     ASSERT_EQ(mkfifo((folder.path() / "fifo").c_str(), 0600), 0);
@@ -88,7 +88,7 @@ TEST(FileSystemTest, stopsWhenToldTo)
     EXPECT_EQ(visits, 1);
 }
 
-TEST(FileSystemTest, findsNothingInWhatCannotBeListed)
+TEST(FileSystemTest, findsNothingUnlessThePathIsAFolder)
 {
     const TemporaryFolder folder;
     EXPECT_TRUE(entriesOf(folder.path() / "missing").empty());
@@ -97,7 +97,7 @@ TEST(FileSystemTest, findsNothingInWhatCannotBeListed)
     EXPECT_TRUE(entriesOf("").empty());
 }
 
-TEST(FileSystemTest, findsNothingInAFolderThatMayNotBeRead)
+TEST(FileSystemTest, findsNothingInAnUnreadableFolder)
 {
     const TemporaryFolder folder;
     (void)folder.write("sub/file", "");
@@ -106,7 +106,7 @@ TEST(FileSystemTest, findsNothingInAFolderThatMayNotBeRead)
     EXPECT_TRUE(entriesOf(folder.path() / "sub").empty());
 }
 
-TEST(FileSystemTest, holdsWhatAnswersToAPath)
+TEST(FileSystemTest, mayHoldAnExistingPath)
 {
     const TemporaryFolder folder;
     (void)folder.write("inner/file", "");
@@ -115,7 +115,7 @@ TEST(FileSystemTest, holdsWhatAnswersToAPath)
     EXPECT_FALSE(PosixFileSystem().mayHold(folder.path() / "other/file"));
 }
 
-TEST(FileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
+TEST(FileSystemTest, mayHoldADanglingLinkOrAnUnexaminablePath)
 {
     const TemporaryFolder folder;
     fs::create_symlink("missing", folder.path() / "link");
@@ -126,7 +126,7 @@ TEST(FileSystemTest, mayHoldALinkThatLeadsNowhereAndWhatItCannotLookAt)
     EXPECT_TRUE(PosixFileSystem().mayHold(folder.path() / "shut/file"));
 }
 
-TEST(FileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
+TEST(FileSystemTest, recognisesALeafFolderWhereTheDiskCountsFolders)
 {
     const EnvironmentSwap swap({"TMPDIR=/dev/shm"});
     const TemporaryFolder folder;
@@ -138,14 +138,14 @@ TEST(FileSystemTest, knowsAFolderWithoutFoldersWhereTheDiskCountsThem)
     EXPECT_FALSE(PosixFileSystem().mayHoldFolders(folder.path() / "deep"));
 }
 
-TEST(FileSystemTest, rulesNoFolderOutWhereNobodyKeepsCount)
+TEST(FileSystemTest, rulesOutNoFolderWhereTheDiskDoesNotCount)
 {
     const TemporaryFolder folder;
     EXPECT_TRUE(PosixFileSystem().mayHoldFolders("/proc/self/fd")) << "two links, and no such disk";
     EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "missing"));
 }
 
-TEST(FileSystemTest, examinesAnEntryOnlyWhereItsTypeSaysTooLittle)
+TEST(FileSystemTest, examinesAnEntryOnlyIfTheListingLacksItsKind)
 {
     const TemporaryFolder folder;
     (void)folder.write("file", "");

@@ -66,19 +66,19 @@ TEST(ProcessContextTest, readsTheEnvironmentAsBytes)
               (Environment{{"A", "1"}, {"EMPTY", ""}, {"WITH", "a=b"}, {"BYTES", "\xFF"}}));
 }
 
-TEST(ProcessContextTest, takesTheFirstOfEqualNames)
+TEST(ProcessContextTest, firstOfDuplicateNamesWins)
 {
     const EnvironmentSwap swap({"A=1", "A=2"});
     EXPECT_EQ(currentEnvironment(), (Environment{{"A", "1"}}));
 }
 
-TEST(ProcessContextTest, leavesOutEntriesWithoutName)
+TEST(ProcessContextTest, skipsEntriesWithoutAName)
 {
     const EnvironmentSwap swap({"=x", "plain", "A=1"});
     EXPECT_EQ(currentEnvironment(), (Environment{{"A", "1"}}));
 }
 
-TEST(ProcessContextTest, hasNoVariablesWithoutEnvironment)
+TEST(ProcessContextTest, hasNoVariablesWithoutAnEnvironment)
 {
     char **const before = environ;
     environ = nullptr;
@@ -105,7 +105,7 @@ TEST(ProcessContextTest, fallsBackToTheRootWhenTheCurrentFolderIsGone)
     EXPECT_EQ(gone, "/");
 }
 
-TEST(ProcessContextTest, takesHomeFromTheEnvironment)
+TEST(ProcessContextTest, prefersHomeFromTheEnvironment)
 {
     EXPECT_EQ(homeFolder({{"HOME", "/some/home"}}), "/some/home");
     EXPECT_EQ(homeFolder({{"HOME", "/bytes\xFF"}}), "/bytes\xFF");
@@ -119,19 +119,19 @@ TEST(ProcessContextTest, asksThePasswordDatabaseWhenHomeIsUnsetOrEmpty)
     EXPECT_EQ(homeFolder({{"HOME", ""}}), recorded);
 }
 
-TEST(ProcessContextTest, givesTheRootWhereNoHomeIsRecorded)
+TEST(ProcessContextTest, fallsBackToTheRootWithoutARecordedHome)
 {
     for (const auto lookup : {nobody, withoutHome, withEmptyHome, broken})
         EXPECT_EQ(recordedHome(7, lookup), "/");
 }
 
-TEST(ProcessContextTest, asksAgainAfterAnInterruption)
+TEST(ProcessContextTest, retriesAnInterruptedLookup)
 {
     failures = 3;
     EXPECT_EQ(recordedHome(7, interrupted), "/home/patient");
 }
 
-TEST(ProcessContextTest, makesRoomForALongEntry)
+TEST(ProcessContextTest, growsItsBufferForALongEntry)
 {
     EXPECT_EQ(recordedHome(7, needingRoom), "/home/long");
 }

@@ -34,7 +34,7 @@ int failureNumber(const fs::path &path)
 
 } // namespace
 
-TEST(RegularFileTest, readsAFileWhole)
+TEST(RegularFileTest, readsAWholeFile)
 {
     const TemporaryFolder folder;
     const std::string content = "first\n" + std::string(200'000, 'x') + "\nlast";
@@ -70,7 +70,7 @@ TEST(RegularFileTest, readsNoFurtherThanTheLimit)
     EXPECT_EQ(file->readUpTo(4), "ef");
 }
 
-TEST(RegularFileTest, readsOnFromAnOffset)
+TEST(RegularFileTest, readsFromAnOffset)
 {
     const TemporaryFolder folder;
     auto file = RegularFile::open(folder.write("a", "abcdef"));
@@ -123,7 +123,7 @@ TEST(RegularFileTest, stopsInAFileThatNeverEnds)
     EXPECT_TRUE(!content || content->size() <= 300'000);
 }
 
-TEST(RegularFileTest, followsLinksAndTellsFilesApart)
+TEST(RegularFileTest, followsLinksAndDistinguishesFiles)
 {
     const TemporaryFolder folder;
     (void)folder.write("a", "abc");
@@ -135,7 +135,7 @@ TEST(RegularFileTest, followsLinksAndTellsFilesApart)
     EXPECT_NE(link->identity(), RegularFile::open(folder.write("b", "abc"))->identity());
 }
 
-TEST(RegularFileTest, saysWhyThereIsNoFile)
+TEST(RegularFileTest, reportsWhyOpeningFailed)
 {
     const TemporaryFolder folder;
     EXPECT_EQ(failureNumber(folder.path() / "missing"), ENOENT);
@@ -145,14 +145,14 @@ TEST(RegularFileTest, saysWhyThereIsNoFile)
     EXPECT_EQ(failureNumber(""), ENOENT);
 }
 
-TEST(RegularFileTest, takesAPathWithNulForMissing)
+TEST(RegularFileTest, treatsAPathWithANulAsMissing)
 {
     const TemporaryFolder folder;
     const std::string path = folder.write("a", "abc").string();
     EXPECT_EQ(failureNumber(path + std::string(1, '\0') + "b"), ENOENT);
 }
 
-TEST(RegularFileTest, refusesAFolderADeviceAFifoAndASocketUnopened)
+TEST(RegularFileTest, refusesFoldersDevicesFifosAndSocketsUnopened)
 {
     const TemporaryFolder folder;
     EXPECT_EQ(failureNumber(folder.path()), 0);
@@ -168,7 +168,7 @@ TEST(RegularFileTest, refusesAFolderADeviceAFifoAndASocketUnopened)
     EXPECT_EQ(failureNumber(folder.path() / "socket"), 0);
 }
 
-TEST(RegularFileTest, saysWhenPermissionIsMissing)
+TEST(RegularFileTest, reportsMissingPermission)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.write("a", "abc");
@@ -179,7 +179,7 @@ TEST(RegularFileTest, saysWhenPermissionIsMissing)
     EXPECT_TRUE(failure.isDenied());
 }
 
-TEST(RegularFileTest, knowsTheNumbersOfADenial)
+TEST(RegularFileTest, recognisesTheErrorsOfADenial)
 {
     EXPECT_TRUE(RegularFile::Failure{EACCES}.isDenied());
     EXPECT_TRUE(RegularFile::Failure{EPERM}.isDenied());
@@ -187,7 +187,7 @@ TEST(RegularFileTest, knowsTheNumbersOfADenial)
     EXPECT_FALSE(RegularFile::Failure{0}.isDenied());
 }
 
-TEST(RegularFileTest, leavesNoDescriptorOpen)
+TEST(RegularFileTest, leaksNoDescriptor)
 {
     const TemporaryFolder folder;
     const fs::path path = folder.write("a", "abc");
@@ -214,7 +214,7 @@ TEST(RegularFileTest, hidesItsDescriptorFromChildren)
     EXPECT_NE(fcntl(next, F_GETFD) & FD_CLOEXEC, 0);
 }
 
-TEST(RegularFileTest, saysWhyAnOpenFileCannotBeRead)
+TEST(RegularFileTest, reportsWhyAnOpenFileCannotBeRead)
 {
     auto file = RegularFile::open("/proc/self/mem"); // nothing is mapped at its beginning
     ASSERT_TRUE(file);

@@ -9,12 +9,12 @@ namespace Loadwick {
 
 using namespace std::chrono_literals;
 
-TEST(BoundedCallTest, givesTheValueOfACallThatEndsInTime)
+TEST(BoundedCallTest, returnsTheValueOfACallThatEndsInTime)
 {
     EXPECT_EQ(callWithin(30s, [] { return 42; }), 42);
 }
 
-TEST(BoundedCallTest, givesNothingWhenTheLimitComesFirst)
+TEST(BoundedCallTest, returnsNothingAfterItsLimit)
 {
     std::promise<void> release;
     const std::shared_future<void> released = release.get_future().share();
@@ -27,13 +27,13 @@ TEST(BoundedCallTest, givesNothingWhenTheLimitComesFirst)
     release.set_value();
 }
 
-TEST(BoundedCallTest, givesNothingWithinNoTime)
+TEST(BoundedCallTest, returnsNothingWithAZeroLimit)
 {
     EXPECT_EQ(callWithin(0s, [] { return 42; }), std::nullopt);
     EXPECT_EQ(callWithin(-1s, [] { return 42; }), std::nullopt);
 }
 
-TEST(BoundedCallTest, passesAnExceptionOn)
+TEST(BoundedCallTest, rethrowsAnException)
 {
     EXPECT_THROW((void)callWithin(30s, []() -> int { throw std::runtime_error("no"); }),
                  std::runtime_error);

@@ -44,13 +44,13 @@ bool exists(pid_t process)
 
 } // namespace
 
-TEST(ChildProcessTest, tellsTheExitStatus)
+TEST(ChildProcessTest, reportsTheExitStatus)
 {
     ChildProcess child = startHostile({"print", "", "", "143"});
     EXPECT_EQ(child.reap(), (Ending{143, false}));
 }
 
-TEST(ChildProcessTest, tellsTheSignalThatEndedIt)
+TEST(ChildProcessTest, reportsTheSignalThatEndedIt)
 {
     ChildProcess child = startHostile({"close-output"});
     EXPECT_TRUE(child.isRunning());
@@ -58,7 +58,7 @@ TEST(ChildProcessTest, tellsTheSignalThatEndedIt)
     EXPECT_EQ(child.reap(), (Ending{SIGUSR1, true}));
 }
 
-TEST(ChildProcessTest, isSeenToEndWithoutBeingReaped)
+TEST(ChildProcessTest, waitsWithoutReaping)
 {
     ChildProcess child = startHostile({"print", "", "", "0"});
     ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));
@@ -67,7 +67,7 @@ TEST(ChildProcessTest, isSeenToEndWithoutBeingReaped)
     EXPECT_EQ(child.reap(), (Ending{0, false}));
 }
 
-TEST(ChildProcessTest, isWaitedForUntilADeadline)
+TEST(ChildProcessTest, waitsUntilADeadline)
 {
     const ChildProcess child = startHostile({"close-output"});
     const Stopwatch watch;
@@ -75,14 +75,14 @@ TEST(ChildProcessTest, isWaitedForUntilADeadline)
     EXPECT_GE(watch.seconds(), 0.03);
 }
 
-TEST(ChildProcessTest, isRunningWhileItIsStopped)
+TEST(ChildProcessTest, countsAsRunningWhileStopped)
 {
     const ChildProcess child = startHostile({"stop"});
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
     EXPECT_TRUE(child.isRunning());
 }
 
-TEST(ChildProcessTest, isKilledAndReapedWhenItsOwnerGoes)
+TEST(ChildProcessTest, isKilledAndReapedOnDestruction)
 {
     const ProcessCensus before = ProcessCensus::now();
     pid_t processID = 0;
@@ -108,7 +108,7 @@ TEST(ChildProcessTest, hasOneOwnerAtATime)
     first.signalGroup(SIGKILL);
 }
 
-TEST(ChildProcessTest, isReapedInTheBackgroundWhenItIsAbandoned)
+TEST(ChildProcessTest, isReapedInTheBackgroundOnceAbandoned)
 {
     const ProcessCensus before = ProcessCensus::now();
     ChildProcess child = startHostile({"close-output"});
@@ -120,7 +120,7 @@ TEST(ChildProcessTest, isReapedInTheBackgroundWhenItIsAbandoned)
     EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
 }
 
-TEST(ChildProcessTest, saysWhyItCouldNotStart)
+TEST(ChildProcessTest, reportsWhyItCouldNotStart)
 {
     const TemporaryFolder folder;
     EXPECT_EQ(startFailure({folder.path() / "none", {}, {}, std::nullopt}),
@@ -137,7 +137,7 @@ TEST(ChildProcessTest, saysWhyItCouldNotStart)
               std::errc::no_such_file_or_directory);
 }
 
-TEST(ChildProcessTest, refusesTextsWithNul)
+TEST(ChildProcessTest, rejectsTextsWithNul)
 {
     using namespace std::string_literals;
     EXPECT_EQ(startFailure({hostileChildPath() + "\0x"s, {}, {}, std::nullopt}),
@@ -173,7 +173,7 @@ TEST(ChildProcessTest, leavesTheShutdownListBeforeItIsReaped)
     EXPECT_LT(watch.seconds(), 30);
 }
 
-TEST(ChildProcessTest, endsWithoutAStatusWhereTheSystemReapsItsChildrenItself)
+TEST(ChildProcessTest, hasNoStatusWhereTheSystemReapsChildren)
 {
     const auto usual = std::signal(SIGCHLD, SIG_IGN);
     ChildProcess child = startHostile({"print", "", "", "143"});
@@ -182,7 +182,7 @@ TEST(ChildProcessTest, endsWithoutAStatusWhereTheSystemReapsItsChildrenItself)
     std::signal(SIGCHLD, usual);
 }
 
-TEST(ChildProcessTest, isSeenToEndByAWatchAsOftenAsThatIsAsked)
+TEST(ChildProcessTest, watchReportsItsEndRepeatedly)
 {
     ChildProcess child = startHostileChild({"trap-term", "0"});
     const ExitWatch watch(child.processID());
@@ -193,7 +193,7 @@ TEST(ChildProcessTest, isSeenToEndByAWatchAsOftenAsThatIsAsked)
     EXPECT_EQ(child.reap().status, 0);
 }
 
-TEST(ChildProcessTest, countsAsEndedForAWatchOnceItIsReaped)
+TEST(ChildProcessTest, watchCountsAReapedChildAsEnded)
 {
     ChildProcess child = startHostileChild({"print", "x", "", "0"});
     const pid_t processID = child.processID();
@@ -210,7 +210,7 @@ TEST(ChildProcessTest, isAskedToEndFirst)
     EXPECT_EQ(child.reap(), (Ending{143, false}));
 }
 
-TEST(ChildProcessTest, isKilledAfterTheGraceAndNotBefore)
+TEST(ChildProcessTest, isKilledOnlyAfterTheGrace)
 {
     ChildProcess child = startHostileChild({"ignore-term"});
     const Stopwatch watch;
@@ -219,7 +219,7 @@ TEST(ChildProcessTest, isKilledAfterTheGraceAndNotBefore)
     EXPECT_EQ(child.reap(), (Ending{SIGKILL, true}));
 }
 
-TEST(ChildProcessTest, isKilledWhileItIsStopped)
+TEST(ChildProcessTest, isKilledWhileStopped)
 {
     ChildProcess child = startHostileChild({"ignore-term"});
     child.signal(SIGSTOP);
@@ -237,7 +237,7 @@ TEST(ChildProcessTest, isLeftAloneOnceItHasEnded)
     EXPECT_EQ(child.reap(), (Ending{3, false}));
 }
 
-TEST(ChildProcessTest, leavesAGroupThatIsSwept)
+TEST(ChildProcessTest, leavesBehindAGroupThatIsSwept)
 {
     ChildProcess child = startHostileChild({"grandchild", "20000"});
     ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));

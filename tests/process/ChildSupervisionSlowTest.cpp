@@ -14,7 +14,7 @@
 
 namespace Loadwick {
 
-TEST(ChildSupervisionSlowTest, killsItsChildAtOnceWhenThereIsNoMemoryForItsOutput)
+TEST(ChildSupervisionSlowTest, killsItsChildWhenMemoryForItsOutputRunsOut)
 {
     if (isSanitized)
         GTEST_SKIP() << "a sanitizer needs memory of its own";

@@ -54,7 +54,7 @@ private:
 
 } // namespace
 
-TEST(ChildSupervisionTest, givesTheBytesAsTheyCame)
+TEST(ChildSupervisionTest, returnsTheBytesUnchanged)
 {
     const auto outcome = ChildSupervision::run(hostileRequest({"half"}));
     EXPECT_EQ(outcome.standardOutput, "half \xE2\x82");
@@ -62,7 +62,7 @@ TEST(ChildSupervisionTest, givesTheBytesAsTheyCame)
     EXPECT_EQ(outcome.ending, (ChildProcess::Ending{0, false}));
 }
 
-TEST(ChildSupervisionTest, tellsNoOutputFromOutputBeyondTheLimit)
+TEST(ChildSupervisionTest, distinguishesNoOutputFromTooMuch)
 {
     EXPECT_EQ(ChildSupervision::run(hostileRequest({"print", "", "", "0"})).standardOutput, "");
     EXPECT_EQ(ChildSupervision::run(hostileRequest({"flood", "1001"})).standardOutput,
@@ -102,7 +102,7 @@ TEST(ChildSupervisionTest, leavesNothingBehindWhenTheChildCannotStart)
     EXPECT_TRUE(ProcessCensus::now().isWithin(before));
 }
 
-TEST(ChildSupervisionTest, endsItsChildWithTheProgram)
+TEST(ChildSupervisionTest, stopsItsChildWhenTheProgramEnds)
 {
     ChildSupervision::Request request = hostileRequest({"close-output"});
     request.shutdown = std::make_shared<Shutdown>();

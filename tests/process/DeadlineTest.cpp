@@ -16,7 +16,7 @@ TEST(DeadlineTest, liesInTheFuture)
     EXPECT_LT(deadlineAfter(0.25), before + 60s);
 }
 
-TEST(DeadlineTest, takesWhatIsNoDurationForNow)
+TEST(DeadlineTest, treatsAnInvalidDurationAsNow)
 {
     const auto isNow = [](double seconds) {
         const Deadline before = std::chrono::steady_clock::now();

@@ -14,7 +14,7 @@ namespace Loadwick {
 
 using Stream = OutputBox::Stream;
 
-TEST(OutputBoxSlowTest, saysWhenMemoryRanOutForEitherStream)
+TEST(OutputBoxSlowTest, reportsWhenMemoryRanOutForEitherStream)
 {
     if (isSanitized)
         GTEST_SKIP() << "a sanitizer needs memory of its own";

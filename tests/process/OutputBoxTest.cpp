@@ -59,7 +59,7 @@ TEST(OutputBoxTest, keepsExactlyItsLimit)
     EXPECT_EQ(std::move(beyond).join(), std::nullopt);
 }
 
-TEST(OutputBoxTest, keepsNulAndBytesThatAreNoText)
+TEST(OutputBoxTest, keepsNulAndOtherBinaryBytes)
 {
     const std::string text("a\0\xFF", 3);
     CapturedBytes bytes(3);
@@ -76,7 +76,7 @@ TEST(OutputBoxTest, keepsTheStreamsApart)
     EXPECT_EQ(box.take(Stream::standardError), "error");
 }
 
-TEST(OutputBoxTest, dropsWhatComesAfterItWasEmptied)
+TEST(OutputBoxTest, dropsChunksAfterItWasEmptied)
 {
     OutputBox box(100);
     box.append(Stream::standardOutput, std::string("early"));
@@ -85,7 +85,7 @@ TEST(OutputBoxTest, dropsWhatComesAfterItWasEmptied)
     EXPECT_EQ(box.take(Stream::standardOutput), std::nullopt);
 }
 
-TEST(OutputBoxTest, limitsEachStreamByItself)
+TEST(OutputBoxTest, limitsEachStreamSeparately)
 {
     OutputBox box(4);
     box.append(Stream::standardOutput, std::string("four"));
@@ -102,7 +102,7 @@ TEST(OutputBoxTest, remembersThatAReaderRanOutOfTime)
     EXPECT_TRUE(box.readersDidTimeOut());
 }
 
-TEST(OutputBoxTest, isFilledByTwoThreadsAtOnce)
+TEST(OutputBoxTest, isFilledByTwoThreadsConcurrently)
 {
     OutputBox box(1'000'000);
     const auto fill = [&](Stream stream, const std::string &text) {

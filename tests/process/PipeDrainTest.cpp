@@ -42,14 +42,14 @@ void writeAll(const FileDescriptor &target, std::string_view text)
 
 } // namespace
 
-TEST(PipeDrainTest, hasADeadlineThatIsUnlimitedUntilItIsSet)
+TEST(PipeDrainTest, hasNoDeadlineUntilOneIsSet)
 {
     const ReaderDeadline deadline;
     EXPECT_EQ(deadline.expiry(), std::nullopt);
     EXPECT_FALSE(deadline.hasPassed());
 }
 
-TEST(PipeDrainTest, hasADeadlineThatPassesAtItsMoment)
+TEST(PipeDrainTest, deadlinePassesAtItsMoment)
 {
     ReaderDeadline deadline;
     deadline.setExpiry(deadlineAfter(60));

@@ -54,7 +54,7 @@ TEST(ProcessSpawnTest, givesTheChildTheNullDeviceForInput)
     EXPECT_EQ(lineOf(described(commandInRoot({"describe"})), "input"), "input bytes: 0");
 }
 
-TEST(ProcessSpawnTest, passesNoOtherDescriptorOn)
+TEST(ProcessSpawnTest, passesOnNoOtherDescriptor)
 {
     const FileDescriptor leaky(open("/dev/null", O_RDONLY));
     const FileDescriptor high(fcntl(leaky.number(), F_DUPFD, 300));
@@ -87,7 +87,7 @@ TEST(ProcessSpawnTest, startsTheChildInItsFolder)
     EXPECT_EQ(lineOf(described(command), "folder"), "folder: /usr/bin");
 }
 
-TEST(ProcessSpawnTest, looksForARelativeExecutableInItsOwnFolderNotInTheChilds)
+TEST(ProcessSpawnTest, resolvesARelativeExecutableAgainstItsOwnFolder)
 {
     ChildCommand command = commandInRoot({"describe"});
     command.executable = std::filesystem::relative(hostileChildPath()).string();
@@ -95,7 +95,7 @@ TEST(ProcessSpawnTest, looksForARelativeExecutableInItsOwnFolderNotInTheChilds)
     EXPECT_EQ(lineOf(described(command), "folder"), "folder: /usr/bin");
 }
 
-TEST(ProcessSpawnTest, passesArgumentsOnAsTheyAre)
+TEST(ProcessSpawnTest, passesArgumentsUnchanged)
 {
     EXPECT_EQ(described(commandInRoot({"arguments", "", "two words", "*$HOME", "\n\xFF"})),
               "\ntwo words\n*$HOME\n\n\xFF\n");

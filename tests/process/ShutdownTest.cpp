@@ -35,7 +35,7 @@ bool isListed(Shutdown &shutdown)
 
 } // namespace
 
-TEST(ShutdownTest, sleepsForTheWholeDurationWhenNobodyAsksForTheEnd)
+TEST(ShutdownTest, sleepsForTheWholeDurationUnlessTheEndIsRequested)
 {
     Shutdown shutdown;
     const Stopwatch watch;
@@ -59,7 +59,7 @@ TEST(ShutdownTest, wakesEveryWaitNowAndLater)
     EXPECT_TRUE(shutdown.isRequested());
 }
 
-TEST(ShutdownTest, takesNoChildOnceTheEndWasRequested)
+TEST(ShutdownTest, rejectsAChildOnceTheEndWasRequested)
 {
     Shutdown shutdown;
     EXPECT_TRUE(shutdown.announce());
@@ -69,7 +69,7 @@ TEST(ShutdownTest, takesNoChildOnceTheEndWasRequested)
     shutdown.withdraw();
 }
 
-TEST(ShutdownTest, returnsAtOnceWithoutChildren)
+TEST(ShutdownTest, returnsImmediatelyWithoutChildren)
 {
     Shutdown shutdown;
     const Stopwatch watch;
@@ -117,7 +117,7 @@ TEST(ShutdownTest, killsAChildThatIgnoresTheRequest)
     EXPECT_EQ(child.reap(), (ChildProcess::Ending{SIGKILL, true}));
 }
 
-TEST(ShutdownTest, signalsNoGroupThatWasRemoved)
+TEST(ShutdownTest, doesNotSignalARemovedGroup)
 {
     const auto shutdown = std::make_shared<Shutdown>();
     const ChildProcess child = startSilentChild(nullptr);
@@ -127,7 +127,7 @@ TEST(ShutdownTest, signalsNoGroupThatWasRemoved)
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
 }
 
-TEST(ShutdownTest, signalsNeitherItsOwnGroupNorEverybody)
+TEST(ShutdownTest, neverSignalsItsOwnGroupOrEveryProcess)
 {
     // The numbers 0 and 1 mean these to kill().
     Shutdown shutdown;
@@ -171,7 +171,7 @@ TEST(ShutdownTest, waitsForAChildThatIsBeingStarted)
     EXPECT_TRUE(isListed(*shutdown));
 }
 
-TEST(ShutdownTest, refusesAnEntryOnceTheEndWasRequested)
+TEST(ShutdownTest, rejectsAnEntryOnceTheEndWasRequested)
 {
     const auto shutdown = std::make_shared<Shutdown>();
     ShutdownEntry early(shutdown);
@@ -180,7 +180,7 @@ TEST(ShutdownTest, refusesAnEntryOnceTheEndWasRequested)
     EXPECT_FALSE(ShutdownEntry(shutdown).isAnnounced());
 }
 
-TEST(ShutdownTest, mayBeMissingForAnEntry)
+TEST(ShutdownTest, entryWorksWithoutAShutdown)
 {
     ShutdownEntry entry(nullptr);
     EXPECT_TRUE(entry.isAnnounced());

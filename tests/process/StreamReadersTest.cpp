@@ -39,7 +39,7 @@ TEST(StreamReadersTest, stopAfterTheirGraceAndKeepWhatTheyRead)
     EXPECT_EQ(readers.box().take(Stream::standardOutput), "kept");
 }
 
-TEST(StreamReadersTest, leaveAStreamEmptyThatCannotBeDuplicated)
+TEST(StreamReadersTest, leaveAStreamEmptyIfItCannotBeDuplicated)
 {
     StreamReaders readers(100);
     readers.start(FileDescriptor(), Stream::standardOutput);
@@ -47,7 +47,7 @@ TEST(StreamReadersTest, leaveAStreamEmptyThatCannotBeDuplicated)
     EXPECT_EQ(readers.box().take(Stream::standardOutput), "");
 }
 
-TEST(StreamReadersTest, endByThemselvesWhenNobodyWaitsForThem)
+TEST(StreamReadersTest, endOnTheirOwnOnceAbandoned)
 {
     const Pipe output = Pipe::open();
     const ProcessCensus before = ProcessCensus::now();

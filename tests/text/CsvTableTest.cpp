@@ -15,7 +15,7 @@ std::string cell(std::string_view text)
     return table.bytes();
 }
 
-TEST(CsvTableTest, separatesCellsByCommasAndEndsRowsByCarriageReturnAndLineFeed)
+TEST(CsvTableTest, separatesCellsByCommasAndEndsRowsWithCrLf)
 {
     CsvTable table;
     table.text("a").figure(1).empty().text("b").endRow();
@@ -51,14 +51,14 @@ TEST(CsvTableTest, aTextIsNeverAFormula)
     EXPECT_EQ(cell("a=1"), "a=1");
 }
 
-TEST(CsvTableTest, aFigureStaysAFigure)
+TEST(CsvTableTest, aFigureIsNeverEscaped)
 {
     CsvTable table;
     table.figure(-2'500).figure(1'234'567).figure(std::numeric_limits<std::int64_t>::min());
     EXPECT_EQ(table.bytes(), "-2500,1234567,-9223372036854775808");
 }
 
-TEST(CsvTableTest, bytesBeyondAsciiAreKept)
+TEST(CsvTableTest, keepsNonAsciiBytes)
 {
     EXPECT_EQ(cell("café ✓"), "café ✓");
 }

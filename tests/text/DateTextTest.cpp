@@ -26,7 +26,7 @@ std::string dayIn(const char *locale, std::chrono::sys_seconds moment = morning)
 
 } // namespace
 
-TEST(DateTextTest, followsTheLocaleOfDatesNotOfFigures)
+TEST(DateTextTest, followsTheLocaleForDatesNotForFigures)
 {
     const TimeZone utc("UTC");
     EXPECT_EQ(dateText(morning, DateForm::day, {.numbers = "de_DE", .dates = "en_US"}),
@@ -44,7 +44,7 @@ TEST(DateTextTest, followsTheTimeZoneOfTheProcess)
     EXPECT_EQ(dayIn("en_US", lateEvening), "Mar 5, 2026");
 }
 
-TEST(DateTextTest, writesMomentsFarAway)
+TEST(DateTextTest, writesDistantMoments)
 {
     const TimeZone utc("UTC");
     EXPECT_EQ(dayIn("en_US", std::chrono::sys_seconds()), "Jan 1, 1970");
@@ -76,7 +76,7 @@ TEST(DateTextTest, writesThePartsOfEachForm)
     EXPECT_EQ(dateText(morning, DateForm::dayAndTime, {.dates = "ja_JP"}), "2026年3月4日 9:15");
 }
 
-TEST(DateTextTest, counts12HoursWhereTheLocaleDoes)
+TEST(DateTextTest, usesTheLocalesTwelveHourClock)
 {
     const TimeZone utc("UTC");
     const std::string text = dateText(morning, DateForm::timeOfDay, {.dates = "en_US"});
@@ -125,7 +125,7 @@ TEST(DateTextTest, readsTheIsoDatesThatItWrites)
     }
 }
 
-TEST(DateTextTest, keepsIsoDatesInsideTheYearsThatTheyCanExpress)
+TEST(DateTextTest, clampsIsoDatesToTheYearsTheyCanExpress)
 {
     EXPECT_EQ(IsoDate::text(sys_seconds::min()), "0000-01-01T00:00:00Z");
     EXPECT_EQ(IsoDate::text(sys_seconds::max()), "9999-12-31T23:59:59Z");
@@ -141,7 +141,7 @@ TEST(DateTextTest, knowsLeapYears)
     EXPECT_FALSE(IsoDate::fromText("1900-02-29T00:00:00Z"));
 }
 
-TEST(DateTextTest, readsNoMomentThatDoesNotExist)
+TEST(DateTextTest, rejectsNonexistentMoments)
 {
     for (const std::string_view text :
          {"2026-00-04T09:15:27Z", "2026-13-04T09:15:27Z", "2026-03-00T09:15:27Z",
@@ -150,7 +150,7 @@ TEST(DateTextTest, readsNoMomentThatDoesNotExist)
         EXPECT_FALSE(IsoDate::fromText(text)) << text;
 }
 
-TEST(DateTextTest, readsNoOtherFormOfAnIsoDate)
+TEST(DateTextTest, rejectsOtherFormsOfAnIsoDate)
 {
     for (const std::string_view text : {"",
                                         "2026-03-04",

@@ -46,7 +46,7 @@ TEST(NumberTextTest, groupsFourDigitsWhereTheLocaleDoes)
     EXPECT_EQ(groupedIn("es_ES", 1'234), "1234");
 }
 
-TEST(NumberTextTest, signsAChangeEvenOfZero)
+TEST(NumberTextTest, signsEvenAChangeOfZero)
 {
     EXPECT_EQ(NumberText::groupedChange(1'234, {}), "+1,234");
     EXPECT_EQ(NumberText::groupedChange(0, {}), "+0");
@@ -125,7 +125,7 @@ TEST(NumberTextTest, agreesWithPrintfOnRandomNumbers)
     }
 }
 
-TEST(NumberTextTest, groupsInTheLibrarysOwnLocaleWithoutAName)
+TEST(NumberTextTest, fallsBackToTheLibrarysLocaleWithoutAName)
 {
     std::string text;
     std::thread([&] { text = groupedIn("", 1'234) + groupedIn("", 5); }).join();

@@ -28,7 +28,7 @@ TEST(PathTextTest, keepsTheRoot)
     EXPECT_EQ(standardizedPath("//a").native(), "/a");
 }
 
-TEST(PathTextTest, spellsAJoinedRootOfSeveralSlashesAsOne)
+TEST(PathTextTest, collapsesTheSlashesOfAJoinedRoot)
 {
     EXPECT_EQ(standardizedPath(std::filesystem::path("//") / "a").native(), "/a");
     EXPECT_EQ(standardizedPath(std::filesystem::path("///") / "a" / "b").native(), "/a/b");
@@ -40,7 +40,7 @@ TEST(PathTextTest, leavesARelativePathRelative)
     EXPECT_EQ(standardizedPath("../a").native(), "../a");
 }
 
-TEST(PathTextTest, keepsBytesThatAreNotUtf8)
+TEST(PathTextTest, keepsIllFormedUtf8)
 {
     EXPECT_EQ(standardizedPath("/caf\xE9/../\xFF/").native(), "/\xFF");
 }

@@ -46,26 +46,26 @@ TEST(TextLinesTest, givesEmptyLinesBetweenBreaks)
     EXPECT_EQ(linesOf("\n\na"), (Lines{"", "", "a"}));
 }
 
-TEST(TextLinesTest, givesNoLineBehindTheLastBreak)
+TEST(TextLinesTest, givesNoLineAfterTheLastBreak)
 {
     EXPECT_EQ(linesOf("a\n"), (Lines{"a"}));
     EXPECT_EQ(linesOf(""), Lines{});
 }
 
-TEST(TextLinesTest, leavesNeighboursOfTheBreaksAlone)
+TEST(TextLinesTest, ignoresCodePointsNextToTheBreaks)
 {
     const std::string_view text = "a\u0084b\u0086c\u2027d\u202Ae\u00A0f\tg\x1Fh";
     EXPECT_EQ(linesOf(text), (Lines{text}));
 }
 
-TEST(TextLinesTest, leavesHalfABreakAtTheEndAlone)
+TEST(TextLinesTest, ignoresATruncatedBreakAtTheEnd)
 {
     EXPECT_EQ(linesOf("a\xE2\x80"), (Lines{"a\xE2\x80"}));
     EXPECT_EQ(linesOf("a\xE2"), (Lines{"a\xE2"}));
     EXPECT_EQ(linesOf("a\xC2"), (Lines{"a\xC2"}));
 }
 
-TEST(TextLinesTest, findsABreakAtEveryIndexAndNothingThatResemblesOne)
+TEST(TextLinesTest, findsABreakAtEveryIndexAndNoLookalike)
 {
     for (std::size_t length = 0; length < 40; ++length)
         for (const std::string_view other : {"", "\t", "\x1F", "\x7F", "\u00A0", "\xFF", "\x8A"})

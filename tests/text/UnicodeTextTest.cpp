@@ -8,7 +8,7 @@
 
 namespace Loadwick {
 
-TEST(UnicodeTextTest, tellsUtf8FromOtherBytes)
+TEST(UnicodeTextTest, distinguishesUtf8FromOtherBytes)
 {
     EXPECT_TRUE(isUtf8(""));
     EXPECT_TRUE(isUtf8("plain, é, 日本, 👩‍👩‍👧‍👦"));
@@ -18,7 +18,7 @@ TEST(UnicodeTextTest, tellsUtf8FromOtherBytes)
     EXPECT_FALSE(isUtf8("\xFF"));
 }
 
-TEST(UnicodeTextTest, rejectsOtherBytesBehindAsciiOfAnyLength)
+TEST(UnicodeTextTest, rejectsIllFormedBytesAfterAsciiOfAnyLength)
 {
     for (std::size_t length = 0; length < 40; ++length) {
         const std::string ascii(length, 'a');
@@ -28,7 +28,7 @@ TEST(UnicodeTextTest, rejectsOtherBytesBehindAsciiOfAnyLength)
     }
 }
 
-TEST(UnicodeTextTest, replacesEachPartThatIsNotUtf8)
+TEST(UnicodeTextTest, replacesEachIllFormedPart)
 {
     EXPECT_EQ(repairedUtf8("a\xFFz"), "a\xEF\xBF\xBDz");
     EXPECT_EQ(repairedUtf8("a\xE2\x82z"), "a\xEF\xBF\xBDz");
@@ -44,13 +44,13 @@ TEST(UnicodeTextTest, trimsEveryKindOfWhiteSpace)
     EXPECT_EQ(trimmed(" é "), "é");
 }
 
-TEST(UnicodeTextTest, trimsBlanksAndTabsOnly)
+TEST(UnicodeTextTest, trimsOnlyBlanksAndTabs)
 {
     EXPECT_EQ(trimmedBlanks(" \ta\n\t "), "a\n");
     EXPECT_EQ(trimmedBlanks(" \t"), "");
 }
 
-TEST(UnicodeTextTest, lowersLettersOfEveryScript)
+TEST(UnicodeTextTest, lowercasesEveryScript)
 {
     EXPECT_EQ(lowercased("SLAB ÄΩЖ"), "slab äωж");
     EXPECT_EQ(lowercased(""), "");
@@ -87,7 +87,7 @@ TEST(UnicodeTextTest, countsUserPerceivedCharacters)
     EXPECT_EQ(byteCountOfCharacters(mixed, 100), mixed.size());
 }
 
-TEST(UnicodeTextTest, throwsWhereverMemoryRunsOutWhileItCountsCharacters)
+TEST(UnicodeTextTest, throwsWhereverMemoryRunsOutWhileCounting)
 {
     loadCharacterRules();
     bool ranOut = true;

@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-TEST(UuidTest, readsItsTextInEitherCaseAndWritesItInUpperCase)
+TEST(UuidTest, readsEitherCaseAndWritesUpperCase)
 {
     const std::string upper = "6F1C2B0A-8E55-4C2D-9A61-3B7D1E0F4A92";
     const auto fromUpper = Uuid::fromText(upper);
@@ -17,7 +17,7 @@ TEST(UuidTest, readsItsTextInEitherCaseAndWritesItInUpperCase)
     EXPECT_EQ(*fromUpper, *fromLower);
 }
 
-TEST(UuidTest, readsTheLowestAndTheHighestOne)
+TEST(UuidTest, readsTheLowestAndTheHighest)
 {
     for (const std::string text :
          {"00000000-0000-0000-0000-000000000000", "FFFFFFFF-FFFF-FFFF-FFFF-FFFFFFFFFFFF"}) {
@@ -27,7 +27,7 @@ TEST(UuidTest, readsTheLowestAndTheHighestOne)
     }
 }
 
-TEST(UuidTest, readsNothingButTheCanonicalForm)
+TEST(UuidTest, readsOnlyTheCanonicalForm)
 {
     for (const std::string text : {
              "",
@@ -47,7 +47,7 @@ TEST(UuidTest, readsNothingButTheCanonicalForm)
         EXPECT_FALSE(Uuid::fromText(text)) << text;
 }
 
-TEST(UuidTest, makesRandomOnesThatDiffer)
+TEST(UuidTest, makesDistinctRandomIdentifiers)
 {
     std::set<Uuid> seen;
     for (int count = 0; count < 1'000; ++count)
@@ -55,7 +55,7 @@ TEST(UuidTest, makesRandomOnesThatDiffer)
     EXPECT_EQ(seen.size(), 1'000U);
 }
 
-TEST(UuidTest, marksRandomOnesAsVersionFour)
+TEST(UuidTest, marksRandomIdentifiersAsVersionFour)
 {
     const std::string text = Uuid::random().text();
     ASSERT_EQ(text.size(), 36U);
