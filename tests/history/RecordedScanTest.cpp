@@ -28,7 +28,7 @@ std::string repeated(std::string_view character, int count)
 
 } // namespace
 
-TEST(RecordedScanTest, copiesWhatTheReportTells)
+TEST(RecordedScanTest, copiesTheReport)
 {
     const ScanReport report = sampleReport();
     const Uuid id = Uuid::random();
@@ -119,7 +119,7 @@ TEST(RecordedScanTest, keepsExactlyEightyCharactersAndWithholdsEightyOne)
     EXPECT_EQ(storable(" " + std::string(80, 'a') + " "), std::string(80, 'a'));
 }
 
-TEST(RecordedScanTest, countsCharactersAsPeopleSeeThem)
+TEST(RecordedScanTest, countsUserPerceivedCharacters)
 {
     const std::string family = "👩‍👩‍👧‍👦";
     EXPECT_EQ(storable(repeated(family, 80)), repeated(family, 80));

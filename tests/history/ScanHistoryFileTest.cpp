@@ -75,7 +75,7 @@ TEST(ScanHistoryFileTest, writesTheLayoutToTheByte)
     EXPECT_EQ(exampleFile().encoded(), example);
 }
 
-TEST(ScanHistoryFileTest, readsWhatItWrites)
+TEST(ScanHistoryFileTest, roundTrips)
 {
     EXPECT_EQ(ScanHistoryFile::decoded(example), exampleFile());
 }
@@ -91,7 +91,7 @@ TEST(ScanHistoryFileTest, writesAndReadsEmptyLists)
     EXPECT_TRUE(isReadable("{\"scans\":[\n\n  ],\"version\":1}"));
 }
 
-TEST(ScanHistoryFileTest, carriesEveryTextThrough)
+TEST(ScanHistoryFileTest, roundTripsEveryText)
 {
     const ScanHistoryFile file = {.version = 1,
                                   .scans = {RecordedScanBuilder()
@@ -102,7 +102,7 @@ TEST(ScanHistoryFileTest, carriesEveryTextThrough)
     EXPECT_EQ(ScanHistoryFile::decoded(file.encoded()), file);
 }
 
-TEST(ScanHistoryFileTest, staysReadableWhenANameIsNotUtf8)
+TEST(ScanHistoryFileTest, staysReadableWithAnIllFormedName)
 {
     const ScanHistoryFile file = {.version = 1,
                                   .scans = {RecordedScanBuilder().named("a\xFFz").build()}};
@@ -134,7 +134,7 @@ TEST(ScanHistoryFileTest, takesTheLastOfDuplicateKeys)
     EXPECT_FALSE(isReadable(R"({"version":1,"scans":[],"scans":0})"));
 }
 
-TEST(ScanHistoryFileTest, givesAnyVersionUnchanged)
+TEST(ScanHistoryFileTest, keepsAnyVersionUnchanged)
 {
     EXPECT_EQ(ScanHistoryFile::decoded(R"({"scans":[],"version":2})")->version, 2);
     EXPECT_EQ(ScanHistoryFile::decoded(R"({"scans":[],"version":-9223372036854775808})")->version,
@@ -156,7 +156,7 @@ TEST(ScanHistoryFileTest, requiresEveryKey)
     EXPECT_FALSE(isReadable(R"({"version":1})"));
 }
 
-TEST(ScanHistoryFileTest, requiresEveryType)
+TEST(ScanHistoryFileTest, checksTheTypeOfEveryKey)
 {
     for (const std::string key : {"date", "id", "repositoryName", "repositoryPath"})
         for (const nlohmann::json &value :

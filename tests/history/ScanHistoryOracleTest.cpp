@@ -133,7 +133,7 @@ std::vector<std::string> slowCategoryAxis(const Scans &scans)
 class ScanHistoryOracleTest : public testing::TestWithParam<unsigned>
 {};
 
-TEST_P(ScanHistoryOracleTest, agreesWithTheObviousWay)
+TEST_P(ScanHistoryOracleTest, agreesWithTheNaiveImplementation)
 {
     const Scans scans = RandomHistory(GetParam()).scans();
     EXPECT_EQ(ScanHistory::newestFirst(scans), slowNewestFirst(scans));
@@ -142,7 +142,7 @@ TEST_P(ScanHistoryOracleTest, agreesWithTheObviousWay)
     EXPECT_EQ(ScanHistory::categoryAxis(scans), slowCategoryAxis(scans));
 }
 
-TEST_P(ScanHistoryOracleTest, givesTotalOrdersOnAnyOrderOfTheScans)
+TEST_P(ScanHistoryOracleTest, ordersTotallyWhateverTheOrderOfTheScans)
 {
     RandomHistory history(GetParam());
     const Scans scans = history.scans();

@@ -106,7 +106,7 @@ TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileBeyondAQuota)
     EXPECT_EQ(entriesIn(folder.path()), 1U);
 }
 
-TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileInAFolderThatNobodyMayWrite)
+TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileInAReadOnlyFolder)
 {
     const TemporaryFolder folder;
     const PlainPermissions plain;
@@ -120,7 +120,7 @@ TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileInAFolderThatNobodyMayWrite)
     EXPECT_EQ(entriesIn(folder.path()), 1U);
 }
 
-TEST(ScanHistoryStorePlacesSlowTest, staysWholeWhileTwoProgramsAppendAtOnce)
+TEST(ScanHistoryStorePlacesSlowTest, survivesConcurrentAppendsByTwoPrograms)
 {
     const TemporaryFolder folder;
     const ScanHistoryStore store(folder.path());

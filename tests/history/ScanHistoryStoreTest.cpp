@@ -76,7 +76,7 @@ TEST_F(ScanHistoryStoreTest, keepsItsFileInTheUsersDataFolder)
     EXPECT_EQ(Store("/data/Loadwick").fileURL(), "/data/Loadwick/scan-history.json");
 }
 
-TEST_F(ScanHistoryStoreTest, createsNothingByItself)
+TEST_F(ScanHistoryStoreTest, constructionCreatesNothing)
 {
     EXPECT_TRUE(ScanHistoryStore(folder.path() / "a/b").load().empty());
     EXPECT_FALSE(fs::exists(folder.path() / "a"));
@@ -93,7 +93,7 @@ TEST_F(ScanHistoryStoreTest, createsTheFolderAndTheFileAtTheFirstAppend)
     EXPECT_EQ(nested.load(), Scans{scan});
 }
 
-TEST_F(ScanHistoryStoreTest, readsTheFileEveryTime)
+TEST_F(ScanHistoryStoreTest, readsTheFileAtEveryCall)
 {
     const RecordedScan own = scanAt(1);
     const RecordedScan foreign = scanAt(2);
@@ -102,7 +102,7 @@ TEST_F(ScanHistoryStoreTest, readsTheFileEveryTime)
     EXPECT_EQ(store.load(), (Scans{own, foreign}));
 }
 
-TEST_F(ScanHistoryStoreTest, countsAnotherVersionAsEmptyAndOverwritesIt)
+TEST_F(ScanHistoryStoreTest, treatsAnotherVersionAsEmptyAndOverwritesIt)
 {
     for (const std::int64_t version : {0, 2, -1}) {
         write(store, {.version = version, .scans = {scanAt(1)}});
@@ -114,7 +114,7 @@ TEST_F(ScanHistoryStoreTest, countsAnotherVersionAsEmptyAndOverwritesIt)
     }
 }
 
-TEST_F(ScanHistoryStoreTest, countsAFileInWhichOneScanLacksItsTotalAsEmpty)
+TEST_F(ScanHistoryStoreTest, treatsAFileWithOneBadScanAsEmpty)
 {
     std::string json = ScanHistoryFile{.version = 1, .scans = scansAt(1, 3)}.encoded();
     json.replace(json.rfind("\"total\""), 7, "\"tota1\"");
@@ -122,7 +122,7 @@ TEST_F(ScanHistoryStoreTest, countsAFileInWhichOneScanLacksItsTotalAsEmpty)
     EXPECT_TRUE(store.load().empty());
 }
 
-TEST_F(ScanHistoryStoreTest, countsWhatIsNotJsonAsEmptyAndOverwritesIt)
+TEST_F(ScanHistoryStoreTest, treatsInvalidJsonAsEmptyAndOverwritesIt)
 {
     folder.write("scan-history.json", "{\"scans\" : [");
     EXPECT_TRUE(store.load().empty());
@@ -165,7 +165,7 @@ TEST_F(ScanHistoryStoreTest, ordersScansByDateThenByRepositoryName)
     EXPECT_EQ(store.load(), (Scans{earlierName, laterName, late}));
 }
 
-TEST_F(ScanHistoryStoreTest, keepsTheOrderOfScansThatAreEqualInBoth)
+TEST_F(ScanHistoryStoreTest, sortsStably)
 {
     const Scans equals = {scanAt(5), scanAt(5), scanAt(5)};
     write(store, {.version = 1, .scans = {equals[0], equals[1]}});
@@ -173,7 +173,7 @@ TEST_F(ScanHistoryStoreTest, keepsTheOrderOfScansThatAreEqualInBoth)
     EXPECT_EQ(store.load(), equals);
 }
 
-TEST_F(ScanHistoryStoreTest, givesTheNewListEvenWhenWritingFails)
+TEST_F(ScanHistoryStoreTest, returnsTheNewListEvenWhenWritingFails)
 {
     folder.write("file", "in the way");
     ScanHistoryStore nested(folder.path() / "file");
@@ -210,7 +210,7 @@ TEST_F(ScanHistoryStoreTest, leavesAFolderWithTheFilesNameAlone)
     EXPECT_EQ(contentOf(folder.path() / "scan-history.json/inner"), "kept");
 }
 
-TEST_F(ScanHistoryStoreTest, neverWaitsForAFifoWithTheFilesName)
+TEST_F(ScanHistoryStoreTest, neverBlocksOnAFifoWithTheFilesName)
 {
     ASSERT_EQ(mkfifo(store.fileURL().c_str(), 0600), 0);
     EXPECT_TRUE(store.load().empty());
@@ -237,7 +237,7 @@ TEST_F(ScanHistoryStoreTest, readsWritesAndClearsThroughALink)
     EXPECT_TRUE(fs::is_symlink(store.fileURL()));
 }
 
-TEST_F(ScanHistoryStoreTest, overwritesAFileThatNobodyMayRead)
+TEST_F(ScanHistoryStoreTest, overwritesAnUnreadableFile)
 {
     static_cast<void>(store.append(scanAt(1)));
     fs::permissions(store.fileURL(), fs::perms::none);
@@ -254,7 +254,7 @@ TEST_F(ScanHistoryStoreTest, removesATemporaryFileThatACrashLeft)
     EXPECT_FALSE(fs::exists(folder.path() / ".scan-history.json.a1B2c3"));
 }
 
-TEST_F(ScanHistoryStoreTest, countsAFileBeyondItsLimitAsEmpty)
+TEST_F(ScanHistoryStoreTest, treatsAFileBeyondItsLimitAsEmpty)
 {
     write(store, {.version = 1, .scans = {scanAt(1)}});
     EXPECT_EQ(store.load().size(), 1U);
@@ -262,7 +262,7 @@ TEST_F(ScanHistoryStoreTest, countsAFileBeyondItsLimitAsEmpty)
     EXPECT_TRUE(store.load().empty());
 }
 
-TEST_F(ScanHistoryStoreTest, retriesWhenDescriptorsRunOutForAMoment)
+TEST_F(ScanHistoryStoreTest, retriesATransientShortageOfDescriptors)
 {
     static_cast<void>(store.append(scanAt(1)));
     getrlimit(RLIMIT_NOFILE, &generousLimit);
@@ -283,7 +283,7 @@ TEST_F(ScanHistoryStoreTest, retriesWhenDescriptorsRunOutForAMoment)
     EXPECT_EQ(loaded.size(), 1U);
 }
 
-TEST_F(ScanHistoryStoreTest, recordsNothingWhileTheRecordedScansCannotBeRead)
+TEST_F(ScanHistoryStoreTest, recordsNothingDuringALastingShortage)
 {
     static_cast<void>(store.append(scanAt(1)));
     getrlimit(RLIMIT_NOFILE, &generousLimit);

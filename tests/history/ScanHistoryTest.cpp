@@ -65,7 +65,7 @@ TEST(ScanHistoryTest, listsTheScansOfOneRepositoryInTheirOrder)
     EXPECT_TRUE(ScanHistory::scans(scans, "/c").empty());
 }
 
-TEST(ScanHistoryTest, takesTheLastScansRepositoryForTheMostRecent)
+TEST(ScanHistoryTest, mostRecentRepositoryIsThatOfTheLastScan)
 {
     const std::vector scans = {scanOf("/a", 2), scanOf("/b", 1)};
     EXPECT_EQ(ScanHistory::mostRecentRepositoryPath(scans), "/b");
@@ -77,7 +77,7 @@ TEST(ScanHistoryTest, keepsTheLatestScanOfEachRepositoryWhateverTheOrder)
     EXPECT_EQ(ScanHistory::latestPerRepository(scans), std::vector{scans[1]});
 }
 
-TEST(ScanHistoryTest, keepsTheFirstMetOfScansWithTheSameDate)
+TEST(ScanHistoryTest, prefersTheFirstOfScansWithTheSameDate)
 {
     const std::vector scans = {scanOf("/a", 1), scanOf("/a", 1)};
     EXPECT_EQ(ScanHistory::latestPerRepository(scans), std::vector{scans[0]});
@@ -102,7 +102,7 @@ TEST(ScanHistoryTest, listsScansOfOneSecondByIdentifierDescending)
     EXPECT_EQ(ScanHistory::newestFirst(scans), (std::vector{scans[1], scans[2], scans[0]}));
 }
 
-TEST(ScanHistoryTest, leavesScansThatAreTheSameInTheirOrder)
+TEST(ScanHistoryTest, sortsStably)
 {
     const std::vector scans = {identifiedScan('1', 1, 10), identifiedScan('1', 1, 20)};
     EXPECT_EQ(ScanHistory::newestFirst(scans), scans);
@@ -115,7 +115,7 @@ TEST(ScanHistoryTest, ranksARepositoryThatWasScannedOnceWithoutAPreviousTotal)
     EXPECT_EQ(ScanHistory::leaderboard(scans), std::vector{only});
 }
 
-TEST(ScanHistoryTest, comparesTheLatestScanWithTheOneBeforeItWhateverTheOrder)
+TEST(ScanHistoryTest, comparesTheTwoLatestScansWhateverTheOrder)
 {
     std::vector scans = {identifiedScan('1', 1, 10), identifiedScan('2', 2, 20),
                          identifiedScan('3', 3, 30)};
@@ -128,7 +128,7 @@ TEST(ScanHistoryTest, comparesTheLatestScanWithTheOneBeforeItWhateverTheOrder)
         }));
 }
 
-TEST(ScanHistoryTest, takesTheLastIdentifierOfOneSecondForTheLatest)
+TEST(ScanHistoryTest, lastIdentifierOfOneSecondIsTheLatest)
 {
     const std::vector scans = {identifiedScan('f', 1, 10), identifiedScan('9', 1, 20)};
     const LeaderboardEntry expected{.latest = scans[0], .previousTotal = 20, .scanCount = 2};
@@ -157,7 +157,7 @@ TEST(ScanHistoryTest, ranksEqualTotalsByNameThenByPath)
               (std::vector{scans[3], scans[2], scans[1], scans[0]}));
 }
 
-TEST(ScanHistoryTest, keepsOneNameAtTwoPathsApart)
+TEST(ScanHistoryTest, distinguishesRepositoriesOfOneName)
 {
     const std::vector scans = {weighedScan("/b", 5), weighedScan("/a", 5)};
     const auto entries = ScanHistory::leaderboard(scans);
@@ -196,7 +196,7 @@ TEST(ScanHistoryTest, listsEquallyHeavyCategoriesByNameByteByByte)
               (std::vector<std::string>{"Zebra", "tools", "ärger", "nothing"}));
 }
 
-TEST(ScanHistoryTest, aCategorySumThatDoesNotFitEndsTheProgram)
+TEST(ScanHistoryTest, endsTheProgramWhenACategorySumOverflows)
 {
     constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
     const std::vector scans = {
@@ -228,7 +228,7 @@ TEST(ScanHistoryTest, oneTokenDecidesTheTrend)
     EXPECT_EQ(entryOf(0, 0).trend(), TrendDirection::flat);
 }
 
-TEST(ScanHistoryTest, aDeltaThatDoesNotFitEndsTheProgram)
+TEST(ScanHistoryTest, endsTheProgramWhenADeltaOverflows)
 {
     const LeaderboardEntry entry = entryOf(std::numeric_limits<std::int64_t>::min(), 1);
     EXPECT_EQ(entry.trend(), TrendDirection::down);

@@ -16,7 +16,7 @@ RecordedScanBuilder webshop()
     return RecordedScanBuilder().named("webshop").in("/home/a/webshop").at(1'772'615'727);
 }
 
-TEST(ScanTablesTest, aTableWithoutScansHasItsHeader)
+TEST(ScanTablesTest, aTableWithoutScansHasOnlyItsHeader)
 {
     EXPECT_EQ(ScanTables::totals({}), head + "\r\n");
     EXPECT_EQ(ScanTables::categories({}), head + "\r\n");
@@ -56,7 +56,7 @@ TEST(ScanTablesTest, categoriesOfOneNameAreSummed)
     EXPECT_TRUE(ScanTables::categories(scans).ends_with(",10,Lean,7\r\n"));
 }
 
-TEST(ScanTablesTest, namesFromOutsideAreNoFormulas)
+TEST(ScanTablesTest, namesNeverBecomeFormulas)
 {
     const std::vector<RecordedScan> scans = {
         webshop().named("=cmd|' /C calc'!A0").ofTotal(1).withCategory("@SUM(1,2)", 1).build()};

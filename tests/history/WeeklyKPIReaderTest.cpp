@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A usable line with that median, and whatever else is given.
+/// A usable line with that median and any further members.
 std::string lineOf(std::int64_t median, std::string_view rest = {})
 {
     return R"({"median_tokens_per_session":)" + std::to_string(median) + R"(,"tokens_per_pr":2)" +
@@ -92,18 +92,18 @@ TEST_F(WeeklyKPIReaderTest, theLastUsableLineWinsWhateverItsDate)
         2);
 }
 
-TEST_F(WeeklyKPIReaderTest, aLineThatIsCutOffGivesWayToTheOneBefore)
+TEST_F(WeeklyKPIReaderTest, fallsBackFromATruncatedLineToTheOneBefore)
 {
     EXPECT_EQ(medianIn(lineOf(1) + "\n" + lineOf(2).substr(0, 40)), 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, aLineWithoutBothRequiredFiguresIsSkipped)
+TEST_F(WeeklyKPIReaderTest, skipsALineWithoutBothRequiredFigures)
 {
     EXPECT_EQ(medianIn(lineOf(1) + "\n{\"median_tokens_per_session\":2}"), 1);
     EXPECT_EQ(medianIn(lineOf(1) + "\n{\"tokens_per_pr\":2}"), 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, aRequiredFigureThatIsNoIntegerIsSkipped)
+TEST_F(WeeklyKPIReaderTest, skipsALineWhoseRequiredFigureIsNoInteger)
 {
     for (const char *figure : {"\"2\"", "2.5", "2.0", "2e3", "null", "true", "[2]", "{}",
                                "9223372036854775808", "-9223372036854775808"})
@@ -121,13 +121,13 @@ TEST_F(WeeklyKPIReaderTest, theLargestAndTheSmallestComparableFiguresCount)
     EXPECT_EQ(medianIn(lineOf(-9'223'372'036'827'265'347)), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, aLineThatIsNoObjectIsSkipped)
+TEST_F(WeeklyKPIReaderTest, skipsALineThatIsNoObject)
 {
     for (const char *line : {"[1]", "1", "\"text\"", "null", "words", "{", "{} {}"})
         EXPECT_EQ(medianIn(lineOf(1) + "\n" + line), 1) << line;
 }
 
-TEST_F(WeeklyKPIReaderTest, missingWordsReadUnknown)
+TEST_F(WeeklyKPIReaderTest, missingStringsReadUnknown)
 {
     const WeeklyKPILine line = parsed("");
     EXPECT_EQ(line.windowStart, "unknown");
@@ -135,7 +135,7 @@ TEST_F(WeeklyKPIReaderTest, missingWordsReadUnknown)
     EXPECT_EQ(line.timestamp, "unknown");
 }
 
-TEST_F(WeeklyKPIReaderTest, wordsOfAnotherTypeReadUnknown)
+TEST_F(WeeklyKPIReaderTest, stringsOfAnotherTypeReadUnknown)
 {
     const WeeklyKPILine line = parsed(R"(,"window":{"start":17,"end":["x"]},"timestamp":null)");
     EXPECT_EQ(line.windowStart, "unknown");
@@ -152,7 +152,7 @@ TEST_F(WeeklyKPIReaderTest, oneEndOfTheWindowIsReadWithoutTheOther)
     EXPECT_EQ(line.windowEnd, "Sunday");
 }
 
-TEST_F(WeeklyKPIReaderTest, emptyWordsStayEmpty)
+TEST_F(WeeklyKPIReaderTest, emptyStringsStayEmpty)
 {
     EXPECT_EQ(parsed(R"(,"timestamp":"")").timestamp, "");
 }
@@ -165,26 +165,26 @@ TEST_F(WeeklyKPIReaderTest, optionalFiguresOfAnotherTypeAreAbsent)
     EXPECT_EQ(line.medianTokensPerSession, 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, theLastOfTwoEqualKeysCounts)
+TEST_F(WeeklyKPIReaderTest, lastDuplicateKeyWins)
 {
     EXPECT_EQ(medianIn(lineOf(1, R"(,"median_tokens_per_session":7)")), 7);
     EXPECT_EQ(medianIn(lineOf(1, R"(,"median_tokens_per_session":"x")")), std::nullopt);
     EXPECT_EQ(parsed(R"(,"window":{"start":"a"},"window":{"end":"b"})").windowStart, "unknown");
 }
 
-TEST_F(WeeklyKPIReaderTest, whiteSpaceAroundALineIsNothing)
+TEST_F(WeeklyKPIReaderTest, ignoresWhiteSpaceAroundALine)
 {
     EXPECT_EQ(medianIn("  \t" + lineOf(1) + " \u00A0\n   \n\n"), 1);
     EXPECT_EQ(medianIn(lineOf(1) + "\r\n" + lineOf(2) + "\r\n"), 2);
 }
 
-TEST_F(WeeklyKPIReaderTest, aTextWithoutALineGivesNothing)
+TEST_F(WeeklyKPIReaderTest, findsNothingInATextWithoutLines)
 {
     for (const char *text : {"", "\n", " \n\t\n", "\r\n\r\n"})
         EXPECT_EQ(medianIn(text), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, theLogLiesUnderTheHomeFolder)
+TEST_F(WeeklyKPIReaderTest, theLogIsUnderTheHomeFolder)
 {
     EXPECT_EQ(WeeklyKPIReader::defaultPath("/home/someone"),
               "/home/someone/Library/Logs/token-kpi/weekly.jsonl");
@@ -208,7 +208,7 @@ TEST_F(WeeklyKPIReaderTest, givesNothingForAMissingFileOrAFolder)
     EXPECT_EQ(medianAt(""), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, givesNothingForAFileThatMayNotBeRead)
+TEST_F(WeeklyKPIReaderTest, givesNothingForAnUnreadableFile)
 {
     const fs::path path = write(loggedLine(1));
     fs::permissions(path, fs::perms::none);
@@ -216,12 +216,12 @@ TEST_F(WeeklyKPIReaderTest, givesNothingForAFileThatMayNotBeRead)
     EXPECT_EQ(medianAt(path), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, givesNothingForAFileThatIsNotUtf8AsAWhole)
+TEST_F(WeeklyKPIReaderTest, requiresTheWholeFileToBeUtf8)
 {
     EXPECT_EQ(medianAt(write("caf\xE9\n" + loggedLine(1))), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, doesNotWaitForAFifo)
+TEST_F(WeeklyKPIReaderTest, doesNotBlockOnAFifo)
 {
     const fs::path path = m_folder.path() / "fifo";
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
@@ -235,13 +235,13 @@ TEST_F(WeeklyKPIReaderTest, followsALink)
     EXPECT_EQ(medianAt(link), 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, readsAFileOfTheLimitWhole)
+TEST_F(WeeklyKPIReaderTest, readsAWholeFileAtTheLimit)
 {
     ASSERT_EQ(loggedLine(1).size(), 51U);
     EXPECT_EQ(medianAt(write(loggedLine(1)), 51), 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, readsALongFileFromTheFirstLineFeedOfItsEndOn)
+TEST_F(WeeklyKPIReaderTest, readsALongFilesEndAfterItsFirstLineFeed)
 {
     const fs::path path = write(loggedLine(1) + loggedLine(2));
     EXPECT_EQ(medianAt(path, 52), 2);
@@ -251,14 +251,14 @@ TEST_F(WeeklyKPIReaderTest, readsALongFileFromTheFirstLineFeedOfItsEndOn)
     EXPECT_EQ(medianAt(path, 20), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, readsNoPartOfALineAsALine)
+TEST_F(WeeklyKPIReaderTest, skipsATruncatedFirstLine)
 {
     // Cut in the middle, the first line would read as a usable one.
     const fs::path path = write("{\"x\":\"" + loggedLine(1) + loggedLine(2).substr(0, 30));
     EXPECT_EQ(medianAt(path, 81), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, ignoresInvalidUtf8BeforeTheEndThatItReads)
+TEST_F(WeeklyKPIReaderTest, ignoresIllFormedUtf8BeforeItsWindow)
 {
     // The limit cuts "é" in two; reading resumes after the line feed.
     EXPECT_EQ(medianAt(write("caf\xE9 \u00E9\n" + loggedLine(1)), 53), 1);
@@ -279,7 +279,7 @@ TEST_F(WeeklyKPIReaderTest, aDeltaIsTheDifferenceFromTheTarget)
     EXPECT_EQ(figures(0, 37'682'402).tokensPerPRDelta(), 1'234);
 }
 
-TEST_F(WeeklyKPIReaderTest, aDeltaThatDoesNotFitEndsTheProgram)
+TEST_F(WeeklyKPIReaderTest, endsTheProgramWhenADeltaOverflows)
 {
     constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
     EXPECT_DEATH((void)figures(smallest, 0).medianDelta(), "does not fit 64 bits");

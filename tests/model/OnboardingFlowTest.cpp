@@ -200,7 +200,7 @@ TEST_F(OnboardingFlowTest, readsTheCompletionStoreEachTime)
     EXPECT_TRUE(completion.shouldPresent());
 }
 
-TEST_F(OnboardingFlowTest, endsTheProgramWithoutACompletionStore)
+TEST_F(OnboardingFlowTest, requiresACompletionStore)
 {
     EXPECT_DEATH(OnboardingCompletion(nullptr), "needs a store");
 }

@@ -33,7 +33,7 @@ TEST(PublishedTest, announcesAnEqualValueToo)
     EXPECT_EQ(count, 1);
 }
 
-TEST(PublishedTest, callsObserversInTheOrderOfTheirArrival)
+TEST(PublishedTest, callsObserversInOrderOfRegistration)
 {
     Published<int> value(1);
     Log log;
@@ -46,7 +46,7 @@ TEST(PublishedTest, callsObserversInTheOrderOfTheirArrival)
     EXPECT_EQ(log, (Log{"first will", "second will", "first did", "second did"}));
 }
 
-TEST(PublishedTest, letsEveryObserverSeeAChangeMadeByAnObserverAsTheNextOne)
+TEST(PublishedTest, queuesAnObserversChangeAsTheNextOne)
 {
     Published<int> value(0);
     Log log;
@@ -60,7 +60,7 @@ TEST(PublishedTest, letsEveryObserverSeeAChangeMadeByAnObserverAsTheNextOne)
     EXPECT_EQ(log, (Log{"first 1", "second 1", "first 2", "second 2"}));
 }
 
-TEST(PublishedTest, keepsTheLaterValueWhenAnObserverChangesItBeforeItHolds)
+TEST(PublishedTest, keepsTheValueSetByWillChange)
 {
     Published<int> value(0);
     value.observe({.willChange = [&](const int &incoming) {
@@ -71,7 +71,7 @@ TEST(PublishedTest, keepsTheLaterValueWhenAnObserverChangesItBeforeItHolds)
     EXPECT_EQ(value.get(), 2);
 }
 
-TEST(PublishedTest, letsObserversBeAddedDuringAChange)
+TEST(PublishedTest, allowsAddingObserversDuringAChange)
 {
     Published<int> value(0);
     int late = 0;

@@ -119,7 +119,7 @@ TEST_F(ScanModelHistoryTest, clearsTheHistoryEvenIfTheFileCannotBeDeleted)
     EXPECT_TRUE(std::filesystem::exists(file));
 }
 
-TEST_F(ScanModelHistoryTest, recordsAScanWhoseHistoryWasClearedMeanwhile)
+TEST_F(ScanModelHistoryTest, recordsAScanAfterAClearWhileItRan)
 {
     ScanModel model(harness.collaborators());
     harness.scanOnce(model);

@@ -17,7 +17,7 @@ constexpr Harness::Stage everyRunningStage[] = {Harness::folderCheck, Harness::p
 
 } // namespace
 
-TEST(ScanModelLifetimeTest, dropsAnOutcomeThatArrivesAfterTheModelHasGone)
+TEST(ScanModelLifetimeTest, dropsAnOutcomeAfterTheModelIsDestroyed)
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness harness;
@@ -57,7 +57,7 @@ TEST(ScanModelLifetimeTest, dropsAFailureToo)
     EXPECT_EQ(harness.dispatcher->postedCount(), 0U);
 }
 
-TEST(ScanModelLifetimeTest, leavesItsCollaboratorsAliveForARunningStage)
+TEST(ScanModelLifetimeTest, keepsItsCollaboratorsAliveForARunningStage)
 {
     const Harness harness;
     auto probe = std::make_shared<FakeProbe>();

@@ -56,7 +56,7 @@ TEST_F(ScanModelObserversTest, seeNoHistoryOfAFailure)
     EXPECT_EQ(log, (Log{"selection", "idle", "scanning", "failed"}));
 }
 
-TEST_F(ScanModelObserversTest, seeNoChangeFromACallThatIsIgnored)
+TEST_F(ScanModelObserversTest, seeNoChangeFromAnIgnoredCall)
 {
     logOf(model, log);
     model.scan();
@@ -105,7 +105,7 @@ TEST_F(ScanModelObserversTest, mayChooseAtTheResult)
     EXPECT_EQ(model.history().get().size(), 1U);
 }
 
-TEST_F(ScanModelObserversTest, startNoSecondScanWhileAScanIsAnnounced)
+TEST_F(ScanModelObserversTest, cannotStartASecondScanWhileOneIsAnnounced)
 {
     model.state().observe({.willChange =
                                [&](const ScanState &incoming) {
@@ -123,7 +123,7 @@ TEST_F(ScanModelObserversTest, startNoSecondScanWhileAScanIsAnnounced)
     EXPECT_EQ(harness.probe->runs().size(), 1U);
 }
 
-TEST_F(ScanModelObserversTest, chooseNothingWhileAScanIsAnnounced)
+TEST_F(ScanModelObserversTest, cannotChooseWhileAScanIsAnnounced)
 {
     model.state().observe({.willChange = [&](const ScanState &incoming) {
         if (incoming.isScanning())
@@ -155,7 +155,7 @@ TEST_F(ScanModelObserversTest, mayClearTheHistoryAsItGrows)
     EXPECT_TRUE(harness.recorded().empty());
 }
 
-TEST_F(ScanModelObserversTest, findNoScanToStartUntilTheOutcomeHolds)
+TEST_F(ScanModelObserversTest, cannotScanUntilTheOutcomeHolds)
 {
     std::vector<bool> could;
     model.state().observe(

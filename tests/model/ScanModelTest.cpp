@@ -172,7 +172,7 @@ TEST_F(ScanModelTest, showsAProbeErrorUnchanged)
     EXPECT_TRUE(harness.recorded().empty());
 }
 
-TEST_F(ScanModelTest, showsAnotherErrorOfTheProbeAsUnreadableOutputWithItsDescription)
+TEST_F(ScanModelTest, showsAnyOtherProbeErrorAsUnreadableOutput)
 {
     ScanModel model(harness.collaborators());
     harness.probe->answer = []() -> ProbeResult { throw std::runtime_error("the pipe broke"); };
@@ -197,7 +197,7 @@ TEST_F(ScanModelTest, failsWhenTheFileScanRunsOutOfMemory)
     EXPECT_TRUE(model.history().get().empty());
 }
 
-TEST_F(ScanModelTest, neverStaysScanningWhenAStageCannotBeStarted)
+TEST_F(ScanModelTest, failsWhenAStageCannotBeStarted)
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness fresh;
@@ -237,7 +237,7 @@ TEST_F(ScanModelTest, scansAgainFromAResultAndFromAFailure)
     EXPECT_EQ(model.history().get().size(), 2U);
 }
 
-TEST_F(ScanModelTest, endsTheProgramWithoutAnyOneOfItsCollaborators)
+TEST_F(ScanModelTest, requiresEachOfItsCollaborators)
 {
     const auto without = [this](auto leaveOut) {
         ScanModel::Collaborators all = harness.collaboratorsWithoutStore();

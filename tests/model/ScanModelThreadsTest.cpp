@@ -68,7 +68,7 @@ private:
 
 } // namespace
 
-TEST(ScanModelThreadsTest, scansWithItsStagesOnThreadsOfTheirOwn)
+TEST(ScanModelThreadsTest, runsItsStagesOnBackgroundThreads)
 {
     const ScanModelHarness harness;
     const auto dispatcher = std::make_shared<ThreadDispatcher>();

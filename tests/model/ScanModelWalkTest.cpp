@@ -10,7 +10,7 @@ namespace Loadwick {
 
 namespace {
 
-/// LOADWICK_WALK_SEED takes one walk again.
+/// LOADWICK_WALK_SEED repeats one walk.
 std::vector<std::uint32_t> seeds()
 {
     if (const char *seed = std::getenv("LOADWICK_WALK_SEED"))

@@ -21,7 +21,7 @@ ScanOutcome<int> outcomeOfThrowing(Thrown thrown)
 
 } // namespace
 
-TEST(ScanStateTest, isScanningInOneCaseOnly)
+TEST(ScanStateTest, isScanningInOnlyOneCase)
 {
     EXPECT_TRUE(ScanState::scanning().isScanning());
     EXPECT_FALSE(ScanState::idle().isScanning());
@@ -61,7 +61,7 @@ TEST(ScanStateTest, anOutcomePassesAProbeErrorOn)
     EXPECT_EQ(outcomeOfThrowing(ProbeError::timedOut()), ScanOutcome<int>(ProbeError::timedOut()));
 }
 
-TEST(ScanStateTest, anOutcomePassesTheTextOfAProbeErrorOnWithoutACopy)
+TEST(ScanStateTest, anOutcomePassesOnAProbeErrorsTextWithoutCopying)
 {
     const auto textOf = [](const ProbeError &error) {
         return std::get<ProbeError::SessionFailed>(error.value()).text.data();
@@ -86,7 +86,7 @@ TEST(ScanStateTest, anOutcomeTurnsAnotherExceptionIntoUnreadableOutput)
               ScanOutcome<int>(ProbeError::unreadableOutput("a\xEF\xBF\xBDz")));
 }
 
-TEST(ScanStateTest, anOutcomeKnowsNothingAboutWhatIsNoException)
+TEST(ScanStateTest, anOutcomeDescribesWhatIsNoExceptionAsUnknown)
 {
     EXPECT_EQ(outcomeOfThrowing(7),
               ScanOutcome<int>(ProbeError::unreadableOutput("unknown error")));

@@ -56,20 +56,20 @@ std::optional<std::string> answerOf(std::string_view script, double timeoutSecon
 
 } // namespace
 
-TEST(ClaudeCLILocatorTest, triesTheFixedPlacesInOrder)
+TEST(ClaudeCLILocatorTest, triesTheFixedPathsInOrder)
 {
     EXPECT_EQ(
         candidates(std::nullopt, "/home/me"),
         (Paths{"/home/me/.local/bin/claude", "/opt/homebrew/bin/claude", "/usr/local/bin/claude"}));
 }
 
-TEST(ClaudeCLILocatorTest, joinsTheHomeFolderAsItIs)
+TEST(ClaudeCLILocatorTest, joinsTheHomeFolderUnchanged)
 {
     EXPECT_EQ(candidates(std::nullopt, "/home/me/").front(), "/home/me//.local/bin/claude");
     EXPECT_EQ(candidates(std::nullopt, "").front(), "/.local/bin/claude");
 }
 
-TEST(ClaudeCLILocatorTest, ignoresAnOverrideOfOnlySpaces)
+TEST(ClaudeCLILocatorTest, ignoresABlankOverride)
 {
     EXPECT_EQ(candidates(" \t ", "/home/me"), candidates(std::nullopt, "/home/me"));
     EXPECT_EQ(candidates("", "/home/me"), candidates(std::nullopt, "/home/me"));
@@ -104,7 +104,7 @@ TEST(ClaudeCLILocatorTest, trimsBlankLinesAroundTheShellsAnswer)
     EXPECT_EQ(resolve(std::nullopt, "/home/me", world.lookup()), "/nix/claude");
 }
 
-TEST(ClaudeCLILocatorTest, namesEverythingItTriedWhenThereIsNone)
+TEST(ClaudeCLILocatorTest, namesEverythingItTriedWhenNothingIsFound)
 {
     const Paths fixed{"/home/me/.local/bin/claude", "/opt/homebrew/bin/claude",
                       "/usr/local/bin/claude", "zsh -lc 'command -v claude'"};
@@ -115,12 +115,12 @@ TEST(ClaudeCLILocatorTest, namesEverythingItTriedWhenThereIsNone)
     EXPECT_EQ(searchedWhenNotFound("/mine", {}).size(), 5U);
 }
 
-TEST(ClaudeCLILocatorTest, namesPathsThatAreNotUtf8Repaired)
+TEST(ClaudeCLILocatorTest, namesIllFormedPathsRepaired)
 {
     EXPECT_EQ(searchedWhenNotFound("/odd\xFF/claude", {}).front(), "/odd\xEF\xBF\xBD/claude");
 }
 
-TEST(ClaudeCLILocatorTest, takesARegularExecutableFileForExecutable)
+TEST(ClaudeCLILocatorTest, acceptsARegularExecutableFile)
 {
     const TemporaryFolder folder;
     const std::string script = folder.writeScript("claude", "#!/bin/sh\n").string();
@@ -129,7 +129,7 @@ TEST(ClaudeCLILocatorTest, takesARegularExecutableFileForExecutable)
     EXPECT_TRUE(isExecutableFile(folder.path() / "link"));
 }
 
-TEST(ClaudeCLILocatorTest, takesNothingElseForExecutable)
+TEST(ClaudeCLILocatorTest, rejectsEverythingElseAsExecutable)
 {
     const TemporaryFolder folder;
     std::filesystem::create_symlink("self", folder.path() / "self");
@@ -143,30 +143,30 @@ TEST(ClaudeCLILocatorTest, takesNothingElseForExecutable)
     EXPECT_FALSE(isExecutableFile(std::string("/bin/sh\0x", 9)));
 }
 
-TEST(ClaudeCLILocatorTest, asksTheShellAsALoginShell)
+TEST(ClaudeCLILocatorTest, startsTheShellAsALoginShell)
 {
     EXPECT_EQ(answerOf("#!/bin/sh\nprintf '%s|' \"$@\"\n"), "-lc|command -v claude|");
 }
 
-TEST(ClaudeCLILocatorTest, givesTheShellsOutputUntrimmedAndWithoutItsErrors)
+TEST(ClaudeCLILocatorTest, returnsTheShellsUntrimmedStandardOutput)
 {
     EXPECT_EQ(answerOf("#!/bin/sh\necho noise >&2\nprintf '\\n/bin/claude\\n\\n'\n"),
               "\n/bin/claude\n\n");
 }
 
-TEST(ClaudeCLILocatorTest, takesNoAnswerFromAShellThatFails)
+TEST(ClaudeCLILocatorTest, ignoresTheAnswerOfAFailingShell)
 {
     EXPECT_EQ(answerOf("#!/bin/sh\necho /bin/claude\nexit 1\n"), std::nullopt);
     EXPECT_EQ(answerOf("#!/bin/sh\necho /bin/claude\nkill -9 $$\n"), std::nullopt);
     EXPECT_EQ(loginShellPath("/nowhere/zsh", 10, nullptr), std::nullopt);
 }
 
-TEST(ClaudeCLILocatorTest, takesNoAnswerThatIsNoText)
+TEST(ClaudeCLILocatorTest, ignoresAnAnswerThatIsNotUtf8)
 {
     EXPECT_EQ(answerOf("#!/bin/sh\nprintf '/bin/\\377'\n"), std::nullopt);
 }
 
-TEST(ClaudeCLILocatorTest, takesAnAnswerUpToItsLimit)
+TEST(ClaudeCLILocatorTest, acceptsAnAnswerUpToItsLimit)
 {
     EXPECT_EQ(answerOf("#!/bin/sh\nhead -c 65536 /dev/zero\n")->size(), 65'536U);
     EXPECT_EQ(answerOf("#!/bin/sh\nhead -c 65537 /dev/zero\n"), std::nullopt);
@@ -180,7 +180,7 @@ TEST(ClaudeCLILocatorTest, stopsAShellThatHangs)
     EXPECT_LT(watch.seconds(), 10);
 }
 
-TEST(ClaudeCLILocatorTest, takesNoAnswerFromAShellThatEndsByItselfAfterItsTime)
+TEST(ClaudeCLILocatorTest, ignoresTheAnswerOfAShellThatExitsTooLate)
 {
     EXPECT_EQ(answerOf("#!/bin/sh\necho /bin/claude\ntrap 'exit 0' TERM\n"
                        "while :; do sleep 0.02; done\n",
@@ -188,7 +188,7 @@ TEST(ClaudeCLILocatorTest, takesNoAnswerFromAShellThatEndsByItselfAfterItsTime)
               std::nullopt);
 }
 
-TEST(ClaudeCLILocatorTest, takesTheAnswerOfAShellWhoseProfileLeavesADaemonBehind)
+TEST(ClaudeCLILocatorTest, acceptsTheAnswerOfAShellThatLeavesADaemon)
 {
     const ProcessCensus before = ProcessCensus::now();
     const Stopwatch watch;

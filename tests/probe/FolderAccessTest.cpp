@@ -29,14 +29,14 @@ TEST(FolderAccessTest, acceptsAFolderThatCanBeListed)
     EXPECT_EQ(FolderAccess::preflight(folder.path()), std::nullopt);
 }
 
-TEST(FolderAccessTest, refusesAFolderThatIsGone)
+TEST(FolderAccessTest, rejectsAMissingFolder)
 {
     const TemporaryFolder folder;
     const std::filesystem::path gone = folder.path() / "gone";
     expectUnreadable(gone, gone.string());
 }
 
-TEST(FolderAccessTest, refusesWhatIsNoFolder)
+TEST(FolderAccessTest, rejectsAnythingButAFolder)
 {
     const TemporaryFolder folder;
     const std::filesystem::path file = folder.write("file", "x");
@@ -47,7 +47,7 @@ TEST(FolderAccessTest, refusesWhatIsNoFolder)
     expectUnreadable("", "");
 }
 
-TEST(FolderAccessTest, refusesAFolderThatMayNotBeListed)
+TEST(FolderAccessTest, rejectsAnUnlistableFolder)
 {
     const TemporaryFolder folder;
     const std::filesystem::path locked = folder.path() / "locked";
@@ -64,7 +64,7 @@ TEST(FolderAccessTest, followsALinkToAFolder)
     EXPECT_EQ(FolderAccess::checkSynchronously(folder.path() / "link"), std::nullopt);
 }
 
-TEST(FolderAccessTest, acceptsNamesThatAreNotUtf8AndShowsThemRepaired)
+TEST(FolderAccessTest, acceptsIllFormedNamesAndShowsThemRepaired)
 {
     const TemporaryFolder folder;
     const std::filesystem::path odd = folder.path() / "odd-\xFF\nname";
@@ -73,13 +73,13 @@ TEST(FolderAccessTest, acceptsNamesThatAreNotUtf8AndShowsThemRepaired)
     EXPECT_EQ(FolderAccess::checkSynchronously(odd), std::nullopt);
 }
 
-TEST(FolderAccessTest, refusesAPathThatTheSystemWouldCut)
+TEST(FolderAccessTest, rejectsAPathThatTheSystemWouldTruncate)
 {
     using namespace std::string_literals;
     expectUnreadable("/\0etc"s, "/\0etc"s);
 }
 
-TEST(FolderAccessTest, takesADiskThatDoesNotAnswerInTimeForUnreadable)
+TEST(FolderAccessTest, treatsADiskThatHangsAsUnreadable)
 {
     EXPECT_EQ(FolderAccess::preflight("/", std::chrono::duration<double>(-1)),
               ProbeError::repositoryUnreadable("/"));

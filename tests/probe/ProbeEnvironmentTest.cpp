@@ -44,7 +44,7 @@ TEST(ProbeEnvironmentTest, makesARelativeConfigurationFolderAbsolute)
               "/elsewhere/here/claude");
 }
 
-TEST(ProbeEnvironmentTest, leavesABlankConfigurationFolderAsItWas)
+TEST(ProbeEnvironmentTest, keepsABlankConfigurationFolder)
 {
     const Environment parent{{"CLAUDE_CONFIG_DIR", " \t"}};
     EXPECT_EQ(childEnvironment(parent, "/work"), parent);

@@ -79,7 +79,7 @@ TEST(ProbeErrorTest, writesTheTurnCountInPlainDigits)
     EXPECT_NE(detail.find(" covers 1234567 turns. "), std::string::npos);
 }
 
-TEST(ProbeErrorTest, neverVariesTheTextsOfCasesWithoutData)
+TEST(ProbeErrorTest, hasFixedTextsForCasesWithoutData)
 {
     EXPECT_EQ(
         ProbeError::notAuthenticated().detail(),
@@ -107,7 +107,7 @@ TEST(ProbeErrorTest, showsFiveHundredCharactersWhole)
     EXPECT_EQ(ProbeError::unreadableOutput(" \n" + text + "\n ").detail(), text);
 }
 
-TEST(ProbeErrorTest, cutsAfterFiveHundredCharacters)
+TEST(ProbeErrorTest, truncatesAfterFiveHundredCharacters)
 {
     EXPECT_EQ(ProbeError::unreadableOutput(repeated("x", 501)).detail(),
               repeated("x", 500) + "\u2026");
@@ -115,7 +115,7 @@ TEST(ProbeErrorTest, cutsAfterFiveHundredCharacters)
               repeated("x", 500) + "\u2026");
 }
 
-TEST(ProbeErrorTest, dropsBlankLinesAtTheEndsBeforeItCuts)
+TEST(ProbeErrorTest, trimsBlankLinesBeforeTruncating)
 {
     EXPECT_EQ(ProbeError::unreadableOutput("\n\n" + repeated("x", 501) + "\n\n").detail(),
               repeated("x", 500) + "\u2026");

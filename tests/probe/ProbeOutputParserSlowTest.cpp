@@ -34,7 +34,7 @@ TEST(ProbeOutputParserSlowTest, copiesAHugeComplaintOnce)
     EXPECT_LT(memory.growthInBytes(), size + size / 20);
 }
 
-TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeArraysWhereTextsAndCountsBelong)
+TEST(ProbeOutputParserSlowTest, copiesNoHugeArrayWhereAScalarBelongs)
 {
     std::string zeros = "0";
     for (zeros.reserve(size); zeros.size() < size;)
@@ -48,7 +48,7 @@ TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeArraysWhereTextsAndCountsBelo
     EXPECT_LT(memory.growthInBytes(), size / 20);
 }
 
-TEST(ProbeOutputParserSlowTest, copiesNothingOfHugeOutputThatIsNoRecord)
+TEST(ProbeOutputParserSlowTest, copiesNoHugeOutputThatIsNoRecord)
 {
     const std::string text(size, 'x');
     const PeakMemory memory;

@@ -39,31 +39,31 @@ TEST(ProbeOutputParserTest, readsAResultRecord)
     EXPECT_EQ(read.usage, (ProbeUsage{3, 0, 0, 9}));
 }
 
-TEST(ProbeOutputParserTest, acceptsASessionIdentifierAlone)
+TEST(ProbeOutputParserTest, acceptsARecordOfOnlyASessionIdentifier)
 {
     EXPECT_EQ(output(R"({"session_id":"s"})"),
               (ProbeOutput{.sessionID = "s", .result = "", .usage = std::nullopt}));
 }
 
-TEST(ProbeOutputParserTest, readsUsageOfInputTokensAlone)
+TEST(ProbeOutputParserTest, readsAUsageOfOnlyInputTokens)
 {
     const auto read = output(R"({"session_id":"s","usage":{"input_tokens":3}})");
     EXPECT_EQ(read.usage, (ProbeUsage{3, 0, 0, 0}));
     EXPECT_EQ(read.usage->startupTotal(), 3);
 }
 
-TEST(ProbeOutputParserTest, hasNoUsageFromOutputTokensAlone)
+TEST(ProbeOutputParserTest, rejectsAUsageOfOnlyOutputTokens)
 {
     EXPECT_FALSE(output(R"({"session_id":"s","usage":{"output_tokens":3}})").usage);
 }
 
-TEST(ProbeOutputParserTest, hasNoUsageFromWhatIsNoObject)
+TEST(ProbeOutputParserTest, rejectsAUsageThatIsNoObject)
 {
     EXPECT_FALSE(output(R"({"session_id":"s","usage":[3]})").usage);
     EXPECT_FALSE(output(R"({"session_id":"s","usage":null})").usage);
 }
 
-TEST(ProbeOutputParserTest, readsAResultThatIsNoTextAsEmpty)
+TEST(ProbeOutputParserTest, readsAResultThatIsNoStringAsEmpty)
 {
     EXPECT_EQ(output(R"({"session_id":"s","result":{"a":1}})").result, "");
     EXPECT_EQ(output(R"({"session_id":"s","result":null})").result, "");
@@ -75,12 +75,12 @@ TEST(ProbeOutputParserTest, acceptsARecordWhateverTheExitCode)
     EXPECT_EQ(read.sessionID, "s");
 }
 
-TEST(ProbeOutputParserTest, letsTheLastOfEqualKeysWin)
+TEST(ProbeOutputParserTest, lastDuplicateKeyWins)
 {
     EXPECT_EQ(output(R"({"session_id":"a","session_id":"b"})").sessionID, "b");
 }
 
-TEST(ProbeOutputParserTest, ignoresAnErrorMarkThatIsNoBoolean)
+TEST(ProbeOutputParserTest, ignoresAnErrorFlagThatIsNoBoolean)
 {
     EXPECT_EQ(output(R"({"session_id":"s","is_error":"true"})").sessionID, "s");
     EXPECT_EQ(output(R"({"session_id":"s","is_error":1})").sessionID, "s");
@@ -102,30 +102,30 @@ TEST(ProbeOutputParserTest, reportsAnErrorWithoutText)
     EXPECT_EQ(errorOf(R"({"is_error":true,"result":7})", "", 1), expected);
 }
 
-TEST(ProbeOutputParserTest, reportsBlankErrorTextAsItIs)
+TEST(ProbeOutputParserTest, reportsBlankErrorTextUnchanged)
 {
     EXPECT_EQ(errorOf(R"({"is_error":true,"result":" "})", "", 0), ProbeError::sessionFailed(" "));
 }
 
-TEST(ProbeOutputParserTest, knowsASignInFailureInTheResult)
+TEST(ProbeOutputParserTest, recognisesASignInFailureInTheResult)
 {
     EXPECT_EQ(errorOf(R"({"is_error":true,"result":"Not logged in · Please run /login"})", "", 1),
               ProbeError::notAuthenticated());
 }
 
-TEST(ProbeOutputParserTest, knowsASignInFailureOnStandardErrorInAnyLetterCase)
+TEST(ProbeOutputParserTest, recognisesASignInFailureOnStandardErrorInAnyLetterCase)
 {
     EXPECT_EQ(errorOf("not json", "Invalid API key", 1), ProbeError::notAuthenticated());
     EXPECT_EQ(errorOf("", "OAUTH SESSION EXPIRED", 143), ProbeError::notAuthenticated());
 }
 
-TEST(ProbeOutputParserTest, knowsASignInFailureOnStandardOutput)
+TEST(ProbeOutputParserTest, recognisesASignInFailureOnStandardOutput)
 {
     EXPECT_EQ(errorOf("Failed to authenticate. API Error: 401", "boom", 1),
               ProbeError::notAuthenticated());
 }
 
-TEST(ProbeOutputParserTest, testsNoSignInPhraseAfterExitCodeZero)
+TEST(ProbeOutputParserTest, ignoresSignInPhrasesAfterExitCodeZero)
 {
     EXPECT_EQ(errorOf("not json", "Invalid API key", 0), ProbeError::unreadableOutput("not json"));
     EXPECT_EQ(errorOf(" ", "Invalid API key", 0), ProbeError::unreadableOutput("Invalid API key"));
@@ -147,13 +147,13 @@ TEST(ProbeOutputParserTest, saysNoOutputWhenBothStreamsAreEmpty)
     EXPECT_EQ(errorOf("", "", 1), ProbeError::unreadableOutput("(no output)"));
 }
 
-TEST(ProbeOutputParserTest, takesAnArrayForUnreadable)
+TEST(ProbeOutputParserTest, treatsAnArrayAsUnreadable)
 {
     EXPECT_EQ(errorOf(R"([{"session_id":"s"}])", "", 0),
               ProbeError::unreadableOutput(R"([{"session_id":"s"}])"));
 }
 
-TEST(ProbeOutputParserTest, needsASessionIdentifier)
+TEST(ProbeOutputParserTest, requiresASessionIdentifier)
 {
     EXPECT_EQ(errorOf(" {\"result\":\"x\"}\n", "boom", 0),
               ProbeError::unreadableOutput(R"({"result":"x"})"));
@@ -163,13 +163,13 @@ TEST(ProbeOutputParserTest, needsASessionIdentifier)
               ProbeError::unreadableOutput(R"({"session_id":5})"));
 }
 
-TEST(ProbeOutputParserTest, shortensUnreadableOutput)
+TEST(ProbeOutputParserTest, truncatesUnreadableOutput)
 {
     EXPECT_EQ(errorOf(std::string(501, 'x'), "", 0),
               ProbeError::unreadableOutput(std::string(500, 'x').append("…")));
 }
 
-TEST(ProbeOutputParserTest, knowsFourComplaints)
+TEST(ProbeOutputParserTest, recognisesFourComplaints)
 {
     for (const char *text : {"Failed to authenticate", "x OAuth session expired y",
                              "please run /login", "INVALID API KEY", "invalid api \u212Aey"})
@@ -178,7 +178,7 @@ TEST(ProbeOutputParserTest, knowsFourComplaints)
         EXPECT_FALSE(ProbeOutputParser::indicatesAuthenticationFailure(text)) << text;
 }
 
-TEST(ProbeOutputParserTest, findsAComplaintWhereverItStandsInALongText)
+TEST(ProbeOutputParserTest, findsAComplaintAnywhereInALongText)
 {
     const std::string complaint = "OAuth Session Expired";
     for (std::size_t before = 65536 - 200; before < 65536 + 100; ++before) {
@@ -190,7 +190,7 @@ TEST(ProbeOutputParserTest, findsAComplaintWhereverItStandsInALongText)
     EXPECT_FALSE(ProbeOutputParser::indicatesAuthenticationFailure(std::string(1 << 20, 'x')));
 }
 
-TEST(ProbeOutputParserTest, findsAComplaintBetweenLettersOfSeveralBytes)
+TEST(ProbeOutputParserTest, findsAComplaintAmongMultibyteLetters)
 {
     std::string wide;
     for (int count = 0; count < 30'000; ++count)

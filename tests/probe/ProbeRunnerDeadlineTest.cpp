@@ -74,7 +74,7 @@ std::string printing(const char *text)
 
 } // namespace
 
-TEST(ProbeRunnerDeadlineTest, reportsASessionKilledAtTheTimeoutAsTimedOutWhateverItPrinted)
+TEST(ProbeRunnerDeadlineTest, reportsAKilledSessionAsTimedOutWhateverItPrinted)
 {
     for (const char *const text : {"{\"session_id\":", complete, failed})
         EXPECT_EQ(errorOf({.script = printing(text) + "exec sleep 30\n", .timeoutSeconds = 0.3}),
@@ -82,12 +82,12 @@ TEST(ProbeRunnerDeadlineTest, reportsASessionKilledAtTheTimeoutAsTimedOutWhateve
             << text;
 }
 
-TEST(ProbeRunnerDeadlineTest, reportsAStoppedSessionThatExitsByItselfAsTimedOut)
+TEST(ProbeRunnerDeadlineTest, reportsAStoppedSessionThatExitsAsTimedOut)
 {
     EXPECT_EQ(errorOf({.script = exitsWith143, .timeoutSeconds = 0.5}), ProbeError::timedOut());
 }
 
-TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedSessionThatExitsByItself)
+TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedSessionThatExits)
 {
     EXPECT_EQ(errorOf({.script = printing(complete) + exitsWith143, .timeoutSeconds = 0.5}),
               std::nullopt);
@@ -95,17 +95,17 @@ TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedSessionThatExitsBy
               ProbeError::sessionFailed("no"));
 }
 
-TEST(ProbeRunnerDeadlineTest, reportsPartialOutputOfAReaderThatHadToStopAsTimedOut)
+TEST(ProbeRunnerDeadlineTest, reportsPartialOutputOfAStoppedReaderAsTimedOut)
 {
     EXPECT_EQ(errorOf({.script = "echo '{\"session_id\":'\nsleep 3 &\n"}), ProbeError::timedOut());
 }
 
-TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAReaderThatHadToStop)
+TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedReader)
 {
     EXPECT_EQ(errorOf({.script = printing(complete) + "sleep 3 &\n"}), std::nullopt);
 }
 
-TEST(ProbeRunnerDeadlineTest, continuesWithoutATranscriptWhenTheDiskDoesNotAnswer)
+TEST(ProbeRunnerDeadlineTest, continuesWithoutATranscriptWhenTheDiskHangs)
 {
     const Stopwatch watch;
     EXPECT_EQ(errorOf({.script = printing(complete),

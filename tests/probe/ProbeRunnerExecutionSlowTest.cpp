@@ -67,7 +67,7 @@ TEST(ProbeRunnerExecutionSlowTest, capturesOneGibibyteOfBothStreams)
     EXPECT_EQ(execution.exitCode, 0);
 }
 
-TEST(ProbeRunnerExecutionSlowTest, endsInTimeWhileAFloodStillComes)
+TEST(ProbeRunnerExecutionSlowTest, endsInTimeDuringAFloodOfOutput)
 {
     if (isSanitized)
         GTEST_SKIP() << "needs no sanitizer";
@@ -80,7 +80,7 @@ TEST(ProbeRunnerExecutionSlowTest, endsInTimeWhileAFloodStillComes)
     EXPECT_EQ(execution.standardOutput, "");
 }
 
-TEST(ProbeRunnerExecutionSlowTest, givesEverythingBackAfterAThousandRuns)
+TEST(ProbeRunnerExecutionSlowTest, leaksNothingInAThousandRuns)
 {
     const ProcessCensus before = ProcessCensus::now();
     std::vector<std::thread> threads;

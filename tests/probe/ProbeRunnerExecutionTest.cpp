@@ -42,7 +42,7 @@ std::string startFailure(const ProbeRunner::Launch &launch)
 
 } // namespace
 
-TEST(ProbeRunnerExecutionTest, capturesNothingFromAChildThatExitsAtOnce)
+TEST(ProbeRunnerExecutionTest, capturesNothingFromAChildThatExitsImmediately)
 {
     const Execution execution = executeInTime(patientLaunch({"print", "", "", "0"}));
     EXPECT_EQ(execution, Execution{});
@@ -72,14 +72,14 @@ TEST(ProbeRunnerExecutionTest, keepsAStreamOfExactlyTheCaptureLimit)
     EXPECT_EQ(execution.standardError.size(), launch.limits.captureLimit);
 }
 
-TEST(ProbeRunnerExecutionTest, drainsAStreamBeyondTheCaptureLimitAndTakesItForUndecodable)
+TEST(ProbeRunnerExecutionTest, drainsAStreamBeyondTheCaptureLimitAndDropsIt)
 {
     ProbeRunner::Launch launch = patientLaunch({"flood", "12000000"});
     launch.limits.captureLimit = 8'388'608;
     EXPECT_EQ(executeInTime(launch), Execution{});
 }
 
-TEST(ProbeRunnerExecutionTest, decodesEachStreamByItself)
+TEST(ProbeRunnerExecutionTest, decodesEachStreamSeparately)
 {
     const Execution execution = executeInTime(patientLaunch({"half"}));
     EXPECT_EQ(execution.standardOutput, "");
@@ -97,7 +97,7 @@ TEST(ProbeRunnerExecutionTest, stopsAChildAtTheTimeout)
     EXPECT_EQ(execution.exitCode, SIGTERM);
 }
 
-TEST(ProbeRunnerExecutionTest, keepsWhatAChildPrintedBeforeItClosedItsOutputAndLivedOn)
+TEST(ProbeRunnerExecutionTest, keepsTheOutputOfAChildThatClosedItAndLivedOn)
 {
     EXPECT_EQ(executeInTime(hostileLaunch({"close-output"})).standardOutput, "last words");
 }
@@ -119,7 +119,7 @@ TEST(ProbeRunnerExecutionTest, killsAChildThatStoppedItself)
     EXPECT_EQ(execution.exitCode, SIGKILL);
 }
 
-TEST(ProbeRunnerExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfterTheTimeout)
+TEST(ProbeRunnerExecutionTest, doesNotCountALateExitAsTimedOut)
 {
     ProbeRunner::Launch launch = hostileLaunch({"trap-term", "143"});
     launch.limits.killGraceSeconds = 5;
@@ -129,7 +129,7 @@ TEST(ProbeRunnerExecutionTest, doesNotCountAChildAsTimedOutThatExitsByItselfAfte
     EXPECT_EQ(execution.exitCode, 143);
 }
 
-TEST(ProbeRunnerExecutionTest, countsNoSignalAsTimeoutThatCameFromElsewhere)
+TEST(ProbeRunnerExecutionTest, doesNotCountAForeignSignalAsTimedOut)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = patientLaunch({});
@@ -189,7 +189,7 @@ TEST(ProbeRunnerExecutionTest, sweepsTheGroupAfterATimeout)
         eventually([&] { return std::filesystem::exists(mark); }, std::chrono::milliseconds(1200)));
 }
 
-TEST(ProbeRunnerExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
+TEST(ProbeRunnerExecutionTest, sweepsTheSessionBehindAStoppedWrapper)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = hostileLaunch({});
@@ -202,7 +202,7 @@ TEST(ProbeRunnerExecutionTest, sweepsTheSessionBehindAWrapperThatWasStopped)
     EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
 }
 
-TEST(ProbeRunnerExecutionTest, saysWhatCouldNotBeStartedAndWhy)
+TEST(ProbeRunnerExecutionTest, reportsWhatCouldNotBeStartedAndWhy)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = hostileLaunch({});
@@ -213,7 +213,7 @@ TEST(ProbeRunnerExecutionTest, saysWhatCouldNotBeStartedAndWhy)
               "Could not start " + folder.path().string() + "/cl\xEF\xBF\xBD: Permission denied");
 }
 
-TEST(ProbeRunnerExecutionTest, saysSoWhenTheFolderIsGone)
+TEST(ProbeRunnerExecutionTest, reportsAMissingFolder)
 {
     ProbeRunner::Launch launch = hostileLaunch({"describe"});
     launch.repository = "/nowhere";
@@ -221,7 +221,7 @@ TEST(ProbeRunnerExecutionTest, saysSoWhenTheFolderIsGone)
               "Could not start " + hostileChildPath() + ": No such file or directory");
 }
 
-TEST(ProbeRunnerExecutionTest, startsInAFolderWhoseNameIsNotUtf8)
+TEST(ProbeRunnerExecutionTest, startsInAFolderWithAnIllFormedName)
 {
     const TemporaryFolder folder;
     ProbeRunner::Launch launch = patientLaunch({"print", "here", "", "0"});
@@ -239,7 +239,7 @@ TEST(ProbeRunnerExecutionTest, startsNothingOnceTheProgramEnds)
               "Could not start " + hostileChildPath() + ": Operation canceled");
 }
 
-TEST(ProbeRunnerExecutionTest, givesEverythingBack)
+TEST(ProbeRunnerExecutionTest, leaksNothing)
 {
     const ProcessCensus before = ProcessCensus::now();
     for (const std::string verb : {"half", "close-output", "stop", "ignore-term"})

@@ -67,7 +67,7 @@ int attemptsMade(int attempts)
 
 } // namespace
 
-TEST(ProbeRunnerSearchTest, findsATranscriptAtOnce)
+TEST(ProbeRunnerSearchTest, findsATranscriptAtTheFirstAttempt)
 {
     const TemporaryFolder folder;
     folder.write("project/session.jsonl", assistantLine);
@@ -76,7 +76,7 @@ TEST(ProbeRunnerSearchTest, findsATranscriptAtOnce)
     EXPECT_LT(watch.seconds(), 30);
 }
 
-TEST(ProbeRunnerSearchTest, triesAsOftenAsItIsTold)
+TEST(ProbeRunnerSearchTest, makesTheConfiguredNumberOfAttempts)
 {
     EXPECT_EQ(attemptsMade(3), 3);
     EXPECT_EQ(attemptsMade(1), 1);
@@ -84,7 +84,7 @@ TEST(ProbeRunnerSearchTest, triesAsOftenAsItIsTold)
     EXPECT_EQ(attemptsMade(-4), 1);
 }
 
-TEST(ProbeRunnerSearchTest, usesATranscriptThatIsFirstFoundOnTheFifthAttempt)
+TEST(ProbeRunnerSearchTest, usesATranscriptFoundOnTheFifthAttempt)
 {
     const TemporaryFolder folder;
     int made = 0;
@@ -99,7 +99,7 @@ TEST(ProbeRunnerSearchTest, usesATranscriptThatIsFirstFoundOnTheFifthAttempt)
     EXPECT_GE(watch.seconds(), 4 * 0.02);
 }
 
-TEST(ProbeRunnerSearchTest, triesAgainWhileTheTranscriptHoldsNoUsage)
+TEST(ProbeRunnerSearchTest, retriesWhileTheTranscriptHoldsNoUsage)
 {
     const TemporaryFolder folder;
     folder.write("session.jsonl", userLine);
@@ -113,7 +113,7 @@ TEST(ProbeRunnerSearchTest, triesAgainWhileTheTranscriptHoldsNoUsage)
     EXPECT_EQ(made, 3);
 }
 
-TEST(ProbeRunnerSearchTest, endsBetweenTwoAttemptsWhenTheProgramDoes)
+TEST(ProbeRunnerSearchTest, stopsBetweenAttemptsWhenTheProgramEnds)
 {
     const TemporaryFolder folder;
     ProbeRunner::Settings search = searching(folder.path(), 12, 60);
@@ -127,7 +127,7 @@ TEST(ProbeRunnerSearchTest, endsBetweenTwoAttemptsWhenTheProgramDoes)
     quitting.join();
 }
 
-TEST(ProbeRunnerSearchTest, beginsNoAttemptAfterItsLimit)
+TEST(ProbeRunnerSearchTest, startsNoAttemptAfterItsLimit)
 {
     const TemporaryFolder folder;
     const auto made = std::make_shared<std::atomic<int>>(0);
@@ -140,7 +140,7 @@ TEST(ProbeRunnerSearchTest, beginsNoAttemptAfterItsLimit)
     EXPECT_LE(*made, 1);
 }
 
-TEST(ProbeRunnerSearchTest, endsTheProgramOnADelayThatIsNoDuration)
+TEST(ProbeRunnerSearchTest, endsTheProgramOnAnInvalidDelay)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     // No folder of its own: a program that dies leaves it behind.

@@ -104,7 +104,7 @@ TEST(ProbeRunnerTest, takesTheTotalOfASingleTurnFromTheCommand)
     EXPECT_EQ(result.totalSource, TotalSource::cliUsage);
 }
 
-TEST(ProbeRunnerTest, letsATurnCountBelowOneThrough)
+TEST(ProbeRunnerTest, acceptsATurnCountBelowOne)
 {
     for (const char *const turns : {"0", "-3"}) {
         const Setting setting;
@@ -113,7 +113,7 @@ TEST(ProbeRunnerTest, letsATurnCountBelowOneThrough)
     }
 }
 
-TEST(ProbeRunnerTest, refusesTheUsageOfSeveralTurns)
+TEST(ProbeRunnerTest, rejectsTheUsageOfSeveralTurns)
 {
     const Setting setting;
     setting.commandPrints(usageAndTurns("3"));
@@ -122,7 +122,7 @@ TEST(ProbeRunnerTest, refusesTheUsageOfSeveralTurns)
     EXPECT_EQ(setting.error(), ProbeError::multiTurnUsageOnly(2));
 }
 
-TEST(ProbeRunnerTest, refusesAUsageOfUnknownTurns)
+TEST(ProbeRunnerTest, rejectsAUsageOfUnknownTurns)
 {
     const Setting setting;
     setting.commandPrints(record(R"("usage":)" + std::string(usage)));
@@ -131,7 +131,7 @@ TEST(ProbeRunnerTest, refusesAUsageOfUnknownTurns)
     EXPECT_EQ(setting.error(), ProbeError::unknownTurnCount());
 }
 
-TEST(ProbeRunnerTest, namesTheProjectsRootWithoutTranscriptAndUsageWhateverTheTurns)
+TEST(ProbeRunnerTest, namesTheProjectsRootWithoutTranscriptAndUsage)
 {
     const Setting setting;
     const auto expected = ProbeError::noTranscript(setting.settings.projectsRoot.string());
@@ -141,7 +141,7 @@ TEST(ProbeRunnerTest, namesTheProjectsRootWithoutTranscriptAndUsageWhateverTheTu
     EXPECT_EQ(setting.error(), expected);
 }
 
-TEST(ProbeRunnerTest, neverLooksForTheTranscriptOfASessionThatFailed)
+TEST(ProbeRunnerTest, neverSearchesTheTranscriptOfAFailedSession)
 {
     const Setting setting;
     setting.sessionLeaves(usage);
@@ -157,14 +157,14 @@ TEST(ProbeRunnerTest, reportsASessionThatIsNotSignedIn)
     EXPECT_EQ(setting.error(), ProbeError::notAuthenticated());
 }
 
-TEST(ProbeRunnerTest, showsOutputThatItCannotRead)
+TEST(ProbeRunnerTest, showsUnreadableOutput)
 {
     const Setting setting;
     setting.commandRuns("echo plain text\nexit 1\n");
     EXPECT_EQ(setting.error(), ProbeError::unreadableOutput("plain text"));
 }
 
-TEST(ProbeRunnerTest, findsNoCommandWhereThereIsNone)
+TEST(ProbeRunnerTest, reportsAMissingCommand)
 {
     const Setting setting;
     const auto error = setting.error();
@@ -191,7 +191,7 @@ TEST(ProbeRunnerTest, runsTheOverrideWhenThereIsOne)
     EXPECT_EQ(setting.result().resolvedCLIPath, *setting.settings.cliOverride);
 }
 
-TEST(ProbeRunnerTest, namesWhatCouldNotBeStarted)
+TEST(ProbeRunnerTest, namesTheExecutableThatCouldNotBeStarted)
 {
     const Setting setting;
     const auto cli = setting.folder
@@ -234,7 +234,7 @@ TEST(ProbeRunnerTest, hidesKeysFromTheCommand)
               std::string::npos);
 }
 
-TEST(ProbeRunnerTest, promptsForSlabLinesToTheLetter)
+TEST(ProbeRunnerTest, hasAFixedPrompt)
 {
     EXPECT_EQ(ProbeRunner::probePrompt,
               "Report your own startup context usage for this session.\nOutput ONLY lines of this "
@@ -271,7 +271,7 @@ TEST(ProbeRunnerTest, leavesTheTranscriptSearchOutOfTheDuration)
     EXPECT_LE(result.duration, watch.seconds() - 0.5);
 }
 
-TEST(ProbeRunnerTest, readsTurnsOnlyFromAnExactInteger)
+TEST(ProbeRunnerTest, requiresAnExactIntegerOfTurns)
 {
     EXPECT_EQ(ProbeRunner::reportedTurns(" \n{\"num_turns\": 7}\n"), 7);
     EXPECT_EQ(ProbeRunner::reportedTurns(R"({"num_turns":-1})"), -1);
@@ -284,7 +284,7 @@ TEST(ProbeRunnerTest, readsTurnsOnlyFromAnExactInteger)
     EXPECT_EQ(ProbeRunner::reportedTurns(""), std::nullopt);
 }
 
-TEST(ProbeRunnerTest, needsNoShutdown)
+TEST(ProbeRunnerTest, worksWithoutAShutdown)
 {
     Setting setting;
     setting.settings.shutdown = nullptr;

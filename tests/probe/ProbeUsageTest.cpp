@@ -36,14 +36,14 @@ TEST(ProbeUsageTest, readsTheFourCounts)
               counts(3, 40, 500, 6000));
 }
 
-TEST(ProbeUsageTest, takesInputTokensAlone)
+TEST(ProbeUsageTest, acceptsInputTokensAlone)
 {
     const auto usage = usageOf(R"({"input_tokens":3})");
     EXPECT_EQ(usage, counts(3, 0, 0, 0));
     EXPECT_EQ(usage->startupTotal(), 3);
 }
 
-TEST(ProbeUsageTest, takesEitherCacheCountAlone)
+TEST(ProbeUsageTest, acceptsEitherCacheCountAlone)
 {
     EXPECT_EQ(usageOf(R"({"cache_creation_input_tokens":7})"), counts(0, 7, 0, 0));
     EXPECT_EQ(usageOf(R"({"cache_read_input_tokens":8})"), counts(0, 0, 8, 0));
@@ -55,7 +55,7 @@ TEST(ProbeUsageTest, isNothingWithOutputTokensAlone)
     EXPECT_FALSE(usageOf("{}"));
 }
 
-TEST(ProbeUsageTest, takesNoValueThatIsNoExactInteger)
+TEST(ProbeUsageTest, treatsInexactIntegersAsAbsent)
 {
     for (const char *value : {"\"3\"", "3.0", "3.5", "3e0", "null", "true", "[3]", "{}",
                               "9223372036854775808", "99999999999999999999"}) {

@@ -39,12 +39,12 @@ TEST(SlabParserTest, acceptsBulletsQuotesAndBackticksAroundTheLine)
         EXPECT_EQ(SlabParser::parseLine(line), slab("a", 1)) << line;
 }
 
-TEST(SlabParserTest, failsWhereBoldMarkersCloseBehindTheKeyword)
+TEST(SlabParserTest, rejectsBoldMarkersAfterTheKeyword)
 {
     EXPECT_FALSE(SlabParser::parseLine("- **SLAB** system prompt TOKENS 5"));
 }
 
-TEST(SlabParserTest, failsWhereDecorationIsNotAmongTheTrimmed)
+TEST(SlabParserTest, rejectsOtherDecoration)
 {
     EXPECT_FALSE(SlabParser::parseLine("\u2022 SLAB a TOKENS 1"));
     EXPECT_FALSE(SlabParser::parseLine("1. SLAB a TOKENS 1"));
@@ -59,7 +59,7 @@ TEST(SlabParserTest, ignoresTheLetterCaseOfTheKeywords)
     EXPECT_EQ(SlabParser::parseLine("SLAB x TO\u212AENS 4"), slab("x", 4));
 }
 
-TEST(SlabParserTest, takesLettersThatBecomeAsciiInLowerCase)
+TEST(SlabParserTest, acceptsLettersThatBecomeAsciiInLowerCase)
 {
     EXPECT_EQ(SlabParser::parseLine("SLAB a TO\u212AENS 3"),
               (SelfReportedSlab{.name = "a", .tokens = 3}));
@@ -68,7 +68,7 @@ TEST(SlabParserTest, takesLettersThatBecomeAsciiInLowerCase)
     EXPECT_FALSE(SlabParser::parseLine("SLA@ a TOKENS 3"));
 }
 
-TEST(SlabParserTest, needsAName)
+TEST(SlabParserTest, requiresAName)
 {
     EXPECT_FALSE(SlabParser::parseLine("SLAB TOKENS 12"));
     EXPECT_FALSE(SlabParser::parseLine("SLAB TOKENS"));
@@ -76,27 +76,27 @@ TEST(SlabParserTest, needsAName)
     EXPECT_FALSE(SlabParser::parseLine(""));
 }
 
-TEST(SlabParserTest, needsAKeywordBeforeTheCount)
+TEST(SlabParserTest, requiresAKeywordBeforeTheCount)
 {
     EXPECT_FALSE(SlabParser::parseLine("SLAB memory files 12"));
     EXPECT_FALSE(SlabParser::parseLine("SLAB memory files TOKEN 12"));
     EXPECT_FALSE(SlabParser::parseLine("SLABS memory TOKENS 12"));
 }
 
-TEST(SlabParserTest, needsACountBehindTheKeyword)
+TEST(SlabParserTest, requiresACountAfterTheKeyword)
 {
     EXPECT_FALSE(SlabParser::parseLine("SLAB memory files TOKENS"));
     EXPECT_FALSE(SlabParser::parseLine("SLAB a TOKENS 7 TOKENS"));
 }
 
-TEST(SlabParserTest, refusesCountsThatAreNoPlainDigits)
+TEST(SlabParserTest, rejectsCountsWithOtherCharactersThanDigits)
 {
     for (const char *count : {"-5", "+5", "1.5k", "1.5", "5k", "five", "0x5", "~5", "\u00BD",
                               "\u0663\u0664", "\uFF15", "5\u00B2"})
         EXPECT_FALSE(SlabParser::parseLine(std::string("SLAB a TOKENS ") + count)) << count;
 }
 
-TEST(SlabParserTest, refusesCountsBeyondSixtyFourBits)
+TEST(SlabParserTest, rejectsCountsBeyondSixtyFourBits)
 {
     EXPECT_EQ(SlabParser::parseLine("SLAB a TOKENS 9223372036854775807"),
               slab("a", 9'223'372'036'854'775'807));
@@ -105,17 +105,17 @@ TEST(SlabParserTest, refusesCountsBeyondSixtyFourBits)
     EXPECT_EQ(SlabParser::parseLine("SLAB a TOKENS 000000000000000000000000012"), slab("a", 12));
 }
 
-TEST(SlabParserTest, acceptsACountOfNothing)
+TEST(SlabParserTest, acceptsACountOfZero)
 {
     EXPECT_EQ(SlabParser::parseLine("SLAB a TOKENS 0"), slab("a", 0));
 }
 
-TEST(SlabParserTest, ignoresWordsBehindTheCount)
+TEST(SlabParserTest, ignoresWordsAfterTheCount)
 {
     EXPECT_EQ(SlabParser::parseLine("SLAB a TOKENS 12 (a rough guess)"), slab("a", 12));
 }
 
-TEST(SlabParserTest, takesTheLastKeyword)
+TEST(SlabParserTest, usesTheLastKeyword)
 {
     EXPECT_EQ(SlabParser::parseLine("SLAB a TOKENS b TOKENS 7"), slab("a TOKENS b", 7));
     EXPECT_EQ(SlabParser::parseLine("SLAB system tokens TOKENS 120"), slab("system tokens", 120));
@@ -150,7 +150,7 @@ TEST(SlabParserTest, givesNothingForAnAnswerWithoutSlabs)
     EXPECT_TRUE(SlabParser::parse("").empty());
 }
 
-TEST(SlabParserTest, readsEveryKindOfLineEndingAlike)
+TEST(SlabParserTest, acceptsEveryKindOfLineEnding)
 {
     const Slabs expected{slab("a", 1), slab("b", 2)};
     for (const char *ending : {"\n", "\r\n", "\r", "\v", "\f", "\u0085", "\u2028", "\u2029"})

@@ -76,7 +76,7 @@ TEST(TranscriptLocatorTest, trimsAConfigurationFolder)
     EXPECT_FALSE(normalizedConfigDir(" \n\t", "/w"));
 }
 
-TEST(TranscriptLocatorTest, expandsTheHomeFolderAtTheHead)
+TEST(TranscriptLocatorTest, expandsALeadingTilde)
 {
     const EnvironmentSwap swap({"HOME=/home/u/"});
     EXPECT_EQ(normalizedConfigDir("~", "/w"), "/home/u");
@@ -139,7 +139,7 @@ TEST(TranscriptLocatorTest, findsNothingUnderARootThatIsMissing)
     EXPECT_FALSE(found("s", folder.write("s.jsonl", "")));
 }
 
-TEST(TranscriptLocatorTest, rejectsAnIdentifierThatIsNoPlainFileName)
+TEST(TranscriptLocatorTest, rejectsAnIdentifierThatIsNotAPlainFileName)
 {
     const TemporaryFolder folder;
     (void)folder.write("a/s.jsonl", "");
@@ -164,7 +164,7 @@ TEST(TranscriptLocatorTest, followsALinkToAFileButNotToAFolder)
     EXPECT_EQ(found("t", folder.path() / "root"), folder.path() / "root/t.jsonl");
 }
 
-TEST(TranscriptLocatorTest, continuesPastAFolderThatCannotBeRead)
+TEST(TranscriptLocatorTest, skipsAnUnreadableFolder)
 {
     const TemporaryFolder folder;
     (void)folder.write("closed/s.jsonl", "");
@@ -192,7 +192,7 @@ TEST(TranscriptLocatorTest, stopsAtTheFirstFile)
     EXPECT_EQ(fileSystem.listed(), (std::vector<fs::path>{"/r"}));
 }
 
-TEST(TranscriptLocatorTest, listsNextTheFolderThatMayHoldTheFile)
+TEST(TranscriptLocatorTest, listsTheMostPromisingFolderNext)
 {
     InMemoryFileSystem fileSystem;
     for (const char *folder : {"/r/a", "/r/b", "/r/c", "/r/d"})
@@ -235,7 +235,7 @@ TEST(TranscriptLocatorTest, skipsAFolderThatHoldsNeitherTheFileNorFolders)
     EXPECT_EQ(TranscriptLocator::find("s", "/r", fileSystem), "/r/deep/wanted/s.jsonl");
 }
 
-TEST(TranscriptLocatorTest, findsALinkThatLeadsNowhereInAFolderWithoutFolders)
+TEST(TranscriptLocatorTest, findsADanglingLinkInALeafFolder)
 {
     const TemporaryFolder folder;
     fs::create_directory(folder.path() / "flat");
@@ -264,7 +264,7 @@ TEST(TranscriptLocatorTest, walksFoldersOfAnyDepth)
     EXPECT_EQ(TranscriptLocator::find("s", "/r", fileSystem), folder / "s.jsonl");
 }
 
-TEST(TranscriptLocatorTest, endsInATreeDeeperThanTheLongestPath)
+TEST(TranscriptLocatorTest, terminatesInATreeDeeperThanTheLongestPath)
 {
     const TemporaryFolder folder;
     const fs::path before = fs::current_path();
@@ -278,7 +278,7 @@ TEST(TranscriptLocatorTest, endsInATreeDeeperThanTheLongestPath)
     EXPECT_FALSE(found("s", folder.path()));
 }
 
-TEST(TranscriptLocatorTest, givesOneOfTwoEntriesThatAreNoFiles)
+TEST(TranscriptLocatorTest, returnsOneOfTwoEntriesThatAreNotFiles)
 {
     const TemporaryFolder folder;
     fs::create_directories(folder.path() / "a/s.jsonl");

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 const std::string userLine = R"({"type":"user","message":{"role":"user","content":"hi"}})";
 
-/// A line that counts as nothing, `size` bytes long with its line feed.
+/// An ignored line of `size` bytes, line feed included.
 std::string fillerOf(std::size_t size)
 {
     const std::string head = R"({"type":"attachment","x":")";
@@ -31,7 +31,7 @@ std::optional<ProbeUsage> usageOfFile(std::string_view content)
     return TranscriptReader::firstAssistantUsageAtPath(folder.write("t.jsonl", content));
 }
 
-/// What both forms say to `text`.
+/// What both forms find in `text`.
 std::optional<ProbeUsage> usageOf(std::string_view text)
 {
     const auto usage = TranscriptReader::firstAssistantUsageIn(text);
@@ -96,7 +96,7 @@ TEST(TranscriptReaderTest, readsAllFourCounts)
               (ProbeUsage{1, 2, 3, 4}));
 }
 
-TEST(TranscriptReaderTest, skipsAUsageOfOutputTokensAlone)
+TEST(TranscriptReaderTest, skipsAUsageOfOnlyOutputTokens)
 {
     EXPECT_EQ(usageOf(R"({"type":"assistant","message":{"usage":{"output_tokens":5}}})"
                       "\n" +
@@ -109,14 +109,14 @@ TEST(TranscriptReaderTest, readsALastLineWithoutLineFeed)
     EXPECT_EQ(usageOf(userLine + "\n" + assistantLine(4)), inputOf(4));
 }
 
-TEST(TranscriptReaderTest, skipsLinesThatAreMalformed)
+TEST(TranscriptReaderTest, skipsMalformedLines)
 {
     EXPECT_EQ(usageOf("\n   \n{\n[]\nnull\n{\"type\":\"assistant\"\n\xFF\n" + assistantLine(3) +
                       "}\n\xEF\xBB\xBF" + assistantLine(4) + "\n" + assistantLine(5) + "\n"),
               inputOf(5));
 }
 
-TEST(TranscriptReaderTest, skipsLinesOfOtherShape)
+TEST(TranscriptReaderTest, skipsOtherKindsOfLine)
 {
     for (const char *line : {R"({"type":"assistant"})", R"({"type":"assistant","message":[]})",
                              R"({"type":"assistant","message":{"usage":[1]}})",
@@ -140,7 +140,7 @@ TEST(TranscriptReaderTest, trimsALine)
     EXPECT_EQ(usageOf("  \t" + assistantLine(6) + "  \r\n"), inputOf(6));
 }
 
-TEST(TranscriptReaderTest, isNothingForAFileThatCannotBeRead)
+TEST(TranscriptReaderTest, isNothingForAnUnreadableFile)
 {
     const TemporaryFolder folder;
     EXPECT_FALSE(TranscriptReader::firstAssistantUsageAtPath(folder.path() / "missing"));
@@ -175,7 +175,7 @@ TEST(TranscriptReaderTest, readsAWordThatIsSpelledWithEscapes)
               inputOf(5));
 }
 
-TEST(TranscriptReaderTest, findsTheWordWhereverAReadEnds)
+TEST(TranscriptReaderTest, findsTheWordAcrossReads)
 {
     const std::string line = assistantLine(9);
     const std::size_t word = line.find("assistant");
@@ -187,7 +187,7 @@ TEST(TranscriptReaderTest, findsTheWordWhereverAReadEnds)
     }
 }
 
-TEST(TranscriptReaderTest, readsOnAfterALongLineThatOnlyHoldsTheWord)
+TEST(TranscriptReaderTest, continuesAfterALongLineThatMerelyHoldsTheWord)
 {
     const std::string talk =
         R"({"type":"user","x":"assistant)" + std::string(200'000, 'x') + "\"}\n";
@@ -196,14 +196,14 @@ TEST(TranscriptReaderTest, readsOnAfterALongLineThatOnlyHoldsTheWord)
     EXPECT_EQ(usageOfFile(talk + talk), std::nullopt);
 }
 
-TEST(TranscriptReaderTest, forgetsTheWordOfALineThatHasEnded)
+TEST(TranscriptReaderTest, forgetsTheWordAtTheEndOfItsLine)
 {
     const std::string talk =
         R"({"type":"user","x":"assistant)" + std::string(100'000, 'x') + "\"}\n";
     EXPECT_EQ(usageOfFile(talk + fillerOf(150'000) + assistantLine(6)), inputOf(6));
 }
 
-TEST(TranscriptReaderTest, endsALineOfAFileAtALineFeedOnly)
+TEST(TranscriptReaderTest, endsALineOfAFileOnlyAtALineFeed)
 {
     std::string line = assistantLine(13);
     line.insert(1, "\"x\":\"a\u2028b\u2029c\u0085d\",");
@@ -284,7 +284,7 @@ TEST(TranscriptReaderTest, skipsATooLongLineInPiecesAndReadsTheNext)
     EXPECT_EQ(pieces.take(std::string(assistantRecord) + "\n"), found);
 }
 
-TEST(TranscriptReaderTest, rereadsNoLineThatDoesNotHoldTheWord)
+TEST(TranscriptReaderTest, rereadsNoLineWithoutTheWord)
 {
     TranscriptPieces pieces(never);
     for (int line = 0; line < 3; ++line) {
@@ -295,7 +295,7 @@ TEST(TranscriptReaderTest, rereadsNoLineThatDoesNotHoldTheWord)
     EXPECT_EQ(pieces.finish(), std::nullopt);
 }
 
-TEST(TranscriptReaderTest, rereadsALongLineAsAWhole)
+TEST(TranscriptReaderTest, rereadsAWholeLongLine)
 {
     const std::string transcript = std::string(userRecord) + "\n" + std::string(assistantRecord);
     std::string asked;
@@ -308,7 +308,7 @@ TEST(TranscriptReaderTest, rereadsALongLineAsAWhole)
     EXPECT_EQ(asked, assistantRecord);
 }
 
-TEST(TranscriptReaderTest, continuesWithoutALineThatCannotBeReread)
+TEST(TranscriptReaderTest, skipsALineThatCannotBeReread)
 {
     TranscriptPieces pieces([](std::int64_t, std::size_t) { return std::nullopt; });
     EXPECT_EQ(pieces.take(assistantRecord), std::nullopt);

@@ -10,7 +10,7 @@ namespace {
 
 using Paths = std::vector<std::string>;
 
-/// Files that exist and may not be read.
+/// Files that exist but are unreadable.
 class InstructionFilePermissionsTest : public testing::Test
 {
 protected:
@@ -33,7 +33,7 @@ protected:
 
 } // namespace
 
-TEST_F(InstructionFilePermissionsTest, listsAFileThatCannotBeOpenedOnlyAsUnreadable)
+TEST_F(InstructionFilePermissionsTest, listsAnUnopenableFileOnlyAsUnreadable)
 {
     const std::filesystem::path shut = writeShut("shop/CLAUDE.md");
     folder.write("shop/AGENTS.md", "");
@@ -54,7 +54,7 @@ TEST_F(InstructionFilePermissionsTest, estimatesNoPersonalCategoryFromAnUnreadab
     EXPECT_EQ(set.localCategories()[0].name, "Repository instructions");
 }
 
-TEST_F(InstructionFilePermissionsTest, listsAFileInAFolderThatCannotBeSearched)
+TEST_F(InstructionFilePermissionsTest, listsAFileInAnUnsearchableFolderAsUnreadable)
 {
     folder.write("shop/CLAUDE.md", "@shut/a.md @shut/missing.md");
     folder.write("shop/shut/a.md", "");
@@ -81,7 +81,7 @@ TEST_F(InstructionFilePermissionsTest, namesALinkToAnUnreadableFileByTheLink)
     EXPECT_EQ(scanned().unreadablePaths, Paths{folder.path() / "shop/CLAUDE.md"});
 }
 
-TEST_F(InstructionFilePermissionsTest, skipsAFolderThatCannotBeSearched)
+TEST_F(InstructionFilePermissionsTest, skipsAnUnsearchableFolder)
 {
     std::filesystem::create_directories(folder.path() / "shop/CLAUDE.md");
     std::filesystem::permissions(folder.path() / "shop/CLAUDE.md", std::filesystem::perms::none);

@@ -73,7 +73,7 @@ TEST_F(InstructionFileScannerTest, inheritsNothingBelowASiblingOfTheHomeFolder)
     EXPECT_TRUE(scanner().scanSynchronously(folder.path() / "home2/shop").inheritedFiles.empty());
 }
 
-TEST_F(InstructionFileScannerTest, inheritsOnlyFromTheHomeFolderDirectlyBelowIt)
+TEST_F(InstructionFileScannerTest, inheritsOnlyFromTheHomeFolderRightBelowIt)
 {
     folder.write("CLAUDE.md", "x");
     folder.write("home/CLAUDE.md", "x");
@@ -114,7 +114,7 @@ TEST_F(InstructionFileScannerTest, standardizesTheRepositoryAndTheHomeFolder)
     EXPECT_EQ(pathsOf(set.inheritedFiles), Paths{"home/CLAUDE.md"});
 }
 
-TEST_F(InstructionFileScannerTest, scansOffTheThreadWithTheSameResult)
+TEST_F(InstructionFileScannerTest, findsTheSameOnABackgroundThread)
 {
     writeOwn("CLAUDE.md", "@a.md @~/notes.md");
     writeOwn("a.md", "@b.md");
@@ -126,7 +126,7 @@ TEST_F(InstructionFileScannerTest, scansOffTheThreadWithTheSameResult)
     EXPECT_EQ(scanned().allFiles().size(), 4U);
 }
 
-TEST_F(InstructionFileScannerTest, givesItsFindingsWhenTheTimeIsUp)
+TEST_F(InstructionFileScannerTest, returnsItsFindingsWhenTheTimeIsUp)
 {
     std::string text;
     for (int number = 0; number < 600; ++number) {
@@ -189,7 +189,7 @@ TEST_F(InstructionFileScannerTest, followsImportsDepthFirst)
               (Paths{"CLAUDE.md", "a.md", "sub/c.md", "sub/d.md", "b.md", "AGENTS.md"}));
 }
 
-TEST_F(InstructionFileScannerTest, endsAChainOfImportsAtTheFifthLevel)
+TEST_F(InstructionFileScannerTest, stopsAChainOfImportsAtTheFifthLevel)
 {
     writeOwn("CLAUDE.md", "@1.md");
     for (int level = 1; level <= 6; ++level)
@@ -197,7 +197,7 @@ TEST_F(InstructionFileScannerTest, endsAChainOfImportsAtTheFifthLevel)
     EXPECT_EQ(ownFiles(), (Paths{"CLAUDE.md", "1.md", "2.md", "3.md", "4.md", "5.md"}));
 }
 
-TEST_F(InstructionFileScannerTest, reachesByAShorterWayWhatTheDepthCutOff)
+TEST_F(InstructionFileScannerTest, reachesByAShorterPathWhatTheDepthLimitCutOff)
 {
     writeOwn("CLAUDE.md", "@1.md @5.md");
     for (int level = 1; level <= 6; ++level)
@@ -205,7 +205,7 @@ TEST_F(InstructionFileScannerTest, reachesByAShorterWayWhatTheDepthCutOff)
     EXPECT_EQ(ownFiles(), (Paths{"CLAUDE.md", "1.md", "2.md", "3.md", "4.md", "5.md", "6.md"}));
 }
 
-TEST_F(InstructionFileScannerTest, ignoresImportsInsideAFenceAndReadsOnAfterAnUnclosedOne)
+TEST_F(InstructionFileScannerTest, ignoresImportsInsideAClosedFenceOnly)
 {
     writeOwn("CLAUDE.md", "```\n@in.md\n```\n@out.md\n~~~\n@after.md\n");
     for (const char *name : {"in.md", "out.md", "after.md"})
@@ -253,7 +253,7 @@ TEST_F(InstructionFileScannerTest, importsFromASiblingFolderAsInherited)
     EXPECT_EQ(pathsOf(scanned().inheritedFiles), Paths{"home/code/shop2/a.md"});
 }
 
-TEST_F(InstructionFileScannerTest, ignoresImportsThatAreNoFile)
+TEST_F(InstructionFileScannerTest, ignoresImportsThatAreNotFiles)
 {
     std::filesystem::create_directory(root() / "AGENTS.md");
     std::filesystem::create_symlink("loop.md", root() / "loop.md");
@@ -272,7 +272,7 @@ TEST_F(InstructionFileScannerTest, doesNotOpenAPipe)
     EXPECT_EQ(ownFiles(), Paths{"AGENTS.md"});
 }
 
-TEST_F(InstructionFileScannerTest, treatsAPathWithANulAsMissing)
+TEST_F(InstructionFileScannerTest, treatsAnImportWithANulAsMissing)
 {
     using namespace std::string_literals;
     writeOwn("a.md", "");
@@ -293,14 +293,14 @@ TEST_F(InstructionFileScannerTest, searchesAFileUpToTheLimitForImports)
               (std::vector<InstructionFileEstimate>{{root() / "CLAUDE.md", 4'000'001, 1'000'001}}));
 }
 
-TEST_F(InstructionFileScannerTest, countsAFileThatIsNotUtf8WithoutItsImports)
+TEST_F(InstructionFileScannerTest, countsAnIllFormedFileWithoutItsImports)
 {
     writeOwn("a.md", "");
     writeOwn("CLAUDE.md", "@a.md \xFF");
     EXPECT_EQ(ownFiles(), Paths{"CLAUDE.md"});
 }
 
-TEST_F(InstructionFileScannerTest, showsTheReplacementCharacterInANameThatIsNotUtf8)
+TEST_F(InstructionFileScannerTest, showsReplacementCharactersInAnIllFormedName)
 {
     const std::filesystem::path strange = folder.path() / "caf\xE9";
     folder.write("caf\xE9/CLAUDE.md", "@a.md");
@@ -309,7 +309,7 @@ TEST_F(InstructionFileScannerTest, showsTheReplacementCharacterInANameThatIsNotU
     EXPECT_EQ(pathsOf(set.repositoryFiles), (Paths{"caf\uFFFD/CLAUDE.md", "caf\uFFFD/a.md"}));
 }
 
-TEST_F(InstructionFileScannerTest, endsAtOnceOnManyImports)
+TEST_F(InstructionFileScannerTest, handlesManyImportsQuickly)
 {
     std::string text;
     for (int number = 0; number < 300'000; ++number)

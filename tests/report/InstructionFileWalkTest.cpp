@@ -42,7 +42,7 @@ void write(const Graph &graph, const TemporaryFolder &folder)
     }
 }
 
-/// The files that the first one reaches in at most `maxDepth` steps, by whichever way.
+/// The files that the first one reaches in at most `maxDepth` steps, along any path.
 std::set<int> reachable(const Graph &graph, int maxDepth)
 {
     std::set<int> reached{0};
@@ -94,7 +94,7 @@ TEST(InstructionFileWalkTest, findsNothingOnceItIsStopped)
     EXPECT_EQ(findings->set(), InstructionFileSet::empty);
 }
 
-TEST(InstructionFileWalkTest, admitsNothingBelowADepthOfZero)
+TEST(InstructionFileWalkTest, admitsNothingAtANegativeDepth)
 {
     const TemporaryFolder folder;
     folder.write("repository/CLAUDE.md", "");
@@ -102,7 +102,7 @@ TEST(InstructionFileWalkTest, admitsNothingBelowADepthOfZero)
     EXPECT_EQ(walked(folder, 0).repositoryFiles.size(), 1U);
 }
 
-TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
+TEST(InstructionFileWalkTest, resolvesImportsFromTheNameReachedLast)
 {
     const TemporaryFolder folder;
     // The link is the shorter way to shared.md, and only the link has a "near.md" beside it.
@@ -117,7 +117,7 @@ TEST(InstructionFileWalkTest, resolvesImportsAgainFromTheNameThatWasReachedLast)
     EXPECT_EQ(set.repositoryFiles[3].path, folder.path() / "repository/link/near.md");
 }
 
-TEST(InstructionFileWalkTest, readsAnImportWithATrailingSlashAsTheFileOfThatName)
+TEST(InstructionFileWalkTest, ignoresATrailingSlashOfAnImport)
 {
     const TemporaryFolder folder;
     folder.write("repository/CLAUDE.md", "@notes/");

@@ -30,7 +30,7 @@ std::string contentAt(const std::string &path)
 
 } // namespace
 
-TEST(InstructionFoldersTest, givesTwoNamesOfAFileOneIdentity)
+TEST(InstructionFoldersTest, twoNamesOfAFileHaveOneIdentity)
 {
     const TemporaryFolder folder;
     const fs::path file = folder.write("deep/a.md", "");
@@ -41,7 +41,7 @@ TEST(InstructionFoldersTest, givesTwoNamesOfAFileOneIdentity)
         EXPECT_EQ(folders.entryAt(folder.path() / name).identityPath, file) << name;
 }
 
-TEST(InstructionFoldersTest, givesAPathThatLeadsNowhereAsItsIdentity)
+TEST(InstructionFoldersTest, missingPathIsItsOwnIdentity)
 {
     const TemporaryFolder folder;
     fs::create_symlink("nowhere", folder.path() / "dangling");
@@ -52,7 +52,7 @@ TEST(InstructionFoldersTest, givesAPathThatLeadsNowhereAsItsIdentity)
     }
 }
 
-TEST(InstructionFoldersTest, givesTheTypeWithoutFollowingALink)
+TEST(InstructionFoldersTest, reportsTheTypeWithoutFollowingALink)
 {
     const TemporaryFolder folder;
     (void)folder.write("a.md", "");
@@ -93,7 +93,7 @@ TEST(InstructionFoldersTest, findsEntriesOfTheRootAndOfTheCurrentFolder)
     fs::current_path(before);
 }
 
-TEST(InstructionFoldersTest, holdsFewDescriptorsAndStillReachesFilesOfFurtherFolders)
+TEST(InstructionFoldersTest, reachesMoreFoldersThanItHoldsDescriptorsFor)
 {
     const TemporaryFolder folder;
     const std::size_t before = openDescriptors();

@@ -70,7 +70,7 @@ TEST(InstructionImportsTest, dropsASecondAtSign)
     EXPECT_EQ(inLine("@a@b"), (Tokens{"a@b"}));
 }
 
-TEST(InstructionImportsTest, dropsATokenOfPunctuationAlone)
+TEST(InstructionImportsTest, dropsATokenOfOnlyPunctuation)
 {
     EXPECT_EQ(inLine("@ @. @?! @"), Tokens{});
 }
@@ -91,7 +91,7 @@ TEST(InstructionImportsTest, doesNotTreatInlineCodeSpecially)
     EXPECT_EQ(inLine("` @a.md`"), (Tokens{"a.md"}));
 }
 
-TEST(InstructionImportsTest, keepsBytesThatAreNotUtf8InsideAToken)
+TEST(InstructionImportsTest, keepsIllFormedBytesInsideAToken)
 {
     EXPECT_EQ(inLine("@caf\xE9.md \xFF @b"), (Tokens{"caf\xE9.md", "b"}));
 }
@@ -103,7 +103,7 @@ TEST(InstructionImportsTest, walksLinesInOrder)
     EXPECT_EQ(in("\n\n"), Tokens{});
 }
 
-TEST(InstructionImportsTest, endsALineAtALineFeedOnly)
+TEST(InstructionImportsTest, endsALineOnlyAtALineFeed)
 {
     EXPECT_EQ(in("@a\r\n@b\r\n"), (Tokens{"a", "b"}));
     EXPECT_EQ(in("x\r```\n@a\n```\n"), (Tokens{"a"})) << "a carriage return begins no line";
@@ -116,19 +116,19 @@ TEST(InstructionImportsTest, ignoresImportsInsideAFence)
     EXPECT_EQ(in(" \t```cpp @x\n@b\n \t``` @y\n@c"), (Tokens{"c"}));
 }
 
-TEST(InstructionImportsTest, readsOnAfterAnUnclosedFence)
+TEST(InstructionImportsTest, ignoresAnUnclosedFence)
 {
     EXPECT_EQ(in("@a\n```\n@b\n"), (Tokens{"a", "b"}));
     EXPECT_EQ(in("```\n@a\n```\n@b\n``` @c\n@d"), (Tokens{"b", "c", "d"}));
 }
 
-TEST(InstructionImportsTest, readsTheOtherMarkerInsideAFenceAsText)
+TEST(InstructionImportsTest, treatsTheOtherMarkerInsideAFenceAsText)
 {
     EXPECT_EQ(in("```\n~~~\n@a\n```\n@b\n~~~\n@c"), (Tokens{"b", "c"}));
     EXPECT_EQ(in("```\n~~~\n@a\n~~~\n@b"), (Tokens{"a", "b"})) << "the outer fence never closes";
 }
 
-TEST(InstructionImportsTest, needsThreeCharactersForAFence)
+TEST(InstructionImportsTest, requiresThreeCharactersForAFence)
 {
     EXPECT_EQ(in("``\n@a\n``\n"), (Tokens{"a"}));
     EXPECT_EQ(in("`~`\n@a\n`~`"), (Tokens{"a"}));

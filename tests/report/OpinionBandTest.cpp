@@ -49,7 +49,7 @@ TEST(OpinionBandTest, isExcessiveAboveTheUpperThreshold)
     EXPECT_EQ(OpinionBand::band(largest), OpinionBand::excessive);
 }
 
-TEST(OpinionBandTest, saysItsBoundsInTheLocalesFigures)
+TEST(OpinionBandTest, wordsItsBoundsInTheLocalesFigures)
 {
     const TextLocale english;
     EXPECT_EQ(OpinionBand(OpinionBand::lean).range(english), "under 30,000");
@@ -126,7 +126,7 @@ TEST(OpinionBandTest, doesNotOverflowNearTheLargestInteger)
     EXPECT_EQ(BandScale::maximum(lastStep - 1), lastStep);
 }
 
-TEST(OpinionBandTest, keepsTheScalesRulesForRandomTotals)
+TEST(OpinionBandTest, obeysTheScalesRulesForRandomTotals)
 {
     std::mt19937_64 random(41);
     std::uniform_int_distribution<std::int64_t> all(1, largest - BandScale::step - 1);

@@ -31,7 +31,7 @@ TEST(RepoSelectionTest, dropsATrailingSlash)
     }
 }
 
-TEST(RepoSelectionTest, namesTheRootBySlash)
+TEST(RepoSelectionTest, namesTheRootSlash)
 {
     const RepoSelection selection = RepoSelection::fromUrl("/");
     EXPECT_EQ(selection.displayName, "/");

@@ -121,7 +121,7 @@ TEST(ScanReportTest, clampsTheShareOfARow)
     EXPECT_EQ(shareOf(-5, 1'000), 0.0);
 }
 
-TEST(ScanReportTest, givesNoShareOfATotalBelowOne)
+TEST(ScanReportTest, hasNoSharesOfATotalBelowOne)
 {
     for (const std::int64_t total : {0, -1'000})
         for (const std::int64_t tokens : {-5, 0, 5})
@@ -200,7 +200,7 @@ TEST(ScanReportTest, findsTheKindOfRowThatExceedsTheTotal)
               OverAttributionSource::localEstimate);
 }
 
-TEST(ScanReportTest, blamesTheCombinationWhenBothOrNeitherExceedAlone)
+TEST(ScanReportTest, blamesTheCombinationUnlessOneKindAloneExceeds)
 {
     EXPECT_EQ(reportWithRows(10, 6, 6).overAttributionSource(), OverAttributionSource::combined);
     EXPECT_EQ(reportWithRows(10, 10, 10).overAttributionSource(), OverAttributionSource::combined);
@@ -223,7 +223,7 @@ TEST(ScanReportTest, notesOverAttributionByItsSource)
                   rest);
 }
 
-TEST(ScanReportTest, writesTheExceededTotalInTheLocalesFigures)
+TEST(ScanReportTest, formatsTheExceededTotalByTheLocale)
 {
     const std::optional<std::string> note =
         reportWithRows(42'318, 50'000, 1).overAttributionNote({.numbers = "de_DE"});
@@ -267,7 +267,7 @@ TEST(ScanReportTest, explainsNothingWithCategoriesOrWithoutFiles)
     EXPECT_EQ(report.unreportedCategoryFilesNote(), std::nullopt);
 }
 
-TEST(ScanReportTest, isEqualOnlyInEveryField)
+TEST(ScanReportTest, comparesEveryField)
 {
     EXPECT_EQ(sampleReport(), sampleReport());
     ScanReport other = sampleReport();
@@ -317,7 +317,7 @@ TEST(ScanReportTest, flagsOverAttribution)
     EXPECT_EQ(report.overAttributionSource(), OverAttributionSource::localEstimate);
 }
 
-TEST(ScanReportTest, keepsAnUnreportedTotalInOneRow)
+TEST(ScanReportTest, putsAnUnreportedTotalIntoOneRow)
 {
     const ScanReport report = ScanReportBuilder::build(selection, probeOf(1'000), sampleFiles());
     ASSERT_EQ(report.rows.size(), 1U);
@@ -326,7 +326,7 @@ TEST(ScanReportTest, keepsAnUnreportedTotalInOneRow)
     EXPECT_TRUE(report.unreportedCategoryFilesNote());
 }
 
-TEST(ScanReportTest, bandsTheTotal)
+TEST(ScanReportTest, classifiesTheTotal)
 {
     EXPECT_EQ(bandOf(30'000), OpinionBand::heavy);
     EXPECT_EQ(bandOf(60'000), OpinionBand::heavy);
@@ -336,7 +336,7 @@ TEST(ScanReportTest, bandsTheTotal)
     EXPECT_EQ(bandOf(-1), OpinionBand::lean);
 }
 
-TEST(ScanReportTest, writesAPathThatIsNotUtf8WithReplacementCharacters)
+TEST(ScanReportTest, showsAnIllFormedPathWithReplacementCharacters)
 {
     const RepoSelection strange = RepoSelection::fromUrl(std::filesystem::path("/code/caf\xE9"));
     const ScanReport report =

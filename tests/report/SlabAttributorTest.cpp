@@ -136,7 +136,7 @@ TEST(SlabAttributorTest, ordersEqualRowsByName)
               (Rows{{"Custom agents", 100, selfReported, 1}, {"Messages", 100, selfReported, 0}}));
 }
 
-TEST(SlabAttributorTest, keepsTheOrderOfCreationOfRowsEqualInBoth)
+TEST(SlabAttributorTest, keepsEqualRowsInOrderOfCreation)
 {
     const AttributionOutcome outcome =
         attributed(40, {{"Unattributed", 10}}, {{"Unattributed", 10, {"x"}}, {"x", 10, {}}});
@@ -200,7 +200,7 @@ TEST(SlabAttributorTest, endsTheProgramWhenASumOverflows)
     EXPECT_DEATH((void)attributed(-2, {{"a", largest}}, {}), "does not fit 64 bits");
 }
 
-TEST(SlabAttributorTest, takesTheLargestTotal)
+TEST(SlabAttributorTest, acceptsTheLargestTotal)
 {
     const AttributionOutcome outcome = attributed(largest, {{"a", 1}}, {});
     EXPECT_EQ(outcome.remainder, largest - 1);
@@ -217,7 +217,7 @@ TEST(SlabAttributorTest, isAuthoritativeOnlyWhenClaudeReportedIt)
         EXPECT_EQ(provenance.isAuthoritative(), provenance == Provenance::claudeReported);
 }
 
-TEST(SlabAttributorTest, saysWhereAFigureComesFrom)
+TEST(SlabAttributorTest, namesTheSourceOfEachFigure)
 {
     EXPECT_EQ(Provenance(Provenance::claudeReported).sourceLabel(), "reported by Claude");
     EXPECT_EQ(Provenance(Provenance::selfReported).sourceLabel(),
@@ -234,7 +234,7 @@ TEST(SlabAttributorTest, aRowIsIdentifiedByOrdinalProvenanceAndName)
     EXPECT_EQ((SlabAttribution{"a|b", -1, Provenance::remainder, 0}).id(), "0|remainder|a|b");
 }
 
-TEST(SlabAttributorTest, aRowIsEqualOnlyInEveryField)
+TEST(SlabAttributorTest, rowsCompareEveryField)
 {
     const SlabAttribution row{"a", 1, Provenance::selfReported, 0};
     EXPECT_EQ(row, (SlabAttribution{"a", 1, Provenance::selfReported, 0}));

@@ -23,7 +23,7 @@ bool counts(double weight)
     return weight > 0.0 && std::isfinite(weight);
 }
 
-/// The expected area of each rectangle, computed in more digits than the layout has.
+/// The expected area of each rectangle, computed at a higher precision than the layout.
 std::vector<double> sharesOf(const Weights &weights)
 {
     long double sum = 0.0L;
@@ -158,7 +158,7 @@ TEST(TreemapLayoutTest, placesEqualWeightsInTheirOrder)
                                                                          {0.5, 0.5, 0.5, 0.5}}));
 }
 
-TEST(TreemapLayoutTest, laysABandAlongTheTopOfAHighRest)
+TEST(TreemapLayoutTest, laysABandAlongTheTopOfATallRemainder)
 {
     // 4 of 6 take the left two thirds; the rest, a third wide and 1 high, is shared in bands.
     const Rects rects = TreemapLayout::layout(Weights{4.0, 1.0, 1.0});
@@ -169,13 +169,13 @@ TEST(TreemapLayoutTest, laysABandAlongTheTopOfAHighRest)
     EXPECT_NEAR(rects[2].y, 0.5, 1e-15);
 }
 
-TEST(TreemapLayoutTest, aNegativeWeightIsZeroAndShiftsNoOther)
+TEST(TreemapLayoutTest, treatsANegativeWeightAsZeroAndShiftsNoOther)
 {
     EXPECT_EQ(TreemapLayout::layout(Weights{1.0, -2.0, 3.0}),
               (Rects{{0.75, 0.0, 0.25, 1.0}, TreemapRect::zero, {0.0, 0.0, 0.75, 1.0}}));
 }
 
-TEST(TreemapLayoutTest, anInfiniteWeightOrNoNumberIsZeroAndShiftsNoOther)
+TEST(TreemapLayoutTest, treatsInfinityAndNaNAsZeroAndShiftsNoOther)
 {
     EXPECT_EQ(TreemapLayout::layout(Weights{notANumber, 1.0, infinite, 3.0, -infinite}),
               (Rects{TreemapRect::zero,
@@ -185,7 +185,7 @@ TEST(TreemapLayoutTest, anInfiniteWeightOrNoNumberIsZeroAndShiftsNoOther)
                      TreemapRect::zero}));
 }
 
-TEST(TreemapLayoutTest, sharesTheSquareAmongWeightsWhoseSumIsNoDouble)
+TEST(TreemapLayoutTest, sharesTheSquareAmongWeightsWhoseSumOverflows)
 {
     EXPECT_EQ(TreemapLayout::layout(Weights{largest, largest}),
               (Rects{{0.0, 0.0, 1.0, 0.5}, {0.0, 0.5, 1.0, 0.5}}));
@@ -204,7 +204,7 @@ TEST(TreemapLayoutTest, keepsANegligibleWeightInsideTheSquare)
     expectSoundMap({1e18, 1.0, 1.0, 1.0});
 }
 
-TEST(TreemapLayoutTest, extendsARowOnlyWhileItsShapesDoNotGetWorse)
+TEST(TreemapLayoutTest, extendsARowOnlyUntilItsShapesGetWorse)
 {
     // Two of 6 in 24 make squares; 4 would stretch them, so it begins a row of its own, and so on.
     const Rects rects = TreemapLayout::layout(Weights{6, 6, 4, 3, 2, 2, 1});
@@ -216,7 +216,7 @@ TEST(TreemapLayoutTest, extendsARowOnlyWhileItsShapesDoNotGetWorse)
     EXPECT_LT(worstRatio(rects), 4.2);
 }
 
-TEST(TreemapLayoutTest, keepsTheTilesOfLikeWeightsNearlySquare)
+TEST(TreemapLayoutTest, keepsTilesOfSimilarWeightsNearlySquare)
 {
     for (const std::size_t count : {2U, 3U, 10U, 97U, 600U})
         EXPECT_LE(worstRatio(TreemapLayout::layout(Weights(count, 5.0))), 3.0) << count;
@@ -261,7 +261,7 @@ TEST(TreemapLayoutTest, theZeroRectangleIsEmptyAtTheOrigin)
     EXPECT_EQ(TreemapRect::zero.area(), 0.0);
 }
 
-TEST(TreemapLayoutTest, aRectangleIsEqualOnlyInAllFourFields)
+TEST(TreemapLayoutTest, rectanglesCompareAllFourFields)
 {
     constexpr TreemapRect rect{1.0, 2.0, 3.0, 4.0};
     EXPECT_EQ(rect, (TreemapRect{1.0, 2.0, 3.0, 4.0}));
