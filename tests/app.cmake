@@ -2,8 +2,8 @@
 # Qt Quick Test: tests/qml/tst_<Component>.qml, CTest "app/qml/<Component>". All are labelled "app".
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
-# Declares one CTest test of the window: off screen, drawn in software, in a home of its own, with
-# the locale, the time zone and all folders of the person who runs it taken away.
+# Declares one CTest test of the window: off screen, drawn in software, in a home of its own,
+# without the locale, time zone and folders of the user who runs it.
 function(loadwick_app_test name program)
     set(home "${CMAKE_BINARY_DIR}/tests/home")
     file(MAKE_DIRECTORY "${home}")
@@ -66,10 +66,10 @@ loadwick_quick_tests()
 loadwick_app_test("shell/AccessMatrixAtTwiceTheScale" app_tests AccessMatrix)
 set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/AccessMatrixAtTwiceTheScale"
              APPEND PROPERTY ENVIRONMENT_MODIFICATION QT_SCALE_FACTOR=set:2)
-# Every frame takes an animation on by the same time, however long it took to draw.
+# Every frame advances an animation by the same time, however long it took to draw.
 set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/ReducedMotion"
              APPEND PROPERTY ENVIRONMENT_MODIFICATION QSG_FIXED_ANIMATION_STEP=set:1)
-# They wait for what arrives softly.
+# They wait for entrance animations.
 foreach(test IN ITEMS AccessMatrix AccessMatrixAtTwiceTheScale ReducedMotion)
     set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" APPEND PROPERTY LABELS slow)
     set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" PROPERTY TIMEOUT 600)

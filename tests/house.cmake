@@ -1,12 +1,12 @@
-# The checks of the house, each one command that a hand can run too. They look at the sources, so they
-# carry no build's prefix.
+# The checks of the house, each a command that can also be run by hand. They check the sources, so
+# their names carry no build prefix.
 
 foreach(check IN ITEMS layers sizes format documented-paths packaging shell)
     add_test(NAME "house/${check}" COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/${check}")
     set_tests_properties("house/${check}" PROPERTIES LABELS house TIMEOUT 120)
 endforeach()
 
-# What a check is for, it must see.
+# A check must detect a planted violation.
 add_test(NAME house/layers-finds-upward-uses
          COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/house/planted-uses")
 add_test(NAME house/sizes-finds-long-ones

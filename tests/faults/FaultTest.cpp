@@ -22,7 +22,7 @@ TEST(FaultTest, isReplayedFromItsReport)
             }
 }
 
-TEST(FaultTest, isNotReadFromOtherWords)
+TEST(FaultTest, rejectsOtherText)
 {
     EXPECT_TRUE(Fault::fromText("history-load,read,EIO,1,once"));
     for (const char *text : {"", "history-load", "history-load,read,EIO,1",
@@ -32,14 +32,14 @@ TEST(FaultTest, isNotReadFromOtherWords)
         EXPECT_FALSE(Fault::fromText(text)) << text;
 }
 
-TEST(FaultTest, listsTheKindsInTheirCountingOrder)
+TEST(FaultTest, listsTheKindsInEnumerationOrder)
 {
     ASSERT_EQ(callRefusals().size(), callKinds);
     for (std::size_t kind = 0; kind < callKinds; ++kind)
         EXPECT_EQ(callRefusals()[kind].call, static_cast<Call>(kind));
 }
 
-TEST(FaultTest, interruptsOnceOrInABurstAndFailsOtherwiseOnceOrForEver)
+TEST(FaultTest, limitsOnlyInterruptionsToABurst)
 {
     EXPECT_EQ(modesOf(EINTR).back(), Mode::burst);
     EXPECT_EQ(modesOf(EIO).back(), Mode::always);
@@ -48,7 +48,7 @@ TEST(FaultTest, interruptsOnceOrInABurstAndFailsOtherwiseOnceOrForEver)
     EXPECT_GT(Fault{.mode = Mode::always}.count(), 1'000'000'000);
 }
 
-TEST(FaultTest, tellsTransientErrorsFromOthers)
+TEST(FaultTest, distinguishesTransientErrors)
 {
     for (const int number : {ENOMEM, EMFILE, ENFILE, EINTR, EAGAIN})
         EXPECT_TRUE(Fault{.errorNumber = number}.isTransient());

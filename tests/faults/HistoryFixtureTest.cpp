@@ -65,7 +65,7 @@ TEST(HistoryFixtureTest, reportsATornFile)
     }
 }
 
-TEST(HistoryFixtureTest, forgivesLostScansOnlyWhereReadingFailsForGood)
+TEST(HistoryFixtureTest, allowsLostScansOnlyAfterAPermanentReadError)
 {
     const Loadwick::TemporaryFolder home;
     const HistoryFixture fixture(home.path(), Start::threeScans);
@@ -76,7 +76,7 @@ TEST(HistoryFixtureTest, forgivesLostScansOnlyWhereReadingFailsForGood)
     EXPECT_TRUE(fixture.problemAfterAppend(std::nullopt));
 }
 
-TEST(HistoryFixtureTest, reportsAMissingFileAndALeftoverOne)
+TEST(HistoryFixtureTest, reportsMissingAndLeftoverFiles)
 {
     const Loadwick::TemporaryFolder home;
     const HistoryFixture fixture(home.path(), Start::threeScans);
@@ -88,7 +88,7 @@ TEST(HistoryFixtureTest, reportsAMissingFileAndALeftoverOne)
     EXPECT_TRUE(fixture.problemAfterClear(lasting));
 }
 
-TEST(HistoryFixtureTest, mayStartEmpty)
+TEST(HistoryFixtureTest, canStartEmpty)
 {
     const Loadwick::TemporaryFolder home;
     const HistoryFixture fixture(home.path(), Start::nothing);

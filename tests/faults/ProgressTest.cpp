@@ -8,7 +8,7 @@
 
 namespace Faults {
 
-TEST(ProgressTest, isSeenFromOutsideTheProcess)
+TEST(ProgressTest, isVisibleFromOutsideTheProcess)
 {
     Progress progress;
     EXPECT_EQ(progress.of(getpid()).find("not begun"), 0U);

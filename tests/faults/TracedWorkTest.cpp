@@ -20,13 +20,13 @@ TEST(TracedWorkTest, killsBeforeAndAfterEachCall)
         killsWithoutFile += std::filesystem::exists(path) ? 0 : 1;
         std::filesystem::remove(path);
     }
-    // Before the call that makes the file it is not there; behind it, and at the next, it is.
+    // Missing before the call that creates it; present after it and at the next call.
     EXPECT_GE(killsWithoutFile, 1);
     EXPECT_GE(kills - killsWithoutFile, 3);
     EXPECT_TRUE(std::filesystem::exists(path));
 }
 
-TEST(TracedWorkTest, leavesFinishedWorkAlone)
+TEST(TracedWorkTest, doesNotKillFinishedWork)
 {
     EXPECT_FALSE(isKilledAt(1'000, [] {}));
 }

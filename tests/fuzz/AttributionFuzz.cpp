@@ -14,7 +14,7 @@ namespace Loadwick {
 
 namespace {
 
-/// What is attributed: few enough tokens to be counted one by one.
+/// The input of an attribution, with few enough tokens to count one by one.
 struct Input
 {
     std::int64_t total = 0;
@@ -24,8 +24,8 @@ struct Input
 
 constexpr std::int64_t mostTokens = 99;
 
-/// The total, then a line for each slab ("12 Memory files") and for each estimate, whose terms
-/// stand between bars ("|12 Repository|memoryfiles|claudemd").
+/// The total, then a line for each slab ("12 Memory files") and for each estimate, whose terms are
+/// separated by bars ("|12 Repository|memoryfiles|claudemd").
 Input inputOf(FuzzInput bytes)
 {
     Input input;
@@ -63,7 +63,7 @@ bool matches(const LocalCategoryEstimate &estimate, const std::string &name)
                        [&](const std::string &term) { return isSame(term, name); });
 }
 
-/// Moves single tokens, one after the other, as one would with counters on a table.
+/// Moves single tokens one at a time, like counters on a table.
 class Table
 {
 public:
@@ -158,7 +158,7 @@ void checkOrder(const std::vector<SlabAttribution> &rows)
     }
 }
 
-/// The same with every figure times a thousand million.
+/// The same with every figure multiplied by a billion.
 Input enlarged(Input input)
 {
     constexpr std::int64_t factor = 1'000'000'000;
@@ -180,7 +180,7 @@ void checkAttribution(std::string_view bytes)
     std::int64_t sum = 0;
     for (const SlabAttribution &row : outcome.rows)
         sum += row.tokens;
-    require(outcome.overAttributed == (sum > input.total), "too much is said to be too much");
+    require(outcome.overAttributed == (sum > input.total), "only excess is flagged as excess");
     require(outcome.overAttributed || sum == input.total, "rows and remainder are the total");
     const Input large = enlarged(input);
     const auto many = SlabAttributor::attribute(large.total, large.slabs, large.estimates);

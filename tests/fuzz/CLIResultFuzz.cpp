@@ -15,7 +15,7 @@ namespace Loadwick {
 namespace {
 
 /// The streams and the status of an ended session: the status and standard error on the first line,
-/// standard output behind it.
+/// then standard output.
 struct Ended
 {
     std::int32_t exitCode;
@@ -89,7 +89,7 @@ void checkCLIResult(std::string_view bytes)
     const Outcome outcome = parsed(ended);
     const JsonOracle oracle = JsonOracle::of(ended.standardOutput);
     require(!oracle.isJudge || outcome == expected(ended, oracle),
-            "the result is what the rules make of the whole document");
+            "the result follows the rules for the whole document");
     if (const auto *const error = std::get_if<ProbeError>(&outcome))
         require(!isUtf8(bytes) || isUtf8(error->headline() + error->detail()),
                 "an error's words are UTF-8");

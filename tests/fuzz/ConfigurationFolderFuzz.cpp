@@ -12,7 +12,7 @@ namespace Loadwick {
 
 namespace {
 
-/// The names on the way from the root, with "." and ".." walked.
+/// The components below the root, with "." and ".." resolved.
 std::vector<std::string> walked(std::string_view path)
 {
     std::vector<std::string> names;
@@ -56,12 +56,12 @@ void checkConfigurationFolder(std::string_view bytes)
     if (!folder)
         return;
     require(*folder == folderByTheRules(trimmed(value), workingFolder),
-            "the folder is spelled out");
-    require(standardizedPath(*folder) == *folder, "the spelling is final");
+            "the folder follows the rules");
+    require(standardizedPath(*folder) == *folder, "the path is already normalised");
     require(isUtf8(pathText(*folder)), "a path has a text");
     const auto root =
         TranscriptLocator::defaultProjectsRoot("/nobody", {{"CLAUDE_CONFIG_DIR", *folder + "/."}});
-    require(root == std::filesystem::path(*folder) / "projects", "transcripts lie in the folder");
+    require(root == std::filesystem::path(*folder) / "projects", "transcripts are in the folder");
 }
 
 const FuzzTarget target("ConfigurationFolder", checkConfigurationFolder);

@@ -79,7 +79,7 @@ void checkEnvironment(std::string_view bytes)
     const Environment parent = currentEnvironment();
     require(!parent.contains(""), "every variable has a name");
     for (const auto &[name, value] : parent)
-        require(value == lines.valueOf(name), "the first of two counts");
+        require(value == lines.valueOf(name), "the first of two duplicates wins");
     checkChild(parent, ProbeEnvironment::childEnvironment(parent, workingFolder));
 }
 

@@ -3,7 +3,7 @@
 
 #include "fuzz/FuzzTarget.h"
 
-/// Where the fuzzer comes in: once for each input, with the one target of the program.
+/// The entry point of the fuzzer: called once per input, for the program's only target.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t byteCount)
 {
     const Loadwick::FuzzTarget &target = *Loadwick::FuzzTarget::all().at(0);

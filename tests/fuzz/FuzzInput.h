@@ -5,8 +5,8 @@
 
 namespace Loadwick {
 
-/// Takes the values that a target needs off the head of an input, which people can read and write:
-/// lines, and decimal numbers inside them. Views into the input.
+/// Parses the values that a target needs off the head of a human-readable input: lines, and decimal
+/// numbers inside them. Views into the input.
 class FuzzInput
 {
 public:
@@ -15,7 +15,7 @@ public:
     [[nodiscard]] bool isAtEnd() const noexcept { return m_rest.empty(); }
     [[nodiscard]] std::string_view rest() const noexcept { return m_rest; }
 
-    /// What stands before `separator`, which is taken too; all that is left when there is none.
+    /// The text before `separator`, which is taken too; the whole rest if there is none.
     [[nodiscard]] std::string_view takeUpTo(char separator) noexcept;
     [[nodiscard]] std::string_view takeLine() noexcept { return takeUpTo('\n'); }
 

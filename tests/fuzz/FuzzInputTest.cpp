@@ -17,7 +17,7 @@ TEST(FuzzInputTest, takesLinesAndThenTheRest)
     EXPECT_EQ(input.takeLine(), "");
 }
 
-TEST(FuzzInputTest, takesAnIntegerOfEitherSign)
+TEST(FuzzInputTest, takesAPositiveOrNegativeInteger)
 {
     FuzzInput input("12 -7x");
     EXPECT_EQ(input.takeInteger(99), 12);

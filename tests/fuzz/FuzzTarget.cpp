@@ -8,7 +8,7 @@ namespace {
 
 std::vector<const FuzzTarget *> &targets()
 {
-    static std::vector<const FuzzTarget *> known; // before the first target, wherever that stands
+    static std::vector<const FuzzTarget *> known; // ready before the first target
     return known;
 }
 

@@ -6,12 +6,12 @@
 
 namespace Loadwick {
 
-/// One check of what holds for every input. Its file defines it once, beside its name, and it lives
-/// as long as the program: the fuzzer's programs hold one of them, the program of the seeds all.
+/// One check of what holds for every input, defined once in its own file with static storage: a
+/// fuzzer program holds one of them, the program of the seeds all.
 class FuzzTarget
 {
 public:
-    /// Returns when everything held, and otherwise ends the program (see `require`).
+    /// Returns if everything held; otherwise ends the program (see `require`).
     using Check = void (*)(std::string_view input);
 
     FuzzTarget(std::string_view name, Check properties);
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] const std::string &name() const noexcept { return m_name; }
     void check(std::string_view input) const { m_check(input); }
 
-    /// Those of this program.
+    /// The targets of this program.
     [[nodiscard]] static const std::vector<const FuzzTarget *> &all();
 
 private:

@@ -29,7 +29,7 @@ ScanHistoryFile historyOf(FuzzInput input)
     return {.version = scan.total, .scans = {scan}};
 }
 
-/// What a file can express of it: texts as UTF-8, and dates of years that have four digits.
+/// The part of it that a file can express: texts as UTF-8, and dates in four-digit years.
 ScanHistoryFile storable(ScanHistoryFile file)
 {
     for (RecordedScan &scan : file.scans) {
@@ -48,7 +48,7 @@ void checkFile(std::string_view json)
     if (!file)
         return;
     const std::string encoded = file->encoded();
-    require(ScanHistoryFile::decoded(encoded) == file, "a file that was read is written as it was");
+    require(ScanHistoryFile::decoded(encoded) == file, "a file round-trips");
     require(JsonOracle::of(encoded).object.has_value(), "a written file is JSON");
     require(isUtf8(encoded), "a written file is UTF-8");
 }
@@ -58,7 +58,7 @@ void checkHistory(std::string_view input)
     checkFile(input);
     const ScanHistoryFile written = historyOf(FuzzInput(input));
     require(ScanHistoryFile::decoded(written.encoded()) == storable(written),
-            "what is written is read");
+            "a written file can be read");
 }
 
 const FuzzTarget target("HistoryFile", checkHistory);

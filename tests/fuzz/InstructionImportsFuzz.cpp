@@ -40,7 +40,7 @@ std::size_t closingLine(const std::vector<std::string_view> &lines, std::size_t 
     return 0;
 }
 
-/// The tokens by the rule in words: first which lines stand inside closed fences, then the others.
+/// The tokens by the rule in words: finds the lines in closed fences, reads the others.
 Tokens tokensOutsideFences(std::string_view text)
 {
     const std::vector<std::string_view> lines = linesOf(text);
@@ -56,7 +56,7 @@ Tokens tokensOutsideFences(std::string_view text)
         tokens.insert(tokens.end(), found.begin(), found.end());
         if (!opensForGood)
             continue;
-        // Nothing closes this one, and no other opens behind it.
+        // This fence is never closed, and no other opens after it.
         while (++index < lines.size()) {
             const Tokens later = InstructionImports::tokensInLine(lines[index]);
             tokens.insert(tokens.end(), later.begin(), later.end());
@@ -87,7 +87,7 @@ void checkImports(std::string_view text)
     const std::string fenced = "```\n" + std::string(text) + "\n```\n@last";
     require(text.find("```") != std::string_view::npos ||
                 InstructionImports::tokensIn(fenced) == Tokens{"last"},
-            "a fence hides what stands in it");
+            "a fence hides its content");
 }
 
 const FuzzTarget target("InstructionImports", checkImports);

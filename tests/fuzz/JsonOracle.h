@@ -9,8 +9,8 @@
 
 namespace Loadwick {
 
-/// What nlohmann-json's own parser, which keeps everything, says of a document that our reader
-/// reads in parts.
+/// What nlohmann-json's parser, which keeps everything, makes of a document of which our reader
+/// keeps only parts.
 struct JsonOracle
 {
     /// False where the two rightly differ: the library reads a NUL as the end and skips a byte

@@ -31,7 +31,7 @@ std::vector<fs::path> seedsOf(const FuzzTarget &target)
     return seeds;
 }
 
-/// One seed through the target that it is meant for, which ends the program if anything fails.
+/// Runs one seed through its target, which ends the program on a failure.
 class Seed : public testing::Test
 {
 public:
@@ -57,7 +57,7 @@ void registerSeedsOf(const FuzzTarget &target)
             [&target, file]() -> testing::Test * { return new Seed(target, file); });
 }
 
-TEST(SeedsTest, everyTargetHasSeedsAndEverySeedATarget)
+TEST(SeedsTest, targetsAndSeedFoldersMatch)
 {
     std::vector<std::string> names;
     for (const FuzzTarget *target : FuzzTarget::all()) {
@@ -68,7 +68,7 @@ TEST(SeedsTest, everyTargetHasSeedsAndEverySeedATarget)
         EXPECT_EQ(std::count(names.begin(), names.end(), folder.path().filename()), 1) << folder;
 }
 
-TEST(SeedsTest, aPropertyThatDoesNotHoldEndsTheProgram)
+TEST(SeedsTest, aViolatedPropertyEndsTheProgram)
 {
     EXPECT_DEATH(require(false, "all is well"), "does not hold: all is well");
     require(true, "all is well");

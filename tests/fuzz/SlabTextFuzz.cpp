@@ -36,7 +36,7 @@ std::vector<std::string> wordsOf(std::string_view line)
     return words;
 }
 
-/// Digit by digit, so that what does not fit is seen before it happens.
+/// Digit by digit, so that overflow is detected before it happens.
 std::optional<std::int64_t> countOf(const std::string &word)
 {
     constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
@@ -52,7 +52,7 @@ std::optional<std::int64_t> countOf(const std::string &word)
     return count;
 }
 
-/// A line by the rules in words: all of its words first, then their places.
+/// A line by the rules in words: first all of its words, then their positions.
 std::optional<SelfReportedSlab> slabByTheRules(std::string_view line)
 {
     const std::vector<std::string> words = wordsOf(stripped(stripped(line, " \t"), "-*`> "));

@@ -44,7 +44,7 @@ void checkCategoryName(std::string_view name)
     require(byteCountOfCharacters(stored, RecordedCategoryName::limit) == stored.size(),
             "a stored name is short");
     require(stored.find_first_of("/\\~") == std::string::npos, "a stored name is no path");
-    require(RecordedCategoryName::storable(stored) == stored, "a stored name is stored as it is");
+    require(RecordedCategoryName::storable(stored) == stored, "storing a name is idempotent");
     require(stored == RecordedCategoryName::withheld || stored == trimmed(name),
             "a stored name is the whole name or none of it");
     for (const char *ending : {" a.md", "/", " \\", " ~"})

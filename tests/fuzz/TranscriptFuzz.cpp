@@ -35,7 +35,7 @@ Usage usageInPieces(std::string_view transcript, std::mt19937 random)
     return pieces.finish();
 }
 
-/// The first usage by the rule in words; no judge when a line before it has none.
+/// The first usage by the rule in words; not judged if the oracle abstains on an earlier line.
 struct Expected
 {
     bool isJudged;

@@ -12,7 +12,7 @@ namespace Loadwick {
 
 namespace {
 
-constexpr std::size_t mostWeights = 48; // every two rectangles are held against each other
+constexpr std::size_t mostWeights = 48; // every pair of rectangles is compared
 
 /// A weight on each line; what is no number at all is 0.
 std::vector<double> weightsIn(FuzzInput input)

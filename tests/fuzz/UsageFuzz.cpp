@@ -13,7 +13,7 @@ namespace Loadwick {
 
 namespace {
 
-/// No two of them, and no three, leave 64 bits: what does ends the program by design.
+/// No sum of two or three of them overflows 64 bits: overflow ends the program by design.
 constexpr std::int64_t largestCount = std::numeric_limits<std::int64_t>::max() / 3;
 
 bool isBounded(std::int64_t count)

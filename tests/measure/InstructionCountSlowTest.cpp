@@ -1,6 +1,6 @@
 // What a unit of work costs in instructions: the difference between two sizes, divided by their
 // difference in units. The figures are those of an everyday build (-O1) with GCC 12. A change that
-// needs over 15 % more says why, here. Lower them when the code gets better.
+// raises one by over 15 % explains that here. Lower them when the code gets better.
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -29,7 +29,7 @@ double byteCountOf(const fs::path &folder)
     return static_cast<double>(fs::file_size(folder / "scan-history.json"));
 }
 
-/// Generated projects that each hold a folder, so that no search can pass them over.
+/// Generated projects that each hold a folder, so that no search can skip them.
 fs::path nestedProjects(const fs::path &root, std::int64_t entryCount)
 {
     GeneratedFiles::projects(root, entryCount);
@@ -38,13 +38,13 @@ fs::path nestedProjects(const fs::path &root, std::int64_t entryCount)
     return root;
 }
 
-/// What laying out needs for an item, without the making of the weights.
+/// The cost of laying out an item, without generating the weights.
 double perItem(const std::string &count)
 {
     return difference({"treemap", count}, {"weights", count}) / std::stod(count);
 }
 
-/// What an operation on a history needs for a scan, without the start of the program.
+/// The cost of an operation on a history per scan, without the start of the program.
 double perScan(const std::string &verb, const fs::path &folder, double scanCount)
 {
     return difference({verb, folder}, {"weights", "0"}) / scanCount;
@@ -99,7 +99,7 @@ TEST(InstructionCountSlowTest, aByteOfAHistory)
               85 * slack);
 }
 
-TEST(InstructionCountSlowTest, aScanOfALongHistoryCostsLittleMoreThanOneOfAShort)
+TEST(InstructionCountSlowTest, aScanCostsLittleMoreInALongHistory)
 {
     const TemporaryFolder folder;
     GeneratedFiles::history(folder.path() / "small", 200);

@@ -34,7 +34,7 @@ std::map<std::string, std::int64_t> ofInstructions(std::int64_t fileCount,
 }
 
 /// The counters of some attempts to find a session among 1,100 entries in two folders, on a disk
-/// that keeps count of a folder's folders. `inner` are folders to make in each of the two.
+/// that counts a folder's folders. `inner` are folders to make in each of the two.
 std::map<std::string, std::int64_t> ofAttempts(const std::string &session, int attempts,
                                                const std::vector<std::string> &inner = {})
 {

@@ -1,4 +1,4 @@
-// Peak memory, which says nothing of the product under a sanitizer.
+// Peak memory, which is meaningless under a sanitizer.
 #include <filesystem>
 
 #include <gtest/gtest.h>

@@ -15,8 +15,7 @@ namespace Loadwick {
 
 namespace {
 
-/// The machine of somebody who has a `claude` in every folder that is searched. Each leaves a mark
-/// when it is started.
+/// A machine with a `claude` in every folder that is searched. Each leaves a mark when started.
 class ConfinementTest : public testing::Test
 {
 protected:
@@ -70,7 +69,7 @@ protected:
 
 } // namespace
 
-TEST_F(ConfinementTest, startsTheStandInAndNoOtherClaudeOfTheMachine)
+TEST_F(ConfinementTest, startsOnlyTheStandIn)
 {
     const ThrowAwayHome home;
     home.standIn().play({.outcome = "transcript"});
@@ -80,7 +79,7 @@ TEST_F(ConfinementTest, startsTheStandInAndNoOtherClaudeOfTheMachine)
     EXPECT_EQ(snapshot(), before);
 }
 
-TEST_F(ConfinementTest, findsNoneRatherThanAnotherOne)
+TEST_F(ConfinementTest, findsNoOtherClaudeWithoutTheStandIn)
 {
     const ThrowAwayHome home;
     std::filesystem::remove(home.standIn().executable());
@@ -93,7 +92,7 @@ TEST_F(ConfinementTest, findsNoneRatherThanAnotherOne)
     EXPECT_EQ(snapshot(), before);
 }
 
-TEST_F(ConfinementTest, followsNoLinkOutOfTheHome)
+TEST_F(ConfinementTest, rejectsLinksOutOfTheHome)
 {
     const ThrowAwayHome home;
     std::filesystem::remove(home.standIn().executable());
@@ -104,7 +103,7 @@ TEST_F(ConfinementTest, followsNoLinkOutOfTheHome)
     EXPECT_EQ(snapshot(), before);
 }
 
-TEST_F(ConfinementTest, countsNothingOutsideTheHomeAsExecutable)
+TEST_F(ConfinementTest, treatsNothingOutsideTheHomeAsExecutable)
 {
     const ThrowAwayHome home;
     const auto lookup = Confinement::runnerSettings(home.path(), shutdown).lookup;
@@ -127,7 +126,7 @@ TEST_F(ConfinementTest, forgetsTheFoldersOfTheUserWhoStartedIt)
         EXPECT_EQ(environment.count(name), 0u) << name;
 }
 
-TEST_F(ConfinementTest, keepsTheKeyToTheDisplay)
+TEST_F(ConfinementTest, keepsTheDisplaysKey)
 {
     unsetenv("XAUTHORITY");
     machine.write("home/.Xauthority", "");

@@ -49,7 +49,7 @@ std::int64_t sumOfCategories(const RecordedScan &scan)
 
 } // namespace
 
-TEST(SampleHistoriesTest, haveAsManyScansAndRepositoriesAsTheirNamesSay)
+TEST(SampleHistoriesTest, haveTheScansAndRepositoriesThatTheirNamesPromise)
 {
     std::map<std::string, std::pair<std::size_t, std::size_t>> sizes;
     for (const SampleHistory &history : SampleHistories::all())
@@ -63,7 +63,7 @@ TEST(SampleHistoriesTest, haveAsManyScansAndRepositoriesAsTheirNamesSay)
                                       {"30-repositories", {200, 30}}}));
 }
 
-TEST(SampleHistoriesTest, runFromTheOldestToTheNewest)
+TEST(SampleHistoriesTest, areOrderedFromOldestToNewest)
 {
     for (const SampleHistory &history : SampleHistories::all())
         EXPECT_TRUE(isOldestFirst(history.scans)) << history.name;
@@ -89,7 +89,7 @@ TEST(SampleHistoriesTest, growIntoTheNextBandAndComeBack)
         EXPECT_LE(sumOfCategories(scan), scan.total);
 }
 
-TEST(SampleHistoriesTest, splitNoMoreThanTheTotal)
+TEST(SampleHistoriesTest, neverSplitMoreThanTheTotal)
 {
     for (const RecordedScan &scan : SampleHistories::ofSize(200, 200, 50)) {
         EXPECT_EQ(scan.categories.size(), 50U);
@@ -98,7 +98,7 @@ TEST(SampleHistoriesTest, splitNoMoreThanTheTotal)
     }
 }
 
-TEST(SampleHistoriesTest, nameEachCategoryOfAScanOnce)
+TEST(SampleHistoriesTest, haveUniqueCategoryNamesInEachScan)
 {
     std::set<std::string> names;
     const std::vector<RecordedScan> scans = SampleHistories::ofSize(1, 1, 50);

@@ -34,7 +34,7 @@ std::set<std::string> pathsOf(const InstructionFileSet &files)
 
 } // namespace
 
-TEST(SampleScansTest, fallInTheBandOfTheirName)
+TEST(SampleScansTest, fallIntoTheBandInTheirNames)
 {
     EXPECT_EQ(SampleScans::lean().report().band, OpinionBand::lean);
     EXPECT_EQ(SampleScans::heavy().report().band, OpinionBand::heavy);
@@ -42,7 +42,7 @@ TEST(SampleScansTest, fallInTheBandOfTheirName)
     EXPECT_EQ(SampleScans::excessive().report().total, 142'318);
 }
 
-TEST(SampleScansTest, addUpUnlessTheyAreOverAttributed)
+TEST(SampleScansTest, addUpUnlessOverAttributed)
 {
     for (const SampleScan &scan : SampleScans::all()) {
         const ScanReport report = scan.report();
@@ -52,7 +52,7 @@ TEST(SampleScansTest, addUpUnlessTheyAreOverAttributed)
     }
 }
 
-TEST(SampleScansTest, showTheSpecialCaseOfTheirName)
+TEST(SampleScansTest, showTheSpecialCaseInTheirNames)
 {
     EXPECT_FALSE(SampleScans::notSelfReported().report().categoriesSelfReported);
     EXPECT_TRUE(SampleScans::notSelfReported().report().unreportedCategoryFilesNote());
@@ -71,7 +71,7 @@ TEST(SampleScansTest, haveDistinctNames)
     EXPECT_EQ(names.size(), 6U);
 }
 
-TEST(SampleScansTest, haveEachFileInTheFolderOfItsTierOnce)
+TEST(SampleScansTest, haveEachFileOnceInItsTiersFolder)
 {
     for (const SampleScan &scan :
          {SampleScans::lean(), SampleScans::excessive(), SampleScans::ofSize(1, 1'000)}) {
@@ -82,7 +82,7 @@ TEST(SampleScansTest, haveEachFileInTheFolderOfItsTierOnce)
     }
 }
 
-TEST(SampleScansTest, listUnreadablePathsInAscendingOrderAndOneThatIsEstimatedToo)
+TEST(SampleScansTest, listUnreadablePathsInOrderIncludingAnEstimatedOne)
 {
     const InstructionFileSet files = SampleScans::excessive().files;
     const std::vector<std::string> &unreadable = files.unreadablePaths;

@@ -128,7 +128,7 @@ TEST_F(StandInTest, playsEveryFailureOfASession)
     }
 }
 
-TEST_F(StandInTest, measuresOnlyTheFoldersItIsAllowed)
+TEST_F(StandInTest, measuresOnlyAllowedFolders)
 {
     const TemporaryFolder elsewhere;
     standIn.play({.outcome = "transcript", .onlyBelow = home.path()});
@@ -151,7 +151,7 @@ TEST_F(StandInTest, hangsUntilTheTimeOut)
     }
 }
 
-TEST_F(StandInTest, runsWhileItIsHeld)
+TEST_F(StandInTest, runsWhileHeld)
 {
     standIn.play({.outcome = "usage"});
     standIn.hold();
@@ -162,7 +162,7 @@ TEST_F(StandInTest, runsWhileItIsHeld)
     EXPECT_EQ(failure(settings()), std::nullopt);
 }
 
-TEST_F(StandInTest, refusesOtherArguments)
+TEST_F(StandInTest, rejectsOtherArguments)
 {
     standIn.play({.outcome = "usage"});
     EXPECT_EQ(execute({"--version"}).exitCode, 64);
@@ -174,7 +174,7 @@ TEST_F(StandInTest, refusesOtherArguments)
     EXPECT_EQ(execute(ProbeRunner::arguments()).exitCode, 0);
 }
 
-TEST_F(StandInTest, refusesAnyOtherHome)
+TEST_F(StandInTest, rejectsAnyOtherHome)
 {
     const Execution withoutScenario = execute(ProbeRunner::arguments());
     EXPECT_EQ(withoutScenario.exitCode, 64);
@@ -188,7 +188,7 @@ TEST_F(StandInTest, refusesAnyOtherHome)
     EXPECT_TRUE(standIn.runs().empty());
 }
 
-TEST_F(StandInTest, saysInItsFirstLinesWhatItIs)
+TEST_F(StandInTest, identifiesItselfInItsFirstLines)
 {
     const std::string text = contentOf(standIn.executable());
     EXPECT_LT(text.find("This is NOT Claude Code. It is a stand-in"), 40u);

@@ -17,7 +17,7 @@ TEST(TemporaryFolderTest, removesEverythingAtTheEnd)
     EXPECT_FALSE(std::filesystem::exists(path));
 }
 
-TEST(TemporaryFolderTest, writesScriptsThatCanBeExecuted)
+TEST(TemporaryFolderTest, writesExecutableScripts)
 {
     const TemporaryFolder folder;
     const std::filesystem::path script = folder.writeScript("run", "#!/bin/sh\nexit 3\n");

@@ -9,8 +9,7 @@
 
 namespace Loadwick {
 
-/// Expects an enumeration class to name its values so, in this order, and to read back these names
-/// alone.
+/// Expects an enumeration class to have these names, in this order, and to read back only them.
 template<typename Enumeration>
 void expectNames(std::initializer_list<std::string_view> names)
 {

@@ -14,7 +14,7 @@ TEST(HostileChildTest, doesWhatItsVerbSays)
     EXPECT_EQ(execution.exitCode, 7);
 }
 
-TEST(HostileChildTest, refusesAnUnknownVerb)
+TEST(HostileChildTest, rejectsAnUnknownVerb)
 {
     EXPECT_EQ(ProbeRunner::execute(hostileLaunch({"dance"})).exitCode, 2);
     EXPECT_EQ(ProbeRunner::execute(hostileLaunch({})).exitCode, 2);

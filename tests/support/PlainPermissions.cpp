@@ -16,8 +16,8 @@ namespace {
 
 #ifdef __linux__
 
-/// Capabilities are a property of a thread; the system calls are used bare, since nothing else of
-/// libcap is needed.
+/// Capabilities are a property of a thread; bare system calls, since nothing else of libcap is
+/// needed.
 std::uint32_t exchangeEffective(std::uint32_t removed, std::uint32_t added)
 {
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};

@@ -4,8 +4,8 @@
 
 namespace Loadwick {
 
-/// While it lives, this thread, and the threads that it starts, read only what the permissions of
-/// files and folders allow, even as root. Create and destroy it on one thread.
+/// While it lives, this thread and those that it starts obey the permissions of files and folders,
+/// even as root. Create and destroy it on one thread.
 class PlainPermissions
 {
 public:

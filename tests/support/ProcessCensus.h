@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-/// What this process holds at one moment, to find what a piece of work leaks.
+/// The resources that this process holds at one moment, to find leaks.
 struct ProcessCensus
 {
     std::size_t descriptors; ///< open ones

@@ -7,7 +7,7 @@
 namespace Loadwick {
 
 /// The greatest resident memory of this process since the object was made, less what was resident
-/// then. Linux only; sanitizers hold freed memory back and spoil the figure.
+/// then. Linux only; sanitizers quarantine freed memory and spoil the figure.
 class PeakMemory
 {
 public:

@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-TEST(ProcessMemorySlowTest, seesThePeakOfMemoryThatIsFreeAgain)
+TEST(ProcessMemorySlowTest, seesThePeakOfFreedMemory)
 {
     constexpr std::size_t size = 64U << 20;
     const PeakMemory memory;

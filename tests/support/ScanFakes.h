@@ -11,7 +11,7 @@
 
 namespace Loadwick {
 
-/// Starts no session: returns what a test hands in and records its calls.
+/// Starts no session: returns a preset result and records its calls.
 class FakeProbe : public ProbeRunning
 {
 public:
@@ -31,7 +31,7 @@ private:
     std::vector<std::filesystem::path> m_runs;
 };
 
-/// Reads no file: returns what a test hands in and records its calls.
+/// Reads no file: returns a preset result and records its calls.
 class FakeInstructionScanner : public InstructionFileScanning
 {
 public:

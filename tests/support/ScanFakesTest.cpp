@@ -24,7 +24,7 @@ TEST(ScanFakesTest, theProbeFailsWhenTold)
     EXPECT_EQ(probe.runs().size(), 1U);
 }
 
-TEST(ScanFakesTest, theScannerReturnsWhatItIsToldAndRecordsTheFolders)
+TEST(ScanFakesTest, theScannerReturnsItsResultAndRecordsTheFolders)
 {
     FakeInstructionScanner scanner;
     EXPECT_EQ(scanner.scan("/a"), InstructionFileSet());

@@ -20,7 +20,7 @@ TEST(ScanModelHarnessTest, stopsBeforeEveryStage)
     EXPECT_EQ(harness.dispatcher->backgroundCount() + harness.dispatcher->postedCount(), 0U);
 }
 
-TEST(ScanModelHarnessTest, showsWhatIsOnTheDisk)
+TEST(ScanModelHarnessTest, showsTheRecordedScans)
 {
     const ScanModelHarness harness;
     ScanModel model(harness.collaborators());

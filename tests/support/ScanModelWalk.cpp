@@ -137,7 +137,7 @@ void ScanModelWalk::clear()
     m_table.clear();
 }
 
-/// The outcome of a scan may come before the next start of the program or after it.
+/// The outcome of a scan may arrive before or after the next start of the program.
 void ScanModelWalk::quit()
 {
     ++m_quits;

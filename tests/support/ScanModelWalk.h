@@ -14,7 +14,7 @@
 namespace Loadwick {
 
 /// A random walk: a program that is started, used, disturbed and quit, and the table that predicts
-/// it after each step. Equal seeds take equal walks.
+/// it after each step. Equal seeds produce equal walks.
 class ScanModelWalk
 {
 public:
@@ -77,7 +77,7 @@ private:
     std::chrono::sys_seconds m_now = ScanModelHarness::now;
     std::optional<RepoSelection> m_scanned;
     int m_stage = 0;
-    std::optional<ProbeError> m_error; ///< with which the last stage ended
+    std::optional<ProbeError> m_error; ///< that ended the last stage
     Mood m_probeMood = Mood::works;
     bool m_scannerFails = false;
     bool m_refusesThreads = false;

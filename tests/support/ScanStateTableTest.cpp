@@ -79,7 +79,7 @@ TEST(ScanStateTableTest, showsAScanThatWasNotWrittenUntilTheNextScan)
               (ScanStateTable::Entries{{webshop.id(), at(1)}, {webshop.id(), at(3)}}));
 }
 
-TEST(ScanStateTableTest, startsWithWhatTheDiskHolds)
+TEST(ScanStateTableTest, startsWithTheRecordedScans)
 {
     ScanStateTable table(true);
     table.select(webshop);

@@ -7,8 +7,8 @@
 
 namespace Loadwick {
 
-/// Runs nothing by itself: a test steps through background and posted tasks in an order of its
-/// choice. Belongs to one thread.
+/// Runs only what a test steps: background and posted tasks, in an order of its choice. Belongs to
+/// one thread.
 class SteppingDispatcher : public TaskDispatcher
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace Loadwick {
 
-TEST(SteppingDispatcherTest, runsNothingByItself)
+TEST(SteppingDispatcherTest, runsNothingUnlessStepped)
 {
     SteppingDispatcher dispatcher;
     std::string log;
@@ -73,7 +73,7 @@ TEST(SteppingDispatcherTest, refusesBackgroundTasksWhenTold)
     EXPECT_EQ(dispatcher.backgroundCount(), 1U);
 }
 
-TEST(SteppingDispatcherTest, endsTheProgramWithoutATask)
+TEST(SteppingDispatcherTest, endsTheProgramWhenThereIsNoTask)
 {
     SteppingDispatcher dispatcher;
     EXPECT_DEATH(dispatcher.runPosted(), "does not exist");

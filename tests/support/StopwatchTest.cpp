@@ -15,7 +15,7 @@ TEST(StopwatchTest, countsTheProcessorTimeOfWork)
     EXPECT_GT(time.milliseconds(), 0.1);
 }
 
-TEST(StopwatchTest, countsASleepByTheClockAlone)
+TEST(StopwatchTest, countsASleepOnlyByTheClock)
 {
     const Stopwatch watch;
     const ProcessorTime time;

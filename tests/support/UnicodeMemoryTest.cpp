@@ -15,7 +15,7 @@ TEST(UnicodeMemoryTest, limitsTheSearchForCharacters)
     EXPECT_TRUE(memory.ranOut());
 }
 
-TEST(UnicodeMemoryTest, isUnlimitedAgainAfterwards)
+TEST(UnicodeMemoryTest, isUnlimitedAfterwards)
 {
     {
         const UnicodeMemory memory(1'000'000);

@@ -22,13 +22,13 @@ int statusOf(pid_t child)
     return status;
 }
 
-/// Lets the child run to its next stop, handing it the signal that it was stopped by.
+/// Lets the child run to its next stop and delivers the signal that stopped it.
 int statusAtNextStop(pid_t child, int status)
 {
     const bool isOwnSignal = WSTOPSIG(status) != gateOfSystemCall && WSTOPSIG(status) != SIGSTOP;
     const long signal = isOwnSignal ? WSTOPSIG(status) : 0;
     if (ptrace(PTRACE_SYSCALL, child, nullptr, signal) != 0)
-        Loadwick::fatalError("a traced child cannot go on");
+        Loadwick::fatalError("a traced child cannot continue");
     return statusOf(child);
 }
 
@@ -42,7 +42,7 @@ pid_t startStopped(const std::function<void()> &work)
             _exit(3);
         raise(SIGSTOP);
         work();
-        raise(SIGKILL); // the work alone is of interest, not what a program does at its end
+        raise(SIGKILL); // only the work matters, not what a program does at its end
     }
     return child;
 }
@@ -54,7 +54,7 @@ bool isKilledAt(long stop, const std::function<void()> &work)
     const pid_t child = startStopped(work);
     int status = statusOf(child);
     if (!WIFSTOPPED(status))
-        Loadwick::fatalError("this system lets nobody trace its own children");
+        Loadwick::fatalError("this system does not permit tracing a child");
     ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
     for (long gate = 0; gate < stop;) {
         status = statusAtNextStop(child, status);

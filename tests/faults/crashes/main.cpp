@@ -1,6 +1,5 @@
-// Kills the writer of the history before and behind each of its system calls, and looks at what a
-// crash there leaves: the old file or the new one, and a history to which the next scan can be
-// added.
+// Kills the writer of the history before and after each of its system calls, and checks what such a
+// crash leaves: the old file or the new one, and a history that accepts the next scan.
 //
 //   loadwick-crashes               every system call
 //   loadwick-crashes SCENARIO N    one of them
@@ -49,7 +48,7 @@ constexpr std::array scenarios{
     Scenario{"clear-behind-link", HistoryFixture::Start::threeScans, clear, true},
 };
 
-/// The store that works on the fixture, through a link if the scenario has one.
+/// The store over the fixture, through a link if the scenario has one.
 ScanHistoryStore storeFor(const Scenario &scenario, const HistoryFixture &fixture,
                           const fs::path &home)
 {
@@ -78,7 +77,7 @@ std::optional<std::string> problemAfter(const Scenario &scenario, const HistoryF
     return fixture.leftovers();
 }
 
-/// False when the work was done before `stop`.
+/// False when the work ended before `stop`.
 bool isKilled(const Scenario &scenario, long stop, std::optional<std::string> &problem)
 {
     const Loadwick::TemporaryFolder home;

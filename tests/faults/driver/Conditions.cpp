@@ -52,7 +52,7 @@ void endRestlessClock()
     clockMover.join();
 }
 
-// The handler is one that does nothing, and that no call is taken up again behind.
+// The handler does nothing, and without SA_RESTART interrupted calls fail with EINTR.
 void setAlarmEvery(long microseconds)
 {
     struct sigaction action = {};
@@ -76,7 +76,7 @@ void blockAllSignals()
     sigprocmask(SIG_BLOCK, &all, nullptr);
 }
 
-// The program itself takes the end of children back from who started it.
+// Except SIGCHLD, which the program itself resets if its parent ignored it.
 void ignoreAllSignals()
 {
     for (int number = 1; number < NSIG; ++number)
@@ -84,7 +84,7 @@ void ignoreAllSignals()
             std::signal(number, SIG_IGN);
 }
 
-/// As much as the system still hands on to a child, and nothing that one can rely on.
+/// As large as the system passes to a child, with duplicate, malformed and misleading entries.
 void fillEnvironment()
 {
     static std::vector<std::string> entries;
@@ -157,7 +157,7 @@ long runUnderConditions(const std::filesystem::path &workFolder)
         const auto start = std::chrono::steady_clock::now();
         problems += problemsUnder(condition, workFolder);
         const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
-        // At once, so that a run that is stopped has said how far it was.
+        // Flushed, so that an interrupted run shows how far it came.
         std::printf("%s: %.1f s\n", std::string(condition.name).c_str(), duration.count());
         std::fflush(stdout);
     }

@@ -7,7 +7,7 @@
 
 namespace Faults {
 
-/// A state of the world around a process in which everything must still succeed.
+/// A condition of the system around a process under which everything must still succeed.
 struct Condition
 {
     std::string_view name;

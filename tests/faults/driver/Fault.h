@@ -14,7 +14,7 @@ enum class Mode
 {
     once,
     always,
-    burst ///< a hundred times, since no signal interrupts for ever
+    burst ///< a hundred times, since no signal interrupts forever
 };
 
 /// One entry of the matrix: which call fails, in which operation, and how.
@@ -26,7 +26,7 @@ struct Fault
     long nth = 1;
     Mode mode = Mode::once;
 
-    /// "history-append,write,ENOSPC,3,once", which a replay reads.
+    /// "history-append,write,ENOSPC,3,once", as a replay reads it.
     [[nodiscard]] std::string text() const;
     [[nodiscard]] static std::optional<Fault> fromText(std::string_view text);
 
@@ -52,7 +52,7 @@ struct CallRefusals
 
 [[nodiscard]] std::string_view nameOf(Call call);
 
-/// Interruptions come in bursts, all other errors once or for ever.
+/// Interruptions come in bursts, all other errors once or forever.
 [[nodiscard]] std::span<const Mode> modesOf(int errorNumber);
 
 } // namespace Faults

@@ -19,8 +19,8 @@ void writeFile(const std::filesystem::path &path, const std::string &bytes)
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
-/// Only a file whose reading goes on failing, other than for a want that passes, may be replaced by
-/// one that knows the new scan alone.
+/// Only a permanent failure to read the old file (not a transient shortage) permits replacing it by
+/// one with only the new scan.
 bool mayLoseOldScans(const std::optional<Fault> &fault)
 {
     if (!fault || fault->isTransient())

@@ -10,7 +10,7 @@
 
 namespace Faults {
 
-/// A history of three scans in a home folder, and what an operation may make of it.
+/// A history of three scans in a home folder, and the outcomes that an operation on it may have.
 class HistoryFixture
 {
 public:
@@ -43,7 +43,7 @@ public:
     /// Anything beside the file in its folder.
     [[nodiscard]] std::optional<std::string> leftovers() const;
 
-    /// What is wrong with a changed file of these bytes: it is the old scans and a new one, whole.
+    /// What is wrong with a changed file of these bytes: it must hold the old scans and a new one.
     [[nodiscard]] std::optional<std::string> problemOf(const std::string &bytes,
                                                        const std::optional<Fault> &fault) const;
 

@@ -39,7 +39,7 @@ public:
             return "loading changed the folder";
         if (m_loaded == m_fixture.scans() || (fault && m_loaded.empty()))
             return std::nullopt;
-        return "loading gave a part of the scans";
+        return "loading returned only some of the scans";
     }
 
 private:

@@ -55,7 +55,7 @@ Matrix::Score Matrix::run(const Extent &extent)
         const long before = m_score.failedCalls;
         const std::optional<Tally> counted = countedIn(kind);
         if (!counted)
-            continue; // it has a problem of its own, which every fault would only repeat
+            continue; // it fails without a fault, and every fault would only repeat that
         if (extent.sampleSeed)
             runSample(kind, *counted, extent);
         else
@@ -101,7 +101,7 @@ void Matrix::runSample(const OperationKind &kind, const Tally &counted, const Ex
             for (; fault.nth <= countOf(counted, refusals.call); ++fault.nth)
                 faults.push_back(fault);
         std::shuffle(faults.begin(), faults.end(), random);
-        // There is one kind of refused memory, and hundreds of places that ask for it.
+        // Memory fails in one way only, but at hundreds of call sites: sample more of them.
         const std::size_t size = extent.sampleSize * (refusals.call == Call::malloc ? 6 : 1);
         faults.resize(std::min(faults.size(), size));
         for (const Fault &fault : faults)
@@ -116,7 +116,7 @@ bool Matrix::fails(const OperationKind &kind, const Fault &fault)
     m_score.failedCalls += verdict.tally.failed;
     if (verdict.problem)
         m_score.problems.push_back(fault.text() + ": " + *verdict.problem);
-    // One that crashed can tell nothing; the next may still be reached.
+    // A crashed trial reports no counts; the next call may still be reached.
     return verdict.tally.failed > 0 || verdict.problem;
 }
 

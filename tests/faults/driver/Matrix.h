@@ -12,11 +12,11 @@ namespace Faults {
 /// Every operation of the core.
 [[nodiscard]] std::vector<OperationKind> allOperations();
 
-/// Lets every call of every operation fail, one after the other, and counts.
+/// Lets every call of every operation fail, one at a time, and counts the results.
 class Matrix
 {
 public:
-    /// Which part of it is run.
+    /// Which part of the matrix is run.
     struct Extent
     {
         std::optional<std::string> operation = {}; ///< all when absent
@@ -29,14 +29,14 @@ public:
     {
         long trials = 0;
         long failedCalls = 0;
-        std::vector<std::string> problems; ///< one line each, which begins with what to replay
+        std::vector<std::string> problems; ///< one line each, beginning with the fault to replay
     };
 
     explicit Matrix(std::filesystem::path workFolder);
 
     [[nodiscard]] Score run(const Extent &extent);
 
-    /// One fault; says on standard output how it went.
+    /// Tries one fault and prints the result.
     [[nodiscard]] bool replay(const Fault &fault);
 
 private:

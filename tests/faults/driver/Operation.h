@@ -18,7 +18,7 @@ enum class Ending
     probeError,
     systemError,
     outOfMemory,
-    otherwise ///< with an exception that no operation may throw
+    otherwise ///< by an exception that no operation may throw
 };
 
 /// One operation of the core, over files of its own in a throw-away home.
@@ -27,10 +27,10 @@ class Operation
 public:
     virtual ~Operation() = default;
 
-    /// Performs it once, while calls fail.
+    /// Performs the operation once, while calls fail.
     virtual void perform() = 0;
 
-    /// What is wrong with its ending, if anything is. Without a `fault` only complete success is
+    /// What is wrong with the outcome, if anything. Without a `fault`, only complete success is
     /// right.
     [[nodiscard]] virtual std::optional<std::string>
     problem(Ending ending, const std::optional<Fault> &fault) const = 0;
@@ -45,7 +45,7 @@ struct OperationKind
     bool isThreaded = false;       ///< memory is needed in the background only
 };
 
-/// Those on the history file, on other files, on texts, on processes, and the whole scan.
+/// Operations on the history file, other files, texts and processes, and the whole scan.
 [[nodiscard]] std::span<const OperationKind> historyOperations();
 [[nodiscard]] std::span<const OperationKind> readingOperations();
 [[nodiscard]] std::span<const OperationKind> textOperations();

@@ -57,10 +57,10 @@ public:
         if (ending != Ending::returned)
             return "the child was not started, for no stated reason";
         if (m_execution.exitCode != 3 || m_execution.timedOut)
-            return "another ending than the child's";
+            return "not the child's exit status";
         if (!isFirstPart(m_execution.standardOutput, "said", fault) ||
             !isFirstPart(m_execution.standardError, "warned", fault))
-            return "other words than the child's";
+            return "not the child's output";
         return std::nullopt;
     }
 
@@ -92,7 +92,7 @@ public:
             return "asking threw";
         if (m_found ? isFirstPart(*m_found, m_answer, fault) : fault.has_value())
             return std::nullopt;
-        return "another answer than the shell's";
+        return "not the shell's answer";
     }
 
 private:

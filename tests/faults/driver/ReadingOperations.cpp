@@ -41,7 +41,7 @@ public:
                        : std::optional<std::string>("the scan threw");
         for (const auto &file : m_found.allFiles())
             if (!isOurs(file.path) || file.byteCount == 0)
-                return "a file that is not there: " + file.path;
+                return "a nonexistent file: " + file.path;
         for (const std::string &path : m_found.unreadablePaths)
             if (!path.starts_with(m_home.native()))
                 return "unreadable, but never looked for: " + path;
@@ -89,7 +89,7 @@ public:
             return "reading threw";
         if (m_usage ? m_usage->startupTotal() == SampleHome::transcriptTotal : fault.has_value())
             return std::nullopt;
-        return "another usage than the transcript's";
+        return "not the transcript's usage";
     }
 
 private:
@@ -118,12 +118,11 @@ public:
             return "reading threw";
         if (m_line ? m_line->medianTokensPerSession == 7 : fault.has_value())
             return std::nullopt;
-        return "another line than the last";
+        return "not the last line";
     }
 
 private:
-    static constexpr std::size_t endSize =
-        80; // less than both lines, so that the end alone is read
+    static constexpr std::size_t endSize = 80; // less than both lines, so that only the end is read
 
     fs::path m_path;
     std::optional<Loadwick::WeeklyKPILine> m_line;

@@ -47,7 +47,7 @@ fs::path writeTranscript(const fs::path &home)
     const fs::path root = home / ".claude/projects";
     write(root / "other/unrelated.jsonl", "{}\n");
     write(root / "webshop" / (std::string(sessionID) + ".jsonl"),
-          // Longer than a piece, so that it is gone back to.
+          // Longer than a piece, so that it is reread.
           "{\"type\":\"user\"}\n{\"padding\":\"" + std::string(70'000, 'x') +
               R"(","type":"assistant","message":{"usage":{"input_tokens":10,)"
               R"("cache_creation_input_tokens":24300,"cache_read_input_tokens":0}}})"

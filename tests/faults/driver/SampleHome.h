@@ -24,7 +24,7 @@ std::filesystem::path writeTranscript(const std::filesystem::path &home);
 /// Writes a program that prints one result, as the `claude` command does. Returns its path.
 std::filesystem::path writeCommand(const std::filesystem::path &home);
 
-/// A login shell that tells where that command is. Returns its path.
+/// A login shell that answers with the path of that command. Returns its path.
 std::filesystem::path writeShell(const std::filesystem::path &home);
 
 } // namespace Faults::SampleHome

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 using Loadwick::ProbeError;
 using Loadwick::ScanState;
 
-/// The program's own settings, but for the waits, and for a search that never leaves the home.
+/// The program's own settings, except short waits and a search that never leaves the home.
 Loadwick::ProbeRunner::Settings settingsIn(const fs::path &home)
 {
     auto settings = Loadwick::ProbeRunner::userSettings(Loadwick::currentEnvironment(), nullptr);
@@ -83,12 +83,12 @@ private:
             return "the scan failed: " + error.headline() + " " + error.detail();
         if (!m_history.isUntouched())
             return "a failed scan changed the history";
-        // Listing a folder may itself want memory; then it is the folder that could not be listed.
+        // Listing a folder may itself run out of memory, which is reported as an unreadable folder.
         const bool isExpected =
             std::holds_alternative<ProbeError::UnreadableOutput>(error.value()) ||
             std::holds_alternative<ProbeError::RepositoryUnreadable>(error.value());
         if (fault->isShortageOfMemoryOrThreads() && !isExpected)
-            return "want of memory or of a thread ended as: " + error.headline();
+            return "a shortage of memory or threads ended as: " + error.headline();
         return std::nullopt;
     }
 

@@ -11,7 +11,7 @@ namespace Faults::Shim {
 
 namespace {
 
-// The functions are declared for the library itself; the driver is not linked with it.
+// The header declares them for the library itself; the driver is not linked with it.
 using Arm = void(const Plan *);
 using Disarm = void(Tally *);
 using Shift = void(long);
@@ -31,7 +31,7 @@ void require(char **arguments)
         return;
     }
     if (getenv("LD_PRELOAD") != nullptr)
-        Loadwick::fatalError("the library for the faults cannot be preloaded");
+        Loadwick::fatalError("the fault library cannot be preloaded");
     setenv("LD_PRELOAD", LOADWICK_FAULTS_SHIM, 1);
     execv("/proc/self/exe", arguments);
     Loadwick::fatalError("the driver cannot be restarted");

@@ -14,8 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 using Loadwick::ProbeError;
 
-/// An answer that is no record, and a name, both of more characters than are kept and in a script
-/// that takes the whole of the Unicode library.
+/// An answer that is no record, and a name, both longer than the limit and in non-ASCII text, which
+/// takes the whole Unicode library.
 class Texts final : public Operation
 {
 public:
@@ -36,7 +36,7 @@ public:
         if (ending != Ending::returned)
             return "handling texts threw";
         if (m_name != Loadwick::RecordedCategoryName::withheld || m_lower != "äö")
-            return "another name or lower case";
+            return "the wrong name or lower case";
         return problemOf(m_error, "");
     }
 
@@ -60,14 +60,14 @@ private:
         }
     }
 
-    /// Also later: the library must not remember for ever that there was no memory once.
+    /// Also later: the library must not remember a past shortage of memory forever.
     static std::optional<std::string> problemOf(const std::optional<ProbeError> &error,
                                                 const std::string &when)
     {
         if (!error || !std::holds_alternative<ProbeError::UnreadableOutput>(error->value()))
             return when + "an answer that is no record was read";
         if (error->detail() != repeated("é", ProbeError::detailLimit) + "…")
-            return when + "other words than the answer's";
+            return when + "not the text of the answer";
         return std::nullopt;
     }
 

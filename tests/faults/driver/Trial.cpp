@@ -101,7 +101,7 @@ Report performed(const Trial &trial, const fs::path &home, Progress &progress)
         thrown = std::current_exception();
     }
     Report report{.tally = Shim::disarm()};
-    progress.begin("looking at what is left");
+    progress.begin("checking the result");
     if (trial.after)
         trial.after();
     const auto remains = remainsBeyond(census);
@@ -137,7 +137,7 @@ std::optional<Report> reportFrom(int descriptor, double limitSeconds)
 std::string deathOf(int status, const std::string &functions)
 {
     if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
-        return "it never came back from " + functions;
+        return "it never returned from " + functions;
     if (WIFSIGNALED(status))
         return std::string("ended by ") + strsignal(WTERMSIG(status));
     return "ended with status " + std::to_string(WEXITSTATUS(status));

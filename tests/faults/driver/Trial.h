@@ -14,7 +14,7 @@ struct Trial
 {
     const OperationKind &kind;
     std::optional<Fault> fault = {};
-    /// Run in the child, before anything is made ready and when the operation is over.
+    /// Run in the child, before any preparation and after the operation.
     std::function<void()> before = {};
     std::function<void()> after = {};
     /// Run in the parent once the child has started.
@@ -27,8 +27,8 @@ struct Trial
         std::optional<std::string> problem;
     };
 
-    /// Everything is counted, and only what `fault` says fails. Crashes and waits without an end
-    /// are problems too.
+    /// Counts every call and makes only those of `fault` fail. Crashes and endless waits are
+    /// problems too.
     [[nodiscard]] Verdict run(const std::filesystem::path &workFolder) const;
 };
 

@@ -1,12 +1,11 @@
-// Lets every call of the core that can fail, fail, and looks at what is left.
+// Makes every call of the core that can fail do so, and checks what is left.
 //
-//   loadwick-faults                       the whole matrix
-//   loadwick-faults --sample SEED         a part of it, the same for the same seed
-//   loadwick-faults --operation NAME      one operation
-//   loadwick-faults --call NAME           one kind of call (both: that call in that operation)
-//   loadwick-faults --conditions          every operation where the world around it is odd
-//   loadwick-faults --record-in FOLDER    one scan; what became of the history there
-//   loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,once|always|burst
+// loadwick-faults                       the whole matrix loadwick-faults --sample SEED         a
+// part of it, the same for the same seed loadwick-faults --operation NAME      one operation
+// loadwick-faults --call NAME           one kind of call (both: that call in that operation)
+// loadwick-faults --conditions          every operation under adverse conditions loadwick-faults
+// --record-in FOLDER    one scan; what became of the history there loadwick-faults --replay
+// OPERATION,CALL,ERRNO,NUMBER,once|always|burst
 
 #include <chrono>
 #include <cstdlib>
@@ -32,8 +31,8 @@ namespace {
 
 using Faults::Matrix;
 
-/// A thousand homes are made and removed: in memory, where programs may be run from it, that takes
-/// a third of the time.
+/// Creating and removing a thousand homes takes a third of the time in memory, if programs may run
+/// from there.
 void preferMemoryForFiles()
 {
     struct statvfs memory = {};

@@ -12,7 +12,7 @@ namespace Faults {
 
 namespace {
 
-// Threads of the program come here at any time; the plan changes only while none of them works.
+// Called from any thread at any time; the plan changes only while none of them is working.
 Plan thePlan;
 std::atomic<bool> isArmed = false;
 std::array<std::atomic<long>, callKinds> matched;

@@ -11,7 +11,7 @@ namespace Faults {
 [[nodiscard]] bool fails(Call call, const char *path) noexcept;
 [[nodiscard]] bool fails(Call call, int descriptor) noexcept;
 
-/// The function that ours stands in front of.
+/// The function that the shim interposes on.
 template<typename Function>
 [[nodiscard]] Function *behind(Function & /*ours*/, const char *name) noexcept
 {

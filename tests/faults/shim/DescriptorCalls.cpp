@@ -35,7 +35,7 @@ off_t lseek(int descriptor, off_t offset, int whence) noexcept
     return fails(Call::lseek, descriptor) ? -1 : next(descriptor, offset, whence);
 }
 
-// A close that fails has closed all the same.
+// Even a failing close closes the descriptor.
 int close(int descriptor)
 {
     static auto *const next = behind(close, "close");

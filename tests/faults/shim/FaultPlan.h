@@ -3,8 +3,8 @@
 #include <array>
 #include <cstddef>
 
-/// What the preloaded library is told and what it tells: the only words between it and the program
-/// whose calls it lets fail. Test-only.
+/// What the preloaded library is told and what it reports: its only interface to the program whose
+/// calls it makes fail. Test-only.
 namespace Faults {
 
 /// A kind of call. Variants of one call (`open` and `openat`, `malloc` and `calloc`) are one kind.
@@ -46,15 +46,14 @@ enum class Call
 
 constexpr std::size_t callKinds = static_cast<std::size_t>(Call::malloc) + 1;
 
-/// Which calls fail: of those of one kind, `count` in a row, beginning with the one that is the
-/// `first` (from 1).
+/// Which calls fail: `count` consecutive calls of one kind, from the `first` on (counted from 1).
 struct Plan
 {
     Call call = Call::open;
     int errorNumber = 0; ///< 0 counts only
     long first = 1;
     long count = 1;
-    bool inBackgroundOnly = false; ///< spares the thread that the program began with
+    bool inBackgroundOnly = false; ///< spares the main thread
     std::array<char, 512> path{};  ///< only calls on paths that begin so; empty for all
 };
 
@@ -68,12 +67,12 @@ struct Tally
 
 extern "C" {
 
-/// Begins to count and to let fail. Calls in threads of before are counted as well.
+/// Starts counting and failing calls, those of existing threads included.
 void loadwickArmFaults(const Faults::Plan *plan);
 
-/// Ends that; what happened since.
+/// Stops; returns what happened since the start.
 void loadwickDisarmFaults(Faults::Tally *tally);
 
-/// Moves the clock of the wall by so many seconds, from now on, for this process.
+/// Shifts the wall clock by that many seconds, for this process only.
 void loadwickShiftClock(long seconds);
 }

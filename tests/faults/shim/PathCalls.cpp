@@ -17,7 +17,7 @@ using Faults::fails;
 
 namespace {
 
-/// A path that begins at a folder's descriptor belongs where the folder does.
+/// A path relative to a folder's descriptor counts as being on that folder's path.
 bool failsAt(Call call, int folder, const char *path) noexcept
 {
     return folder == AT_FDCWD || path[0] == '/' ? fails(call, path) : fails(call, folder);

@@ -23,8 +23,8 @@ namespace {
 
 std::atomic<long> clockShift = 0; // seconds
 
-// Found at the start, not at the first call: two threads that find a function at the same time wait
-// for each other by this very call.
+// Resolved at start-up, not at the first call: two threads resolving a function at the same time
+// wait for each other by this very call.
 auto *const nextSyscall = behind(syscall, "syscall");
 
 } // namespace

@@ -1,5 +1,5 @@
-// Writes the coverage counts also where a program ends without its exit handlers: when it aborts in
-// a death test, and when a forked child ends with _exit.
+// Also writes the coverage counts of a program that ends without its exit handlers: one that aborts
+// in a death test, or a forked child that calls _exit.
 #include <csignal>
 
 #include <sys/resource.h>

@@ -65,7 +65,7 @@ int trapTermination(const Arguments &arguments)
     liveOn();
 }
 
-// Leaves a process behind that holds both streams and prints once more before it ends.
+// Leaves a process behind that holds both streams and prints again before it ends.
 int leaveGrandchild(const Arguments &arguments)
 {
     say("early");
@@ -93,7 +93,7 @@ int leaveDaemon(const Arguments &arguments)
     return 0;
 }
 
-// Leaves a process behind in its group that holds no stream, and makes a file if it may live on.
+// Leaves a process behind in its group that holds no stream, and creates a file if it survives.
 int leaveQuietGrandchild(const Arguments &arguments)
 {
     if (fork() == 0) {
@@ -130,7 +130,7 @@ int closeOutput(const Arguments &)
     liveOn();
 }
 
-// Has a tracer that holds it in the middle of its death, so that even SIGKILL does not end it.
+// Has a tracer that holds it while it is dying, so that even SIGKILL does not end it.
 int surviveKill(const Arguments &arguments)
 {
     int attached[2];
