@@ -1,6 +1,6 @@
 # Tests that drive a real window from another process: tests/endtoend/<what>_test.py, each with an X
-# server and a session bus of its own. CTest "endtoend/<what>", labelled "endtoend" and "app".
-# The system's own interpreter: the accessibility bindings are packages of that one.
+# server and a session bus of its own. CTest "endtoend/<what>", labelled "endtoend" and "app". The
+# system's own interpreter, which has the accessibility bindings.
 find_program(LOADWICK_SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
 
 # Prints what another program would paste.

@@ -17,14 +17,14 @@ Found = TypeVar("Found")
 
 
 def xdotool(*arguments: str) -> str:
-    """What xdotool answers."""
+    """xdotool's output."""
     return subprocess.run(
         ["xdotool", *arguments], check=True, capture_output=True, text=True, timeout=LIMIT_SECONDS
     ).stdout
 
 
 def has_active_window() -> bool:
-    """Whether the display has a window that keys go to."""
+    """Whether a window of the display has the keyboard focus."""
     command = ["xdotool", "getactivewindow"]
     return subprocess.run(command, check=False, capture_output=True).returncode == 0
 
@@ -49,7 +49,7 @@ class AccessibleTree:
 
         def look_while_running() -> Optional[Found]:
             if not is_running(self._process):
-                raise WaitedInVain(f"the program ended while {what} was waited for")
+                raise WaitedInVain(f"the program ended while waiting for {what}")
             return unless_gone(look, None)
 
         try:
@@ -83,14 +83,14 @@ class AccessibleTree:
                 yield from self._below(child)
 
     def items(self) -> Iterator[Any]:
-        """All accessible objects that show, in tree order, as they are now."""
+        """All visible accessible objects, in tree order, as they are now."""
         self._root.clear_cache()
         for item in self._below(self._root):
             if unless_gone(lambda: is_showing(item), False):
                 yield item
 
     def find(self, name: str, role: str = "") -> Optional[Any]:
-        """The first object that shows with this name and, if given, this role."""
+        """The first visible object with this name and, if given, this role."""
         for item in self.items():
             if unless_gone(lambda: text_of(item) == name or item.get_name() == name, False):
                 if not role or unless_gone(item.get_role_name, "") == role:
@@ -98,22 +98,22 @@ class AccessibleTree:
         return None
 
     def wait_for(self, name: str, role: str = "") -> Any:
-        """The object of this name, once it shows."""
+        """The object of this name, once it is visible."""
         return self._until(
             f"{role or 'something'} that says {name!r}", lambda: self.find(name, role)
         )
 
     def wait_until_gone(self, name: str) -> None:
-        """Returns once nothing that shows has this name."""
+        """Returns once no visible object has this name."""
         self._until(f"the end of {name!r}", lambda: self.find(name) is None)
 
     def focused(self) -> Optional[Any]:
-        """The object that has the keyboard: the innermost, where several say so."""
+        """The focused object: the innermost, if several claim the focus."""
         found = [item for item in self.items() if unless_gone(lambda: is_focused(item), False)]
         return found[-1] if found else None
 
     def wait_until_focused(self, name: str) -> None:
-        """Returns once the object of this name has the keyboard."""
+        """Returns once the object of this name is focused."""
 
         def has_keyboard() -> bool:
             item = self.focused()
@@ -122,7 +122,7 @@ class AccessibleTree:
         self._until(f"the keyboard on {name!r}", has_keyboard)
 
     def texts(self) -> list[str]:
-        """The words of everything that shows."""
+        """The texts of all visible objects."""
         return [unless_gone(lambda: text_of(item), "") for item in self.items()]
 
     def press(self, name: str) -> None:
@@ -147,14 +147,14 @@ class AccessibleTree:
         xdotool("key", keys)
 
     def type(self, text: str) -> None:
-        """Types the text with real keys into what has the keyboard, once the window is active."""
+        """Types the text with real keys into the focused object, once the window is active."""
         self._until("the active window", self._is_active)
         xdotool("type", "--delay", "1", text)
 
     def resize(self, width: int, height: int) -> None:
         """Gives the program's window this size, once it is active."""
         self._until("the active window", self._is_active)
-        # The display server hears of it later than the program.
+        # The display server learns of it later than the program.
         until("the display's active window", has_active_window)
         xdotool("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
@@ -194,7 +194,7 @@ def is_in_window(item: Any) -> bool:
 
 
 def is_focused(item: Any) -> bool:
-    """Whether keys go to the object."""
+    """Whether the object has the keyboard focus."""
     return bool(item.get_state_set().contains(Atspi.StateType.FOCUSED))
 
 

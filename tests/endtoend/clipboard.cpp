@@ -1,4 +1,4 @@
-// Prints the text on the display's clipboard, as another program would paste it. Ends with 1 when
+// Prints the text on the display's clipboard, as another program would paste it. Exits with 1 when
 // there is none.
 #include <QClipboard>
 #include <QGuiApplication>

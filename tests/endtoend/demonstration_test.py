@@ -29,7 +29,7 @@ def size_of(picture: Path) -> tuple[int, int]:
 
 
 class DemonstrationTest(unittest.TestCase):
-    """Started by somebody who has a `claude` of their own in every folder that is searched."""
+    """Started by a user with a `claude` of their own in every searched folder."""
 
     def setUp(self) -> None:
         self.machine = Path(self.enterContext(tempfile.TemporaryDirectory()))
@@ -57,7 +57,7 @@ class DemonstrationTest(unittest.TestCase):
         }
 
     def assert_untouched(self) -> None:
-        """Nothing of that person's was started or written, and the throw-away home is gone."""
+        """Nothing of that user was started or written, and the throw-away home is gone."""
         self.assertFalse((self.machine / "started").exists())
         self.assertEqual(os.listdir(self.machine / "home" / ".claude"), [])
         self.assertFalse((self.machine / "home" / "data").exists())

@@ -59,7 +59,7 @@ class EndToEndCase(unittest.TestCase):
         return program
 
     def choose(self, program: Program, folder: bytes) -> None:
-        """Chooses a folder and waits until the window has taken it."""
+        """Chooses a folder and waits until the window shows it."""
         self.home.will_choose(folder)
         program.window.press(CHOOSE)
         program.window.wait_for(SCAN, "push button")

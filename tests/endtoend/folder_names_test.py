@@ -1,4 +1,4 @@
-"""Folders whose names are no harmless words: chosen, scanned and recorded without harm."""
+"""Folders with hostile names: chosen, scanned and recorded without harm."""
 
 from __future__ import annotations
 
@@ -8,7 +8,7 @@ from endtoend_case import SCAN, EndToEndCase, main
 
 
 class FolderNamesTest(EndToEndCase):
-    """What a folder may be called and the window must bear."""
+    """Legal folder names that the window must survive."""
 
     def assert_scanned(self, name: bytes, shown: str) -> None:
         """Scans a folder of this name and expects it, as text, on the screen and on the disk."""

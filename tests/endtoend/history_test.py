@@ -14,7 +14,7 @@ NOTHING_RECORDED = (
 
 
 class HistoryTest(EndToEndCase):
-    """A window high enough to hold each page whole."""
+    """A window tall enough to show each whole page."""
 
     display_height = 3000
 
@@ -24,7 +24,7 @@ class HistoryTest(EndToEndCase):
         return program
 
     def scan(self, program: Program, folder: bytes, tokens: int) -> None:
-        """One whole scan of a folder whose session uses so many tokens."""
+        """One whole scan of a folder whose session uses this many tokens."""
         count = len(self.home.scans())
         self.home.play("transcript", input=0, cache_creation=tokens, cache_read=0)
         self.choose(program, folder)

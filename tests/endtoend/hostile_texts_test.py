@@ -69,8 +69,8 @@ class HostileTextsTest(TracedCase):
     def assert_loaded_nothing(self, program: Program) -> None:
         """Expects that the bait was not opened and no network was used."""
         trace = self.close_traced(program)
-        self.assertTrue(REPOSITORY in trace, "the trace does not even hold what was opened")
-        self.assertFalse(self.bait.name in trace, "the picture was looked for")
+        self.assertTrue(REPOSITORY in trace, "the trace does not record opened files")
+        self.assertFalse(self.bait.name in trace, "the picture was opened")
         self.assertEqual(set(re.findall(r"\bsocket\((\w+),", trace)), {"AF_UNIX"})
 
     def repository(self) -> bytes:

@@ -1,4 +1,4 @@
-"""A window that nothing happens to: it draws nothing, and the system may let it sleep."""
+"""An idle window: it draws nothing and hardly wakes up."""
 
 from __future__ import annotations
 
@@ -12,12 +12,12 @@ from waiting import until
 
 IDLE_SECONDS = 10.0
 MOST_WAKES = 2
-REST_SECONDS = 2.0  # between two looks at a window that comes to rest
+REST_SECONDS = 2.0  # between two checks whether a window is at rest
 FRAME = b"renderloop"  # in each line that the toolkit logs for a frame
 
 
 class WatchedProgram(Program):
-    """A program that says of each frame that it draws one."""
+    """A program that logs each frame it draws."""
 
     def __init__(self, home: Path, name: str) -> None:
         self.name = name
@@ -53,7 +53,7 @@ class IdleTest(EndToEndCase):
         return program
 
     def open_scanned(self, name: str, outcome: str, sign: str) -> WatchedProgram:
-        """Opens a window and scans with the given outcome, until it shows the sign of it."""
+        """Opens a window and scans with the given outcome, until the window shows it."""
         self.home.play(outcome)
         program = self.open_watched(name)
         self.choose(program, self.repository)
@@ -74,14 +74,14 @@ class IdleTest(EndToEndCase):
                 self.assertLessEqual(program.wakes() - wakes, MOST_WAKES)
 
     def open_read(self) -> WatchedProgram:
-        """Opens a window with a result and puts the keyboard into one of its texts."""
+        """Opens a window with a result and focuses one of its texts."""
         program = self.open_scanned("a text with the keyboard", "transcript", "Scan complete")
         program.window.key("Tab")
         until("the keyboard in a text", lambda: self.focused_role(program) == "text")
         return program
 
     def focused_role(self, program: WatchedProgram) -> str:
-        """What kind of object has the keyboard."""
+        """The role of the focused object."""
         focused = program.window.focused()
         return str(focused.get_role_name()) if focused else ""
 

@@ -31,7 +31,7 @@ class Note:
 
 
 class Notifications:
-    """Records what programs show and take back, while it is entered."""
+    """Records what programs show and withdraw, while entered."""
 
     def __init__(self) -> None:
         self.notes: list[Note] = []

@@ -22,7 +22,7 @@ CONTROLS = {
 
 
 class OverviewReadingTest(EndToEndCase):
-    """A report whose lists are all short enough to be found whole."""
+    """A report whose lists are all short enough to be on the bus whole."""
 
     display_height = 4000
 
@@ -137,7 +137,7 @@ class OverviewReadingTest(EndToEndCase):
             row = until(f"a row after {row!r}", lambda before=row: self.row_other_than(program, before))
 
     def row_other_than(self, program: Program, before: str) -> str:
-        """What the row with the keyboard says, unless that is what the one before said."""
+        """The focused row's text, unless it equals the previous row's."""
         stop = program.window.focused()
         text = text_of(stop) if stop and is_in_window(stop) else ""
         return text if text != before else ""
@@ -153,12 +153,12 @@ class OverviewReadingTest(EndToEndCase):
         self.fail(f"Tab does not lead to {part!r}")
 
     def press_to(self, program: Program, key: str, part: str) -> None:
-        """Presses the key once and expects it to lead to what says that."""
+        """Presses the key once and expects it to focus an object with that text."""
         program.window.key(key)
         until(f"{part!r} in sight", lambda: self.is_at(program, part))
 
     def is_at(self, program: Program, part: str) -> bool:
-        """Whether the keyboard is at what says that, and that in sight."""
+        """Whether an object with that text is focused and in view."""
         stop = program.window.focused()
         return bool(stop and part in text_of(stop) and is_in_window(stop))
 
@@ -179,24 +179,24 @@ class OverviewReadingTest(EndToEndCase):
             path = self.path_of(stop)
             if paths and path == paths[0]:
                 return stops
-            self.assertNotIn(path, paths, f"the keyboard is caught at {text_of(stop)!r}")
+            self.assertNotIn(path, paths, f"the keyboard is trapped at {text_of(stop)!r}")
             until(f"the sight of {text_of(stop)!r}", lambda: is_in_window(stop))
             stops.append(stop)
             paths.append(path)
 
     def step(self, program: Program, key: str, before: str) -> Any:
-        """Presses the key; gives the stop after the one before."""
+        """Presses the key; returns the next stop."""
         program.window.key(key)
         return until(f"another stop after {before!r}", lambda: self.stop_other_than(program, before))
 
     def stop_other_than(self, program: Program, path: str) -> Any:
-        """What has the keyboard, unless it is still the same."""
+        """The focused object, unless it is still the same."""
         stop = program.window.focused()
         return stop if stop and self.path_of(stop) != path else None
 
     @staticmethod
     def path_of(item: Any) -> str:
-        """The indices that lead to an object from the window."""
+        """The indices that lead from the window to an object."""
         indices = []
         while item is not None and item.get_role_name() != "application":
             indices.append(item.get_index_in_parent())

@@ -88,7 +88,7 @@ REPORT = (
     "Full report",
     "A factual, copyable summary of this one Claude Code startup-context scan.",
 )
-PAGES = ("Overview", "Trends", "Compare")  # one stop for all, walked by the arrow keys
+PAGES = ("Overview", "Trends", "Compare")  # one stop for all, navigated by the arrow keys
 TAB_ORDER = (
     CHOOSE,
     SCAN,

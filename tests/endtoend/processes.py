@@ -10,12 +10,12 @@ SET_PARENT_DEATH_SIGNAL = 1  # of prctl
 
 
 def end_with_parent() -> None:
-    """From now on this process is killed when its parent ends, however that comes about."""
+    """From now on this process is killed when its parent ends, for whatever reason."""
     ctypes.CDLL(None).prctl(SET_PARENT_DEATH_SIGNAL, signal.SIGKILL)
 
 
 def is_running(process: int) -> bool:
-    """Whether a process of this id still does something (one that only waits to be reaped not)."""
+    """Whether a process of this id is running (a zombie is not)."""
     try:
         status = Path(f"/proc/{process}/stat").read_text(encoding="ascii", errors="replace")
     except (FileNotFoundError, ProcessLookupError):
@@ -30,7 +30,7 @@ def child_of(process: int) -> int:
 
 
 def wakes_of(process: int) -> int:
-    """How often the threads of a process have gone to sleep of themselves, and so were woken."""
+    """How often the threads of a process have slept voluntarily, and so were woken."""
     count = 0
     for status in Path(f"/proc/{process}/task").glob("*/status"):
         for line in status.read_text().splitlines():

@@ -34,13 +34,13 @@ class Program:
             raise
 
     def kill(self) -> None:
-        """Ends the program without asking it, if it still runs."""
+        """Kills the program if it is still running."""
         if self.process.poll() is None:
             self.process.kill()
         self.process.wait(LIMIT_SECONDS)
 
     def close(self) -> int:
-        """Closes the window as the user does; gives the exit status."""
+        """Closes the window as the user does; returns the exit status."""
         self.window.key("alt+F4")
         return self.process.wait(LIMIT_SECONDS)
 

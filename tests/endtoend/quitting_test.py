@@ -18,7 +18,7 @@ class QuittingTest(EndToEndCase):
     """Signals and a closed window, with sessions that obey signals and sessions that ignore them."""
 
     def scanning(self, outcome: str) -> tuple[Program, int]:
-        """A program in the midst of a scan, and its session's process id."""
+        """A program in the middle of a scan, and its session's process id."""
         self.home.play(outcome)
         program = self.open()
         self.choose(program, self.home.make_repository("repository"))
@@ -52,7 +52,7 @@ class QuittingTest(EndToEndCase):
         start = time.monotonic()
         program.close()
         until("the session's end", lambda: not is_running(session))
-        # One second and what it takes to find the window and send it the wish.
+        # One second, plus the time to find the window and ask it to close.
         self.assertLess(time.monotonic() - start, LIMIT_SECONDS + 1.0)
 
     def test_an_idle_program_ends_at_once(self) -> None:

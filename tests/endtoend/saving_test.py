@@ -40,7 +40,7 @@ class SavingTest(EndToEndCase):
         window.wait_for(f"Saved as {file}.")
         table = file.read_bytes().split(b"\r\n")
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
-        self.assertEqual(len(table), 4)  # two scans, and nothing after the last line's end
+        self.assertEqual(len(table), 4)  # two scans, and nothing after the last line break
 
     def test_what_is_typed_takes_the_place_of_the_suggested_name(self) -> None:
         window = self.dialog("Save Data…")

@@ -16,7 +16,7 @@ STARTED, ENDED, FAILED = "Scanning", "Scan complete", "Scan failed"
 
 
 class NameChanges:
-    """The new names of one program's objects, in the order in which the bus told them."""
+    """The new names of one program's objects, in the order the bus reported them."""
 
     def __init__(self, process: int) -> None:
         self._process = process
@@ -35,19 +35,19 @@ class NameChanges:
             self.names.append(str(unless_gone(event.source.get_name, "")))
 
     def _hear(self) -> None:
-        """Processes the events that have arrived; without a loop nothing does."""
+        """Processes the pending events, since no event loop runs."""
         context = GLib.MainContext.default()
         while context.iteration(False):
             pass
 
     def wait_for(self, name: str) -> None:
-        """Returns once something was given this name."""
+        """Returns once an object was given this name."""
 
         def heard() -> bool:
             self._hear()
             return name in self.names
 
-        until(f"the news that something is called {name!r} now; heard were {self.names}", heard)
+        until(f"the announcement of {name!r}; announced were {self.names}", heard)
 
 
 class ScanAnnouncementsTest(EndToEndCase):

@@ -1,4 +1,4 @@
-"""A second start over the same history: the window that is there comes forward."""
+"""A second start over the same history: the existing window comes forward."""
 
 from __future__ import annotations
 

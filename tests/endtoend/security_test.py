@@ -23,7 +23,7 @@ CALLS = "socket,socketpair,connect,bind,listen,sendto,sendmsg,execve"
 
 
 class Trace:
-    """The system calls of a program and of all that it started."""
+    """The system calls of a program and all its descendants."""
 
     def __init__(self, log: str) -> None:
         self._lines = log.splitlines()
@@ -38,7 +38,7 @@ class Trace:
         return {kind for line in self._lines for kind in re.findall(r"sa_family=(\w+)", line)}
 
     def started(self, program: str) -> list[str]:
-        """The calls that started a program whose path ends so, environment included."""
+        """The calls that started a program whose path has this ending, environment included."""
         return [line for line in self._lines if re.search(rf'execve\("[^"]*{program}"', line)]
 
 

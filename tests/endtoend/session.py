@@ -1,4 +1,4 @@
-"""A desktop session for one script alone: a session bus, a folder for sockets, and X servers."""
+"""A private desktop session for one script: a session bus, a folder for sockets, and X servers."""
 
 from __future__ import annotations
 

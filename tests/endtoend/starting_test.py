@@ -13,7 +13,7 @@ TITLE_BAR = 40  # what the program leaves to the window manager
 
 
 class SmallScreenTest(EndToEndCase):
-    """On a screen lower than the window is used to be."""
+    """On a screen smaller than the usual window."""
 
     display_height = 720
 

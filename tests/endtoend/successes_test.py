@@ -17,12 +17,12 @@ SENTENCE = (
 
 
 class SuccessesTest(EndToEndCase):
-    """The road from a folder to a recorded report."""
+    """The path from a folder to a recorded report."""
 
     display_height = 4000
 
     def scan(self, program: Program) -> None:
-        """Scans the chosen folder to its good end."""
+        """Scans the chosen folder successfully."""
         program.window.press(SCAN)
         program.window.wait_for("Scan complete")
 

@@ -38,7 +38,7 @@ class ThrowAwayHome:
 
     @property
     def executable(self) -> Path:
-        """Where the program looks for `claude` first."""
+        """The first path at which the program looks for `claude`."""
         return self.path / ".local" / "bin" / "claude"
 
     @property
@@ -57,15 +57,15 @@ class ThrowAwayHome:
         return self.path / ".claude" / "projects"
 
     def forget_preferences(self) -> None:
-        """Makes the next start a first one."""
+        """Makes the next start a first launch."""
         shutil.rmtree(self.preferences.parent.parent)
 
     def install_stand_in(self) -> None:
-        """Puts the stand-in where the ordinary search finds it."""
+        """Installs the stand-in where the ordinary search finds it."""
         shutil.copy(STAND_IN, self.executable)
 
     def play(self, outcome: str, **settings: object) -> None:
-        """Decides what every session does that starts from now on."""
+        """Sets the outcome of every session that starts from now on."""
         lines = [f"outcome={outcome}", *(f"{key}={value}" for key, value in settings.items())]
         (self._share / "scenario").write_text("\n".join(lines) + "\n", encoding="utf-8")
 
@@ -83,7 +83,7 @@ class ThrowAwayHome:
         return [int(line) for line in file.read_text().split()] if file.exists() else []
 
     def make_repository(self, name: str | bytes, text: str = "Be brief.\n") -> bytes:
-        """A folder with an instruction file in it; gives its path."""
+        """Creates a folder with an instruction file; returns its path."""
         folder = os.path.join(os.fsencode(self.path), os.fsencode(name))
         os.makedirs(folder)
         with open(os.path.join(folder, b"CLAUDE.md"), "w", encoding="utf-8") as file:

@@ -11,7 +11,7 @@ from waiting import until
 
 
 class TracedCase(EndToEndCase):
-    """Opens the window with a log of the system calls that it and its children make."""
+    """Opens the window and logs the system calls that it and its children make."""
 
     def setUp(self) -> None:
         super().setUp()
@@ -22,14 +22,14 @@ class TracedCase(EndToEndCase):
         """Opens the window; the named calls are logged."""
         tracer = ["strace", "-D", "-f", "--seccomp-bpf", "-q", "-v", "-s", "65536"]
         tracer += ["-e", f"trace={calls}", "-e", "signal=none", "-o", str(self.log)]
-        # The leak checker is a tracer itself, and a process can have only one.
+        # The leak checker is itself a tracer, and a process can have only one.
         environment["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
         program = self.start(tracer=tracer, environment=environment)
         program.window.wait_for(CHOOSE, "push button")
         return program
 
     def close_traced(self, program: Program) -> str:
-        """Closes the window; gives the log. The tracer outlives the program."""
+        """Closes the window; returns the log. The tracer outlives the program."""
         self.assertEqual(program.close(), 0)
         end = f"{program.process.pid} +++ exited with 0 +++"
         until("the trace's end", lambda: end in re.sub(" +", " ", self.read_log()))

@@ -1,4 +1,4 @@
-"""Waiting that has an end and says what it waited for."""
+"""Bounded waiting that names what it waited for."""
 
 from __future__ import annotations
 
@@ -7,16 +7,16 @@ from typing import Callable, Optional, TypeVar
 
 Found = TypeVar("Found")
 
-LIMIT_SECONDS = 30.0  # of every wait; far above what a loaded machine with sanitizers needs
+LIMIT_SECONDS = 30.0  # of every wait; far more than a loaded machine with sanitizers needs
 STEP_SECONDS = 0.02
 
 
 class WaitedInVain(AssertionError):
-    """Something that was waited for did not come about in time."""
+    """A wait timed out."""
 
 
 def until(what: str, look: Callable[[], Optional[Found]], limit: float = LIMIT_SECONDS) -> Found:
-    """The first true answer of `look`, asked again and again; `WaitedInVain` after `limit`."""
+    """Polls `look` and returns its first true result; raises `WaitedInVain` after `limit`."""
     end = time.monotonic() + limit
     while True:
         answer = look()
