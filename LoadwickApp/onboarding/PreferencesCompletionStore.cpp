@@ -18,8 +18,7 @@ constexpr auto key = "hasCompletedOnboarding";
 bool canBePreferences(const fs::path &file)
 {
     std::error_code failure;
-    const std::uintmax_t byteCount =
-        fs::file_size(file, failure); // fails unless it is a regular file
+    const std::uintmax_t byteCount = fs::file_size(file, failure); // of regular files only
     return !failure && byteCount <= mostBytes;
 }
 

@@ -35,8 +35,7 @@ QString installedFamily(const QStringList &preferred)
 void prepare()
 {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    // The default renderer has coloured fringes and heavy stems compared with the software
-    // renderer.
+    // The default renderer has coloured fringes and heavier stems than the software renderer.
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     // Emulated GL takes twice the time and memory of the software renderer for the same result.
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND") && !hasGraphicsDevice())
