@@ -112,7 +112,7 @@ char *__wrap_realpath(const char *path, char *resolved)
 }
 }
 
-// The same for two functions of the core, whose names CMakeLists.txt knows.
+// The same for two functions of the core, whose mangled names are in CMakeLists.txt.
 namespace Loadwick {
 
 namespace {

@@ -1,5 +1,5 @@
-// Does one operation of the core and prints, a line each, its outcome, what it asked of the system
-// and the greatest memory that the program held. For developers; see benchmarks/run.
+// Runs one operation of the core and prints, a line each, its outcome, its system calls and the
+// peak memory of the program. For developers; see benchmarks/run.
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
@@ -164,7 +164,7 @@ struct Operation
     std::string_view verb;
     std::string_view usage; ///< its words, as a reader writes them
     std::size_t wordCount;  ///< the fewest that it takes
-    /// Does the work; returns how much it made or found.
+    /// Does the work; returns how much it produced or found.
     std::int64_t (*run)(Words words);
 };
 

@@ -14,7 +14,7 @@ using namespace WindowControl;
 
 namespace {
 
-constexpr int greatestHeight = 16'000; // what a picture viewer still opens
+constexpr int greatestHeight = 16'000; // more than this a picture viewer may not open
 
 /// Long pages build their content over many frames: once they are done, two pictures are equal.
 QImage pictureAtRest(QQuickWindow &window)
@@ -88,7 +88,7 @@ void Camera::takePage(const std::string &name) const
     });
 }
 
-// The window is made so high that nothing of the page is left to scroll.
+// The window is made so tall that the page does not scroll.
 QImage Camera::wholePage(const QQuickItem &viewport) const
 {
     const int height = m_window.height() + static_cast<int>(std::ceil(hiddenHeight(viewport)));

@@ -11,12 +11,12 @@
 
 namespace Loadwick {
 
-/// A folder that pictures are written into, each named on the standard output. The program ends
-/// when one cannot be written.
+/// A folder for pictures, whose names are printed on standard output. The program ends when one
+/// cannot be written.
 class PictureFolder
 {
 public:
-    /// Makes the folder if need be.
+    /// Creates the folder if necessary.
     explicit PictureFolder(std::filesystem::path path);
 
     /// Writes "<name>.png".
@@ -36,8 +36,8 @@ public:
     /// Writes "<name>-<light|dark>-<width>x<height>.png" for each look, of the window as it is.
     void take(const std::string &name) const;
 
-    /// The same of a page at rest, and "...-whole.png" of the whole page where it scrolls: of its
-    /// first 16,000 pixels where it is longer.
+    /// The same of a page at rest, and "...-whole.png" of the whole page if it scrolls, cropped to
+    /// its first 16,000 pixels.
     void takePage(const std::string &name) const;
 
 private:

@@ -28,7 +28,7 @@ public:
 
 private:
     std::function<std::filesystem::path()> m_answer;
-    QObject m_interface; ///< no answer comes once this object is gone
+    QObject m_interface; ///< no answer arrives once this object is gone
 };
 
 } // namespace

@@ -15,8 +15,8 @@ namespace Loadwick::ConfinedWindow {
 [[nodiscard]] LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home,
                                                           ProbeRunner::Settings settings);
 
-/// A fake folder dialog, which chooses the folder that `answer` returns when it opens: also folders
-/// that no dialog can name, because their names are not UTF-8.
+/// A fake folder dialog, which chooses the folder that `answer` returns when it opens, even one
+/// that no dialog can name because it is not UTF-8.
 [[nodiscard]] std::unique_ptr<FolderChooser>
 givenFolder(std::function<std::filesystem::path()> answer);
 

@@ -9,8 +9,8 @@
 namespace Loadwick {
 
 /// Measures what each frame of a window costs: the processor time of the interface thread from the
-/// end of one frame to the end of the next, so animations, bindings, layout and drawing together.
-/// Other programs on the machine do not count. Meant for a renderer that draws on that thread.
+/// end of one frame to the end of the next, including animations, bindings, layout and drawing, but
+/// no other programs. Meant for a renderer that draws on that thread.
 class FrameMeter
 {
 public:
@@ -29,9 +29,9 @@ public:
     /// The frames since the last restart, in order.
     [[nodiscard]] const std::vector<Milliseconds> &frames() const noexcept { return m_frames; }
 
-    /// Runs the events until a frame is drawn.
+    /// Processes events until a frame is drawn.
     void waitForFrame() const;
-    /// Runs the events for that long.
+    /// Processes events for that long.
     static void run(Milliseconds time);
 
 private:

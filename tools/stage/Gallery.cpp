@@ -68,7 +68,7 @@ public:
         m_window->show();
     }
 
-    /// What the window shows once nothing arrives any more.
+    /// The window once all entrances have ended.
     [[nodiscard]] QImage picture()
     {
         m_window->show();

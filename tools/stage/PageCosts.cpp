@@ -27,7 +27,7 @@ constexpr double wheelStep = 240; // pixels in a frame: 20 pages in a second
 constexpr int hoverScreens = 3;   // the charts of every page are within them
 constexpr int hoverSweeps = 3;    // over a screen, from side to side
 constexpr int hoverSteps = 20;    // in a sweep
-// For an everyday build, which runs the pages uncompiled; a release should need half of it.
+// For an everyday build, which interprets the pages; a release should need half of it.
 constexpr Milliseconds firstLimit{200};
 constexpr Milliseconds frameLimit{16.7}; // 60 frames in a second
 

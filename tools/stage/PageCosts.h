@@ -18,10 +18,10 @@ public:
     /// The scene's page, entered from another one, `rounds` times.
     [[nodiscard]] static PageCosts measured(Stage &stage, const Scene &scene, int rounds);
 
-    /// Adds those of another page.
+    /// Adds the costs of another page.
     void add(const PageCosts &other);
 
-    /// Whether the page appears at once and nothing on it stutters.
+    /// Whether the page appears without delay and nothing on it stutters.
     [[nodiscard]] bool areLow() const;
 
     /// One line each on the standard output.

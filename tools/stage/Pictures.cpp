@@ -69,7 +69,7 @@ void takeFirstLaunch(const std::string &folder)
     for (int step = 0; step < launch.onboarding().stepCount(); ++step) {
         camera.takePage(std::string(FirstLaunch::name) + "-" + std::to_string(step + 1));
         launch.onboarding().advance();
-        WindowControl::settle(); // it fades for as long as one settling
+        WindowControl::settle(); // it fades in within one settling time
     }
 }
 

@@ -14,8 +14,7 @@ using namespace WindowControl;
 
 namespace {
 
-/// Collaborators of a window in which nobody scans: all that it could start or read is an empty
-/// home.
+/// Collaborators of a window without scans: everything it could start or read is in an empty home.
 LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home)
 {
     return {.scan = {.probeRunner =

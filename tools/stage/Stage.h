@@ -14,7 +14,7 @@
 
 namespace Loadwick {
 
-/// A page and what it shows.
+/// A page and its data.
 struct Scene
 {
     AppPage page;
@@ -26,7 +26,7 @@ struct Scene
     [[nodiscard]] static Scene ofHistory(AppPage page, std::string subject,
                                          std::vector<RecordedScan> history);
 
-    /// Begins the pictures' names: "overview-heavy".
+    /// The prefix of the pictures' names: "overview-heavy".
     [[nodiscard]] std::string name() const;
 
     /// Whether the name begins with one of the words, or there are none.
@@ -49,11 +49,11 @@ private:
     LoadwickWindow m_loadwick;
 };
 
-/// The program's window on a first launch. Returns from its making when the sheet is open.
+/// The program's window on a first launch. The constructor returns when the sheet is open.
 class FirstLaunch
 {
 public:
-    /// Begins the names of its pictures.
+    /// The prefix of the names of its pictures.
     static constexpr const char *name = "onboarding";
 
     FirstLaunch();

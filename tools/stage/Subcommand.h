@@ -15,7 +15,7 @@ struct Invocation
 };
 
 /// Shows the program on a throw-away home with made-up data: in a window where there is a display,
-/// otherwise as pictures in the folder that is its only word.
+/// otherwise as pictures in the folder given as the only argument.
 int demo(const Invocation &invocation);
 
 /// The program's window over the home that HOME names and the preferences in it, for the end-to-end
@@ -31,7 +31,7 @@ int window(const Invocation &invocation);
 int gallery(const Invocation &invocation);
 
 /// Writes pictures of the pages, filled with sample scans and sample histories, into a folder:
-/// light and dark, at three sizes, all or those whose names begin with one of the further words.
+/// light and dark, at three sizes, all or those whose names begin with one of the other words.
 int pictures(const Invocation &invocation);
 
 /// Writes a picture of each page in every look into a folder: light and dark, with standard and
@@ -43,15 +43,15 @@ int looks(const Invocation &invocation);
 /// selects all pages whose names begin with it. With --check the program fails when a page is slow.
 int frames(const Invocation &invocation);
 
-/// Scans with a stand-in that answers at once and prints one line for each of `[ROUNDS]`, three
-/// times in milliseconds: from Ctrl+R to the first frame of the result; the same session by itself;
-/// and from the result's state to the frame that shows it.
+/// Scans with an instant stand-in and prints one line for each of `[ROUNDS]`, three times in
+/// milliseconds: from Ctrl+R to the first frame of the result; the same session alone; and from the
+/// result's state to the frame that shows it.
 int scans(const Invocation &invocation);
 
 /// Runs `work` with an application object that draws off screen and in software.
 int runOffScreen(const Invocation &invocation, const std::function<int()> &work);
 
-/// Prints the line to the standard error; returns the exit status of a wrong call.
+/// Prints the line to standard error; returns the exit status of a usage error.
 int wrongCall(const std::string &line);
 
 } // namespace Loadwick

@@ -22,7 +22,7 @@ void runEvents()
 {
     QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents,
                                     stepMilliseconds);
-    // Outside a running loop these would stay, and with them every page that was left.
+    // Outside a running loop deferred deletions, and so all pages left, would pile up.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -46,7 +46,7 @@ QAccessibleInterface *findButton(QAccessibleInterface &parent, const QString &na
     return nullptr;
 }
 
-/// The first that is wide enough; lists within the page are further inside.
+/// The first that is wide enough; lists within the page are nested deeper.
 QQuickItem *viewportBelow(const QQuickItem &parent, double leastWidth)
 {
     for (QQuickItem *child : parent.childItems()) {

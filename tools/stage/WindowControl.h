@@ -8,14 +8,14 @@
 
 #include "theme/Appearance.h"
 
-/// What a tool does to a window of the program from outside.
+/// Controls a window of the program from outside.
 namespace Loadwick::WindowControl {
 
 /// Runs the interface thread's events until `isReached` holds. The program ends, with `what` in its
 /// last line, when that takes longer than half a minute.
 void waitUntil(const std::string &what, const std::function<bool()> &isReached);
 
-/// Runs the events until what was just changed has been laid out and drawn.
+/// Processes events until the latest changes are laid out and drawn.
 void settle();
 
 /// The look of everything that the window's engine shows; it lives as long as that engine.
@@ -28,7 +28,7 @@ void settle();
 /// The Flickable in which the visible page scrolls; null when the page does not scroll.
 [[nodiscard]] QQuickItem *pageViewport(const QQuickWindow &window);
 
-/// How many pixels of its content a Flickable has no room for.
+/// The number of pixels by which the content exceeds the Flickable.
 [[nodiscard]] double hiddenHeight(const QQuickItem &viewport);
 
 } // namespace Loadwick::WindowControl

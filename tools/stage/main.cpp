@@ -20,7 +20,7 @@ struct Subcommand
     int (*run)(const Invocation &invocation);
 };
 
-// A release is built without what only developers look at.
+// A release is built without the subcommands for developers.
 constexpr std::array subcommands{
     Subcommand{"demo", "FOLDER", demo},
 #ifdef LOADWICK_WHOLE_STAGE

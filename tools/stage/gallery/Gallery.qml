@@ -7,7 +7,7 @@ import Loadwick
 Rectangle {
     id: gallery
 
-    // One kind of components under its name.
+    // One kind of component under its name.
     component GallerySection: ColumnLayout {
         id: section
 

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Loadwick
 import LoadwickGallery
 
-// What opens above the window. The button opens the real dialog.
+// Everything that opens above the window. The button opens the real dialog.
 RowLayout {
     spacing: AppTheme.wideSpace
 
@@ -37,7 +37,7 @@ RowLayout {
     ColumnLayout {
         spacing: AppTheme.cardSpace
 
-        // As in a menu that is open: marked, under the pointer, gone.
+        // As in an open menu: marked, hovered, missing.
         Rectangle {
             implicitWidth: 260
             implicitHeight: items.implicitHeight + 2 * AppTheme.tightSpace

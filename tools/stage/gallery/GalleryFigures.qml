@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Loadwick
 import LoadwickGallery
 
-// Figures, what draws them, and totals in every band as meter and as score.
+// Figures, the items that draw them, and totals in every band as meter and as score.
 ColumnLayout {
     component Metered: ReportSurface {
         id: card

@@ -7,7 +7,7 @@ import LoadwickGallery
 ColumnLayout {
     id: rows
 
-    // What scrolls the gallery.
+    // The item that scrolls the gallery.
     required property Flickable viewport
 
     spacing: AppTheme.cardSpace
