@@ -36,13 +36,13 @@ class Bench:
         self.count = rounds
 
     def make_data(self) -> None:
-        """Writes the files that are missing."""
+        """Generates the missing files."""
         for what, name, size in DATA:
             subprocess.run([self.tool, "make", what, self.data / name, str(size)], check=True,
                            stdout=subprocess.DEVNULL)
 
     def in_process(self) -> list[Row]:
-        """What runs inside one program with its floor."""
+        """The operations that run in one program with their floors."""
         times: dict[str, list[float]] = {}
         for program in ["bench_core", "bench_spawn"]:
             if (self.programs / program).exists():
@@ -52,7 +52,7 @@ class Bench:
                 if f"{goal['id']}/ours{goal.get('arguments', [''])[0]}" in times]
 
     def processes(self) -> list[Row]:
-        """What runs as a process, beside what one would type instead."""
+        """The operations that run as processes, with equivalent command lines."""
         names = {"measure": self.tool, "data": str(self.data), "session": SESSION}
         times, rows = {}, []
         for goal in GOALS["processes"]:
@@ -65,7 +65,7 @@ class Bench:
         return rows + [Row("capture time of 1 GB", "of 100 MB", growth, 12, 12)]
 
     def peak(self, *words: str) -> float:
-        """The greatest memory of an operation in bytes."""
+        """The peak memory of an operation in bytes."""
         return figures([self.tool, *words])["peak-kib"] * 1024.0
 
     def memory(self) -> list[Row]:
@@ -80,7 +80,7 @@ class Bench:
                     1, 1, " MB")]
 
     def growth(self) -> list[Row]:
-        """What a unit of work costs in a large input, against one in a small; in instructions."""
+        """The instructions per unit of work in a large input, against a small one."""
         nothing = instructions([self.tool, "weights", "0"])
 
         def item(count: int) -> float:
@@ -122,7 +122,7 @@ class Bench:
 
 
 def version(command: str) -> str:
-    """The first version number that a command prints of itself."""
+    """The first version number that a command prints."""
     text = subprocess.run(["sh", "-c", f"{command} 2>&1"], capture_output=True, text=True,
                           check=False).stdout
     found = re.search(r"\d+\.\d+(\.\d+)?", text)
@@ -130,7 +130,7 @@ def version(command: str) -> str:
 
 
 def machine() -> str:
-    """What the figures were taken on."""
+    """The machine and tools that the figures were taken on."""
     text = Path("/proc/cpuinfo").read_text(encoding="utf-8")
     found = re.search(r"model name\s*: (.*)", text)
     tools = ["g++ --version", "find --version", "cat --version", "grep --version", "rg --version",
@@ -148,7 +148,7 @@ def table(rows: list[Row]) -> str:
 
 
 def write_document(text: str) -> None:
-    """Puts the table into the document, between its marks."""
+    """Puts the table between its marks in the document."""
     before, rest = DOCUMENT.read_text(encoding="utf-8").split(MARKS[0])
     after = rest.split(MARKS[1])[1]
     DOCUMENT.write_text(f"{before}{MARKS[0]}\n{text}\n{MARKS[1]}{after}", encoding="utf-8")

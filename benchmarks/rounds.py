@@ -1,4 +1,4 @@
-"""Runs programs in turns, takes their times, and holds them against goals."""
+"""Runs programs in turn, measures their times, and compares them with goals."""
 
 from __future__ import annotations
 
@@ -49,19 +49,19 @@ class Row:
 
 
 def ratios(ours: list[float], floor: list[float], part: float = 1.0) -> list[float]:
-    """Ours over the floor, round by round."""
+    """The ratios of our times to the floor, round by round."""
     return [mine / other / part for mine, other in zip(ours, floor)]
 
 
 def output_of(command: list[str], environment: Optional[dict[str, str]] = None) -> str:
-    """What a program prints; it must succeed."""
+    """The output of a program, which must succeed."""
     return subprocess.run(command, capture_output=True, check=True, text=True,
                           env=os.environ | (environment or {})).stdout
 
 
 def seconds_of(command: str, is_wall: bool) -> float:
     """The time of a command line whose output is discarded: the processor's, of all that it starts,
-    or the wall clock's. Other programs on the processor do not count towards the former."""
+    or the wall clock's. Other programs do not affect the former."""
     used = resource.getrusage(resource.RUSAGE_CHILDREN)
     start = time.perf_counter()
     subprocess.run(["sh", "-c", command], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -73,13 +73,13 @@ def seconds_of(command: str, is_wall: bool) -> float:
 
 def pair_times(ours: str, floor: str, count: int,
                is_wall: bool) -> tuple[list[float], list[float]]:
-    """The times of two commands in turns; the first turn warms up and does not count."""
+    """The times of two commands in turn; the first turn is a warm-up."""
     pairs = [(seconds_of(ours, is_wall), seconds_of(floor, is_wall)) for _ in range(count + 1)][1:]
     return [pair[0] for pair in pairs], [pair[1] for pair in pairs]
 
 
 def figures(command: list[str]) -> dict[str, int]:
-    """What the measuring tool prints."""
+    """The output of the measuring tool."""
     return {name: int(value) for name, value in map(str.split, output_of(command).splitlines())}
 
 
@@ -101,7 +101,7 @@ def benchmark(program: Path, folder: Path, count: int, row: str) -> dict[str, li
                         f"--benchmark_out={out.name}", "--benchmark_out_format=json"],
                        cwd=folder, check=True, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL)
-        text = Path(out.name).read_text(encoding="utf-8")  # none where the program has no such row
+        text = Path(out.name).read_text(encoding="utf-8")  # empty if the program has no such row
     times: dict[str, list[float]] = {}
     for run in json.loads(text)["benchmarks"] if text else []:
         if run["run_type"] == "iteration":

@@ -1,4 +1,4 @@
-"""The window: its start, a scan, the frames of its pages, and its rest."""
+"""The window: its start, a scan, the frames of its pages, and idling."""
 
 from __future__ import annotations
 
@@ -19,7 +19,7 @@ from rounds import Row, output_of, ratios  # noqa: E402
 
 OFF_SCREEN = {"QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software"}
 BARE = "a bare Controls window, same renderer"
-FRAME_MILLISECONDS = 16.7  # of 60 in a second
+FRAME_MILLISECONDS = 16.7  # at 60 frames a second
 FRAME = re.compile(r" +(\w+) +(\d+) frames +50th +([\d.]+) +99th +([\d.]+)")
 LONG = "overview-of-size"  # the scene with the lists of 10,000
 ALL = "all"  # the frames of all scenes of a call together
@@ -31,13 +31,13 @@ Costs = dict[str, dict[str, float]]  # by scene and what it does: milliseconds
 
 
 def lines_of(command: list[str], environment: dict[str, str]) -> list[list[float]]:
-    """The numbers that a program of the window prints, line by line."""
+    """The numbers that a window program prints, line by line."""
     lines = output_of(command, OFF_SCREEN | environment).splitlines()
     return [[float(word) for word in line.split()] for line in lines]
 
 
 def start(program: Path, home: str) -> list[float]:
-    """Milliseconds from exec to the first frame, and the KiB in memory two seconds later."""
+    """Milliseconds from exec to the first frame, and resident KiB two seconds later."""
     return lines_of([str(program)], {"HOME": home, "STARTUP_BEGAN": str(time.time_ns())})[0]
 
 

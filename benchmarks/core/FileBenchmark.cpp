@@ -17,7 +17,7 @@ using namespace Loadwick;
 namespace fs = std::filesystem;
 
 // Scanning a thousand instruction files that one of them (0) or each of them (1) imports, against
-// opening, asking, reading and closing the same files.
+// opening, examining, reading and closing the same files.
 
 constexpr std::int64_t fileCount = 1'000;
 

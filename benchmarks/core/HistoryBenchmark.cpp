@@ -37,7 +37,7 @@ std::string contentOf(const fs::path &path)
     return content.str();
 }
 
-/// The least that keeps a file whole through a crash.
+/// The minimum that keeps a file whole through a crash.
 void writeSynced(const fs::path &folder, const std::string &bytes)
 {
     const fs::path unfinished = folder / "floor.part";

@@ -1,4 +1,4 @@
-// Starting and capturing a program that says nothing, from a large parent and from a small one.
+// Starting and capturing a program that prints nothing, from a large parent and from a small one.
 #include <cstdlib>
 #include <stdexcept>
 #include <vector>

@@ -15,7 +15,7 @@ int main(int argc, char **argv)
     Loadwick::ApplicationSetup::apply(application);
     auto collaborators =
         Loadwick::LoadwickWindow::Collaborators::ofUser(std::make_shared<Loadwick::Shutdown>());
-    collaborators.completionStore = nullptr; // the window alone, without the first launch's sheet
+    collaborators.completionStore = nullptr; // no first-launch sheet over the window
     Loadwick::LoadwickWindow loadwick(std::move(collaborators));
     Loadwick::reportFirstFrame(loadwick.window());
     loadwick.window().show();
