@@ -16,8 +16,8 @@ constexpr std::array<const char *, 8> foldersElsewhere{
     "CLAUDE_CONFIG_DIR", "XDG_CONFIG_HOME", "XDG_DATA_HOME",   "XDG_CACHE_HOME",
     "XDG_STATE_HOME",    "XDG_DATA_DIRS",   "XDG_CONFIG_DIRS", "ZDOTDIR"};
 
-/// The display's key is in the home folder unless this variable names it, so it must be named
-/// before the home changes.
+/// The display's key is in the home folder unless this variable names it, so the variable must be
+/// set before the home changes.
 void keepDisplayKey()
 {
     const char *home = std::getenv("HOME");

@@ -31,7 +31,7 @@ constexpr std::array<const char *, 9> categories{"System tools",
                                                  "Unattributed",
                                                  "Messages"};
 
-/// Has `fill` write the file under another name first, so that no unfinished file is reused.
+/// Lets `fill` write under a temporary name first, so that no partial file is reused.
 template<typename Fill>
 void make(const fs::path &file, Fill fill)
 {

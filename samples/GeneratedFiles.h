@@ -28,7 +28,7 @@ void longLineTranscript(const std::filesystem::path &file, std::int64_t lineByte
 enum class Imports
 {
     flat,   ///< the first one imports all the others
-    crossed ///< each one imports four further ones, the next one, and the one that imports it
+    crossed ///< each imports four others, the next one, and its own importer
 };
 
 /// A home folder with a repository "home/repository" that has `fileCount` instruction files of

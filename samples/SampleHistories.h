@@ -10,7 +10,7 @@
 
 namespace Loadwick {
 
-/// A recorded history with a name for what is special about it.
+/// A recorded history, named after what is special about it.
 struct SampleHistory
 {
     std::string name;                ///< lower case, words joined by hyphens
@@ -25,7 +25,7 @@ namespace SampleHistories {
 [[nodiscard]] std::vector<SampleHistory> all();
 
 /// `scanCount` scans that rotate through `repositoryCount` repositories, each with `categoryCount`
-/// categories. The last one is of March 2026.
+/// categories. The last one is from March 2026.
 [[nodiscard]] std::vector<RecordedScan> ofSize(std::int64_t scanCount, std::int64_t repositoryCount,
                                                std::int64_t categoryCount);
 

@@ -78,7 +78,7 @@ InstructionFileSet fewFiles(const std::string &repository)
             .unreadablePaths = {}};
 }
 
-/// Eleven files in all tiers, and one that could not be read.
+/// Eleven files in all tiers, and one that is unreadable.
 InstructionFileSet someFiles(const std::string &repository)
 {
     return {.repositoryFiles = below(repository, {{"CLAUDE.md", 9'840},
@@ -95,8 +95,8 @@ InstructionFileSet someFiles(const std::string &repository)
             .unreadablePaths = {repository + "/.claude/rules/secrets.md"}};
 }
 
-/// 31 files of very different sizes, one of them deep down. One path of each tier could not be
-/// read, and one path is both estimated and unreadable.
+/// 31 files of very different sizes, one of them deep down. One path of each tier is unreadable,
+/// and one path is both estimated and unreadable.
 InstructionFileSet manyFiles(const std::string &repository)
 {
     return {.repositoryFiles = repositoryFilesOfMany(repository),

@@ -10,7 +10,7 @@
 
 namespace Loadwick {
 
-/// What one scan of a repository found: names, paths and sizes as people have them, all made up.
+/// The findings of one scan of a repository: realistic names, paths and sizes, all made up.
 struct SampleScan
 {
     std::string name; ///< what is special about it: lower case, words joined by hyphens
@@ -28,7 +28,7 @@ namespace SampleScans {
 
 [[nodiscard]] SampleScan lean();
 [[nodiscard]] SampleScan heavy();
-/// 142,318 tokens: on the widest scale, with files that could not be read in each tier.
+/// 142,318 tokens: on the widest scale, with unreadable files in each tier.
 [[nodiscard]] SampleScan excessive();
 /// No tokens, rows without tokens, no files.
 [[nodiscard]] SampleScan zero();

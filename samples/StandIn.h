@@ -16,8 +16,8 @@ public:
     {
         std::string outcome = "transcript";
         std::string seconds = "0";
-        std::string message = {}; ///< empty: the stand-in's own words
-        /// Sessions in any other folder fail and say why; empty: sessions work everywhere.
+        std::string message = {}; ///< empty: the stand-in's own text
+        /// Sessions in any other folder fail with the reason; empty: sessions work everywhere.
         std::filesystem::path onlyBelow = {};
     };
 
@@ -29,7 +29,7 @@ public:
     /// Copies the program into the home.
     void install() const;
 
-    /// Decides what every session does that starts from now on.
+    /// Sets the behaviour of every session that starts from now on.
     void play(const Scenario &scenario) const;
 
     /// Keeps running sessions from ending until `release`.

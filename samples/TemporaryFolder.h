@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-/// A new empty folder, removed at the end with everything in it, even what was made unreadable.
+/// A new empty folder, removed at the end with everything in it, even unreadable entries.
 class TemporaryFolder
 {
 public:

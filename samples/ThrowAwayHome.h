@@ -8,7 +8,7 @@
 namespace Loadwick {
 
 /// A temporary home folder with everything that the demonstration shows: a sample repository, a
-/// recorded history with every other repository that it names, and the stand-in for `claude`.
+/// recorded history, every other repository named in it, and the stand-in for `claude`.
 class ThrowAwayHome
 {
 public:
