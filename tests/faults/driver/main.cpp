@@ -1,11 +1,12 @@
 // Makes every call of the core that can fail do so, and checks what is left.
 //
-// loadwick-faults                       the whole matrix loadwick-faults --sample SEED         a
-// part of it, the same for the same seed loadwick-faults --operation NAME      one operation
-// loadwick-faults --call NAME           one kind of call (both: that call in that operation)
-// loadwick-faults --conditions          every operation under adverse conditions loadwick-faults
-// --record-in FOLDER    one scan; what became of the history there loadwick-faults --replay
-// OPERATION,CALL,ERRNO,NUMBER,once|always|burst
+//   loadwick-faults                       the whole matrix
+//   loadwick-faults --sample SEED         a part of it, the same for the same seed
+//   loadwick-faults --operation NAME      one operation
+//   loadwick-faults --call NAME           one kind of call (both: that call in that operation)
+//   loadwick-faults --conditions          every operation under adverse conditions
+//   loadwick-faults --record-in FOLDER    one scan; what became of the history there
+//   loadwick-faults --replay OPERATION,CALL,ERRNO,NUMBER,once|always|burst
 
 #include <chrono>
 #include <cstdlib>
