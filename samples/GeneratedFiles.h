@@ -8,7 +8,7 @@
 #include "history/RecordedScan.h"
 
 /// Generated files, the same on every machine and in every run except for their modification times.
-/// The program ends when one cannot be written. Existing files are kept as they are.
+/// The program ends when one cannot be written. Existing files are kept unchanged.
 namespace Loadwick::GeneratedFiles {
 
 /// The session for which `projects` holds a transcript.

@@ -22,7 +22,7 @@ struct SampleScan
     [[nodiscard]] ScanReport report() const;
 };
 
-/// The repositories lie in /home/someone/projects, with inherited files in that folder and personal
+/// The repositories are in /home/someone/projects, with inherited files in that folder and personal
 /// ones in /home/someone/.claude.
 namespace SampleScans {
 

@@ -46,7 +46,7 @@ struct Pipe
     FileDescriptor writeEnd;
 
     /// A new pipe, as large as the system permits: a command that writes its whole output and exits
-    /// at once loses what the pipe cannot hold. Throws `std::system_error`.
+    /// right away loses what the pipe cannot hold. Throws `std::system_error`.
     [[nodiscard]] static Pipe open();
 };
 

@@ -53,7 +53,7 @@ public:
 /// Blocking, for at most all durations of the limits, a second for the readers,
 /// `ChildProcess::survivalSeconds` and `ProcessTermination::sweepGraceSeconds` together. Throws
 /// `StartFailed`, and `std::system_error` or `std::bad_alloc` when threads or memory run out; the
-/// child is then killed at once.
+/// child is then killed immediately.
 [[nodiscard]] Outcome run(const Request &request);
 
 } // namespace Loadwick::ChildSupervision

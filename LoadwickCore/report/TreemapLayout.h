@@ -31,7 +31,7 @@ inline constexpr TreemapRect TreemapRect::zero{.x = 0.0, .y = 0.0, .width = 0.0,
 namespace Loadwick::TreemapLayout {
 
 /// One rectangle per weight, at the same position. A weight that is zero, negative, infinite or not
-/// a number gets `TreemapRect::zero`. The largest weight lies at the left or the top; equal weights
+/// a number gets `TreemapRect::zero`. The largest weight is at the left or the top; equal weights
 /// keep their order.
 [[nodiscard]] std::vector<TreemapRect> layout(std::span<const double> weights);
 

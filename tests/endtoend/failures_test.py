@@ -15,7 +15,7 @@ class FailuresTest(EndToEndCase):
     """Every case of the program's error type."""
 
     def assert_fails(self, program: Program, headline: str, detail: str) -> None:
-        """Scans and expects these words on the page, and nothing in the history."""
+        """Scans and expects these texts on the page, and nothing in the history."""
         program.window.press(SCAN)
         program.window.wait_for(detail)
         program.window.wait_for("Scan failed")

@@ -37,13 +37,13 @@ class HistoryTest(EndToEndCase):
         program.window.press(page)
 
     def words_beside(self, program: Program, title: str) -> list[str]:
-        """The words that follow a title on the page."""
+        """The texts that follow a title on the page."""
         program.window.wait_for(title)
         texts = program.window.texts()
         return texts[texts.index(title) + 1 :]
 
     def words_of_first_row(self, program: Program, listing: str) -> list[str]:
-        """All words of the first row of a list, once it has one."""
+        """All texts of the first row of a list, once it has one."""
 
         def look() -> list[str]:
             rows = program.window.find(listing, "list")

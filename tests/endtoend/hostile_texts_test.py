@@ -63,7 +63,7 @@ class HostileTextsTest(TracedCase):
         until(f"the markup on {page}", lambda: self.shown(program))
 
     def shown(self, program: Program) -> list[str]:
-        """The words on the page that hold the markup."""
+        """The texts on the page that hold the markup."""
         return [text for text in program.window.texts() if self.markup in text]
 
     def assert_loaded_nothing(self, program: Program) -> None:

@@ -1,4 +1,4 @@
-"""The window in other languages: where it begins, and which words are written how."""
+"""The window in other languages: its mirroring, its texts and its formats."""
 
 from __future__ import annotations
 

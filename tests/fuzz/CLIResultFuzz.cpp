@@ -92,7 +92,7 @@ void checkCLIResult(std::string_view bytes)
             "the result follows the rules for the whole document");
     if (const auto *const error = std::get_if<ProbeError>(&outcome))
         require(!isUtf8(bytes) || isUtf8(error->headline() + error->detail()),
-                "an error's words are UTF-8");
+                "an error's text is UTF-8");
 }
 
 const FuzzTarget target("CLIResult", checkCLIResult);

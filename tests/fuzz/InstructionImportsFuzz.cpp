@@ -70,7 +70,7 @@ void checkToken(std::string_view token, std::string_view text)
     require(!token.empty() && token.data() >= text.data() &&
                 token.data() + token.size() <= text.data() + text.size(),
             "a token is a part of the text");
-    require(*(token.data() - 1) == '@', "an @ stands before a token");
+    require(*(token.data() - 1) == '@', "an @ precedes a token");
     require(token.front() != '@', "a doubled @ is no import");
     require(token.find("://") == std::string_view::npos, "an address is no import");
     require(token.find_first_of(" \t\n\r") == std::string_view::npos, "a token is one word");

@@ -81,7 +81,7 @@ void checkSlabText(std::string_view input)
     for (const SelfReportedSlab &slab : slabs)
         require(SlabParser::parseLine("SLAB " + slab.name + " TOKENS " +
                                       std::to_string(slab.tokens)) == slab,
-                "a slab reads as it is written");
+                "a slab round-trips");
 }
 
 const FuzzTarget target("SlabText", checkSlabText);

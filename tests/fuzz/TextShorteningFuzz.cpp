@@ -40,7 +40,7 @@ void checkShortening(std::string_view text, std::size_t limit)
 void checkCategoryName(std::string_view name)
 {
     const std::string stored = RecordedCategoryName::storable(name);
-    require(!stored.empty() && trimmed(stored) == stored, "a stored name has words");
+    require(!stored.empty() && trimmed(stored) == stored, "a stored name is trimmed and not empty");
     require(byteCountOfCharacters(stored, RecordedCategoryName::limit) == stored.size(),
             "a stored name is short");
     require(stored.find_first_of("/\\~") == std::string::npos, "a stored name is no path");

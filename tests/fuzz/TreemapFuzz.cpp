@@ -59,7 +59,7 @@ void checkTreemap(std::string_view input)
         const bool isShown = counts(weights[index]);
         require(isShown || rects[index] == TreemapRect::zero,
                 "an item without weight has no rectangle");
-        require(isInside(rects[index]), "a rectangle lies in the square");
+        require(isInside(rects[index]), "a rectangle is inside the square");
         const auto share = isShown ? static_cast<double>(weights[index] / sum) : 0.0;
         require(std::abs(rects[index].area() - share) < 1e-9, "an area is the weight's share");
         for (std::size_t other = 0; other < index; ++other)

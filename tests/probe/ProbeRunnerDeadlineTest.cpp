@@ -16,7 +16,7 @@ constexpr const char *complete = R"({"session_id":"abc","result":"","usage":{"in
                                  R"("num_turns":1})";
 constexpr const char *failed = R"({"session_id":"abc","result":"no","is_error":true})";
 
-// Keeps a stopped session's shell from dying of the signal, so that it exits by itself.
+// Keeps the signal from killing a stopped session's shell, so that it exits on its own.
 constexpr const char *exitsWith143 = "trap 'exit 143' TERM\n"
                                      "while :; do sleep 0.02; done\n";
 

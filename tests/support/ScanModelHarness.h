@@ -48,7 +48,7 @@ public:
     [[nodiscard]] std::filesystem::path historyFolder() const;
     [[nodiscard]] std::vector<RecordedScan> recorded() const;
 
-    /// The report of a scan of the repository, unless a collaborator was told otherwise.
+    /// The report of a scan of the repository, unless a collaborator was set up otherwise.
     [[nodiscard]] ScanReport expectedReport() const;
 
     /// Chooses the repository, starts a scan and steps up to `stage`.

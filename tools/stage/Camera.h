@@ -33,7 +33,7 @@ public:
     /// The window outlives this object.
     Camera(QQuickWindow &window, std::filesystem::path folder, std::vector<QSize> sizes);
 
-    /// Writes "<name>-<light|dark>-<width>x<height>.png" for each look, of the window as it is.
+    /// Writes "<name>-<light|dark>-<width>x<height>.png" of the window, for each look.
     void take(const std::string &name) const;
 
     /// The same of a page at rest, and "...-whole.png" of the whole page if it scrolls, cropped to

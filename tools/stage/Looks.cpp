@@ -39,7 +39,7 @@ std::vector<Scene> scenes()
             Scene::ofHistory(AppPage::compare, "history", history)};
 }
 
-/// "<page>-<direction>-<scale>-<look>" of the window as it is now.
+/// "<page>-<direction>-<scale>-<look>" of the window in its current state.
 void takeLooks(QQuickWindow &window, const PictureFolder &folder, const std::string &page)
 {
     const bool isMirrored = QGuiApplication::layoutDirection() == Qt::RightToLeft;

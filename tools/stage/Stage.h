@@ -29,7 +29,7 @@ struct Scene
     /// The prefix of the pictures' names: "overview-heavy".
     [[nodiscard]] std::string name() const;
 
-    /// Whether the name begins with one of the words, or there are none.
+    /// Whether the name begins with one of the words, or no words are given.
     [[nodiscard]] bool isNamedBy(const std::vector<std::string> &words) const;
 };
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <cstddef>
 
-/// What the preloaded library is told and what it reports: its only interface to the program whose
-/// calls it makes fail. Test-only.
+/// The orders and reports of the preloaded library: its only interface to the program whose calls
+/// it makes fail. Test-only.
 namespace Faults {
 
 /// A kind of call. Variants of one call (`open` and `openat`, `malloc` and `calloc`) are one kind.
