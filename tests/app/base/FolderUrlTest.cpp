@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(QByteArray::fromStdString(found->string()), path);
     }
 
-    void isNothingElsewhere_data()
+    void rejectsOtherUrls_data()
     {
         QTest::addColumn<QUrl>("url");
         QTest::newRow("the web") << QUrl(QStringLiteral("https://example.org/srv"));
@@ -54,13 +54,13 @@ private Q_SLOTS:
         QTest::newRow("NUL") << QUrl::fromEncoded("file:///srv/a%00b");
     }
 
-    void isNothingElsewhere()
+    void rejectsOtherUrls()
     {
         QFETCH(const QUrl, url);
         QVERIFY(!folderPath(url));
     }
 
-    void aFolderIsTold()
+    void detectsAFolder()
     {
         const TemporaryFolder folder;
         QVERIFY(isFolder(folder.path()));

@@ -39,7 +39,7 @@ private Q_SLOTS:
         m_people.setRows({{QStringLiteral("Ada"), 36}, {QStringLiteral("Alan"), 41}});
     }
 
-    void givesEachValueUnderTheNameOfItsRole()
+    void returnsEachValueByRoleName()
     {
         QCOMPARE(m_people.roleNames().size(), 2);
         const int age = m_people.roleNames().key("age");
@@ -48,7 +48,7 @@ private Q_SLOTS:
         QCOMPARE(m_people.text(1, QStringLiteral("age")), QStringLiteral("41"));
     }
 
-    void hasNothingBeyondItsRowsAndRoles()
+    void isEmptyOutOfRange()
     {
         QCOMPARE(m_people.text(-1, QStringLiteral("name")), QString());
         QCOMPARE(m_people.text(2, QStringLiteral("name")), QString());
@@ -58,14 +58,14 @@ private Q_SLOTS:
         QCOMPARE(m_people.rowCount(m_people.index(0)), 0);
     }
 
-    void composesNoTextBeforeItIsLookedAt()
+    void composesTextLazily()
     {
         QCOMPARE(m_looks, 0);
         static_cast<void>(m_people.text(0, QStringLiteral("name")));
         QCOMPARE(m_looks, 1);
     }
 
-    void copiesWhatARowSays()
+    void copiesARowsText()
     {
         m_people.copy(0, QStringLiteral("name"));
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Ada"));
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(m_people.count(), 0);
     }
 
-    void anUpdateOfAsManyRowsKeepsTheItemsOfViews()
+    void anUpdateOfEqualSizeKeepsDelegates()
     {
         const QAbstractItemModelTester tester(&m_people);
         const QSignalSpy resets(&m_people, &RowList::modelReset);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(resets.count(), 1);
     }
 
-    void takesAnySequenceAsItsRows()
+    void acceptsAnySequenceOfRows()
     {
         const ListOf<int, Numbers> numbers({{"double", [](int number) { return number * 2; }}});
         QCOMPARE(numbers.count(), 1'000'000);

@@ -15,7 +15,7 @@ class QmlObjectTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void makesTheObjectWithItsProperties()
+    void createsTheObjectWithItsProperties()
     {
         const auto object =
             made("QtObject { required property int size }", {{QStringLiteral("size"), 7}});
@@ -23,7 +23,7 @@ private Q_SLOTS:
         QCOMPARE(object->property("size").toInt(), 7);
     }
 
-    void saysWhatIsWrongInsteadOfMakingAnything_data()
+    void reportsErrorsInsteadOfCreatingAnything_data()
     {
         QTest::addColumn<QByteArray>("qml");
         QTest::addColumn<QString>("part");
@@ -34,7 +34,7 @@ private Q_SLOTS:
             << QByteArray("QtObject { required property int size }") << QStringLiteral("size");
     }
 
-    void saysWhatIsWrongInsteadOfMakingAnything()
+    void reportsErrorsInsteadOfCreatingAnything()
     {
         QFETCH(const QByteArray, qml);
         QFETCH(const QString, part);
@@ -42,7 +42,7 @@ private Q_SLOTS:
         QVERIFY2(m_failure.contains(part), qPrintable(m_failure));
     }
 
-    void saysThatAFileIsMissing()
+    void reportsAMissingFile()
     {
         QQmlEngine engine;
         const QUrl url(QStringLiteral("qrc:/qt/qml/Loadwick/Nonesuch.qml"));

@@ -20,7 +20,7 @@ class QtTaskDispatcherTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void runsBackgroundWorkOnAThreadOfItsOwn()
+    void runsBackgroundWorkOnItsOwnThread()
     {
         QObject interface;
         QtTaskDispatcher dispatcher(interface);
@@ -29,7 +29,7 @@ private Q_SLOTS:
         QVERIFY(promise.get_future().get() != std::this_thread::get_id());
     }
 
-    void freesTheWorkWhenItIsDone()
+    void freesFinishedWork()
     {
         QObject interface;
         QtTaskDispatcher dispatcher(interface);
@@ -56,7 +56,7 @@ private Q_SLOTS:
             QCOMPARE(order[static_cast<std::size_t>(number)], number);
     }
 
-    void aPostIsNeverRunAtOnce()
+    void neverRunsAPostSynchronously()
     {
         QObject interface;
         QtTaskDispatcher dispatcher(interface);
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isRun);
     }
 
-    void dropsWhatIsPostedAfterTheInterfaceIsGone()
+    void dropsPostsAfterTheInterfaceIsDestroyed()
     {
         auto interface = std::make_unique<QObject>();
         QtTaskDispatcher dispatcher(*interface);
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(watched.expired());
     }
 
-    void dropsWhatWaitedWhenTheInterfaceWent()
+    void dropsPendingPostsWhenTheInterfaceIsDestroyed()
     {
         auto interface = std::make_unique<QObject>();
         QtTaskDispatcher dispatcher(*interface);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
     }
 
-    void survivesThreadsThatPostWhileTheInterfaceGoes()
+    void survivesPostsDuringTheInterfacesDestruction()
     {
         for (int round = 0; round < 50; ++round) {
             auto interface = std::make_unique<QObject>();
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(receiver == here);
     }
 
-    void dropsTheValueWhenItsReceiverHasGone()
+    void dropsTheValueOfADestroyedReceiver()
     {
         const auto dispatcher = std::make_shared<SteppingDispatcher>();
         auto receiver = std::make_unique<QObject>();
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(!isReceived);
     }
 
-    void saysThatNoThreadCouldBeStarted()
+    void reportsThatNoThreadCouldBeStarted()
     {
         const auto dispatcher = std::make_shared<SteppingDispatcher>();
         dispatcher->refuseBackground();

@@ -29,7 +29,7 @@ private Q_SLOTS:
         QCOMPARE(AxisScale(101, 5).ticks()[1], 50);
     }
 
-    void theUpperBoundIsATickWhenItIsRound()
+    void aRoundUpperBoundIsATick()
     {
         QCOMPARE(AxisScale(40, 4).ticks(), (Ticks{0, 10, 20, 30, 40}));
     }
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(AxisScale(largest, 1).ticks().back() <= largest);
     }
 
-    void neverExceedsTheMostSteps()
+    void neverExceedsTheMaximumOfSteps()
     {
         for (std::int64_t upper = 1; upper < 5'000; upper += 7)
             for (const int most : {1, 2, 3, 4, 7}) {
@@ -66,7 +66,7 @@ private Q_SLOTS:
             }
     }
 
-    void placesValuesBetweenItsEnds()
+    void mapsValuesBetweenItsEnds()
     {
         const AxisScale axis(200, 4);
         QCOMPARE(axis.position(0), 0.0);
@@ -121,7 +121,7 @@ private Q_SLOTS:
                  (std::vector<DateTick>{{.moment = m_morning, .label = "4. März 2026, 09:00"}}));
     }
 
-    void oneTickIsEnoughWhereNoMoreFit()
+    void showsOneTickIfNoMoreFit()
     {
         const TimeZone utc("UTC");
         QVERIFY(DateAxisScale(m_morning, m_morning + days(400)).ticks(1, m_german).size() <= 1);
@@ -158,14 +158,14 @@ private Q_SLOTS:
         }
     }
 
-    void labelsStandSideBySide_data()
+    void labelsDoNotOverlap_data()
     {
         QTest::addColumn<double>("width");
         for (const double width : {0.0, 30.0, 120.0, 400.0, 900.0, 2'000.0})
             QTest::addRow("%.0f", width) << width;
     }
 
-    void labelsStandSideBySide()
+    void labelsDoNotOverlap()
     {
         QFETCH(const double, width);
         const TimeZone utc("UTC");
@@ -192,7 +192,7 @@ private Q_SLOTS:
         QVERIFY(count(900) > count(300));
     }
 
-    void placesMomentsBetweenItsEnds()
+    void mapsMomentsBetweenItsEnds()
     {
         const DateAxisScale axis(m_morning, m_morning + 100s);
         QCOMPARE(axis.position(m_morning), 0.0);
@@ -212,7 +212,7 @@ private Q_SLOTS:
         QCOMPARE(axis.labelStart(m_morning + 100s, 300, 200), 0.0);
     }
 
-    void namesMonthsInTheWordsOfTheLocale()
+    void namesMonthsInTheLocale()
     {
         const TimeZone utc("UTC");
         const auto firstLabel = [this](const char *dates) {

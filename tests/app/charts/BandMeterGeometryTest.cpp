@@ -126,8 +126,8 @@ private Q_SLOTS:
         }
     }
 
-    void aShownLabelLiesUnderTheMiddleOfItsSegment_data() { allMeters(); }
-    void aShownLabelLiesUnderTheMiddleOfItsSegment()
+    void aVisibleLabelSpansTheMiddleOfItsSegment_data() { allMeters(); }
+    void aVisibleLabelSpansTheMiddleOfItsSegment()
     {
         const Meter meter = fetched();
         const auto segments = BandMeterGeometry::segments(meter);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         }
     }
 
-    void labelsAreCentredWhereThereIsRoom()
+    void centresLabelsIfThereIsRoom()
     {
         const auto labels = labelsOf(142'318, 900);
         QCOMPARE(shown(labels), (std::array{true, true, true}));
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(shown(labelsOf(42'318, 0)), (std::array{false, false, false}));
     }
 
-    void givesItsLayoutToPages()
+    void exposesItsLayoutToPages()
     {
         const BandMeterLayout &layout = laidOut({0.25, 0.5}, {30, 40, 60});
         QCOMPARE(layout.ticks(), (QList<qreal>{200, 400}));
@@ -203,7 +203,7 @@ private Q_SLOTS:
         QCOMPARE(layout.labelsShown(), (QList<bool>{false, false, true}));
     }
 
-    void fillsShortListsUpAndCutsLongOnes()
+    void padsShortListsAndTruncatesLongOnes()
     {
         QCOMPARE(laidOut({}, {30}).ticks(), (QList<qreal>{0, 0}));
         QCOMPARE(laidOut({}, {30}).labelLefts(), laidOut({0, 0}, {30, 0, 0}).labelLefts());

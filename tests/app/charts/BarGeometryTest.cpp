@@ -102,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(bars.length(50), 0.25);
     }
 
-    void oneNameTwiceInAScanIsOneBar()
+    void sumsCategoriesOfTheSameName()
     {
         const BarGeometry bars = geometryOf(
             {RecordedScanBuilder().withCategory("tools", 30).withCategory("tools", 12).build()});
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(bars.maximumRowTokens(), std::int64_t(42));
     }
 
-    void leavesOutACategoryThatIsNotOnTheAxis()
+    void omitsACategoryMissingFromTheAxis()
     {
         const std::vector<RecordedScan> scans = twoScans();
         const BarGeometry bars({"memory"}, scans);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         }
     }
 
-    void takesTwoHundredRepositoriesOfFiftyCategories()
+    void handlesTwoHundredRepositoriesOfFiftyCategories()
     {
         const BarGeometry bars = geometryOf(SampleHistories::ofSize(200, 200, 50));
         QCOMPARE(bars.rowCount(), std::size_t(50));

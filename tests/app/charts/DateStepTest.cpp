@@ -91,7 +91,7 @@ private Q_SLOTS:
                  (Words{"29. Dez.", "31. Dez.", "1. Jan.", "2. Jan."}));
     }
 
-    void aSkippedMidnightIsTheMomentThatFollows()
+    void aSkippedMidnightMovesToTheNextMoment()
     {
         const TimeZone brazil("America/Sao_Paulo"); // 0:00 became 1:00 on November 4, 2018
         const auto moments =
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(labels({Unit::day, 1}, moments), Words{"4. Nov."});
     }
 
-    void weeksBeginOnOneDayOfTheWeek()
+    void weeksBeginOnTheSameWeekday()
     {
         const TimeZone utc("UTC");
         for (const int count : {1, 2}) {

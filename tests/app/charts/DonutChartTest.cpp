@@ -137,7 +137,7 @@ private Q_SLOTS:
         QVERIFY2(many > whole * 9 / 10, qPrintable(QString::number(many)));
     }
 
-    void newTokensLeaveNoRowCurrent()
+    void newTokensClearTheCurrentRow()
     {
         DonutWindow shown({50, 50});
         QCOMPARE(shown.rowAt(left), 1);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentRow(), -1);
     }
 
-    void signalsChangesOnly()
+    void signalsOnlyChanges()
     {
         DonutWindow shown({50, 50});
         const QSignalSpy tokens(&shown.chart, &DonutChart::tokensChanged);

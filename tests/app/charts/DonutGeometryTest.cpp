@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(inner * std::sin(end - sector.innerStart - sector.innerSweep), 1.5);
     }
 
-    void theInsetTakesHalfOfANarrowSliceAtMost()
+    void theInsetTakesAtMostHalfOfANarrowSlice()
     {
         const DonutGeometry donut(Tokens{1.0, 9'999.0});
         const auto sector = donut.sector(0, radius);
@@ -238,7 +238,7 @@ private Q_SLOTS:
         }
     }
 
-    void eachWideSliceHasAMarkOfItsOwn()
+    void eachWideSliceHasItsOwnMark()
     {
         const DonutGeometry donut(Tokens{50.0, 0.0, 25.0, 25.0});
         const auto marks = donut.marks(radius, 1);
@@ -250,7 +250,7 @@ private Q_SLOTS:
         }
     }
 
-    void paintsNoMoreMarksThanTheEyeCanTellApart()
+    void mergesIndistinguishableMarks()
     {
         const auto marks = DonutGeometry(Tokens(8'000, 3.0)).marks(radius, std::nullopt);
         QVERIFY(marks.size() <= 1'400U);
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QVERIFY(turn - end < 0.01);
     }
 
-    void theSelectedSliceAlwaysHasAMarkOfItsOwn()
+    void theSelectedSliceAlwaysHasItsOwnMark()
     {
         const DonutGeometry donut(Tokens(8'000, 3.0));
         for (const std::size_t selected :

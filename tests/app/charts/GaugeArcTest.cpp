@@ -39,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(GaugeGeometry::span(100), -270.0);
     }
 
-    void aSpanStaysWithinItsEnds()
+    void clampsTheSpan()
     {
         QCOMPARE(GaugeGeometry::span(-1), 0.0);
         QCOMPARE(GaugeGeometry::span(100.6), -270.0);
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(lowerRight), QColor(Qt::gray));
     }
 
-    void anEmptyGaugeShowsItsTrackAlone()
+    void anEmptyGaugeShowsOnlyItsTrack()
     {
         m_arc->setProperty("value", 0);
         const QImage image = painted();
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(centre), QColor(Qt::white));
     }
 
-    void aSpringBeyondTheEndPaintsTheEnd()
+    void anOvershootPaintsAFullGauge()
     {
         m_arc->setProperty("value", 100);
         const QImage full = painted();
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(painted(), full);
     }
 
-    void isAsThickAsItsThickness()
+    void respectsItsThickness()
     {
         m_arc->setProperty("value", 100);
         const QPoint within = top + QPoint(0, 8);

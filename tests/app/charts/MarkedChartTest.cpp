@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentMark(), -1);
     }
 
-    void newMarksLeaveNoneCurrent()
+    void newMarksClearTheCurrentOne()
     {
         ChartWindow shown(3);
         QCOMPARE(shown.afterKey(Qt::Key_End), 2);
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentMark(), -1);
     }
 
-    void aChartWithoutMarksLeavesTheKeysToOthers()
+    void aChartWithoutMarksIgnoresKeys()
     {
         ChartWindow shown(0);
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);

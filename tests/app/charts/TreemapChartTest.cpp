@@ -107,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(picture.pixelColor(55, 20).red() > 250);
     }
 
-    void atRestEachTileIsOutlinedInItsFullColor()
+    void outlinesEachTileInItsFullColorAtRest()
     {
         ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
         const QImage picture = shown.picture();
@@ -121,14 +121,14 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(79, 12), QColor(Qt::red));
     }
 
-    void theOutlineOfADimmedTileStepsBackToo()
+    void dimsTheOutlineToo()
     {
         ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
         shown.pointAt({30, 12});
         QVERIFY(shown.picture().pixelColor(79, 12).alpha() <= 128);
     }
 
-    void aTileThatIsAllLineIsAllColor()
+    void aTileThatIsAllOutlineIsAllColor()
     {
         ChartWindow shown({1.0, 59.0}, {60.0, 24.0});
         const QImage picture = shown.picture();
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(picture.pixelColor(39, 19).alpha() > 0);
     }
 
-    void theTileUnderThePointerStandsOutAndTheOthersStepBack()
+    void highlightsTheTileUnderThePointerAndDimsTheOthers()
     {
         ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
         const int rest = shown.picture().pixelColor(30, 12).alpha();
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(0, 12).alpha(), 255);
     }
 
-    void aTileChosenByKeyStandsOutToo()
+    void highlightsATileChosenByKey()
     {
         ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
         shown.chart.forceActiveFocus();
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QVERIFY(shown.picture() == atRest);
     }
 
-    void readsOnlyTheNamesThatItShows()
+    void readsOnlyVisibleNames()
     {
         ChartWindow shown({1.0, 1'000.0, 1.0}, {200.0, 100.0});
         (void)shown.picture();
@@ -187,7 +187,7 @@ private Q_SLOTS:
             QCOMPARE(row, 1);
     }
 
-    void writesANameOnlyInALargeEnoughTile()
+    void showsANameOnlyInALargeEnoughTile()
     {
         const auto writes = [](QSizeF size) {
             ChartWindow shown({1.0}, size);
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QVERIFY(shown.picture().pixelColor(0, 0).alpha() <= 128);
     }
 
-    void paintsForAFinerScreenToo()
+    void supportsHighResolutionScreens()
     {
         ChartWindow shown({1.0, 1.0}, {40.0, 20.0});
         const QImage picture = shown.picture(2.0);

@@ -49,7 +49,7 @@ private Q_SLOTS:
         QCOMPARE(TreemapTiles().count(), std::size_t(0));
     }
 
-    void showANameFromItsLeastSizeOn_data()
+    void showANameFromTheMinimumSize_data()
     {
         QTest::addColumn<double>("width");
         QTest::addColumn<double>("height");
@@ -62,7 +62,7 @@ private Q_SLOTS:
         QTest::newRow("large") << 640.0 << 360.0 << true;
     }
 
-    void showANameFromItsLeastSizeOn()
+    void showANameFromTheMinimumSize()
     {
         QFETCH(const double, width);
         QFETCH(const double, height);
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(tiles.tileAt(159.9, 89.9), 0);
     }
 
-    void findNothingOutsideOfTheFrame()
+    void findNothingOutsideTheFrame()
     {
         const TreemapTiles tiles = tilesOf({1.0, 3.0}, 160.0, 90.0);
         for (const auto &[x, y] : {std::pair(-0.1, 5.0), {5.0, -0.1}, {160.0, 5.0}, {5.0, 90.0}})
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QVERIFY((tiles.box(2, 1.0) == TreemapTiles::Box{100.0, 0.0, 100.0, 49.0}));
     }
 
-    void keepWhatIsTooThinForAGap()
+    void omitTheGapOfAThinTile()
     {
         const TreemapTiles tiles = tilesOf({1.0, 99.0}, 200.0, 100.0);
         QCOMPARE(tiles.box(0, 1.0).width, 2.0);
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(bottom, 341.0);
     }
 
-    void lieOnTheGridOfAFinerScreen()
+    void snapToTheDevicePixelGrid()
     {
         const TreemapTiles tiles = tilesOf({1.0, 1.0, 1.0}, 100.0, 75.0);
         for (std::size_t index = 0; index < 3; ++index) {
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(tiles.box(1, 2.0).top, 37.5);
     }
 
-    void findATileAmongTenThousandInNoTime()
+    void findATileAmongTenThousandFast()
     {
         const TreemapTiles tiles = tilesOf(manyWeights(10'000), 608.0, 342.0);
         const ProcessorTime timer;

@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(at.picture(), before);
     }
 
-    void theScansStayWhereTheyAreInAPictureOfMorePixels()
+    void aPictureOfMorePixelsKeepsThePositions()
     {
         ChartWindow at;
         at.show({10'000, 20'000, 30'000});
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(at.picture(), before);
     }
 
-    void aDrawingHoldsNoPixels()
+    void aVectorDrawingHoldsNoPixels()
     {
         ChartWindow at;
         at.show({10'000, 20'000, 30'000});
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY2(drawing.size() < 100'000, qPrintable(QString::number(drawing.size())));
     }
 
-    void anotherHistoryLeavesNoScanCurrent()
+    void anotherHistoryClearsTheCurrentScan()
     {
         ChartWindow at;
         at.show({10'000, 20'000, 30'000});
@@ -240,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(at.chart.readout(), QString());
     }
 
-    void anotherStyleIsAnotherPicture()
+    void aStyleChangeRepaints()
     {
         ChartWindow at;
         at.show({10'000, 20'000});

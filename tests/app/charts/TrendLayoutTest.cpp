@@ -28,7 +28,7 @@ private Q_SLOTS:
         QVERIFY(layout.xOf(1) + m_pointRadius <= layout.frame().right());
     }
 
-    void placesSharesFromTheLowerLeft()
+    void mapsSharesFromTheLowerLeft()
     {
         const TrendLayout layout = layoutOf(800, 260);
         QCOMPARE(layout.xOf(0), layout.plot().x);
@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(point.y, 0.7);
     }
 
-    void placesTheNamesAtTheirThresholds()
+    void alignsNamesWithTheirThresholds()
     {
         const TrendLayout layout = layoutOf(800, 260);
         const auto names = layout.nameHeights(30.0 / 69, 60.0 / 69);
@@ -71,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(names.upper - m_lineHeight / 2 >= layout.frame().y - 1e-9);
     }
 
-    void theWordsAreCentredOnTheirPointWherePossible()
+    void centresTheReadoutOnItsPointIfPossible()
     {
         const TrendLayout layout = layoutOf(800, 260);
         const PlotRect words = layout.readout(0.5, 200);
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(words.width > 200);
     }
 
-    void theWordsStayInTheFrame()
+    void theReadoutStaysInTheFrame()
     {
         const TrendLayout layout = layoutOf(800, 260);
         for (const double share : {0.0, 0.01, 0.5, 0.99, 1.0})
@@ -91,7 +91,7 @@ private Q_SLOTS:
             }
     }
 
-    void theWordsNeverCoverAPoint()
+    void theReadoutNeverCoversAPoint()
     {
         const TrendLayout layout = layoutOf(800, 260);
         const double highestPoint = layout.yOf(1 / 1.15) - m_pointRadius - 1;

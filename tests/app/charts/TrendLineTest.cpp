@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(line.points()[1].y, 69'000.0 / 79'350);
     }
 
-    void goesThroughTheScansInTheOrderOfTheirDates()
+    void ordersScansByDate()
     {
         const LineGeometry line = lineOf({{30, 1}, {10, 2}, {20, 3}});
         QCOMPARE(totalsOf(line), (std::vector<std::int64_t>{2, 3, 1}));
@@ -110,7 +110,7 @@ private Q_SLOTS:
         }
     }
 
-    void findsTheScanThatIsNearestInTime()
+    void findsTheScanNearestInTime()
     {
         const LineGeometry line = lineOf({{0, 1}, {10, 60'000}, {100, 1}});
         QCOMPARE(line.nearest({.x = 0.04, .y = 0.9}), std::size_t(0));
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QCOMPARE(line.points()[2].x, 1.0);
     }
 
-    void saysWhenAScanWasAndWhatItMeasured()
+    void describesAScanByDateAndTotal()
     {
         const TimeZone utc("UTC");
         TrendLine line({.numbers = "de_DE", .dates = "de_DE"});
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(line.total(1), QStringLiteral("2 tokens"));
     }
 
-    void signalsNewScansOnly()
+    void signalsOnlyNewScans()
     {
         TrendLine line{TextLocale()};
         QSignalSpy changed(&line, &TrendLine::changed);

@@ -60,7 +60,7 @@ private Q_SLOTS:
         say("fill", blue);
     }
 
-    void paintsNameFigureAndBarInTheirPlaces()
+    void paintsNameFigureAndBar()
     {
         const QImage image = painted(*m_row);
         const BarRowPlaces places = m_row->places();
@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(225, 28), m_style->track);
     }
 
-    void aNameThatIsTooLongKeepsOutOfTheFigure()
+    void aLongNameDoesNotOverlapTheFigure()
     {
         say("name", QString(80, u'W'));
         const QImage image = painted(*m_row);
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(painted(*m_row).pixelColor(75, 28), m_style->track);
     }
 
-    void fromTheRightTheBarBeginsThere()
+    void aMirroredBarBeginsOnTheRight()
     {
         m_style->setProperty("isMirrored", true);
         const QImage image = painted(*m_row);
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(inkIn(image, QRectF(240, 0, 60, 22)) > 20);
     }
 
-    void theFigureIsNeverCut()
+    void theFigureIsNeverElided()
     {
         say("value", QStringLiteral("9,223,372,036,854,775,807"));
         const qreal advance = QFontMetricsF(m_style->valueFont)
@@ -104,14 +104,14 @@ private Q_SLOTS:
         QVERIFY(m_row->places().value.width() >= advance);
     }
 
-    void aTipSaysWhatWasLeftOut()
+    void aTipShowsTheElidedText()
     {
         QCOMPARE(m_row->tip(), QString());
         say("name", QString(80, u'W'));
         QCOMPARE(m_row->tip(), QString(80, u'W'));
     }
 
-    void aTipTellsApartWhatHasOneName()
+    void aTipDistinguishesNamesakes()
     {
         say("place", QStringLiteral("/srv/one"));
         QCOMPARE(m_row->tip(), QStringLiteral("Memory\n/srv/one"));
@@ -133,14 +133,14 @@ private Q_SLOTS:
         QVERIFY(painted(*m_row) != before);
     }
 
-    void withoutAStyleNothingIsPainted()
+    void paintsNothingWithoutAStyle()
     {
         m_style.reset();
         QCOMPARE(inkIn(painted(*m_row), QRectF(0, 0, 300, 36)), 0);
         QCOMPARE(m_row->tip(), QString());
     }
 
-    void nameAndFigureStandOverABarOfFullWidth()
+    void stacksNameAndFigureOverABarOfFullWidth()
     {
         const auto places = BarRowPlaces::stacked(stackedRow, 16, 40, 1);
         QCOMPARE(places.track, QRectF(0, 24, 300, 8));
@@ -149,13 +149,13 @@ private Q_SLOTS:
         QCOMPARE(places.name, QRectF(0, 6, 252, 16));
     }
 
-    void aWideFigureLeavesTheNameWhatIsLeft()
+    void aWideFigureLeavesTheNameTheRest()
     {
         QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 296, 1).name.width(), 0.0);
         QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 296, 1).value.left(), 4.0);
     }
 
-    void onOneLineTheFiguresOfAllRowsEndTogether()
+    void alignsFiguresOnOneLine()
     {
         const auto places = BarRowPlaces::inLine(lineRow, 200, 60, 0.5);
         QCOMPARE(places.name, QRectF(0, 0, 200, 24));
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QCOMPARE(places.bar.width(), 0.0);
     }
 
-    void noTokensHaveNoBarAndFewHaveOneThatCanBeSeen()
+    void zeroTokensHaveNoBarAndFewHaveAVisibleOne()
     {
         QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 40, 0).bar.width(), 0.0);
         QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 40, 0.00001).bar.width(), 2.0);
@@ -183,7 +183,7 @@ private Q_SLOTS:
                  BarRowPlaces::stacked(stackedRow, 16, 90, 0.3).bar);
     }
 
-    void aHeadingStandsLowAndAlone()
+    void aHeadingIsBottomAlignedAndAlone()
     {
         const auto places = BarRowPlaces::heading(lineRow, 18);
         QCOMPARE(places.name, QRectF(0, 4, 800, 18));
@@ -191,7 +191,7 @@ private Q_SLOTS:
         QVERIFY(places.value.isEmpty());
     }
 
-    void fromTheRightAllIsTheOtherWayRound()
+    void mirrorsAllParts()
     {
         const auto places = BarRowPlaces::inLine(lineRow, 200, 60, 0.5).mirrored(800);
         QCOMPARE(places.name, QRectF(600, 0, 200, 24));

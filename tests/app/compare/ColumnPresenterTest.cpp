@@ -46,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(m_column->emptyText(), QString());
     }
 
-    void saysWhatTheLatestScanMeasured()
+    void reportsTheLatestScan()
     {
         m_column->show(comparison(), 0);
         QCOMPARE(m_column->name(), QStringLiteral("harbor"));
@@ -74,7 +74,7 @@ private Q_SLOTS:
         }
     }
 
-    void aCategoryThatTheScanLacksHasADashAndNoBar()
+    void aMissingCategoryHasADashAndNoBar()
     {
         m_column->show(comparison(), 1);
         QCOMPARE(texts("value"), QStringList({QStringLiteral("–"), QStringLiteral("0")}));

@@ -36,7 +36,7 @@ private Q_SLOTS:
 
     void isEmptyBeforeAnythingIsShown() { QCOMPARE(m_rows->count(), 0); }
 
-    void aCategoryStandsAboveOneBarPerRepository()
+    void aCategoryHeadsOneBarPerRepository()
     {
         m_rows->setRows(CombinedLines(comparison()));
         QCOMPARE(texts("title"), QStringList({QStringLiteral("Tools"), QStringLiteral("app"),
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(value(2, "spoken").toString(), QStringLiteral("app: 2,000 tokens"));
     }
 
-    void aCategorysOwnLineHasNoFigure()
+    void aHeadingHasNoFigure()
     {
         m_rows->setRows(CombinedLines(comparison()));
         QCOMPARE(value(0, "value").toString(), QString());
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(CombinedLines().size(), std::size_t(0));
     }
 
-    void thePictureIsThePagesLinesOneBelowTheOther()
+    void thePictureStacksThePagesLines()
     {
         m_rows->setRows(CombinedLines(comparison()));
         BarStyle style;

@@ -26,13 +26,13 @@ class CompareKeysTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase() { m_page.reset(); }
-    void theHeadOfACardIsOneStop();
-    void theArrowsGoThroughTheHeadOfACard();
-    void theWayGoesOnFromWhereTheArrowsLed_data();
-    void theWayGoesOnFromWhereTheArrowsLed();
+    void aCardsHeadIsOneTabStop();
+    void arrowKeysWalkThroughACardsHead();
+    void tabContinuesFromTheArrowKeysPosition_data();
+    void tabContinuesFromTheArrowKeysPosition();
     void everyWordOfAHeadCanBeCopied();
-    void aboveTheNameAndBelowTheBandTheArrowsScroll();
-    void everyWordOfAHeadIsThereForAScreenReader();
+    void arrowKeysScrollBeyondTheHead();
+    void everyWordOfAHeadIsAccessible();
 
 private:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -76,7 +76,7 @@ void CompareKeysTest::goTo(int card)
     QCOMPARE(focused(), words(card).constFirst());
 }
 
-void CompareKeysTest::theHeadOfACardIsOneStop()
+void CompareKeysTest::aCardsHeadIsOneTabStop()
 {
     goTo(0);
     press(Qt::Key_Tab);
@@ -89,7 +89,7 @@ void CompareKeysTest::theHeadOfACardIsOneStop()
     QCOMPARE(focused(), words(0)[0]);
 }
 
-void CompareKeysTest::theArrowsGoThroughTheHeadOfACard()
+void CompareKeysTest::arrowKeysWalkThroughACardsHead()
 {
     goTo(1);
     for (int line = 1; line < 4; ++line) {
@@ -102,7 +102,7 @@ void CompareKeysTest::theArrowsGoThroughTheHeadOfACard()
     }
 }
 
-void CompareKeysTest::theWayGoesOnFromWhereTheArrowsLed_data()
+void CompareKeysTest::tabContinuesFromTheArrowKeysPosition_data()
 {
     QTest::addColumn<int>("steps");
     QTest::newRow("scanned") << 1;
@@ -110,7 +110,7 @@ void CompareKeysTest::theWayGoesOnFromWhereTheArrowsLed_data()
     QTest::newRow("band") << 3;
 }
 
-void CompareKeysTest::theWayGoesOnFromWhereTheArrowsLed()
+void CompareKeysTest::tabContinuesFromTheArrowKeysPosition()
 {
     QFETCH(const int, steps);
     const auto goDown = [this, steps] {
@@ -138,7 +138,7 @@ void CompareKeysTest::everyWordOfAHeadCanBeCopied()
     }
 }
 
-void CompareKeysTest::aboveTheNameAndBelowTheBandTheArrowsScroll()
+void CompareKeysTest::arrowKeysScrollBeyondTheHead()
 {
     goTo(0);
     press(Qt::Key_Up);
@@ -148,7 +148,7 @@ void CompareKeysTest::aboveTheNameAndBelowTheBandTheArrowsScroll()
     QCOMPARE(focused(), words(0)[3]);
 }
 
-void CompareKeysTest::everyWordOfAHeadIsThereForAScreenReader()
+void CompareKeysTest::everyWordOfAHeadIsAccessible()
 {
     const QQuickItem *head = m_page->items("name")[0]->parentItem();
     QStringList found;

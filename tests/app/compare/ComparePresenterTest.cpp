@@ -60,7 +60,7 @@ private Q_SLOTS:
                                 "scan it to compare the two."));
     }
 
-    void claimsNothingWithTwoRepositories()
+    void hasNoEmptyTextWithTwoRepositories()
     {
         record({RecordedScanBuilder().build(), RecordedScanBuilder().in("/srv/webshop").build()});
         QCOMPARE(m_compare->emptyTitle(), QString());
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(card(-1)->place(), QString());
     }
 
-    void cardsStandByNameHoweverHeavyTheyAre()
+    void sortsCardsByNameNotWeight()
     {
         record({RecordedScanBuilder().named("z").in("/z").ofTotal(9).build(),
                 RecordedScanBuilder().named("a").in("/a").ofTotal(1).build()});
@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(first->total(), QStringLiteral("5"));
     }
 
-    void aCardTakesAnotherRepositoryAndItsLocaleIsThePages()
+    void aCardSwitchesRepositoryInThePagesLocale()
     {
         ComparePresenter local(m_scanning->model,
                                TextLocale::fromEnvironment({{"LC_ALL", "de_DE"}}));
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QCOMPARE(first->total(), QStringLiteral("2.000"));
     }
 
-    void aCardWhoseRepositoryIsGoneHarmsNothing()
+    void aCardSurvivesItsRepository()
     {
         record(twoRepositories());
         const auto last = card(1);
@@ -219,7 +219,7 @@ private Q_SLOTS:
                               QStringLiteral("equal"), QString()}));
     }
 
-    void repositoriesOfOneNameAreToldApartByTheirPath()
+    void distinguishesNamesakesByPath()
     {
         record({RecordedScanBuilder().named("app").in("/b/app").build(),
                 RecordedScanBuilder().named("app").in("/a/app").build()});
@@ -247,7 +247,7 @@ private Q_SLOTS:
                  QStringLiteral("+12,34,560"));
     }
 
-    void theLeaderboardIsAModelWhileItsEntriesChange()
+    void theLeaderboardBehavesAsAModel()
     {
         const QAbstractItemModelTester tester(m_compare->leaderboard());
         record(fourRepositories());

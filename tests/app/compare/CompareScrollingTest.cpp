@@ -31,15 +31,15 @@ public Q_SLOTS:
 private Q_SLOTS:
     void init() { m_page = std::make_unique<ComparePage>(); }
     void cleanup() { m_page.reset(); }
-    void theScrollPositionStaysWhenAScanEnds();
-    void ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade();
-    void scrollingMakesNoCards();
-    void everyPlaceShowsItsOwnRepository();
-    void fewHighCardsAreAllThere_data();
-    void fewHighCardsAreAllThere();
-    void aCardThatMovesOnGivesTheFocusBack();
-    void cardsMoveOnOneInAFrame();
-    void theLastLineOfTwoHundredRepositoriesCanBeScrolledTo();
+    void keepsTheScrollPositionWhenAScanEnds();
+    void createsOnlyVisibleCardsOfTwoHundred();
+    void scrollingCreatesNoCards();
+    void everyPositionShowsItsOwnRepository();
+    void createsAllOfFewTallCards_data();
+    void createsAllOfFewTallCards();
+    void aReusedCardReturnsTheFocus();
+    void reusesOneCardPerFrame();
+    void scrollsToTheLastLineOfTwoHundredRepositories();
 
 private:
     [[nodiscard]] bool cardsFillThePage();
@@ -73,7 +73,7 @@ bool CompareScrollingTest::cardsFillThePage()
     return filled > 0.85 * m_page->viewport()->height() * m_page->viewport()->width();
 }
 
-void CompareScrollingTest::theScrollPositionStaysWhenAScanEnds()
+void CompareScrollingTest::keepsTheScrollPositionWhenAScanEnds()
 {
     m_page->record(SampleHistories::ofSize(30, 5, 7));
     m_page->viewport()->setProperty("contentY", 420);
@@ -84,7 +84,7 @@ void CompareScrollingTest::theScrollPositionStaysWhenAScanEnds()
     QCOMPARE(m_page->items("bars").size(), 5);
 }
 
-void CompareScrollingTest::ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade()
+void CompareScrollingTest::createsOnlyVisibleCardsOfTwoHundred()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 50));
     QCOMPARE(m_page->compare().columnCount(), 200);
@@ -102,7 +102,7 @@ void CompareScrollingTest::ofTwoHundredRepositoriesOnlyWhatIsSeenIsMade()
     QTRY_VERIFY2(!m_page->items("bar").isEmpty(), "a card that was left can be come back to");
 }
 
-void CompareScrollingTest::scrollingMakesNoCards()
+void CompareScrollingTest::scrollingCreatesNoCards()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
@@ -117,7 +117,7 @@ void CompareScrollingTest::scrollingMakesNoCards()
 }
 
 // Wherever the page is, the cards it shows are those that belong there.
-void CompareScrollingTest::everyPlaceShowsItsOwnRepository()
+void CompareScrollingTest::everyPositionShowsItsOwnRepository()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
@@ -133,7 +133,7 @@ void CompareScrollingTest::everyPlaceShowsItsOwnRepository()
     }
 }
 
-void CompareScrollingTest::fewHighCardsAreAllThere_data()
+void CompareScrollingTest::createsAllOfFewTallCards_data()
 {
     QTest::addColumn<int>("repositories");
     QTest::addColumn<int>("categories");
@@ -142,7 +142,7 @@ void CompareScrollingTest::fewHighCardsAreAllThere_data()
     QTest::newRow("two") << 2 << 80;
 }
 
-void CompareScrollingTest::fewHighCardsAreAllThere()
+void CompareScrollingTest::createsAllOfFewTallCards()
 {
     QFETCH(const int, repositories);
     QFETCH(const int, categories);
@@ -153,7 +153,7 @@ void CompareScrollingTest::fewHighCardsAreAllThere()
 }
 
 // The rows stay, and say something else.
-void CompareScrollingTest::aCardThatMovesOnGivesTheFocusBack()
+void CompareScrollingTest::aReusedCardReturnsTheFocus()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
@@ -166,7 +166,7 @@ void CompareScrollingTest::aCardThatMovesOnGivesTheFocusBack()
     QVERIFY(qobject_cast<BarRow *>(m_page->view().activeFocusItem()) == nullptr);
 }
 
-void CompareScrollingTest::cardsMoveOnOneInAFrame()
+void CompareScrollingTest::reusesOneCardPerFrame()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
@@ -178,7 +178,7 @@ void CompareScrollingTest::cardsMoveOnOneInAFrame()
     QCOMPARE(m_mostNewPlaces, std::size_t{1});
 }
 
-void CompareScrollingTest::theLastLineOfTwoHundredRepositoriesCanBeScrolledTo()
+void CompareScrollingTest::scrollsToTheLastLineOfTwoHundredRepositories()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 50));
     const qreal end =

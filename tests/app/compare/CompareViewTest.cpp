@@ -51,15 +51,15 @@ private Q_SLOTS:
     void oneRepositoryShowsNoLeaderboard();
     void twoRepositoriesShowALeaderboardCardsAndOneChart();
     void theChartAppearsWithTheSecondRepository();
-    void ranksAndPathsReachTheLeaderboard();
-    void cardsStandSideBySideWhereTheyFit();
-    void cardsAreStackedWhereTheyDoNotFit();
-    void aCategoryKeepsItsPlaceInEveryCard();
+    void theLeaderboardShowsRanksAndPaths();
+    void laysCardsSideBySideIfTheyFit();
+    void stacksCardsThatDoNotFit();
+    void aCategoryKeepsItsRowInEveryCard();
     void equalTokensAreEquallyLongInEveryCard();
     void aScanWithoutCategoriesSaysSoOnItsCard();
-    void figuresOfAListEndOnOneLine();
-    void aLongNameAndALongCategoryPushNoFigureOut();
-    void saysHowToReadTheBars();
+    void alignsTheFiguresOfAList();
+    void longNamesPushNoFigureOut();
+    void explainsTheBars();
     void aCardIsMadeOfFewParts();
     void aRowIsMadeOfFewParts();
 
@@ -92,7 +92,7 @@ void CompareViewTest::theChartAppearsWithTheSecondRepository()
     QVERIFY(m_page->items("leaderboard").isEmpty());
 }
 
-void CompareViewTest::ranksAndPathsReachTheLeaderboard()
+void CompareViewTest::theLeaderboardShowsRanksAndPaths()
 {
     m_page->record({RecordedScanBuilder().named("app").in("/a/app").ofTotal(5).build(),
                     RecordedScanBuilder().named("app").in("/b/app").ofTotal(9).build()});
@@ -104,7 +104,7 @@ void CompareViewTest::ranksAndPathsReachTheLeaderboard()
     QCOMPARE(words[1]->property("whole").toString(), QStringLiteral("/a/app"));
 }
 
-void CompareViewTest::cardsStandSideBySideWhereTheyFit()
+void CompareViewTest::laysCardsSideBySideIfTheyFit()
 {
     m_page->record(SampleHistories::ofSize(2, 2, 6));
     const QList<QQuickItem *> bars = m_page->items("bars");
@@ -112,7 +112,7 @@ void CompareViewTest::cardsStandSideBySideWhereTheyFit()
     QVERIFY(bars[0]->mapToScene({}).x() < bars[1]->mapToScene({}).x());
 }
 
-void CompareViewTest::cardsAreStackedWhereTheyDoNotFit()
+void CompareViewTest::stacksCardsThatDoNotFit()
 {
     m_page->record(SampleHistories::ofSize(2, 2, 6));
     m_page->view().resize(500, 700);
@@ -122,7 +122,7 @@ void CompareViewTest::cardsAreStackedWhereTheyDoNotFit()
     QVERIFY(bars[0]->mapToScene({}).y() + bars[0]->height() < bars[1]->mapToScene({}).y());
 }
 
-void CompareViewTest::aCategoryKeepsItsPlaceInEveryCard()
+void CompareViewTest::aCategoryKeepsItsRowInEveryCard()
 {
     m_page->record(
         {RecordedScanBuilder().in("/a").withCategory("x", 9).withCategory("y", 5).build(),
@@ -156,7 +156,7 @@ void CompareViewTest::aScanWithoutCategoriesSaysSoOnItsCard()
     QCOMPARE(words[0]->property("text").toString(), QStringLiteral("No category estimates"));
 }
 
-void CompareViewTest::figuresOfAListEndOnOneLine()
+void CompareViewTest::alignsTheFiguresOfAList()
 {
     m_page->record(SampleHistories::ofSize(31, 5, 7));
     std::set<qreal> ranked;
@@ -171,7 +171,7 @@ void CompareViewTest::figuresOfAListEndOnOneLine()
     QCOMPARE(combined.size(), std::size_t(1));
 }
 
-void CompareViewTest::aLongNameAndALongCategoryPushNoFigureOut()
+void CompareViewTest::longNamesPushNoFigureOut()
 {
     const std::string name(300, 'n');
     const std::string category(80, 'c');
@@ -197,7 +197,7 @@ void CompareViewTest::aLongNameAndALongCategoryPushNoFigureOut()
     }
 }
 
-void CompareViewTest::saysHowToReadTheBars()
+void CompareViewTest::explainsTheBars()
 {
     const QStringList expected = {
         QStringLiteral("One bar is one category of one repository's latest recorded scan. Its "

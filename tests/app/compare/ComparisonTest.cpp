@@ -12,7 +12,7 @@ class ComparisonTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void nothingRecordedComparesNothing()
+    void anEmptyHistoryIsAnEmptyComparison()
     {
         const Comparison comparison = Comparison::of({});
         QVERIFY(comparison.leaderboard.empty());
@@ -20,7 +20,7 @@ private Q_SLOTS:
         QCOMPARE(comparison.bars.columnCount(), std::size_t(0));
     }
 
-    void theLeaderboardRunsByWeightAndTheColumnsByName()
+    void sortsTheLeaderboardByWeightAndColumnsByName()
     {
         const std::vector scans{
             RecordedScanBuilder().named("a").in("/a").ofTotal(1).build(),
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(comparison.bars.maximumRowTokens(), std::int64_t(5));
     }
 
-    void theAxisRunsByTheTokensOfAllRepositoriesTogether()
+    void sortsTheAxisByTotalTokens()
     {
         const std::vector scans{
             RecordedScanBuilder().in("/a").withCategory("x", 10).withCategory("y", 7).build(),
@@ -61,7 +61,7 @@ private Q_SLOTS:
                  QStringLiteral("Tools: 16,851 tokens"));
     }
 
-    void aCategoryOfNoTokensIsNotAMissingOne()
+    void distinguishesZeroFromMissing()
     {
         QCOMPARE(BarText::value(0, {}), QStringLiteral("0"));
         QCOMPARE(BarText::value(std::nullopt, {}), QStringLiteral("–"));

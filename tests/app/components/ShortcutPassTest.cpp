@@ -44,7 +44,7 @@ private Q_SLOTS:
         QVERIFY(!isClaimed(item, QEvent::ShortcutOverride));
     }
 
-    void otherKeysStayTheItems()
+    void otherKeysReachTheItem()
     {
         ClaimingItem item;
         ShortcutPass pass;
@@ -52,7 +52,7 @@ private Q_SLOTS:
         QVERIFY(isClaimed(item, QEvent::KeyPress));
     }
 
-    void anItemThatItLeavesClaimsKeysAgain()
+    void aDetachedItemClaimsKeysAgain()
     {
         ClaimingItem item;
         ShortcutPass pass;

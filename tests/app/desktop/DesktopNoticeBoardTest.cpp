@@ -22,17 +22,17 @@ private Q_SLOTS:
     void theNoticeReachesTheDesktop();
     void theBodyIsNeverMarkup();
     void aServiceWithoutMarkupGetsThePlainText();
-    void theNextNoticeTakesThePlaceOfTheOneBefore();
-    void isTakenBack();
-    void isTakenBackWhileItIsOnItsWay();
-    void nothingIsTakenBackTwice();
-    void aWithdrawnNoticeIsNotSentAtAll();
-    void aPressIsPassedOn();
-    void pressesOfOthersAreNot();
-    void withoutABusNothingHappens();
-    void withoutAServiceNothingHappens();
+    void theNextNoticeReplacesThePreviousOne();
+    void withdrawsANotice();
+    void withdrawsAPendingNotice();
+    void withdrawsOnlyOnce();
+    void neverSendsAWithdrawnNotice();
+    void forwardsAPress();
+    void ignoresPressesOnOtherNotices();
+    void isANoOpWithoutABus();
+    void isANoOpWithoutAService();
     void connectsOnlyWhenThereIsSomethingToShow();
-    void mayGoBeforeTheBusIsConnected();
+    void canBeDestroyedBeforeTheBusIsConnected();
 
 private:
     [[nodiscard]] QString newName() { return QStringLiteral("connection %1").arg(++m_count); }
@@ -109,7 +109,7 @@ void DesktopNoticeBoardTest::aServiceWithoutMarkupGetsThePlainText()
     QCOMPARE(desktop().notes.first().body, QStringLiteral("<img> & co"));
 }
 
-void DesktopNoticeBoardTest::theNextNoticeTakesThePlaceOfTheOneBefore()
+void DesktopNoticeBoardTest::theNextNoticeReplacesThePreviousOne()
 {
     StandInNotifications &asked = desktop();
     DesktopNoticeBoard &shown = board();
@@ -121,7 +121,7 @@ void DesktopNoticeBoardTest::theNextNoticeTakesThePlaceOfTheOneBefore()
     QCOMPARE(asked.notes.last().replaced, 1U);
 }
 
-void DesktopNoticeBoardTest::isTakenBack()
+void DesktopNoticeBoardTest::withdrawsANotice()
 {
     StandInNotifications &asked = desktop();
     DesktopNoticeBoard &shown = board();
@@ -131,7 +131,7 @@ void DesktopNoticeBoardTest::isTakenBack()
     QTRY_COMPARE(asked.closed, QList<uint>{1U});
 }
 
-void DesktopNoticeBoardTest::isTakenBackWhileItIsOnItsWay()
+void DesktopNoticeBoardTest::withdrawsAPendingNotice()
 {
     StandInNotifications &asked = desktop();
     asked.holdsBack = true;
@@ -143,7 +143,7 @@ void DesktopNoticeBoardTest::isTakenBackWhileItIsOnItsWay()
     QTRY_COMPARE(asked.closed, QList<uint>{1U});
 }
 
-void DesktopNoticeBoardTest::nothingIsTakenBackTwice()
+void DesktopNoticeBoardTest::withdrawsOnlyOnce()
 {
     StandInNotifications &asked = desktop();
     DesktopNoticeBoard &shown = board();
@@ -157,7 +157,7 @@ void DesktopNoticeBoardTest::nothingIsTakenBackTwice()
     QCOMPARE(asked.closed.size(), 1);
 }
 
-void DesktopNoticeBoardTest::aWithdrawnNoticeIsNotSentAtAll()
+void DesktopNoticeBoardTest::neverSendsAWithdrawnNotice()
 {
     StandInNotifications &asked = desktop();
     DesktopNoticeBoard &shown = board();
@@ -169,7 +169,7 @@ void DesktopNoticeBoardTest::aWithdrawnNoticeIsNotSentAtAll()
     QTRY_COMPARE(asked.notes.size(), 1);
 }
 
-void DesktopNoticeBoardTest::aPressIsPassedOn()
+void DesktopNoticeBoardTest::forwardsAPress()
 {
     StandInNotifications &asked = desktop();
     DesktopNoticeBoard &shown = board();
@@ -184,7 +184,7 @@ void DesktopNoticeBoardTest::aPressIsPassedOn()
     QCOMPARE(pressed.last().first().toByteArray(), QByteArray());
 }
 
-void DesktopNoticeBoardTest::pressesOfOthersAreNot()
+void DesktopNoticeBoardTest::ignoresPressesOnOtherNotices()
 {
     StandInNotifications &asked = desktop();
     DesktopNoticeBoard &shown = board();
@@ -199,7 +199,7 @@ void DesktopNoticeBoardTest::pressesOfOthersAreNot()
     QCOMPARE(pressed.count(), 1);
 }
 
-void DesktopNoticeBoardTest::withoutABusNothingHappens()
+void DesktopNoticeBoardTest::isANoOpWithoutABus()
 {
     DesktopNoticeBoard board(std::make_shared<QtTaskDispatcher>(m_interface),
                              [] { return QDBusConnection(QStringLiteral("no such connection")); });
@@ -209,7 +209,7 @@ void DesktopNoticeBoardTest::withoutABusNothingHappens()
     board.withdraw();
 }
 
-void DesktopNoticeBoardTest::withoutAServiceNothingHappens()
+void DesktopNoticeBoardTest::isANoOpWithoutAService()
 {
     board().show(m_notice);
     QTest::qWait(50);
@@ -236,7 +236,7 @@ void DesktopNoticeBoardTest::connectsOnlyWhenThereIsSomethingToShow()
     QCOMPARE(count, 1);
 }
 
-void DesktopNoticeBoardTest::mayGoBeforeTheBusIsConnected()
+void DesktopNoticeBoardTest::canBeDestroyedBeforeTheBusIsConnected()
 {
     const auto dispatcher = std::make_shared<SteppingDispatcher>();
     {

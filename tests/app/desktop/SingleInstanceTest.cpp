@@ -20,14 +20,14 @@ class SingleInstanceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFirstIsThereForThoseWhoComeLater()
+    void theFirstInstanceListens()
     {
         const SingleInstance first(m_folder.path());
         QVERIFY(first.isListening());
         QVERIFY(!first.isAnswered());
     }
 
-    void theSecondIsAnsweredAndTheFirstShowsItself()
+    void theSecondIsAnsweredAndTheFirstIsRaised()
     {
         SingleInstance first(m_folder.path());
         QSignalSpy wanted(&first, &SingleInstance::windowWanted);
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QTRY_COMPARE(wanted.count(), 2);
     }
 
-    void theDesktopsLeaveIsPassedOn()
+    void forwardsTheActivationToken()
     {
         const EnvironmentSwap given({"XDG_ACTIVATION_TOKEN=leave-1"});
         SingleInstance first(m_folder.path());
@@ -47,14 +47,14 @@ private Q_SLOTS:
         QCOMPARE(wanted.first().first().toByteArray(), QByteArray("leave-1"));
     }
 
-    void aLeaveThatIsNoneIsNotPassedOn_data()
+    void dropsAnInvalidActivationToken_data()
     {
         QTest::addColumn<QByteArray>("token");
         QTest::newRow("two lines") << QByteArray("one\ntwo");
         QTest::newRow("too long") << QByteArray(513, 't');
     }
 
-    void aLeaveThatIsNoneIsNotPassedOn()
+    void dropsAnInvalidActivationToken()
     {
         QFETCH(const QByteArray, token);
         const EnvironmentSwap given({"XDG_ACTIVATION_TOKEN=" + token.toStdString()});
@@ -73,13 +73,13 @@ private Q_SLOTS:
         QVERIFY(!second.isAnswered());
     }
 
-    void theSameFolderWrittenOtherwiseIsTheSame()
+    void normalizesTheFolder()
     {
         SingleInstance first(m_folder.path());
         QVERIFY(startAnother(m_folder.path() / "x" / ".."));
     }
 
-    void theNameIsFreeAgainAfterTheFirst()
+    void theFirstReleasesTheName()
     {
         {
             const SingleInstance first(m_folder.path());
@@ -90,7 +90,7 @@ private Q_SLOTS:
     }
 
     // Its event loop does not run here.
-    void oneThatDoesNotAnswerHoldsUpTheNextForASecond()
+    void aHangingInstanceDelaysTheNextByASecond()
     {
         const SingleInstance hanging(m_folder.path());
         QElapsedTimer timer;
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QVERIFY(timer.elapsed() < 10'000);
     }
 
-    void withoutAFolderNobodyIsAsked()
+    void isANoOpWithoutAFolder()
     {
         const SingleInstance first((std::filesystem::path()));
         const SingleInstance second((std::filesystem::path()));
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QVERIFY(!second.isListening());
     }
 
-    void visitorsWhoSayNothingDisturbNobody()
+    void silentVisitorsAreHarmless()
     {
         SingleInstance first(m_folder.path());
         QSignalSpy wanted(&first, &SingleInstance::windowWanted);

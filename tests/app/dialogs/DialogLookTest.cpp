@@ -24,9 +24,9 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void isLightOrDarkWithTheWindow();
-    void wordsAreAsLargeAsInTheWindow();
-    void theDesktopsPaletteStaysItsOwn();
-    void aWindowWithoutAnEngineChangesNothing();
+    void usesTheWindowsFontSize();
+    void leavesTheDesktopsPaletteAlone();
+    void isANoOpWithoutAnEngine();
 
 private:
     std::unique_ptr<QQmlEngine> m_engine;
@@ -66,21 +66,21 @@ void DialogLookTest::isLightOrDarkWithTheWindow()
     QVERIFY(m_dialog->palette().text().color().lightness() > 200);
 }
 
-void DialogLookTest::wordsAreAsLargeAsInTheWindow()
+void DialogLookTest::usesTheWindowsFontSize()
 {
     QCOMPARE(m_dialog->font().pixelSize(), 13);
     m_appearance->setTextScale(1.5);
     QCOMPARE(m_dialog->font().pixelSize(), 20);
 }
 
-void DialogLookTest::theDesktopsPaletteStaysItsOwn()
+void DialogLookTest::leavesTheDesktopsPaletteAlone()
 {
     const QPalette desktop = QGuiApplication::palette();
     m_appearance->setScheme(Appearance::Dark);
     QCOMPARE(QGuiApplication::palette(), desktop);
 }
 
-void DialogLookTest::aWindowWithoutAnEngineChangesNothing()
+void DialogLookTest::isANoOpWithoutAnEngine()
 {
     const QPalette before = m_dialog->palette();
     QQuickWindow bare;

@@ -20,16 +20,16 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void asksOverTheWindow();
-    void suggestsTheNameForTypingOver();
+    void selectsTheSuggestedName();
     void enterSaves_data();
     void enterSaves();
-    void savesWhereThePathSaysThatIsTyped_data();
-    void savesWhereThePathSaysThatIsTyped();
-    void addsTheEndingOfTheKindThatIsMissing_data();
-    void addsTheEndingOfTheKindThatIsMissing();
-    void theEndingFollowsTheKindThatIsChosen();
-    void entersAFolderThatIsTyped_data();
-    void entersAFolderThatIsTyped();
+    void savesAtATypedPath_data();
+    void savesAtATypedPath();
+    void addsAMissingEnding_data();
+    void addsAMissingEnding();
+    void theEndingFollowsTheChosenKind();
+    void entersATypedFolder_data();
+    void entersATypedFolder();
     void staysOpenWithoutAName();
     void replacesAFileOnlyWhenTheUserAgrees_data();
     void replacesAFileOnlyWhenTheUserAgrees();
@@ -37,7 +37,7 @@ private Q_SLOTS:
     void givesNothingWhenTheUserCancels();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
-    void asksNobodyWithoutAWindow();
+    void isANoOpWithoutAWindow();
 
 private:
     void open();
@@ -91,7 +91,7 @@ void FileSaverTest::asksOverTheWindow()
     QCOMPARE(dialog.windowModality(), Qt::WindowModal);
 }
 
-void FileSaverTest::suggestsTheNameForTypingOver()
+void FileSaverTest::selectsTheSuggestedName()
 {
     open();
     QCOMPARE(DialogFixture::nameField().selectedText(), QStringLiteral("trend.png"));
@@ -116,7 +116,7 @@ void FileSaverTest::enterSaves()
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
-void FileSaverTest::savesWhereThePathSaysThatIsTyped_data()
+void FileSaverTest::savesAtATypedPath_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("file");
@@ -127,7 +127,7 @@ void FileSaverTest::savesWhereThePathSaysThatIsTyped_data()
     QTest::newRow("without an ending") << QByteArray("$/sub/c") << QByteArray("sub/c.png");
 }
 
-void FileSaverTest::savesWhereThePathSaysThatIsTyped()
+void FileSaverTest::savesAtATypedPath()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QByteArray, file);
@@ -136,7 +136,7 @@ void FileSaverTest::savesWhereThePathSaysThatIsTyped()
     QCOMPARE(m_target->file, root() / file.toStdString());
 }
 
-void FileSaverTest::addsTheEndingOfTheKindThatIsMissing_data()
+void FileSaverTest::addsAMissingEnding_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QByteArray>("file");
@@ -149,7 +149,7 @@ void FileSaverTest::addsTheEndingOfTheKindThatIsMissing_data()
     QTest::newRow("nothing else") << QByteArray(".png") << QByteArray(".png");
 }
 
-void FileSaverTest::addsTheEndingOfTheKindThatIsMissing()
+void FileSaverTest::addsAMissingEnding()
 {
     QFETCH(const QByteArray, name);
     QFETCH(const QByteArray, file);
@@ -159,7 +159,7 @@ void FileSaverTest::addsTheEndingOfTheKindThatIsMissing()
     QVERIFY(m_target->mayReplace);
 }
 
-void FileSaverTest::theEndingFollowsTheKindThatIsChosen()
+void FileSaverTest::theEndingFollowsTheChosenKind()
 {
     open();
     auto *kinds = DialogFixture::dialog()->findChild<QComboBox *>(QStringLiteral("fileTypeCombo"));
@@ -171,7 +171,7 @@ void FileSaverTest::theEndingFollowsTheKindThatIsChosen()
     QCOMPARE(m_target->file, root() / "all.svg");
 }
 
-void FileSaverTest::entersAFolderThatIsTyped_data()
+void FileSaverTest::entersATypedFolder_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("name") << QByteArray("sub");
@@ -180,7 +180,7 @@ void FileSaverTest::entersAFolderThatIsTyped_data()
     QTest::newRow("from the home") << QByteArray("~/sub");
 }
 
-void FileSaverTest::entersAFolderThatIsTyped()
+void FileSaverTest::entersATypedFolder()
 {
     QFETCH(const QByteArray, text);
     save(text);
@@ -259,7 +259,7 @@ void FileSaverTest::opensInTheFolderItShowedLast()
     QCOMPARE(m_target->file, root() / "sub" / "trend.png");
 }
 
-void FileSaverTest::asksNobodyWithoutAWindow()
+void FileSaverTest::isANoOpWithoutAWindow()
 {
     platformFileSaver({})->open({}, [](const FileSaver::Target &) { QFAIL("asked"); });
     QVERIFY(DialogFixture::dialog() == nullptr);

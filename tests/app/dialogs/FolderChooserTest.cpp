@@ -20,19 +20,19 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void asksOverTheWindow();
-    void listsFoldersAlone();
+    void listsOnlyFolders();
     void choosesTheShownFolderUnlessAnotherIsNamed();
-    void choosesTheFolderThatIsTyped_data();
-    void choosesTheFolderThatIsTyped();
-    void staysOpenForWhatIsNoFolder_data();
-    void staysOpenForWhatIsNoFolder();
-    void forgetsAnAddressOfNothing();
+    void choosesATypedFolder_data();
+    void choosesATypedFolder();
+    void staysOpenForATypedNonFolder_data();
+    void staysOpenForATypedNonFolder();
+    void forgetsAMistypedAddress();
     void choosesAFolderWhoseNameIsNotUtf8();
     void givesNothingWhenTheUserCancels();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
-    void asksNobodyWithoutAWindow();
-    void givesNothingOnceItIsGone();
+    void isANoOpWithoutAWindow();
+    void givesNothingOnceDestroyed();
 
 private:
     void open();
@@ -77,7 +77,7 @@ void FolderChooserTest::asksOverTheWindow()
     QCOMPARE(dialog.windowModality(), Qt::WindowModal);
 }
 
-void FolderChooserTest::listsFoldersAlone()
+void FolderChooserTest::listsOnlyFolders()
 {
     open();
     QCOMPARE(
@@ -93,7 +93,7 @@ void FolderChooserTest::choosesTheShownFolderUnlessAnotherIsNamed()
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
-void FolderChooserTest::choosesTheFolderThatIsTyped_data()
+void FolderChooserTest::choosesATypedFolder_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("folder");
@@ -109,7 +109,7 @@ void FolderChooserTest::choosesTheFolderThatIsTyped_data()
     row("address", "file://$/webshop/z%23z", "webshop/z#z");
 }
 
-void FolderChooserTest::choosesTheFolderThatIsTyped()
+void FolderChooserTest::choosesATypedFolder()
 {
     QFETCH(const QByteArray, text);
     QFETCH(const QByteArray, folder);
@@ -120,7 +120,7 @@ void FolderChooserTest::choosesTheFolderThatIsTyped()
     QCOMPARE(*m_chosen, root() / folder.toStdString());
 }
 
-void FolderChooserTest::staysOpenForWhatIsNoFolder_data()
+void FolderChooserTest::staysOpenForATypedNonFolder_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("not there") << QByteArray("$/nowhere");
@@ -129,7 +129,7 @@ void FolderChooserTest::staysOpenForWhatIsNoFolder_data()
     QTest::newRow("another machine") << QByteArray("file://server/srv");
 }
 
-void FolderChooserTest::staysOpenForWhatIsNoFolder()
+void FolderChooserTest::staysOpenForATypedNonFolder()
 {
     QFETCH(const QByteArray, text);
     open();
@@ -139,7 +139,7 @@ void FolderChooserTest::staysOpenForWhatIsNoFolder()
     QVERIFY(DialogFixture::dialog() != nullptr);
 }
 
-void FolderChooserTest::forgetsAnAddressOfNothing()
+void FolderChooserTest::forgetsAMistypedAddress()
 {
     open();
     m_fixture->type("file://$/nowhere");
@@ -189,13 +189,13 @@ void FolderChooserTest::opensInTheFolderItShowedLast()
     QCOMPARE(m_chosen, root() / "webshop");
 }
 
-void FolderChooserTest::asksNobodyWithoutAWindow()
+void FolderChooserTest::isANoOpWithoutAWindow()
 {
     platformFolderChooser({})->open([](const std::filesystem::path &) { QFAIL("asked"); });
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
-void FolderChooserTest::givesNothingOnceItIsGone()
+void FolderChooserTest::givesNothingOnceDestroyed()
 {
     open();
     m_chooser.reset();

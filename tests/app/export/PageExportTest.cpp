@@ -35,7 +35,7 @@ private Q_SLOTS:
     }
     void cleanup() { m_window.reset(); }
 
-    void theTrendIsSavedAsCommaSeparatedValues()
+    void savesTheTrendAsCsv()
     {
         m_window->loadwick().content().setPageIndex(1);
         const auto file = save("Save Data…", "trend.csv");
@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(m_window->shows(savedAs(file)));
     }
 
-    void theComparisonIsSavedWithItsCategories()
+    void savesTheComparisonWithItsCategories()
     {
         m_window->loadwick().content().setPageIndex(2);
         const QByteArray table = content(save("Save Data…", "all.csv"));
@@ -59,7 +59,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-comparison.csv"));
     }
 
-    void theTrendsChartIsSavedAsAPicture()
+    void savesTheTrendsChartAsAPicture()
     {
         m_window->loadwick().content().setPageIndex(1);
         const QImage image(QString::fromStdString(save("Save Chart…", "trend.png").string()));
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(colorCount(image) > 20);
     }
 
-    void theComparisonsChartIsSavedWhole()
+    void savesTheWholeComparisonChart()
     {
         m_window->loadwick().content().setPageIndex(2);
         const QImage image(QString::fromStdString(save("Save Chart…", "all.png").string()));
@@ -77,14 +77,14 @@ private Q_SLOTS:
         QVERIFY(colorCount(image) > 20);
     }
 
-    void anEndingOfADrawingGivesADrawing_data()
+    void anSvgEndingSavesADrawing_data()
     {
         QTest::addColumn<QByteArray>("name");
         for (const char *name : {"trend.svg", "v1.2.Svg"})
             QTest::newRow(name) << QByteArray(name);
     }
 
-    void anEndingOfADrawingGivesADrawing()
+    void anSvgEndingSavesADrawing()
     {
         QFETCH(const QByteArray, name);
         m_window->loadwick().content().setPageIndex(1);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(drawing.contains("Excessive"));
     }
 
-    void aTrendSaysWhatItShowsAndOfWhichDays()
+    void aTrendNamesItsSubjectAndDays()
     {
         m_window->loadwick().content().setPageIndex(1);
         const QByteArray drawing = content(save("Save Chart…", "trend.svg"));
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(drawing.contains((dateText(moment, DateForm::day, TextLocale()) + ".<").c_str()));
     }
 
-    void aComparisonSaysWhatItShows()
+    void aComparisonNamesItsSubject()
     {
         m_window->loadwick().content().setPageIndex(2);
         const QByteArray drawing = content(save("Save Chart…", "all.svg"));
@@ -115,7 +115,7 @@ private Q_SLOTS:
             QVERIFY2(drawing.contains(words), words);
     }
 
-    void aFileIsReplacedOnlyByWhoKnowsOfIt()
+    void replacesAFileOnlyWithConsent()
     {
         m_window->loadwick().content().setPageIndex(1);
         const auto file = m_window->folder().write("trend.csv", "precious");
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->shows(savedAs(m_window->folder().path() / "loadwick-trend-two.csv")));
     }
 
-    void theWindowMayGoBeforeTheFileIsWritten()
+    void theWindowMayCloseBeforeTheFileIsWritten()
     {
         m_window->loadwick().content().setPageIndex(1);
         const auto file = m_window->folder().path() / "late.csv";

@@ -58,7 +58,7 @@ class PictureFrameTest : public QObject
 private Q_SLOTS:
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 
-    void theChartStandsBelowTheWordsWithinTheMargin()
+    void theChartIsBelowTheWordsWithinTheMargin()
     {
         QPointF origin;
         const QImage image = picture(*frame(words(), {words()}), &origin);
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(origin.y() + chart.height() + 16 > image.height() - 2);
     }
 
-    void everyLineTakesRoom()
+    void everyLineAddsHeight()
     {
         const int one = frame(words(), {words()})->sizeAround(chart).height();
         const int two = frame(words(), {words(), words()})->sizeAround(chart).height();
@@ -83,14 +83,14 @@ private Q_SLOTS:
         QVERIFY(last <= 432 - 14);
     }
 
-    void aLineFeedInANameBeginsALine()
+    void aLineFeedInANameBreaksTheLine()
     {
         const int one = frame(QStringLiteral("a b"), {})->sizeAround(chart).height();
         const int two = frame(QStringLiteral("a\nb"), {})->sizeAround(chart).height();
         QVERIFY(two > one + 8);
     }
 
-    void wordsBeginOnTheRightWhereLinesDo()
+    void alignsWordsRightInRightToLeftLayouts()
     {
         QVERIFY(inkedColumns(picture(*frame(words(), {}))).first < 60);
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);

@@ -25,7 +25,7 @@ private Q_SLOTS:
                  QStringLiteral("trend"));
     }
 
-    void aSuggestedNameLeadsToNoOtherFolder()
+    void aSuggestedNameContainsNoPath()
     {
         QCOMPARE(
             SavedFile::suggestedName(QStringLiteral("trend"), QStringLiteral("../a b\n\u202Ec")),
@@ -64,7 +64,7 @@ private Q_SLOTS:
         QCOMPARE(SavedFile::reason({failure, std::generic_category()}), words);
     }
 
-    void aQuotaThatIsUsedUpIsAFullDisk()
+    void anExceededQuotaIsAFullDisk()
     {
         QCOMPARE(SavedFile::reason({EDQUOT, std::generic_category()}),
                  QStringLiteral("the disk is full."));

@@ -86,7 +86,7 @@ private Q_SLOTS:
         QVERIFY(isEmpty(painted(symbol)));
     }
 
-    void anEmptyNamePaintsNothingInSilence()
+    void anEmptyNameSilentlyPaintsNothing()
     {
         Symbol symbol;
         symbol.setSize({16, 16});
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY2(softPixels(painted(right)) > 20, "a turned edge is smooth");
     }
 
-    void saysWhatChanged()
+    void signalsChanges()
     {
         Symbol symbol;
         const QSignalSpy names(&symbol, &Symbol::nameChanged);
@@ -147,11 +147,11 @@ private Q_SLOTS:
         QCOMPARE(angles.size(), 1);
     }
 
-    void aPictureIsMadeOnce() { QCOMPARE(picture("test:once"), picture("test:once")); }
+    void cachesAPicture() { QCOMPARE(picture("test:once"), picture("test:once")); }
 
     void anotherKeyHasAnotherPicture() { QVERIFY(picture("test:one") != picture("test:other")); }
 
-    void theLeastRecentlyUsedPicturesAreDropped()
+    void evictsTheLeastRecentlyUsedPictures()
     {
         m_madeCount = 0;
         (void)picture("test:oldest");

@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(m_store->writes, 0);
     }
 
-    void theShortcutsOfTheWindowDoNothingBehindIt()
+    void theWindowsShortcutsAreDisabledBehindIt()
     {
         openSheet();
         m_window->chooser().answer = m_window->folder().path();

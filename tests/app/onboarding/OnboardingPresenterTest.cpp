@@ -179,7 +179,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void staysClosedWhenCalledOffInTime()
+    void staysClosedWhenCancelledInTime()
     {
         ask();
         QTest::qWait(100);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void ignoresAnAnswerAfterBeingCalledOff()
+    void ignoresAnAnswerAfterCancellation()
     {
         m_onboarding->presentOnboardingIfFirstLaunch(m_dispatcher);
         m_onboarding->callOff();
@@ -197,7 +197,7 @@ private Q_SLOTS:
         QVERIFY(!m_onboarding->isPresented());
     }
 
-    void dropsAnAnswerAfterItsEnd()
+    void dropsAnAnswerAfterDestruction()
     {
         m_onboarding->presentOnboardingIfFirstLaunch(m_dispatcher);
         m_onboarding.reset();

@@ -41,7 +41,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(file()), std::string("[General]\nhasCompletedOnboarding=true\n"));
     }
 
-    void canBeTakenBack()
+    void canBeReset()
     {
         store().setOnboardingCompleted(true);
         store().setOnboardingCompleted(false);
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QVERIFY(!fs::exists(file()));
     }
 
-    void aFileWhereTheFolderBelongsFailsSilently()
+    void aFileInsteadOfTheFolderFailsSilently()
     {
         m_folder->write("Loadwick", "in the way");
         store().setOnboardingCompleted(true);
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(m_folder->path() / "Loadwick"), std::string("in the way"));
     }
 
-    void aFolderWhereTheFileBelongsFailsSilently()
+    void aFolderInsteadOfTheFileFailsSilently()
     {
         fs::create_directories(file());
         store().setOnboardingCompleted(true);

@@ -38,7 +38,7 @@ class BandPresenterTest : public QObject
 private Q_SLOTS:
     void init() { m_presenter = std::make_unique<BandPresenter>(TextLocale()); }
 
-    void showsATotalOfNothingBeforeTheFirstReport()
+    void showsATotalOfZeroBeforeTheFirstReport()
     {
         QCOMPARE(m_presenter->total(), QStringLiteral("0"));
         QCOMPARE(m_presenter->position(), 0.0);
@@ -62,7 +62,7 @@ private Q_SLOTS:
         QTEST(m_presenter->band(), "band");
     }
 
-    void placesATotalOfNothingAtTheFarLeft()
+    void aTotalOfZeroIsAtTheFarLeft()
     {
         m_presenter->show(reportOf(0));
         QCOMPARE(m_presenter->position(), 0.0);
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QTEST(band->scoreDetail(), "detail");
     }
 
-    void aTotalOfNothingScoresOneHundred()
+    void aTotalOfZeroScoresOneHundred()
     {
         const auto band = shown(0, "en_US");
         QCOMPARE(band->scoreText(), QStringLiteral("100"));

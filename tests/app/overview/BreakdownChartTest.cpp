@@ -100,7 +100,7 @@ private Q_SLOTS:
         QTRY_COMPARE(arriving.opacity(), 1.0);
     }
 
-    void withReduceMotionTheDonutIsThereAtOnce()
+    void withReduceMotionTheDonutIsVisibleAtOnce()
     {
         const BreakdownWindow shown(sampleReport());
         QCOMPARE(shown.item(ring).scale(), 1.0);

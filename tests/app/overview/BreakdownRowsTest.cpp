@@ -153,7 +153,7 @@ private Q_SLOTS:
                                 "(estimate)"));
     }
 
-    void keepsNamesLetterByLetter()
+    void keepsNamesVerbatim()
     {
         ScanReport report = reportOf(10, {rowOf(5)});
         report.rows[0].name = "<b>Nachrichten</b> & \xc3\xa4hnliches \xf0\x9f\x93\x8e";
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QCOMPARE(text(rows, 0, "tokens"), QStringLiteral("9,007,199,254,740,993"));
     }
 
-    void hasNothingBeyondItsRows()
+    void isEmptyOutOfRange()
     {
         BreakdownRows rows{TextLocale()};
         rows.show(sampleReport());

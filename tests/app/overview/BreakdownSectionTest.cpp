@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(shown.texts().count(QStringLiteral("0.0%")), shown.breakdown().rows()->rowCount());
     }
 
-    void makesOnlyTheVisibleOfEightThousandRows()
+    void createsOnlyTheVisibleOfEightThousandRows()
     {
         BreakdownWindow shown(reportOfRows(8'000, "Row "));
         QVERIFY(shown.items(QStringLiteral("source")).size() < 40);
@@ -128,14 +128,14 @@ private Q_SLOTS:
         }
     }
 
-    void ownNamesAreWholeInTheSmallestWindow()
+    void showsOurCategoryNamesUnelidedInTheSmallestWindow()
     {
         const BreakdownWindow shown(SampleScans::notSelfReported().report(), 660);
         for (const QQuickItem *name : shown.items(QStringLiteral("name")))
             QVERIFY(!name->property("truncated").toBool());
     }
 
-    void figuresEndOnOneLine()
+    void alignsFigures()
     {
         const BreakdownWindow shown(SampleScans::heavy().report());
         for (const auto &column : {QStringLiteral("tokens"), QStringLiteral("share")}) {

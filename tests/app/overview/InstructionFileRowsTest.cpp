@@ -123,7 +123,7 @@ private Q_SLOTS:
         QCOMPARE(textOf(rows, "amount"), QStringLiteral("1 token"));
     }
 
-    void saysInsteadOfFiguresThatAFileIsUnreadable()
+    void reportsAnUnreadableFileInsteadOfFigures()
     {
         InstructionFileRows rows;
         const InstructionFileRows::Context context = contextOf({});
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(textOf(rows, "name"), QStringLiteral("bare.md"));
     }
 
-    void isEmptyBeyondItsRows()
+    void isEmptyOutOfRange()
     {
         InstructionFileRows rows;
         showAll(rows, contextOf(oneFile(400)));
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
     }
 
-    void keepsWhatItsRowsPointTo()
+    void keepsTheFileSetAlive()
     {
         InstructionFileRows rows;
         {
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(rows.roleNames().values().contains("isReadable"));
     }
 
-    void writesNothingUntilAsked()
+    void composesTextLazily()
     {
         InstructionFileSet files;
         for (int file = 0; file < 10'000; ++file)

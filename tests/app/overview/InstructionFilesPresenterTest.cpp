@@ -243,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(files.largestRows()->count(), 3);
     }
 
-    void saysWhatTheFilesMeanToASessionThatReportedNoCategories()
+    void explainsTheFilesOfASessionWithoutCategories()
     {
         InstructionFilesPresenter files({}, "/home/ada");
         ScanReport report = reportOf(threeTiers());

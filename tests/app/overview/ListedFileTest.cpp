@@ -98,7 +98,7 @@ private Q_SLOTS:
         QVERIFY(ListedFile::largest(InstructionFileSet::empty, 5).empty());
     }
 
-    void thePathTellsTheTier_data()
+    void derivesTheTierFromThePath_data()
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<int>("tier");
@@ -117,7 +117,7 @@ private Q_SLOTS:
         row("anywhere", "/etc/notes.md", InstructionFileTier::inherited);
     }
 
-    void thePathTellsTheTier()
+    void derivesTheTierFromThePath()
     {
         QFETCH(const QString, path);
         const TierFolders folders("/home/ada/code/app", "/home/ada");
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(int(folders.tierOf("/etc/notes.md")), int(InstructionFileTier::repository));
     }
 
-    void ignoresHowAFolderIsSpelled()
+    void normalizesFolders()
     {
         const TierFolders folders("/home/ada/x/../app/", "/home/./ada/");
         QCOMPARE(int(folders.tierOf("/home/ada/app/CLAUDE.md")),

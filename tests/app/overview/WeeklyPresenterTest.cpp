@@ -83,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(m_weekly->tokensPerPRCaption(), QStringLiteral("+2,318,832 versus target"));
     }
 
-    void forgetsALineThatIsTakenBack()
+    void clearsAWithdrawnLine()
     {
         m_weekly->show(lineOf(1, 1));
         m_weekly->show(std::nullopt);
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QVERIFY(!m_weekly->hasLine());
     }
 
-    void dropsALineThatComesTooLate()
+    void dropsALateLine()
     {
         m_weekly->load(writeLog(), m_dispatcher);
         m_weekly.reset();

@@ -48,14 +48,14 @@ class AccessMatrixTest : public QObject
 
 private Q_SLOTS:
     void cleanup();
-    void everyPageIsWholeAndNamed_data();
-    void everyPageIsWholeAndNamed();
-    void theWalkThroughIsWholeAndNamed_data() { everyPageIsWholeAndNamed_data(); }
-    void theWalkThroughIsWholeAndNamed();
-    void everyPageIsWholeInTheLargestText_data() { directions(); }
-    void everyPageIsWholeInTheLargestText();
-    void theWalkThroughIsWholeInTheLargestText_data() { directions(); }
-    void theWalkThroughIsWholeInTheLargestText();
+    void everyPageFitsAndIsNamed_data();
+    void everyPageFitsAndIsNamed();
+    void theWalkThroughFitsAndIsNamed_data() { everyPageFitsAndIsNamed_data(); }
+    void theWalkThroughFitsAndIsNamed();
+    void everyPageFitsInTheLargestText_data() { directions(); }
+    void everyPageFitsInTheLargestText();
+    void theWalkThroughFitsInTheLargestText_data() { directions(); }
+    void theWalkThroughFitsInTheLargestText();
     void theFiguresOfEveryLocaleFit_data();
     void theFiguresOfEveryLocaleFit();
 
@@ -89,7 +89,7 @@ void AccessMatrixTest::directions()
     QTest::newRow("right to left") << Qt::RightToLeft;
 }
 
-void AccessMatrixTest::everyPageIsWholeAndNamed_data()
+void AccessMatrixTest::everyPageFitsAndIsNamed_data()
 {
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<Appearance::Motion>("motion");
@@ -99,7 +99,7 @@ void AccessMatrixTest::everyPageIsWholeAndNamed_data()
     QTest::newRow("right to left, still") << Qt::RightToLeft << Appearance::Reduced;
 }
 
-void AccessMatrixTest::everyPageIsWholeAndNamed()
+void AccessMatrixTest::everyPageFitsAndIsNamed()
 {
     QFETCH(const Qt::LayoutDirection, direction);
     QFETCH(const Appearance::Motion, motion);
@@ -112,7 +112,7 @@ void AccessMatrixTest::everyPageIsWholeAndNamed()
     }
 }
 
-void AccessMatrixTest::theWalkThroughIsWholeAndNamed()
+void AccessMatrixTest::theWalkThroughFitsAndIsNamed()
 {
     QFETCH(const Qt::LayoutDirection, direction);
     QFETCH(const Appearance::Motion, motion);
@@ -120,7 +120,7 @@ void AccessMatrixTest::theWalkThroughIsWholeAndNamed()
     visitSteps();
 }
 
-void AccessMatrixTest::everyPageIsWholeInTheLargestText()
+void AccessMatrixTest::everyPageFitsInTheLargestText()
 {
     QFETCH(const Qt::LayoutDirection, direction);
     open(direction, Appearance::Reduced);
@@ -129,7 +129,7 @@ void AccessMatrixTest::everyPageIsWholeInTheLargestText()
     visitFullPages();
 }
 
-void AccessMatrixTest::theWalkThroughIsWholeInTheLargestText()
+void AccessMatrixTest::theWalkThroughFitsInTheLargestText()
 {
     QFETCH(const Qt::LayoutDirection, direction);
     openWalkThrough(direction, Appearance::Reduced);

@@ -31,7 +31,7 @@ private Q_SLOTS:
         QCOMPARE(button->property("clicks").toInt(), 0);
     }
 
-    void aDisabledButtonSaysSo()
+    void aDisabledButtonIsReportedAsDisabled()
     {
         const auto button = make("Button { enabled: false }");
         QVERIFY(accessible(*button)->state().disabled);

@@ -126,7 +126,7 @@ private Q_SLOTS:
     }
 
     // Every tab stop of the window looks different with the focus.
-    void everyStopShowsThatItHasTheFocus()
+    void everyTabStopShowsItsFocus()
     {
         stopMotion();
         scan();

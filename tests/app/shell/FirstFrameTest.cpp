@@ -40,7 +40,7 @@ private Q_SLOTS:
     }
     void cleanup() { m_window.reset(); }
 
-    void whatItDoesNotShowIsNotMade_data()
+    void createsOnlyVisibleItems_data()
     {
         QTest::addColumn<QByteArray>("type");
         for (const char *type :
@@ -50,7 +50,7 @@ private Q_SLOTS:
             QTest::newRow(type) << QByteArray(type);
     }
 
-    void whatItDoesNotShowIsNotMade()
+    void createsOnlyVisibleItems()
     {
         QFETCH(const QByteArray, type);
         QVERIFY(isMade("ScanEmptyState"));
@@ -63,14 +63,14 @@ private Q_SLOTS:
         QVERIFY(!isLoaded("Dialogs"));
     }
 
-    void itIsMadeOfFewObjects()
+    void createsFewObjects()
     {
         const qsizetype count = window().findChildren<QObject *>().size();
         QVERIFY2(count > mostObjects / 2 && count <= mostObjects,
                  qPrintable(QString::number(count)));
     }
 
-    void aPageIsMadeWhenItIsFirstShownAndStays_data()
+    void aPageIsCreatedOnFirstUseAndKept_data()
     {
         QTest::addColumn<int>("page");
         QTest::addColumn<QByteArray>("type");
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTest::newRow("Compare") << static_cast<int>(AppPage::compare) << QByteArray("CompareView");
     }
 
-    void aPageIsMadeWhenItIsFirstShownAndStays()
+    void aPageIsCreatedOnFirstUseAndKept()
     {
         QFETCH(const int, page);
         QFETCH(const QByteArray, type);
@@ -90,14 +90,14 @@ private Q_SLOTS:
         QCOMPARE(find(type), made);
     }
 
-    void thePathIsMadeWithTheRepository()
+    void thePathIsCreatedWithTheRepository()
     {
         m_window->choose(m_window->folder().path());
         QVERIFY(isMade("RepositoryPath"));
         QVERIFY(m_window->shows(m_window->loadwick().content().repositoryDetail()));
     }
 
-    void aFailureStateIsMadeOnDemandAndDestroyedWithIt()
+    void aFailureStateIsCreatedOnDemandAndDestroyedWithIt()
     {
         ScanModel &model = m_window->loadwick().model();
         model.select(RepoSelection::fromUrl(m_window->folder().path()));

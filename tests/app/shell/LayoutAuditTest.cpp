@@ -56,14 +56,14 @@ private Q_SLOTS:
         QVERIFY(faults.join(u' ').contains(QStringLiteral("Tokens")));
     }
 
-    void aTextThatATipCompletesMayBeCutShort()
+    void aTextWithACompletingTipMayBeElided()
     {
         show("Text { width: 20; text: 'Tokens'; elide: Text.ElideRight\n"
              "ToolTip { contentItem: Item { } } }");
         QCOMPARE(LayoutAudit::faults(*m_window).join(u'\n'), QString());
     }
 
-    void whatIsScrolledAwayIsNoFault()
+    void scrolledAwayItemsAreNoFault()
     {
         show("Flickable { width: 300; height: 50; clip: true; contentHeight: 400\n"
              "Text { y: 45; text: 'Tokens' } Text { y: 300; text: 'Share' } }");

@@ -165,7 +165,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!isRunning(child));
     }
 
-    void itEndsByASignalThatItsParentIgnored()
+    void aSignalIgnoredByItsParentEndsIt()
     {
         const auto before = std::signal(SIGHUP, SIG_IGN);
         start({QStringLiteral("hanging-interface")});

@@ -259,7 +259,7 @@ private Q_SLOTS:
         QVERIFY(m_window->loadwick().overview().summary().startsWith(QStringLiteral("Repository")));
     }
 
-    void copySummarySaysForAMomentThatItCopied()
+    void copySummaryBrieflyConfirms()
     {
         scan();
         QTRY_VERIFY(m_window->isPressable(QStringLiteral("Copy Summary")));
@@ -287,7 +287,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!shows("Copy"));
     }
 
-    void theScanButtonIsQuietBesideAResult()
+    void theScanButtonIsNotProminentBesideAResult()
     {
         m_window->choose(m_window->folder().path());
         QVERIFY(

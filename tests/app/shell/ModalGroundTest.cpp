@@ -47,7 +47,7 @@ private Q_SLOTS:
 
     void cleanup() { m_window.reset(); }
 
-    void isFoundWithAllThatIsInIt()
+    void isAccessibleWithItsContent()
     {
         QVERIFY(finds(QStringLiteral("behind")));
         QCOMPARE(ground().parent(), QAccessible::queryAccessibleInterface(m_window.get()));
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QTRY_VERIFY(finds(QStringLiteral("behind")));
     }
 
-    void aButtonThatWasFoundBeforeIsNotPressedWhileCovered()
+    void aKnownButtonIsNotPressedWhileCovered()
     {
         QAccessibleInterface *button = ground().child(0);
         call("modal", "open");

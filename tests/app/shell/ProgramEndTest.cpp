@@ -44,7 +44,7 @@ class ProgramEndTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void givesTheProgramItsDispositionsWhateverItInherited()
+    void overridesInheritedDispositions()
     {
         QProcess program;
         program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("dispositions")});

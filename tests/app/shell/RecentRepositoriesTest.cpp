@@ -120,7 +120,7 @@ private Q_SLOTS:
         QVERIFY(spokenDetail(QStringLiteral("one")).endsWith(QStringLiteral("one")));
     }
 
-    void theDetailOfAMissingFolderIsNotFaint()
+    void theDetailOfAMissingFolderStaysReadable()
     {
         scan("one");
         std::filesystem::remove_all(m_window->folder().path() / "one");
@@ -135,7 +135,7 @@ private Q_SLOTS:
             QCOMPARE(item->opacity(), 1.0);
     }
 
-    void saysNothingOfAFolderThatWasNotLookedFor()
+    void saysNothingAboutAnUncheckedFolder()
     {
         scan("one");
         std::filesystem::remove_all(m_window->folder().path() / "one");
@@ -143,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(!firstDetail(*recent).contains(notFound));
     }
 
-    void aFolderThatIsBackCanBeChosen()
+    void aRestoredFolderCanBeChosen()
     {
         scan("one");
         scan("two"); // the sidebar names it
@@ -180,7 +180,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->isPressable(list));
     }
 
-    void aFolderCannotBeChosenBeforeItWasLookedFor()
+    void anUncheckedFolderCannotBeChosen()
     {
         scan("one");
         const auto recent = unseenList();

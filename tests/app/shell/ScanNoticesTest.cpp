@@ -24,7 +24,7 @@ private Q_SLOTS:
         m_window.reset();
     }
 
-    void announcesAScanThatEndsUnseenInTheWordsOfTheWindow()
+    void announcesAnUnseenScanInTheWindowsWords()
     {
         scanUnseen();
         QVERIFY(shown());
@@ -46,7 +46,7 @@ private Q_SLOTS:
         QVERIFY(shown()->body.contains(QStringLiteral("<b>Credit balance</b> is too low")));
     }
 
-    void doesNotAnnounceAScanThatEndsInTheActiveWindow()
+    void staysSilentWhileTheWindowIsActive()
     {
         m_window->press(Qt::Key_R, Qt::ControlModifier);
         m_window->finishScan();

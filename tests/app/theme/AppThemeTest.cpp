@@ -49,7 +49,7 @@ private Q_SLOTS:
         m_engine.reset();
     }
 
-    void textCanBeReadOnEveryGround_data()
+    void textIsReadableOnEveryGround_data()
     {
         QTest::addColumn<int>("scheme");
         QTest::addColumn<QByteArray>("role");
@@ -65,7 +65,7 @@ private Q_SLOTS:
         }
     }
 
-    void textCanBeReadOnEveryGround()
+    void textIsReadableOnEveryGround()
     {
         QFETCH(int, scheme);
         QFETCH(QByteArray, role);
@@ -75,9 +75,9 @@ private Q_SLOTS:
         QVERIFY(contrast(color(role), color(ground)) >= leastForText);
     }
 
-    void aPillsWordCanBeReadOnItsCapsule_data() { textCanBeReadOnEveryGround_data(); }
+    void aPillsTextIsReadableOnItsCapsule_data() { textIsReadableOnEveryGround_data(); }
 
-    void aPillsWordCanBeReadOnItsCapsule()
+    void aPillsTextIsReadableOnItsCapsule()
     {
         QFETCH(int, scheme);
         QFETCH(QByteArray, role);
@@ -102,9 +102,9 @@ private Q_SLOTS:
         }
     }
 
-    void aProvenanceMarkCanBeRead_data() { schemes(); }
+    void aProvenanceMarkIsReadable_data() { schemes(); }
 
-    void aProvenanceMarkCanBeRead()
+    void aProvenanceMarkIsReadable()
     {
         QFETCH(int, scheme);
         use(scheme);
@@ -114,18 +114,18 @@ private Q_SLOTS:
         }
     }
 
-    void theProminentButtonCanBeRead_data() { schemes(); }
+    void theProminentButtonIsReadable_data() { schemes(); }
 
-    void theProminentButtonCanBeRead()
+    void theProminentButtonIsReadable()
     {
         QFETCH(int, scheme);
         use(scheme);
         QVERIFY(contrast(color("accentText"), color("accent")) >= leastForText);
     }
 
-    void theSelectedPageCanBeRead_data() { schemes(); }
+    void theSelectedPageIsReadable_data() { schemes(); }
 
-    void theSelectedPageCanBeRead()
+    void theSelectedPageIsReadable()
     {
         QFETCH(int, scheme);
         use(scheme);
@@ -133,9 +133,9 @@ private Q_SLOTS:
         QVERIFY(contrast(color("accent"), row) >= leastForText);
     }
 
-    void theNameOnATileCanBeRead_data() { schemes(); }
+    void theNameOnATileIsReadable_data() { schemes(); }
 
-    void theNameOnATileCanBeRead()
+    void theNameOnATileIsReadable()
     {
         QFETCH(int, scheme);
         use(scheme);
@@ -215,9 +215,9 @@ private Q_SLOTS:
         }
     }
 
-    void theDesktopsAccentCanBeRead_data() { schemes(); }
+    void theDesktopsAccentIsReadable_data() { schemes(); }
 
-    void theDesktopsAccentCanBeRead()
+    void theDesktopsAccentIsReadable()
     {
         QFETCH(int, scheme);
         use(scheme);
@@ -235,7 +235,7 @@ private Q_SLOTS:
         }
     }
 
-    void withoutAnAccentOfTheDesktopTheOwnOneCounts()
+    void fallsBackToOurAccent()
     {
         use(Appearance::Light);
         QCOMPARE(color("accent"), color("ownAccent"));

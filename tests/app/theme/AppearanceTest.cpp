@@ -96,7 +96,7 @@ private Q_SLOTS:
         QCOMPARE(appearance.accent(), QColor(Qt::magenta));
     }
 
-    void takesTheSourceFromTheEngine()
+    void findsTheSourceAmongTheEnginesChildren()
     {
         QQmlEngine engine;
         auto *desktop = new FakeAppearanceSource(&engine);

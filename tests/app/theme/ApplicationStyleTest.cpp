@@ -43,7 +43,7 @@ private Q_SLOTS:
         }
     }
 
-    void noPairOfFiguresMovesTogether()
+    void figuresAreNotKerned()
     {
         const QFontMetricsF metrics(QGuiApplication::font());
         const qreal width = metrics.horizontalAdvance(QStringLiteral("00"));
@@ -55,7 +55,7 @@ private Q_SLOTS:
         }
     }
 
-    void semiboldIsAWeightOfTheFontsOwn()
+    void theFontHasATrueSemibold()
     {
         QFont semibold = QGuiApplication::font();
         semibold.setWeight(QFont::DemiBold);

@@ -32,7 +32,7 @@ private Q_SLOTS:
         QVERIFY(contrast(QColor(0x76, 0x76, 0x76), Qt::white) >= 4.5);
         QVERIFY(contrast(QColor(0x77, 0x77, 0x77), Qt::white) < 4.5);
     }
-    void halfABlackOnWhiteIsGrey()
+    void halfTransparentBlackOnWhiteIsGrey()
     {
         QCOMPARE(blended(QColor::fromRgbF(0, 0, 0, 0.5F), Qt::white).lightness(), 127);
     }
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(readableAccent(navy, darkGrounds, tint).lightness() > navy.lightness());
     }
 
-    void anAccentMovesNoMoreThanItTakes()
+    void adjustsAnAccentNoMoreThanNeeded()
     {
         const QColor found = readableAccent(QColor(255, 200, 0), lightGrounds, tint);
         QVERIFY(contrast(found, lightGrounds[1]) < 7.0);

@@ -49,7 +49,7 @@ private Q_SLOTS:
         QVERIFY(m_source->wishes() == all);
     }
 
-    void aWishThatIsWithdrawnPassesToTheNextSource()
+    void aWithdrawnWishFallsBackToTheNextSource()
     {
         m_fakes[2]->wish({.dark = false});
         m_fakes[0]->wish({.dark = true});
@@ -57,7 +57,7 @@ private Q_SLOTS:
         QVERIFY(!m_source->prefersDark());
     }
 
-    void signalsOnlyChangesThatCount()
+    void signalsOnlyEffectiveChanges()
     {
         m_fakes[0]->wish({.dark = true});
         const QSignalSpy changes(m_source.get(), &AppearanceSource::changed);

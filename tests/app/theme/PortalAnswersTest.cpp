@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(answers.wishes() == wishes);
     }
 
-    void theKeyOfEveryDesktopComesFirst()
+    void theSharedKeyTakesPrecedence()
     {
         PortalAnswers answers;
         take(answers, common, "color-scheme", 2U);
@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(answers.wishes().dark, std::optional(false));
     }
 
-    void withoutAPreferenceGnomesKeyCounts()
+    void fallsBackToGnomesKey()
     {
         PortalAnswers answers;
         take(answers, common, "color-scheme", 0U);

@@ -164,7 +164,7 @@ private Q_SLOTS:
         QVERIFY2(timer.elapsed() < 3'000, qPrintable(QString::number(timer.elapsed())));
     }
 
-    void hearsTheChangesOfAPortalThatDoesNotAnswer()
+    void followsAPortalThatNeverAnswers()
     {
         portal().fallSilent();
         PortalAppearanceSource &asked = source();

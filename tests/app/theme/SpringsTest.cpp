@@ -48,8 +48,8 @@ class SpringsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void obeysTheEquationOfTheOscillator_data() { rows(); }
-    void obeysTheEquationOfTheOscillator()
+    void satisfiesTheOscillatorEquation_data() { rows(); }
+    void satisfiesTheOscillatorEquation()
     {
         const Spring spring = fetched();
         constexpr double step = 0.001;
@@ -68,8 +68,8 @@ private Q_SLOTS:
         QVERIFY(std::abs(spring.valueAt(1e-6)) < 1e-9);
     }
 
-    void keepsStillOnceItHasSettled_data() { rows(); }
-    void keepsStillOnceItHasSettled()
+    void staysStillOnceSettled_data() { rows(); }
+    void staysStillOnceSettled()
     {
         const Spring spring = fetched();
         const double settled = spring.settlingSeconds();
@@ -77,8 +77,8 @@ private Q_SLOTS:
             QVERIFY(std::abs(spring.valueAt(seconds) - 1) <= 0.001);
     }
 
-    void swingsBeyondItsEndAsFarAsItsDampingLets_data() { rows(); }
-    void swingsBeyondItsEndAsFarAsItsDampingLets()
+    void overshootsAsItsDampingAllows_data() { rows(); }
+    void overshootsAsItsDampingAllows()
     {
         const Spring spring = fetched();
         double highest = 0;

@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(run(0, "valueCaption"), QStringLiteral("No category estimates"));
     }
 
-    void oneNameAtTwoPathsIsToldApartByThePath()
+    void distinguishesNamesakesByPath()
     {
         show(*m_data, {RecordedScanBuilder().in("/a").at(3).build(),
                        RecordedScanBuilder().in("/b").at(2).build(),
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(run(0, "title"), QStringLiteral("webshop"));
     }
 
-    void theRunsAreAProperModel()
+    void theRunsBehaveAsAModel()
     {
         const QAbstractItemModelTester tester(
             m_data->runs(), QAbstractItemModelTester::FailureReportingMode::QtTest);

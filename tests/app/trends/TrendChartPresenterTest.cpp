@@ -18,7 +18,7 @@ class TrendChartPresenterTest : public QObject
 private Q_SLOTS:
     void init() { m_zone.emplace("UTC"); }
 
-    void saysHowATrendComesAboutWhileNothingIsRecorded()
+    void explainsTrendsWhileNothingIsRecorded()
     {
         TrendChartPresenter chart{TextLocale()};
         chart.showNoHistory();
@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(chart.line()->geometry().points().size(), std::size_t(2));
     }
 
-    void tellsTheChartInWords()
+    void describesTheChartInWords()
     {
         TrendChartPresenter chart{TextLocale()};
         chart.show(twoScans());

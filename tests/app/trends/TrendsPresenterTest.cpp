@@ -20,7 +20,7 @@ private Q_SLOTS:
         m_trends = std::make_unique<TrendsPresenter>(m_scanning->model, TextLocale());
     }
 
-    void isAboutNoRepositoryWhileNothingIsRecorded()
+    void showsNoRepositoryWhileNothingIsRecorded()
     {
         QCOMPARE(m_trends->detail(), m_anyRepository);
         QVERIFY(m_trends->chart()->emptyText().startsWith(QStringLiteral("Scans are recorded ")));
@@ -80,7 +80,7 @@ private Q_SLOTS:
             QStringLiteral("3 scans across 2 repositories, ")));
     }
 
-    void showsTheHistoryThatItFinds()
+    void showsAnExistingHistory()
     {
         record({RecordedScanBuilder().build()});
         TrendsPresenter late(m_scanning->model, TextLocale());
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(late.recordedData()->runs()->count(), 1);
     }
 
-    void tellsOfEveryRecordedScan()
+    void signalsEveryRecordedScan()
     {
         QSignalSpy changed(m_trends.get(), &TrendsPresenter::changed);
         record({RecordedScanBuilder().build()});

@@ -81,7 +81,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->loadwick().model().history().get().size(), std::size_t(1));
     }
 
-    void theLastButtonIsShownWithItsRing()
+    void theLastButtonShowsItsFocusRing()
     {
         recordMany();
         focus("Clear Recorded Data…");
@@ -120,14 +120,14 @@ private Q_SLOTS:
         QTRY_VERIFY(shows("No category estimates"));
     }
 
-    void scansOfOneNameAreToldApartByTheirPaths()
+    void distinguishesNamesakesByPath()
     {
         show({RecordedScanBuilder().in("/srv/one/webshop").at(1'772'615'727).build(),
               RecordedScanBuilder().in("/srv/two/webshop").at(1'772'615'728).build()});
         QTRY_COMPARE(placeOf("webshop"), QStringLiteral("/srv/two/webshop"));
     }
 
-    void theSummaryIsOfEquallyWideTiles()
+    void theSummaryTilesAreOfEqualWidth()
     {
         recordMany();
         // A layout takes a moment to come to rest.
@@ -150,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(flickable->property("contentY").toDouble(), 300.0);
     }
 
-    void anotherRepositoryIsShownFromItsBeginning()
+    void anotherRepositoryStartsAtTheTop()
     {
         recordMany();
         QQuickItem *flickable = viewport();
