@@ -39,13 +39,13 @@ Item {
             compare(label(card, "42,318").font.pixelSize, 46);
         }
 
-        function test_standsSideBySideWhereItFits() {
+        function test_isSideBySideIfItFits() {
             const card = createTemporaryObject(cards, scene);
             const total = label(card, "42,318");
             tryVerify(() => total.mapToItem(card, 0, 0).x > 400);
         }
 
-        function test_stacksWhereItDoesNotFit() {
+        function test_stacksIfItDoesNotFit() {
             const card = createTemporaryObject(cards, scene, { width: 420 });
             const title = label(card, "Heavy startup context");
             const total = label(card, "42,318");

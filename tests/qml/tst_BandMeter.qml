@@ -53,7 +53,7 @@ Item {
             compare(marker(meter).color, AppTheme.text);
         }
 
-        function test_withReduceMotionTheMarkerIsInPlaceAtOnce() {
+        function test_withReduceMotionTheMarkerDoesNotSlide() {
             const meter = createTemporaryObject(meters, scene);
             compare(meter.markerProgress, 0.5);
             compare(marker(meter).x, 394);
@@ -91,7 +91,7 @@ Item {
             compare(meter.markerProgress, 0.5);
         }
 
-        function test_aTotalOfNothingIsAtTheFarLeft() {
+        function test_aTotalOfZeroIsAtTheFarLeft() {
             sample.total = 0;
             compare(marker(createTemporaryObject(meters, scene)).x, 0);
         }
@@ -105,7 +105,7 @@ Item {
             compare(shownLabels(createTemporaryObject(meters, scene)), ["Lean", "Heavy", "Excessive"]);
         }
 
-        function test_dropsTheLabelOfASegmentTooNarrow() {
+        function test_hidesTheLabelOfANarrowSegment() {
             sample.total = 9000000;
             compare(shownLabels(createTemporaryObject(meters, scene)), ["Lean", "Excessive"]);
         }

@@ -43,7 +43,7 @@ Item {
             verify(!section.isExpanded);
         }
 
-        function test_contentStandsSixteenBelowTheHeader() {
+        function test_contentIsSixteenBelowTheHeader() {
             section.isExpanded = true;
             waitForRendering(section);
             const head = section.children[0];

@@ -35,14 +35,14 @@ Item {
             mouseMove(scene, 490, 290);
         }
 
-        function test_leavesOutTheMiddleOfALongPath() {
+        function test_elidesALongPathInTheMiddle() {
             verify(deep.truncated);
             compare(label(deep).elide, Text.ElideMiddle);
             compare(label(deep).lineCount, 1);
             verify(!brief.truncated);
         }
 
-        function test_showsMarkupLetterByLetter() {
+        function test_showsMarkupVerbatim() {
             compare(label(brief).textFormat, Text.PlainText);
             compare(edit(brief).displayText, "/srv/<b>app</b>/CLAUDE.md");
         }
@@ -51,7 +51,7 @@ Item {
             return ruler.positionToRectangle(ruler.text.indexOf(words)).x;
         }
 
-        function test_foldersStandFromLeftToRightInEveryScript() {
+        function test_foldersReadFromLeftToRightInEveryScript() {
             ruler.text = hebrew.text;
             verify(positionOf("\u05D0") > positionOf("\u05D2")); // as it would be by itself
             ruler.text = label(hebrew).text;
@@ -74,7 +74,7 @@ Item {
             verify(brief.selectedText.length < brief.text.length);
         }
 
-        function test_theTabulatorReachesItAndSelectsTheWholePath() {
+        function test_tabReachesItAndSelectsTheWholePath() {
             edit(brief).forceActiveFocus(Qt.TabFocusReason);
             compare(brief.selectedText, brief.text);
             keyClick(Qt.Key_Tab);
@@ -83,7 +83,7 @@ Item {
             compare(brief.selectedText, "");
         }
 
-        function test_theTabulatorPassesAPathInAList() {
+        function test_tabSkipsAPathInAList() {
             edit(deep).forceActiveFocus(Qt.TabFocusReason);
             keyClick(Qt.Key_Tab);
             verify(!listed.selecting);
@@ -132,7 +132,7 @@ Item {
             tryVerify(() => !tip(deep));
         }
 
-        function test_hasNoToolTipWhereItFits() {
+        function test_hasNoToolTipIfItFits() {
             mouseMove(brief, 20, 5);
             wait(50);
             verify(!tip(brief));

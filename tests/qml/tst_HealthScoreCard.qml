@@ -61,12 +61,12 @@ Item {
             tryCompare(card, "animatedScore", 50);
         }
 
-        function test_aTotalOfNothingScoresOneHundred() {
+        function test_aTotalOfZeroScoresOneHundred() {
             sample.total = 0;
             compare(createTemporaryObject(cards, scene).animatedScore, 100);
         }
 
-        function test_aReportThatComesBeforeTheCardIsSeenSweepsOnce() {
+        function test_aReportBeforeTheCardIsVisibleSweepsOnce() {
             Appearance.motion = Appearance.Full;
             const card = createTemporaryObject(cards, scene, { visible: false });
             sample.total = 0;
@@ -99,7 +99,7 @@ Item {
                 verify(all.includes(text), text);
         }
 
-        function test_theCopyGoesBelowTheGaugeWhereTheyDoNotFit() {
+        function test_stacksTheTextBelowTheGaugeIfTheyDoNotFit() {
             const wide = createTemporaryObject(cards, scene);
             const narrow = createTemporaryObject(cards, scene, { width: 360 });
             tryVerify(() => narrow.implicitHeight > wide.implicitHeight + 80);

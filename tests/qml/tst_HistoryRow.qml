@@ -45,14 +45,14 @@ Item {
             compare(findChild(bare, "value").color, AppTheme.text);
         }
 
-        function test_ranksOfOneAndOfThreeFiguresEndOnOneLine() {
+        function test_alignsRanksOfAnyLength() {
             compare(edge(ranked, "rank"), edge(hundredth, "rank"));
             compare(findChild(ranked, "rank").text, "7");
             compare(findChild(hundredth, "rank").truncated, false);
             verify(findChild(hundredth, "rank").implicitWidth <= findChild(hundredth, "rank").width);
         }
 
-        function test_partsStandSixteenApartAndFourFromTheEdges() {
+        function test_partsAreSixteenApartAndFourFromTheEdges() {
             compare(findChild(ranked, "words").mapToItem(ranked, 0, 0).x - edge(ranked, "rank"), 16);
             const line = ranked.children[0];
             compare(ranked.implicitHeight, line.implicitHeight + 8);
@@ -72,7 +72,7 @@ Item {
             compare(findChild(ranked, "detail").color, AppTheme.secondaryText);
         }
 
-        function test_aLongTitleIsCutShortAndPushesNoFigureOut() {
+        function test_aLongTitleIsElidedAndPushesNoFigureOut() {
             compare(findChild(lengthy, "title").truncated, true);
             compare(findChild(lengthy, "detail").truncated, true);
             compare(edge(lengthy, "accessory"), lengthy.width);
@@ -84,13 +84,13 @@ Item {
             compare(edge(lengthy, "pill"), lengthy.width);
         }
 
-        function test_aToolTipHoldsTheWholeAndThePlace() {
+        function test_aToolTipHoldsTheWholeTitleAndThePath() {
             verify(findChild(lengthy, "words").whole.startsWith("a-name-that"));
             verify(findChild(lengthy, "words").whole.endsWith("\n/srv/one"));
             compare(findChild(bare, "words").whole, "");
         }
 
-        function test_outsideTextIsShownLetterByLetter() {
+        function test_outsideTextIsShownVerbatim() {
             for (const part of ["title", "detail", "value"])
                 compare(findChild(markup, part).textFormat, Text.PlainText);
         }

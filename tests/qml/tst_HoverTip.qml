@@ -50,11 +50,11 @@ Item {
             tryVerify(function () { return toolTipOf(tip) === null; });
         }
 
-        function test_noToolTipExistsBeforeThePointerComes() {
+        function test_createsNoToolTipBeforeThePointerEnters() {
             compare(toolTipOf(tip), null);
         }
 
-        function test_thePointerBringsTheWordsLetterByLetter() {
+        function test_hoveringShowsTheWordsVerbatim() {
             mouseMove(wordy, 20, 20);
             tryVerify(function () { return toolTipOf(tip) !== null; });
             tryCompare(toolTipOf(tip), "opened", true);
@@ -62,7 +62,7 @@ Item {
             compare(toolTipOf(tip).contentItem.textFormat, Text.PlainText);
         }
 
-        function test_hangsAtTheItemThatItIsAbout() {
+        function test_isAttachedToItsSubject() {
             mouseMove(crowd, 20, 20);
             tryVerify(function () { return toolTipOf(forAll) !== null && toolTipOf(forAll).parent === one; });
             mouseMove(crowd, 70, 20);
@@ -75,7 +75,7 @@ Item {
             compare(toolTipOf(nothing), null);
         }
 
-        function test_otherWordsAreSaidAtOnce() {
+        function test_changedWordsShowAtOnce() {
             mouseMove(wordy, 20, 20);
             tryVerify(function () { return toolTipOf(tip) !== null; });
             tip.words = "/srv/two";
@@ -85,7 +85,7 @@ Item {
             tip.words = "<b>/srv/one</b>";
         }
 
-        function test_itsConditionCanBeAnother() {
+        function test_itsConditionCanBeReplaced() {
             compare(toolTipOf(asked), null);
             asked.wanted = true;
             compare(toolTipOf(asked).words, "asked");
@@ -93,14 +93,14 @@ Item {
             compare(toolTipOf(asked), null);
         }
 
-        function test_showsMarkupLetterByLetter() {
+        function test_showsMarkupVerbatim() {
             const tip = createTemporaryObject(plain, scene, { words: "<img src=x>" });
             compare(tip.text, "");
             compare(tip.contentItem.textFormat, Text.PlainText);
             compare(tip.contentItem.text, "<img src=x>");
         }
 
-        function test_goesByItselfWhereTheKeyboardStays() {
+        function test_timesOutWhileTheFocusStays() {
             const tip = createTemporaryObject(plain, scene, { words: "a", delay: 0, timeout: 50 });
             tip.visible = true;
             tryCompare(tip, "opened", true);
@@ -113,7 +113,7 @@ Item {
             compare(tip.implicitWidth, 320);
         }
 
-        function test_theToolTipGoesWithThePointer() {
+        function test_theToolTipHidesWhenThePointerLeaves() {
             mouseMove(wordy, 20, 20);
             tryVerify(function () { return toolTipOf(tip) !== null; });
             mouseMove(scene, 290, 190);

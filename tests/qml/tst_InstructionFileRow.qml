@@ -59,7 +59,7 @@ Item {
             }
         }
 
-        function test_aLongPathKeepsClearOfTheFigures() {
+        function test_aLongPathDoesNotOverlapTheFigures() {
             const path = findChild(readable, "path");
             verify(path.truncated);
             verify(end(path) < findChild(readable, "amount").mapToItem(scene, 0, 0).x);

@@ -16,7 +16,7 @@ LongListScene {
             compare(list.implicitHeight, 0);
         }
 
-        function test_makesOnlyTheRowsThatThePageShows() {
+        function test_createsOnlyVisibleRows() {
             show(10000);
             for (const contentY of [0, 1, 119, 120, 155, 5000, 150001, 299999, 300340 - 300, 40, 0]) {
                 page.contentY = contentY;
@@ -41,7 +41,7 @@ LongListScene {
 
         // A row of 30 leaves the page with each step but the first ones and another one comes.
 
-        function test_takesRowsThatHaveLeftThePageForThoseThatCome() {
+        function test_reusesRowsThatHaveLeftThePage() {
             show(10000);
             page.contentY = 3000;
             waitForRendering(scene);
@@ -55,11 +55,11 @@ LongListScene {
             verify(scene.makings - before < 15, scene.makings - before + " rows made");
         }
 
-        function test_makesNextToNoRowsBeforeThePageShowsThem_data() {
+        function test_createsHardlyAnyRowsInAdvance_data() {
             return [{ tag: "of use soon", isFilled: true, most: 12 }, { tag: "perhaps never", isFilled: false, most: 2 }];
         }
 
-        function test_makesNextToNoRowsBeforeThePageShowsThem(data) {
+        function test_createsHardlyAnyRowsInAdvance(data) {
             list.isFilled = data.isFilled;
             head.height = 9000;
             findChild(list, "rows").mostSeenRows = 0;
@@ -73,7 +73,7 @@ LongListScene {
             list.isFilled = false;
         }
 
-        function test_rowsWithoutAHeightAreNone() {
+        function test_createsNoRowsWithoutAHeight() {
             list.rowHeight = 0;
             show(10000);
             verify(scene.made < 3, scene.made + " rows");
@@ -82,7 +82,7 @@ LongListScene {
             verify(scene.made < 100, scene.made + " rows");
         }
 
-        function test_followsWhatStandsAboveItOnThePage() {
+        function test_followsContentAboveItOnThePage() {
             show(10000);
             page.contentY = 3000;
             head.height = 500;
@@ -91,7 +91,7 @@ LongListScene {
             compare(shownRows()[0], 82);
         }
 
-        function test_showsMoreRowsInAHigherPage() {
+        function test_showsMoreRowsInATallerPage() {
             show(10000);
             page.contentY = 600;
             page.height = 400;
@@ -100,7 +100,7 @@ LongListScene {
             page.height = 300;
         }
 
-        function test_aShortListIsAllThere() {
+        function test_aShortListExistsAsAWhole() {
             show(60);
             compare(scene.made, 60);
             page.contentY = 700;
@@ -108,7 +108,7 @@ LongListScene {
             compare(shownRows(), expectedRows());
         }
 
-        function test_takesOtherRowsAtOnce() {
+        function test_showsANewModelAtOnce() {
             show(10000);
             page.contentY = 9000;
             show(70);
@@ -119,7 +119,7 @@ LongListScene {
             compare(scene.made, 3);
         }
 
-        function test_marksTheRowThatIsSpokenOfBesideIt() {
+        function test_highlightsTheReferredRow() {
             show(1000);
             const mark = findChild(list, "mark");
             verify(!mark.visible);

@@ -11,7 +11,7 @@ LongListScene {
         name: "LongListKeys"
         stage: scene
 
-        function test_aPressedRowThatLeavesGivesTheFocusBackToTheList() {
+        function test_aPressedRowReturnsTheFocusWhenItLeaves() {
             show(10000);
             page.contentY = 3000;
             waitForRendering(scene);
@@ -67,7 +67,7 @@ LongListScene {
             compare(list.currentIndex, 0);
         }
 
-        function test_keysThatMoveNothingAreLeftToThePage_data() {
+        function test_ignoresKeysThatMoveNothing_data() {
             return [
                 { tag: "up", rows: 3, way: Qt.Key_Home, key: Qt.Key_Up },
                 { tag: "page up", rows: 3, way: Qt.Key_Home, key: Qt.Key_PageUp },
@@ -79,7 +79,7 @@ LongListScene {
             ];
         }
 
-        function test_keysThatMoveNothingAreLeftToThePage(data) {
+        function test_ignoresKeysThatMoveNothing(data) {
             show(data.rows);
             list.forceActiveFocus();
             keyClick(data.way);
@@ -90,7 +90,7 @@ LongListScene {
             compare(scene.keysLeft, data.key + " ");
         }
 
-        function test_keysThatMoveAreNotLeftToThePage() {
+        function test_acceptsKeysThatMove() {
             show(1000);
             list.forceActiveFocus();
             scene.keysLeft = "";
@@ -121,7 +121,7 @@ LongListScene {
             compare(page.contentY, 0);
         }
 
-        function test_theFocusIsOnTheRowThatAScreenReaderIsToRead() {
+        function test_theFocusIsOnTheRowForAScreenReader() {
             show(10000);
             list.forceActiveFocus();
             keyClick(Qt.Key_End);
@@ -130,7 +130,7 @@ LongListScene {
             compare(scene.Window.activeFocusItem.Accessible.name, "Row 9998");
         }
 
-        function test_keysGoOnAfterTheCurrentRowWasScrolledAway() {
+        function test_keysContinueAfterTheCurrentRowWasScrolledAway() {
             show(10000);
             list.forceActiveFocus();
             keyClick(Qt.Key_Down);
@@ -152,7 +152,7 @@ LongListScene {
             compare(page.contentY, 3000);
         }
 
-        function test_theKeysGoOnFromTheRowThatWasPressed() {
+        function test_keysContinueFromThePressedRow() {
             show(10000);
             page.contentY = 3000;
             waitForRendering(scene);
@@ -186,7 +186,7 @@ LongListScene {
             compare(copied.signalArguments[0][0], 1);
         }
 
-        function test_fewerRowsTakeTheCurrentOneBack() {
+        function test_fewerRowsClampTheCurrentRow() {
             show(1000);
             list.currentIndex = 900;
             show(10);

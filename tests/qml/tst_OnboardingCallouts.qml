@@ -52,7 +52,7 @@ Item {
             tryVerify(() => callout.bob > 0.95);
         }
 
-        function test_withReduceMotionThePointerStandsStill() {
+        function test_withReduceMotionThePointerIsStill() {
             const callout = make(toolbars, Appearance.Reduced);
             verify(!callout.isBobbing);
             wait(300);

@@ -49,7 +49,7 @@ Item {
             compare(dot(row, 1).swelling, 1);
         }
 
-        function test_aChangeFollowsASpringThatSwingsBeyondItsEnd() {
+        function test_aChangeFollowsASpringThatOvershoots() {
             const row = make(Appearance.Full);
             row.currentIndex = 1;
             compare(dot(row, 1).swelling, 1);

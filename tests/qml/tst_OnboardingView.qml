@@ -99,7 +99,7 @@ Item {
             compare(test.sheet.title, "Point it at a local git repository");
         }
 
-        function test_backLeadsToTheStepBefore() {
+        function test_backReturnsToThePreviousStep() {
             press("Next");
             press("Next");
             press("Back");
@@ -198,7 +198,7 @@ Item {
             }
         }
 
-        function test_nothingIsCutOff() {
+        function test_nothingIsClipped() {
             for (let index = 0; index < 4; ++index) {
                 tryCompare(step(index), "opacity", 1);
                 verify(step(index).implicitHeight <= step(index).parent.height);

@@ -41,7 +41,7 @@ Item {
             compare(body(item).transform[0].y, 0);
         }
 
-        function test_waitsUntilItIsSeen() {
+        function test_waitsUntilVisible() {
             const item = createTemporaryObject(page, scene, { visible: false });
             verify(!item.hasAppeared);
             item.visible = true;

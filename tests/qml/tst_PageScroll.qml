@@ -55,7 +55,7 @@ Item {
             return top >= 0 && top + item.height <= page.viewport.height;
         }
 
-        function test_theKeysThatScrollDoSo_data() {
+        function test_scrollKeysScroll_data() {
             return [
                 { tag: "down", keys: [Qt.Key_Down], y: 48 },
                 { tag: "down and up", keys: [Qt.Key_Down, Qt.Key_Down, Qt.Key_Up], y: 48 },
@@ -68,7 +68,7 @@ Item {
             ];
         }
 
-        function test_theKeysThatScrollDoSo(data) {
+        function test_scrollKeysScroll(data) {
             for (const key of data.keys)
                 keyClick(key);
             compare(page.viewport.contentY, data.y);
@@ -79,7 +79,7 @@ Item {
             compare(page.viewport.contentY, 0);
         }
 
-        function test_thePageCanBeReadFromOutside() {
+        function test_scrollsWhileTheFocusIsOutside() {
             outside.forceActiveFocus();
             keyClick(Qt.Key_PageDown);
             compare(page.viewport.contentY, 350 - 32);
@@ -98,7 +98,7 @@ Item {
             compare(page.viewport.contentY, 0);
         }
 
-        function test_whatTheKeyboardReachesComesIntoSight() {
+        function test_scrollsToTheFocusedItem() {
             verify(!isInSight(last));
             keyClick(Qt.Key_Tab);
             keyClick(Qt.Key_Tab);
@@ -110,7 +110,7 @@ Item {
             tryVerify(() => isInSight(first));
         }
 
-        function test_whatIsOpenedComesIntoSight() {
+        function test_scrollsToAnOpenedSection() {
             keyClick(Qt.Key_Tab);
             keyClick(Qt.Key_Tab);
             keyClick(Qt.Key_Tab);
@@ -130,7 +130,7 @@ Item {
             wait(50);
         }
 
-        function test_whatIsHigherThanThePageStaysWhereItIs() {
+        function test_anItemTallerThanThePageStaysPut() {
             page.viewport.contentY = 300;
             tall.forceActiveFocus();
             wait(20);
@@ -147,7 +147,7 @@ Item {
             mouseRelease(scene, place.x + 5, place.y + 35);
         }
 
-        function test_theFocusElsewhereMovesNothing() {
+        function test_focusElsewhereMovesNothing() {
             page.viewport.contentY = 200;
             outside.forceActiveFocus();
             wait(20);

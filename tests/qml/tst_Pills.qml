@@ -34,7 +34,7 @@ Item {
             }
         }
 
-        function test_aCapsuleIsThinlyFilledWithItsTint() {
+        function test_aCapsuleIsFilledWithAFaintTint() {
             for (const capsule of [status, grew, icon])
                 fuzzyCompare(capsule.color.a, 0.12, 0.01);
         }
@@ -44,7 +44,7 @@ Item {
             compare(status.implicitWidth, wordsOf(status).width + 5 + 14 + 16);
         }
 
-        function test_aMarkShowsMarkupLetterByLetter() {
+        function test_aMarkShowsMarkupVerbatim() {
             compare(mark.children[0].textFormat, Text.PlainText);
             compare(mark.width, mark.children[0].width + 16);
         }

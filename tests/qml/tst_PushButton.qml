@@ -70,7 +70,7 @@ Item {
             button.shortcut = "";
         }
 
-        function test_theTabulatorGoesOn() {
+        function test_tabMovesOn() {
             button.forceActiveFocus(Qt.TabFocusReason);
             verify(button.visualFocus);
             keyClick(Qt.Key_Tab);
@@ -82,11 +82,11 @@ Item {
             compare(button.title, "<b>Scan</b>");
         }
 
-        function test_isAsHighAsAControl() {
+        function test_hasTheControlHeight() {
             compare(button.height, 32);
         }
 
-        function test_isProminentOnlyWhileItCanBePressed() {
+        function test_isProminentOnlyWhileEnabled() {
             verify(neighbour.filled);
             neighbour.enabled = false;
             verify(!neighbour.filled);

@@ -43,7 +43,7 @@ Item {
             path.detail = words ? "12,345,678 estimated tokens · 100.0% of total" : "";
         }
 
-        function test_showsTheHintWhileNothingIsPointedAt() {
+        function test_showsTheHintWithoutACurrentMark() {
             const hint = findChild(readOut, "hint");
             verify(hint.visible);
             compare(hint.text, "Point at a slice.");
@@ -73,12 +73,12 @@ Item {
             compare(findChild(readOut, "title").lineCount, 3);
         }
 
-        function test_showsNamesAsTheyAre() {
+        function test_showsNamesVerbatim() {
             readOut.title = "<b>Messages</b>";
             compare(findChild(readOut, "title").textFormat, Text.PlainText);
         }
 
-        function test_theWordsOnAPathStandAtTheTop() {
+        function test_topAlignsTheWordsOnAPath() {
             compare(findChild(path, "hint").y, 0);
             showPath("/srv/CLAUDE.md");
             compare(findChild(path, "panel").y, 0);
@@ -92,14 +92,14 @@ Item {
             verify(!findChild(path, "shortPath").visible);
         }
 
-        function test_cutsNoFigureShort() {
+        function test_elidesNoFigure() {
             showPath("/srv/CLAUDE.md");
             const figures = findChild(path, "detail");
             verify(!figures.truncated);
             verify(figures.contentWidth <= figures.width);
         }
 
-        function test_leavesOutTheMiddleOfAPathThatNeedsTooManyLines() {
+        function test_elidesALongPathInTheMiddle() {
             showPath("/srv/" + "folder/".repeat(40) + "CLAUDE.md");
             const cut = findChild(path, "shortPath");
             verify(cut.visible);
@@ -108,7 +108,7 @@ Item {
             verify(!findChild(path, "title").visible);
         }
 
-        function test_isAsHighWhateverPathItShows() {
+        function test_keepsItsHeightForAnyPath() {
             const height = path.implicitHeight;
             for (const words of ["/a", "/srv/" + "folder/".repeat(5), "/srv/" + "folder/".repeat(40)]) {
                 showPath(words);

@@ -58,7 +58,7 @@ Item {
             tryVerify(shadowRests);
         }
 
-        function test_hasNoShadowBeforeAPointerComes() {
+        function test_hasNoShadowBeforeAPointerEnters() {
             compare(findChild(charted, "shadow"), null);
         }
 

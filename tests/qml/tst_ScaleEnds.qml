@@ -12,7 +12,7 @@ Item {
         name: "ScaleEnds"
         when: windowShown
 
-        function test_theScaleSaysWhatItCounts() {
+        function test_theScaleNamesItsUnit() {
             compare(ends.children[1].text, "tokens");
             compare(ends.implicitHeight, ends.children[1].height);
         }

@@ -34,7 +34,7 @@ Item {
             return found;
         }
 
-        function test_emptySaysItsTitleAndDetail() {
+        function test_emptyShowsItsTitleAndDetail() {
             empty.visible = true;
             compare(texts(empty), ["Start a context scan", "Choose."]);
         }

@@ -41,7 +41,7 @@ Item {
             return item.reader.edit;
         }
 
-        function test_showsMarkupLetterByLetter() {
+        function test_showsMarkupVerbatim() {
             compare(edit(plain).textFormat, TextEdit.PlainText);
             compare(edit(plain).getText(0, 99), "<b>a</b> path");
         }
@@ -62,7 +62,7 @@ Item {
             compare(edit(plain).text, "<b>a</b> path");
         }
 
-        function test_isCutAfterItsLastLineButCopiedWhole() {
+        function test_isElidedAfterItsLastLineButCopiedWhole() {
             verify(path.truncated);
             compare(path.implicitHeight, Math.ceil(path.lineSpacing * 2));
             edit(path).forceActiveFocus();
@@ -70,7 +70,7 @@ Item {
             compare(edit(path).selectedText, path.text);
         }
 
-        function test_whatSelectsIsMadeForThePointer() {
+        function test_createsTheReaderForThePointer() {
             mouseMove(scene, 390, 290);
             const pointed = createTemporaryObject(line, scene);
             compare(pointed.reader, null);
@@ -84,7 +84,7 @@ Item {
             tryVerify(() => !pointed.reader.menu.visible);
         }
 
-        function test_whatSelectsIsMadeForTheKeyboard() {
+        function test_createsTheReaderForTheKeyboard() {
             compare(focused.reader, null);
             verify(focused.activeFocusOnTab);
             focused.forceActiveFocus(Qt.TabFocusReason);
@@ -106,7 +106,7 @@ Item {
         }
 
         // Otherwise the words would move under the pointer that selects them.
-        function test_whatSelectsTakesThePlaceOfWhatShows() {
+        function test_theReaderReplacesTheLabel() {
             for (const item of [plain, several]) {
                 compare(edit(item).lineCount, shortForm(item).lineCount);
                 fuzzyCompare(edit(item).contentHeight, shortForm(item).contentHeight, 0.5);
@@ -118,7 +118,7 @@ Item {
             return findChild(item, "shown");
         }
 
-        function test_dotsStandForWhatIsLeftOut() {
+        function test_dotsMarkElidedText() {
             edit(plain).forceActiveFocus();
             verify(shortForm(path).visible);
             verify(shortForm(path).truncated);
@@ -129,20 +129,20 @@ Item {
             compare(edit(plain).opacity, 1);
         }
 
-        function test_ofOneLineTheMiddleIsLeftOut() {
+        function test_elidesOneLineInTheMiddle() {
             verify(shortForm(name).visible);
             verify(shortForm(name).truncated);
             compare(shortForm(name).elide, Text.ElideMiddle);
             compare(shortForm(name).lineCount, 1);
         }
 
-        function test_theTextItselfShowsWhileItIsRead() {
+        function test_theFullTextShowsWhileItIsRead() {
             edit(path).forceActiveFocus();
             verify(!shortForm(path).visible);
             compare(edit(path).opacity, 1);
         }
 
-        function test_aTextCutShortIsSelectedWithThePointer() {
+        function test_anElidedTextIsSelectedWithThePointer() {
             edit(plain).forceActiveFocus();
             mouseDoubleClickSequence(edit(path), 10, 8);
             verify(edit(path).selectedText.length > 0);
@@ -171,7 +171,7 @@ Item {
             compare(pasted(), path.text);
         }
 
-        function test_theTextItselfShowsWhileItsMenuIsOpen() {
+        function test_theFullTextShowsWhileItsMenuIsOpen() {
             edit(path).forceActiveFocus();
             edit(path).selectAll();
             keyClick(Qt.Key_Menu);
@@ -193,7 +193,7 @@ Item {
             return edit(item).positionToRectangle(item.text.indexOf(word)).y;
         }
 
-        function test_breaksAPathBetweenItsFoldersWhereItFits() {
+        function test_breaksAPathBetweenFoldersIfItFits() {
             compare(edit(twoFolders).lineCount, 2);
             verify(!twoFolders.truncated);
             compare(lineOf(twoFolders, "Projects"), lineOf(twoFolders, "rojects"));
@@ -202,15 +202,15 @@ Item {
             verify(lineOf(twoFolders, "harbor") > 0);
         }
 
-        function test_fillsItsLinesWhereItIsCut() {
+        function test_fillsItsLinesWhenElided() {
             compare(edit(path).wrapMode, TextEdit.WrapAnywhere);
         }
 
-        function test_isNotCutWhereItFits() {
+        function test_isNotElidedIfItFits() {
             verify(!plain.truncated);
         }
 
-        function test_theTabulatorReachesItAndLeavesNoSelection() {
+        function test_tabReachesItAndLeavesNoSelection() {
             edit(plain).forceActiveFocus(Qt.TabFocusReason);
             edit(plain).selectAll();
             keyClick(Qt.Key_Tab);
@@ -218,7 +218,7 @@ Item {
             compare(edit(plain).selectedText, "");
         }
 
-        function test_whatIsNoStopIsPassedByAndReachedWithTheArrows() {
+        function test_aNonStopIsSkippedByTabAndReachedByArrows() {
             edit(firstOfTwo).forceActiveFocus(Qt.TabFocusReason);
             keyClick(Qt.Key_Tab);
             verify(afterTwo.isRead);
@@ -231,7 +231,7 @@ Item {
             verify(firstOfTwo.isRead);
         }
 
-        function test_whatIsNoStopIsAWayToTheNextOne() {
+        function test_aNonStopLeadsToTheNextOne() {
             secondOfTwo.forceActiveFocus(Qt.TabFocusReason);
             keyClick(Qt.Key_Tab);
             verify(afterTwo.isRead);
@@ -242,7 +242,7 @@ Item {
             verify(!secondOfTwo.reader.edit.activeFocusOnTab);
         }
 
-        function test_whatIsNoStopIsSelectedWithThePointerAndSpoken() {
+        function test_aNonStopIsSelectableAndAccessible() {
             compare(secondOfTwo.Accessible.role, Accessible.EditableText);
             verify(secondOfTwo.Accessible.focusable);
             mouseDoubleClickSequence(edit(secondOfTwo), 10, 8);

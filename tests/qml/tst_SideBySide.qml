@@ -46,7 +46,7 @@ TestCase {
         }
     }
 
-    function test_standsSideBySideWhereBothFit() {
+    function test_isSideBySideIfBothFit() {
         const layout = createTemporaryObject(pair, test, { width: 200 }) as SideBySide;
         verify(waitForRendering(layout));
         verify(!layout.stacked);
@@ -54,7 +54,7 @@ TestCase {
         compare(layout.second.x, 120);
     }
 
-    function test_stacksWhereTheyDoNotFit() {
+    function test_stacksIfTheyDoNotFit() {
         const layout = createTemporaryObject(pair, test, { width: 199 }) as SideBySide;
         verify(waitForRendering(layout));
         verify(layout.stacked);
@@ -76,7 +76,7 @@ TestCase {
         verify(!layout.stacked);
     }
 
-    function test_countsWhatARepeaterMakes() {
+    function test_countsRepeatedItems() {
         const layout = createTemporaryObject(repeated, test, { width: 340 }) as SideBySide;
         verify(!layout.stacked);
         compare(layout.columns, 3);

@@ -24,7 +24,7 @@ Item {
             tryVerify(function () { return icon.angle > 0; });
         }
 
-        function test_standsUprightWhenItStops() {
+        function test_isUprightWhenItStops() {
             Appearance.motion = Appearance.Full;
             icon.turning = true;
             tryVerify(function () { return icon.angle > 0; });
@@ -32,14 +32,14 @@ Item {
             compare(icon.angle, 0);
         }
 
-        function test_standsStillWithReduceMotion() {
+        function test_isStillWithReduceMotion() {
             Appearance.motion = Appearance.Reduced;
             icon.turning = true;
             verify(!icon.moving);
             compare(icon.angle, 0);
         }
 
-        function test_standsStillWhileHidden() {
+        function test_isStillWhileHidden() {
             Appearance.motion = Appearance.Full;
             icon.turning = true;
             icon.visible = false;
