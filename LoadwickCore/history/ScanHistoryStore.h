@@ -41,7 +41,7 @@ public:
     /// The recorded scans, oldest first (by date, then repository name, then file order).
     [[nodiscard]] std::vector<RecordedScan> load() const;
 
-    /// Adds a scan, keeps the newest `maximumScans`, writes the file and gives the new list,
+    /// Adds a scan, keeps the newest `maximumScans`, writes the file and returns the new list,
     /// whether or not writing succeeded. While a transient shortage keeps the recorded scans from
     /// being read, nothing is written, and the list holds `scan` alone. Throws `std::bad_alloc`,
     /// and leaves the old file, when there is no memory for the list itself.

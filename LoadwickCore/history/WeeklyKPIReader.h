@@ -20,7 +20,7 @@ struct WeeklyKPILine
     std::string windowEnd;
     std::string timestamp; ///< when the line was written
 
-    /// The figure minus its target. Overflow ends the program, but no line that the reader gives
+    /// The figure minus its target. Overflow ends the program, but no line that the reader returns
     /// overflows.
     [[nodiscard]] std::int64_t medianDelta() const noexcept;
     [[nodiscard]] std::int64_t tokensPerPRDelta() const noexcept;
@@ -44,7 +44,7 @@ inline constexpr std::size_t maximumBytes = std::size_t{64} << 20;
 /// The log's path under `home`, which has no trailing slash.
 [[nodiscard]] std::string defaultPath(std::string_view home);
 
-/// The newest usable line of the file; nothing when it cannot be read, is no regular file or is not
+/// The newest usable line of the file; nothing when it is unreadable, not a regular file or not
 /// UTF-8. Only the last `byteLimit` bytes of a longer file are read, and those up to the first line
 /// feed are skipped. Blocks on the disk: call it off the interface thread.
 [[nodiscard]] std::optional<WeeklyKPILine> read(const std::filesystem::path &path,

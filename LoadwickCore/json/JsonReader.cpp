@@ -26,10 +26,10 @@ struct Slot
 {
     JsonValue *value = nullptr;
     std::optional<std::string_view> path =
-        std::nullopt; ///< as `pathTo` gives it; none: keep it all
+        std::nullopt; ///< as `pathTo` returns it; none: keep it all
 };
 
-/// The beginning of a kept path that leads to the member `key` behind `path`: with a dot at its end
+/// The beginning of a kept path that leads to the member `key` below `path`: with a dot at its end
 /// while it leads on. Nothing if no kept path leads there.
 std::optional<std::string_view> pathTo(std::string_view key, std::string_view path, Paths keptPaths)
 {

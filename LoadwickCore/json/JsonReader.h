@@ -9,7 +9,7 @@
 namespace Loadwick {
 
 /// Reads `text` as one JSON document (RFC 8259, strict UTF-8; white space around it is allowed) and
-/// gives its top-level object, reduced to the members named by `keptPaths`. A path is one key, or
+/// returns its top-level object, reduced to the members named by `keptPaths`. A path is one key, or
 /// keys joined by dots ("message.usage"), and no path may lead through the end of another. The
 /// value at the end of a path is kept whole. Everything else is validated and dropped, at a cost of
 /// one bit for each level of nesting. A kept string is copied once. The last of duplicate keys

@@ -61,7 +61,7 @@ struct JsonMember
     JsonValue value;
 };
 
-/// The member of an object, or null if `object` is no object or has no such key. The last of
+/// The member of an object, or null if `object` is not an object or lacks the key. The last of
 /// duplicate keys wins.
 [[nodiscard]] const JsonValue *member(const JsonValue &object, std::string_view key) noexcept;
 [[nodiscard]] JsonValue *member(JsonValue &object, std::string_view key) noexcept;

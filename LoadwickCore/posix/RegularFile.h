@@ -22,7 +22,7 @@ public:
     /// The process's current folder, as `openat` takes it.
     static constexpr int currentFolder = AT_FDCWD;
 
-    /// Why there is no file: an `errno` value, or 0 when the path is no regular file.
+    /// Why there is no file: an `errno` value, or 0 when the path is not a regular file.
     struct Failure
     {
         int errorNumber = 0;

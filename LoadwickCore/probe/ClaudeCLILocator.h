@@ -18,7 +18,7 @@ inline constexpr double loginShellKillGraceSeconds = 1.0;
 inline constexpr std::string_view loginShell = "/bin/zsh";
 
 /// The paths tried, in order: the override unless it is blank (spaces and tabs), then the fixed
-/// paths, of which the first is under `home`.
+/// paths, the first of them under `home`.
 [[nodiscard]] std::vector<std::string> candidates(const std::optional<std::string> &cliOverride,
                                                   const std::string &home);
 

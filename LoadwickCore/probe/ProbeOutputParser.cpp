@@ -42,7 +42,7 @@ ProbeError unreadable(std::string_view text)
     return ProbeError::unreadableOutput(ProbeError::bounded(text, ProbeError::detailLimit));
 }
 
-/// The reason why standard output is no JSON object.
+/// The reason why standard output is not a JSON object.
 ProbeError failureWithoutObject(std::string_view standardOutput, std::string_view standardError,
                                 std::int32_t exitCode)
 {

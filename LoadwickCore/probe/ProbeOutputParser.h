@@ -25,8 +25,8 @@ struct ProbeOutput
 namespace Loadwick::ProbeOutputParser {
 
 /// The result record on standard output. The exit code and standard error matter only when standard
-/// output is no JSON object.
-/// Throws `ProbeError`: `notAuthenticated`, `sessionFailed` or `unreadableOutput`.
+/// output is not a JSON object. Throws `ProbeError`: `notAuthenticated`, `sessionFailed` or
+/// `unreadableOutput`.
 [[nodiscard]] ProbeOutput parse(std::string_view standardOutput, std::string_view standardError,
                                 std::int32_t exitCode);
 

@@ -20,7 +20,7 @@ struct ProbeUsage
     /// absent one as 0; nothing when none of the three input counts is present.
     [[nodiscard]] static std::optional<ProbeUsage> from(const JsonValue &object);
 
-    /// Input, cache-creation and cache-read tokens together; output tokens are no startup context.
+    /// Input, cache-creation and cache-read tokens together; output tokens are not startup context.
     /// Overflow ends the program.
     [[nodiscard]] std::int64_t startupTotal() const noexcept;
 

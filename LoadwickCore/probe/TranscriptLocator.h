@@ -26,8 +26,8 @@ normalizedConfigDir(std::string_view value, const std::filesystem::path &working
 
 /// A file named `sessionID` + ".jsonl" at any depth under `root`, or, if there is none, another
 /// entry of that name; any one of several. Hidden files and folders are skipped, links to folders
-/// are not followed, folders that cannot be listed count as empty. An identifier that is no plain
-/// file name (empty, with "/" or NUL, or a leading ".") finds nothing.
+/// are not followed, folders that cannot be listed count as empty. An identifier that is not a
+/// plain file name (empty, with "/" or NUL, or a leading ".") finds nothing.
 [[nodiscard]] std::optional<std::filesystem::path>
 find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem);
 

@@ -10,7 +10,7 @@ namespace Loadwick::InstructionImports {
 /// backticks or tildes) hold none. Views into `text`.
 [[nodiscard]] std::vector<std::string_view> tokensIn(std::string_view text);
 
-/// The import tokens of one line: what follows an "@" at its start or behind white space, without
+/// The import tokens of one line: what follows an "@" at its start or after white space, without
 /// closing punctuation; web addresses and doubled "@" do not count. Views into `line`.
 [[nodiscard]] std::vector<std::string_view> tokensInLine(std::string_view line);
 

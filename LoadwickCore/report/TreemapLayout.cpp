@@ -62,7 +62,7 @@ double worstRatio(const Row &row, double side) noexcept
                     sumSquared / (sideSquared * row.minimum));
 }
 
-/// The row with one more item, the one that follows its last.
+/// The row extended by the item after its last one.
 Row extended(const Row &row, const Item &item, double side) noexcept
 {
     const Item *const first = row.items.empty() ? &item : row.items.data();
