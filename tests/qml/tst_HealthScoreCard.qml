@@ -32,7 +32,7 @@ Item {
             return findChild(card, "arc");
         }
 
-        // All words that the item shows, from its front to its back.
+        // All visible texts of the item, front to back.
         function words(item) {
             const own = item.text !== undefined && item.visible && item.text.length > 0 ? [item.text] : [];
             return Array.from(item.children).reduce((all, child) => all.concat(words(child)), own);

@@ -39,7 +39,7 @@ LongListScene {
             }
         }
 
-        // A row of 30 leaves the page with each step but the first ones and another one comes.
+        // A row of 30 leaves the page with each step but the first few, and another one appears.
 
         function test_reusesRowsThatHaveLeftThePage() {
             show(10000);

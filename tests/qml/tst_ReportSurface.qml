@@ -34,7 +34,7 @@ Item {
             tryVerify(shadowRests);
         }
 
-        // Before a pointer comes there is none.
+        // There is none before a pointer enters.
         function shadowRests() {
             const shadow = findChild(card, "shadow");
             return shadow === null || !shadow.visible;

@@ -24,7 +24,7 @@ std::vector<RecordedScan> twoScans()
             RecordedScanBuilder().withCategory("memory", 100).build()};
 }
 
-// What `tokens` has to give, looked for the long way.
+// The expected result of `tokens`, by linear search.
 std::optional<std::int64_t> sumOf(const RecordedScan &scan, const std::string &name)
 {
     std::optional<std::int64_t> sum;

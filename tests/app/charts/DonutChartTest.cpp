@@ -59,7 +59,7 @@ int paintedPixels(const QImage &image)
     return count;
 }
 
-// Places on the ring, halfway between its edges.
+// Points on the ring, halfway between its edges.
 constexpr QPoint right{110 + 89, 110};
 constexpr QPoint left{110 - 89, 110};
 constexpr QPoint lowerLeft{110 - 63, 110 + 63};

@@ -42,7 +42,7 @@ struct Place
     double y;
 };
 
-// Clockwise from the top, as a part of the outer radius.
+// Clockwise from the top, as a share of the outer radius.
 Place place(double angle, double distance)
 {
     return {std::sin(angle) * distance * radius, -std::cos(angle) * distance * radius};

@@ -13,7 +13,7 @@
 namespace Loadwick {
 namespace {
 
-/// Rows of a name and a weight, which count how often a name is asked for.
+/// Rows of a name and a weight, which count how often a name is read.
 class NamedWeights final : public QAbstractListModel
 {
 public:
@@ -56,7 +56,7 @@ struct ChartWindow
     {
         window.resize(700, 400);
         chart.setSize(size);
-        // A window takes its corner for the place of a pointer that has not moved yet.
+        // A window uses its corner as the position of a pointer that has not moved yet.
         chart.setPosition(origin);
         chart.setParentItem(window.contentItem());
         chart.setProperty("colors", QVariant::fromValue(QList<QColor>{Qt::red, Qt::blue}));
@@ -97,8 +97,8 @@ class TreemapChartTest : public QObject
 private Q_SLOTS:
     void coloursItsTilesByPosition()
     {
-        // The largest lies left, the second right above the third, which begins again with the
-        // first.
+        // The largest is on the left, the second at the top right above the third, which reuses the
+        // first colour.
         ChartWindow shown({20.0, 2.0, 2.0}, {60.0, 24.0});
         const QImage picture = shown.picture();
         QVERIFY(std::abs(picture.pixelColor(10, 12).alpha() - 128) <= 1);
@@ -111,7 +111,7 @@ private Q_SLOTS:
     {
         ChartWindow shown({1.0, 3.0}, {80.0, 24.0});
         const QImage picture = shown.picture();
-        // The larger lies left and ends before the gap.
+        // The larger one is on the left and ends before the gap.
         const QRect tile(0, 0, 59, 24);
         for (const QPoint edge : {QPoint(0, 12), QPoint(58, 12), QPoint(30, 0), QPoint(30, 23)})
             QCOMPARE(picture.pixelColor(edge), QColor(Qt::blue));
@@ -243,7 +243,7 @@ private Q_SLOTS:
         shown.chart.forceActiveFocus();
         QTest::keyClick(&shown.window, Qt::Key_Right);
         QCOMPARE(shown.chart.currentMark(), 0);
-        // What is there belongs to the other, which steps back.
+        // The neighbour's outline is there, and it is dimmed.
         QCOMPARE(shown.picture().pixelColor(0, 0).red(), 0);
         QVERIFY(shown.picture().pixelColor(0, 0).alpha() <= 128);
     }
@@ -270,7 +270,7 @@ private Q_SLOTS:
             shown.pointAt({1 + 30 * round, 100});
             QVERIFY(shown.picture() != first);
         }
-        // 16 ms each; what a sanitizer adds is allowed for.
+        // 16 ms each, plus an allowance for sanitizers.
         QVERIFY2(timer.milliseconds() < 20 * 16 * 4,
                  qPrintable(QString::number(timer.milliseconds())));
     }

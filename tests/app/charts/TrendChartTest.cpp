@@ -80,7 +80,7 @@ struct ChartWindow
     TrendChart chart;
 };
 
-/// The height of the only line of that colour, in the middle of the picture; -1 when there is none.
+/// The height of the only line of that colour, in the middle of the picture; -1 if there is none.
 int heightOf(const QColor &color, const QImage &picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
@@ -93,7 +93,7 @@ int heightOf(const QColor &color, const QImage &picture)
     return -1;
 }
 
-/// The smallest that holds all pixels of that colour.
+/// The bounding rectangle of all pixels of that colour.
 QRect boxOf(const QColor &color, const QImage &picture)
 {
     QRect box;

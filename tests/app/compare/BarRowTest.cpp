@@ -24,7 +24,7 @@ QImage painted(BarRow &row)
     return image;
 }
 
-/// How many pixels of a rectangle are not paper.
+/// How many pixels of a rectangle are painted.
 int inkIn(const QImage &image, const QRectF &place)
 {
     int count = 0;

@@ -18,7 +18,7 @@ QString nameOf(QObject *object)
 
 } // namespace
 
-/// The page with the keyboard alone. Nothing in it changes, so one serves all.
+/// The page, used by keyboard only. Nothing in it changes, so all tests share one.
 class CompareKeysTest : public QObject
 {
     Q_OBJECT
@@ -37,9 +37,9 @@ private Q_SLOTS:
 private:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     [[nodiscard]] QString focused();
-    /// Those of a card's head, from top to bottom.
+    /// The words of a card's head, from top to bottom.
     [[nodiscard]] QStringList words(int card);
-    /// Gives the keyboard to the name on a card.
+    /// Focuses the name on a card.
     void goTo(int card);
 
     std::unique_ptr<ComparePage> m_page;

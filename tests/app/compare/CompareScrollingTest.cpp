@@ -45,7 +45,7 @@ private:
     [[nodiscard]] bool cardsFillThePage();
 
     std::unique_ptr<ComparePage> m_page;
-    std::set<int> m_shownPlaces; ///< when it was the cards' turn last
+    std::set<int> m_shownPlaces; ///< at the last turn of the cards
     std::size_t m_mostNewPlaces = 0;
 };
 
@@ -59,7 +59,7 @@ void CompareScrollingTest::notePlaces()
     m_shownPlaces = now;
 }
 
-// Whether the cards, each at a place of its own, reach from the top of the page to its bottom.
+// Whether the cards, each at its own position, cover the page from top to bottom.
 bool CompareScrollingTest::cardsFillThePage()
 {
     qreal filled = 0;
@@ -69,7 +69,7 @@ bool CompareScrollingTest::cardsFillThePage()
         const qreal bottom = std::min(m_page->viewport()->height(), shown.bottom());
         filled += std::max(0.0, bottom - top) * shown.width();
     }
-    // Between cards there are gaps.
+    // There are gaps between cards.
     return filled > 0.85 * m_page->viewport()->height() * m_page->viewport()->width();
 }
 
@@ -116,7 +116,7 @@ void CompareScrollingTest::scrollingCreatesNoCards()
     }
 }
 
-// Wherever the page is, the cards it shows are those that belong there.
+// At every scroll position the page shows the matching cards.
 void CompareScrollingTest::everyPositionShowsItsOwnRepository()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
@@ -152,7 +152,7 @@ void CompareScrollingTest::createsAllOfFewTallCards()
     QCOMPARE(placesOf(m_page->cards()).size(), static_cast<std::size_t>(repositories));
 }
 
-// The rows stay, and say something else.
+// The rows are kept and show other values.
 void CompareScrollingTest::aReusedCardReturnsTheFocus()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));

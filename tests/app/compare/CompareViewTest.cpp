@@ -30,7 +30,7 @@ void collectParts(const QObject &object, std::set<const QObject *> &parts)
     }
 }
 
-/// How many objects an item is made of: what making it costs, without a clock.
+/// The number of objects in an item: the cost of creating it, without a clock.
 std::size_t partCount(const QObject &item)
 {
     std::set<const QObject *> parts;

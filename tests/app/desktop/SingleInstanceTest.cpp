@@ -120,7 +120,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Whether a program that is started now finds another.
+    /// Whether a program started now finds another instance.
     bool startAnother(const std::filesystem::path &folder)
     {
         std::atomic<bool> ended = false;

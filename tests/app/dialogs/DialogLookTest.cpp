@@ -15,7 +15,7 @@
 
 namespace Loadwick {
 
-/// A widget of no size, over a window whose colours are those of AppTheme.
+/// A widget without a size, over a window in the colours of AppTheme.
 class DialogLookTest : public QObject
 {
     Q_OBJECT

@@ -101,7 +101,7 @@ private Q_SLOTS:
         for (const char *words : {">Startup tokens per scan<", "two: startup context over time",
                                   "every total was reported by Claude."})
             QVERIFY2(drawing.contains(words), words);
-        // The axis of a single day's scans has hours alone.
+        // The axis of a single day's scans shows only hours.
         const auto moment = m_window->loadwick().model().history().get().back().date;
         QVERIFY(drawing.contains(">2 scans "));
         QVERIFY(drawing.contains((dateText(moment, DateForm::day, TextLocale()) + ".<").c_str()));

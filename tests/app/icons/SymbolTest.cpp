@@ -28,7 +28,7 @@ bool isEmpty(const QImage &image)
     return image == nothing;
 }
 
-// Pixels that are neither quite empty nor quite full: the edge of what is drawn.
+// Pixels that are neither quite empty nor quite full: the edge of the drawing.
 int softPixels(const QImage &image)
 {
     int count = 0;
@@ -162,7 +162,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Another colour each time it has to be made.
+    /// A different colour each time it is rendered.
     QImage picture(const char *key)
     {
         return SymbolPictures::find(QString::fromLatin1(key), [this] {

@@ -20,7 +20,7 @@ ScanReport reportOf(std::int64_t total)
     return report;
 }
 
-/// As on a desktop in that language; "C" is no language.
+/// A desktop in that language; "C" is no language.
 std::unique_ptr<BandPresenter> shown(std::int64_t total, const char *language)
 {
     auto band =

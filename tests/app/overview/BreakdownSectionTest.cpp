@@ -119,7 +119,7 @@ private Q_SLOTS:
             QVERIFY2(place.left() >= 16 && place.right() <= width - 16, qPrintable(text));
             QVERIFY2(label->property("contentHeight").toReal() <= label->height() + 1,
                      qPrintable(text));
-            // A name may be cut short: its tool tip holds the whole.
+            // A name may be elided: its tool tip holds the whole.
             QVERIFY2(label->objectName() == QStringLiteral("name") ||
                          label->property("contentWidth").toReal() <= label->width() + 1,
                      qPrintable(text));

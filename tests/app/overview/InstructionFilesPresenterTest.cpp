@@ -39,7 +39,7 @@ TextLocale localeNamed(const char *name)
     return TextLocale::fromEnvironment({{"LC_ALL", name}});
 }
 
-/// Files "/r/0", "/r/1", … of so many tokens each, in a total of 10,000.
+/// Files "/r/0", "/r/1", … with these tokens, in a total of 10,000.
 ScanReport reportOfTokens(const std::vector<std::int64_t> &tokens)
 {
     ScanReport report = reportOf({});
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QTEST(files.repositoryRows()->text(0, QStringLiteral("amount")), "amount");
         QTEST(files.tiles()->text(0, QStringLiteral("figures")), "figures");
         QTEST(files.largestRows()->text(0, QStringLiteral("figures")), "figures");
-        // Written with a point whatever the locale.
+        // With a decimal point whatever the locale.
         QCOMPARE(files.inheritedRows()->value(0, QStringLiteral("share")).toString(),
                  QStringLiteral("0.1% of total"));
     }

@@ -71,7 +71,7 @@ private Q_SLOTS:
     void listsAPathInBothListsOnceWithItsFigures()
     {
         InstructionFileSet files = sampleFiles();
-        // Imported by the user's own file, it counts as inherited although it lies elsewhere.
+        // Imported by the user's own file, it counts as inherited although it is elsewhere.
         files.inheritedFiles.push_back(
             InstructionFileEstimate::fromPath("/h/.claude/shared.md", 40));
         files.unreadablePaths = {"/h/.claude/shared.md", "/r/a.md"};

@@ -1,5 +1,5 @@
-// Every page in every look, moving and still, from left to right and from right to left: nothing is
-// clipped and everything has a name. CTest runs it a second time at twice the scale.
+// Every page in every look, with and without motion, left to right and right to left: nothing is
+// clipped and everything has a name. CTest also runs it at twice the scale.
 #include <array>
 
 #include <QGuiApplication>
@@ -241,13 +241,13 @@ void AccessMatrixTest::expandSections()
     }
 }
 
-// Words that fade in are not there at first, and none of them would be missed.
+// Words that fade in are invisible at first, so their absence would go unnoticed.
 void AccessMatrixTest::arrive()
 {
     QTest::qWait(arrivalMilliseconds);
 }
 
-// A layout takes a few frames to come to rest.
+// A layout takes a few frames to settle.
 void AccessMatrixTest::verify()
 {
     if (QTest::currentTestFailed())

@@ -1,4 +1,4 @@
-// What a window consists of when it first shows: what is not visible then does not exist.
+// The contents of a window when it first shows: what is not visible does not exist yet.
 #include <algorithm>
 #include <fstream>
 #include <string>
@@ -111,7 +111,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QQuickWindow &window() const { return m_window->loadwick().window(); }
 
-    /// An object of that component; null while there is none.
+    /// An object of that component; null if there is none.
     [[nodiscard]] const QObject *find(const QByteArray &type) const
     {
         const QList<QObject *> objects = window().findChildren<QObject *>();

@@ -178,7 +178,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// Whether the window would take what is dragged over its middle.
+    /// Whether the window would accept the dragged item over its middle.
     bool drag(const QList<QUrl> &urls)
     {
         m_dragged.setUrls(urls);

@@ -113,7 +113,7 @@ const StandInProgram stubbornChildProgram("stubborn-child", stubbornChild);
 
 constexpr int startMilliseconds = 20'000;
 
-/// The program promises one second; the rest is for a busy machine to notice.
+/// The program promises one second; the rest allows for a busy machine.
 constexpr qint64 endMilliseconds = 1'500;
 
 } // namespace

@@ -15,7 +15,7 @@
 namespace Loadwick {
 namespace {
 
-// The charts take longest to arrive; a little under half of that shows whether they do.
+// The charts take longest to arrive; a little under half of that shows whether they move.
 constexpr int stretchMilliseconds = 350;
 constexpr int pointedMilliseconds = 70;
 // More than a layout takes to settle, however long each frame takes on a busy machine.
@@ -58,7 +58,7 @@ private:
 
     std::unique_ptr<WindowFixture> m_window;
     std::unique_ptr<MotionSampler> m_sampler;
-    QStringList m_moving; ///< in the stretches so far
+    QStringList m_moving; ///< in all stretches so far
 };
 
 void ReducedMotionTest::cleanup()
@@ -139,15 +139,15 @@ void ReducedMotionTest::openSheet(Appearance::Motion motion)
     QTest::qWait(stretchMilliseconds);
 }
 
-// Ignores the way to the state in which a test begins.
+// Ignores motion on the way to a test's initial state.
 void ReducedMotionTest::settleAndBegin()
 {
     QTest::qWait(2 * stretchMilliseconds);
     m_sampler->begin();
 }
 
-// Ends a stretch: in the next one, a new layout may settle again. It goes on while frames come and
-// were too few to tell.
+// Ends a stretch: in the next one, a new layout may settle again. Continues while frames arrive and
+// were too few to judge.
 void ReducedMotionTest::rest(int milliseconds)
 {
     const QDeadlineTimer latest(longestMilliseconds);

@@ -28,16 +28,16 @@ public:
     [[nodiscard]] BreakdownPresenter &breakdown() noexcept { return *m_breakdown; }
     [[nodiscard]] QQuickWindow &window() noexcept { return *m_window; }
 
-    /// Everything laid out as it is to be painted next.
+    /// Everything laid out as it will be painted next.
     void settle();
     void press(Qt::Key key);
     void pointAt(const QPointF &scenePoint);
 
     /// The visible items of that object name, in the order of the page.
     [[nodiscard]] QList<QQuickItem *> items(const QString &name) const;
-    /// The first of them; the program ends without one.
+    /// The first of them; aborts if there is none.
     [[nodiscard]] QQuickItem &item(const QString &name) const;
-    /// The visible labels that hold words, in the order of the page, and their words.
+    /// The visible labels with text, in page order, and their texts.
     [[nodiscard]] QList<QQuickItem *> labels() const;
     [[nodiscard]] QStringList texts() const;
 

@@ -25,19 +25,19 @@ public:
     [[nodiscard]] QQuickView &view() noexcept { return m_view; }
     [[nodiscard]] ComparePresenter &compare() noexcept { return m_compare; }
 
-    /// What the card of that number says, by a presenter of its own.
+    /// The texts of the card of that number, from its own presenter.
     [[nodiscard]] std::unique_ptr<ColumnPresenter> said(int number);
 
-    /// Takes the place of what was recorded; the page follows.
+    /// Replaces the recorded history; the page follows.
     void record(std::vector<RecordedScan> scans);
 
     /// The visible items of that object name, in the order of the page.
     [[nodiscard]] QList<QQuickItem *> items(const char *name) const;
     /// The rows with a bar below an item.
     [[nodiscard]] static QList<BarRow *> barsBelow(QQuickItem *root);
-    /// The cards that were made, in the order of their cells.
+    /// The cards that were created, in the order of their cells.
     [[nodiscard]] QList<QQuickItem *> cards() const;
-    /// What scrolls; there is one as soon as two repositories are recorded.
+    /// The viewport; it exists once two repositories are recorded.
     [[nodiscard]] QQuickItem *viewport() const;
 
 private:

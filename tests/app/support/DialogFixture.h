@@ -14,7 +14,7 @@
 
 namespace Loadwick {
 
-/// A window over which dialogs of Qt's own open, and a folder for them, which is also the home.
+/// A window over which Qt's own dialogs open, and a folder for them, which is also the home.
 class DialogFixture
 {
 public:
@@ -29,18 +29,18 @@ public:
     [[nodiscard]] const std::filesystem::path &root() const { return m_folder.path(); }
     [[nodiscard]] QUrl url() const;
 
-    /// The dialog that is open; null when none is.
+    /// The open dialog; null if there is none.
     [[nodiscard]] static QFileDialog *dialog();
     [[nodiscard]] static QLineEdit &nameField();
     [[nodiscard]] static QPushButton &button(QDialogButtonBox::StandardButton which);
     /// The names in the list, sorted, once there are that many.
     [[nodiscard]] static QStringList listedNames(int count);
 
-    /// Replaces what is in the name field; "$" is the path of the folder.
+    /// Replaces the text of the name field; "$" is the path of the folder.
     void type(const QByteArray &text) const;
     static void press(Qt::Key key);
-    /// Presses Enter and answers the question that this leads to; gives its words, or nothing when
-    /// no question is asked. Markup in the words would be read as such where `isPlain` is false.
+    /// Presses Enter and answers the question that follows; returns its text, or nothing if none is
+    /// asked. Markup in the text would be interpreted if `isPlain` is false.
     struct Question
     {
         QString words;

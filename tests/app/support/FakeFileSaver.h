@@ -6,11 +6,11 @@
 
 namespace Loadwick {
 
-/// Answers at once with the target that a test has set, or not at all.
+/// Answers at once with the target that a test has set, or never.
 class FakeFileSaver final : public FileSaver
 {
 public:
-    /// None: the user cancels.
+    /// Nothing: the user cancels.
     std::optional<Target> answer;
     std::optional<Request> asked;
 

@@ -7,11 +7,11 @@
 
 namespace Loadwick {
 
-/// Answers at once with the folder that a test has set, or not at all.
+/// Answers at once with the folder that a test has set, or never.
 class FakeFolderChooser final : public FolderChooser
 {
 public:
-    /// None: the user cancels.
+    /// Nothing: the user cancels.
     std::optional<std::filesystem::path> answer;
     int openCount = 0;
 

@@ -52,7 +52,7 @@ QRectF words(const QQuickItem &text)
     return {left, top, width, height};
 }
 
-/// The part of an area of the window that the window and the items that clip leave visible.
+/// The part of an area of the window left visible by the window and by clipping items.
 QRectF shownPart(const QQuickItem &item, QRectF area)
 {
     for (const QQuickItem *holder = item.parentItem(); holder; holder = holder->parentItem()) {
@@ -122,7 +122,7 @@ struct PaintedText
     bool isOnSheet;
 };
 
-/// A sheet covers what is below it.
+/// A sheet covers everything below it.
 bool overlap(const PaintedText &first, const PaintedText &second)
 {
     const QRectF common = first.area & second.area;

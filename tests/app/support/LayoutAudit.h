@@ -5,18 +5,18 @@
 
 namespace Loadwick {
 
-/// Looks for what nobody could read or name in a window as it is laid out and shown now. Each
-/// answer has one line per fault and is empty where all is well.
+/// Looks for unreadable or unnamed items in a window as currently laid out and visible. Each result
+/// has one line per fault and is empty if there are none.
 namespace LayoutAudit {
 
-/// Texts that reach beyond their own item, that lie beside the window or under the edge of what
-/// clips them, or that are cut short with no tool tip to tell the rest.
+/// Texts that overflow their item, lie outside the window or under a clipping edge, or are elided
+/// without a tool tip that holds the rest.
 [[nodiscard]] QStringList clippedTexts(QQuickWindow &window);
 
 /// Texts that are painted over each other.
 [[nodiscard]] QStringList overlappingTexts(QQuickWindow &window);
 
-/// What the keyboard or assistive technology reaches and that has no name to be called by.
+/// Focusable or accessible items without an accessible name.
 [[nodiscard]] QStringList unnamedControls(QQuickWindow &window);
 
 /// All of the above.

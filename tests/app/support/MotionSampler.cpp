@@ -15,7 +15,7 @@ namespace {
 
 constexpr int settlingSteps = 6; // a layout within layouts, until all of them agree
 
-/// No layout sets these: they may change once at most.
+/// No layout sets these: they may change at most once.
 constexpr std::array<std::string_view, 9> paintedNumbers{
     "opacity", "scale", "rotation", "angle", "progress", "emphasis", "bob", "rise", "presence"};
 
@@ -25,7 +25,7 @@ int mostSteps(const char *property)
     return isPainted ? 1 : settlingSteps;
 }
 
-/// An inline component bears its bare name.
+/// An inline component has its bare name.
 bool isOwnType(const QMetaObject &type)
 {
     const QByteArray name = type.className();

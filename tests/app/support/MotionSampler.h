@@ -11,8 +11,8 @@ class QQuickItem;
 
 namespace Loadwick {
 
-/// Looks at everything in a window before each of its frames: where each item is, how large, turned
-/// and opaque, and the numbers that the module's own types add, such as how far a chart has grown.
+/// Samples everything in a window before each of its frames: each item's position, size, rotation
+/// and opacity, and the numbers that the module's own types add, such as how far a chart has grown.
 /// A number that takes values between its first and its last within one stretch of frames moves. A
 /// new layout alone may take some frames to settle.
 class MotionSampler : public QObject
@@ -23,7 +23,7 @@ public:
     /// The window outlives this object.
     explicit MotionSampler(QQuickWindow &window);
 
-    /// Begins a stretch: earlier frames no longer count.
+    /// Begins a stretch: earlier frames are discarded.
     void begin();
 
     /// Frames seen since then.
@@ -37,8 +37,8 @@ private:
     {
         QString name;
         double last = 0;
-        int steps = 0;     ///< frames in which it had another value than before
-        int mostSteps = 0; ///< with more, it moves
+        int steps = 0;     ///< frames in which its value changed
+        int mostSteps = 0; ///< more of them are motion
     };
 
     void sample();

@@ -27,7 +27,7 @@ PrivateBus::PrivateBus()
     m_daemon.start(QStringLiteral("dbus-daemon"),
                    {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                     QStringLiteral("--config-file=") + QString::fromStdString(file.string())});
-    // It says its address once it listens.
+    // It prints its address once it listens.
     if (!m_daemon.waitForReadyRead(10'000))
         qFatal("No message bus: %s", qPrintable(m_daemon.errorString()));
 }

@@ -13,7 +13,7 @@ namespace Loadwick {
 class PrivateBus
 {
 public:
-    /// Ends the test program if there is no bus daemon.
+    /// Aborts the test program if there is no bus daemon.
     PrivateBus();
     ~PrivateBus();
 

@@ -26,11 +26,11 @@ public:
     std::shared_ptr<FakeInstructionScanner> scanner = std::make_shared<FakeInstructionScanner>();
     std::shared_ptr<SteppingDispatcher> dispatcher = std::make_shared<SteppingDispatcher>();
     TemporaryFolder folder;
-    Rest rest{dispatcher}; ///< destroyed after the model, which then hears of nothing
+    Rest rest{dispatcher}; ///< destroyed after the model, which gets no more calls
     ScanModel model;
 
     void choose();
-    /// Runs the scan that was started to its end.
+    /// Completes the running scan.
     void finish() { dispatcher->runAll(); }
     /// One whole scan of the folder.
     void scan();

@@ -8,7 +8,7 @@
 
 namespace Loadwick {
 
-/// A desktop's notification service that shows nothing and remembers what it was told.
+/// A desktop's notification service that shows nothing and records its calls.
 class StandInNotifications : public QObject
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ public:
         uint replaced; ///< 0: nothing
     };
 
-    /// Takes the service's name on the bus.
+    /// Claims the service's name on the bus.
     explicit StandInNotifications(QDBusConnection bus);
     ~StandInNotifications() override;
 
-    /// Tells everyone that the note of that number was pressed, with the desktop's leave if any.
+    /// Announces a press on the note of that number, with the desktop's token if there is one.
     void press(uint identifier, const QString &token = {});
 
     QStringList capabilities = {QStringLiteral("body"), QStringLiteral("body-markup"),

@@ -11,22 +11,22 @@
 
 namespace Loadwick {
 
-/// A desktop's settings portal that knows what a test tells it, and wraps its answers as twice as
-/// the real one does.
+/// A desktop's settings portal with the settings of a test; it wraps its answers twice, as the real
+/// one does.
 class StandInPortal : public QObject
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
 public:
-    /// Takes the portal's name on the bus.
+    /// Claims the portal's name on the bus.
     explicit StandInPortal(QDBusConnection bus);
     ~StandInPortal() override;
 
     void set(const QString &space, const QString &name, const QVariant &value);
-    /// Sets it and tells everyone.
+    /// Sets it and announces the change.
     void change(const QString &space, const QString &name, const QVariant &value);
-    /// From now on questions are heard and never answered.
+    /// From now on calls are received and never answered.
     void fallSilent() { m_isSilent = true; }
     [[nodiscard]] int questionCount() const { return m_questionCount; }
 

@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-/// A program of its own that a test starts as a child process: the test program, called with its
+/// A separate program that a test starts as a child process: the test program, called with its
 /// name, runs it instead of a test.
 class StandInProgram
 {

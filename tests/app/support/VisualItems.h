@@ -6,14 +6,14 @@
 
 namespace Loadwick {
 
-/// The visible items of that objectName below `root`, in the order of the tree: also those that
-/// views and repeaters made.
+/// The visible items of that objectName below `root`, in tree order, including those that views and
+/// repeaters created.
 [[nodiscard]] QList<QQuickItem *> visibleItems(QQuickItem *root, const QString &objectName);
 
-/// All items below `root` of which anything can be seen, in the order of the tree.
+/// All items below `root` that are at least partly visible, in tree order.
 [[nodiscard]] QList<QQuickItem *> shownItems(const QQuickItem &root);
 
-/// Where the item ends on the trailing side, in the coordinates of its window.
+/// The item's trailing edge, in the coordinates of its window.
 [[nodiscard]] qreal rightEdge(const QQuickItem *item);
 
 } // namespace Loadwick

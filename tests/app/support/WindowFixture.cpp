@@ -28,8 +28,8 @@ QAccessibleInterface *findBelow(QAccessibleInterface *parent, const QString &nam
 WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completionStore,
                              const TextLocale &locale)
 {
-    // Layouts that do not settle, bindings that loop, missing properties; but not a font that lacks
-    // a script, for which Qt takes another.
+    // Layouts that do not settle, binding loops, missing properties; but not a font that lacks a
+    // script, which Qt substitutes.
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?! *OpenType support missing)")));
     auto chooser = std::make_unique<FakeFolderChooser>();
     m_chooser = chooser.get();

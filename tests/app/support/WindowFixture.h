@@ -50,10 +50,10 @@ public:
     void scan(const std::filesystem::path &folder);
     /// Presses the button of that name as assistive technology does.
     void pressButton(const QString &name) const;
-    /// Runs the query whether this is a first launch; the sheet's delay then begins.
+    /// Queries whether this is a first launch; the sheet's delay then begins.
     void askForFirstLaunch() { m_dispatcher->runAll(); }
 
-    /// What assistive technology finds visible under that name; null if there is none.
+    /// The visible item with that accessible name; null if there is none.
     [[nodiscard]] QAccessibleInterface *find(const QString &name) const;
     [[nodiscard]] bool shows(const QString &name) const { return find(name) != nullptr; }
     [[nodiscard]] bool isPressable(const QString &name) const;

@@ -26,7 +26,7 @@ private Q_SLOTS:
     {
         QCOMPARE(contrast(Qt::red, Qt::white), contrast(Qt::white, Qt::red));
     }
-    // The grey that is known to lie just above the limit for text on white.
+    // The grey that is known to be just above the limit for text on white.
     void middleGreyOnWhiteIsJustReadable()
     {
         QVERIFY(contrast(QColor(0x76, 0x76, 0x76), Qt::white) >= 4.5);

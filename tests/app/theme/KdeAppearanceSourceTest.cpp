@@ -45,7 +45,7 @@ private Q_SLOTS:
         m_folder->write("kdeglobals", darkText);
         const KdeAppearanceSource source(m_file, m_dispatcher);
         QTRY_VERIFY(source.prefersDark());
-        // As KDE writes it; twice, for the first replacement ends the watch on the file itself.
+        // As KDE writes it; twice, because the first replacement ends the watch on the file itself.
         replace(lightText);
         QTRY_VERIFY(!source.prefersDark());
         replace(darkText);

@@ -189,7 +189,7 @@ private:
         return m_data->runs()->text(row, QString::fromLatin1(role));
     }
 
-    /// The oldest first; the nth has n tokens.
+    /// Oldest first; the nth has n tokens.
     static std::vector<RecordedScan> scans(int count)
     {
         std::vector<RecordedScan> scans;

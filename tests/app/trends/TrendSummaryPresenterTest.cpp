@@ -104,7 +104,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// The signal that ends a program which shows these; 0 when it shows them.
+    /// The signal that ends a program which shows these; 0 if it survives.
     static int signalThatEnds(const std::vector<LineSample> &samples)
     {
         const pid_t child = fork();

@@ -130,7 +130,7 @@ private Q_SLOTS:
     void theSummaryTilesAreOfEqualWidth()
     {
         recordMany();
-        // A layout takes a moment to come to rest.
+        // A layout takes a moment to settle.
         QTRY_VERIFY(std::abs((start("Band") - start("Latest scan")) -
                              (start("Drift across recorded scans") - start("Band"))) <= 1);
     }
@@ -211,7 +211,7 @@ private:
         QTRY_VERIFY(shows("29,900"));
     }
 
-    /// What scrolls the page.
+    /// The page's viewport.
     [[nodiscard]] QQuickItem *viewport() const
     {
         QQuickItem *item =
@@ -226,7 +226,7 @@ private:
         m_window->loadwick().model().history().set(std::move(scans));
     }
 
-    /// What assistive technology is told beside the name.
+    /// The accessible description beside the name.
     [[nodiscard]] QString placeOf(const char *name) const
     {
         QAccessibleInterface *row = m_window->find(QString::fromUtf8(name));
@@ -240,7 +240,7 @@ private:
                                 : qobject_cast<QQuickItem *>(label->object())->mapToScene({}).x();
     }
 
-    /// As the tabulator would.
+    /// As the Tab key would.
     void focus(const char *name)
     {
         QAccessibleInterface *found = m_window->find(QString::fromUtf8(name));

@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import Loadwick
 
-// What all tests of the long list begin with, and how they see its rows and press one.
+// The common set-up of all tests of the long list, and helpers to see its rows and press one.
 TestCase {
     id: test
 

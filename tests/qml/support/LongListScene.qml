@@ -11,11 +11,11 @@ Item {
     property alias head: head
     property alias before: before
     property alias after: after
-    // The rows that there are now.
+    // The current rows.
     property int made: 0
-    // Ever.
+    // Ever created.
     property int makings: 0
-    // What the list left to the page.
+    // Keys that the list ignored.
     property string keysLeft: ""
 
     width: 400
