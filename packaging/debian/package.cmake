@@ -4,8 +4,8 @@ loadwick_compressed(debian/changelog changelog "${CMAKE_INSTALL_DATADIR}/doc/loa
 install(FILES debian/copyright DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/loadwick" COMPONENT debian
         EXCLUDE_FROM_ALL)
 
-# Libraries are found in the program; these it loads by name while it runs, so they are taken from the
-# list that everything else goes by.
+# Linked libraries are detected; these are loaded by name at run time, so they come from the package
+# list that everything else uses.
 file(STRINGS "${PROJECT_SOURCE_DIR}/tools/packages/run.txt" loaded
      REGEX "^(qml6-module-|qt6-wayland|libqt6svg6|libgl1-mesa-dri|fonts-)")
 list(JOIN loaded ", " loaded)
@@ -24,8 +24,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "${loaded}")
-# Without the theme the dialogs for folders and files are Qt's own; without the portal the window does
-# not hear whether the desktop is dark; without zsh its log-in shell cannot be asked.
+# Without the theme the file dialogs are Qt's own; without the portal the window does not know
+# whether the desktop is dark; without zsh its log-in shell cannot be queried.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme, xdg-desktop-portal")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS zsh)
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
