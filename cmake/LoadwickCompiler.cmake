@@ -32,12 +32,12 @@ if(LOADWICK_WARNINGS_AS_ERRORS)
     list(APPEND LOADWICK_WARNINGS -Werror)
 endif()
 
-# Our own code only: generated code and headers of others are not held to these.
+# Our own code only: generated code and third-party headers are exempt.
 function(loadwick_warnings target)
     target_compile_options(${target} PRIVATE ${LOADWICK_WARNINGS})
 endfunction()
 
-# The same for a target that also compiles what Qt generates from QML.
+# The same for a target that also compiles Qt's generated QML code.
 function(loadwick_source_warnings)
     set_property(SOURCE ${ARGN} APPEND PROPERTY COMPILE_OPTIONS ${LOADWICK_WARNINGS})
 endfunction()

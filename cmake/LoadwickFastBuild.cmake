@@ -1,5 +1,5 @@
-# What makes building quick: headers of others are read once a library and not once a file, and where
-# nobody edits (LOADWICK_UNITY) the compiler is given several files at a time.
+# What makes building fast: third-party headers are read once per library instead of once per file,
+# and where nobody edits (LOADWICK_UNITY) the compiler is given several files at a time.
 
 option(LOADWICK_PRECOMPILE "Read the headers of others once, precompiled" ON)
 option(LOADWICK_UNITY "Compile several files at a time, for builds that are made in one go" OFF)
@@ -9,14 +9,14 @@ set(LOADWICK_STANDARD_HEADERS
     <functional> <limits> <map> <memory> <mutex> <optional> <set> <span> <string> <string_view>
     <system_error> <thread> <tuple> <unordered_map> <unordered_set> <utility> <variant> <vector>)
 
-# Precompiles the given headers of others for the target.
+# Precompiles the given third-party headers for the target.
 function(loadwick_precompile target)
     if(LOADWICK_PRECOMPILE)
         target_precompile_headers(${target} PRIVATE ${ARGN})
     endif()
 endfunction()
 
-# Gives the target the precompiled headers of another one that is built with the same options.
+# Reuses the precompiled headers of another target that is built with the same options.
 function(loadwick_precompile_like target other)
     if(LOADWICK_PRECOMPILE)
         target_precompile_headers(${target} REUSE_FROM ${other})
@@ -38,7 +38,7 @@ function(loadwick_unity target)
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endfunction()
 
-# Compiles the pages that Qt made C++ of a dozen at a time; our warnings are not about that code.
+# Compiles the C++ that Qt generates from the pages a dozen at a time, without our warnings.
 function(loadwick_compile_pages_together target)
     get_target_property(sources ${target} SOURCES)
     list(FILTER sources INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")

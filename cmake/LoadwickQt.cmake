@@ -10,7 +10,7 @@ set(LOADWICK_QT_HEADERS
     <QQuickItem> <QQuickPaintedItem> <QQuickWindow> <QString> <QUrl> <QVariant>
     <QtQml/qqmlregistration.h> <QtQml/qqmlprivate.h>)
 
-# Qt code says which of its texts are text: no silent conversion from and to bytes.
+# Qt code converts text explicitly: no silent conversion from and to bytes.
 function(loadwick_qt_strictness target)
     target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                                  QT_NO_KEYWORDS)

@@ -21,7 +21,7 @@ endfunction()
 
 # Declares the tests of one folder: every <Type>Test.cpp in it goes into one program, and each file
 # is one CTest test, "<folder>/<Type>", labelled with the folder's name. A file <Type>SlowTest.cpp
-# carries the label "slow" too.
+# also has the label "slow".
 function(loadwick_core_tests folder)
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*Test.cpp")
     if(LOADWICK_SLOW_TESTS_ONLY)
