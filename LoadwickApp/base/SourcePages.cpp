@@ -12,6 +12,8 @@ namespace {
 /// The tree that the pages are read from; empty if they are built into the program only.
 const QString sourceTree = QStringLiteral(LOADWICK_SOURCE_PAGES);
 
+const QString inProgram = QStringLiteral("qrc:/qt/qml/Loadwick/");
+
 class SourcePages final : public QQmlAbstractUrlInterceptor
 {
 public:
@@ -21,13 +23,18 @@ public:
                            QDirIterator::Subdirectories);
         while (pages.hasNext()) {
             const QUrl page = QUrl::fromLocalFile(pages.next());
-            m_pages.insert(QStringLiteral("qrc:/qt/qml/Loadwick/") + page.fileName(), page);
+            m_pages.insert(inProgram + page.fileName(), page);
         }
     }
 
-    QUrl intercept(const QUrl &url, DataType) override
+    /// A page is read from its file, but keeps the address in the program: it is its type's
+    /// identity.
+    QUrl intercept(const QUrl &url, DataType kind) override
     {
-        return m_pages.value(url.toString(), url);
+        const QString address = inProgram + url.fileName();
+        if (kind == QmlFile)
+            return m_pages.value(url.toString(), url);
+        return url.isLocalFile() && m_pages.contains(address) ? QUrl(address) : url;
     }
 
 private:

@@ -6,8 +6,7 @@ namespace Loadwick {
 
 /// In a developer build, makes the engine read each page of our module from the source tree instead
 /// of from the program, so that an edited page shows on the next start without a build. A no-op in
-/// other builds. A page that is loaded by name needs its absolute URL (qrc:/qt/qml/Loadwick/…): a
-/// relative one would be another type.
+/// other builds.
 void readPagesFromSource(QQmlEngine &engine);
 
 } // namespace Loadwick

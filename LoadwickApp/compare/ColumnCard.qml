@@ -85,7 +85,7 @@ ReportSurface {
             y: bars.y
             width: parent.width
             active: card.column.emptyText.length > 0
-            Component.onCompleted: setSource("qrc:/qt/qml/Loadwick/SelectableText.qml", {
+            Component.onCompleted: setSource("SelectableText.qml", {
                 objectName: "empty",
                 text: Qt.binding(() => card.column.emptyText),
                 secondary: true

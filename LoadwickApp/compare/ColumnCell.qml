@@ -33,7 +33,7 @@ Loader {
     onIsLateChanged: if (cell.isLate) cell.grid.hasLateCards = true
     Component.onCompleted: {
         cell.settle();
-        cell.setSource("qrc:/qt/qml/Loadwick/ColumnCard.qml", {
+        cell.setSource("ColumnCard.qml", {
             compare: cell.grid.compare,
             place: Qt.binding(() => cell.place),
             viewport: cell.grid.viewport,

@@ -32,8 +32,7 @@ Item {
         anchors.fill: parent
         active: report.wasShown && !page.isEmpty
         Component.onCompleted: {
-            report.setSource("qrc:/qt/qml/Loadwick/CompareReport.qml",
-                { compare: page.compare, exporter: page.exporter });
+            report.setSource("CompareReport.qml", { compare: page.compare, exporter: page.exporter });
             report.wasShown = page.visible;
         }
     }

@@ -21,7 +21,7 @@ HoverHandler {
     }
 
     function make() {
-        const maker = Qt.createComponent("qrc:/qt/qml/Loadwick/PlainToolTip.qml");
+        const maker = Qt.createComponent("PlainToolTip.qml");
         return maker.createObject(tip.parent, { parent: tip.about, words: tip.words, visible: true }) as PlainToolTip;
     }
 

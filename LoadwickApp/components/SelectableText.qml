@@ -28,7 +28,7 @@ Item {
 
     function equip() {
         if (!control.reader)
-            control.reader = Qt.createComponent("qrc:/qt/qml/Loadwick/TextReader.qml").createObject(control, {
+            control.reader = Qt.createComponent("TextReader.qml").createObject(control, {
                 text: Qt.binding(() => control.text),
                 font: Qt.binding(() => control.font),
                 color: Qt.binding(() => control.color),

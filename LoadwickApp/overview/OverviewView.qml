@@ -23,23 +23,20 @@ Item {
 
         anchors.fill: parent
         active: page.overview.state === OverviewPresenter.Loading
-        Component.onCompleted: loading.setSource("qrc:/qt/qml/Loadwick/OverviewLoading.qml",
-            { overview: page.overview })
+        Component.onCompleted: loading.setSource("OverviewLoading.qml", { overview: page.overview })
     }
     Loader {
         id: failure
 
         anchors.fill: parent
         active: page.overview.state === OverviewPresenter.Failure
-        Component.onCompleted: failure.setSource("qrc:/qt/qml/Loadwick/OverviewFailure.qml",
-            { overview: page.overview })
+        Component.onCompleted: failure.setSource("OverviewFailure.qml", { overview: page.overview })
     }
     Loader {
         id: report
 
         anchors.fill: parent
         active: page.overview.state === OverviewPresenter.Report
-        Component.onCompleted: report.setSource("qrc:/qt/qml/Loadwick/OverviewReport.qml",
-            { overview: page.overview })
+        Component.onCompleted: report.setSource("OverviewReport.qml", { overview: page.overview })
     }
 }

@@ -31,8 +31,7 @@ Item {
             Layout.leftMargin: -AppTheme.smallSpace
             active: bar.recent.count > 0
             visible: active
-            Component.onCompleted: recentButton.setSource("qrc:/qt/qml/Loadwick/RecentButton.qml",
-                { content: bar.content, recent: bar.recent })
+            Component.onCompleted: recentButton.setSource("RecentButton.qml", { content: bar.content, recent: bar.recent })
         }
         PushButton {
             title: bar.content.scanTitle

@@ -85,14 +85,12 @@ SplitView {
             LatePage {
                 id: trendsPage
                 isShown: pages.currentIndex === 1
-                onWanted: trendsPage.setSource("qrc:/qt/qml/Loadwick/TrendsView.qml",
-                    { trends: view.trends, exporter: view.trendsExport })
+                onWanted: trendsPage.setSource("TrendsView.qml", { trends: view.trends, exporter: view.trendsExport })
             }
             LatePage {
                 id: comparePage
                 isShown: pages.currentIndex === 2
-                onWanted: comparePage.setSource("qrc:/qt/qml/Loadwick/CompareView.qml",
-                    { compare: view.compare, exporter: view.compareExport })
+                onWanted: comparePage.setSource("CompareView.qml", { compare: view.compare, exporter: view.compareExport })
             }
         }
         ContentKeys {

@@ -57,8 +57,7 @@ ApplicationWindow {
 
         onIsDueChanged: {
             if (sheet.isDue) {
-                sheet.setSource("qrc:/qt/qml/Loadwick/OnboardingView.qml",
-                    { onboarding: window.onboarding });
+                sheet.setSource("OnboardingView.qml", { onboarding: window.onboarding });
             } else {
                 sheet.source = "";
                 contents.takeKeyboard();

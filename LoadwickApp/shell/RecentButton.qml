@@ -16,7 +16,7 @@ AbstractButton {
 
     function open() {
         if (!button.menu) {
-            loader.setSource("qrc:/qt/qml/Loadwick/RecentMenu.qml", { recent: button.recent });
+            loader.setSource("RecentMenu.qml", { recent: button.recent });
             button.menu = loader.item as RecentMenu;
         }
         button.recent.look();

@@ -56,8 +56,7 @@ Rectangle {
                 Layout.fillWidth: true
                 active: sidebar.content.hasRepository
                 visible: active
-                Component.onCompleted: path.setSource("qrc:/qt/qml/Loadwick/RepositoryPath.qml",
-                    { content: sidebar.content })
+                Component.onCompleted: path.setSource("RepositoryPath.qml", { content: sidebar.content })
             }
             PlainLabel {
                 Layout.fillWidth: true
