@@ -16,8 +16,7 @@ Item {
         note: page.disclosure
         visible: page.overview.state === OverviewPresenter.Empty
     }
-    // The other states are created on demand. Every report is a new page, so that its arrival
-    // shows.
+    // The others are created on demand. Every report is a new page, so that its arrival shows.
     Loader {
         id: loading
 
