@@ -34,8 +34,9 @@ Item {
     readonly property int keptLines: grid.isLarge ? Math.min(grid.neededLines, grid.lineCount) : grid.lineCount
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
     // Independent of the width: a different number would make all cards again.
-    readonly property int cellCount: grid.isLarge
-        ? (Math.ceil(grid.screenHeight / grid.leastHeight) + 2) * grid.fitting(AppTheme.contentWidth) : grid.count
+    readonly property int mostCells: (Math.ceil(grid.screenHeight / grid.leastHeight) + 2) * grid.fitting(AppTheme.contentWidth)
+    // While the page is laid out for the first time, its viewport is as high as its content.
+    readonly property int cellCount: grid.isLarge ? Math.min(grid.count, grid.mostCells) : grid.count
 
     // Before the first frame nothing has its position or height. After it a large grid makes one
     // card every other frame, and its rows in the frame between: both together exceed a frame.
