@@ -1,7 +1,6 @@
 #include "samples/GeneratedFiles.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <fstream>
 #include <numeric>
@@ -9,6 +8,7 @@
 #include "history/ScanHistoryFile.h"
 #include "history/ScanHistoryStore.h"
 #include "samples/GeneratedText.h"
+#include "samples/SampleHistories.h"
 #include "text/Fatal.h"
 
 namespace Loadwick::GeneratedFiles {
@@ -21,15 +21,6 @@ constexpr std::int64_t filesInFolder = 1'000;
 constexpr std::int64_t importsOfFile = 4;
 constexpr std::int64_t repositoryCount = 40;
 constexpr std::chrono::sys_seconds lastScan(std::chrono::seconds(1'772'615'727)); // 4 March 2026
-constexpr std::array<const char *, 9> categories{"System tools",
-                                                 "MCP tools",
-                                                 "Repository instructions",
-                                                 "System prompt",
-                                                 "Custom agents",
-                                                 "Personal instructions",
-                                                 "Inherited project instructions",
-                                                 "Unattributed",
-                                                 "Messages"};
 
 /// Lets `fill` write under a temporary name first, so that no partial file is reused.
 template<typename Fill>
@@ -105,9 +96,9 @@ RecordedScan scan(std::int64_t number, std::int64_t scanCount)
                       .date = lastScan - std::chrono::hours(scanCount - number),
                       .total = total,
                       .categories = {}};
-    for (std::size_t rank = 0; rank < categories.size(); ++rank)
-        scan.categories.push_back(
-            {.name = categories[rank], .tokens = total / static_cast<std::int64_t>(rank + 2)});
+    for (std::size_t rank = 0; rank < SampleHistories::categoryNames.size(); ++rank)
+        scan.categories.push_back({.name = std::string(SampleHistories::categoryNames[rank]),
+                                   .tokens = total / static_cast<std::int64_t>(rank + 2)});
     return scan;
 }
 

@@ -17,16 +17,6 @@ constexpr std::array<std::string_view, 8> names{
     "harbor-api",  "field-notes", "paper-boats", "orchard-web",
     "tide-tables", "lamp-room",   "night-ferry", "a-repository-whose-name-is-longer-than-most"};
 
-constexpr std::array<std::string_view, 9> categories{"System tools",
-                                                     "MCP tools",
-                                                     "Repository instructions",
-                                                     "System prompt",
-                                                     "Custom agents",
-                                                     "Personal instructions",
-                                                     "Inherited project instructions",
-                                                     "Unattributed",
-                                                     "Messages"};
-
 std::string numbered(std::string_view name, std::int64_t round)
 {
     const std::string first(name);
@@ -41,8 +31,8 @@ std::string nameOf(std::int64_t repository)
 
 std::string categoryName(std::int64_t category)
 {
-    const auto count = static_cast<std::int64_t>(categories.size());
-    return numbered(categories[static_cast<std::size_t>(category % count)], category / count);
+    const auto count = static_cast<std::int64_t>(categoryNames.size());
+    return numbered(categoryNames[static_cast<std::size_t>(category % count)], category / count);
 }
 
 /// Wanders about a level of the repository's own, from 14,000 tokens up.

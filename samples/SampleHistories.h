@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "history/RecordedScan.h"
@@ -19,6 +21,16 @@ struct SampleHistory
 
 /// Made-up histories. Identifiers are random.
 namespace SampleHistories {
+
+inline constexpr std::array<std::string_view, 9> categoryNames{"System tools",
+                                                               "MCP tools",
+                                                               "Repository instructions",
+                                                               "System prompt",
+                                                               "Custom agents",
+                                                               "Personal instructions",
+                                                               "Inherited project instructions",
+                                                               "Unattributed",
+                                                               "Messages"};
 
 /// No scan, one, two equal ones, two repositories, 30 scans of one repository, 31 over five, and
 /// 200 over 30 repositories, in that order. Each ends in March 2026.

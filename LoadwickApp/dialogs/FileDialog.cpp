@@ -80,7 +80,8 @@ void FileDialog::accept()
     QFileDialog::accept();
 }
 
-/// A typed path can name a folder that is not UTF-8, which Qt's dialog does not list.
+/// A typed path can name a folder that is not UTF-8, which Qt's dialog does not list. Asks the disk
+/// on this thread, as Qt's dialog does for every name.
 bool FileDialog::takesAddress(const QString &text)
 {
     m_addressed.reset();

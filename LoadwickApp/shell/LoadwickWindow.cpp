@@ -8,16 +8,25 @@
 
 #include "base/QmlObject.h"
 #include "base/QtTaskDispatcher.h"
+#include "compare/ComparePresenter.h"
 #include "desktop/DesktopNoticeBoard.h"
+#include "export/PageExport.h"
 #include "export/SavedFile.h"
 #include "history/WeeklyKPIReader.h"
+#include "onboarding/OnboardingPresenter.h"
 #include "onboarding/PreferencesCompletionStore.h"
+#include "overview/OverviewPresenter.h"
 #include "posix/ProcessContext.h"
 #include "probe/ProbeRunner.h"
 #include "report/InstructionFileScanner.h"
+#include "shell/ContentPresenter.h"
+#include "shell/FolderDrop.h"
+#include "shell/RecentRepositories.h"
+#include "shell/ScanNotices.h"
 #include "text/Fatal.h"
 #include "theme/ApplicationStyle.h"
 #include "theme/DesktopAppearanceSource.h"
+#include "trends/TrendsPresenter.h"
 
 namespace Loadwick {
 namespace {
@@ -97,6 +106,8 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
         m_overview->weekly()->load(given.weeklyLog, dispatcher);
     presentOnAppearance(dispatcher);
 }
+
+LoadwickWindow::~LoadwickWindow() = default;
 
 void LoadwickWindow::show()
 {

@@ -8,25 +8,26 @@
 #include <QQuickWindow>
 #include <QSize>
 
-#include "compare/ComparePresenter.h"
 #include "desktop/NoticeBoard.h"
 #include "dialogs/FileSaver.h"
 #include "dialogs/FolderChooser.h"
-#include "export/PageExport.h"
 #include "model/OnboardingFlow.h"
 #include "model/ScanModel.h"
-#include "onboarding/OnboardingPresenter.h"
-#include "overview/OverviewPresenter.h"
 #include "process/Shutdown.h"
-#include "shell/ContentPresenter.h"
-#include "shell/FolderDrop.h"
-#include "shell/RecentRepositories.h"
-#include "shell/ScanNotices.h"
 #include "text/TextLocale.h"
 #include "theme/AppearanceSource.h"
-#include "trends/TrendsPresenter.h"
 
 namespace Loadwick {
+
+class ComparePresenter;
+class ContentPresenter;
+class FolderDrop;
+class OnboardingPresenter;
+class OverviewPresenter;
+class PageExport;
+class RecentRepositories;
+class ScanNotices;
+class TrendsPresenter;
 
 /// The program's one window with the model behind it. Make it after the application object, on its
 /// thread. Its destructor waits for no background work: late outcomes are dropped.
@@ -61,7 +62,7 @@ public:
     };
 
     explicit LoadwickWindow(Collaborators given);
-    ~LoadwickWindow() = default;
+    ~LoadwickWindow();
 
     LoadwickWindow(const LoadwickWindow &) = delete;
     LoadwickWindow &operator=(const LoadwickWindow &) = delete;

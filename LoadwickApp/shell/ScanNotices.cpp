@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "desktop/WindowActivation.h"
+#include "overview/OverviewPresenter.h"
+#include "shell/ContentPresenter.h"
 
 namespace Loadwick {
 namespace {

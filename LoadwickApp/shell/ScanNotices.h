@@ -4,10 +4,11 @@
 #include <QWindow>
 
 #include "desktop/NoticeBoard.h"
-#include "overview/OverviewPresenter.h"
-#include "shell/ContentPresenter.h"
 
 namespace Loadwick {
+
+class ContentPresenter;
+class OverviewPresenter;
 
 /// Shows a notice on the desktop when a scan ends while the window is inactive, in the window's own
 /// words, until the window becomes active. Belongs to the interface thread; all its arguments

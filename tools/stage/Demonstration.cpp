@@ -8,6 +8,7 @@
 #include "dialogs/FolderChooser.h"
 #include "samples/Confinement.h"
 #include "samples/ThrowAwayHome.h"
+#include "shell/ContentPresenter.h"
 #include "shell/LoadwickApp.h"
 #include "stage/Camera.h"
 #include "stage/ConfinedWindow.h"

@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "onboarding/OnboardingPresenter.h"
 #include "stage/Camera.h"
 #include "stage/Stage.h"
 #include "stage/Subcommand.h"

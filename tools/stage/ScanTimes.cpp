@@ -10,6 +10,7 @@
 
 #include "samples/Confinement.h"
 #include "samples/ThrowAwayHome.h"
+#include "shell/ContentPresenter.h"
 #include "stage/ConfinedWindow.h"
 #include "stage/FrameMeter.h"
 #include "stage/ProcessOfItsOwn.h"

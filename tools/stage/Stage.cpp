@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "history/WeeklyKPIReader.h"
+#include "onboarding/OnboardingPresenter.h"
 #include "onboarding/PreferencesCompletionStore.h"
+#include "overview/OverviewPresenter.h"
 #include "report/InstructionFileScanner.h"
 #include "samples/Confinement.h"
+#include "shell/ContentPresenter.h"
 #include "stage/WindowControl.h"
 
 namespace Loadwick {

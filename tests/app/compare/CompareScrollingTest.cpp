@@ -33,6 +33,7 @@ private Q_SLOTS:
     void cleanup() { m_page.reset(); }
     void keepsTheScrollPositionWhenAScanEnds();
     void createsOnlyVisibleCardsOfTwoHundred();
+    void aViewportAsHighAsThePageNeedsNoMoreCells();
     void scrollingCreatesNoCards();
     void everyPositionShowsItsOwnRepository();
     void createsAllOfFewTallCards_data();
@@ -100,6 +101,15 @@ void CompareScrollingTest::createsOnlyVisibleCardsOfTwoHundred()
     QTest::qWait(50);
     m_page->viewport()->setProperty("contentY", 200 * 48 + 3'000);
     QTRY_VERIFY2(!m_page->items("bar").isEmpty(), "a card that was left can be come back to");
+}
+
+// The page's first layout gives the viewport its content's height.
+void CompareScrollingTest::aViewportAsHighAsThePageNeedsNoMoreCells()
+{
+    m_page->record(SampleHistories::ofSize(200, 200, 2));
+    const QQuickItem *grid = m_page->items("cell").constFirst()->parentItem();
+    m_page->viewport()->setHeight(50'000);
+    QCOMPARE(grid->property("cellCount").toInt(), 200);
 }
 
 void CompareScrollingTest::scrollingCreatesNoCards()

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QTest>
 
+#include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 #include "text/DateText.h"

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 
+#include "onboarding/OnboardingPresenter.h"
 #include "support/ScanFakes.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"

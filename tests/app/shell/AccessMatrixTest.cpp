@@ -5,8 +5,10 @@
 #include <QGuiApplication>
 #include <QTest>
 
+#include "onboarding/OnboardingPresenter.h"
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
+#include "shell/ContentPresenter.h"
 #include "support/LayoutAudit.h"
 #include "support/ScanFakes.h"
 #include "support/TestRegistry.h"

@@ -3,6 +3,7 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 #include "theme/Appearance.h"

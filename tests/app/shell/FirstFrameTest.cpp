@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "shell/AppPage.h"
+#include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 

@@ -11,6 +11,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "overview/OverviewPresenter.h"
+#include "shell/ContentPresenter.h"
 #include "support/FakeAppearanceSource.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"

@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QTest>
 
+#include "onboarding/OnboardingPresenter.h"
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
 #include "support/MotionSampler.h"

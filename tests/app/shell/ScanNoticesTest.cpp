@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "shell/ContentPresenter.h"
 #include "support/FakeNoticeBoard.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"

@@ -6,6 +6,7 @@
 
 #include "samples/SampleReport.h"
 #include "shell/AppPage.h"
+#include "shell/ContentPresenter.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
