@@ -60,7 +60,7 @@ std::string resolve(const std::optional<std::string> &cliOverride, const std::st
 
     if (const std::optional<std::string> answer = lookup.loginShellLookup()) {
         std::string path(trimmed(*answer));
-        if (!path.empty() && lookup.isExecutable(path))
+        if (path.starts_with('/') && lookup.isExecutable(path))
             return path;
     }
     for (std::string &path : searched)

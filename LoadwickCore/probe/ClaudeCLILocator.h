@@ -29,8 +29,10 @@ struct Lookup
     std::function<std::optional<std::string>()> loginShellLookup;
 };
 
-/// The first executable candidate, else the login shell's answer if that is executable. Throws
-/// `cliNotFound` with everything tried, as text, `loginShellProbeLabel` last.
+/// The first executable candidate, else the login shell's answer if that is an absolute path and
+/// executable: the shell answers with a bare word for a function, which must not be looked up in
+/// this process's folder. Throws `cliNotFound` with everything tried, as text,
+/// `loginShellProbeLabel` last.
 [[nodiscard]] std::string resolve(const std::optional<std::string> &cliOverride,
                                   const std::string &home, const Lookup &lookup);
 

@@ -104,6 +104,14 @@ TEST(ClaudeCLILocatorTest, trimsBlankLinesAroundTheShellsAnswer)
     EXPECT_EQ(resolve(std::nullopt, "/home/me", world.lookup()), "/nix/claude");
 }
 
+TEST(ClaudeCLILocatorTest, ignoresAnAnswerThatIsNoAbsolutePath)
+{
+    for (const char *const answer : {"claude", "./claude", "bin/claude", "alias claude=/bin/x"})
+        EXPECT_EQ(searchedWhenNotFound(std::nullopt, {.executable = answer, .shellAnswer = answer}),
+                  searchedWhenNotFound(std::nullopt, {}))
+            << answer;
+}
+
 TEST(ClaudeCLILocatorTest, namesEverythingItTriedWhenNothingIsFound)
 {
     const Paths fixed{"/home/me/.local/bin/claude", "/opt/homebrew/bin/claude",
