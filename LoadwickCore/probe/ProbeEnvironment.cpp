@@ -1,8 +1,8 @@
 #include "probe/ProbeEnvironment.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
+#include <utility>
 
 #include "probe/TranscriptLocator.h"
 
@@ -34,11 +34,12 @@ Environment childEnvironment(const Environment &parent,
             child.emplace(name, value);
 
     const auto configured = child.find(std::string(TranscriptLocator::configDirEnvironmentKey));
-    if (configured != child.end()) {
-        const auto folder =
-            TranscriptLocator::normalizedConfigDir(configured->second, workingDirectory);
-        configured->second = folder.value_or(configured->second);
-    }
+    if (configured == child.end())
+        return child;
+    if (auto folder = TranscriptLocator::normalizedConfigDir(configured->second, workingDirectory))
+        configured->second = std::move(*folder);
+    else
+        child.erase(configured);
     return child;
 }
 

@@ -16,8 +16,9 @@ inline constexpr std::array<std::string_view, 4> scrubbedExactKeys{
 inline constexpr std::string_view scrubbedKeyPrefix = "CLAUDE_CODE_";
 
 /// `parent` without its API keys, tokens and endpoints, so that the command runs under the user's
-/// own sign-in. CLAUDE_CONFIG_DIR is made absolute against `workingDirectory`, so that the child
-/// and the transcript search use the same folder.
+/// own sign-in. CLAUDE_CONFIG_DIR is made absolute against `workingDirectory`, and left out when it
+/// is blank, so that the child and the transcript search use the same folder: the command would
+/// take a blank value for its working folder and write there.
 [[nodiscard]] Environment childEnvironment(const Environment &parent,
                                            const std::filesystem::path &workingDirectory);
 

@@ -44,10 +44,11 @@ TEST(ProbeEnvironmentTest, makesARelativeConfigurationFolderAbsolute)
               "/elsewhere/here/claude");
 }
 
-TEST(ProbeEnvironmentTest, keepsABlankConfigurationFolder)
+TEST(ProbeEnvironmentTest, leavesOutABlankConfigurationFolder)
 {
-    const Environment parent{{"CLAUDE_CONFIG_DIR", " \t"}};
-    EXPECT_EQ(childEnvironment(parent, "/work"), parent);
+    for (const char *const blank : {"", " \t", "\n\xC2\xA0"})
+        EXPECT_EQ(childEnvironment({{"CLAUDE_CONFIG_DIR", blank}}, "/work"), Environment{})
+            << blank;
 }
 
 TEST(ProbeEnvironmentTest, addsNoConfigurationFolder)
