@@ -56,12 +56,13 @@ std::string decoded(std::optional<std::string> bytes)
 }
 
 // Streams that did not end may be cut anywhere. A session that was asked to stop may still have
-// printed a complete record, which then counts; a partial one means a time-out.
+// printed a complete record, which then counts; anything else means a time-out. Its exit status
+// only answers our request, so it must not turn partial output into a failed sign-in.
 ProbeOutput parsed(const Execution &execution)
 {
     try {
         return ProbeOutputParser::parse(execution.standardOutput, execution.standardError,
-                                        execution.exitCode);
+                                        execution.terminationRequested ? 0 : execution.exitCode);
     } catch (const ProbeError &error) {
         const bool isPartial = execution.terminationRequested &&
                                std::holds_alternative<ProbeError::UnreadableOutput>(error.value());

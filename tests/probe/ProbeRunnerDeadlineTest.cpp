@@ -15,6 +15,7 @@ namespace {
 constexpr const char *complete = R"({"session_id":"abc","result":"","usage":{"input_tokens":5},)"
                                  R"("num_turns":1})";
 constexpr const char *failed = R"({"session_id":"abc","result":"no","is_error":true})";
+constexpr const char *notSignedIn = R"({"result":"Please run /login","is_error":true})";
 
 // Keeps the signal from killing a stopped session's shell, so that it exits on its own.
 constexpr const char *exitsWith143 = "trap 'exit 143' TERM\n"
@@ -87,12 +88,22 @@ TEST(ProbeRunnerDeadlineTest, reportsAStoppedSessionThatExitsAsTimedOut)
     EXPECT_EQ(errorOf({.script = exitsWith143, .timeoutSeconds = 0.5}), ProbeError::timedOut());
 }
 
+TEST(ProbeRunnerDeadlineTest, ignoresASignInComplaintInPartialOutputOfAStoppedSession)
+{
+    EXPECT_EQ(errorOf({.script = "echo 'Invalid API key' >&2\necho '{\"session_id\":'\n" +
+                                 std::string(exitsWith143),
+                       .timeoutSeconds = 0.5}),
+              ProbeError::timedOut());
+}
+
 TEST(ProbeRunnerDeadlineTest, readsTheCompleteRecordOfAStoppedSessionThatExits)
 {
     EXPECT_EQ(errorOf({.script = printing(complete) + exitsWith143, .timeoutSeconds = 0.5}),
               std::nullopt);
     EXPECT_EQ(errorOf({.script = printing(failed) + exitsWith143, .timeoutSeconds = 0.5}),
               ProbeError::sessionFailed("no"));
+    EXPECT_EQ(errorOf({.script = printing(notSignedIn) + exitsWith143, .timeoutSeconds = 0.5}),
+              ProbeError::notAuthenticated());
 }
 
 TEST(ProbeRunnerDeadlineTest, reportsPartialOutputOfAStoppedReaderAsTimedOut)
