@@ -143,9 +143,9 @@ std::string ProbeError::bounded(std::string_view text, std::size_t limit)
     const std::string_view content = trimmed(text);
     if (content.empty())
         return "(no output)";
-    const std::size_t end = byteCountOfCharacters(content, limit);
-    std::string shown(content.substr(0, end));
-    if (end < content.size())
+    const std::string_view head = firstBytes(content, detailByteLimit);
+    std::string shown(head.substr(0, byteCountOfCharacters(head, limit)));
+    if (shown.size() < content.size())
         shown += "…";
     return shown;
 }

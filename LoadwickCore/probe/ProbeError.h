@@ -66,6 +66,9 @@ public:
     /// The greatest number of user-perceived characters of raw session text that a detail shows.
     static constexpr std::size_t detailLimit = 500;
 
+    /// The greatest number of its bytes: one character may have millions of combining marks.
+    static constexpr std::size_t detailByteLimit = 16 * 1024;
+
     [[nodiscard]] static ProbeError repositoryUnreadable(std::string path);
     [[nodiscard]] static ProbeError cliNotFound(std::vector<std::string> searched);
     [[nodiscard]] static ProbeError unreadableOutput(std::string text);
@@ -85,7 +88,8 @@ public:
     [[nodiscard]] std::string detail() const;
 
     /// `text` trimmed of white space, "(no output)" when nothing is left, and truncated after
-    /// `limit` user-perceived characters (grapheme clusters) with "…" appended.
+    /// `limit` user-perceived characters (grapheme clusters) or `detailByteLimit` bytes, whichever
+    /// come first, with "…" appended.
     [[nodiscard]] static std::string bounded(std::string_view text, std::size_t limit);
 
     friend bool operator==(const ProbeError &, const ProbeError &) = default;

@@ -201,6 +201,15 @@ void setSearchKey(std::string &key, std::string_view text)
     key.resize(size);
 }
 
+std::string_view firstBytes(std::string_view text, std::size_t limit) noexcept
+{
+    if (text.size() <= limit)
+        return text;
+    auto end = static_cast<std::int32_t>(limit);
+    U8_SET_CP_START(reinterpret_cast<const std::uint8_t *>(text.data()), 0, end);
+    return text.substr(0, static_cast<std::size_t>(end));
+}
+
 std::size_t byteCountOfCharacters(std::string_view text, std::size_t limit)
 {
     UErrorCode status = U_ZERO_ERROR;

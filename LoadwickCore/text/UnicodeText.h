@@ -35,6 +35,10 @@ namespace Loadwick {
 /// memory from one text to the next.
 void setSearchKey(std::string &key, std::string_view text);
 
+/// The first `limit` bytes (fewer than 2^31) of `text`, or up to three fewer, so that no code point
+/// is cut in two; all of a shorter text. A view into `text`.
+[[nodiscard]] std::string_view firstBytes(std::string_view text, std::size_t limit) noexcept;
+
 /// Bytes of the first `limit` user-perceived characters (extended grapheme clusters, UAX #29)
 /// of `text`; `text.size()` when it has no more than that. Reads no further than necessary. Throws
 /// `std::bad_alloc` once the rules are loaded.

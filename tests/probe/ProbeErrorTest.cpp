@@ -131,6 +131,14 @@ TEST(ProbeErrorTest, countsUserPerceivedCharacters)
     EXPECT_EQ(ProbeError::bounded("ab", 0), "…");
 }
 
+TEST(ProbeErrorTest, truncatesCharactersOfManyMarksAfterSixteenKilobytes)
+{
+    const std::string marked = "e" + repeated("\u0301", 100'000);
+    const std::string shown = ProbeError::sessionFailed(marked).detail();
+    EXPECT_EQ(shown, "e" + repeated("\u0301", 8191) + "…");
+    EXPECT_EQ(ProbeError::unreadableOutput(shown).detail(), shown);
+}
+
 TEST(ProbeErrorTest, keepsTheWholeTextOfAFailure)
 {
     const auto error = ProbeError::sessionFailed(repeated("y", 600));

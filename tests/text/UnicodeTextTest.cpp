@@ -87,6 +87,17 @@ TEST(UnicodeTextTest, countsUserPerceivedCharacters)
     EXPECT_EQ(byteCountOfCharacters(mixed, 100), mixed.size());
 }
 
+TEST(UnicodeTextTest, cutsNoCodePointInTwo)
+{
+    EXPECT_EQ(firstBytes("abc", 3), "abc");
+    EXPECT_EQ(firstBytes("abc", 2), "ab");
+    EXPECT_EQ(firstBytes("abc", 0), "");
+    for (const std::size_t limit : {1U, 2U, 3U, 4U})
+        EXPECT_EQ(firstBytes("a😀b", limit), "a") << limit;
+    EXPECT_EQ(firstBytes("a😀b", 5), "a😀");
+    EXPECT_EQ(firstBytes("\x80\x80\x80\x80\x80\x80", 5), "\x80\x80\x80\x80\x80");
+}
+
 TEST(UnicodeTextTest, throwsWhereverMemoryRunsOutWhileCounting)
 {
     loadCharacterRules();
