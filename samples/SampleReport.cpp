@@ -7,8 +7,9 @@ ProbeResult sampleProbeResult()
     return {.sessionID = "0b8e6c1e-5f0a-4a57-9f0c-0c9d5f1e7a11",
             .authoritativeTotal = 27'654,
             .totalSource = TotalSource::transcript,
-            .selfReportedSlabs = {{.name = "System prompt", .tokens = 14'210},
-                                  {.name = "Tools", .tokens = 812}},
+            .selfReportedSlabs =
+                std::vector<SelfReportedSlab>{{.name = "System prompt", .tokens = 14'210},
+                                              {.name = "Tools", .tokens = 812}},
             .duration = 12.5,
             .resolvedCLIPath = "/usr/local/bin/claude"};
 }

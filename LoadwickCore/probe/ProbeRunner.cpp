@@ -72,14 +72,28 @@ ProbeOutput parsed(const Execution &execution)
     }
 }
 
+struct Record
+{
+    ProbeOutput output;
+    std::optional<std::int64_t> turns;
+};
+
+// Both are read at once: the streams, as large as their slabs, are gone before those are made.
+Record recordOf(const Execution &execution)
+{
+    if (execution.timedOut)
+        throw ProbeError::timedOut();
+    return {.output = parsed(execution),
+            .turns = ProbeRunner::reportedTurns(execution.standardOutput)};
+}
+
 // The command's own usage block accumulates across turns: in a longer session it counts cached
 // tokens several times.
-Total singleTurnTotal(const std::optional<ProbeUsage> &usage, std::string_view standardOutput,
+Total singleTurnTotal(const std::optional<ProbeUsage> &usage, std::optional<std::int64_t> turns,
                       const std::filesystem::path &projectsRoot)
 {
     if (!usage)
         throw ProbeError::noTranscript(pathText(projectsRoot));
-    const std::optional<std::int64_t> turns = ProbeRunner::reportedTurns(standardOutput);
     if (!turns)
         throw ProbeError::unknownTurnCount();
     if (*turns >= 2)
@@ -149,22 +163,19 @@ ProbeResult ProbeRunner::run(const std::filesystem::path &repository)
     const std::string cli =
         ClaudeCLILocator::resolve(m_settings->cliOverride, m_settings->home, m_settings->lookup);
     const auto start = std::chrono::steady_clock::now();
-    const Execution execution = execute({.cli = cli,
-                                         .repository = repository,
-                                         .environment = ProbeEnvironment::childEnvironment(
-                                             m_settings->environment, m_settings->workingDirectory),
-                                         .limits = m_settings->limits,
-                                         .shutdown = m_settings->shutdown});
-    if (execution.timedOut)
-        throw ProbeError::timedOut();
-    const ProbeOutput output = parsed(execution);
-    std::vector<SelfReportedSlab> slabs = SlabParser::parse(output.result);
+    const auto [output, turns] =
+        recordOf(execute({.cli = cli,
+                          .repository = repository,
+                          .environment = ProbeEnvironment::childEnvironment(
+                              m_settings->environment, m_settings->workingDirectory),
+                          .limits = m_settings->limits,
+                          .shutdown = m_settings->shutdown}));
+    SelfReportedSlabs slabs = SlabParser::parse(output.result);
     const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
 
     const std::optional<ProbeUsage> usage = transcriptUsage(output.sessionID);
-    const Total total =
-        usage ? Total{usage->startupTotal(), TotalSource::transcript}
-              : singleTurnTotal(output.usage, execution.standardOutput, m_settings->projectsRoot);
+    const Total total = usage ? Total{usage->startupTotal(), TotalSource::transcript}
+                              : singleTurnTotal(output.usage, turns, m_settings->projectsRoot);
     return {output.sessionID, total.tokens,     total.source,
             std::move(slabs), duration.count(), repairedUtf8(cli)};
 }

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "probe/SlabParser.h"
 #include "text/NamedValue.h"
@@ -47,7 +46,7 @@ struct ProbeResult
     std::string sessionID;
     std::int64_t authoritativeTotal; ///< startup tokens
     TotalSource totalSource;
-    std::vector<SelfReportedSlab> selfReportedSlabs; ///< in output order
+    SelfReportedSlabs selfReportedSlabs; ///< in output order
     double duration; ///< seconds from launch to the parsed result, without the transcript search
     std::string resolvedCLIPath; ///< the executable that was run, as text
 

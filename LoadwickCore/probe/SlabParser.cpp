@@ -8,11 +8,14 @@
 #include "text/TextLines.h"
 #include "text/UnicodeText.h"
 
-namespace Loadwick::SlabParser {
+namespace Loadwick {
 
 namespace {
 
 constexpr char blank = ' ';
+
+/// No line that is a slab is shorter, its line break included.
+constexpr std::size_t shortestLine = std::string_view("SLAB a TOKENS 1\n").size();
 
 /// No code point of more than this many bytes becomes an ASCII letter in lower case.
 constexpr std::size_t longestLetter = 4;
@@ -89,26 +92,23 @@ std::optional<std::int64_t> countIn(std::string_view word) noexcept
     return isEmpty ? std::nullopt : std::optional(count);
 }
 
-std::string joinedByBlanks(std::string_view words)
+/// Appends words to `text`, joined by single blanks.
+void appendWords(std::string &text, std::string_view words)
 {
-    std::string joined(stripped(words, isBlank));
+    const auto start = static_cast<std::ptrdiff_t>(text.size());
+    text += words;
     const auto areBlanks = [](char left, char right) { return left == blank && right == blank; };
-    joined.erase(std::unique(joined.begin(), joined.end(), areBlanks), joined.end());
-    return joined;
+    text.erase(std::unique(text.begin() + start, text.end(), areBlanks), text.end());
 }
 
-} // namespace
-
-std::vector<SelfReportedSlab> parse(std::string_view text)
+/// A line that is a slab.
+struct SlabLine
 {
-    std::vector<SelfReportedSlab> slabs;
-    while (const auto line = takeLine(text))
-        if (auto slab = parseLine(*line))
-            slabs.push_back(std::move(*slab));
-    return slabs;
-}
+    std::string_view words; ///< its name, separated by any number of blanks
+    std::int64_t tokens;
+};
 
-std::optional<SelfReportedSlab> parseLine(std::string_view line)
+std::optional<SlabLine> slabIn(std::string_view line)
 {
     std::string_view rest = stripped(stripped(line, isBlankOrTab), isDecoration);
     if (!isKeyword(takeFirstWord(rest), "slab"))
@@ -121,10 +121,62 @@ std::optional<SelfReportedSlab> parseLine(std::string_view line)
         word = takeLastWord(rest);
     }
     const auto count = word.empty() ? std::nullopt : countIn(follower);
-    std::string name = joinedByBlanks(rest);
-    if (!count || name.empty())
+    const std::string_view words = stripped(rest, isBlank);
+    if (!count || words.empty())
         return std::nullopt;
-    return SelfReportedSlab{.name = std::move(name), .tokens = *count};
+    return SlabLine{.words = words, .tokens = *count};
 }
 
-} // namespace Loadwick::SlabParser
+} // namespace
+
+SelfReportedSlabs::SelfReportedSlabs(const std::vector<SelfReportedSlab> &slabs)
+{
+    for (const SelfReportedSlab &slab : slabs) {
+        m_names += slab.name;
+        m_slabs.push_back({.nameEnd = m_names.size(), .tokens = slab.tokens});
+    }
+}
+
+void SelfReportedSlabs::reserveForAnswer(std::size_t byteCount)
+{
+    m_names.reserve(byteCount);
+    m_slabs.reserve(byteCount / shortestLine + 1);
+}
+
+void SelfReportedSlabs::add(std::string_view words, std::int64_t tokens)
+{
+    appendWords(m_names, words);
+    m_slabs.push_back({.nameEnd = m_names.size(), .tokens = tokens});
+}
+
+std::string_view SelfReportedSlabs::name(std::size_t index) const
+{
+    const std::size_t start = index == 0 ? 0 : m_slabs.at(index - 1).nameEnd;
+    return std::string_view(m_names).substr(start, m_slabs.at(index).nameEnd - start);
+}
+
+namespace SlabParser {
+
+SelfReportedSlabs parse(std::string_view text)
+{
+    SelfReportedSlabs slabs;
+    slabs.reserveForAnswer(text.size());
+    while (const auto line = takeLine(text))
+        if (const auto slab = slabIn(*line))
+            slabs.add(slab->words, slab->tokens);
+    return slabs;
+}
+
+std::optional<SelfReportedSlab> parseLine(std::string_view line)
+{
+    const auto found = slabIn(line);
+    if (!found)
+        return std::nullopt;
+    SelfReportedSlab slab{.name = {}, .tokens = found->tokens};
+    appendWords(slab.name, found->words);
+    return slab;
+}
+
+} // namespace SlabParser
+
+} // namespace Loadwick

@@ -112,7 +112,7 @@ void addSelfReported(std::vector<SlabAttribution> &rows, const SelfReportedSlab 
                Provenance::selfReported);
 }
 
-std::vector<SlabAttribution> attributedRows(std::span<const SelfReportedSlab> selfReported,
+std::vector<SlabAttribution> attributedRows(const SelfReportedSlabs &selfReported,
                                             std::span<const LocalCategoryEstimate> localEstimates)
 {
     std::vector<SlabAttribution> rows;
@@ -147,7 +147,7 @@ bool isHeavier(const SlabAttribution &left, const SlabAttribution &right)
 
 } // namespace
 
-AttributionOutcome attribute(std::int64_t total, std::span<const SelfReportedSlab> selfReported,
+AttributionOutcome attribute(std::int64_t total, const SelfReportedSlabs &selfReported,
                              std::span<const LocalCategoryEstimate> localEstimates)
 {
     std::vector<SlabAttribution> rows =
@@ -169,18 +169,19 @@ std::string normalize(std::string_view name)
     return key;
 }
 
-std::vector<SelfReportedSlab> merged(std::span<const SelfReportedSlab> slabs)
+std::vector<SelfReportedSlab> merged(const SelfReportedSlabs &slabs)
 {
     std::vector<SelfReportedSlab> result;
     std::unordered_map<std::string, std::size_t> indices;
     std::string key;
-    for (const SelfReportedSlab &slab : slabs) {
-        setSearchKey(key, slab.name);
+    for (std::size_t index = 0; index < slabs.size(); ++index) {
+        const std::string_view name = slabs.name(index);
+        setSearchKey(key, name);
         const auto [found, isNew] = indices.try_emplace(key, result.size());
         if (isNew)
-            result.push_back(slab);
-        else
-            result[found->second].tokens = checkedSum(result[found->second].tokens, slab.tokens);
+            result.push_back({.name = std::string(name), .tokens = 0});
+        std::int64_t &tokens = result[found->second].tokens;
+        tokens = checkedSum(tokens, slabs.tokens(index));
     }
     return result;
 }

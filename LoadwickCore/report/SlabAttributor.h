@@ -14,6 +14,7 @@ namespace Loadwick {
 
 struct LocalCategoryEstimate;
 struct SelfReportedSlab;
+class SelfReportedSlabs;
 
 /// Where the figure of a breakdown row comes from.
 class Provenance
@@ -84,7 +85,7 @@ inline constexpr std::string_view beyondLocalEstimateSuffix = " (beyond local es
 
 /// Overflow of a 64-bit sum ends the program; nothing else can fail.
 [[nodiscard]] AttributionOutcome attribute(std::int64_t total,
-                                           std::span<const SelfReportedSlab> selfReported,
+                                           const SelfReportedSlabs &selfReported,
                                            std::span<const LocalCategoryEstimate> localEstimates);
 
 /// A category name in lower case, reduced to its letters and numeric characters.
@@ -92,7 +93,7 @@ inline constexpr std::string_view beyondLocalEstimateSuffix = " (beyond local es
 
 /// One slab for each normalised name, in the position and the spelling of its first occurrence,
 /// with the tokens of all.
-[[nodiscard]] std::vector<SelfReportedSlab> merged(std::span<const SelfReportedSlab> slabs);
+[[nodiscard]] std::vector<SelfReportedSlab> merged(const SelfReportedSlabs &slabs);
 
 } // namespace SlabAttributor
 

@@ -1,0 +1,69 @@
+// Peak memory, which is meaningless under a sanitizer.
+#include "probe/SlabParser.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "posix/FileSystem.h"
+#include "probe/ProbeRunner.h"
+#include "samples/TemporaryFolder.h"
+#include "support/ProcessMemory.h"
+
+namespace Loadwick {
+
+namespace {
+
+constexpr std::size_t size = 64U << 20;
+
+/// `line` and `lineBreak` repeated for 64 MiB.
+std::string repeated(std::string_view line, std::string_view lineBreak)
+{
+    std::string text;
+    for (text.reserve(size + line.size() + lineBreak.size()); text.size() < size;)
+        text.append(line).append(lineBreak);
+    return text;
+}
+
+ProbeRunner::Settings settingsIn(const TemporaryFolder &folder)
+{
+    ProbeRunner::Settings settings;
+    settings.home = folder.path().string();
+    settings.projectsRoot = folder.path() / "projects";
+    settings.environment = {{"PATH", "/usr/bin:/bin"}};
+    settings.workingDirectory = folder.path();
+    settings.lookup = {ClaudeCLILocator::isExecutableFile, [] { return std::nullopt; }};
+    settings.fileSystem = std::make_shared<PosixFileSystem>();
+    settings.transcriptRetries = 1;
+    return settings;
+}
+
+} // namespace
+
+TEST(SlabParserSlowTest, takesLittleMoreMemoryThanTheAnswer)
+{
+    for (const std::string &line :
+         {std::string("SLAB a TOKENS 1"), "SLAB " + std::string(1'000, 'n') + " TOKENS 1",
+          "SLAB " + std::string(size, 'n') + " TOKENS 1", std::string("No slab.")}) {
+        const std::string answer = repeated(line, "\n");
+        const PeakMemory memory;
+        EXPECT_EQ(SlabParser::parse(answer).empty(), line == "No slab.");
+        EXPECT_LT(memory.growthInBytes(), answer.size() + answer.size() / 5) << line.substr(0, 20);
+    }
+}
+
+TEST(SlabParserSlowTest, takesTwiceTheMemoryOfTheOutputInAWholeRun)
+{
+    const TemporaryFolder folder;
+    folder.write("record",
+                 R"({"session_id":"s","num_turns":1,"usage":{"input_tokens":1},"result":")" +
+                     repeated("SLAB a TOKENS 1", "\\n") + "\"}");
+    folder.writeScript(".local/bin/claude",
+                       "#!/bin/sh\ncat '" + folder.path().string() + "/record'\n");
+    const PeakMemory memory;
+    const ProbeResult result = ProbeRunner(settingsIn(folder)).run(folder.path());
+    EXPECT_GT(result.selfReportedSlabs.size(), size / 18);
+    EXPECT_LT(memory.growthInBytes(), size * 22 / 10);
+}
+
+} // namespace Loadwick
