@@ -5,6 +5,9 @@
 #include <string_view>
 #include <utility>
 
+#include <unicode/locid.h>
+#include <unicode/ures.h>
+
 namespace Loadwick {
 
 namespace {
@@ -39,6 +42,14 @@ std::string_view scriptOf(std::string_view value) noexcept
     return {};
 }
 
+/// Whether ICU has words of the locale's language, or of one that it derives from.
+bool isKnown(const icu::Locale &locale)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    ures_close(ures_open(nullptr, locale.getBaseName(), &status));
+    return status == U_ZERO_ERROR || status == U_USING_FALLBACK_WARNING;
+}
+
 /// "sr_RS.UTF-8@latin" becomes "sr_Latn_RS".
 std::string icuName(std::string_view value)
 {
@@ -49,7 +60,9 @@ std::string icuName(std::string_view value)
         return std::string(english);
     if (const std::string_view script = scriptOf(value); !script.empty())
         name.append("_").append(script);
-    return name.append(region.substr(languageEnd));
+    const icu::Locale locale(name.append(region.substr(languageEnd)).c_str());
+    // The base name excludes settings, such as a numbering system that does not exist.
+    return locale.isBogus() || !isKnown(locale) ? std::string(english) : locale.getBaseName();
 }
 
 std::string localeFor(const std::string &category, const Environment &environment)

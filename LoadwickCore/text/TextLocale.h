@@ -13,7 +13,8 @@ struct TextLocale
     std::string dates = "en_US";
 
     /// From LC_ALL, else LC_NUMERIC (LC_TIME for dates), else LANG; a variable that is empty counts
-    /// as unset. C, POSIX and no value at all count as English (United States).
+    /// as unset. C, POSIX, what ICU does not know, and no value at all count as English (United
+    /// States).
     [[nodiscard]] static TextLocale fromEnvironment(const Environment &environment);
 
     friend bool operator==(const TextLocale &, const TextLocale &) = default;

@@ -50,13 +50,35 @@ TEST(TextLocaleTest, turnsAModifierIntoAScript)
     EXPECT_EQ(numbers("ca"), "ca");
 }
 
+TEST(TextLocaleTest, isEnglishWhereIcuKnowsNothing)
+{
+    const std::string endless = "de_" + std::string(156, 'a');
+    for (const std::string &value : {endless, endless + std::string(100'000, 'a'),
+                                     std::string("xx_YY"), std::string("xx"), std::string("zzz")})
+        EXPECT_EQ(TextLocale::fromEnvironment({{"LC_TIME", value}}), TextLocale()) << value;
+}
+
+TEST(TextLocaleTest, keepsWhatIcuKnowsOfAName)
+{
+    const auto numbers = [](const char *value) {
+        return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
+    };
+    EXPECT_EQ(numbers("de_ZZ"), "de_ZZ");
+    EXPECT_EQ(numbers("es_419"), "es_419");
+    EXPECT_EQ(numbers("zh_Hans_CN.UTF-8"), "zh_Hans_CN");
+    EXPECT_EQ(numbers("iw_IL"), "iw_IL");
+    EXPECT_EQ(numbers("no_NO"), "no_NO");
+    EXPECT_EQ(numbers("de_DE-u-nu-none"), "de_DE");
+    EXPECT_EQ(numbers("de_DE_u_nu_none"), "de_DE");
+}
+
 TEST(TextLocaleTest, acceptsOnlyTwoOrThreeLettersAsALanguage)
 {
     const auto numbers = [](const char *value) {
         return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
     };
     EXPECT_EQ(numbers("fil_PH"), "fil_PH");
-    EXPECT_EQ(numbers("DE"), "DE");
+    EXPECT_EQ(numbers("DE"), "de");
     for (const char *value : {"d1", "12", "@de", "d~", "d[", "abcd"})
         EXPECT_EQ(numbers(value), "en_US") << value;
 }
