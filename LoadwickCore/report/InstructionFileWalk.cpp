@@ -13,6 +13,10 @@ namespace Loadwick {
 
 namespace {
 
+/// Files of up to this size are searched for imports at the last depth too: many are reached by a
+/// shorter way later, and opening one again takes longer than searching it.
+constexpr std::int64_t smallSize = 16'384;
+
 /// How many bytes to read: the file's own size where it states one, so that no read has to find the
 /// end, but no more than it takes to see that it is too long.
 std::size_t readLimit(const RegularFile &file)
@@ -109,11 +113,17 @@ void InstructionFileWalk::admit(const std::string &path, int depth, InstructionF
 {
     if (depth > m_maxImportDepth || m_findings->isStopped())
         return;
-    SeenFile *const seen = seenFile(path, origin);
+    SeenFile *const seen = seenFile(path, depth, origin);
     if (seen == nullptr || seen->depth <= depth)
         return;
     // A shorter way to the file brings imports into reach that the depth limit cut off before.
     seen->depth = depth;
+    if (depth < m_maxImportDepth && !seen->areImportsRead) {
+        RegularFile::Failure ignored;
+        // rarely taken: the file was deleted since it was counted
+        if (auto file = InstructionFolders::opened(path, m_folders.entryAt(path), ignored))
+            read(*file, depth, *seen);
+    }
     // unreachable: only a network disk denies reading an open file
     if (seen->isReadDenied)
         m_findings->addUnreadable(repairedUtf8(path));
@@ -124,7 +134,7 @@ void InstructionFileWalk::admit(const std::string &path, int depth, InstructionF
     }
 }
 
-InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &path,
+InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &path, int depth,
                                                              InstructionFileTier origin)
 {
     const auto known = m_seenByPath.find(path);
@@ -136,7 +146,7 @@ InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &
     const InstructionFolders::Entry entry = m_folders.entryAt(path);
     auto seen = m_seen.find(entry.identityPath);
     if (seen == m_seen.end()) {
-        std::optional<SeenFile> file = countedFile(path, entry, origin);
+        std::optional<SeenFile> file = countedFile(path, entry, depth, origin);
         if (!file)
             return nullptr;
         seen = m_seen.emplace(entry.identityPath, std::move(*file)).first;
@@ -146,7 +156,7 @@ InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &
 
 std::optional<InstructionFileWalk::SeenFile>
 InstructionFileWalk::countedFile(const std::string &path, const InstructionFolders::Entry &entry,
-                                 InstructionFileTier origin)
+                                 int depth, InstructionFileTier origin)
 {
     RegularFile::Failure failure;
     std::optional<RegularFile> file = InstructionFolders::opened(path, entry, failure);
@@ -158,11 +168,21 @@ InstructionFileWalk::countedFile(const std::string &path, const InstructionFolde
     m_findings->add(tierOf(path, origin),
                     InstructionFileEstimate::fromPath(repairedUtf8(path), file->size()));
     SeenFile seen;
-    if (const std::optional<std::string> content = file->readUpTo(readLimit(*file), &failure))
-        seen.importTokens = importTokensOf(*content);
-    else
-        seen.isReadDenied = failure.isDenied();
+    read(*file, depth, seen);
     return seen;
+}
+
+/// Finds the imports of a file; of a large one at the last depth, where nobody follows them, only
+/// whether it can be read.
+void InstructionFileWalk::read(RegularFile &file, int depth, SeenFile &seen) const
+{
+    RegularFile::Failure failure;
+    seen.areImportsRead = depth < m_maxImportDepth || file.size() <= smallSize;
+    const auto content = file.readUpTo(seen.areImportsRead ? readLimit(file) : 1, &failure);
+    if (!content)
+        seen.isReadDenied = failure.isDenied();
+    else if (seen.areImportsRead)
+        seen.importTokens = importTokensOf(*content);
 }
 
 std::vector<std::filesystem::path> InstructionFileWalk::ancestorFolders() const

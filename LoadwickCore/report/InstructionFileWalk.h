@@ -60,6 +60,7 @@ private:
     struct SeenFile
     {
         int depth = std::numeric_limits<int>::max(); ///< the smallest at which it was walked
+        bool areImportsRead = false; ///< false for a large file at the last depth only
         std::vector<std::string> importTokens;
         bool isReadDenied = false;
     };
@@ -67,10 +68,12 @@ private:
     // Files are named by the text of their standardized path: making a path object costs as much as
     // opening a file.
     void admit(const std::string &path, int depth, InstructionFileTier origin);
-    [[nodiscard]] SeenFile *seenFile(const std::string &path, InstructionFileTier origin);
+    [[nodiscard]] SeenFile *seenFile(const std::string &path, int depth,
+                                     InstructionFileTier origin);
     [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &path,
                                                       const InstructionFolders::Entry &entry,
-                                                      InstructionFileTier origin);
+                                                      int depth, InstructionFileTier origin);
+    void read(RegularFile &file, int depth, SeenFile &seen) const;
     [[nodiscard]] std::vector<std::filesystem::path> ancestorFolders() const;
     [[nodiscard]] InstructionFileTier tierOf(std::string_view path,
                                              InstructionFileTier origin) const;

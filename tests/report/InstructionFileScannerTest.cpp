@@ -200,9 +200,11 @@ TEST_F(InstructionFileScannerTest, stopsAChainOfImportsAtTheFifthLevel)
 TEST_F(InstructionFileScannerTest, reachesByAShorterPathWhatTheDepthLimitCutOff)
 {
     writeOwn("CLAUDE.md", "@1.md @5.md");
-    for (int level = 1; level <= 6; ++level)
-        writeOwn(std::to_string(level) + ".md", "@" + std::to_string(level + 1) + ".md");
-    EXPECT_EQ(ownFiles(), (Paths{"CLAUDE.md", "1.md", "2.md", "3.md", "4.md", "5.md", "6.md"}));
+    for (const std::string &more : {std::string(), std::string(100'000, '\n')}) {
+        for (int level = 1; level <= 6; ++level)
+            writeOwn(std::to_string(level) + ".md", "@" + std::to_string(level + 1) + ".md" + more);
+        EXPECT_EQ(ownFiles(), (Paths{"CLAUDE.md", "1.md", "2.md", "3.md", "4.md", "5.md", "6.md"}));
+    }
 }
 
 TEST_F(InstructionFileScannerTest, ignoresImportsInsideAClosedFenceOnly)
