@@ -48,7 +48,8 @@ struct Character
     std::size_t length; // bytes of its escape
 };
 
-/// The character escaped at `index` as one code unit or a surrogate pair.
+/// The character escaped at `index` as one code unit or a surrogate pair; U+FFFD for half a pair,
+/// which JavaScript writes when it cuts a text.
 std::optional<Character> characterAt(std::string_view text, std::size_t index) noexcept
 {
     const auto first = unitAt(text, index);
@@ -59,7 +60,7 @@ std::optional<Character> characterAt(std::string_view text, std::size_t index) n
     const auto second = unitAt(text, index + unitLength);
     if (isHighSurrogate(*first) && second && isLowSurrogate(*second))
         return Character{0x10000 + ((*first - 0xD800) << 10) + (*second - 0xDC00), 2 * unitLength};
-    return std::nullopt; // half a surrogate pair
+    return Character{0xFFFD, unitLength};
 }
 
 /// Bytes of the escape at `index`; 0 when it is none.

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::optional<std::string_view> takeNumber() noexcept;
 
     /// A string's raw text between its quotation marks. Nothing if it is unterminated, or holds a
-    /// control character, an unknown escape or half a surrogate pair.
+    /// control character or an unknown escape.
     [[nodiscard]] std::optional<std::string_view> takeString() noexcept;
 
 private:
@@ -41,7 +41,8 @@ private:
     std::size_t m_index = 0;
 };
 
-/// The text of a string that `JsonTokens::takeString` gave. Never longer than `literal`.
+/// The text of a string that `JsonTokens::takeString` gave, with U+FFFD for each half of a
+/// surrogate pair. Never longer than `literal`.
 [[nodiscard]] std::string jsonStringText(std::string_view literal);
 
 /// The number that `JsonTokens::takeNumber` gave; null beyond the range of a `double`.

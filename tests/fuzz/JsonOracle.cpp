@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "support/LoneSurrogates.h"
 #include "text/UnicodeText.h"
 
 namespace Loadwick {
@@ -12,7 +13,7 @@ JsonOracle JsonOracle::of(std::string_view document)
     if (content.find('\0') != std::string_view::npos || content.starts_with("\xEF\xBB\xBF"))
         return {.isJudge = false, .object = std::nullopt};
     try {
-        nlohmann::json value = nlohmann::json::parse(content);
+        nlohmann::json value = nlohmann::json::parse(withoutLoneSurrogates(content));
         if (!value.is_object())
             return {.isJudge = true, .object = std::nullopt};
         return {.isJudge = true, .object = std::move(value)};

@@ -18,7 +18,7 @@ struct JsonOracle
     bool isJudge;
     std::optional<nlohmann::json> object; ///< nothing when the document is no JSON object
 
-    /// White space around the document is allowed.
+    /// White space around the document is allowed. Half a surrogate pair counts as U+FFFD.
     [[nodiscard]] static JsonOracle of(std::string_view document);
 
     /// The member `key` of a value; null when that has none.

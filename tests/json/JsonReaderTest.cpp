@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "support/LoneSurrogates.h"
+
 namespace Loadwick {
 
 using nlohmann::json;
@@ -220,9 +222,10 @@ TEST(JsonReaderTest, acceptsNothingElseAsAnInteger)
 
 TEST(JsonReaderTest, agreesWithTheLibraryOnDamagedDocuments)
 {
-    const std::string sound = R"({"a":[1,-2.5e3,{"b":"\u00e9\ud83d\ude00\n"}],"c":{"d":null},)"
-                              R"("e":"x\"y","f":[[],{},true,false]} )";
-    const std::string_view bytes = "{}[]:,\"\\ue0159.-+tfn \n\x01\x80";
+    const std::string sound =
+        R"({"a":[1,-2.5e3,{"b":"\u00e9\ud83d\ude00\n"}],"c":{"d":null},)"
+        R"("e":"\ud83d\\\"\ude00 🗂️ 1️⃣ की","f":[[],{},true,false]} )";
+    const std::string_view bytes = "{}[]:,\"\\uDde0159.-+tfn \n\x01\x80";
     std::mt19937 random(20'260'131);
     const auto below = [&](std::size_t limit) { return random() % limit; };
     for (int round = 0; round < 20'000; ++round) {
@@ -234,7 +237,7 @@ TEST(JsonReaderTest, agreesWithTheLibraryOnDamagedDocuments)
             else
                 text.insert(position, 1, bytes[below(bytes.size())]);
         }
-        const json expected = json::parse(text, nullptr, false);
+        const json expected = json::parse(withoutLoneSurrogates(text), nullptr, false);
         const auto read = jsonObject(text, {"a", "c", "e", "f"});
         ASSERT_EQ(read.has_value(), expected.is_object()) << text;
         for (const char *key : {"a", "c", "e", "f"}) {

@@ -58,17 +58,21 @@ TEST(JsonTokensTest, joinsSurrogatePairs)
     EXPECT_EQ(textOf(R"(\uD800\uDC00\uDBFF\uDFFF)"), "\U00010000\U0010ffff");
 }
 
-TEST(JsonTokensTest, rejectsHalfASurrogatePair)
+TEST(JsonTokensTest, replacesHalfASurrogatePair)
 {
-    for (const char *literal : {R"(\ud83d)", R"(\ude00)", R"(\ud83dx)", R"(\ud83d\n)",
-                                R"(\ud83d\u0041)", R"(\ude00\ud83d)", R"(\ud83d\ud83d)"})
-        EXPECT_FALSE(textOf(literal)) << literal;
+    EXPECT_EQ(textOf(R"(\ud83d)"), "\uFFFD");
+    EXPECT_EQ(textOf(R"(\ude00)"), "\uFFFD");
+    EXPECT_EQ(textOf(R"(\ud83dx)"), "\uFFFDx");
+    EXPECT_EQ(textOf(R"(\ud83d\n)"), "\uFFFD\n");
+    EXPECT_EQ(textOf(R"(\uDBFF\u0041)"), "\uFFFDA");
+    EXPECT_EQ(textOf(R"(\ude00\ud83d)"), "\uFFFD\uFFFD");
+    EXPECT_EQ(textOf(R"(\ud83d\ud83d\ude00)"), "\uFFFD😀");
 }
 
 TEST(JsonTokensTest, rejectsUnknownEscapes)
 {
-    for (const char *literal : {R"(\x)", R"(\u12)", R"(\u12g4)", R"(\u-123)", R"(\U0041)",
-                                R"(\u+041)", R"(\u 041)", R"(\')"})
+    for (const char *literal : {R"(\ud83d\u12)", R"(\x)", R"(\u12)", R"(\u12g4)", R"(\u-123)",
+                                R"(\U0041)", R"(\u+041)", R"(\u 041)", R"(\')"})
         EXPECT_FALSE(textOf(literal)) << literal;
 }
 
