@@ -47,6 +47,8 @@ bool isOurs(int descriptor)
 QByteArray ownToken()
 {
     QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    if (token.isEmpty()) // launchers of GLib before 2.76 leave it here
+        token = qgetenv("DESKTOP_STARTUP_ID");
     if (token.contains(lineEnd) || token.size() > longestToken)
         token.clear();
     return token + lineEnd;

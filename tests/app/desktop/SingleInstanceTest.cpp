@@ -37,9 +37,23 @@ private Q_SLOTS:
         QTRY_COMPARE(wanted.count(), 2);
     }
 
+    void forwardsTheActivationToken_data()
+    {
+        QTest::addColumn<QStringList>("given");
+        QTest::newRow("by its name") << QStringList{QStringLiteral("XDG_ACTIVATION_TOKEN=leave-1")};
+        QTest::newRow("by its older name")
+            << QStringList{QStringLiteral("DESKTOP_STARTUP_ID=leave-1")};
+        QTest::newRow("by both") << QStringList{QStringLiteral("XDG_ACTIVATION_TOKEN=leave-1"),
+                                                QStringLiteral("DESKTOP_STARTUP_ID=leave-2")};
+    }
+
     void forwardsTheActivationToken()
     {
-        const EnvironmentSwap given({"XDG_ACTIVATION_TOKEN=leave-1"});
+        QFETCH(const QStringList, given);
+        std::vector<std::string> entries;
+        for (const QString &entry : given)
+            entries.push_back(entry.toStdString());
+        const EnvironmentSwap swapped(entries);
         SingleInstance first(m_folder.path());
         QSignalSpy wanted(&first, &SingleInstance::windowWanted);
         QVERIFY(startAnother());
