@@ -65,7 +65,7 @@ void DesktopNoticeBoard::begin(const QDBusConnection &bus)
         m_bus->connect(service, path, interface, QStringLiteral("ActivationToken"), this,
                        SLOT(followToken(QDBusMessage)));
     }
-    askForCapabilities();
+    askWhoItIs();
 }
 
 void DesktopNoticeBoard::call(const QString &method, const QVariantList &arguments,
@@ -80,6 +80,15 @@ void DesktopNoticeBoard::call(const QString &method, const QVariantList &argumen
         const QDBusMessage answer = watcher->reply();
         if (answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty())
             answered(answer);
+    });
+}
+
+// GNOME Shell gives no token to raise the window with, but raises it itself if there is no action.
+void DesktopNoticeBoard::askWhoItIs()
+{
+    call(QStringLiteral("GetServerInformation"), {}, [this](const QDBusMessage &answer) {
+        m_raisesWindows = answer.arguments().constFirst() == QLatin1String("gnome-shell");
+        askForCapabilities();
     });
 }
 
@@ -103,7 +112,7 @@ void DesktopNoticeBoard::send()
         QGuiApplication::desktopFileName(), // the icon has the same name
         m_notice->title,
         body,
-        QStringList{defaultAction, tr("Show")},
+        m_raisesWindows ? QStringList() : QStringList{defaultAction, tr("Show")},
         hints(),
         serviceDecides,
     };

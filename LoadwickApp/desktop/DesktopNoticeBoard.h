@@ -41,6 +41,7 @@ private:
     void connectInBackground();
     void begin(const QDBusConnection &bus);
     void call(const QString &method, const QVariantList &arguments, const Answered &answered);
+    void askWhoItIs();
     void askForCapabilities();
     void send();
     void take(quint32 identifier);
@@ -50,6 +51,7 @@ private:
     Connect m_connect;
     bool m_isConnecting = false;
     std::optional<QDBusConnection> m_bus;
+    bool m_raisesWindows = false;      ///< the service does, by the name of the desktop entry
     std::optional<bool> m_takesMarkup; ///< unknown until the service answers
     std::optional<Notice> m_notice;    ///< what the user should see
     quint32 m_identifier = 0;          ///< the service's, of the visible notice; 0: none

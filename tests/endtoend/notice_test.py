@@ -15,6 +15,8 @@ from waiting import until
 NAME = "org.freedesktop.Notifications"
 PATH = "/org/freedesktop/Notifications"
 INTERFACE = """<node><interface name="org.freedesktop.Notifications">
+<method name="GetServerInformation"><arg type="s" direction="out"/><arg type="s" direction="out"/>
+ <arg type="s" direction="out"/><arg type="s" direction="out"/></method>
 <method name="GetCapabilities"><arg type="as" direction="out"/></method>
 <method name="Notify"><arg type="s"/><arg type="u"/><arg type="s"/><arg type="s"/><arg type="s"/>
  <arg type="as"/><arg type="a{sv}"/><arg type="i"/><arg type="u" direction="out"/></method>
@@ -73,7 +75,9 @@ class Notifications:
 
     def _answer(self, *call: Any) -> None:
         method, arguments, invocation = call[4], call[5].unpack(), call[6]
-        if method == "GetCapabilities":
+        if method == "GetServerInformation":
+            answer = GLib.Variant("(ssss)", ("test", "none", "1", "1.2"))
+        elif method == "GetCapabilities":
             answer = GLib.Variant("(as)", (["body", "body-markup", "actions"],))
         elif method == "Notify":
             self.notes.append(Note(title=arguments[3], body=arguments[4]))

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void theNoticeReachesTheDesktop();
     void theBodyIsNeverMarkup();
     void aServiceWithoutMarkupGetsThePlainText();
+    void aServiceThatRaisesWindowsGetsNoAction();
     void theNextNoticeReplacesThePreviousOne();
     void withdrawsANotice();
     void withdrawsAPendingNotice();
@@ -107,6 +108,14 @@ void DesktopNoticeBoardTest::aServiceWithoutMarkupGetsThePlainText()
     board().show({.title = {}, .body = QStringLiteral("<img> & co")});
     QTRY_COMPARE(desktop().notes.size(), 1);
     QCOMPARE(desktop().notes.first().body, QStringLiteral("<img> & co"));
+}
+
+void DesktopNoticeBoardTest::aServiceThatRaisesWindowsGetsNoAction()
+{
+    desktop().server = QStringLiteral("gnome-shell");
+    board().show(m_notice);
+    QTRY_COMPARE(desktop().notes.size(), 1);
+    QCOMPARE(desktop().notes.first().actions, QStringList());
 }
 
 void DesktopNoticeBoardTest::theNextNoticeReplacesThePreviousOne()

@@ -30,6 +30,15 @@ void StandInNotifications::press(uint identifier, const QString &token)
     tell(QStringLiteral("ActionInvoked"), identifier, QStringLiteral("default"));
 }
 
+QString StandInNotifications::GetServerInformation(QString &vendor, QString &version,
+                                                   QString &specification)
+{
+    vendor = QStringLiteral("none");
+    version = QStringLiteral("1");
+    specification = QStringLiteral("1.2");
+    return server;
+}
+
 uint StandInNotifications::Notify(const QString &application, uint replaced, const QString &icon,
                                   const QString &title, const QString &body,
                                   const QStringList &actions, const QVariantMap &hints, int,

@@ -30,6 +30,7 @@ public:
     /// Announces a press on the note of that number, with the desktop's token if there is one.
     void press(uint identifier, const QString &token = {});
 
+    QString server = QStringLiteral("stand-in");
     QStringList capabilities = {QStringLiteral("body"), QStringLiteral("body-markup"),
                                 QStringLiteral("actions")};
     QList<Note> notes; ///< the first has the number 1
@@ -38,6 +39,7 @@ public:
     void answer();
 
 public Q_SLOTS:
+    QString GetServerInformation(QString &vendor, QString &version, QString &specification);
     QStringList GetCapabilities() { return capabilities; }
     // NOLINTNEXTLINE(readability-function-size): the interface's own
     uint Notify(const QString &application, uint replaced, const QString &icon,
