@@ -31,8 +31,7 @@ bool endsLikeFileName(std::string_view word)
     const std::size_t dot = word.rfind('.');
     if (dot == std::string_view::npos || dot == 0 || dot + 1 == word.size())
         return false;
-    const std::string_view extension = word.substr(dot + 1);
-    return lettersAndNumbers(extension) == extension;
+    return isLettersAndNumbers(word.substr(dot + 1));
 }
 
 bool exceedsLimit(std::string_view name)

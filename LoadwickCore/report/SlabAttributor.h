@@ -88,7 +88,7 @@ inline constexpr std::string_view beyondLocalEstimateSuffix = " (beyond local es
                                            const SelfReportedSlabs &selfReported,
                                            std::span<const LocalCategoryEstimate> localEstimates);
 
-/// A category name in lower case, reduced to its letters and numeric characters.
+/// A category name in lower case, reduced to its letters and numeric characters (with their marks).
 [[nodiscard]] std::string normalize(std::string_view name);
 
 /// One slab for each normalised name, in the position and the spelling of its first occurrence,

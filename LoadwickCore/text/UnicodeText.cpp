@@ -64,12 +64,26 @@ constexpr char lowercasedAscii(char byte) noexcept
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
-bool isLetterMarkOrNumber(UChar32 value)
+constexpr bool isAsciiLetterOrNumber(char byte) noexcept
 {
-    if (value < 0x80)
-        return (value >= '0' && value <= '9') || (value >= 'a' && value <= 'z') ||
-               (value >= 'A' && value <= 'Z');
-    return (U_GET_GC_MASK(value) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+    return (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'z') ||
+           (byte >= 'A' && byte <= 'Z');
+}
+
+bool isLetterOrNumber(UChar32 value) noexcept
+{
+    return value >= 0 && (U_GET_GC_MASK(value) & (U_GC_L_MASK | U_GC_N_MASK)) != 0;
+}
+
+bool isMark(UChar32 value) noexcept
+{
+    return value >= 0 && (U_GET_GC_MASK(value) & U_GC_M_MASK) != 0;
+}
+
+/// Whether a mark asks for text or picture style, or draws a key around a digit.
+constexpr bool isPresentationMark(UChar32 value) noexcept
+{
+    return (value >= 0xFE00 && value <= 0xFE0F) || value == 0x20E3;
 }
 
 /// Index of the first byte of the code point that ends before `end`.
@@ -172,13 +186,26 @@ std::string lowercased(std::string_view text)
     return lower;
 }
 
+bool isLettersAndNumbers(std::string_view text) noexcept
+{
+    for (std::size_t index = 0; index < text.size();) {
+        const CodePoint point = codePointAt(text, index);
+        if (!isLetterOrNumber(point.value) && !isMark(point.value))
+            return false;
+        index = point.end;
+    }
+    return true;
+}
+
 std::string lettersAndNumbers(std::string_view text)
 {
     std::string kept;
     kept.reserve(text.size());
+    bool isBehindKept = false;
     for (std::size_t index = 0; index < text.size();) {
         const CodePoint point = codePointAt(text, index);
-        if (point.value >= 0 && isLetterMarkOrNumber(point.value))
+        isBehindKept = isLetterOrNumber(point.value) || (isBehindKept && isMark(point.value));
+        if (isBehindKept && !isPresentationMark(point.value))
             kept.append(text.substr(index, point.end - index));
         index = point.end;
     }
@@ -195,7 +222,7 @@ void setSearchKey(std::string &key, std::string_view text)
     std::size_t size = 0;
     for (const char byte : text) {
         key[size] = lowercasedAscii(byte);
-        if (isLetterMarkOrNumber(byte))
+        if (isAsciiLetterOrNumber(byte))
             ++size;
     }
     key.resize(size);

@@ -27,12 +27,17 @@ namespace Loadwick {
 /// `std::bad_alloc`.
 [[nodiscard]] std::string lowercased(std::string_view text);
 
-/// The letters, their marks and the numeric characters of `text` (Unicode categories L, M and N),
-/// in order. Ill-formed bytes are dropped.
+/// Whether `text` holds nothing but letters, marks and numeric characters (Unicode categories L, M
+/// and N).
+[[nodiscard]] bool isLettersAndNumbers(std::string_view text) noexcept;
+
+/// The letters and numeric characters of `text` (Unicode categories L and N) with the marks (M)
+/// right behind them, in order. The marks that only choose how a symbol is drawn (U+FE00 to U+FE0F,
+/// U+20E3) are dropped, and so are ill-formed bytes.
 [[nodiscard]] std::string lettersAndNumbers(std::string_view text);
 
-/// Sets `key` to the letters, marks and numeric characters of `text` in lower case. `key` keeps its
-/// memory from one text to the next.
+/// Sets `key` to `lettersAndNumbers` of `text` in lower case. `key` keeps its memory from one text
+/// to the next.
 void setSearchKey(std::string &key, std::string_view text);
 
 /// The first `limit` bytes (fewer than 2^31) of `text`, or up to three fewer, so that no code point

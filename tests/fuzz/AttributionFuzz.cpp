@@ -4,11 +4,15 @@
 #include <string>
 #include <vector>
 
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
+
 #include "fuzz/FuzzInput.h"
 #include "fuzz/FuzzTarget.h"
 #include "probe/SlabParser.h"
 #include "report/InstructionFileSet.h"
 #include "report/SlabAttributor.h"
+#include "text/UnicodeText.h"
 
 namespace Loadwick {
 
@@ -49,9 +53,40 @@ Input inputOf(FuzzInput bytes)
     return input;
 }
 
+std::vector<UChar32> codePointsOf(const std::string &text)
+{
+    std::vector<UChar32> points;
+    for (std::size_t index = 0; index < text.size();) {
+        UChar32 point = 0;
+        U8_NEXT(reinterpret_cast<const std::uint8_t *>(text.data()), index, text.size(), point);
+        points.push_back(point);
+    }
+    return points;
+}
+
+/// Letters, numbers and what marks them, each judged by looking back at what it marks.
+std::vector<UChar32> keyOf(const std::string &name)
+{
+    const std::vector<UChar32> points = codePointsOf(lowercased(name));
+    const auto isOf = [&](std::size_t index, std::uint32_t categories) {
+        return points[index] >= 0 && (U_GET_GC_MASK(points[index]) & categories) != 0;
+    };
+    std::vector<UChar32> key;
+    for (std::size_t index = 0; index < points.size(); ++index) {
+        std::size_t base = index;
+        while (base > 0 && isOf(base, U_GC_M_MASK))
+            --base;
+        const UChar32 point = points[index];
+        const bool isStyle = point == 0x20E3 || (point >= 0xFE00 && point <= 0xFE0F);
+        if (isOf(base, U_GC_L_MASK | U_GC_N_MASK) && !isStyle)
+            key.push_back(point);
+    }
+    return key;
+}
+
 bool isSame(const std::string &left, const std::string &right)
 {
-    return SlabAttributor::normalize(left) == SlabAttributor::normalize(right);
+    return keyOf(left) == keyOf(right);
 }
 
 bool matches(const LocalCategoryEstimate &estimate, const std::string &name)

@@ -191,6 +191,8 @@ TEST(SlabAttributorTest, reducesANameToLettersAndNumbersInLowerCase)
     EXPECT_EQ(SlabAttributor::normalize("MCP tools (12)"), "mcptools12");
     EXPECT_EQ(SlabAttributor::normalize("ÄÖ Ⅷ²"), "äöⅷ²");
     EXPECT_EQ(SlabAttributor::normalize("→ !"), "");
+    EXPECT_EQ(SlabAttributor::normalize("🗂️ Memory files"), "memoryfiles");
+    EXPECT_EQ(SlabAttributor::normalize("1️⃣ हिन्दी"), "1हिन्दी");
 }
 
 TEST(SlabAttributorTest, endsTheProgramWhenASumOverflows)

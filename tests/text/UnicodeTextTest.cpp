@@ -63,6 +63,27 @@ TEST(UnicodeTextTest, keepsLettersAndNumbers)
     EXPECT_EQ(lettersAndNumbers("/09:@AZ[`az{~"), "09AZaz");
 }
 
+TEST(UnicodeTextTest, keepsAMarkOnlyBehindALetterOrNumber)
+{
+    EXPECT_EQ(lettersAndNumbers("e\u0301 हिन्दी 1\u0307\u0323"), "e\u0301हिन्दी1\u0307\u0323");
+    EXPECT_EQ(lettersAndNumbers("\u0301a+\u0301b \u093F"), "ab");
+    EXPECT_EQ(lettersAndNumbers("\xFF\u0301"), "");
+}
+
+TEST(UnicodeTextTest, dropsTheMarksOfPresentation)
+{
+    EXPECT_EQ(lettersAndNumbers("🗂\uFE0F Memory"), "Memory");
+    EXPECT_EQ(lettersAndNumbers("1\uFE0F\u20E3 a\uFE00\u0301"), "1a\u0301");
+}
+
+TEST(UnicodeTextTest, knowsATextOfNothingButLettersAndNumbers)
+{
+    for (const std::string_view text : {"", "md", "7z", "cafe\u0301", "текст", "md\uFE0F"})
+        EXPECT_TRUE(isLettersAndNumbers(text)) << text;
+    for (const std::string_view text : {"a-b", "a b", "é→", "a\xFF"})
+        EXPECT_FALSE(isLettersAndNumbers(text)) << text;
+}
+
 TEST(UnicodeTextTest, makesASearchKeyOfLettersAndNumbersInLowerCase)
 {
     std::string key = "an earlier key";
