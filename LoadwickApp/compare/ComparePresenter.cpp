@@ -21,25 +21,45 @@ QString scanCountText(std::int64_t count)
 
 } // namespace
 
+std::vector<RankedEntry> ranked(std::vector<LeaderboardEntry> heaviestFirst)
+{
+    std::vector<RankedEntry> rows;
+    rows.reserve(heaviestFirst.size());
+    for (LeaderboardEntry &entry : heaviestFirst)
+        rows.push_back({.rank = static_cast<int>(rows.size()) + 1, .entry = std::move(entry)});
+    return rows;
+}
+
 std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale)
 {
-    using Entry = LeaderboardEntry;
-    const auto mark = [locale](const Entry &entry) {
-        return TrendMark::of(entry.trend(), entry.delta(), locale);
+    using Row = RankedEntry;
+    const auto title = [](const Row &row) { return qtText(row.entry.latest.repositoryName); };
+    const auto detail = [](const Row &row) { return scanCountText(row.entry.scanCount); };
+    const auto value = [locale](const Row &row) {
+        return qtText(NumberText::grouped(row.entry.latest.total, locale));
     };
-    const auto value = [locale](const Entry &entry) {
-        return qtText(NumberText::grouped(entry.latest.total, locale));
+    const auto band = [](const Row &row) { return row.entry.latest.band(); };
+    const auto bandTitle = [band](const Row &row) { return qtText(band(row).title()); };
+    const auto mark = [locale](const Row &row) {
+        return TrendMark::of(row.entry.trend(), row.entry.delta(), locale);
+    };
+    const auto sentence = [=](const Row &row) {
+        return ComparePresenter::tr("%1. %2, %3, %4 tokens, %5, %6")
+            .arg(QString::number(row.rank), title(row), detail(row), value(row), bandTitle(row),
+                 mark(row).title);
     };
     return {
-        {"title", [](const Entry &entry) { return qtText(entry.latest.repositoryName); }},
-        {"detail", [](const Entry &entry) { return scanCountText(entry.scanCount); }},
+        {"rank", &Row::rank},
+        {"title", title},
+        {"detail", detail},
         {"value", value},
-        {"band", [](const Entry &entry) { return static_cast<int>(entry.latest.band()); }},
-        {"bandTitle", [](const Entry &entry) { return qtText(entry.latest.band().title()); }},
-        {"trendKind", [mark](const Entry &entry) { return static_cast<int>(mark(entry).kind); }},
-        {"trendTitle", [mark](const Entry &entry) { return mark(entry).title; }},
-        {"trendSymbol", [mark](const Entry &entry) { return mark(entry).symbol; }},
-        {"place", [](const Entry &entry) { return qtText(entry.latest.repositoryPath); }},
+        {"band", [band](const Row &row) { return static_cast<int>(band(row)); }},
+        {"bandTitle", bandTitle},
+        {"trendKind", [mark](const Row &row) { return static_cast<int>(mark(row).kind); }},
+        {"trendTitle", [mark](const Row &row) { return mark(row).title; }},
+        {"trendSymbol", [mark](const Row &row) { return mark(row).symbol; }},
+        {"place", [](const Row &row) { return qtText(row.entry.latest.repositoryPath); }},
+        {"sentence", sentence},
     };
 }
 
@@ -92,7 +112,7 @@ void ComparePresenter::showHistory()
         showWhyEmpty(m_comparison->columns);
         m_comparison = std::make_shared<const Comparison>();
     }
-    m_leaderboard.setRows(m_comparison->leaderboard);
+    m_leaderboard.setRows(ranked(m_comparison->leaderboard));
     m_combined.setRows(CombinedLines(m_comparison));
     Q_EMIT changed();
 }

@@ -17,11 +17,20 @@
 
 namespace Loadwick {
 
-using LeaderboardRows = ListOf<LeaderboardEntry>;
+/// A repository and its rank on the leaderboard, from 1.
+struct RankedEntry
+{
+    int rank;
+    LeaderboardEntry entry;
+};
 
-/// What a row of the leaderboard says: "title", "detail", "value", "band" and "bandTitle" of the
-/// latest total, "trendKind", "trendTitle" and "trendSymbol" for a `TrendPill`, and "place", the
-/// path that tells namesakes apart.
+[[nodiscard]] std::vector<RankedEntry> ranked(std::vector<LeaderboardEntry> heaviestFirst);
+
+using LeaderboardRows = ListOf<RankedEntry>;
+
+/// What a row of the leaderboard says: "rank", "title", "detail", "value", "band" and "bandTitle"
+/// of the latest total, "trendKind", "trendTitle" and "trendSymbol" for a `TrendPill`, "place", the
+/// path that tells namesakes apart, and "sentence", all words of the row.
 [[nodiscard]] std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale);
 
 /// What the Compare page says about the recorded repositories. Belongs to the interface thread; the

@@ -5,8 +5,9 @@ import Loadwick
 HistoryRow {
     id: row
 
-    required property int index
+    required rank
     required place
+    required sentence
     required property int band
     required property string bandTitle
     required property int trendKind
@@ -15,7 +16,6 @@ HistoryRow {
 
     width: row.ListView.view ? row.ListView.view.width : 0
     height: AppTheme.listRowHeight
-    rank: row.index + 1
     valueTint: AppTheme.bandTexts[row.band]
     valueCaption: row.bandTitle
     accessoryWidth: AppTheme.trendWidth

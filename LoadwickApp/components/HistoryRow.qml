@@ -16,6 +16,8 @@ Item {
     property string valueCaption: ""
     // Tells rows of the same title apart; empty where they are distinct.
     property string place: ""
+    // All words of the row, for a screen reader.
+    property string sentence: title
     // The minimum room for the child, so that the figures of all rows are aligned.
     property real accessoryWidth: 0
     default property alias accessory: slot.data
@@ -23,7 +25,7 @@ Item {
     implicitWidth: line.implicitWidth
     implicitHeight: line.implicitHeight + 2 * AppTheme.tightSpace
     Accessible.role: Accessible.ListItem
-    Accessible.name: row.title
+    Accessible.name: row.sentence
     Accessible.description: row.place
     // Hidden while pooled.
     ListView.onPooled: row.visible = false

@@ -27,6 +27,7 @@ ReportSurface {
 
             required valueCaption
             required place
+            required sentence
             required property int band
 
             width: ListView.view ? ListView.view.width : 0

@@ -53,6 +53,12 @@ std::vector<ListOf<RecordedScan>::Role> RecordedDataPresenter::runRoles() const
     const auto valueCaption = [](const Scan &scan) {
         return scan.categories.empty() ? tr("No category estimates") : QString();
     };
+    const auto sentence = [=](const Scan &scan) {
+        const QString words = tr("%1, %2, %3 tokens, %4")
+                                  .arg(qtText(scan.repositoryName), detail(scan), value(scan),
+                                       qtText(scan.band().title()));
+        return scan.categories.empty() ? words + QStringLiteral(", ") + valueCaption(scan) : words;
+    };
     return {
         {"title", [](const Scan &scan) { return qtText(scan.repositoryName); }},
         {"detail", detail},
@@ -60,6 +66,7 @@ std::vector<ListOf<RecordedScan>::Role> RecordedDataPresenter::runRoles() const
         {"valueCaption", valueCaption},
         {"band", [](const Scan &scan) { return static_cast<int>(scan.band()); }},
         {"place", [this](const Scan &scan) { return placeOf(scan); }},
+        {"sentence", sentence},
     };
 }
 

@@ -33,8 +33,8 @@ public:
     void showHistory();
 
     /// The newest scans first, `mostRuns` at most: "title" (the repository), "detail" (when),
-    /// "value" (tokens), "valueCaption", "band" (its number) and "place", the repository's path
-    /// where its name is ambiguous, else empty.
+    /// "value" (tokens), "valueCaption", "band" (its number), "place", the repository's path where
+    /// its name is ambiguous, else empty, and "sentence", all words of the row with its band.
     [[nodiscard]] RowList *runs() { return &m_runs; }
     /// Describes which scans these are.
     [[nodiscard]] QString runsDetail() const { return m_runsDetail; }

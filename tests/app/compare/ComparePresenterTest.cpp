@@ -247,6 +247,17 @@ private Q_SLOTS:
                  QStringLiteral("+12,34,560"));
     }
 
+    void readsARepositoryAsOneSentence()
+    {
+        record(fourRepositories());
+        QCOMPARE(
+            allRanked("sentence"),
+            QStringList({QStringLiteral("1. webshop, 2 scans, 61,235 tokens, Excessive, +1,234"),
+                         QStringLiteral("2. ferry, 2 scans, 30,000 tokens, Heavy, -80"),
+                         QStringLiteral("3. tides, 2 scans, 29,999 tokens, Lean, ±0"),
+                         QStringLiteral("4. notes, 1 scan, 3 tokens, Lean, First scan")}));
+    }
+
     void theLeaderboardBehavesAsAModel()
     {
         const QAbstractItemModelTester tester(m_compare->leaderboard());

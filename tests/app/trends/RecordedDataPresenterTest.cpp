@@ -152,6 +152,19 @@ private Q_SLOTS:
         QCOMPARE(run(0, "valueCaption"), QStringLiteral("No category estimates"));
     }
 
+    void readsARunAsOneSentence()
+    {
+        const TimeZone utc("UTC");
+        show(*m_data, {RecordedScanBuilder().at(60).ofTotal(61'000).withCategory("a", 1).build(),
+                       RecordedScanBuilder().at(0).ofTotal(30'000).build()});
+        QCOMPARE(run(0, "sentence"),
+                 QStringLiteral("webshop, %1, 61,000 tokens, Excessive").arg(run(0, "detail")));
+        QCOMPARE(run(1, "sentence"),
+                 QStringLiteral("webshop, %1, 30,000 tokens, Heavy, No category estimates")
+                     .arg(run(1, "detail")));
+        QVERIFY(run(0, "detail") != run(1, "detail"));
+    }
+
     void distinguishesNamesakesByPath()
     {
         show(*m_data, {RecordedScanBuilder().in("/a").at(3).build(),

@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         show({RecordedScanBuilder().in("/srv/one/webshop").at(1'772'615'727).build(),
               RecordedScanBuilder().in("/srv/two/webshop").at(1'772'615'728).build()});
-        QTRY_COMPARE(placeOf("webshop"), QStringLiteral("/srv/two/webshop"));
+        QTRY_COMPARE(placeOfRow("webshop"), QStringLiteral("/srv/two/webshop"));
     }
 
     void theSummaryTilesAreOfEqualWidth()
@@ -228,10 +228,11 @@ private:
     }
 
     /// The accessible description beside the name.
-    [[nodiscard]] QString placeOf(const char *name) const
+    /// The description of the first row that shows this title.
+    [[nodiscard]] QString placeOfRow(const char *title) const
     {
-        QAccessibleInterface *row = m_window->find(QString::fromUtf8(name));
-        return row == nullptr ? QString() : row->text(QAccessible::Description);
+        QAccessibleInterface *label = m_window->find(QString::fromUtf8(title));
+        return label == nullptr ? QString() : label->parent()->text(QAccessible::Description);
     }
 
     [[nodiscard]] qreal start(const char *name) const

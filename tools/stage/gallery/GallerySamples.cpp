@@ -37,7 +37,7 @@ GallerySamples::GallerySamples(QObject *parent)
     m_manyScans.show(SampleHistories::ofSize(30, 1, 1));
     m_twoScans.show(SampleHistories::ofSize(2, 1, 1));
     m_oneScan.show(SampleHistories::ofSize(1, 1, 1));
-    m_leaderboard.setRows(ScanHistory::leaderboard(SampleHistories::ofSize(31, 5, 1)));
+    m_leaderboard.setRows(ranked(ScanHistory::leaderboard(SampleHistories::ofSize(31, 5, 1))));
 }
 
 } // namespace Loadwick
