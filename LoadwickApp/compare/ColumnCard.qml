@@ -79,6 +79,7 @@ ReportSurface {
             rowHeight: AppTheme.barRowHeight
             style: card.style
             fill: card.fill
+            onCopyRequested: index => card.column.bars.copy(index, "spoken")
             delegate: Bar { }
         }
         Loader {

@@ -64,6 +64,7 @@ ReportSurface {
         model: card.compare.combined
         viewport: card.viewport
         rowHeight: AppTheme.combinedRowHeight
+        onCopyRequested: index => card.compare.combined.copy(index, "spoken")
         delegate: Line { }
         style: ThemedBarStyle {
             nameWidth: card.nameWidth

@@ -21,6 +21,7 @@ ReportSurface {
         model: card.rows
         viewport: card.viewport
         rowHeight: AppTheme.listRowHeight
+        onCopyRequested: index => card.rows.copy(index, "sentence")
         delegate: LeaderboardRow { }
     }
 }

@@ -22,6 +22,7 @@ ReportSurface {
         rowHeight: AppTheme.listRowHeight
         visible: count > 0
         Accessible.name: qsTr("Previous runs")
+        onCopyRequested: index => card.recordedData.runs.copy(index, "sentence")
         delegate: HistoryRow {
             id: row
 

@@ -1,5 +1,7 @@
-// The pages as a screen reader gets them, in the real window.
+// The pages as a screen reader and the clipboard get them, in the real window.
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QTest>
 
 #include "samples/SampleHistories.h"
@@ -43,6 +45,7 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_window.reset(); }
     void aFocusedRowSaysEverythingThatItShows();
+    void everyListCopiesWhatItsRowSays();
 
 private:
     [[nodiscard]] QQuickWindow &window() { return m_window->loadwick().window(); }
@@ -92,6 +95,17 @@ void SpokenPagesTest::aFocusedRowSaysEverythingThatItShows()
         const QString name = nameOf(&row);
         for (const QString &word : shownWords(row))
             QVERIFY2(name.contains(word), qPrintable(name + QStringLiteral(" lacks ") + word));
+    });
+}
+
+void SpokenPagesTest::everyListCopiesWhatItsRowSays()
+{
+    visitLists([this](QQuickItem &list, QQuickItem &row) {
+        QGuiApplication::clipboard()->clear();
+        m_window->press(Qt::Key_C, Qt::ControlModifier);
+        const QString copied = QGuiApplication::clipboard()->text();
+        QVERIFY2(!copied.isEmpty(), qPrintable(nameOf(&list)));
+        QVERIFY2(nameOf(&row).contains(copied), qPrintable(copied));
     });
 }
 
