@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <QGuiApplication>
+
 #include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
 #include "report/OpinionBand.h"
@@ -124,6 +126,8 @@ void OnboardingPresenter::present()
 {
     if (m_isPresented)
         return;
+    if (QGuiApplication::modalWindow() != nullptr) // a dialog: two would compete for the keyboard
+        return m_delay.start();
     m_flow = OnboardingFlow(OnboardingCompletion(m_store));
     Q_EMIT moved();
     Q_EMIT isFinishedChanged();

@@ -77,7 +77,8 @@ public:
     explicit OnboardingPresenter(std::shared_ptr<OnboardingCompletionStore> store);
 
     /// Asks the store in the background whether the walk-through was completed. If not, the sheet
-    /// opens after the delay, at the first step, unless it was cancelled meanwhile.
+    /// opens after the delay, at the first step, unless it was cancelled meanwhile; after another
+    /// delay if a dialog is open.
     void presentOnboardingIfFirstLaunch(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
     /// Cancels a sheet that has not opened yet; an open one stays.

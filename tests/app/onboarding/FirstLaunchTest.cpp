@@ -30,6 +30,27 @@ private Q_SLOTS:
         QVERIFY(shows("See what Claude Code loads before it reads a single message"));
     }
 
+    void theSheetWaitsUntilAnOpenDialogIsClosed()
+    {
+        open();
+        const std::unique_ptr<QWindow> dialog = openDialog();
+        QTest::qWait(500);
+        QVERIFY(!shows("Next"));
+        dialog->close();
+        QTRY_VERIFY(shows("Next"));
+    }
+
+    void closingTheWindowUnderAnOpenDialogShowsNoSheet()
+    {
+        open();
+        const std::unique_ptr<QWindow> dialog = openDialog();
+        QTest::qWait(400);
+        m_window->loadwick().window().close();
+        dialog->close();
+        QTest::qWait(500);
+        QVERIFY(!m_window->loadwick().onboarding().isPresented());
+    }
+
     void aCompletedWalkThroughIsNotShownAgain()
     {
         m_store->completed = true;
@@ -187,6 +208,16 @@ private:
     {
         m_window = std::make_unique<WindowFixture>(m_store);
         m_window->askForFirstLaunch();
+    }
+
+    /// What the desktop's dialogs are to the program: a modal window over its own.
+    std::unique_ptr<QWindow> openDialog()
+    {
+        auto dialog = std::make_unique<QWindow>();
+        dialog->setTransientParent(&m_window->loadwick().window());
+        dialog->setModality(Qt::WindowModal);
+        dialog->show();
+        return dialog;
     }
 
     void openSheet()
