@@ -110,22 +110,22 @@ std::chrono::duration<double> retryDelay(const ProbeRunner::Settings &settings)
 }
 
 std::optional<ProbeUsage> attempt(const ProbeRunner::Settings &settings,
-                                  const std::string &sessionID)
+                                  const std::string &sessionID, Deadline deadline)
 {
     const auto path =
-        TranscriptLocator::find(sessionID, settings.projectsRoot, *settings.fileSystem);
-    return path ? TranscriptReader::firstAssistantUsageAtPath(*path) : std::nullopt;
+        TranscriptLocator::find(sessionID, settings.projectsRoot, *settings.fileSystem, deadline);
+    return path ? TranscriptReader::firstAssistantUsageAtPath(*path, deadline) : std::nullopt;
 }
 
 std::optional<ProbeUsage> search(const ProbeRunner::Settings &settings,
                                  const std::string &sessionID, Deadline deadline)
 {
-    std::optional<ProbeUsage> usage = attempt(settings, sessionID);
+    std::optional<ProbeUsage> usage = attempt(settings, sessionID, deadline);
     for (int made = 1; !usage && made < settings.transcriptRetries; ++made) {
         if (settings.shutdown->waitFor(retryDelay(settings)) ||
             std::chrono::steady_clock::now() >= deadline)
             return std::nullopt;
-        usage = attempt(settings, sessionID);
+        usage = attempt(settings, sessionID, deadline);
     }
     return usage;
 }

@@ -25,7 +25,7 @@ struct Execution
     std::int32_t exitCode = 0;    ///< exit status, or the signal's number when one ended it
     std::string standardOutput;   ///< UTF-8; empty when it was not, or exceeded the capture limit
     std::string standardError;    ///< the same
-    bool timedOut = false;        ///< the time-out fired and a signal ended the child
+    bool timedOut = false;        ///< the time-out fired and a signal ended the child, or its start
     bool readersTimedOut = false; ///< a stream was still open when its readers had to stop
     bool terminationRequested = false; ///< the time-out fired, however the child then ended
 
@@ -88,7 +88,8 @@ public:
     };
 
     /// Starts the child in a session of its own, captures both its streams and returns when it has
-    /// ended and both are drained, or when the time-out and its grace periods are over. Blocking.
+    /// ended and both are drained, or when the time-out and its grace periods are over. The start
+    /// counts into the time-out; a child that starts later is killed. Blocking.
     /// Throws `unreadableOutput` when the child cannot be started.
     [[nodiscard]] static Execution execute(const Launch &launch);
 

@@ -1,5 +1,6 @@
 #include "probe/TranscriptLocator.h"
 
+#include <chrono>
 #include <deque>
 
 #include "text/PathText.h"
@@ -32,9 +33,9 @@ public:
     {}
 
     /// A file of the given name, else another entry of that name, else nothing.
-    std::optional<fs::path> run()
+    std::optional<fs::path> runUntil(Deadline deadline)
     {
-        while (!m_file && !m_pending.empty()) {
+        while (!m_file && !m_pending.empty() && std::chrono::steady_clock::now() < deadline) {
             const fs::path folder = std::move(m_pending.front());
             m_pending.pop_front();
             m_fileSystem.list(folder, [&](const std::string &name, EntryKind kind) {
@@ -100,12 +101,13 @@ std::optional<std::string> normalizedConfigDir(std::string_view value,
     return standardizedPath(workingDirectory / folder).native();
 }
 
-std::optional<std::filesystem::path>
-find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem)
+std::optional<std::filesystem::path> find(std::string_view sessionID,
+                                          const std::filesystem::path &root,
+                                          const FileSystem &fileSystem, Deadline deadline)
 {
     if (!isPlainFileName(sessionID))
         return std::nullopt;
-    return Search(fileSystem, std::string(sessionID) + ".jsonl", root).run();
+    return Search(fileSystem, std::string(sessionID) + ".jsonl", root).runUntil(deadline);
 }
 
 } // namespace Loadwick::TranscriptLocator

@@ -7,6 +7,7 @@
 
 #include "posix/FileSystem.h"
 #include "posix/ProcessContext.h"
+#include "process/Deadline.h"
 
 /// Finds the transcript file of a session.
 namespace Loadwick::TranscriptLocator {
@@ -27,8 +28,11 @@ normalizedConfigDir(std::string_view value, const std::filesystem::path &working
 /// A file named `sessionID` + ".jsonl" at any depth under `root`, or, if there is none, another
 /// entry of that name; any one of several. Hidden files and folders are skipped, links to folders
 /// are not followed, folders that cannot be listed count as empty. An identifier that is not a
-/// plain file name (empty, with "/" or NUL, or a leading ".") finds nothing.
-[[nodiscard]] std::optional<std::filesystem::path>
-find(std::string_view sessionID, const std::filesystem::path &root, const FileSystem &fileSystem);
+/// plain file name (empty, with "/" or NUL, or a leading ".") finds nothing. No folder is listed
+/// after `deadline`.
+[[nodiscard]] std::optional<std::filesystem::path> find(std::string_view sessionID,
+                                                        const std::filesystem::path &root,
+                                                        const FileSystem &fileSystem,
+                                                        Deadline deadline = Deadline::max());
 
 } // namespace Loadwick::TranscriptLocator

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 #include "posix/RegularFile.h"
 #include "text/TextLines.h"
@@ -96,7 +97,8 @@ void TranscriptPieces::pass(std::string_view part)
 
 namespace TranscriptReader {
 
-std::optional<ProbeUsage> firstAssistantUsageAtPath(const std::filesystem::path &path)
+std::optional<ProbeUsage> firstAssistantUsageAtPath(const std::filesystem::path &path,
+                                                    Deadline deadline)
 {
     auto file = RegularFile::open(path);
     if (!file)
@@ -107,7 +109,7 @@ std::optional<ProbeUsage> firstAssistantUsageAtPath(const std::filesystem::path 
         return file->skipTo(position) ? line : std::nullopt;
     });
     std::array<char, pieceSize> buffer;
-    for (;;) {
+    while (std::chrono::steady_clock::now() < deadline) {
         const auto count = file->read(buffer);
         if (!count)
             return std::nullopt;
@@ -117,6 +119,7 @@ std::optional<ProbeUsage> firstAssistantUsageAtPath(const std::filesystem::path 
         if (const auto usage = pieces.take({buffer.data(), *count}))
             return usage;
     }
+    return std::nullopt;
 }
 
 std::optional<ProbeUsage> firstAssistantUsageIn(std::string_view text)

@@ -10,15 +10,17 @@
 #include <utility>
 
 #include "probe/ProbeUsage.h"
+#include "process/Deadline.h"
 
 /// Reads the token usage of a session's first assistant message: what the model received before it
 /// produced anything. Whatever cannot be read yields nothing.
 namespace Loadwick::TranscriptReader {
 
 /// Reads the JSON Lines file at `path` in pieces of 64 KiB and stops at the first line that yields
-/// a usage. A malformed line, or one of more than 64 MiB, is skipped.
+/// a usage. A malformed line, or one of more than 64 MiB, is skipped. No piece is read after
+/// `deadline`.
 [[nodiscard]] std::optional<ProbeUsage>
-firstAssistantUsageAtPath(const std::filesystem::path &path);
+firstAssistantUsageAtPath(const std::filesystem::path &path, Deadline deadline = Deadline::max());
 
 /// The same for a whole transcript in memory.
 [[nodiscard]] std::optional<ProbeUsage> firstAssistantUsageIn(std::string_view text);

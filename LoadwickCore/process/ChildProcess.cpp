@@ -87,7 +87,6 @@ ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams
     if (!entry.isAnnounced())
         refuse();
     ChildProcess child(spawnSessionLeader(command, streams), std::move(entry));
-    // unreachable: the end would have to be requested while the child is being spawned
     if (!child.m_entry.enter(child.m_processID))
         refuse();
     return child;

@@ -1,11 +1,13 @@
 #include "process/ChildSupervision.h"
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <new>
 #include <utility>
 
 #include "posix/FileDescriptor.h"
+#include "process/BoundedCall.h"
 #include "process/StreamReaders.h"
 
 namespace Loadwick::ChildSupervision {
@@ -13,6 +15,7 @@ namespace Loadwick::ChildSupervision {
 namespace {
 
 constexpr double memoryCheckSeconds = 0.1;
+constexpr ChildProcess::Ending killed{SIGKILL, true};
 
 struct StartedChild
 {
@@ -47,6 +50,14 @@ void startReaders(StreamReaders &readers, const StartedChild &child)
         readers.start(child.standardError, OutputBox::Stream::standardError);
 }
 
+// On a thread of its own, since the disk that holds the executable or the folder may not answer. A
+// child that starts too late is killed there, since nobody owns it.
+std::optional<StartedChild> startBefore(Deadline timeout, const Request &request)
+{
+    return callWithin(timeout - std::chrono::steady_clock::now(),
+                      [request] { return start(request); });
+}
+
 // True when the child ended before `timeout`. Once its output is lost, waiting is pointless.
 bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &box)
 {
@@ -61,11 +72,12 @@ bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &bo
 
 // True when the time-out found the child running. Without a limit on the wait for its death, a
 // child that is stuck inside the system would block the caller forever.
-bool stopAtTimeout(const ChildProcess &child, const Request &request, const OutputBox &box)
+bool stopAt(Deadline timeout, const ChildProcess &child, double killGraceSeconds,
+            const OutputBox &box)
 {
-    if (endsBefore(deadlineAfter(request.limits.timeoutSeconds), child, box))
+    if (endsBefore(timeout, child, box))
         return false;
-    ProcessTermination::terminateThenKill(child, request.limits.killGraceSeconds);
+    ProcessTermination::terminateThenKill(child, killGraceSeconds);
     (void)child.waitUntil(deadlineAfter(ChildProcess::survivalSeconds));
     return true;
 }
@@ -76,7 +88,7 @@ ChildProcess::Ending endingOf(ChildProcess child)
     if (!child.isRunning())
         return child.reap();
     ChildProcess::abandon(std::move(child));
-    return {SIGKILL, true};
+    return killed;
 }
 
 } // namespace
@@ -84,15 +96,22 @@ ChildProcess::Ending endingOf(ChildProcess child)
 Outcome run(const Request &request)
 {
     StreamReaders readers(request.limits.captureLimit);
-    StartedChild child = start(request);
-    startReaders(readers, child);
+    const Deadline timeout = deadlineAfter(request.limits.timeoutSeconds);
+    std::optional<StartedChild> child = startBefore(timeout, request);
+    if (!child)
+        return {.ending = killed,
+                .standardOutput = "",
+                .standardError = "",
+                .terminationRequested = true};
+    startReaders(readers, *child);
 
     Outcome outcome;
-    outcome.terminationRequested = stopAtTimeout(child.process, request, readers.box());
+    outcome.terminationRequested =
+        stopAt(timeout, child->process, request.limits.killGraceSeconds, readers.box());
     outcome.readersTimedOut = !readers.finish(request.limits.readerGraceSeconds);
     if (outcome.terminationRequested)
-        ProcessTermination::sweepGroup(child.process);
-    outcome.ending = endingOf(std::move(child.process));
+        ProcessTermination::sweepGroup(child->process);
+    outcome.ending = endingOf(std::move(child->process));
     outcome.standardOutput = readers.box().take(OutputBox::Stream::standardOutput);
     outcome.standardError = readers.box().take(OutputBox::Stream::standardError);
     return outcome;

@@ -20,7 +20,7 @@ enum class Capture
 
 struct Limits
 {
-    double timeoutSeconds;
+    double timeoutSeconds;     ///< from before its start
     double killGraceSeconds;   ///< between SIGTERM and SIGKILL
     double readerGraceSeconds; ///< for the streams, after the child's end
     std::size_t captureLimit;  ///< bytes kept of each stream
@@ -36,10 +36,12 @@ struct Request
 
 struct Outcome
 {
-    ChildProcess::Ending ending; ///< by SIGKILL for a child that survived it and was abandoned
+    /// By SIGKILL too for a child that survived it and was abandoned, or that did not start in
+    /// time.
+    ChildProcess::Ending ending;
     std::optional<std::string> standardOutput; ///< bytes; nothing when they exceeded the limit
     std::optional<std::string> standardError;
-    bool terminationRequested = false; ///< the time-out found the child running
+    bool terminationRequested = false; ///< the time-out found the child running, or starting
     bool readersTimedOut = false;      ///< a stream was still open when its reader had to stop
 };
 

@@ -1,5 +1,6 @@
 #include <csignal>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include "probe/ProbeError.h"
@@ -28,6 +29,23 @@ ProbeRunner::Launch patientLaunch(std::vector<std::string> arguments)
     launch.limits.timeoutSeconds = 30;
     return launch;
 }
+
+/// While it lives, nobody can open the file, as on a disk that does not answer: the system first
+/// waits for this process to give up its lease.
+class StuckFile
+{
+public:
+    explicit StuckFile(const std::string &path)
+        : m_descriptor(open(path.c_str(), O_RDONLY | O_CLOEXEC))
+    {
+        // The system's request to give it up; a signal that is ignored by default.
+        EXPECT_EQ(fcntl(m_descriptor.number(), F_SETSIG, SIGURG), 0);
+        EXPECT_EQ(fcntl(m_descriptor.number(), F_SETLEASE, F_WRLCK), 0);
+    }
+
+private:
+    FileDescriptor m_descriptor;
+};
 
 std::string startFailure(const ProbeRunner::Launch &launch)
 {
@@ -95,6 +113,39 @@ TEST(ProbeRunnerExecutionTest, stopsAChildAtTheTimeout)
     EXPECT_TRUE(execution.terminationRequested);
     EXPECT_FALSE(execution.readersTimedOut);
     EXPECT_EQ(execution.exitCode, SIGTERM);
+}
+
+TEST(ProbeRunnerExecutionTest, countsTheStartIntoTheTimeout)
+{
+    const TemporaryFolder folder;
+    ProbeRunner::Launch launch = hostileLaunch({});
+    launch.cli = folder.writeScript("claude", "#!/bin/sh\nexec sleep 30\n").string();
+    const StuckFile stuck(launch.cli);
+    Execution expected;
+    expected.exitCode = SIGKILL;
+    expected.timedOut = expected.terminationRequested = true;
+    EXPECT_EQ(executeInTime(launch), expected);
+}
+
+TEST(ProbeRunnerExecutionTest, endsAChildThatStartsAfterTheTimeout)
+{
+    const TemporaryFolder folder;
+    ProbeRunner::Launch launch = hostileLaunch({});
+    launch.cli = folder.writeScript("claude", "#!/bin/sh\nexec sleep 30\n").string();
+    for (const bool isProgramEnding : {false, true}) {
+        launch.shutdown = std::make_shared<Shutdown>();
+        const ProcessCensus before = ProcessCensus::now();
+        {
+            const StuckFile stuck(launch.cli);
+            EXPECT_TRUE(executeInTime(launch).timedOut);
+            if (isProgramEnding)
+                launch.shutdown->request();
+        }
+        EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
+        const Stopwatch watch;
+        launch.shutdown->stopChildren(std::chrono::seconds(20));
+        EXPECT_LT(watch.seconds(), 10) << "the child is still listed";
+    }
 }
 
 TEST(ProbeRunnerExecutionTest, keepsTheOutputOfAChildThatClosedItAndLivedOn)

@@ -9,6 +9,7 @@
 
 #include "posix/FileSystem.h"
 #include "samples/TemporaryFolder.h"
+#include "support/ProcessCensus.h"
 #include "support/Stopwatch.h"
 
 namespace Loadwick {
@@ -35,6 +36,26 @@ public:
 
 private:
     std::function<void()> m_listing;
+};
+
+// A disk with a folder in every folder; counts its listings.
+class EndlessFileSystem : public FileSystem
+{
+public:
+    explicit EndlessFileSystem(std::shared_ptr<std::atomic<int>> listed)
+        : m_listed(std::move(listed))
+    {}
+
+    void list(const std::filesystem::path &, const Visitor &visit) const override
+    {
+        ++*m_listed;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        visit("folder", EntryKind::folder);
+    }
+    [[nodiscard]] bool mayHold(const std::filesystem::path &) const override { return true; }
+
+private:
+    std::shared_ptr<std::atomic<int>> m_listed;
 };
 
 ProbeRunner::Settings searching(const std::filesystem::path &root, int attempts,
@@ -138,6 +159,31 @@ TEST(ProbeRunnerSearchTest, startsNoAttemptAfterItsLimit)
     // The search continues alone until it sees that its time is up.
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     EXPECT_LE(*made, 1);
+}
+
+TEST(ProbeRunnerSearchTest, stopsReadingAtItsLimit)
+{
+    const TemporaryFolder folder;
+    const auto transcript = folder.write("session.jsonl", userLine);
+    std::filesystem::resize_file(transcript, std::uintmax_t{1} << 40); // takes minutes to read
+    const ProcessCensus before = ProcessCensus::now();
+    ProbeRunner::Settings search = searching(folder.path(), 1, 0);
+    search.transcriptSearchSeconds = 0.2;
+    EXPECT_EQ(usageBy(search), std::nullopt);
+    EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
+}
+
+TEST(ProbeRunnerSearchTest, stopsWalkingAtItsLimit)
+{
+    const TemporaryFolder folder;
+    const auto listed = std::make_shared<std::atomic<int>>(0);
+    ProbeRunner::Settings search = searching(folder.path(), 1, 0);
+    search.fileSystem = std::make_shared<EndlessFileSystem>(listed);
+    search.transcriptSearchSeconds = 0.2;
+    const ProcessCensus before = ProcessCensus::now();
+    EXPECT_EQ(usageBy(search), std::nullopt);
+    EXPECT_GT(*listed, 1);
+    EXPECT_TRUE(eventually([&] { return ProcessCensus::now().isWithin(before); }));
 }
 
 TEST(ProbeRunnerSearchTest, endsTheProgramOnAnInvalidDelay)
