@@ -1,5 +1,7 @@
 #include "history/ScanHistoryFile.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "text/DateText.h"
@@ -111,6 +113,34 @@ void writeScan(JsonWriter &writer, const RecordedScan &scan)
     writer.close('}');
 }
 
+/// Bytes that a scan adds to a file, the comma behind it included.
+std::size_t encodedSize(const RecordedScan &scan)
+{
+    JsonWriter writer;
+    writer.open('{');
+    writer.open('[');
+    const std::size_t before = writer.text().size();
+    writer.element();
+    writeScan(writer, scan);
+    return writer.text().size() - before + 1;
+}
+
+/// Keeps the newest of `scans` whose sizes add up to at most `byteLimit`. A scan that exceeds it by
+/// itself loses its categories.
+void keepWithin(std::vector<RecordedScan> &scans, std::size_t byteLimit)
+{
+    auto oldest = scans.end();
+    for (std::size_t size = 0; oldest != scans.begin(); --oldest) {
+        RecordedScan &scan = *std::prev(oldest);
+        if (encodedSize(scan) > byteLimit)
+            scan.categories.clear();
+        size += encodedSize(scan);
+        if (size > byteLimit)
+            break;
+    }
+    scans.erase(scans.begin(), oldest);
+}
+
 } // namespace
 
 std::optional<ScanHistoryFile> ScanHistoryFile::decoded(std::string_view json)
@@ -134,6 +164,18 @@ std::string ScanHistoryFile::encoded() const
     writeMember(writer, "version", version);
     writer.close('}');
     return writer.text();
+}
+
+std::string ScanHistoryFile::encodedWithin(std::size_t byteLimit)
+{
+    std::string text = encoded();
+    if (text.size() <= byteLimit)
+        return text;
+    std::size_t frameSize = text.size();
+    for (const RecordedScan &scan : scans)
+        frameSize -= encodedSize(scan);
+    keepWithin(scans, byteLimit - std::min(frameSize, byteLimit));
+    return encoded();
 }
 
 } // namespace Loadwick

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,6 +23,10 @@ struct ScanHistoryFile
 
     /// UTF-8 JSON, two-space indent, keys in alphabetical order, `"key" : value`.
     [[nodiscard]] std::string encoded() const;
+
+    /// The same in at most `byteLimit` bytes. Leaves out of `scans` what does not fit: the
+    /// categories of a scan that is too long by itself, then the oldest scans.
+    [[nodiscard]] std::string encodedWithin(std::size_t byteLimit);
 
     friend bool operator==(const ScanHistoryFile &, const ScanHistoryFile &) = default;
 };

@@ -114,8 +114,9 @@ std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan)
     known->push_back(scan);
     order(*known);
     keepNewest(*known);
-    write(*known);
-    return std::move(*known);
+    ScanHistoryFile file{.version = schemaVersion, .scans = std::move(*known)};
+    write(file);
+    return std::move(file.scans);
 }
 
 std::optional<std::vector<RecordedScan>> ScanHistoryStore::knownScans() const
@@ -130,13 +131,13 @@ std::optional<std::vector<RecordedScan>> ScanHistoryStore::knownScans() const
     }
 }
 
-void ScanHistoryStore::write(const std::vector<RecordedScan> &scans) const
+/// Leaves out of `file` what is not written.
+void ScanHistoryStore::write(ScanHistoryFile &file) const
 {
     try {
         std::error_code ignored; // without the folder, writing the file fails
         fs::create_directories(m_directory, ignored);
-        const ScanHistoryFile file = {.version = schemaVersion, .scans = scans};
-        static_cast<void>(AtomicFile::replace(m_fileURL, file.encoded()));
+        static_cast<void>(AtomicFile::replace(m_fileURL, file.encodedWithin(maximumBytes)));
     } catch (const std::exception &) {
         // no memory for it: like every failed write, it leaves the old file
     }

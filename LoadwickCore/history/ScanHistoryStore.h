@@ -12,6 +12,8 @@
 
 namespace Loadwick {
 
+struct ScanHistoryFile;
+
 /// Owns the history file. Caches nothing: every call reads the file. Reports no error: an
 /// unreadable history is an empty one, and a failed write leaves the old file. A transient shortage
 /// (memory, descriptors) does not count as unreadable. A history file that is a link is read and
@@ -22,8 +24,8 @@ class ScanHistoryStore
 public:
     static constexpr std::int64_t schemaVersion = 1;
     static constexpr std::size_t maximumScans = 200;
-    static constexpr std::size_t maximumBytes = std::size_t{256}
-                                                << 20; ///< a longer file is unreadable
+    /// A longer file is neither read nor written.
+    static constexpr std::size_t maximumBytes = std::size_t{64} << 20;
     static constexpr std::string_view fileName = "scan-history.json";
     static constexpr std::string_view directoryName = "Loadwick";
 
@@ -41,8 +43,9 @@ public:
     /// The recorded scans, oldest first (by date, then repository name, then file order).
     [[nodiscard]] std::vector<RecordedScan> load() const;
 
-    /// Adds a scan, keeps the newest `maximumScans`, writes the file and returns the new list,
-    /// whether or not writing succeeded. While a transient shortage keeps the recorded scans from
+    /// Adds a scan, keeps the newest `maximumScans` and of those what `maximumBytes` can hold (see
+    /// `ScanHistoryFile::encodedWithin`), writes the file and returns the new list, whether or not
+    /// writing succeeded. While a transient shortage keeps the recorded scans from
     /// being read, nothing is written, and the list holds `scan` alone. Throws `std::bad_alloc`,
     /// and leaves the old file, when there is no memory for the list itself.
     [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan);
@@ -54,7 +57,7 @@ public:
 private:
     /// Nothing while a transient shortage prevents reading.
     [[nodiscard]] std::optional<std::vector<RecordedScan>> knownScans() const;
-    void write(const std::vector<RecordedScan> &scans) const;
+    void write(ScanHistoryFile &file) const;
 
     std::filesystem::path m_directory;
     std::filesystem::path m_fileURL;

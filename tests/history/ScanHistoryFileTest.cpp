@@ -49,6 +49,20 @@ ScanHistoryFile exampleFile()
     return {.version = 1, .scans = {scan}};
 }
 
+/// Five scans of different lengths, the oldest first.
+ScanHistoryFile fiveScans()
+{
+    ScanHistoryFile file{.version = 1, .scans = {}};
+    for (int second = 1; second <= 5; ++second) {
+        RecordedScanBuilder builder;
+        builder.at(second).named(std::string(static_cast<std::size_t>(7 * second % 5), '\n'));
+        for (int category = second; category < 5; ++category)
+            builder.withCategory("🗂️ \"Memory\"", 1'000);
+        file.scans.push_back(builder.build());
+    }
+    return file;
+}
+
 /// The example after `change`, as JSON.
 template<typename Change>
 std::string changedExample(Change change)
@@ -202,6 +216,43 @@ TEST(ScanHistoryFileTest, survivesDeepNesting)
     const std::string deep = "{\"version\":1,\"scans\":" + std::string(100'000, '[');
     EXPECT_FALSE(isReadable(deep));
     EXPECT_FALSE(isReadable(deep + std::string(100'000, ']') + "}"));
+}
+
+TEST(ScanHistoryFileTest, leavesOutTheOldestScansOnlyWhileItIsTooLong)
+{
+    const ScanHistoryFile file = fiveScans();
+    std::size_t leftOut = 0;
+    for (std::size_t limit = file.encoded().size() + 1; limit-- > 0;) {
+        ScanHistoryFile expected = file;
+        expected.scans.erase(expected.scans.begin(),
+                             expected.scans.begin() + static_cast<std::ptrdiff_t>(leftOut));
+        for (; expected.encoded().size() > limit && leftOut < 4; ++leftOut)
+            expected.scans.erase(expected.scans.begin());
+        if (expected.encoded().size() > limit)
+            break;
+        ScanHistoryFile shortened = file;
+        ASSERT_EQ(shortened.encodedWithin(limit), expected.encoded()) << limit;
+        ASSERT_EQ(shortened, expected) << limit;
+    }
+    EXPECT_EQ(leftOut, 4U);
+}
+
+TEST(ScanHistoryFileTest, leavesOutTheCategoriesOfAScanThatIsTooLongByItself)
+{
+    ScanHistoryFile file = fiveScans();
+    const std::size_t limit = file.encoded().size() + 100;
+    for (int category = 0; category < 1'000; ++category)
+        file.scans[3].categories.push_back({.name = "Category", .tokens = category});
+    ScanHistoryFile expected = file;
+    expected.scans[3].categories.clear();
+    EXPECT_EQ(file.encodedWithin(limit), expected.encoded());
+    EXPECT_EQ(file, expected);
+}
+
+TEST(ScanHistoryFileTest, leavesOutEveryScanWhereNoneFits)
+{
+    ScanHistoryFile file = fiveScans();
+    EXPECT_EQ(file.encodedWithin(1), (ScanHistoryFile{.version = 1, .scans = {}}).encoded());
 }
 
 } // namespace Loadwick
