@@ -73,6 +73,68 @@ bool isHeavier(const Standing &left, const Standing &right)
     return nameKey(*left.latest) < nameKey(*right.latest);
 }
 
+/// The sums of all scans taken so far. Views into them.
+class Sums
+{
+public:
+    /// Takes a scan unless one of the sums would overflow.
+    bool take(const RecordedScan &scan);
+
+private:
+    /// Positive and negative tokens apart, so that every part of them fits too.
+    struct Tokens
+    {
+        std::int64_t positive = 0;
+        std::int64_t negative = 0;
+    };
+
+    struct Range
+    {
+        std::int64_t lowest;
+        std::int64_t highest;
+    };
+
+    std::int64_t &sumFor(const RecordedCategory &category)
+    {
+        Tokens &tokens = m_categories[category.name];
+        return category.tokens > 0 ? tokens.positive : tokens.negative;
+    }
+
+    Range totalsWith(const RecordedScan &scan) const
+    {
+        const auto known = m_totals.find(scan.repositoryPath);
+        if (known == m_totals.end())
+            return {scan.total, scan.total};
+        const auto [lowest, highest] = known->second;
+        return {std::min(lowest, scan.total), std::max(highest, scan.total)};
+    }
+
+    std::unordered_map<std::string_view, Tokens> m_categories;
+    std::unordered_map<std::string_view, Range> m_totals; ///< by repository
+};
+
+bool Sums::take(const RecordedScan &scan)
+{
+    const Range totals = totalsWith(scan);
+    std::int64_t result = 0;
+    if (__builtin_sub_overflow(totals.highest, totals.lowest, &result))
+        return false;
+    const auto &categories = scan.categories;
+    for (auto category = categories.begin(); category != categories.end(); ++category) {
+        std::int64_t &sum = sumFor(*category);
+        if (__builtin_add_overflow(sum, category->tokens, &result)) {
+            while (category != categories.begin()) {
+                --category;
+                sumFor(*category) -= category->tokens;
+            }
+            return false;
+        }
+        sum = result;
+    }
+    m_totals.insert_or_assign(scan.repositoryPath, totals);
+    return true;
+}
+
 std::vector<RecordedScan> copies(const std::vector<const RecordedScan *> &scans)
 {
     std::vector<RecordedScan> result;
@@ -83,6 +145,20 @@ std::vector<RecordedScan> copies(const std::vector<const RecordedScan *> &scans)
 }
 
 } // namespace
+
+std::vector<RecordedScan> summable(std::vector<RecordedScan> scans)
+{
+    Sums sums;
+    std::vector<bool> fits;
+    for (const RecordedScan &scan : scans)
+        fits.push_back(sums.take(scan));
+    std::vector<RecordedScan> kept;
+    kept.reserve(scans.size());
+    for (std::size_t index = 0; index < scans.size(); ++index)
+        if (fits[index])
+            kept.push_back(std::move(scans[index]));
+    return kept;
+}
 
 std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans)
 {

@@ -42,6 +42,12 @@ struct LeaderboardEntry
 /// identified by its path alone; names and paths are compared byte by byte. Every order is total.
 namespace Loadwick::ScanHistory {
 
+/// `scans` without those that would make a sum of the others overflow, which a file may hold. In
+/// the order of the list, a scan is left out when its tokens in a category do not fit 64 bits
+/// together with those of the scans before it, or its total differs too much from another one of
+/// its repository. No sum or difference over any of the rest, in any order, overflows.
+[[nodiscard]] std::vector<RecordedScan> summable(std::vector<RecordedScan> scans);
+
 /// All scans, by date and, where dates are equal, by the text of their identifier; descending.
 [[nodiscard]] std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans);
 

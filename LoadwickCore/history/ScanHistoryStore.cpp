@@ -11,6 +11,7 @@
 #include <tuple>
 #include <utility>
 
+#include "history/ScanHistory.h"
 #include "history/ScanHistoryFile.h"
 #include "posix/AtomicFile.h"
 #include "posix/RegularFile.h"
@@ -123,9 +124,10 @@ std::optional<std::vector<RecordedScan>> ScanHistoryStore::knownScans() const
 {
     try {
         std::optional<std::vector<RecordedScan>> scans = readScansWithRetry(m_fileURL);
-        if (scans)
-            order(*scans);
-        return scans;
+        if (!scans)
+            return std::nullopt;
+        order(*scans);
+        return ScanHistory::summable(std::move(*scans));
     } catch (const std::exception &) {
         return std::nullopt; // no memory for them
     }

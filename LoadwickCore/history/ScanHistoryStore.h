@@ -40,7 +40,8 @@ public:
     [[nodiscard]] const std::filesystem::path &directory() const noexcept { return m_directory; }
     [[nodiscard]] const std::filesystem::path &fileURL() const noexcept { return m_fileURL; }
 
-    /// The recorded scans, oldest first (by date, then repository name, then file order).
+    /// The recorded scans, oldest first (by date, then repository name, then file order), without
+    /// those that `ScanHistory::summable` leaves out.
     [[nodiscard]] std::vector<RecordedScan> load() const;
 
     /// Adds a scan, keeps the newest `maximumScans` and of those what `maximumBytes` can hold (see

@@ -1,11 +1,14 @@
 #include "history/ScanHistory.h"
 
 #include <algorithm>
+#include <array>
+#include <limits>
 #include <map>
 #include <random>
 
 #include <gtest/gtest.h>
 
+#include "history/ScanTables.h"
 #include "support/RecordedScanBuilder.h"
 
 namespace Loadwick {
@@ -31,6 +34,24 @@ public:
         for (std::int64_t left = below(40); left > 0; --left)
             scans.push_back(scan());
         return scans;
+    }
+
+    /// Scans whose figures may be as large or small as they can be.
+    Scans immenseScans()
+    {
+        constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+        constexpr std::array figures = {most,      most / 2, most / 3, most - 1, std::int64_t{1},
+                                        -most / 3, -most,    -most - 1};
+        const auto figure = [&] {
+            return figures.at(static_cast<std::size_t>(below(figures.size())));
+        };
+        Scans immense = scans();
+        for (RecordedScan &scan : immense) {
+            scan.total = figure();
+            for (RecordedCategory &category : scan.categories)
+                category.tokens = figure() / (1 + below(9));
+        }
+        return immense;
     }
 
     void shuffle(Scans &scans) { std::shuffle(scans.begin(), scans.end(), m_random); }
@@ -127,6 +148,37 @@ std::vector<std::string> slowCategoryAxis(const Scans &scans)
     return names;
 }
 
+/// Whether no part of the scans has a sum or a difference that overflows, by counting in wider numbers.
+bool isSummable(const Scans &scans)
+{
+    std::map<std::pair<std::string, bool>, long double> sums;
+    for (const RecordedScan &scan : scans)
+        for (const RecordedCategory &category : scan.categories)
+            sums[{category.name, category.tokens < 0}] += category.tokens;
+    const auto fits = [](long double value) { return value < 0x1p63L && value >= -0x1p63L; };
+    for (const auto &[key, sum] : sums)
+        if (!fits(sum))
+            return false;
+    for (const RecordedScan &left : scans)
+        for (const RecordedScan &right : scans)
+            if (left.repositoryPath == right.repositoryPath &&
+                !fits(static_cast<long double>(left.total) - right.total))
+                return false;
+    return true;
+}
+
+/// Adds one scan after the other, as long as the sums fit.
+Scans slowSummable(const Scans &scans)
+{
+    Scans kept;
+    for (const RecordedScan &scan : scans) {
+        kept.push_back(scan);
+        if (!isSummable(kept))
+            kept.pop_back();
+    }
+    return kept;
+}
+
 } // namespace
 
 /// Each seed is one history.
@@ -151,6 +203,19 @@ TEST_P(ScanHistoryOracleTest, ordersTotallyWhateverTheOrderOfTheScans)
     EXPECT_EQ(ScanHistory::newestFirst(scans), ScanHistory::newestFirst(shuffled));
     EXPECT_EQ(ScanHistory::leaderboard(scans), ScanHistory::leaderboard(shuffled));
     EXPECT_EQ(ScanHistory::categoryAxis(scans), ScanHistory::categoryAxis(shuffled));
+}
+
+TEST_P(ScanHistoryOracleTest, makesEverySumOfWhatItCallsSummable)
+{
+    RandomHistory history(GetParam());
+    const Scans immense = history.immenseScans();
+    Scans scans = ScanHistory::summable(immense);
+    EXPECT_EQ(scans, slowSummable(immense));
+    history.shuffle(scans);
+    EXPECT_LE(ScanHistory::categoryAxis(scans).size(), 5U);
+    for (const LeaderboardEntry &entry : ScanHistory::leaderboard(scans))
+        EXPECT_EQ(entry.delta().has_value(), entry.scanCount > 1);
+    EXPECT_FALSE(ScanTables::categories(scans).empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(histories, ScanHistoryOracleTest, testing::Range(0U, 100U));

@@ -122,6 +122,18 @@ TEST_F(ScanHistoryStoreTest, treatsAFileWithOneBadScanAsEmpty)
     EXPECT_TRUE(store.load().empty());
 }
 
+TEST_F(ScanHistoryStoreTest, leavesOutAScanThatCannotBeAddedToTheOlderOnes)
+{
+    constexpr std::int64_t many = 9'000'000'000'000'000'000;
+    Scans scans;
+    for (const std::int64_t tokens : {many, many, std::int64_t{5}})
+        scans.push_back(RecordedScanBuilder().withCategory("tools", tokens).build());
+    write(store, {.version = 1, .scans = scans});
+    EXPECT_EQ(store.load(), (Scans{scans[0], scans[2]}));
+    EXPECT_EQ(store.append(scans[1]), (Scans{scans[0], scans[2], scans[1]}));
+    EXPECT_EQ(store.load(), (Scans{scans[0], scans[2]}));
+}
+
 TEST_F(ScanHistoryStoreTest, treatsInvalidJsonAsEmptyAndOverwritesIt)
 {
     folder.write("scan-history.json", "{\"scans\" : [");

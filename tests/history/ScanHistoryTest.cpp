@@ -11,6 +11,10 @@ namespace Loadwick {
 
 namespace {
 
+using Scans = std::vector<RecordedScan>;
+
+constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+
 RecordedScan scanOf(const char *path, std::int64_t date, const char *name = "webshop")
 {
     return RecordedScanBuilder().named(name).in(path).at(date).build();
@@ -198,10 +202,34 @@ TEST(ScanHistoryTest, listsEquallyHeavyCategoriesByNameByteByByte)
 
 TEST(ScanHistoryTest, endsTheProgramWhenACategorySumOverflows)
 {
-    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
     const std::vector scans = {
         RecordedScanBuilder().withCategory("tools", largest).withCategory("tools", 1).build()};
     EXPECT_DEATH((void)ScanHistory::categoryAxis(scans), "does not fit 64 bits");
+}
+
+TEST(ScanHistoryTest, leavesOutAScanWhoseCategoriesCannotBeAddedToTheOthers)
+{
+    const auto scanOfTools = [](std::int64_t tokens) {
+        return RecordedScanBuilder()
+            .withCategory("memory", 7)
+            .withCategory("tools", tokens)
+            .withCategory("tools", 1)
+            .build();
+    };
+    const Scans scans = {scanOfTools(5'000'000'000'000'000'000), scanOfTools(4'999'999'999'999),
+                         scanOfTools(5'000'000'000'000'000'000), scanOfTools(largest),
+                         scanOfTools(3)};
+    EXPECT_EQ(ScanHistory::summable(scans), (Scans{scans[0], scans[1], scans[4]}));
+    EXPECT_EQ(ScanHistory::summable({scans[2], scans[0]}), Scans{scans[2]});
+    EXPECT_TRUE(ScanHistory::summable({scans[3]}).empty());
+}
+
+TEST(ScanHistoryTest, leavesOutAScanWhoseTotalDiffersTooMuchFromItsRepositorys)
+{
+    const Scans scans = {weighedScan("/a", -5), weighedScan("/b", largest),
+                         weighedScan("/a", largest), weighedScan("/a", largest - 5),
+                         weighedScan("/a", -6)};
+    EXPECT_EQ(ScanHistory::summable(scans), (Scans{scans[0], scans[1], scans[3]}));
 }
 
 TEST(ScanHistoryTest, aFirstScanHasNoTrendAndNoDelta)
