@@ -104,23 +104,24 @@ fs::path ScanHistoryStore::defaultDirectory(const Environment &environment)
 
 std::vector<RecordedScan> ScanHistoryStore::load() const
 {
-    return knownScans().value_or(std::vector<RecordedScan>());
+    return recordedScans().value_or(std::vector<RecordedScan>());
 }
 
-std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan)
+std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan,
+                                                   std::vector<RecordedScan> known)
 {
-    std::optional<std::vector<RecordedScan>> known = knownScans();
-    if (!known)
-        return {scan};
-    known->push_back(scan);
-    order(*known);
-    keepNewest(*known);
-    ScanHistoryFile file{.version = schemaVersion, .scans = std::move(*known)};
-    write(file);
+    std::optional<std::vector<RecordedScan>> recorded = recordedScans();
+    const bool isRead = recorded.has_value();
+    ScanHistoryFile file{.version = schemaVersion, .scans = std::move(isRead ? *recorded : known)};
+    file.scans.push_back(scan);
+    order(file.scans);
+    keepNewest(file.scans);
+    if (isRead)
+        write(file);
     return std::move(file.scans);
 }
 
-std::optional<std::vector<RecordedScan>> ScanHistoryStore::knownScans() const
+std::optional<std::vector<RecordedScan>> ScanHistoryStore::recordedScans() const
 {
     try {
         std::optional<std::vector<RecordedScan>> scans = readScansWithRetry(m_fileURL);

@@ -46,10 +46,11 @@ public:
 
     /// Adds a scan, keeps the newest `maximumScans` and of those what `maximumBytes` can hold (see
     /// `ScanHistoryFile::encodedWithin`), writes the file and returns the new list, whether or not
-    /// writing succeeded. While a transient shortage keeps the recorded scans from
-    /// being read, nothing is written, and the list holds `scan` alone. Throws `std::bad_alloc`,
-    /// and leaves the old file, when there is no memory for the list itself.
-    [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan);
+    /// writing succeeded. While a transient shortage keeps the recorded scans from being read,
+    /// nothing is written, and `known` takes their place in the list. Throws `std::bad_alloc`, and
+    /// leaves the old file, when there is no memory for the list itself.
+    [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan,
+                                                   std::vector<RecordedScan> known = {});
 
     /// Deletes the file. When that is a link, deletes its target and keeps the link, so that the
     /// next scan is recorded there again. Never fails, and never removes a folder.
@@ -57,7 +58,7 @@ public:
 
 private:
     /// Nothing while a transient shortage prevents reading.
-    [[nodiscard]] std::optional<std::vector<RecordedScan>> knownScans() const;
+    [[nodiscard]] std::optional<std::vector<RecordedScan>> recordedScans() const;
     void write(ScanHistoryFile &file) const;
 
     std::filesystem::path m_directory;

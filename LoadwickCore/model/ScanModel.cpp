@@ -103,7 +103,7 @@ void ScanModel::Internals::succeed(const ScanReport &report)
         return;
     try {
         history.set(m_with.historyStore->append(
-            RecordedScan::fromReport(report, m_with.now(), Uuid::random())));
+            RecordedScan::fromReport(report, m_with.now(), Uuid::random()), history.get()));
     } catch (const std::bad_alloc &) {
         // Not recorded: the earlier scans remain, on disk and on the pages.
     }

@@ -148,7 +148,8 @@ std::vector<std::string> slowCategoryAxis(const Scans &scans)
     return names;
 }
 
-/// Whether no part of the scans has a sum or a difference that overflows, by counting in wider numbers.
+/// Whether no part of the scans has a sum or a difference that overflows, by counting in wider
+/// numbers.
 bool isSummable(const Scans &scans)
 {
     std::map<std::pair<std::string, bool>, long double> sums;

@@ -10,8 +10,8 @@
 #include <unistd.h>
 
 #include "history/ScanHistoryFile.h"
-#include "posix/FileDescriptor.h"
 #include "samples/TemporaryFolder.h"
+#include "support/DescriptorShortage.h"
 #include "support/RecordedScanBuilder.h"
 
 namespace Loadwick {
@@ -278,17 +278,13 @@ TEST_F(ScanHistoryStoreTest, retriesATransientShortageOfDescriptors)
 {
     static_cast<void>(store.append(scanAt(1)));
     getrlimit(RLIMIT_NOFILE, &generousLimit);
-    // With the limit at the next free number, nothing can be opened.
-    rlimit tight = generousLimit;
-    tight.rlim_cur = static_cast<rlim_t>(FileDescriptor(dup(0)).number());
+    const DescriptorShortage shortage;
     // A timer's signal lifts the limit in the first pause: unlike a thread, it is in time even on a
     // busy machine.
     const auto before = std::signal(SIGALRM, liftLimit);
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
     const itimerval soon = {.it_interval = {}, .it_value = {.tv_sec = 0, .tv_usec = 500}};
     setitimer(ITIMER_REAL, &soon, nullptr);
     const Scans loaded = store.load();
-    liftLimit(SIGALRM);
     const itimerval never = {};
     setitimer(ITIMER_REAL, &never, nullptr);
     std::signal(SIGALRM, before);
@@ -298,18 +294,24 @@ TEST_F(ScanHistoryStoreTest, retriesATransientShortageOfDescriptors)
 TEST_F(ScanHistoryStoreTest, recordsNothingDuringALastingShortage)
 {
     static_cast<void>(store.append(scanAt(1)));
-    getrlimit(RLIMIT_NOFILE, &generousLimit);
-    rlimit tight = generousLimit;
-    tight.rlim_cur = static_cast<rlim_t>(FileDescriptor(dup(0)).number());
-    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &tight), 0);
-    const Scans loaded = store.load();
-    const Scans appended = store.append(scanAt(2, "other"));
-    liftLimit(SIGALRM);
+    const Scans known = store.load();
+    const RecordedScan scan = scanAt(0, "other");
+    Scans loaded;
+    Scans appended;
+    {
+        const DescriptorShortage shortage;
+        loaded = store.load();
+        appended = store.append(scan, known);
+    }
     EXPECT_TRUE(loaded.empty());
-    ASSERT_EQ(appended.size(), 1U);
-    EXPECT_EQ(appended.front().repositoryName, "other");
-    ASSERT_EQ(store.load().size(), 1U);
-    EXPECT_EQ(store.load().front().repositoryName, "webshop");
+    EXPECT_EQ(appended, (Scans{scan, known.front()}));
+    EXPECT_EQ(store.load(), known);
+}
+
+TEST_F(ScanHistoryStoreTest, prefersTheFileToWhatIsKnown)
+{
+    static_cast<void>(store.append(scanAt(1)));
+    EXPECT_EQ(store.append(scanAt(2), scansAt(3, 5)).size(), 2U);
 }
 
 } // namespace Loadwick

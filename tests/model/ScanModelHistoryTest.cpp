@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "history/ScanHistoryFile.h"
+#include "support/DescriptorShortage.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/ScanModelHarness.h"
 
@@ -94,6 +95,21 @@ TEST_F(ScanModelHistoryTest, publishesTheNewListEvenWhenWritingFails)
     ScanModel model(std::move(collaborators));
     harness.scanOnce(model);
     EXPECT_EQ(model.history().get().size(), 1U);
+}
+
+TEST_F(ScanModelHistoryTest, publishesWhatIsKnownWhileTheFileCannotBeRead)
+{
+    ScanModel model(harness.collaborators());
+    harness.scanOnce(model);
+    const History before = model.history().get();
+    harness.beginScan(model, Harness::reporting);
+    {
+        const DescriptorShortage shortage;
+        harness.dispatcher->runAll();
+    }
+    ASSERT_EQ(model.history().get().size(), 2U);
+    EXPECT_EQ(model.history().get().front(), before.front());
+    EXPECT_EQ(harness.recorded(), before);
 }
 
 TEST_F(ScanModelHistoryTest, clearsTheHistory)
