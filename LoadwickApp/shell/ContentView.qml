@@ -54,8 +54,8 @@ SplitView {
     Sidebar {
         id: sidebar
 
-        SplitView.preferredWidth: 250
-        SplitView.minimumWidth: 220
+        SplitView.preferredWidth: AppTheme.scaled(250)
+        SplitView.minimumWidth: AppTheme.scaled(220)
         content: view.content
     }
 

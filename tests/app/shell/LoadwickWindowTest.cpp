@@ -80,6 +80,17 @@ private Q_SLOTS:
         QVERIFY(m_window->probe().runs().empty());
     }
 
+    void theSidebarGrowsWithTheText()
+    {
+        const QAccessibleInterface *name = m_window->find(QStringLiteral("No repository selected"));
+        QVERIFY(name != nullptr);
+        for (const double scale : {1.0, 1.2, 1.4}) {
+            m_window->appearance().setTextScale(scale);
+            (void)m_window->loadwick().window().grabWindow();
+            QVERIFY(!name->object()->property("truncated").toBool());
+        }
+    }
+
     void saysWhatAScanCostsBeforeTheFirstOne()
     {
         const QString disclosure = m_window->loadwick().content().allowanceDisclosure();
