@@ -14,7 +14,6 @@ Item {
     required property bool isReadable
     required property string words
 
-    height: AppTheme.fileRowHeight
     Accessible.role: Accessible.ListItem
     Accessible.name: row.words
     Accessible.focusable: true
@@ -48,15 +47,15 @@ Item {
                 text: row.size
                 font: AppTheme.captionFont
                 color: row.isReadable ? AppTheme.secondaryText : AppTheme.bandHeavyText
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 elide: Text.ElideRight
 
                 HoverTip { words: bytes.truncated ? bytes.text : "" }
             }
         }
         ColumnLayout {
-            Layout.preferredWidth: AppTheme.amountColumn
-            Layout.minimumWidth: AppTheme.amountColumn
-            Layout.maximumWidth: AppTheme.amountColumn
+            Layout.fillWidth: false
             spacing: 2
             visible: row.isReadable
 

@@ -28,14 +28,18 @@ ReportSurface {
         LongList {
             objectName: "list"
             Layout.fillWidth: true
-            rowHeight: AppTheme.fileRowHeight
+            // A line more where the words below a path wrap.
+            rowHeight: AppTheme.scaled(tier.width < AppTheme.scaled(480) ? 70 : 52)
             viewport: tier.viewport
             model: tier.rows
             visible: tier.rows.count > 0
             Accessible.name: tier.title
             onCopyRequested: index => tier.rows.copy(index, "path")
 
-            delegate: InstructionFileRow { width: ListView.view.width }
+            delegate: InstructionFileRow {
+                width: ListView.view.width
+                height: (ListView.view as LongListRows).rowHeight
+            }
         }
         PlainLabel {
             objectName: "empty"

@@ -108,11 +108,9 @@ QtObject {
     // The column of trend pills: wide enough for a change of six figures.
     readonly property int trendWidth: scaled(104)
     readonly property int treemapWidth: 608
-    // A column of figures, one of shares "of total", and one of figures with their unit.
+    // A column of figures, or of shares "of total".
     readonly property int figureColumn: scaled(72)
-    readonly property int amountColumn: scaled(144)
     readonly property int tableRowHeight: scaled(36)
-    readonly property int fileRowHeight: scaled(52)
     // One line of a list of scans or repositories.
     readonly property int listRowHeight: scaled(48)
     // A bar below its name and figure, and one beside them.

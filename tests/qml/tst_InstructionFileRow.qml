@@ -32,6 +32,19 @@ Item {
         isReadable: false
         words: "/srv/CLAUDE.md. Could not be read."
     }
+    InstructionFileRow {
+        id: narrow
+        y: 170
+        width: 400
+        height: 70
+        index: 2
+        path: "/srv/CLAUDE.md"
+        size: "12,345,678 bytes on disk · local estimate at 4 bytes/token"
+        amount: "3,086,420 tokens"
+        share: "100.0% of total"
+        isReadable: true
+        words: "all of it"
+    }
     LargestFilesSection.Cells {
         id: cells
         y: 120
@@ -63,6 +76,13 @@ Item {
             const path = findChild(readable, "path");
             verify(path.truncated);
             verify(end(path) < findChild(readable, "amount").mapToItem(scene, 0, 0).x);
+        }
+
+        function test_wrapsTheSizeInANarrowRow() {
+            const size = findChild(narrow, "size");
+            verify(!size.truncated);
+            compare(size.lineCount, 2);
+            verify(size.mapToItem(narrow, 0, size.height).y <= narrow.height);
         }
 
         function test_aFileThatCouldNotBeReadHasNoFigures() {
