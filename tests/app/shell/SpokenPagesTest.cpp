@@ -6,6 +6,7 @@
 
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
+#include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"
