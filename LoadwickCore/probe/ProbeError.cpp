@@ -14,70 +14,78 @@ struct ErrorWords
     std::string detail;
 };
 
-struct ErrorWordsOf
+ErrorWords wordsOf(const ProbeError::RepositoryUnreadable &error)
 {
-    ErrorWords operator()(const ProbeError::RepositoryUnreadable &error) const
-    {
-        return {"This folder could not be read.",
-                error.path +
-                    " exists but its contents could not be listed. macOS may be blocking "
-                    "access — allow Loadwick under System Settings → Privacy & Security → "
-                    "Files & Folders (or move the repository outside a protected folder) — or the "
-                    "folder may have been moved or deleted since it was chosen. Nothing was "
-                    "measured and none of your Claude allowance was used."};
-    }
-    ErrorWords operator()(const ProbeError::CliNotFound &error) const
-    {
-        std::string lines;
-        for (const std::string &path : error.searched)
-            lines += (lines.empty() ? "  • " : "\n  • ") + path;
-        return {"Could not find the claude command.", "Looked in:\n" + lines};
-    }
-    ErrorWords operator()(const ProbeError::UnreadableOutput &error) const
-    {
-        return {"The probe session returned output this app could not read.",
-                ProbeError::bounded(error.text, ProbeError::detailLimit)};
-    }
-    ErrorWords operator()(const ProbeError::NoTranscript &error) const
-    {
-        return {"The probe session produced no readable token usage.",
-                "No session transcript was found under " + error.searchedRoot +
-                    " and the CLI returned no usage block."};
-    }
-    ErrorWords operator()(const ProbeError::SessionFailed &error) const
-    {
-        return {"The probe session reported an error.",
-                ProbeError::bounded(error.text, ProbeError::detailLimit)};
-    }
-    ErrorWords operator()(const ProbeError::MultiTurnUsageOnly &error) const
-    {
-        return {
-            "The probe session did not produce a startup total.",
+    return {"This folder could not be read.",
+            error.path +
+                " exists but its contents could not be listed. macOS may be blocking "
+                "access — allow Loadwick under System Settings → Privacy & Security → "
+                "Files & Folders (or move the repository outside a protected folder) — or the "
+                "folder may have been moved or deleted since it was chosen. Nothing was "
+                "measured and none of your Claude allowance was used."};
+}
+
+ErrorWords wordsOf(const ProbeError::CliNotFound &error)
+{
+    std::string lines;
+    for (const std::string &path : error.searched)
+        lines += (lines.empty() ? "  • " : "\n  • ") + path;
+    return {"Could not find the claude command.", "Looked in:\n" + lines};
+}
+
+ErrorWords wordsOf(const ProbeError::UnreadableOutput &error)
+{
+    return {"The probe session returned output this app could not read.",
+            ProbeError::bounded(error.text, ProbeError::detailLimit)};
+}
+
+ErrorWords wordsOf(const ProbeError::NoTranscript &error)
+{
+    return {"The probe session produced no readable token usage.",
+            "No session transcript was found under " + error.searchedRoot +
+                " and the CLI returned no usage block."};
+}
+
+ErrorWords wordsOf(const ProbeError::SessionFailed &error)
+{
+    return {"The probe session reported an error.",
+            ProbeError::bounded(error.text, ProbeError::detailLimit)};
+}
+
+ErrorWords wordsOf(const ProbeError::MultiTurnUsageOnly &error)
+{
+    return {"The probe session did not produce a startup total.",
             "No session transcript was found, and the CLI usage block covers " +
                 std::to_string(error.turns) +
                 " turns. That block accumulates across turns, so it double-counts cached tokens "
                 "and cannot be shown as the startup total. Nothing was measured — try again."};
-    }
-    ErrorWords operator()(const ProbeError::NotAuthenticated &) const
-    {
-        return {"Claude Code is not signed in.",
-                "Run `claude` in Terminal and sign in, then scan again. This app never handles "
-                "Claude credentials."};
-    }
-    ErrorWords operator()(const ProbeError::TimedOut &) const
-    {
-        return {"The probe session took longer than 5 minutes.",
-                "Nothing was measured. Try again, or try a smaller repository."};
-    }
-    ErrorWords operator()(const ProbeError::UnknownTurnCount &) const
-    {
-        return {
-            "The probe session did not produce a startup total.",
+}
+
+ErrorWords wordsOf(const ProbeError::NotAuthenticated &)
+{
+    return {"Claude Code is not signed in.",
+            "Run `claude` in Terminal and sign in, then scan again. This app never handles "
+            "Claude credentials."};
+}
+
+ErrorWords wordsOf(const ProbeError::TimedOut &)
+{
+    return {"The probe session took longer than 5 minutes.",
+            "Nothing was measured. Try again, or try a smaller repository."};
+}
+
+ErrorWords wordsOf(const ProbeError::UnknownTurnCount &)
+{
+    return {"The probe session did not produce a startup total.",
             "No session transcript was found, and the CLI did not report how many turns its "
             "usage block covers. That block accumulates across turns, so it can only be trusted "
             "for a single-turn session. Nothing was measured — try again."};
-    }
-};
+}
+
+ErrorWords wordsOfCase(const ProbeError::Case &value)
+{
+    return std::visit([](const auto &error) { return wordsOf(error); }, value);
+}
 
 } // namespace
 
@@ -130,12 +138,12 @@ ProbeError ProbeError::unknownTurnCount()
 
 std::string ProbeError::headline() const
 {
-    return std::visit(ErrorWordsOf{}, m_case).headline;
+    return wordsOfCase(m_case).headline;
 }
 
 std::string ProbeError::detail() const
 {
-    return std::visit(ErrorWordsOf{}, m_case).detail;
+    return wordsOfCase(m_case).detail;
 }
 
 std::string ProbeError::bounded(std::string_view text, std::size_t limit)
