@@ -162,6 +162,7 @@ TEST(ProbeErrorTest, keepsItsCasesInTheirDeclaredOrder)
         ProbeError::sessionFailed(""),        ProbeError::multiTurnUsageOnly(0),
         ProbeError::notAuthenticated(),       ProbeError::timedOut(),
         ProbeError::unknownTurnCount()};
+    ASSERT_EQ(cases.size(), std::variant_size_v<ProbeError::Case>);
     for (std::size_t index = 0; index < cases.size(); ++index)
         EXPECT_EQ(cases[index].value().index(), index);
 }
