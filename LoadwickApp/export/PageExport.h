@@ -16,8 +16,8 @@
 
 namespace Loadwick {
 
-/// Saves what one page shows as files for other programs: its figures as comma-separated values,
-/// its chart as a picture. Files are written in the background. Belongs to the interface thread;
+/// Saves one page as files for other programs: its scans as comma-separated values, its chart as a
+/// picture. Files are written in the background. Belongs to the interface thread;
 /// the saver outlives it.
 class PageExport final : public QObject
 {
