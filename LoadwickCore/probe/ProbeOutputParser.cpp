@@ -22,6 +22,7 @@ constexpr std::array<std::string_view, 4> signInComplaints{
 constexpr std::size_t pieceSize = 65536;
 constexpr std::size_t sharedSize = 128;
 
+/// The members that are read; the reader drops all others.
 std::optional<JsonValue> recordIn(std::string_view standardOutput)
 {
     return jsonObjectOfScalars(standardOutput,
