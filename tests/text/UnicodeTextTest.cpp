@@ -74,6 +74,7 @@ TEST(UnicodeTextTest, dropsTheMarksOfPresentation)
 {
     EXPECT_EQ(lettersAndNumbers("🗂\uFE0F Memory"), "Memory");
     EXPECT_EQ(lettersAndNumbers("1\uFE0F\u20E3 a\uFE00\u0301"), "1a\u0301");
+    EXPECT_EQ(lettersAndNumbers("a\uFE20"), "a\uFE20");
 }
 
 TEST(UnicodeTextTest, knowsATextOfNothingButLettersAndNumbers)
