@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "text/DateText.h"
+#include "text/UnicodeText.h"
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 
@@ -145,7 +146,8 @@ void keepWithin(std::vector<RecordedScan> &scans, std::size_t byteLimit)
 
 std::optional<ScanHistoryFile> ScanHistoryFile::decoded(std::string_view json)
 {
-    const std::optional<JsonValue> object = jsonObject(json, {"scans", "version"});
+    const std::optional<JsonValue> object =
+        jsonObject(withoutByteOrderMark(json), {"scans", "version"});
     if (!object)
         return std::nullopt;
     const auto fileVersion = exactInteger(member(*object, "version"));

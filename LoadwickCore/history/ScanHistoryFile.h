@@ -17,8 +17,9 @@ struct ScanHistoryFile
     std::int64_t version;            ///< schema version
     std::vector<RecordedScan> scans; ///< oldest first
 
-    /// Reads the file's JSON. One bad record (a missing key, a wrong type, a malformed date or
-    /// identifier) makes the whole file unreadable; unknown keys are ignored.
+    /// Reads the file's JSON, behind a byte order mark if there is one. One bad record (a missing
+    /// key, a wrong type, a malformed date or identifier) makes the whole file unreadable; unknown
+    /// keys are ignored.
     [[nodiscard]] static std::optional<ScanHistoryFile> decoded(std::string_view json);
 
     /// UTF-8 JSON, two-space indent, keys in alphabetical order, `"key" : value`.

@@ -43,6 +43,7 @@ std::optional<std::int64_t> comparedFigure(const JsonValue &object, std::string_
 
 std::optional<WeeklyKPILine> parseLine(std::string_view line)
 {
+    line = withoutByteOrderMark(line);
     // A log may hold millions of blank lines: skipping one must cost less than a JSON reader.
     if (!trimmed(line).starts_with('{'))
         return std::nullopt;

@@ -51,7 +51,8 @@ inline constexpr std::size_t maximumBytes = std::size_t{64} << 20;
                                                 std::size_t byteLimit = maximumBytes);
 
 /// The last line that is a JSON object with integers under "median_tokens_per_session" and
-/// "tokens_per_pr"; the dates in the lines are not compared. Missing strings read "unknown".
+/// "tokens_per_pr"; the dates in the lines are not compared. Missing strings read "unknown". A byte
+/// order mark before a line is skipped.
 [[nodiscard]] std::optional<WeeklyKPILine> parseLatest(std::string_view text);
 
 } // namespace Loadwick::WeeklyKPIReader

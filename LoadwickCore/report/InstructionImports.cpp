@@ -80,6 +80,7 @@ void addTokens(std::vector<std::string_view> &tokens, std::string_view line)
 std::vector<std::string_view> tokensIn(std::string_view text)
 {
     std::vector<std::string_view> tokens;
+    text = withoutByteOrderMark(text);
     std::size_t nextSign = text.find(sign);
     if (nextSign == std::string_view::npos)
         return tokens;

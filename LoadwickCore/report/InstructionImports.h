@@ -7,7 +7,8 @@
 namespace Loadwick::InstructionImports {
 
 /// The import tokens of a whole text, line by line; lines inside a closed code fence (three
-/// backticks or tildes) hold none. Views into `text`.
+/// backticks or tildes) hold none. A byte order mark before the first line is skipped. Views into
+/// `text`.
 [[nodiscard]] std::vector<std::string_view> tokensIn(std::string_view text);
 
 /// The import tokens of one line: what follows an "@" at its start or after white space, without

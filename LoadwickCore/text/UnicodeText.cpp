@@ -134,6 +134,12 @@ std::string repairedUtf8(std::string_view bytes)
     return repaired;
 }
 
+std::string_view withoutByteOrderMark(std::string_view text) noexcept
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return text.starts_with(mark) ? text.substr(mark.size()) : text;
+}
+
 bool isWhiteSpace(char32_t codePoint) noexcept
 {
     if (codePoint < 0x80)

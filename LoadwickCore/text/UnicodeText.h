@@ -14,6 +14,9 @@ namespace Loadwick {
 /// `bytes` with every ill-formed part replaced by U+FFFD.
 [[nodiscard]] std::string repairedUtf8(std::string_view bytes);
 
+/// `text` without one U+FEFF at its beginning, which some editors put there. A view into `text`.
+[[nodiscard]] std::string_view withoutByteOrderMark(std::string_view text) noexcept;
+
 /// Whether a code point is Unicode white space or a line break (U+0085, U+2028, U+2029 included).
 [[nodiscard]] bool isWhiteSpace(char32_t codePoint) noexcept;
 

@@ -49,6 +49,7 @@ void checkFile(std::string_view json)
         return;
     const std::string encoded = file->encoded();
     require(ScanHistoryFile::decoded(encoded) == file, "a file round-trips");
+    require(ScanHistoryFile::decoded("\uFEFF" + encoded) == file, "a byte order mark is skipped");
     require(JsonOracle::of(encoded).object.has_value(), "a written file is JSON");
     require(isUtf8(encoded), "a written file is UTF-8");
 }

@@ -43,7 +43,8 @@ std::size_t closingLine(const std::vector<std::string_view> &lines, std::size_t 
 /// The tokens by the rule in words: finds the lines in closed fences, reads the others.
 Tokens tokensOutsideFences(std::string_view text)
 {
-    const std::vector<std::string_view> lines = linesOf(text);
+    const std::vector<std::string_view> lines =
+        linesOf(text.substr(text.starts_with("\uFEFF") ? 3 : 0));
     Tokens tokens;
     for (std::size_t index = 0; index < lines.size(); ++index) {
         const std::size_t closing = markerOf(lines[index]).empty() ? 0 : closingLine(lines, index);

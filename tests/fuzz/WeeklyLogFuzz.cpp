@@ -53,7 +53,8 @@ void checkWeeklyLog(std::string_view input)
     bool isJudged = true;
     std::string_view rest = input;
     while (const auto line = takeLine(rest)) {
-        const JsonOracle oracle = JsonOracle::of(*line);
+        const bool isMarked = line->starts_with("\uFEFF");
+        const JsonOracle oracle = JsonOracle::of(line->substr(isMarked ? 3 : 0));
         isJudged = isJudged && oracle.isJudge;
         if (auto found = lineByTheRule(oracle.object ? &*oracle.object : nullptr))
             newest = std::move(found);

@@ -148,6 +148,12 @@ TEST(ScanHistoryFileTest, takesTheLastOfDuplicateKeys)
     EXPECT_FALSE(isReadable(R"({"version":1,"scans":[],"scans":0})"));
 }
 
+TEST(ScanHistoryFileTest, ignoresOneByteOrderMark)
+{
+    EXPECT_EQ(ScanHistoryFile::decoded("\uFEFF" + std::string(example)), exampleFile());
+    EXPECT_FALSE(isReadable("\uFEFF\uFEFF" + std::string(example)));
+}
+
 TEST(ScanHistoryFileTest, keepsAnyVersionUnchanged)
 {
     EXPECT_EQ(ScanHistoryFile::decoded(R"({"scans":[],"version":2})")->version, 2);

@@ -178,6 +178,14 @@ TEST_F(WeeklyKPIReaderTest, ignoresWhiteSpaceAroundALine)
     EXPECT_EQ(medianIn(lineOf(1) + "\r\n" + lineOf(2) + "\r\n"), 2);
 }
 
+TEST_F(WeeklyKPIReaderTest, ignoresOneByteOrderMarkBeforeALine)
+{
+    EXPECT_EQ(medianIn("\uFEFF" + lineOf(1)), 1);
+    EXPECT_EQ(medianIn("\uFEFF \t" + lineOf(1) + "\n\uFEFF" + lineOf(2) + "\n"), 2);
+    EXPECT_EQ(medianIn("\uFEFF\uFEFF" + lineOf(1)), std::nullopt);
+    EXPECT_EQ(medianAt(write("\uFEFF" + loggedLine(3))), 3);
+}
+
 TEST_F(WeeklyKPIReaderTest, findsNothingInATextWithoutLines)
 {
     for (const char *text : {"", "\n", " \n\t\n", "\r\n\r\n"})

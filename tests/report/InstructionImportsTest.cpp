@@ -109,6 +109,14 @@ TEST(InstructionImportsTest, endsALineOnlyAtALineFeed)
     EXPECT_EQ(in("x\r```\n@a\n```\n"), (Tokens{"a"})) << "a carriage return begins no line";
 }
 
+TEST(InstructionImportsTest, ignoresOneByteOrderMark)
+{
+    EXPECT_EQ(in("\uFEFF@a\n@b"), (Tokens{"a", "b"}));
+    EXPECT_EQ(in("\uFEFF```\n@a\n```\n@b"), (Tokens{"b"}));
+    EXPECT_EQ(in("\uFEFF\uFEFF@a\n\uFEFF@b"), Tokens{});
+    EXPECT_EQ(in("\uFEFF"), Tokens{});
+}
+
 TEST(InstructionImportsTest, ignoresImportsInsideAFence)
 {
     EXPECT_EQ(in("@a\n```\n@b\n```\n@c"), (Tokens{"a", "c"}));

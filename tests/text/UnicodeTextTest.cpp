@@ -44,6 +44,13 @@ TEST(UnicodeTextTest, trimsEveryKindOfWhiteSpace)
     EXPECT_EQ(trimmed(" é "), "é");
 }
 
+TEST(UnicodeTextTest, skipsOneByteOrderMarkAtTheBeginning)
+{
+    EXPECT_EQ(withoutByteOrderMark("\uFEFF\uFEFFa\uFEFF"), "\uFEFFa\uFEFF");
+    for (const std::string_view text : {"", "a\uFEFF", " \uFEFF", "\xEF\xBB"})
+        EXPECT_EQ(withoutByteOrderMark(text), text);
+}
+
 TEST(UnicodeTextTest, trimsOnlyBlanksAndTabs)
 {
     EXPECT_EQ(trimmedBlanks(" \ta\n\t "), "a\n");
