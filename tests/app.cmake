@@ -69,8 +69,8 @@ set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/AccessMatrixAtTwiceTheScale"
 # Every frame advances an animation by the same time, however long it took to draw.
 set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/ReducedMotion"
              APPEND PROPERTY ENVIRONMENT_MODIFICATION QSG_FIXED_ANIMATION_STEP=set:1)
-# They wait for entrance animations.
-foreach(test IN ITEMS AccessMatrix AccessMatrixAtTwiceTheScale ReducedMotion)
+# They wait for entrance animations, or open the window at many sizes.
+foreach(test IN ITEMS AccessMatrix AccessMatrixAtTwiceTheScale ReducedMotion WindowSizes)
     set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" APPEND PROPERTY LABELS slow)
     set_property(TEST "${LOADWICK_TEST_PREFIX}app/shell/${test}" PROPERTY TIMEOUT 600)
 endforeach()

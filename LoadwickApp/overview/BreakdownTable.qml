@@ -11,8 +11,9 @@ ColumnLayout {
     // The row that the chart highlights, -1 for none.
     required property int markedRow
 
-    // One line of the table, headings or row, so that both share one set of columns.
-    component Cells: RowLayout {
+    // One row of the table, headings included, so that all share one set of columns. Anchors,
+    // because a layout keeps the old columns if its width changes while it is laid out.
+    component Cells: Item {
         id: cells
 
         required property string category
@@ -21,17 +22,21 @@ ColumnLayout {
         required property string source
         property color dot: "transparent"
         property bool heading: false
-        // Too narrow for a source on one line.
+        // Too narrow for a source on the same line: it is below the name.
         readonly property bool narrow: cells.width < AppTheme.scaled(760)
-        readonly property real rowHeight: AppTheme.scaled(cells.narrow ? 44 : 32)
+        readonly property real sourceWidth: cells.narrow ? 0 : AppTheme.scaled(288) + AppTheme.pageMargin
         readonly property font wordFont: cells.heading ? AppTheme.captionStrongFont : AppTheme.bodyFont
+        // Figures end in one column in every reading direction.
+        readonly property int figureAlignment: cells.LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
 
-        spacing: AppTheme.cardSpace
+        implicitHeight: AppTheme.scaled(cells.narrow ? 48 : 32)
 
         Rectangle {
-            Layout.rightMargin: AppTheme.smallSpace - cells.spacing
-            implicitWidth: AppTheme.dotSize
-            implicitHeight: AppTheme.dotSize
+            id: mark
+
+            anchors { left: parent.left; verticalCenter: name.verticalCenter }
+            width: AppTheme.dotSize
+            height: AppTheme.dotSize
             radius: AppTheme.dotSize / 2
             color: cells.dot
         }
@@ -39,43 +44,50 @@ ColumnLayout {
             id: name
 
             objectName: "name"
-            Layout.fillWidth: true
+            anchors { left: mark.right; leftMargin: AppTheme.smallSpace; right: amount.left; rightMargin: AppTheme.cardSpace }
+            y: Math.round((cells.height - height - (cells.narrow ? origin.height : 0)) / 2)
             text: cells.category
             font: cells.wordFont
             secondary: cells.heading
-            wrapMode: Text.Wrap
-            maximumLineCount: cells.narrow ? 2 : 1
             elide: Text.ElideRight
+            maximumLineCount: 1
 
             HoverTip { words: name.truncated ? name.text : "" }
         }
         PlainLabel {
+            id: amount
+
             objectName: "tokens"
-            // A figure of any length pushes the name aside.
-            Layout.preferredWidth: Math.max(AppTheme.scaled(88), implicitWidth)
-            horizontalAlignment: Text.AlignRight
-            LayoutMirroring.enabled: false
+            anchors { right: portion.left; rightMargin: AppTheme.cardSpace; baseline: name.baseline }
+            // A long figure pushes the name aside, but shrinks before the name would vanish.
+            width: Math.min(0.4 * cells.width, Math.max(AppTheme.scaled(88), implicitWidth))
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
+            horizontalAlignment: cells.figureAlignment
             text: cells.tokens
             font: cells.wordFont
             secondary: cells.heading
         }
         PlainLabel {
+            id: portion
+
             objectName: "share"
-            Layout.preferredWidth: AppTheme.scaled(56)
-            horizontalAlignment: Text.AlignRight
-            LayoutMirroring.enabled: false
+            anchors { right: parent.right; rightMargin: cells.sourceWidth; baseline: name.baseline }
+            width: AppTheme.scaled(56)
+            horizontalAlignment: cells.figureAlignment
             text: cells.share
             font: cells.wordFont
             secondary: cells.heading
         }
         PlainLabel {
+            id: origin
+
             objectName: "source"
-            Layout.preferredWidth: cells.narrow ? Math.min(AppTheme.scaled(168), 200) : AppTheme.scaled(288)
-            Layout.leftMargin: AppTheme.smallSpace
+            anchors { left: cells.narrow ? name.left : portion.right; leftMargin: cells.narrow ? 0 : AppTheme.pageMargin; right: parent.right }
+            y: cells.narrow ? name.y + name.height : Math.round(name.y + name.baselineOffset - baselineOffset)
             text: cells.source
             font: cells.heading ? AppTheme.captionStrongFont : AppTheme.captionFont
             secondary: true
-            wrapMode: Text.Wrap
         }
     }
 
@@ -97,7 +109,7 @@ ColumnLayout {
         Layout.fillWidth: true
         model: table.breakdown.rows
         viewport: table.viewport
-        rowHeight: headings.rowHeight
+        rowHeight: headings.implicitHeight
         markedIndex: table.markedRow
         Accessible.name: qsTr("Estimated breakdown by category")
         onCopyRequested: index => table.breakdown.rows.copy(index, "sentence")
@@ -113,7 +125,7 @@ ColumnLayout {
             required property string sentence
 
             width: row.ListView.view.width
-            height: cells.rowHeight
+            height: cells.implicitHeight
             Accessible.role: Accessible.ListItem
             Accessible.name: row.sentence
             // Hidden while pooled.

@@ -70,6 +70,32 @@ private Q_SLOTS:
         QCOMPARE(LayoutAudit::faults(*m_window).join(u'\n'), QString());
     }
 
+    void findsMisplacedItems_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("fault");
+        QTest::newRow("within") << QByteArray("Row { Text { text: 'Tokens' } Text { text: '1' } }")
+                                << QString();
+        QTest::newRow("too wide") << QByteArray(
+                                         "Row { width: 20; Text { width: 40; text: 'Tokens' } }")
+                                  << QStringLiteral("extends beyond");
+        QTest::newRow("a layout that is too wide")
+            << QByteArray("Item { width: 20; height: 40; Row { width: 40; height: 40 } }")
+            << QStringLiteral("extends beyond");
+        QTest::newRow("over each other")
+            << QByteArray("Row { spacing: -20; Text { text: 'Tokens' } Text { text: 'Share' } }")
+            << QStringLiteral("is over its neighbour");
+    }
+
+    void findsMisplacedItems()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const QString, fault);
+        show(content);
+        const QString found = LayoutAudit::misplacedItems(*m_window).join(u'\n');
+        QVERIFY2(found.contains(fault) && found.isEmpty() == fault.isEmpty(), qPrintable(found));
+    }
+
     void findsAControlWithoutAName()
     {
         show("Button { }");

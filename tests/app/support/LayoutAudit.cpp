@@ -142,6 +142,41 @@ std::vector<PaintedText> paintedTexts(const QQuickWindow &window)
     return texts;
 }
 
+bool isLayout(const QQuickItem &item)
+{
+    return item.inherits("QQuickLayout") || item.inherits("QQuickBasePositioner");
+}
+
+QRectF placeInParent(const QQuickItem &item)
+{
+    return item.mapRectToItem(item.parentItem(), QRectF(QPointF(), item.size()));
+}
+
+/// A parent without a width or height positions its children but does not hold them.
+bool isOutside(const QRectF &place, const QQuickItem &parent)
+{
+    const bool isBeside = place.left() < -tolerance || place.right() > parent.width() + tolerance;
+    const bool isBeyond = place.top() < -tolerance || place.bottom() > parent.height() + tolerance;
+    return (parent.width() > 0 && isBeside) || (parent.height() > 0 && isBeyond);
+}
+
+QStringList overlappingChildren(const QQuickItem &layout)
+{
+    QList<QQuickItem *> children = layout.childItems();
+    children.removeIf([](const QQuickItem *child) { return !child->isVisible(); });
+    QStringList found;
+    for (qsizetype first = 0; first < children.size(); ++first) {
+        for (qsizetype second = first + 1; second < children.size(); ++second) {
+            const QRectF common =
+                placeInParent(*children[first]) & placeInParent(*children[second]);
+            if (common.width() > tolerance && common.height() > tolerance)
+                found << described(*children[first]) + QStringLiteral(" is over its neighbour ") +
+                             described(*children[second]);
+        }
+    }
+    return found;
+}
+
 bool needsName(QAccessible::Role role)
 {
     static const std::set<QAccessible::Role> spoken{
@@ -190,6 +225,19 @@ QStringList overlappingTexts(QQuickWindow &window)
                 found << described(*first->item) + QStringLiteral(" overlaps ") +
                              described(*second->item);
         }
+    }
+    return found;
+}
+
+QStringList misplacedItems(QQuickWindow &window)
+{
+    QStringList found;
+    for (const QQuickItem *item : shownItems(*window.contentItem())) {
+        const QQuickItem &parent = *item->parentItem();
+        if (isLayout(*item))
+            found += overlappingChildren(*item);
+        if ((isLayout(*item) || isLayout(parent)) && isOutside(placeInParent(*item), parent))
+            found << described(*item) + QStringLiteral(" extends beyond ") + described(parent);
     }
     return found;
 }

@@ -16,10 +16,14 @@ namespace LayoutAudit {
 /// Texts that are painted over each other.
 [[nodiscard]] QStringList overlappingTexts(QQuickWindow &window);
 
+/// Layouts and their children that extend beyond their parent, and children of a layout that cover
+/// each other.
+[[nodiscard]] QStringList misplacedItems(QQuickWindow &window);
+
 /// Focusable or accessible items without an accessible name.
 [[nodiscard]] QStringList unnamedControls(QQuickWindow &window);
 
-/// All of the above.
+/// All of the above except misplaced items.
 [[nodiscard]] QStringList faults(QQuickWindow &window);
 
 } // namespace LayoutAudit

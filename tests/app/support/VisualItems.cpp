@@ -29,6 +29,14 @@ QList<QQuickItem *> shownItems(const QQuickItem &root)
     return found;
 }
 
+void expandSections(const QQuickItem &root)
+{
+    for (QQuickItem *item : shownItems(root)) {
+        if (item->property("isExpanded").isValid())
+            item->setProperty("isExpanded", true);
+    }
+}
+
 qreal rightEdge(const QQuickItem *item)
 {
     return item->mapToScene(QPointF(item->width(), 0)).x();

@@ -13,6 +13,9 @@ namespace Loadwick {
 /// All items below `root` that are at least partly visible, in tree order.
 [[nodiscard]] QList<QQuickItem *> shownItems(const QQuickItem &root);
 
+/// Opens all visible sections that open and close.
+void expandSections(const QQuickItem &root);
+
 /// The item's trailing edge, in the coordinates of its window.
 [[nodiscard]] qreal rightEdge(const QQuickItem *item);
 
