@@ -42,6 +42,14 @@ std::string_view scriptOf(std::string_view value) noexcept
     return {};
 }
 
+/// ICU falls back to a locale of its own, which it takes from the environment and copies into a
+/// fixed buffer, however long it is.
+void makeEnglishTheFallback()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale::getUS(), status);
+}
+
 /// Whether ICU has words of the locale's language, or of one that it derives from.
 bool isKnown(const icu::Locale &locale)
 {
@@ -79,6 +87,7 @@ std::string localeFor(const std::string &category, const Environment &environmen
 
 TextLocale TextLocale::fromEnvironment(const Environment &environment)
 {
+    makeEnglishTheFallback();
     return {.numbers = localeFor("LC_NUMERIC", environment),
             .dates = localeFor("LC_TIME", environment)};
 }

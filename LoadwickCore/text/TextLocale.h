@@ -14,7 +14,7 @@ struct TextLocale
 
     /// From LC_ALL, else LC_NUMERIC (LC_TIME for dates), else LANG; a variable that is empty counts
     /// as unset. C, POSIX, what ICU does not know, and no value at all count as English (United
-    /// States).
+    /// States), which ICU itself falls back to from then on.
     [[nodiscard]] static TextLocale fromEnvironment(const Environment &environment);
 
     friend bool operator==(const TextLocale &, const TextLocale &) = default;

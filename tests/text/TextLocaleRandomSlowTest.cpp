@@ -81,8 +81,12 @@ private:
 std::vector<std::string> randomEnvironment(std::uint32_t seed)
 {
     RandomValues values(seed);
-    return {"LC_ALL=" + (seed % 3 == 0 ? values.locale() : ""), "LC_NUMERIC=" + values.locale(),
-            "LC_TIME=" + values.locale(), "LANG=" + values.locale(), "TZ=" + values.timeZone()};
+    std::vector<std::string> environment{
+        "LC_NUMERIC=" + values.locale(), "LC_TIME=" + values.locale(),
+        "LC_MESSAGES=" + values.locale(), "LANG=" + values.locale(), "TZ=" + values.timeZone()};
+    if (seed % 4 == 0)
+        environment.push_back("LC_ALL=" + values.locale());
+    return environment;
 }
 
 bool isText(const std::string &text)
