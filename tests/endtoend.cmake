@@ -9,6 +9,12 @@ loadwick_warnings(loadwick-clipboard)
 loadwick_qt_strictness(loadwick-clipboard)
 target_link_libraries(loadwick-clipboard PRIVATE Qt6::Gui)
 
+# The program, which ends as soon as its window has drawn.
+qt_add_executable(loadwick-first-frame endtoend/first_frame.cpp)
+loadwick_warnings(loadwick-first-frame)
+loadwick_qt_strictness(loadwick-first-frame)
+target_link_libraries(loadwick-first-frame PRIVATE LoadwickUi LoadwickUiplugin)
+
 file(GLOB scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/endtoend"
                                     "${CMAKE_CURRENT_SOURCE_DIR}/endtoend/*_test.py")
 foreach(script IN LISTS scripts)
@@ -21,3 +27,11 @@ endforeach()
 
 # It watches for ten seconds.
 set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/idle" APPEND PROPERTY LABELS slow)
+
+# It starts the program a thousand times, under sanitizers a hundred times.
+set(any_environment "${LOADWICK_TEST_PREFIX}endtoend/any_environment")
+set_property(TEST "${any_environment}" APPEND PROPERTY LABELS slow)
+set_tests_properties("${any_environment}" PROPERTIES TIMEOUT 900 PROCESSORS 2)
+if(LOADWICK_SANITIZE)
+    set_property(TEST "${any_environment}" APPEND PROPERTY ENVIRONMENT LOADWICK_STARTS=100)
+endif()
