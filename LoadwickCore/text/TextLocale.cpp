@@ -70,7 +70,7 @@ std::string icuName(std::string_view value)
         name.append("_").append(script);
     const icu::Locale locale(name.append(region.substr(languageEnd)).c_str());
     // The base name excludes settings, such as a numbering system that does not exist.
-    return locale.isBogus() || !isKnown(locale) ? std::string(english) : locale.getBaseName();
+    return isKnown(locale) ? std::string(locale.getBaseName()) : std::string(english);
 }
 
 std::string localeFor(const std::string &category, const Environment &environment)
