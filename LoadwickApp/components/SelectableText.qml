@@ -17,12 +17,14 @@ Item {
     // False if arrow keys lead here from a text that is a tab stop: see KeyNavigation.
     property bool tabStop: true
     readonly property real lineSpacing: words.contentHeight / Math.max(1, words.lineCount)
-    readonly property bool truncated: words.truncated
+    readonly property bool truncated: words.truncated || words.text !== control.text
     // While the text is focused or selected, it is shown in full.
     readonly property bool isRead: reader !== null && reader.isRead
     // The text laid out without breaking words, or folders of a path; created only if the number of
     // lines is limited.
     property Text whole: null
+    // What of it fits into these lines if they break anywhere; each may lack one letter.
+    property TextMetrics part: null
     readonly property bool fits: whole !== null ? whole.lineCount <= maximumLineCount : maximumLineCount !== 1
     property TextReader reader: null
 
@@ -57,12 +59,18 @@ Item {
     Accessible.ignored: reader !== null
 
     Component.onCompleted: {
-        if (control.maximumLineCount > 1)
-            control.whole = wholeMaker.createObject(control, {
-                text: Qt.binding(() => control.text),
-                font: Qt.binding(() => control.font),
-                width: Qt.binding(() => control.width)
-            }) as Text;
+        if (control.maximumLineCount <= 1)
+            return;
+        control.whole = wholeMaker.createObject(control, {
+            text: Qt.binding(() => control.text),
+            font: Qt.binding(() => control.font),
+            width: Qt.binding(() => control.width)
+        }) as Text;
+        control.part = partMaker.createObject(control, {
+            text: Qt.binding(() => control.text),
+            font: Qt.binding(() => control.font),
+            elideWidth: Qt.binding(() => control.maximumLineCount * (control.width - control.font.pixelSize))
+        }) as TextMetrics;
     }
     onActiveFocusChanged: {
         if (control.activeFocus) {
@@ -80,17 +88,22 @@ Item {
         }
     }
 
+    Component {
+        id: partMaker
+
+        TextMetrics { elide: Text.ElideMiddle }
+    }
+
     Words {
         id: words
 
         objectName: "shown"
         width: control.width
-        text: control.text
+        // Elided in the middle: the end tells names and paths apart as well as the beginning.
+        text: control.part && !control.fits ? control.part.elidedText : control.text
         font: control.font
         color: control.color
         horizontalAlignment: control.horizontalAlignment
-        // An elided text breaks anywhere, so that its last line is full up to the dots. On one line
-        // the end tells names apart as well as the beginning.
         wrapMode: control.maximumLineCount === 1 ? Text.NoWrap : control.fits ? Text.Wrap : Text.WrapAnywhere
         elide: control.maximumLineCount === 0 ? Text.ElideNone
              : control.maximumLineCount === 1 ? Text.ElideMiddle : Text.ElideRight

@@ -62,7 +62,7 @@ Item {
             compare(edit(plain).text, "<b>a</b> path");
         }
 
-        function test_isElidedAfterItsLastLineButCopiedWhole() {
+        function test_takesItsLastLineAtMostButIsCopiedWhole() {
             verify(path.truncated);
             compare(path.implicitHeight, Math.ceil(path.lineSpacing * 2));
             edit(path).forceActiveFocus();
@@ -121,12 +121,24 @@ Item {
         function test_dotsMarkElidedText() {
             edit(plain).forceActiveFocus();
             verify(shortForm(path).visible);
-            verify(shortForm(path).truncated);
             compare(shortForm(path).lineCount, 2);
-            compare(shortForm(path).elide, Text.ElideRight);
             compare(edit(path).opacity, 0);
             verify(!shortForm(plain).visible);
             compare(edit(plain).opacity, 1);
+        }
+
+        function test_elidesSeveralLinesInTheMiddle() {
+            const words = shortForm(path);
+            for (const width of [120, 121, 127, 200]) {
+                path.width = width;
+                verify(path.truncated);
+                verify(!words.truncated);
+                compare(words.lineCount, 2);
+                verify(words.text.startsWith("/home/somebody/"), words.text);
+                verify(words.text.endsWith("folder/"), words.text);
+                verify(words.text.includes("\u2026"), words.text);
+            }
+            path.width = 120;
         }
 
         function test_elidesOneLineInTheMiddle() {
