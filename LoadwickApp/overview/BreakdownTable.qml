@@ -60,7 +60,7 @@ ColumnLayout {
             objectName: "tokens"
             anchors { right: portion.left; rightMargin: AppTheme.cardSpace; baseline: name.baseline }
             // A long figure pushes the name aside, but shrinks before the name would vanish.
-            width: Math.min(0.4 * cells.width, Math.max(AppTheme.scaled(88), implicitWidth))
+            width: Math.min(0.4 * cells.width, Math.ceil(implicitWidth))
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 10
             horizontalAlignment: cells.figureAlignment
