@@ -18,6 +18,8 @@ Item {
     property bool atTop: false
     // The colour of the mark in the chart.
     property color swatch: "transparent"
+    // The height of the words on the current mark.
+    readonly property alias panelHeight: panel.height
     readonly property bool isEmpty: readOut.title.length === 0
     readonly property bool isCut: readOut.isPath && heading.truncated
     readonly property bool hasSwatch: readOut.swatch.a > 0
@@ -48,6 +50,8 @@ Item {
     }
 
     Rectangle {
+        id: panel
+
         objectName: "panel"
         y: readOut.atTop ? 0 : Math.round((readOut.height - height) / 2)
         width: words.width + readOut.indent + 2 * AppTheme.mediumSpace

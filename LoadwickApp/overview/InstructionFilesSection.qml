@@ -68,6 +68,7 @@ ReportSurface {
     RelativeSizes {
         Layout.fillWidth: true
         files: section.files
+        viewport: section.viewport
         room: section.width - 2 * AppTheme.cardPadding
     }
     Tier {

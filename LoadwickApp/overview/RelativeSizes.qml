@@ -7,6 +7,7 @@ ColumnLayout {
     id: sizes
 
     required property InstructionFilesPresenter files
+    required property Flickable viewport
     // The inner width of the card. The map's height follows from it, not from the layouts' result:
     // a height that changes during a layout pass comes too late.
     required property real room
@@ -15,6 +16,20 @@ ColumnLayout {
     readonly property real mapWidth: Math.max(0, Math.min(AppTheme.treemapWidth, sizes.room < pair.neededWidth
         ? sizes.room : sizes.room - pair.columnSpacing - sizes.readOutWidth))
 
+    // How far the words on the current tile leave their place, so that they stay in view as long as
+    // the map does, and never cover it.
+    readonly property real shift: {
+        const top = sizes.viewport.contentY - pair.mapToItem(sizes.viewport.contentItem, 0, 0).y;
+        const bottom = top + sizes.viewport.height;
+        if (readOut.isEmpty || top > map.height || bottom < 0)
+            return 0;
+        const end = readOut.y + readOut.panelHeight + AppTheme.smallSpace;
+        if (pair.stacked)
+            return end > bottom ? -end : 0;
+        return Math.max(top + AppTheme.smallSpace - readOut.y, Math.min(0, bottom - end));
+    }
+
+    z: 1
     spacing: AppTheme.smallSpace
 
     PlainLabel {
@@ -69,6 +84,8 @@ ColumnLayout {
             }
         }
         ReadOut {
+            id: readOut
+
             objectName: "readOut"
             Layout.fillWidth: true
             Layout.minimumWidth: sizes.readOutWidth
@@ -81,6 +98,7 @@ ColumnLayout {
             titleLines: pair.stacked ? 2 : 4
             detailLines: 3
             atTop: true
+            transform: Translate { y: sizes.shift }
         }
     }
     PlainLabel {
