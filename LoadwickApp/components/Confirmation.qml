@@ -20,11 +20,9 @@ ColumnLayout {
 
     spacing: AppTheme.smallSpace
 
-    PlainLabel {
+    TitleLabel {
         Layout.fillWidth: true
         text: confirmation.title
-        font: AppTheme.headlineFont
-        wrapMode: Text.Wrap
     }
     PlainLabel {
         Layout.fillWidth: true

@@ -11,7 +11,7 @@ ColumnLayout {
 
     spacing: AppTheme.tightSpace
 
-    PlainLabel {
+    TitleLabel {
         Layout.fillWidth: true
         text: header.title
         font: AppTheme.largeTitleFont

@@ -12,11 +12,10 @@ ColumnLayout {
 
     spacing: 2
 
-    PlainLabel {
+    TitleLabel {
         Layout.fillWidth: true
         text: header.title
         font: header.titleFont
-        wrapMode: Text.Wrap
     }
     PlainLabel {
         Layout.fillWidth: true

@@ -33,12 +33,10 @@ Item {
             tint: placeholder.tint
             turning: placeholder.turning
         }
-        PlainLabel {
+        TitleLabel {
             Layout.fillWidth: true
             text: placeholder.title
-            font: AppTheme.headlineFont
             horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
         }
     }
 }

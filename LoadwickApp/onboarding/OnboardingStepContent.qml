@@ -39,15 +39,13 @@ ColumnLayout {
             visible: content.step.illustration === OnboardingStepTexts.BandLegend
         }
     }
-    PlainLabel {
+    TitleLabel {
         Layout.fillWidth: true
         Layout.leftMargin: AppTheme.pageMargin
         Layout.rightMargin: AppTheme.pageMargin
         text: content.step.title
         font: AppTheme.title2Font
-        wrapMode: Text.Wrap
         horizontalAlignment: Text.AlignHCenter
-        Accessible.role: Accessible.Heading
     }
     PlainLabel {
         Layout.fillWidth: true

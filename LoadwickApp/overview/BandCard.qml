@@ -30,12 +30,11 @@ ReportSurface {
                     name: "scalemass"
                     tint: card.bandColor
                 }
-                PlainLabel {
+                TitleLabel {
                     Layout.fillWidth: true
                     text: card.band.title
                     font: AppTheme.title2Font
                     color: card.bandColor
-                    wrapMode: Text.Wrap
                 }
             }
             PlainLabel {

@@ -20,7 +20,7 @@ ReportSurface {
         Layout.fillWidth: true
         spacing: AppTheme.tightSpace
 
-        PlainLabel {
+        TitleLabel {
             Layout.fillWidth: true
             text: tier.title
             font: AppTheme.emphasisFont

@@ -32,7 +32,7 @@ ColumnLayout {
     z: 1
     spacing: AppTheme.smallSpace
 
-    PlainLabel {
+    TitleLabel {
         Layout.fillWidth: true
         text: qsTr("Relative size")
         font: AppTheme.emphasisFont

@@ -74,14 +74,14 @@ Rectangle {
                 tint: sidebar.statusTint
             }
         }
-        PlainLabel {
+        TitleLabel {
             Layout.fillWidth: true
             Layout.leftMargin: AppTheme.cardSpace
             Layout.topMargin: AppTheme.pageMargin
             Layout.bottomMargin: AppTheme.tightSpace
             text: qsTr("Pages")
             font: AppTheme.captionStrongFont
-            secondary: true
+            color: AppTheme.secondaryText
         }
         SidebarPages {
             id: pages

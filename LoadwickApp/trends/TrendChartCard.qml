@@ -27,12 +27,10 @@ ReportSurface {
             symbol: "chart.line.uptrend.xyaxis"
             tint: AppTheme.secondaryText
         }
-        PlainLabel {
+        TitleLabel {
             Layout.fillWidth: true
             text: card.chart.emptyTitle
-            font: AppTheme.headlineFont
             horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
             visible: card.chart.emptyTitle.length > 0
         }
         PlainLabel {

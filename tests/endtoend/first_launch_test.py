@@ -46,12 +46,12 @@ class FirstLaunchTest(EndToEndCase):
         self.home.make_repository("webshop")
         window = self.launch("--platform-dialog").window
         window.wait_for(TITLES[0], "dialog")
-        window.wait_for(TITLES[0], "label")
+        window.wait_for(TITLES[0], "heading")
         window.wait_for(FIRST_BODY)
         window.wait_for("Step 1 of 4")
         for title in TITLES[1:]:
             window.press("Next")
-            window.wait_for(title, "label")
+            window.wait_for(title, "heading")
         self.assertIsNone(window.find("Skip"))
         for words in ("Lean", "Heavy", "Excessive", "actively hurting the session"):
             window.wait_for(words)
@@ -80,7 +80,7 @@ class FirstLaunchTest(EndToEndCase):
         program = self.launch()
         for title in TITLES[1:]:
             program.window.key("Return")
-            program.window.wait_for(title, "label")
+            program.window.wait_for(title, "heading")
         program.window.key("Escape")
         program.window.key("Return")
         program.window.wait_for(CHOOSE, "push button")

@@ -78,6 +78,8 @@ class HistoryTest(EndToEndCase):
         self.assertEqual(words[0], "1")
         for expected in ("warehouse", "1 scan", "61,000", "Excessive", "First scan"):
             self.assertIn(expected, words)
+        row = "1. warehouse, 1 scan, 61,000 tokens, Excessive, First scan"
+        program.window.wait_for(row, "list item")
 
     def test_cleared_scans_are_gone(self) -> None:
         program = self.open_high()

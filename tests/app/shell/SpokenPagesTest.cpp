@@ -4,9 +4,11 @@
 #include <QGuiApplication>
 #include <QTest>
 
+#include "onboarding/OnboardingPresenter.h"
 #include "samples/SampleHistories.h"
 #include "samples/SampleScans.h"
 #include "shell/ContentPresenter.h"
+#include "support/ScanFakes.h"
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"
@@ -20,6 +22,20 @@ QString nameOf(QObject *item)
 {
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
     return accessible == nullptr ? QString() : accessible->text(QAccessible::Name);
+}
+
+QStringList headingsBelow(QAccessibleInterface &parent)
+{
+    QStringList found;
+    for (int index = 0; index < parent.childCount(); ++index) {
+        QAccessibleInterface *child = parent.child(index);
+        if (child == nullptr || child->state().invisible)
+            continue;
+        if (child->role() == QAccessible::Heading)
+            found << child->text(QAccessible::Name);
+        found += headingsBelow(*child);
+    }
+    return found;
 }
 
 bool isList(const QQuickItem &item)
@@ -43,12 +59,18 @@ class SpokenPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QAccessible::setActive(true); }
     void init();
     void cleanup() { m_window.reset(); }
     void aFocusedRowSaysEverythingThatItShows();
     void everyListCopiesWhatItsRowSays();
+    void everyTitleOfAPageIsAHeading_data();
+    void everyTitleOfAPageIsAHeading();
+    void everyTitleOfTheWalkThroughIsAHeading();
+    void theTitleOfEveryStateIsAHeading();
 
 private:
+    void verifyHeadings(const QStringList &titles);
     [[nodiscard]] QQuickWindow &window() { return m_window->loadwick().window(); }
     void show(int page);
     /// The lists of all pages; `visit` runs while the list's page is shown and its first row has
@@ -108,6 +130,81 @@ void SpokenPagesTest::everyListCopiesWhatItsRowSays()
         QVERIFY2(!copied.isEmpty(), qPrintable(nameOf(&list)));
         QVERIFY2(nameOf(&row).contains(copied), qPrintable(copied));
     });
+}
+
+void SpokenPagesTest::verifyHeadings(const QStringList &titles)
+{
+    const QStringList headings = headingsBelow(*QAccessible::queryAccessibleInterface(&window()));
+    for (const QString &title : titles)
+        QVERIFY2(headings.contains(title), qPrintable(title));
+}
+
+void SpokenPagesTest::everyTitleOfAPageIsAHeading_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("titles");
+    QTest::newRow("Overview") << 0
+                              << QStringLiteral(
+                                     "Pages|Overview|Excessive startup context|Context headroom|"
+                                     "Estimated breakdown by category|All instruction files|"
+                                     "Relative size|Repository instructions|"
+                                     "Inherited project instructions|Personal instructions|"
+                                     "Largest instruction files|Weekly usage|Session details|"
+                                     "Full report");
+    QTest::newRow("Trends") << 1
+                            << QStringLiteral("Pages|Trends|Startup tokens per scan|"
+                                              "Where this repository landed|Previous runs|"
+                                              "Recorded data");
+    QTest::newRow("Compare") << 2
+                             << QStringLiteral("Pages|Compare|Leaderboard|Category for category|"
+                                               "How to read this");
+}
+
+void SpokenPagesTest::everyTitleOfAPageIsAHeading()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, titles);
+    show(page);
+    verifyHeadings(titles.split(u'|'));
+    if (page != 1)
+        return;
+    m_window->pressButton(QStringLiteral("Clear Recorded Data…"));
+    QTRY_VERIFY(m_window->shows(QStringLiteral("Delete every recorded scan?")));
+    verifyHeadings({QStringLiteral("Delete every recorded scan?")});
+}
+
+void SpokenPagesTest::everyTitleOfTheWalkThroughIsAHeading()
+{
+    m_window = std::make_unique<WindowFixture>(std::make_shared<FakeCompletionStore>());
+    m_window->appearance().setMotion(Appearance::Reduced);
+    m_window->askForFirstLaunch();
+    QTRY_VERIFY(m_window->shows(QStringLiteral("Next")));
+    OnboardingPresenter &onboarding = m_window->loadwick().onboarding();
+    for (int step = 0; step < onboarding.stepCount(); ++step) {
+        const QString title = onboarding.step(step)->title();
+        QTRY_VERIFY(m_window->shows(title));
+        verifyHeadings({title});
+        if (step + 1 < onboarding.stepCount())
+            onboarding.advance();
+    }
+}
+
+void SpokenPagesTest::theTitleOfEveryStateIsAHeading()
+{
+    ScanModel &model = m_window->loadwick().model();
+    model.history().set({});
+    show(2);
+    verifyHeadings({QStringLiteral("No recorded scans yet")});
+    model.history().set(SampleHistories::ofSize(1, 1, 1));
+    show(1);
+    verifyHeadings({QStringLiteral("One scan recorded")});
+    show(0);
+    model.state().set(ScanState::idle());
+    verifyHeadings({QStringLiteral("Start a context scan")});
+    model.state().set(ScanState::scanning());
+    verifyHeadings({QStringLiteral("Scanning repository")});
+    model.state().set(ScanState::failed(ProbeError::timedOut()));
+    verifyHeadings({QString::fromStdString(ProbeError::timedOut().headline())});
 }
 
 const RegisteredTest<SpokenPagesTest> registered("SpokenPages");
