@@ -13,6 +13,8 @@ Item {
     property bool turning: false
     default property alias content: column.data
     readonly property real availableHeight: height - 2 * AppTheme.pageMargin
+    // Where the group ends.
+    readonly property real groupEnd: column.y + column.height
 
     implicitWidth: AppTheme.stateWidth + 2 * AppTheme.pageMargin
     // Its height comes from the page, never from its content.

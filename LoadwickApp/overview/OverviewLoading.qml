@@ -1,17 +1,25 @@
 import QtQuick
-import QtQuick.Layouts
 import Loadwick
 
-// The scan of the chosen repository is running; shows the elapsed time.
-ScanLoadingState {
-    id: state
+// The scan of the chosen repository is running; the elapsed time is below the state's own words.
+Item {
+    id: page
 
     required property OverviewPresenter overview
 
-    PlainLabel {
-        Layout.alignment: Qt.AlignHCenter
-        Layout.topMargin: AppTheme.smallSpace
-        text: state.overview.elapsed
+    ScanLoadingState {
+        id: state
+        anchors.fill: parent
+    }
+    // A label would change its accessible name every second.
+    Text {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.round(state.groupEnd + AppTheme.cardSpace)
+        text: page.overview.elapsed
+        textFormat: Text.PlainText
         font: AppTheme.emphasisFont
+        color: AppTheme.text
+        Accessible.role: Accessible.StaticText
+        Accessible.name: page.overview.elapsedWords
     }
 }

@@ -53,12 +53,24 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
     showCurrentState();
 }
 
-QString OverviewPresenter::elapsed() const
+std::chrono::seconds OverviewPresenter::elapsedTime() const
 {
     using std::chrono::seconds;
-    const auto past =
-        std::max<seconds::rep>(std::chrono::duration_cast<seconds>(m_clock() - m_start).count(), 0);
+    return std::max(std::chrono::duration_cast<seconds>(m_clock() - m_start), seconds::zero());
+}
+
+QString OverviewPresenter::elapsed() const
+{
+    const auto past = elapsedTime().count();
     return QStringLiteral("%1:%2").arg(past / 60).arg(past % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString OverviewPresenter::elapsedWords() const
+{
+    const auto minutes = elapsedTime().count() / 60;
+    if (minutes == 0)
+        return tr("Running for less than a minute");
+    return minutes == 1 ? tr("Running for 1 minute") : tr("Running for %1 minutes").arg(minutes);
 }
 
 void OverviewPresenter::copySummary() const

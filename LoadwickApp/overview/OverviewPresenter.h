@@ -33,6 +33,7 @@ class OverviewPresenter final : public QObject
     QML_UNCREATABLE("Made by the window.")
     Q_PROPERTY(State state READ state NOTIFY changed)
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
+    Q_PROPERTY(QString elapsedWords READ elapsedWords NOTIFY elapsedChanged)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
     Q_PROPERTY(QString repositoryPath READ repositoryPath NOTIFY changed)
@@ -65,6 +66,8 @@ public:
 
     /// The elapsed time of the running scan, as on a stopwatch: "0:07", "61:00".
     [[nodiscard]] QString elapsed() const;
+    /// The same for a screen reader, in whole minutes, so that it seldom changes.
+    [[nodiscard]] QString elapsedWords() const;
 
     /// The words of the last failure.
     [[nodiscard]] QString headline() const { return m_headline; }
@@ -100,6 +103,7 @@ private:
     void show(const ScanState::Failed &failed);
     void show(const ScanState::Result &result);
     void showCurrentState();
+    [[nodiscard]] std::chrono::seconds elapsedTime() const;
 
     ScanModel &m_model;
     TextLocale m_locale;

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import time
 from typing import Any
 
 from gi.repository import GLib
@@ -12,6 +13,7 @@ from program import Program
 from waiting import until
 
 EVENT = "object:property-change:accessible-name"
+SOME_SECONDS = 2.5  # the time on the page changes twice
 STARTED, ENDED, FAILED = "Scanning", "Scan complete", "Scan failed"
 
 
@@ -69,6 +71,18 @@ class ScanAnnouncementsTest(EndToEndCase):
             self.home.release()
             changes.wait_for(ENDED)
             self.assertNotIn(FAILED, changes.names)
+
+    def test_no_second_of_a_scan_is_announced(self) -> None:
+        program = self.open_and_choose()
+        self.home.hold()
+        with NameChanges(program.process.pid) as changes:
+            program.window.press(SCAN)
+            changes.wait_for(STARTED)
+            program.window.wait_for("Running for less than a minute")
+            time.sleep(SOME_SECONDS)
+            self.home.release()
+            changes.wait_for(ENDED)
+        self.assertEqual([name for name in changes.names if name.startswith("0:")], [])
 
     def test_the_failure_of_a_scan_is_announced(self) -> None:
         program = self.open_and_choose()

@@ -32,12 +32,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<qint64>("milliseconds");
         QTest::addColumn<QString>("text");
-        QTest::newRow("start") << qint64(0) << QStringLiteral("0:00");
-        QTest::newRow("seconds") << qint64(7'900) << QStringLiteral("0:07");
-        QTest::newRow("minute") << qint64(60'000) << QStringLiteral("1:00");
-        QTest::newRow("long scan") << qint64(266'000) << QStringLiteral("4:26");
-        QTest::newRow("over an hour") << qint64(3'660'000) << QStringLiteral("61:00");
-        QTest::newRow("clock set back") << qint64(-5'000) << QStringLiteral("0:00");
+        QTest::addColumn<QString>("words");
+        const auto row = [](const char *name, qint64 milliseconds, const char *text,
+                            const char *words) {
+            QTest::newRow(name) << milliseconds << QString::fromLatin1(text)
+                                << QString::fromLatin1(words);
+        };
+        row("start", 0, "0:00", "Running for less than a minute");
+        row("seconds", 7'900, "0:07", "Running for less than a minute");
+        row("minute", 60'000, "1:00", "Running for 1 minute");
+        row("long scan", 266'000, "4:26", "Running for 4 minutes");
+        row("over an hour", 3'660'000, "61:00", "Running for 61 minutes");
+        row("clock set back", -5'000, "0:00", "Running for less than a minute");
     }
 
     void showsTheTimeOfAScanAsAStopwatch()
@@ -49,6 +55,7 @@ private Q_SLOTS:
         QCOMPARE(m_overview->state(), State::Loading);
         m_now += std::chrono::milliseconds(milliseconds);
         QTEST(m_overview->elapsed(), "text");
+        QTEST(m_overview->elapsedWords(), "words");
     }
 
     void signalsTheTimeEverySecondWhileScanning()

@@ -126,7 +126,20 @@ private Q_SLOTS:
         QVERIFY(!m_window->isPressable(QStringLiteral("Scanning…")));
         QVERIFY(!m_window->isPressable(QStringLiteral("Choose Repository…")));
         QVERIFY(shows("Scanning repository"));
-        QVERIFY(shows("0:00"));
+        QVERIFY(shows("Running for less than a minute"));
+    }
+
+    void theElapsedTimeIsBelowTheLoadingStateAndNoPartOfIt()
+    {
+        m_window->choose(m_window->folder().path());
+        m_window->press(Qt::Key_R, Qt::ControlModifier);
+        const auto item = [this](const char *words) {
+            return qobject_cast<QQuickItem *>(m_window->find(QString::fromUtf8(words))->object());
+        };
+        const QQuickItem *elapsed = item("Running for less than a minute");
+        const QQuickItem *group = item("Scanning repository")->parentItem();
+        QVERIFY(!group->isAncestorOf(elapsed));
+        QTRY_VERIFY(elapsed->mapToScene({}).y() > group->mapToScene({0, group->height()}).y());
     }
 
     void aFailedScanShowsHeadlineAndDetail()
