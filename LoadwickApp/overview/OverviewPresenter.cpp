@@ -13,7 +13,16 @@
 namespace Loadwick {
 namespace {
 
-std::vector<SessionDetail> detailsOf(const ScanReport &report)
+QString answerLinesOf(const ScanReport &report, const TextLocale &locale)
+{
+    const auto grouped = [&locale](std::int64_t count) {
+        return qtText(NumberText::grouped(count, locale));
+    };
+    return OverviewPresenter::tr("%1 read as categories, %2 not")
+        .arg(grouped(report.answerLines.read), grouped(report.answerLines.unread));
+}
+
+std::vector<SessionDetail> detailsOf(const ScanReport &report, const TextLocale &locale)
 {
     return {
         {OverviewPresenter::tr("Repository path"), qtText(report.repositoryPath)},
@@ -21,6 +30,7 @@ std::vector<SessionDetail> detailsOf(const ScanReport &report)
         {OverviewPresenter::tr("Session ID"), qtText(report.sessionID)},
         {OverviewPresenter::tr("Duration"),
          OverviewPresenter::tr("%1 seconds").arg(qtText(NumberText::oneDecimal(report.duration)))},
+        {OverviewPresenter::tr("Answer lines"), answerLinesOf(report, locale)},
     };
 }
 
@@ -106,7 +116,7 @@ void OverviewPresenter::show(const ScanState::Result &result)
     m_summary = summaryOf(report, m_locale);
     m_notes = {qtText(ScanReport::measurementNote), qtText(ScanReport::splitsEstimateNote),
                qtText(report.totalSourceLine())};
-    m_details.setRows(detailsOf(report));
+    m_details.setRows(detailsOf(report, m_locale));
     m_breakdown.show(report);
     m_files.show(report);
     m_band.show(report);

@@ -170,14 +170,19 @@ ProbeResult ProbeRunner::run(const std::filesystem::path &repository)
                               m_settings->environment, m_settings->workingDirectory),
                           .limits = m_settings->limits,
                           .shutdown = m_settings->shutdown}));
-    SelfReportedSlabs slabs = SlabParser::parse(output.result);
+    SlabParser::Answer answer = SlabParser::read(output.result);
     const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
 
     const std::optional<ProbeUsage> usage = transcriptUsage(output.sessionID);
     const Total total = usage ? Total{usage->startupTotal(), TotalSource::transcript}
                               : singleTurnTotal(output.usage, turns, m_settings->projectsRoot);
-    return {output.sessionID, total.tokens,     total.source,
-            std::move(slabs), duration.count(), repairedUtf8(cli)};
+    return {.sessionID = output.sessionID,
+            .authoritativeTotal = total.tokens,
+            .totalSource = total.source,
+            .selfReportedSlabs = std::move(answer.slabs),
+            .duration = duration.count(),
+            .resolvedCLIPath = repairedUtf8(cli),
+            .answerLines = answer.lines};
 }
 
 std::vector<std::string> ProbeRunner::arguments()

@@ -49,6 +49,7 @@ struct ProbeResult
     SelfReportedSlabs selfReportedSlabs; ///< in output order
     double duration; ///< seconds from launch to the parsed result, without the transcript search
     std::string resolvedCLIPath; ///< the executable that was run, as text
+    AnswerLines answerLines = {};
 
     friend bool operator==(const ProbeResult &, const ProbeResult &) = default;
 };

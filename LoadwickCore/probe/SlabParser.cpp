@@ -127,6 +127,20 @@ std::optional<SlabLine> slabIn(std::string_view line)
     return SlabLine{.words = words, .tokens = *count};
 }
 
+/// Whether a line is the marker of a code fence, with or without the name of a language.
+bool isFence(std::string_view line) noexcept
+{
+    const std::size_t rest = line.find_first_not_of('`');
+    return line.starts_with("~~~") ||
+           (line.starts_with("```") && line.find('`', rest) == std::string_view::npos);
+}
+
+bool saysSomething(std::string_view line) noexcept
+{
+    const std::string_view words = trimmed(line);
+    return !words.empty() && !isFence(words);
+}
+
 } // namespace
 
 SelfReportedSlabs::SelfReportedSlabs(const std::vector<SelfReportedSlab> &slabs)
@@ -157,14 +171,24 @@ std::string_view SelfReportedSlabs::name(std::size_t index) const
 
 namespace SlabParser {
 
+Answer read(std::string_view text)
+{
+    Answer answer;
+    answer.slabs.reserveForAnswer(text.size());
+    while (const auto line = takeLine(text)) {
+        if (const auto slab = slabIn(*line)) {
+            answer.slabs.add(slab->words, slab->tokens);
+            ++answer.lines.read;
+        } else if (saysSomething(*line)) {
+            ++answer.lines.unread;
+        }
+    }
+    return answer;
+}
+
 SelfReportedSlabs parse(std::string_view text)
 {
-    SelfReportedSlabs slabs;
-    slabs.reserveForAnswer(text.size());
-    while (const auto line = takeLine(text))
-        if (const auto slab = slabIn(*line))
-            slabs.add(slab->words, slab->tokens);
-    return slabs;
+    return read(text).slabs;
 }
 
 std::optional<SelfReportedSlab> parseLine(std::string_view line)

@@ -55,15 +55,34 @@ private:
     std::vector<Slab> m_slabs;
 };
 
+/// How many lines of an answer are slabs, and how many say something else. Blank lines and the
+/// markers of code fences are neither.
+struct AnswerLines
+{
+    std::int64_t read = 0;
+    std::int64_t unread = 0;
+
+    friend bool operator==(const AnswerLines &, const AnswerLines &) = default;
+};
+
 } // namespace Loadwick
 
 /// Reads lines of the form "SLAB <category name> TOKENS <integer>" out of a session's answer.
 /// Lenient about decoration (bullets, quotes, backticks, letter case, digit grouping), strict about
-/// the rest: a line that does not fit is dropped silently.
+/// the rest: a line that does not fit is no slab, and no error.
 namespace Loadwick::SlabParser {
 
-/// The slabs of all lines that fit, in order; repeated names stay. Lines end at every Unicode
-/// line break. Takes at most 1.1 times the memory of `text`.
+struct Answer
+{
+    SelfReportedSlabs slabs;
+    AnswerLines lines;
+};
+
+/// The slabs of all lines that fit, in order, and the number of lines. Repeated names stay. Lines
+/// end at every Unicode line break. Takes at most 1.1 times the memory of `text`.
+[[nodiscard]] Answer read(std::string_view text);
+
+/// Only the slabs.
 [[nodiscard]] SelfReportedSlabs parse(std::string_view text);
 
 /// The slab of one line, or nothing.

@@ -171,7 +171,8 @@ ScanReport build(const RepoSelection &selection, const ProbeResult &probe,
             .band = OpinionBand::band(probe.authoritativeTotal),
             .remainder = outcome.remainder,
             .overAttributed = outcome.overAttributed,
-            .categoriesSelfReported = outcome.categoriesSelfReported};
+            .categoriesSelfReported = outcome.categoriesSelfReported,
+            .answerLines = probe.answerLines};
 }
 
 } // namespace ScanReportBuilder

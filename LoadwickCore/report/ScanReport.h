@@ -61,6 +61,7 @@ struct ScanReport
     std::int64_t remainder;
     bool overAttributed;
     bool categoriesSelfReported;
+    AnswerLines answerLines = {};
 
     static constexpr std::string_view repositoryCategoryName = "Repository instructions";
     static constexpr std::string_view inheritedCategoryName = "Inherited project instructions";

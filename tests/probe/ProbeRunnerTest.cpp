@@ -93,6 +93,7 @@ TEST(ProbeRunnerTest, takesTheTotalFromTheTranscript)
     EXPECT_EQ(result.resolvedCLIPath, setting.folder.path() / ".local/bin/claude");
     EXPECT_EQ(result.selfReportedSlabs,
               (std::vector<SelfReportedSlab>{{"tools", 5}, {"memory", 1000}}));
+    EXPECT_EQ(result.answerLines.read, 2);
 }
 
 TEST(ProbeRunnerTest, takesTheTotalOfASingleTurnFromTheCommand)

@@ -166,6 +166,26 @@ TEST(SlabParserTest, keepsOrderAndRepeatedNames)
         (Slabs{slab("b", 1), slab("a", 2), slab("b", 3), slab("b", 3)}));
 }
 
+TEST(SlabParserTest, countsTheLinesThatAreSlabsAndThoseThatSaySomethingElse)
+{
+    const std::string answer = "Here it is:\n```text\nSLAB a TOKENS 1\nSLAB b TOKENS 3200 tokens\n"
+                               "SLAB c TOKENS ~3200\n| d | 4 |\n\n \t\n- SLAB e TOKENS 5\r\n```\n";
+    const SlabParser::Answer read = SlabParser::read(answer);
+    EXPECT_EQ(read.slabs, (Slabs{slab("a", 1), slab("e", 5)}));
+    EXPECT_EQ(read.lines, (AnswerLines{.read = 2, .unread = 4}));
+    EXPECT_EQ(SlabParser::read("").lines, AnswerLines());
+}
+
+TEST(SlabParserTest, countsNoBlankLineAndNoFenceAsUnread)
+{
+    for (const char *line :
+         {"", " ", "\t", "\u00A0", "```", "  ```", "````", "```text", "~~~", "~~~ a"})
+        EXPECT_EQ(SlabParser::read(line).lines, AnswerLines()) << line;
+    for (const char *line :
+         {"``", "~~", "---", "*", "```SLAB a TOKENS none```", "SLAB a TOKENS -1"})
+        EXPECT_EQ(SlabParser::read(line).lines, (AnswerLines{.unread = 1})) << line;
+}
+
 TEST(SlabParserTest, readsALineOfManyMegabytes)
 {
     std::string line = "SLAB";

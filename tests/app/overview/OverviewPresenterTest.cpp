@@ -123,11 +123,13 @@ private Q_SLOTS:
     {
         ScanReport report = sampleReport();
         report.duration = 1234.56;
+        report.answerLines = {.read = 1'007, .unread = 2};
         const QList<QStringList> expected = {
             {QStringLiteral("Repository path"), QStringLiteral("/home/someone/webshop")},
             {QStringLiteral("Claude executable"), QStringLiteral("/usr/local/bin/claude")},
             {QStringLiteral("Session ID"), QStringLiteral("0b8e6c1e-5f0a-4a57-9f0c-0c9d5f1e7a11")},
             {QStringLiteral("Duration"), QStringLiteral("1234.6 seconds")},
+            {QStringLiteral("Answer lines"), QStringLiteral("1,007 read as categories, 2 not")},
         };
         show(report);
         const QAbstractItemModel &details = *m_overview->sessionDetails();
