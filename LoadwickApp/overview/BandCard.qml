@@ -42,6 +42,12 @@ ReportSurface {
                 text: card.band.sentence
                 wrapMode: Text.Wrap
             }
+            PlainLabel {
+                Layout.fillWidth: true
+                text: card.band.zeroNote
+                wrapMode: Text.Wrap
+                visible: card.band.zeroNote.length > 0
+            }
         }
         ColumnLayout {
             spacing: 0

@@ -22,6 +22,7 @@ void BandPresenter::show(const ScanReport &report)
 {
     m_total = report.total;
     m_band = report.band;
+    m_zeroNote = qtText(report.zeroTotalNote().value_or(""));
     Q_EMIT changed();
 }
 

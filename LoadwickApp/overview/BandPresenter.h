@@ -28,6 +28,7 @@ class BandPresenter final : public QObject
     Q_PROPERTY(int band READ band NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY changed)
     Q_PROPERTY(QString sentence READ sentence NOTIFY changed)
+    Q_PROPERTY(QString zeroNote READ zeroNote NOTIFY changed)
     Q_PROPERTY(QString total READ total NOTIFY changed)
     Q_PROPERTY(QStringList bands READ bands CONSTANT)
     Q_PROPERTY(QString meterSummary READ meterSummary NOTIFY changed)
@@ -52,6 +53,8 @@ public:
     [[nodiscard]] QString title() const;
     /// Says where the total falls.
     [[nodiscard]] QString sentence() const;
+    /// Says why the total can be 0; empty for any other, and before the first report.
+    [[nodiscard]] QString zeroNote() const { return m_zeroNote; }
     /// Tokens.
     [[nodiscard]] QString total() const;
     /// The names of all bands, from lean to excessive.
@@ -84,6 +87,7 @@ private:
     TextLocale m_locale;
     std::int64_t m_total = 0;
     OpinionBand m_band = OpinionBand::lean;
+    QString m_zeroNote;
 };
 
 } // namespace Loadwick

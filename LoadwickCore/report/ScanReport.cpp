@@ -108,6 +108,13 @@ std::vector<std::string> ScanReport::summaryLines(const TextLocale &locale) cons
             line("Claude executable: ", resolvedCLIPath)};
 }
 
+std::optional<std::string> ScanReport::zeroTotalNote() const
+{
+    if (total != 0)
+        return std::nullopt;
+    return "This session took nothing in; a hook may have blocked its prompt.";
+}
+
 std::optional<std::string> ScanReport::unreadableFilesNote() const
 {
     const std::size_t count = unreadablePaths().size();

@@ -82,6 +82,9 @@ struct ScanReport
     /// The six lines that "Copy Summary" puts on the clipboard.
     [[nodiscard]] std::vector<std::string> summaryLines(const TextLocale &locale) const;
 
+    /// Says why a total can be 0; nothing for any other.
+    [[nodiscard]] std::optional<std::string> zeroTotalNote() const;
+
     /// Nothing when every file could be read.
     [[nodiscard]] std::optional<std::string> unreadableFilesNote() const;
 

@@ -19,6 +19,8 @@ Item {
         name: "BandCard"
         when: windowShown
 
+        function cleanup() { sample.total = 42318; }
+
         function label(item, text) {
             if (item.text === text && item.visible)
                 return item;
@@ -28,6 +30,14 @@ Item {
                     return found;
             }
             return null;
+        }
+
+        function test_aTotalOfZeroHasALineThatSaysWhy() {
+            const card = createTemporaryObject(cards, scene);
+            const words = "This session took nothing in; a hook may have blocked its prompt.";
+            verify(!label(card, words));
+            sample.total = 0;
+            verify(label(card, words));
         }
 
         function test_showsTheBandTheTotalAndWhoMeasuredIt() {

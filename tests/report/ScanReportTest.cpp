@@ -326,6 +326,18 @@ TEST(ScanReportTest, putsAnUnreportedTotalIntoOneRow)
     EXPECT_TRUE(report.unreportedCategoryFilesNote());
 }
 
+TEST(ScanReportTest, explainsATotalOfZero)
+{
+    ScanReport report = sampleReport();
+    for (const std::int64_t total : {-1, 1, 27'654}) {
+        report.total = total;
+        EXPECT_FALSE(report.zeroTotalNote()) << total;
+    }
+    report.total = 0;
+    EXPECT_EQ(report.zeroTotalNote(),
+              "This session took nothing in; a hook may have blocked its prompt.");
+}
+
 TEST(ScanReportTest, classifiesTheTotal)
 {
     EXPECT_EQ(bandOf(30'000), OpinionBand::heavy);

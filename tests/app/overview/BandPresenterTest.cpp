@@ -44,6 +44,17 @@ private Q_SLOTS:
         QCOMPARE(m_presenter->position(), 0.0);
     }
 
+    void saysWhyATotalOfZeroIsZero()
+    {
+        QCOMPARE(m_presenter->zeroNote(), QString());
+        m_presenter->show(reportOf(0));
+        QCOMPARE(
+            m_presenter->zeroNote(),
+            QStringLiteral("This session took nothing in; a hook may have blocked its prompt."));
+        m_presenter->show(reportOf(1));
+        QCOMPARE(m_presenter->zeroNote(), QString());
+    }
+
     void namesTheBandOfTheTotal_data()
     {
         QTest::addColumn<qint64>("total");
