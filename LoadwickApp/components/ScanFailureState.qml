@@ -11,6 +11,16 @@ StatePlaceholder {
 
     required property string headline
     required property string detail
+    // What the detail means on this system; empty where it says so itself.
+    property string platformNote: ""
+
+    // Centred as a whole, with room on both sides for the scroll bar.
+    component Words: SelectableText {
+        x: parent ? Math.round((parent.width - width) / 2) : 0
+        width: parent ? Math.min(Math.ceil(implicitWidth), parent.width - 2 * AppTheme.mediumSpace) : 0
+        secondary: true
+        horizontalAlignment: text.includes("\n") ? TextEdit.AlignLeft : TextEdit.AlignHCenter
+    }
 
     symbol: "exclamationmark.triangle"
     tint: AppTheme.bandExcessive
@@ -23,21 +33,27 @@ StatePlaceholder {
         readonly property int room: Math.max(3, Math.floor((placeholder.availableHeight - 160) / words.lineSpacing))
 
         Layout.fillWidth: true
-        Layout.preferredHeight: Math.min(words.implicitHeight, Math.ceil(room * words.lineSpacing))
-        contentHeight: words.implicitHeight
+        Layout.preferredHeight: Math.min(both.implicitHeight, Math.ceil(room * words.lineSpacing))
+        contentHeight: both.implicitHeight
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         clip: interactive
         ScrollBar.vertical: ThinScrollBar { }
 
-        SelectableText {
-            id: words
-            // Centred as a whole, with room on both sides for the scroll bar.
-            x: Math.round((scroller.width - width) / 2)
-            width: Math.min(Math.ceil(words.implicitWidth), scroller.width - 2 * AppTheme.mediumSpace)
-            text: placeholder.detail
-            secondary: true
-            horizontalAlignment: placeholder.detail.includes("\n") ? TextEdit.AlignLeft : TextEdit.AlignHCenter
+        Column {
+            id: both
+
+            width: scroller.width
+            spacing: AppTheme.smallSpace
+
+            Words {
+                id: words
+                text: placeholder.detail
+            }
+            Words {
+                text: placeholder.platformNote
+                visible: placeholder.platformNote.length > 0
+            }
         }
     }
 }

@@ -35,6 +35,11 @@ QString OnboardingStepTexts::body() const
     return qtText(m_step.body);
 }
 
+QString OnboardingStepTexts::platformNote() const
+{
+    return qtText(m_step.platformNote().value_or(""));
+}
+
 QString OnboardingStepTexts::footnote() const
 {
     return qtText(m_step.footnote.value_or(std::string_view()));

@@ -23,6 +23,7 @@ class OnboardingStepTexts final : public QObject
     QML_UNCREATABLE("Made by the walk-through's presenter.")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString body READ body CONSTANT)
+    Q_PROPERTY(QString platformNote READ platformNote CONSTANT)
     Q_PROPERTY(QString footnote READ footnote CONSTANT)
     Q_PROPERTY(QString primaryTitle READ primaryTitle CONSTANT)
     Q_PROPERTY(Illustration illustration READ illustration CONSTANT)
@@ -44,6 +45,7 @@ public:
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString body() const;
     /// Empty where the step has none.
+    [[nodiscard]] QString platformNote() const;
     [[nodiscard]] QString footnote() const;
     [[nodiscard]] QString primaryTitle() const;
     [[nodiscard]] Illustration illustration() const;

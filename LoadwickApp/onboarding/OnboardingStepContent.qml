@@ -56,6 +56,14 @@ ColumnLayout {
     }
     PlainLabel {
         Layout.fillWidth: true
+        text: content.step.platformNote
+        wrapMode: Text.Wrap
+        horizontalAlignment: Text.AlignHCenter
+        lineHeight: 1.15
+        visible: text.length > 0
+    }
+    PlainLabel {
+        Layout.fillWidth: true
         text: content.step.footnote
         font: AppTheme.captionFont
         secondary: true

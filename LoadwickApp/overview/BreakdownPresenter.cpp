@@ -14,7 +14,8 @@ QStringList notesOf(const ScanReport &report, const TextLocale &locale)
 {
     QStringList notes;
     for (const std::optional<std::string> &note :
-         {report.overAttributionNote(locale), report.unreadableFilesNote()}) {
+         {report.overAttributionNote(locale), report.unreadableFilesNote(),
+          report.unreadableFilesPlatformNote()}) {
         if (note)
             notes.append(qtText(*note));
     }

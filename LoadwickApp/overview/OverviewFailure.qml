@@ -9,4 +9,5 @@ ScanFailureState {
 
     headline: state.overview.headline
     detail: state.overview.detail
+    platformNote: state.overview.platformNote
 }

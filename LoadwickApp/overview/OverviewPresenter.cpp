@@ -106,6 +106,7 @@ void OverviewPresenter::show(const ScanState::Failed &failed)
     m_state = State::Failure;
     m_headline = qtText(failed.error.headline());
     m_detail = qtText(failed.error.detail());
+    m_platformNote = qtText(failed.error.platformNote().value_or(""));
 }
 
 void OverviewPresenter::show(const ScanState::Result &result)

@@ -36,6 +36,7 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(QString elapsedWords READ elapsedWords NOTIFY elapsedChanged)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
+    Q_PROPERTY(QString platformNote READ platformNote NOTIFY changed)
     Q_PROPERTY(QString repositoryPath READ repositoryPath NOTIFY changed)
     Q_PROPERTY(QString summary READ summary NOTIFY changed)
     Q_PROPERTY(QStringList notes READ notes NOTIFY changed)
@@ -72,6 +73,8 @@ public:
     /// The words of the last failure.
     [[nodiscard]] QString headline() const { return m_headline; }
     [[nodiscard]] QString detail() const { return m_detail; }
+    /// Empty where there is none.
+    [[nodiscard]] QString platformNote() const { return m_platformNote; }
 
     /// The last report as a whole; meaningful only in the state Report.
     [[nodiscard]] QString repositoryPath() const { return m_repositoryPath; }
@@ -113,6 +116,7 @@ private:
     State m_state = State::Empty;
     QString m_headline;
     QString m_detail;
+    QString m_platformNote;
     QString m_repositoryPath;
     QString m_summary;
     QStringList m_notes;

@@ -18,6 +18,13 @@ ReportSurface {
         secondary: true
         wrapMode: Text.Wrap
     }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: card.recordedData.storagePlatformNote
+        secondary: true
+        wrapMode: Text.Wrap
+        visible: text.length > 0
+    }
     PushButton {
         title: qsTr("Clear Recorded Data…")
         symbol: "trash"

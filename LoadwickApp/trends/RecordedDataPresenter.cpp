@@ -9,6 +9,8 @@
 #include "history/ScanHistory.h"
 #include "text/DateText.h"
 #include "text/NumberText.h"
+#include "text/OnLinux.h"
+#include "text/PathText.h"
 
 namespace Loadwick {
 namespace {
@@ -89,6 +91,14 @@ QString RecordedDataPresenter::storageNote() const
         .arg((scans == 1 ? tr("%1 scan") : tr("%1 scans")).arg(scans),
              (repositories == 1 ? tr("%1 repository") : tr("%1 repositories")).arg(repositories),
              qtText(NumberText::grouped(std::int64_t{ScanHistoryStore::maximumScans}, m_locale)));
+}
+
+QString RecordedDataPresenter::storagePlatformNote() const
+{
+    const auto file = m_model.historyFile();
+    const auto note =
+        file ? onLinux("On Linux the file is " + pathText(*file) + ".") : std::nullopt;
+    return qtText(note.value_or(""));
 }
 
 QString RecordedDataPresenter::deleteTitle() const

@@ -21,6 +21,7 @@ class RecordedDataPresenter final : public QObject
     Q_PROPERTY(Loadwick::RowList *runs READ runs CONSTANT)
     Q_PROPERTY(QString runsDetail READ runsDetail NOTIFY changed)
     Q_PROPERTY(QString storageNote READ storageNote NOTIFY changed)
+    Q_PROPERTY(QString storagePlatformNote READ storagePlatformNote CONSTANT)
     Q_PROPERTY(QString deleteTitle READ deleteTitle NOTIFY changed)
     Q_PROPERTY(bool canClear READ canClear NOTIFY changed)
 
@@ -41,6 +42,8 @@ public:
 
     /// Composed on demand: its figures load the locale's data, which start-up does not need.
     [[nodiscard]] QString storageNote() const;
+    /// Where that is on this system, if the note speaks of another one; empty without a store.
+    [[nodiscard]] QString storagePlatformNote() const;
 
     /// The title of the button that deletes that many scans permanently.
     [[nodiscard]] QString deleteTitle() const;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "text/Fatal.h"
+#include "text/OnLinux.h"
 
 namespace Loadwick {
 
@@ -19,6 +20,13 @@ std::string_view OnboardingIllustration::rawValue() const noexcept
         break;
     }
     return "bandLegend";
+}
+
+std::optional<std::string> OnboardingStep::platformNote() const
+{
+    if (illustration != OnboardingIllustration::toolbarPointer)
+        return std::nullopt;
+    return onLinux("On Linux that is any folder on this computer that your user may read.");
 }
 
 OnboardingCompletion::OnboardingCompletion(std::shared_ptr<OnboardingCompletionStore> store)

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "report/OpinionBand.h"
@@ -49,6 +50,9 @@ struct OnboardingStep
     OnboardingIllustration illustration;
 
     static constexpr int lastIndex = 3;
+
+    /// What holds on this system where the body speaks of another one; else nothing.
+    [[nodiscard]] std::optional<std::string> platformNote() const;
 
     [[nodiscard]] constexpr bool isFirst() const noexcept { return index == 0; }
     [[nodiscard]] constexpr bool isLast() const noexcept { return index == lastIndex; }

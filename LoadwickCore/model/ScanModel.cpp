@@ -24,7 +24,11 @@ public:
     explicit Internals(Collaborators collaborators);
 
     [[nodiscard]] bool isScanning() const noexcept;
-    [[nodiscard]] bool isRecording() const noexcept { return m_with.historyStore != nullptr; }
+    [[nodiscard]] bool isRecording() const noexcept { return store() != nullptr; }
+    [[nodiscard]] const ScanHistoryStore *store() const noexcept
+    {
+        return m_with.historyStore.get();
+    }
     void begin();
     void clearHistory();
 
@@ -179,6 +183,12 @@ bool ScanModel::canScan() const noexcept
 bool ScanModel::canClearHistory() const noexcept
 {
     return m_internals->isRecording() && !m_internals->history.get().empty();
+}
+
+std::optional<std::filesystem::path> ScanModel::historyFile() const
+{
+    const ScanHistoryStore *store = m_internals->store();
+    return store != nullptr ? std::optional(store->fileURL()) : std::nullopt;
 }
 
 void ScanModel::select(const RepoSelection &selection)

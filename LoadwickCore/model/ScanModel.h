@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -56,6 +57,9 @@ public:
 
     /// There is a store, and it holds scans.
     [[nodiscard]] bool canClearHistory() const noexcept;
+
+    /// The file of the history; nothing without a store.
+    [[nodiscard]] std::optional<std::filesystem::path> historyFile() const;
 
     /// Chooses a folder and goes back to idle; ignored while a scan runs.
     void select(const RepoSelection &selection);

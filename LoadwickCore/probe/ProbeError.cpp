@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "text/OnLinux.h"
 #include "text/UnicodeText.h"
 
 namespace Loadwick {
@@ -12,6 +13,7 @@ struct ErrorWords
 {
     std::string headline;
     std::string detail;
+    std::optional<std::string> platformNote = {};
 };
 
 ErrorWords wordsOf(const ProbeError::RepositoryUnreadable &error)
@@ -22,7 +24,10 @@ ErrorWords wordsOf(const ProbeError::RepositoryUnreadable &error)
                 "access — allow Loadwick under System Settings → Privacy & Security → "
                 "Files & Folders (or move the repository outside a protected folder) — or the "
                 "folder may have been moved or deleted since it was chosen. Nothing was "
-                "measured and none of your Claude allowance was used."};
+                "measured and none of your Claude allowance was used.",
+            onLinux("On Linux there is no such setting: your user needs permission to read and "
+                    "enter " +
+                    error.path + ", and to enter every folder above it.")};
 }
 
 ErrorWords wordsOf(const ProbeError::CliNotFound &error)
@@ -144,6 +149,11 @@ std::string ProbeError::headline() const
 std::string ProbeError::detail() const
 {
     return wordsOfCase(m_case).detail;
+}
+
+std::optional<std::string> ProbeError::platformNote() const
+{
+    return wordsOfCase(m_case).platformNote;
 }
 
 std::string ProbeError::bounded(std::string_view text, std::size_t limit)

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -86,6 +87,9 @@ public:
 
     /// The explanation, built from the payload. Raw session text is bounded to `detailLimit`.
     [[nodiscard]] std::string detail() const;
+
+    /// What holds on this system where the detail speaks of another one; else nothing.
+    [[nodiscard]] std::optional<std::string> platformNote() const;
 
     /// `text` trimmed of white space, "(no output)" when nothing is left, and truncated after
     /// `limit` user-perceived characters (grapheme clusters) or `detailByteLimit` bytes, whichever

@@ -6,6 +6,7 @@
 #include "report/RepoSelection.h"
 #include "text/Fatal.h"
 #include "text/NumberText.h"
+#include "text/OnLinux.h"
 
 namespace Loadwick {
 
@@ -127,6 +128,19 @@ std::optional<std::string> ScanReport::unreadableFilesNote() const
            "than what is really loaded. The measured total is unaffected — it is reported "
            "by Claude. macOS may be blocking access: allow Loadwick under System "
            "Settings → Privacy & Security → Files & Folders, then scan again.";
+}
+
+std::optional<std::string> ScanReport::unreadableFilesPlatformNote() const
+{
+    const std::size_t count = unreadablePaths().size();
+    if (count == 0)
+        return std::nullopt;
+    const std::string others = count == 1   ? ""
+                               : count == 2 ? " and 1 other file"
+                                            : " and " + std::to_string(count - 1) + " other files";
+    return onLinux("On Linux there is no such setting: your user needs permission to read " +
+                   unreadablePaths().front() + others +
+                   ", and to enter every folder above. Then scan again.");
 }
 
 OverAttributionSource ScanReport::overAttributionSource() const

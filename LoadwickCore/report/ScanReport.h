@@ -87,6 +87,8 @@ struct ScanReport
 
     /// Nothing when every file could be read.
     [[nodiscard]] std::optional<std::string> unreadableFilesNote() const;
+    /// What holds on this system where that note speaks of another one.
+    [[nodiscard]] std::optional<std::string> unreadableFilesPlatformNote() const;
 
     /// Which kind of row alone exceeds the total; meaningful only when `overAttributed`. Overflow
     /// of a 64-bit sum ends the program.

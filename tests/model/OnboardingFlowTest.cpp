@@ -4,6 +4,7 @@
 
 #include "support/EnumerationNames.h"
 #include "support/ScanFakes.h"
+#include "text/OnLinux.h"
 
 namespace Loadwick {
 
@@ -158,6 +159,16 @@ TEST_F(OnboardingFlowTest, hasFixedTexts)
               "you see where the tokens likely came from.");
     EXPECT_EQ(steps[3].footnote,
               "Total tokens — from Claude, exact. Category breakdown — Loadwick's estimate.");
+}
+
+TEST_F(OnboardingFlowTest, saysWhatHoldsOnLinuxWhereABodySpeaksOfTheMac)
+{
+    for (const OnboardingStep &step : OnboardingFlow::steps)
+        EXPECT_EQ(step.platformNote(),
+                  step.body.find("this Mac") == std::string_view::npos
+                      ? std::nullopt
+                      : onLinux("On Linux that is any folder on this computer that your user may "
+                                "read."));
 }
 
 TEST_F(OnboardingFlowTest, explainsEveryBandInOrder)

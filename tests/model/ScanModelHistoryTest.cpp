@@ -69,6 +69,13 @@ TEST_F(ScanModelHistoryTest, recordsNothingWithoutAStore)
     EXPECT_TRUE(model.history().get().empty());
 }
 
+TEST_F(ScanModelHistoryTest, namesTheFileOfItsStore)
+{
+    EXPECT_EQ(ScanModel(harness.collaborators()).historyFile(),
+              harness.historyFolder() / "scan-history.json");
+    EXPECT_EQ(ScanModel(harness.collaboratorsWithoutStore()).historyFile(), std::nullopt);
+}
+
 TEST_F(ScanModelHistoryTest, publishesTwoHundredScansWhenTwoHundredWereRecorded)
 {
     ScanHistoryFile file{.version = ScanHistoryStore::schemaVersion, .scans = {}};

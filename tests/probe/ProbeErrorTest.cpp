@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "text/OnLinux.h"
+
 namespace Loadwick {
 
 namespace {
@@ -47,6 +49,15 @@ TEST(ProbeErrorTest, explainsAnUnreadableFolder)
               "Files & Folders (or move the repository outside a protected folder) \u2014 or the "
               "folder may have been moved or deleted since it was chosen. Nothing was measured and "
               "none of your Claude allowance was used.");
+}
+
+TEST(ProbeErrorTest, saysWhatHoldsOnLinuxWhereTheDetailSpeaksOfMacOS)
+{
+    EXPECT_EQ(ProbeError::repositoryUnreadable("/home/a b").platformNote(),
+              onLinux("On Linux there is no such setting: your user needs permission to read and "
+                      "enter /home/a b, and to enter every folder above it."));
+    EXPECT_EQ(ProbeError::cliNotFound({"/bin/claude"}).platformNote(), std::nullopt);
+    EXPECT_EQ(ProbeError::timedOut().platformNote(), std::nullopt);
 }
 
 TEST(ProbeErrorTest, listsEveryPathThatWasSearched)

@@ -58,6 +58,14 @@ Item {
             verify(shown.every(function (text) { return text === "It failed" || text === "<b>Why</b>"; }));
         }
 
+        function test_aFailureHasRoomForWhatHoldsOnThisSystem() {
+            failure.visible = true;
+            failure.platformNote = "On this system:";
+            verify(texts(failure).includes("On this system:"));
+            failure.platformNote = "";
+            verify(!texts(failure).includes("On this system:"));
+        }
+
         function test_iconsHaveTheirTints() {
             compare(empty.tint, AppTheme.secondaryText);
             compare(loading.tint, AppTheme.accent);

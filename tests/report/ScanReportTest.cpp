@@ -6,6 +6,7 @@
 
 #include "report/RepoSelection.h"
 #include "support/EnumerationNames.h"
+#include "text/OnLinux.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
@@ -184,6 +185,23 @@ TEST(ScanReportTest, notesHowManyFilesCouldNotBeRead)
               "1 instruction file" + unreadableRest);
     EXPECT_EQ(reportWithUnreadablePaths(2).unreadableFilesNote(),
               "2 instruction files" + unreadableRest);
+}
+
+TEST(ScanReportTest, namesTheUnreadableFileWhosePermissionsMatterOnLinux)
+{
+    const auto note = [](std::vector<std::string> paths) {
+        ScanReport report = sampleReport();
+        report.fileSet.unreadablePaths = std::move(paths);
+        return report.unreadableFilesPlatformNote();
+    };
+    const auto expected = [](const std::string &files) {
+        return onLinux("On Linux there is no such setting: your user needs permission to read " +
+                       files + ", and to enter every folder above. Then scan again.");
+    };
+    EXPECT_EQ(note({}), std::nullopt);
+    EXPECT_EQ(note({"/a"}), expected("/a"));
+    EXPECT_EQ(note({"/a", "/b"}), expected("/a and 1 other file"));
+    EXPECT_EQ(note({"/a", "/b", "/c"}), expected("/a and 2 other files"));
 }
 
 TEST(ScanReportTest, countsUnreadableFilesWithoutGrouping)

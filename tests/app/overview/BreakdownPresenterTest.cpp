@@ -42,6 +42,12 @@ ScanReport overAttributed()
     return report;
 }
 
+QStringList platformNotes(const ScanReport &report)
+{
+    const auto note = report.unreadableFilesPlatformNote();
+    return note ? QStringList(QString::fromStdString(*note)) : QStringList();
+}
+
 } // namespace
 
 class BreakdownPresenterTest : public QObject
@@ -162,12 +168,13 @@ private Q_SLOTS:
             TextLocale::fromEnvironment({{"LC_ALL", language.toStdString()}}));
         breakdown.show(report);
         QCOMPARE(
-            breakdown.notes(),
-            QStringList(QStringLiteral(
+            breakdown.notes()[0],
+            QStringLiteral(
                 "1500 instruction files could not be read, so the category and file estimates are "
                 "lower than what is really loaded. The measured total is unaffected — it is "
                 "reported by Claude. macOS may be blocking access: allow Loadwick under System "
-                "Settings → Privacy & Security → Files & Folders, then scan again.")));
+                "Settings → Privacy & Security → Files & Folders, then scan again."));
+        QCOMPARE(breakdown.notes().mid(1), platformNotes(report));
     }
 
     void notesOverAttributionBeforeUnreadableFiles()
@@ -175,9 +182,9 @@ private Q_SLOTS:
         ScanReport report = overAttributed();
         report.fileSet.unreadablePaths = {"/home/someone/webshop/CLAUDE.md"};
         m_breakdown->show(report);
-        QCOMPARE(m_breakdown->notes().size(), 2);
         QVERIFY(m_breakdown->notes()[0].startsWith(QStringLiteral("The session's self-reported")));
         QVERIFY(m_breakdown->notes()[1].startsWith(QStringLiteral("1 instruction file could not")));
+        QCOMPARE(m_breakdown->notes().mid(2), platformNotes(report));
         m_breakdown->show(sampleReport());
         QCOMPARE(m_breakdown->notes(), QStringList());
     }

@@ -81,6 +81,15 @@ private Q_SLOTS:
                                 "never handles Claude credentials."));
     }
 
+    void saysWhatAFailureMeansOnThisSystem()
+    {
+        const auto error = ProbeError::repositoryUnreadable("/srv/webshop");
+        m_scanning->model.state().set(ScanState::failed(error));
+        QCOMPARE(m_overview->platformNote().toStdString(), error.platformNote().value_or(""));
+        m_scanning->model.state().set(ScanState::failed(ProbeError::timedOut()));
+        QCOMPARE(m_overview->platformNote(), QString());
+    }
+
     void showsTheReport()
     {
         m_scanning->scan();

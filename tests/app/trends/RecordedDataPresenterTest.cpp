@@ -9,6 +9,7 @@
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 #include "support/TimeZone.h"
+#include "text/OnLinux.h"
 
 namespace Loadwick {
 
@@ -58,6 +59,13 @@ private Q_SLOTS:
                  stored + QStringLiteral(", stored on this Mac. Totals only — no instruction-file "
                                          "contents are ever written. The newest 200 are kept."));
         QTEST(m_data->deleteTitle(), "deleteTitle");
+    }
+
+    void namesTheFileOnLinux()
+    {
+        const auto expected =
+            onLinux("On Linux the file is " + m_folder->path().string() + "/scan-history.json.");
+        QCOMPARE(m_data->storagePlatformNote().toStdString(), expected.value_or(""));
     }
 
     void writesTheLimitInTheLocalesFiguresAndCountsInPlainDecimal()
