@@ -42,6 +42,10 @@ class FailuresTest(EndToEndCase):
             "folder may have been moved or deleted since it was chosen. Nothing was measured "
             "and none of your Claude allowance was used.",
         )
+        program.window.wait_for(
+            "On Linux there is no such setting: your user needs permission to read and enter "
+            + os.fsdecode(folder) + ", and to enter every folder above it."
+        )
         self.assertEqual(self.home.runs(), [])
 
     def test_the_command_is_not_found(self) -> None:

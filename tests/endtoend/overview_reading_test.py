@@ -70,6 +70,11 @@ class OverviewReadingTest(EndToEndCase):
                 with self.subTest(expected):
                     self.assertTrue(any(expected in text for text in texts), "\n".join(texts))
 
+    def test_the_session_details_count_the_lines_of_the_answer(self) -> None:
+        window = self.open_whole_report().window
+        window.press("Session details")
+        window.wait_for("6 read as categories, 0 not")
+
     def test_each_row_of_the_breakdown_is_read_as_one(self) -> None:
         texts = self.open_whole_report().window.texts()
         indices = []
