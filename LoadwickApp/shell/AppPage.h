@@ -1,7 +1,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
+
+#include "text/NamedValue.h"
 
 namespace Loadwick {
 
@@ -15,38 +18,25 @@ public:
         trends,
         compare
     };
-
-    /// In the order of the sidebar.
-    static const std::array<AppPage, 3> all;
+    /// In sidebar order.
+    static constexpr std::array all{overview, trends, compare};
 
     constexpr AppPage(Value value) noexcept : m_value(value) {}
     constexpr operator Value() const noexcept { return m_value; }
 
-    /// The enumerator's name, as in identifiers.
-    [[nodiscard]] constexpr std::string_view rawValue() const noexcept { return row().rawValue; }
-    [[nodiscard]] constexpr std::string_view title() const noexcept { return row().title; }
+    /// The case's name, as in identifiers.
+    [[nodiscard]] std::string_view rawValue() const noexcept;
+    [[nodiscard]] static std::optional<AppPage> fromRawValue(std::string_view text) noexcept
+    {
+        return valueNamed<AppPage>(text);
+    }
+
+    [[nodiscard]] std::string_view title() const noexcept;
     /// The name of its symbol.
-    [[nodiscard]] constexpr std::string_view symbol() const noexcept { return row().symbol; }
+    [[nodiscard]] std::string_view symbol() const noexcept;
 
 private:
-    struct Row
-    {
-        std::string_view rawValue;
-        std::string_view title;
-        std::string_view symbol;
-    };
-
-    static constexpr std::array<Row, 3> rows = {{
-        {"overview", "Overview", "square.grid.2x2"},
-        {"trends", "Trends", "chart.line.uptrend.xyaxis"},
-        {"compare", "Compare", "rectangle.split.2x1"},
-    }};
-
-    [[nodiscard]] constexpr const Row &row() const noexcept { return rows[m_value]; }
-
     Value m_value;
 };
-
-inline constexpr std::array<AppPage, 3> AppPage::all = {overview, trends, compare};
 
 } // namespace Loadwick

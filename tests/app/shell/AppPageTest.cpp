@@ -15,17 +15,24 @@ class AppPageTest : public QObject
 private Q_SLOTS:
     void namesThePagesInTheirOrder()
     {
-        std::string said;
+        std::string pages;
         for (const AppPage page : AppPage::all)
-            said.append(page.rawValue())
+            pages.append(page.rawValue())
                 .append(" ")
                 .append(page.title())
                 .append(" ")
                 .append(page.symbol())
                 .append("\n");
-        QCOMPARE(said, std::string("overview Overview square.grid.2x2\n"
+        QCOMPARE(pages, std::string("overview Overview square.grid.2x2\n"
                                    "trends Trends chart.line.uptrend.xyaxis\n"
                                    "compare Compare rectangle.split.2x1\n"));
+    }
+
+    void findsPagesByName()
+    {
+        for (const AppPage page : AppPage::all)
+            QCOMPARE(AppPage::fromRawValue(page.rawValue()), std::optional<AppPage>(page));
+        QVERIFY(!AppPage::fromRawValue("Trends"));
     }
 };
 

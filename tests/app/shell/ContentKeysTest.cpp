@@ -22,11 +22,11 @@ private Q_SLOTS:
     void controlAndANumberGoToThePages()
     {
         m_window->press(Qt::Key_2, Qt::ControlModifier);
-        QCOMPARE(page(), 1);
+        QCOMPARE(pageIndex(), 1);
         m_window->press(Qt::Key_3, Qt::ControlModifier);
-        QCOMPARE(page(), 2);
+        QCOMPARE(pageIndex(), 2);
         m_window->press(Qt::Key_1, Qt::ControlModifier);
-        QCOMPARE(page(), 0);
+        QCOMPARE(pageIndex(), 0);
     }
 
     void thePagesCanBeChangedFromWithinAPage()
@@ -34,7 +34,7 @@ private Q_SLOTS:
         scan();
         m_window->press(Qt::Key_F6);
         m_window->press(Qt::Key_3, Qt::ControlModifier);
-        QCOMPARE(page(), 2);
+        QCOMPARE(pageIndex(), 2);
     }
 
     void f6GoesToThePageAndBack()
@@ -47,7 +47,7 @@ private Q_SLOTS:
         m_window->press(Qt::Key_F6);
         QCOMPARE(focusedName(), currentPage());
         m_window->press(Qt::Key_Down);
-        QCOMPARE(page(), 1);
+        QCOMPARE(pageIndex(), 1);
     }
 
     void f6ReturnsToWhereTheKeyboardWas()
@@ -92,9 +92,9 @@ private Q_SLOTS:
         scan();
         QCOMPARE(focusedName(), currentPage());
         m_window->press(Qt::Key_End);
-        QCOMPARE(page(), 2);
+        QCOMPARE(pageIndex(), 2);
         m_window->press(Qt::Key_Home);
-        QCOMPARE(page(), 0);
+        QCOMPARE(pageIndex(), 0);
     }
 
     void controlWAndControlQCloseTheWindow_data()
@@ -174,12 +174,12 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] int page() { return m_window->loadwick().content().pageIndex(); }
+    [[nodiscard]] int pageIndex() { return m_window->loadwick().content().pageIndex(); }
     /// The row that has the focus when the list of pages has it.
     [[nodiscard]] QString currentPage()
     {
-        return QString::fromStdString(
-            std::string(AppPage::all.at(static_cast<std::size_t>(page())).title()));
+        const AppPage page = AppPage::all.at(static_cast<std::size_t>(pageIndex()));
+        return QString::fromStdString(std::string(page.title()));
     }
     [[nodiscard]] QQuickItem *focused() { return m_window->loadwick().window().activeFocusItem(); }
     [[nodiscard]] static double column(const QQuickItem *item)
