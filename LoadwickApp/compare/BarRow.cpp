@@ -25,21 +25,21 @@ QRectF barOn(const QRectF &track, double length)
     return bar;
 }
 
-QRectF mirroredIn(qreal rowWidth, const QRectF &place)
+QRectF mirroredIn(qreal rowWidth, const QRectF &box)
 {
-    return {rowWidth - place.right(), place.top(), place.width(), place.height()};
+    return {rowWidth - box.right(), box.top(), box.width(), box.height()};
 }
 
-void write(QPainter &painter, const QRectF &place, Qt::Alignment side, const QString &words)
+void write(QPainter &painter, const QRectF &box, Qt::Alignment side, const QString &words)
 {
     painter.drawText(
-        place, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
+        box, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
         words);
 }
 
 } // namespace
 
-BarRowPlaces BarRowPlaces::stacked(const QSizeF &row, qreal lineHeight, qreal valueWidth,
+BarRowLayout BarRowLayout::stacked(const QSizeF &row, qreal lineHeight, qreal valueWidth,
                                    double length)
 {
     const QRectF track(0, row.height() - barMargin - barHeight, row.width(), barHeight);
@@ -51,7 +51,7 @@ BarRowPlaces BarRowPlaces::stacked(const QSizeF &row, qreal lineHeight, qreal va
             .bar = barOn(track, length)};
 }
 
-BarRowPlaces BarRowPlaces::inLine(const QSizeF &row, qreal nameWidth, qreal valueWidth,
+BarRowLayout BarRowLayout::inLine(const QSizeF &row, qreal nameWidth, qreal valueWidth,
                                   double length)
 {
     const QRectF value(row.width() - valueWidth, 0, valueWidth, row.height());
@@ -64,7 +64,7 @@ BarRowPlaces BarRowPlaces::inLine(const QSizeF &row, qreal nameWidth, qreal valu
             .bar = barOn(track, length)};
 }
 
-BarRowPlaces BarRowPlaces::heading(const QSizeF &row, qreal lineHeight)
+BarRowLayout BarRowLayout::heading(const QSizeF &row, qreal lineHeight)
 {
     return {.name = {0, row.height() - lineGap - lineHeight, row.width(), lineHeight},
             .value = {},
@@ -72,7 +72,7 @@ BarRowPlaces BarRowPlaces::heading(const QSizeF &row, qreal lineHeight)
             .bar = {}};
 }
 
-BarRowPlaces BarRowPlaces::mirrored(qreal rowWidth) const
+BarRowLayout BarRowLayout::mirrored(qreal rowWidth) const
 {
     return {.name = mirroredIn(rowWidth, name),
             .value = mirroredIn(rowWidth, value),
@@ -101,35 +101,35 @@ void BarRow::setStyle(BarStyle *style)
 
 QString BarRow::tip() const
 {
-    if (!place.isEmpty())
-        return name + u'\n' + place;
+    if (!path.isEmpty())
+        return name + u'\n' + path;
     const bool isCut = m_style && QFontMetricsF(nameFont()).horizontalAdvance(name) >
-                                      std::ceil(places().name.width());
+                                      std::ceil(layout().name.width());
     return isCut || arrangement == Heading ? name : QString();
 }
 
-BarRowPlaces BarRow::places() const
+BarRowLayout BarRow::layout() const
 {
     if (!m_style)
         return {};
-    const BarRowPlaces places = unmirroredPlaces();
-    return m_style->isMirrored ? places.mirrored(width()) : places;
+    const BarRowLayout layout = unmirroredLayout();
+    return m_style->isMirrored ? layout.mirrored(width()) : layout;
 }
 
-BarRowPlaces BarRow::unmirroredPlaces() const
+BarRowLayout BarRow::unmirroredLayout() const
 {
     const qreal lineHeight = std::ceil(QFontMetricsF(nameFont()).height());
     switch (arrangement) {
     case Stacked: {
         const qreal advance = QFontMetricsF(m_style->valueFont).horizontalAdvance(value);
-        return BarRowPlaces::stacked(size(), lineHeight, std::ceil(advance), length);
+        return BarRowLayout::stacked(size(), lineHeight, std::ceil(advance), length);
     }
     case InLine:
-        return BarRowPlaces::inLine(size(), m_style->nameWidth, m_style->valueWidth, length);
+        return BarRowLayout::inLine(size(), m_style->nameWidth, m_style->valueWidth, length);
     case Heading:
         break;
     }
-    return BarRowPlaces::heading(size(), lineHeight);
+    return BarRowLayout::heading(size(), lineHeight);
 }
 
 const QFont &BarRow::nameFont() const
@@ -148,32 +148,32 @@ void BarRow::paint(QPainter *painter)
 {
     if (!m_style)
         return;
-    const BarRowPlaces where = places();
-    paintBar(*painter, where);
-    paintWords(*painter, where);
+    const BarRowLayout parts = layout();
+    paintBar(*painter, parts);
+    paintWords(*painter, parts);
 }
 
-void BarRow::paintBar(QPainter &painter, const BarRowPlaces &places) const
+void BarRow::paintBar(QPainter &painter, const BarRowLayout &layout) const
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_style->track);
-    painter.drawRoundedRect(places.track, cornerRadius, cornerRadius);
-    const qreal radius = std::min(cornerRadius, places.bar.width() / 2);
+    painter.drawRoundedRect(layout.track, cornerRadius, cornerRadius);
+    const qreal radius = std::min(cornerRadius, layout.bar.width() / 2);
     painter.setBrush(fill);
-    painter.drawRoundedRect(places.bar, radius, radius);
+    painter.drawRoundedRect(layout.bar, radius, radius);
 }
 
-void BarRow::paintWords(QPainter &painter, const BarRowPlaces &places) const
+void BarRow::paintWords(QPainter &painter, const BarRowLayout &layout) const
 {
     const Qt::Alignment start = m_style->isMirrored ? Qt::AlignRight : Qt::AlignLeft;
     const Qt::Alignment end = m_style->isMirrored ? Qt::AlignLeft : Qt::AlignRight;
     painter.setFont(nameFont());
     painter.setPen(nameColor());
-    write(painter, places.name, start,
-          QFontMetricsF(nameFont()).elidedText(name, Qt::ElideMiddle, places.name.width()));
+    write(painter, layout.name, start,
+          QFontMetricsF(nameFont()).elidedText(name, Qt::ElideMiddle, layout.name.width()));
     painter.setFont(m_style->valueFont);
     painter.setPen(isRecorded ? m_style->text : m_style->secondaryText);
-    write(painter, places.value, end, value);
+    write(painter, layout.value, end, value);
 }
 
 } // namespace Loadwick

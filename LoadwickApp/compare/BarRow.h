@@ -43,7 +43,7 @@ Q_SIGNALS:
 };
 
 /// The parts of a bar chart's row; a part that a row lacks is empty.
-struct BarRowPlaces
+struct BarRowLayout
 {
     QRectF name;
     QRectF value;
@@ -51,19 +51,19 @@ struct BarRowPlaces
     QRectF bar;
 
     /// Name and figure over the bar. The figure takes its `valueWidth`, the name the rest.
-    [[nodiscard]] static BarRowPlaces stacked(const QSizeF &row, qreal lineHeight, qreal valueWidth,
+    [[nodiscard]] static BarRowLayout stacked(const QSizeF &row, qreal lineHeight, qreal valueWidth,
                                               double length);
 
     /// Name, bar and figure on one line, in columns. `length` is how much of the track the bar
     /// fills, 0 to 1.
-    [[nodiscard]] static BarRowPlaces inLine(const QSizeF &row, qreal nameWidth, qreal valueWidth,
+    [[nodiscard]] static BarRowLayout inLine(const QSizeF &row, qreal nameWidth, qreal valueWidth,
                                              double length);
 
     /// A name alone, at the bottom, close to the rows that it names.
-    [[nodiscard]] static BarRowPlaces heading(const QSizeF &row, qreal lineHeight);
+    [[nodiscard]] static BarRowLayout heading(const QSizeF &row, qreal lineHeight);
 
     /// The same row, mirrored for right-to-left reading.
-    [[nodiscard]] BarRowPlaces mirrored(qreal rowWidth) const;
+    [[nodiscard]] BarRowLayout mirrored(qreal rowWidth) const;
 };
 
 /// One row of a bar chart, painted: a name, a figure and a bar on the track of its scale. One item
@@ -76,7 +76,7 @@ class BarRow : public QQuickPaintedItem
     Q_PROPERTY(Loadwick::BarStyle *style READ style WRITE setStyle NOTIFY styleChanged)
     Q_PROPERTY(Arrangement arrangement MEMBER arrangement NOTIFY changed)
     Q_PROPERTY(QString name MEMBER name NOTIFY changed)
-    Q_PROPERTY(QString place MEMBER place NOTIFY changed)
+    Q_PROPERTY(QString path MEMBER path NOTIFY changed)
     Q_PROPERTY(QString value MEMBER value NOTIFY changed)
     Q_PROPERTY(double length MEMBER length NOTIFY changed)
     Q_PROPERTY(bool isRecorded MEMBER isRecorded NOTIFY changed)
@@ -102,13 +102,13 @@ public:
     /// that tells it from its namesakes. Empty if there is nothing to add.
     [[nodiscard]] QString tip() const;
 
-    [[nodiscard]] BarRowPlaces places() const;
+    [[nodiscard]] BarRowLayout layout() const;
 
     void paint(QPainter *painter) override;
 
     Arrangement arrangement = Stacked;
     QString name;
-    QString place; ///< the path of the repository of that name, empty for a category
+    QString path; ///< of the repository of that name; empty for a category
     QString value;
     double length = 0; ///< of the bar, 0 to 1
     bool isRecorded = true;
@@ -119,11 +119,11 @@ Q_SIGNALS:
     void styleChanged();
 
 private:
-    [[nodiscard]] BarRowPlaces unmirroredPlaces() const;
+    [[nodiscard]] BarRowLayout unmirroredLayout() const;
     [[nodiscard]] const QFont &nameFont() const;
     [[nodiscard]] QColor nameColor() const;
-    void paintWords(QPainter &painter, const BarRowPlaces &places) const;
-    void paintBar(QPainter &painter, const BarRowPlaces &places) const;
+    void paintWords(QPainter &painter, const BarRowLayout &layout) const;
+    void paintBar(QPainter &painter, const BarRowLayout &layout) const;
 
     QPointer<BarStyle> m_style;
 };

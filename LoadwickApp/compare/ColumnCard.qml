@@ -7,17 +7,17 @@ ReportSurface {
     id: card
 
     required property ComparePresenter compare
-    // The repository's index. Colours repeat after five.
-    required property int place
+    // Colours repeat after five.
+    required property int repositoryIndex
     required property Flickable viewport
     required property BarStyle style
     // Whether it has rows before it is visible: cards become visible three at a time.
     required property bool isFilled
     readonly property ColumnPresenter column: ColumnPresenter {
         compare: card.compare
-        number: card.place
+        number: card.repositoryIndex
     }
-    readonly property color fill: AppTheme.chartColors[card.place % AppTheme.chartColors.length]
+    readonly property color fill: AppTheme.chartColors[card.repositoryIndex % AppTheme.chartColors.length]
 
     // One category: its name and its tokens over its bar.
     component Bar: BarRow {
@@ -43,10 +43,10 @@ ReportSurface {
         ListView.onReused: bar.visible = true
     }
 
-    onPlaceChanged: bars.begin()
+    onRepositoryIndexChanged: bars.begin()
     Accessible.role: Accessible.Grouping
     Accessible.name: card.column.name
-    Accessible.description: card.column.place
+    Accessible.description: card.column.path
 
     Item {
         Layout.fillWidth: true

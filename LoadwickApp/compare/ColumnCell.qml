@@ -14,7 +14,7 @@ Loader {
     // Once the cell is complete, it follows `nextLine` when it is this card's turn.
     property int line: cell.nextLine
     readonly property bool isLate: cell.isKept && cell.line !== cell.nextLine
-    readonly property int place: cell.line * cell.grid.acrossCount + cell.across
+    readonly property int repositoryIndex: cell.line * cell.grid.acrossCount + cell.across
     readonly property real step: cell.grid.cardWidth + cell.grid.gap
 
     function settle() {
@@ -27,7 +27,7 @@ Loader {
     // The last one takes the remainder.
     width: cell.across === cell.grid.acrossCount - 1 ? cell.grid.width - cell.across * cell.step : cell.grid.cardWidth
     height: cell.grid.cardHeight
-    visible: cell.place < cell.grid.count && cell.isKept
+    visible: cell.repositoryIndex < cell.grid.count && cell.isKept
     active: cell.index === 0 || !cell.grid.isLarge || (cell.isKept && cell.index < cell.grid.madeCount)
     onNextLineChanged: if (!cell.grid.isLarge) cell.settle()
     onIsLateChanged: if (cell.isLate) cell.grid.hasLateCards = true
@@ -35,7 +35,7 @@ Loader {
         cell.settle();
         cell.setSource("ColumnCard.qml", {
             compare: cell.grid.compare,
-            place: Qt.binding(() => cell.place),
+            repositoryIndex: Qt.binding(() => cell.repositoryIndex),
             viewport: cell.grid.viewport,
             style: cell.grid.style,
             isFilled: Qt.binding(() => cell.index < cell.grid.filledCount)
@@ -47,9 +47,9 @@ Loader {
 
         function onAcrossCountChanged() { cell.settle(); }
         function onTurn(reach) {
-            if (cell.grid.isTaken || !cell.isLate || Math.abs(cell.nextLine - cell.grid.middleLine) > reach)
+            if (cell.grid.hasMovedCard || !cell.isLate || Math.abs(cell.nextLine - cell.grid.middleLine) > reach)
                 return;
-            cell.grid.isTaken = true;
+            cell.grid.hasMovedCard = true;
             cell.settle();
         }
     }

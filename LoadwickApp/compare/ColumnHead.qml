@@ -32,7 +32,7 @@ Item {
         maximumLineCount: 1
         KeyNavigation.down: scanned
 
-        HoverTip { words: head.column.name + "\n" + head.column.place }
+        HoverTip { words: head.column.name + "\n" + head.column.path }
     }
     SelectableText {
         id: scanned

@@ -47,7 +47,7 @@ Item {
 
     // Whether cards are still on lines that left the page, and whether one has moved in this frame.
     property bool hasLateCards: false
-    property bool isTaken: false
+    property bool hasMovedCard: false
 
     // Lets one card move whose next line is at most `reach` lines from the page's middle.
     signal turn(reach: int)
@@ -73,11 +73,11 @@ Item {
     FrameAnimation {
         running: grid.hasLateCards
         onTriggered: {
-            grid.isTaken = false;
+            grid.hasMovedCard = false;
             grid.turn(1);
-            if (!grid.isTaken)
+            if (!grid.hasMovedCard)
                 grid.turn(grid.lineCount);
-            grid.hasLateCards = grid.isTaken;
+            grid.hasLateCards = grid.hasMovedCard;
         }
     }
 }

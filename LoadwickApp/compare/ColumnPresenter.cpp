@@ -52,7 +52,7 @@ QString ColumnPresenter::name() const
     return m_comparison ? qtText(scan().repositoryName) : QString();
 }
 
-QString ColumnPresenter::place() const
+QString ColumnPresenter::path() const
 {
     return m_comparison ? qtText(scan().repositoryPath) : QString();
 }

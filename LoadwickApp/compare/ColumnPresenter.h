@@ -28,7 +28,7 @@ class ColumnPresenter : public QObject
     Q_PROPERTY(int number READ number WRITE setNumber REQUIRED)
     Q_PROPERTY(Loadwick::RowList *bars READ bars CONSTANT)
     Q_PROPERTY(QString name READ name NOTIFY changed)
-    Q_PROPERTY(QString place READ place NOTIFY changed)
+    Q_PROPERTY(QString path READ path NOTIFY changed)
     Q_PROPERTY(QString scanned READ scanned NOTIFY changed)
     Q_PROPERTY(QString total READ total NOTIFY changed)
     Q_PROPERTY(int band READ band NOTIFY changed)
@@ -57,7 +57,7 @@ public:
 
     [[nodiscard]] QString name() const;
     /// The path, which tells namesakes apart.
-    [[nodiscard]] QString place() const;
+    [[nodiscard]] QString path() const;
     [[nodiscard]] QString scanned() const;
     [[nodiscard]] QString total() const;
     /// The total's band, as an index of the theme's bands.

@@ -25,7 +25,7 @@ ReportSurface {
 
         required property bool isCategory
         required property string title
-        required place
+        required path
         required property int column
         required value
         required length
@@ -42,7 +42,7 @@ ReportSurface {
         fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
         Accessible.role: row.isCategory ? Accessible.Heading : Accessible.ListItem
         Accessible.name: row.spoken
-        Accessible.description: row.place
+        Accessible.description: row.path
         // Hidden while pooled.
         ListView.onPooled: row.visible = false
         ListView.onReused: row.visible = true

@@ -38,7 +38,7 @@ CombinedLine CombinedLines::operator[](std::size_t index) const
 std::vector<CombinedRows::Role> combinedRoles(const TextLocale &locale)
 {
     using Line = CombinedLine;
-    const auto place = [](const Line &line) {
+    const auto path = [](const Line &line) {
         return line.column ? qtText(line.comparison->columns.at(*line.column).repositoryPath)
                            : QString();
     };
@@ -51,7 +51,7 @@ std::vector<CombinedRows::Role> combinedRoles(const TextLocale &locale)
     return {
         {"isCategory", [](const Line &line) { return !line.column; }},
         {"title", &Line::title},
-        {"place", place},
+        {"path", path},
         {"column", [](const Line &line) { return line.column ? int(*line.column) : -1; }},
         {"value", value},
         {"length",

@@ -58,7 +58,7 @@ std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale)
         {"trendKind", [mark](const Row &row) { return static_cast<int>(mark(row).kind); }},
         {"trendTitle", [mark](const Row &row) { return mark(row).title; }},
         {"trendSymbol", [mark](const Row &row) { return mark(row).symbol; }},
-        {"place", [](const Row &row) { return qtText(row.entry.latest.repositoryPath); }},
+        {"path", [](const Row &row) { return qtText(row.entry.latest.repositoryPath); }},
         {"sentence", sentence},
     };
 }

@@ -29,7 +29,7 @@ struct RankedEntry
 using LeaderboardRows = ListOf<RankedEntry>;
 
 /// What a row of the leaderboard says: "rank", "title", "detail", "value", "band" and "bandTitle"
-/// of the latest total, "trendKind", "trendTitle" and "trendSymbol" for a `TrendPill`, "place", the
+/// of the latest total, "trendKind", "trendTitle" and "trendSymbol" for a `TrendPill`, "path", the
 /// path that tells namesakes apart, and "sentence", all words of the row.
 [[nodiscard]] std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale);
 

@@ -6,7 +6,7 @@ HistoryRow {
     id: row
 
     required rank
-    required place
+    required path
     required sentence
     required property int band
     required property string bandTitle

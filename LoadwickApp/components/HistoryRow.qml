@@ -15,7 +15,7 @@ Item {
     property color valueTint: AppTheme.text
     property string valueCaption: ""
     // Tells rows of the same title apart; empty where they are distinct.
-    property string place: ""
+    property string path: ""
     // All words of the row, for a screen reader.
     property string sentence: title
     // The minimum room for the child, so that the figures of all rows are aligned.
@@ -26,7 +26,7 @@ Item {
     implicitHeight: line.implicitHeight + 2 * AppTheme.tightSpace
     Accessible.role: Accessible.ListItem
     Accessible.name: row.sentence
-    Accessible.description: row.place
+    Accessible.description: row.path
     // Hidden while pooled.
     ListView.onPooled: row.visible = false
     ListView.onReused: row.visible = true
@@ -52,8 +52,8 @@ Item {
 
             readonly property bool cutShort: heading.truncated || note.truncated
             readonly property string both: row.title + "\n" + row.detail
-            readonly property string whole: !words.cutShort ? row.place
-                : row.place.length > 0 ? words.both + "\n" + row.place : words.both
+            readonly property string whole: !words.cutShort ? row.path
+                : row.path.length > 0 ? words.both + "\n" + row.path : words.both
 
             objectName: "words"
             Layout.fillWidth: true

@@ -19,7 +19,7 @@ AbstractButton {
             loader.setSource("RecentMenu.qml", { recent: button.recent });
             button.menu = loader.item as RecentMenu;
         }
-        button.recent.look();
+        button.recent.checkFolders();
         button.menu.popup(button, button.width - button.menu.width, button.height + AppTheme.tightSpace);
     }
 

@@ -17,10 +17,10 @@ PlainMenu {
             id: row
 
             required property int index
-            required property bool isThere
+            required property bool exists
             required property bool isCurrent
 
-            enabled: row.isThere
+            enabled: row.exists
             marked: row.isCurrent
             onTriggered: (row.menu as RecentMenu).recent.choose(row.index)
         }

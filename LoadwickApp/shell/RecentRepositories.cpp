@@ -23,7 +23,7 @@ std::vector<Row> recentRows(std::span<const RecordedScan> history)
             break;
         if (listed.insert(scan.repositoryPath).second)
             rows.push_back({.title = qtText(scan.repositoryName),
-                            .place = shownPath(scan.repositoryPath),
+                            .path = shownPath(scan.repositoryPath),
                             .folder = scan.repositoryPath});
     }
     return rows;
@@ -31,8 +31,8 @@ std::vector<Row> recentRows(std::span<const RecordedScan> history)
 
 QString detailOf(const Row &row)
 {
-    const bool isGone = !row.isThere.value_or(true);
-    return isGone ? RecentRepositories::tr("Folder not found: %1").arg(row.place) : row.place;
+    const bool isGone = !row.exists.value_or(true);
+    return isGone ? RecentRepositories::tr("Folder not found: %1").arg(row.path) : row.path;
 }
 
 } // namespace
@@ -44,7 +44,7 @@ RecentRepositories::RecentRepositories(ScanModel &model, ContentPresenter &conte
       m_dispatcher(std::move(dispatcher)),
       m_rows({{"title", [](const Row &row) { return row.title; }},
               {"detail", detailOf},
-              {"isThere", [](const Row &row) { return row.isThere.value_or(false); }},
+              {"exists", [](const Row &row) { return row.exists.value_or(false); }},
               {"isCurrent", [](const Row &row) { return row.isCurrent; }}})
 {
     m_model.history().observe({.didChange = [this] { showHistory(); }});
@@ -68,27 +68,27 @@ void RecentRepositories::showSelection()
     m_rows.updateRows(std::move(rows));
 }
 
-void RecentRepositories::look()
+void RecentRepositories::checkFolders()
 {
     // One thread each, so that a hanging disk delays no other.
     for (const Row &row : m_rows.rows())
-        lookFor(row.folder);
+        check(row.folder);
 }
 
-void RecentRepositories::lookFor(const std::filesystem::path &folder)
+void RecentRepositories::check(const std::filesystem::path &folder)
 {
     // Without a thread the folder stays disabled; the dialog remains.
     inBackground(
         this, m_dispatcher, [folder] { return isFolder(folder); },
-        [this, folder](bool isThere) { setIsThere(folder, isThere); });
+        [this, folder](bool exists) { setExists(folder, exists); });
 }
 
-void RecentRepositories::setIsThere(const std::filesystem::path &folder, bool isThere)
+void RecentRepositories::setExists(const std::filesystem::path &folder, bool exists)
 {
     std::vector<Row> rows = m_rows.rows();
     for (Row &row : rows)
         if (row.folder == folder)
-            row.isThere = isThere;
+            row.exists = exists;
     m_rows.updateRows(std::move(rows));
 }
 
@@ -97,7 +97,7 @@ void RecentRepositories::choose(int row)
     if (row < 0 || row >= count())
         return;
     const Row chosen = m_rows.rows()[static_cast<std::size_t>(row)];
-    if (!chosen.isThere.value_or(false))
+    if (!chosen.exists.value_or(false))
         return;
     if (chosen.isCurrent)
         m_content.setPageIndex(AppPage::overview);

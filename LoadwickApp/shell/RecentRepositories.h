@@ -31,22 +31,22 @@ public:
     struct Row
     {
         QString title;
-        QString place; ///< the folder, as text
+        QString path; ///< the folder, as text
         std::filesystem::path folder;
-        std::optional<bool> isThere = {}; ///< unknown until checked
+        std::optional<bool> exists = {}; ///< unknown until checked
         bool isCurrent = false;           ///< the repository that is chosen now
     };
 
     RecentRepositories(ScanModel &model, ContentPresenter &content,
                        std::shared_ptr<TaskDispatcher> dispatcher);
 
-    /// Most recently scanned first: "title", "detail" (where it is, or was), "isThere" (false until
+    /// Most recently scanned first: "title", "detail" (where it is, or was), "exists" (false until
     /// checked) and "isCurrent".
     [[nodiscard]] RowList *rows() { return &m_rows; }
     [[nodiscard]] int count() const { return m_rows.count(); }
 
     /// Checks in the background which of the folders exist.
-    Q_INVOKABLE void look();
+    Q_INVOKABLE void checkFolders();
 
     /// Chooses the repository of that row, if its folder exists and no scan runs. The current one
     /// keeps its result, which the Overview then shows.
@@ -58,8 +58,8 @@ Q_SIGNALS:
 private:
     void showHistory();
     void showSelection();
-    void lookFor(const std::filesystem::path &folder);
-    void setIsThere(const std::filesystem::path &folder, bool isThere);
+    void check(const std::filesystem::path &folder);
+    void setExists(const std::filesystem::path &folder, bool exists);
 
     ScanModel &m_model;
     ContentPresenter &m_content;

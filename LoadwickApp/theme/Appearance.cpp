@@ -38,17 +38,17 @@ bool Appearance::moreContrast() const
 
 bool Appearance::hasAccent() const
 {
-    return m_source.wishes().accent.has_value();
+    return m_source.preferences().accent.has_value();
 }
 
 QColor Appearance::accent() const
 {
-    return m_source.wishes().accent.value_or(QColor());
+    return m_source.preferences().accent.value_or(QColor());
 }
 
 double Appearance::textScale() const
 {
-    return m_textScale.value_or(m_source.wishes().textScale());
+    return m_textScale.value_or(m_source.preferences().textScale());
 }
 
 QColor Appearance::readable(const QColor &accent, const QList<QColor> &grounds, double tint) const

@@ -28,7 +28,7 @@ class Appearance : public QObject
     /// The accent of the user's desktop, unadjusted, if the desktop has one.
     Q_PROPERTY(bool hasAccent READ hasAccent NOTIFY changed)
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
-    /// See DesktopWishes::textScale.
+    /// See DesktopPreferences::textScale.
     Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY changed)
     Q_PROPERTY(Scheme scheme READ scheme WRITE setScheme NOTIFY changed)
     Q_PROPERTY(Motion motion READ motion WRITE setMotion NOTIFY changed)

@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-DesktopWishes DesktopWishes::orElse(const DesktopWishes &other) const
+DesktopPreferences DesktopPreferences::orElse(const DesktopPreferences &other) const
 {
     return {.dark = dark ? dark : other.dark,
             .reducedMotion = reducedMotion ? reducedMotion : other.reducedMotion,
@@ -14,7 +14,7 @@ DesktopWishes DesktopWishes::orElse(const DesktopWishes &other) const
             .textFactor = textFactor ? textFactor : other.textFactor};
 }
 
-double DesktopWishes::textScale() const
+double DesktopPreferences::textScale() const
 {
     constexpr double usualPoints = 10;
     constexpr double mostUsualPoints = 11;

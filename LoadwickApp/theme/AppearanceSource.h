@@ -7,8 +7,9 @@
 
 namespace Loadwick {
 
-/// A desktop's wishes for the look of its programs. An absent wish is not a wish for the opposite.
-struct DesktopWishes
+/// What the desktop asks of a program's appearance. An absent value means no preference, not the
+/// opposite one.
+struct DesktopPreferences
 {
     std::optional<bool> dark = {};          ///< light text on dark ground
     std::optional<bool> reducedMotion = {}; ///< no decorative motion
@@ -17,8 +18,8 @@ struct DesktopWishes
     std::optional<double> fontPoints = {};  ///< size of the desktop's own font
     std::optional<double> textFactor = {};  ///< multiplies the size of all text
 
-    /// These wishes, with absent ones taken from `other`.
-    [[nodiscard]] DesktopWishes orElse(const DesktopWishes &other) const;
+    /// These preferences, with absent ones taken from `other`.
+    [[nodiscard]] DesktopPreferences orElse(const DesktopPreferences &other) const;
 
     /// The scale of text, from 1 to `largestTextScale`. Desktops come with fonts of 9 to 11 points;
     /// up to there the scale is 1.
@@ -27,11 +28,11 @@ struct DesktopWishes
     /// 14 points instead of 10; the smallest window has no room for more.
     static constexpr double largestTextScale = 1.4;
 
-    friend bool operator==(const DesktopWishes &, const DesktopWishes &) = default;
+    friend bool operator==(const DesktopPreferences &, const DesktopPreferences &) = default;
 };
 
-/// A source of the desktop's wishes. Lives on the interface thread and never blocks it: a wish is
-/// absent until it is known, and `changed` announces it.
+/// A source of the desktop's preferences. Lives on the interface thread and never blocks it: a
+/// preference is absent until it is known, and `changed` announces it.
 class AppearanceSource : public QObject
 {
     Q_OBJECT
@@ -39,17 +40,17 @@ class AppearanceSource : public QObject
 public:
     using QObject::QObject;
 
-    [[nodiscard]] virtual DesktopWishes wishes() const = 0;
+    [[nodiscard]] virtual DesktopPreferences preferences() const = 0;
 
-    [[nodiscard]] bool prefersDark() const { return wishes().dark.value_or(false); }
+    [[nodiscard]] bool prefersDark() const { return preferences().dark.value_or(false); }
     [[nodiscard]] bool prefersReducedMotion() const
     {
-        return wishes().reducedMotion.value_or(false);
+        return preferences().reducedMotion.value_or(false);
     }
-    [[nodiscard]] bool prefersMoreContrast() const { return wishes().moreContrast.value_or(false); }
+    [[nodiscard]] bool prefersMoreContrast() const { return preferences().moreContrast.value_or(false); }
 
 Q_SIGNALS:
-    /// A wish has changed.
+    /// A preference has changed.
     void changed();
 };
 

@@ -16,7 +16,7 @@ PaletteAppearanceSource::PaletteAppearanceSource(QObject *parent) : AppearanceSo
     qGuiApp->installEventFilter(this);
 }
 
-DesktopWishes PaletteAppearanceSource::wishes() const
+DesktopPreferences PaletteAppearanceSource::preferences() const
 {
     return {.dark = QGuiApplication::palette().window().color().lightness() < 128};
 }
@@ -49,10 +49,10 @@ DesktopAppearanceSource::ofUser(const std::shared_ptr<TaskDispatcher> &dispatche
 
 void DesktopAppearanceSource::ask()
 {
-    DesktopWishes wishes;
+    DesktopPreferences preferences;
     for (const auto &source : m_sources)
-        wishes = wishes.orElse(source->wishes());
-    if (std::exchange(m_wishes, wishes) != wishes)
+        preferences = preferences.orElse(source->preferences());
+    if (std::exchange(m_preferences, preferences) != preferences)
         Q_EMIT changed();
 }
 

@@ -17,11 +17,11 @@ class PaletteAppearanceSource : public AppearanceSource
 public:
     explicit PaletteAppearanceSource(QObject *parent = nullptr);
 
-    [[nodiscard]] DesktopWishes wishes() const override;
+    [[nodiscard]] DesktopPreferences preferences() const override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 };
 
-/// Combines several sources: each wish comes from the first source that has it.
+/// Combines several sources: each preference comes from the first source that has it.
 class DesktopAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -36,13 +36,13 @@ public:
     [[nodiscard]] static std::unique_ptr<AppearanceSource>
     ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
-    [[nodiscard]] DesktopWishes wishes() const override { return m_wishes; }
+    [[nodiscard]] DesktopPreferences preferences() const override { return m_preferences; }
 
 private:
     void ask();
 
     Sources m_sources;
-    DesktopWishes m_wishes;
+    DesktopPreferences m_preferences;
 };
 
 } // namespace Loadwick

@@ -71,7 +71,7 @@ std::optional<bool> isStill(const QByteArray &factor)
 
 } // namespace
 
-DesktopWishes wishes(std::string_view text)
+DesktopPreferences preferences(std::string_view text)
 {
     const Entries found = entries(QByteArray(text.data(), static_cast<qsizetype>(text.size())));
     const QByteArray scheme = found.value("General/ColorScheme");
@@ -91,11 +91,11 @@ namespace {
 constexpr std::size_t byteLimit = 1 << 20;
 constexpr int burstMilliseconds = 100;
 
-DesktopWishes readWishes(const std::filesystem::path &file)
+DesktopPreferences readPreferences(const std::filesystem::path &file)
 {
     auto open = RegularFile::open(file);
     const auto text = open ? open->readUpTo(byteLimit) : std::nullopt;
-    return text ? KdeGlobals::wishes(*text) : DesktopWishes();
+    return text ? KdeGlobals::preferences(*text) : DesktopPreferences();
 }
 
 } // namespace
@@ -129,17 +129,17 @@ void KdeAppearanceSource::read()
     // KDE replaces the file, which ends the watch on the old one; hence the folder too.
     m_watcher.addPaths({QString::fromStdString(m_file.parent_path().string()),
                         QString::fromStdString(m_file.string())});
-    // Without a thread the earlier wishes remain.
+    // Without a thread the earlier preferences remain.
     inBackground(
-        this, m_dispatcher, [file = m_file] { return readWishes(file); },
-        [this](const DesktopWishes &wishes) { show(wishes); });
+        this, m_dispatcher, [file = m_file] { return readPreferences(file); },
+        [this](const DesktopPreferences &preferences) { show(preferences); });
 }
 
-void KdeAppearanceSource::show(const DesktopWishes &wishes)
+void KdeAppearanceSource::show(const DesktopPreferences &preferences)
 {
-    if (m_wishes == wishes)
+    if (m_preferences == preferences)
         return;
-    m_wishes = wishes;
+    m_preferences = preferences;
     Q_EMIT changed();
 }
 

@@ -13,17 +13,17 @@
 /// Reads the settings that KDE's programs share: "kdeglobals" in the user's configuration folder.
 namespace Loadwick::KdeGlobals {
 
-/// The wishes in the text of the file: dark by the ground of its windows, else by the name of its
-/// colour scheme; contrast by that name; reduced motion if the factor of animations is 0. Other
-/// lines are ignored.
-[[nodiscard]] DesktopWishes wishes(std::string_view text);
+/// The preferences in the text of the file: dark by the window background, else by the name of the
+/// colour scheme; contrast by that name; reduced motion if the animation factor is 0. Other lines
+/// are ignored.
+[[nodiscard]] DesktopPreferences preferences(std::string_view text);
 
 } // namespace Loadwick::KdeGlobals
 
 namespace Loadwick {
 
-/// The wishes that KDE keeps in a file, updated while the program runs. The file is read in the
-/// background; without it all wishes are absent.
+/// The preferences that KDE keeps in a file, updated while the program runs. The file is read in
+/// the background; without it all preferences are absent.
 class KdeAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -36,17 +36,17 @@ public:
     /// that KDE once left there is out of date.
     [[nodiscard]] static std::filesystem::path userFile();
 
-    [[nodiscard]] DesktopWishes wishes() const override { return m_wishes; }
+    [[nodiscard]] DesktopPreferences preferences() const override { return m_preferences; }
 
 private:
     void read();
-    void show(const DesktopWishes &wishes);
+    void show(const DesktopPreferences &preferences);
 
     std::filesystem::path m_file;
     std::shared_ptr<TaskDispatcher> m_dispatcher;
     QFileSystemWatcher m_watcher;
     QTimer m_afterwards; ///< merges a burst of changes
-    DesktopWishes m_wishes;
+    DesktopPreferences m_preferences;
 };
 
 } // namespace Loadwick

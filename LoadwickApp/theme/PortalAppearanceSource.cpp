@@ -44,9 +44,9 @@ std::optional<bool> flag(const QVariant &value)
     return value.typeId() == QMetaType::Bool ? std::optional(value.toBool()) : std::nullopt;
 }
 
-std::optional<bool> negated(std::optional<bool> wish)
+std::optional<bool> negated(std::optional<bool> value)
 {
-    return wish ? std::optional(!*wish) : std::nullopt;
+    return value ? std::optional(!*value) : std::nullopt;
 }
 
 /// 0 is no preference, 1 dark, 2 light.
@@ -98,26 +98,26 @@ std::optional<QColor> accentOfParts(const QVariant &value)
                             static_cast<float>(parts[2]));
 }
 
-using Wishes = DesktopWishes;
+using Preferences = DesktopPreferences;
 constexpr std::array<PortalAnswers::Key, 9> allKeys = {{
     {commonSpace, "color-scheme",
-     [](Wishes &wishes, const QVariant &value) { wishes.dark = darkOfNumber(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.dark = darkOfNumber(value); }},
     {commonSpace, "contrast",
-     [](Wishes &wishes, const QVariant &value) { wishes.moreContrast = asked(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.moreContrast = asked(value); }},
     {commonSpace, "reduced-motion",
-     [](Wishes &wishes, const QVariant &value) { wishes.reducedMotion = asked(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.reducedMotion = asked(value); }},
     {commonSpace, "accent-color",
-     [](Wishes &wishes, const QVariant &value) { wishes.accent = accentOfParts(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.accent = accentOfParts(value); }},
     {gnomeSpace, "color-scheme",
-     [](Wishes &wishes, const QVariant &value) { wishes.dark = darkOfWord(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.dark = darkOfWord(value); }},
     {gnomeSpace, "enable-animations",
-     [](Wishes &wishes, const QVariant &value) { wishes.reducedMotion = negated(flag(value)); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.reducedMotion = negated(flag(value)); }},
     {gnomeSpace, "font-name",
-     [](Wishes &wishes, const QVariant &value) { wishes.fontPoints = pointsOfFont(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.fontPoints = pointsOfFont(value); }},
     {gnomeSpace, "text-scaling-factor",
-     [](Wishes &wishes, const QVariant &value) { wishes.textFactor = factor(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.textFactor = factor(value); }},
     {gnomeAccessSpace, "high-contrast",
-     [](Wishes &wishes, const QVariant &value) { wishes.moreContrast = flag(value); }},
+     [](Preferences &preferences, const QVariant &value) { preferences.moreContrast = flag(value); }},
 }};
 
 } // namespace
@@ -140,7 +140,7 @@ PortalAppearanceSource::PortalAppearanceSource(const std::shared_ptr<TaskDispatc
                                                const Connect &connect, QObject *parent)
     : AppearanceSource(parent)
 {
-    // Without a thread all wishes remain absent.
+    // Without a thread all preferences remain absent.
     inBackground(this, dispatcher, connect, [this](const QDBusConnection &bus) { begin(bus); });
 }
 
@@ -181,9 +181,9 @@ void PortalAppearanceSource::followChange(const QDBusMessage &signal)
 
 void PortalAppearanceSource::take(const QString &space, const QString &name, const QVariant &value)
 {
-    const DesktopWishes before = wishes();
+    const DesktopPreferences before = preferences();
     m_answers.take(space, name, value);
-    if (wishes() != before)
+    if (preferences() != before)
         Q_EMIT changed();
 }
 

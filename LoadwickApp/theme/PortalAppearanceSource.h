@@ -24,7 +24,7 @@ public:
     {
         const char *space; ///< the portal calls it a namespace
         const char *name;
-        void (*read)(DesktopWishes &wishes, const QVariant &value);
+        void (*read)(DesktopPreferences &preferences, const QVariant &value);
     };
 
     /// The keys to read.
@@ -34,16 +34,16 @@ public:
     /// is ignored.
     void take(const QString &space, const QString &name, const QVariant &value);
 
-    [[nodiscard]] DesktopWishes wishes() const { return m_common.orElse(m_gnome); }
+    [[nodiscard]] DesktopPreferences preferences() const { return m_common.orElse(m_gnome); }
 
 private:
-    DesktopWishes m_common;
-    DesktopWishes m_gnome;
+    DesktopPreferences m_common;
+    DesktopPreferences m_gnome;
 };
 
-/// The wishes that the desktop's settings portal knows, updated while the program runs. The bus is
-/// connected in the background, since a bus that hangs blocks its callers; answers are
-/// asynchronous. Without a bus, a portal or an answer all wishes are absent.
+/// The preferences that the desktop's settings portal knows, updated while the program runs. The
+/// bus is connected in the background, since a bus that hangs blocks its callers; answers are
+/// asynchronous. Without a bus, a portal or an answer all preferences are absent.
 class PortalAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -56,7 +56,7 @@ public:
                                     const Connect &connect = &QDBusConnection::sessionBus,
                                     QObject *parent = nullptr);
 
-    [[nodiscard]] DesktopWishes wishes() const override { return m_answers.wishes(); }
+    [[nodiscard]] DesktopPreferences preferences() const override { return m_answers.preferences(); }
 
 private Q_SLOTS:
     void followChange(const QDBusMessage &signal);

@@ -27,7 +27,7 @@ ReportSurface {
             id: row
 
             required valueCaption
-            required place
+            required path
             required sentence
             required property int band
 

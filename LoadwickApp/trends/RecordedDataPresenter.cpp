@@ -67,12 +67,12 @@ std::vector<ListOf<RecordedScan>::Role> RecordedDataPresenter::runRoles() const
         {"value", value},
         {"valueCaption", valueCaption},
         {"band", [](const Scan &scan) { return static_cast<int>(scan.band()); }},
-        {"place", [this](const Scan &scan) { return placeOf(scan); }},
+        {"path", [this](const Scan &scan) { return pathOf(scan); }},
         {"sentence", sentence},
     };
 }
 
-QString RecordedDataPresenter::placeOf(const RecordedScan &scan) const
+QString RecordedDataPresenter::pathOf(const RecordedScan &scan) const
 {
     const auto isNamesake = [&scan](const RecordedScan &other) {
         return other.repositoryName == scan.repositoryName &&

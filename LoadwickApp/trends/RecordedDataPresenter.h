@@ -34,7 +34,7 @@ public:
     void showHistory();
 
     /// The newest scans first, `mostRuns` at most: "title" (the repository), "detail" (when),
-    /// "value" (tokens), "valueCaption", "band" (its number), "place", the repository's path where
+    /// "value" (tokens), "valueCaption", "band" (its number), "path", the repository's path where
     /// its name is ambiguous, else empty, and "sentence", all words of the row with its band.
     [[nodiscard]] RowList *runs() { return &m_runs; }
     /// Describes which scans these are.
@@ -57,7 +57,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] std::vector<ListOf<RecordedScan>::Role> runRoles() const;
-    [[nodiscard]] QString placeOf(const RecordedScan &scan) const;
+    [[nodiscard]] QString pathOf(const RecordedScan &scan) const;
 
     ScanModel &m_model;
     TextLocale m_locale;

@@ -187,7 +187,7 @@ std::optional<fs::path> linkTarget(fs::path path)
 }
 
 /// No error for a regular file or an unused path.
-std::error_code whyNotToReplace(const fs::path &path)
+std::error_code checkReplaceable(const fs::path &path)
 {
     std::error_code unknown;
     switch (fs::symlink_status(path, unknown).type()) {
@@ -218,7 +218,7 @@ std::error_code replace(const fs::path &path, std::string_view bytes)
     if (!target)
         return std::make_error_code(std::errc::too_many_symbolic_link_levels);
     removeAbandoned(*target);
-    if (const std::error_code reason = whyNotToReplace(*target))
+    if (const std::error_code reason = checkReplaceable(*target))
         return reason;
     std::optional<TemporaryFile> file = TemporaryFile::createFor(*target);
     if (!file || !file->write(bytes) || !file->replace(*target))

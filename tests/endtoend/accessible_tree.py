@@ -11,7 +11,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 from processes import is_running  # noqa: E402
-from waiting import LIMIT_SECONDS, WaitedInVain, until  # noqa: E402
+from waiting import LIMIT_SECONDS, WaitFailed, until  # noqa: E402
 
 Found = TypeVar("Found")
 
@@ -49,13 +49,13 @@ class AccessibleTree:
 
         def look_while_running() -> Optional[Found]:
             if not is_running(self._process):
-                raise WaitedInVain(f"the program ended while waiting for {what}")
+                raise WaitFailed(f"the program ended while waiting for {what}")
             return unless_gone(look, None)
 
         try:
             return until(what, look_while_running)
-        except WaitedInVain as failure:
-            raise WaitedInVain(f"{failure}\n{self._outline()}") from None
+        except WaitFailed as failure:
+            raise WaitFailed(f"{failure}\n{self._outline()}") from None
 
     def _outline(self) -> str:
         if not hasattr(self, "_root"):

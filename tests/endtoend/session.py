@@ -8,7 +8,7 @@ import sys
 import tempfile
 
 from processes import end_with_parent
-from waiting import LIMIT_SECONDS, WaitedInVain, until
+from waiting import LIMIT_SECONDS, WaitFailed, until
 
 MARK = "LOADWICK_OWN_SESSION"
 
@@ -78,7 +78,7 @@ class Display:
         with os.fdopen(reader) as answers:
             number = answers.readline().strip()
         if not number:
-            raise WaitedInVain("Xvfb ended before it was ready")
+            raise WaitFailed("Xvfb ended before it was ready")
         return f":{number}"
 
     def _start_window_manager(self) -> None:
@@ -87,7 +87,7 @@ class Display:
 
     def _has_window_manager(self) -> bool:
         if self._processes[-1].poll() is not None:
-            raise WaitedInVain("openbox ended before it was ready")
+            raise WaitFailed("openbox ended before it was ready")
         answer = subprocess.run(
             ["xdotool", "get_num_desktops"], capture_output=True, check=False
         )

@@ -11,17 +11,17 @@ LIMIT_SECONDS = 30.0  # of every wait; far more than a loaded machine with sanit
 STEP_SECONDS = 0.02
 
 
-class WaitedInVain(AssertionError):
-    """A wait timed out."""
+class WaitFailed(AssertionError):
+    """A wait timed out, or what it waited for can no longer happen."""
 
 
 def until(what: str, look: Callable[[], Optional[Found]], limit: float = LIMIT_SECONDS) -> Found:
-    """Polls `look` and returns its first true result; raises `WaitedInVain` after `limit`."""
+    """Polls `look` and returns its first true result; raises `WaitFailed` after `limit`."""
     end = time.monotonic() + limit
     while True:
         answer = look()
         if answer:
             return answer
         if time.monotonic() > end:
-            raise WaitedInVain(f"waited {limit:g} s in vain for {what}")
+            raise WaitFailed(f"timed out after {limit:g} s waiting for {what}")
         time.sleep(STEP_SECONDS)

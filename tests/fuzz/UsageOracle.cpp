@@ -12,13 +12,13 @@ std::optional<ProbeUsage> usageByTheRule(const nlohmann::json *value)
     constexpr std::array keys{"input_tokens", "cache_creation_input_tokens",
                               "cache_read_input_tokens", "output_tokens"};
     std::array<std::int64_t, keys.size()> counts{};
-    bool isThere = false;
+    bool hasCount = false;
     for (std::size_t index = 0; index < keys.size(); ++index) {
         const auto count = JsonOracle::integer(JsonOracle::find(value, keys[index]));
         counts[index] = count.value_or(0);
-        isThere = isThere || (count && index < 3);
+        hasCount = hasCount || (count && index < 3);
     }
-    if (!isThere)
+    if (!hasCount)
         return std::nullopt;
     return ProbeUsage{counts[0], counts[1], counts[2], counts[3]};
 }

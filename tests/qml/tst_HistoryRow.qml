@@ -20,7 +20,7 @@ Item {
             title: "a-name-that-goes-on-and-on-".repeat(9)
             detail: "a detail of great length ".repeat(9)
             value: "9,223,372,036,854"
-            place: "/srv/one"
+            path: "/srv/one"
             sentence: "1. a name of great length"
             accessoryWidth: 90
             ProvenancePill { objectName: "pill"; label: "First scan" }

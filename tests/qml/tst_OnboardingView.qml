@@ -188,13 +188,13 @@ Item {
 
         function test_theButtonsStayPut() {
             wait(50);
-            const place = button("Next").mapToItem(scene, 0, 0);
-            compare(place.y, Math.round(place.y));
+            const position = button("Next").mapToItem(scene, 0, 0);
+            compare(position.y, Math.round(position.y));
             for (let index = 1; index < 4; ++index) {
                 keyClick(Qt.Key_Return);
                 wait(50);
                 const primary = button("Next") ?? button("Got it");
-                compare(primary.mapToItem(scene, primary.width, 0).y, place.y);
+                compare(primary.mapToItem(scene, primary.width, 0).y, position.y);
             }
         }
 

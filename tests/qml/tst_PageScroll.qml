@@ -139,12 +139,12 @@ Item {
 
         function test_nothingMovesUnderAPressedPointer() {
             page.viewport.contentY = 30;
-            const place = first.mapToItem(scene, 0, 0);
-            mousePress(scene, place.x + 5, place.y + 35);
+            const position = first.mapToItem(scene, 0, 0);
+            mousePress(scene, position.x + 5, position.y + 35);
             verify(first.activeFocus);
             wait(20);
             compare(page.viewport.contentY, 30);
-            mouseRelease(scene, place.x + 5, place.y + 35);
+            mouseRelease(scene, position.x + 5, position.y + 35);
         }
 
         function test_focusElsewhereMovesNothing() {

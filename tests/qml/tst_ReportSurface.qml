@@ -45,9 +45,9 @@ Item {
         }
 
         function test_padsItsContentBySixteen() {
-            const place = content.mapToItem(card, 0, 0);
-            compare(place.x, 16);
-            compare(place.y, 16);
+            const position = content.mapToItem(card, 0, 0);
+            compare(position.x, 16);
+            compare(position.y, 16);
             compare(card.implicitHeight, 60 + 32);
         }
 

@@ -12,7 +12,7 @@
 #include "shell/LoadwickApp.h"
 #include "stage/Camera.h"
 #include "stage/ConfinedWindow.h"
-#include "stage/ProcessOfItsOwn.h"
+#include "stage/SeparateProcess.h"
 #include "stage/Subcommand.h"
 #include "stage/WindowControl.h"
 
@@ -102,7 +102,7 @@ int demo(const Invocation &invocation)
         return wrongCall("Name the folder to write the pictures into.");
     const std::filesystem::path folder = std::filesystem::absolute(invocation.words.front());
     const ThrowAwayHome home;
-    return runInProcessOfItsOwn([&]() -> int {
+    return runInSeparateProcess([&]() -> int {
         Confinement::pinEnvironment(home.path());
         if (isSet("DISPLAY") || isSet("WAYLAND_DISPLAY"))
             openWindow(invocation, home);

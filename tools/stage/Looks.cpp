@@ -29,7 +29,7 @@ constexpr std::array<Look, 5> allLooks{
      {"2-light-contrast", Appearance::Light, Appearance::More},
      {"3-dark", Appearance::Dark, Appearance::Standard},
      {"4-dark-contrast", Appearance::Dark, Appearance::More},
-     {"5-large", Appearance::Light, Appearance::Standard, DesktopWishes::largestTextScale}}};
+     {"5-large", Appearance::Light, Appearance::Standard, DesktopPreferences::largestTextScale}}};
 
 std::vector<Scene> scenes()
 {

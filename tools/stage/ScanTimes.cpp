@@ -13,7 +13,7 @@
 #include "shell/ContentPresenter.h"
 #include "stage/ConfinedWindow.h"
 #include "stage/FrameMeter.h"
-#include "stage/ProcessOfItsOwn.h"
+#include "stage/SeparateProcess.h"
 #include "stage/Subcommand.h"
 #include "stage/WindowControl.h"
 
@@ -110,7 +110,7 @@ int scans(const Invocation &invocation)
     const int rounds = invocation.words.empty() ? 7 : std::atoi(invocation.words.front().c_str());
     const ThrowAwayHome home;
     home.standIn().play({});
-    return runInProcessOfItsOwn([&] {
+    return runInSeparateProcess([&] {
         Confinement::pinEnvironment(home.path());
         return runOffScreen(invocation, [&] { return measure(home, rounds); });
     });

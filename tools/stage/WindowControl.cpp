@@ -67,7 +67,7 @@ void waitUntil(const std::string &what, const std::function<bool()> &isReached)
     const QDeadlineTimer limit(limitMilliseconds);
     while (!isReached()) {
         if (limit.hasExpired())
-            fatalError("waited in vain for " + what);
+            fatalError("timed out waiting for " + what);
         runEvents();
     }
 }

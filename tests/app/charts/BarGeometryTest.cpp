@@ -39,7 +39,7 @@ RecordedScan randomScan(std::mt19937 &random)
 {
     RecordedScanBuilder builder;
     const auto count = random() % 12;
-    for (std::size_t place = 0; place < count; ++place)
+    for (std::size_t index = 0; index < count; ++index)
         builder.withCategory("category " + std::to_string(random() % 9),
                              static_cast<std::int64_t>(random() % 50'000));
     return builder.build();
@@ -150,7 +150,7 @@ private Q_SLOTS:
         std::mt19937 random(20'260'304);
         for (int round = 0; round < 200; ++round) {
             std::vector<RecordedScan> scans;
-            for (std::size_t place = random() % 7; place > 0; --place)
+            for (std::size_t left = random() % 7; left > 0; --left)
                 scans.push_back(randomScan(random));
             const BarGeometry bars = geometryOf(scans);
             std::int64_t maximum = 1;

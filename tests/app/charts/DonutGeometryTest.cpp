@@ -36,21 +36,21 @@ double sumOfSweeps(const DonutGeometry &donut)
     return sum;
 }
 
-struct Place
+struct Point
 {
     double x;
     double y;
 };
 
 // Clockwise from the top, as a share of the outer radius.
-Place place(double angle, double distance)
+Point pointAt(double angle, double distance)
 {
     return {std::sin(angle) * distance * radius, -std::cos(angle) * distance * radius};
 }
 
 std::optional<std::size_t> hit(const DonutGeometry &donut, double angle, double distance)
 {
-    const Place at = place(angle, distance);
+    const Point at = pointAt(angle, distance);
     return donut.sliceAt(at.x, at.y, radius);
 }
 

@@ -25,10 +25,10 @@ QImage painted(BarRow &row)
 }
 
 /// How many pixels of a rectangle are painted.
-int inkIn(const QImage &image, const QRectF &place)
+int inkIn(const QImage &image, const QRectF &box)
 {
     int count = 0;
-    const QRect pixels = place.toRect() & image.rect();
+    const QRect pixels = box.toRect() & image.rect();
     for (int y = pixels.top(); y <= pixels.bottom(); ++y)
         for (int x = pixels.left(); x <= pixels.right(); ++x)
             count += image.pixelColor(x, y) == paper ? 0 : 1;
@@ -63,9 +63,9 @@ private Q_SLOTS:
     void paintsNameFigureAndBar()
     {
         const QImage image = painted(*m_row);
-        const BarRowPlaces places = m_row->places();
-        QVERIFY(inkIn(image, places.name) > 20);
-        QVERIFY(inkIn(image, places.value) > 20);
+        const BarRowLayout layout = m_row->layout();
+        QVERIFY(inkIn(image, layout.name) > 20);
+        QVERIFY(inkIn(image, layout.value) > 20);
         QCOMPARE(image.pixelColor(75, 28), blue);
         QCOMPARE(image.pixelColor(225, 28), m_style->track);
     }
@@ -74,11 +74,11 @@ private Q_SLOTS:
     {
         say("name", QString(80, u'W'));
         const QImage image = painted(*m_row);
-        const BarRowPlaces places = m_row->places();
-        const QRectF gap(places.name.right() + 1, places.name.top(),
-                         places.value.left() - places.name.right() - 2, places.name.height());
+        const BarRowLayout layout = m_row->layout();
+        const QRectF gap(layout.name.right() + 1, layout.name.top(),
+                         layout.value.left() - layout.name.right() - 2, layout.name.height());
         QCOMPARE(inkIn(image, gap), 0);
-        QVERIFY(inkIn(image, places.name.adjusted(places.name.width() - 20, 0, 0, 0)) > 0);
+        QVERIFY(inkIn(image, layout.name.adjusted(layout.name.width() - 20, 0, 0, 0)) > 0);
     }
 
     void aMissingBarIsAnEmptyTrack()
@@ -101,7 +101,7 @@ private Q_SLOTS:
         say("value", QStringLiteral("9,223,372,036,854,775,807"));
         const qreal advance = QFontMetricsF(m_style->valueFont)
                                   .horizontalAdvance(m_row->property("value").toString());
-        QVERIFY(m_row->places().value.width() >= advance);
+        QVERIFY(m_row->layout().value.width() >= advance);
     }
 
     void aTipShowsTheElidedText()
@@ -113,7 +113,7 @@ private Q_SLOTS:
 
     void aTipDistinguishesNamesakes()
     {
-        say("place", QStringLiteral("/srv/one"));
+        say("path", QStringLiteral("/srv/one"));
         QCOMPARE(m_row->tip(), QStringLiteral("Memory\n/srv/one"));
     }
 
@@ -121,7 +121,7 @@ private Q_SLOTS:
     {
         say("arrangement", BarRow::Heading);
         QCOMPARE(m_row->tip(), QStringLiteral("Memory"));
-        QVERIFY(inkIn(painted(*m_row), m_row->places().name) > 20);
+        QVERIFY(inkIn(painted(*m_row), m_row->layout().name) > 20);
     }
 
     void followsChangesOfItsStyle()
@@ -142,62 +142,62 @@ private Q_SLOTS:
 
     void stacksNameAndFigureOverABarOfFullWidth()
     {
-        const auto places = BarRowPlaces::stacked(stackedRow, 16, 40, 1);
-        QCOMPARE(places.track, QRectF(0, 24, 300, 8));
-        QCOMPARE(places.bar, places.track);
-        QCOMPARE(places.value, QRectF(260, 6, 40, 16));
-        QCOMPARE(places.name, QRectF(0, 6, 252, 16));
+        const auto layout = BarRowLayout::stacked(stackedRow, 16, 40, 1);
+        QCOMPARE(layout.track, QRectF(0, 24, 300, 8));
+        QCOMPARE(layout.bar, layout.track);
+        QCOMPARE(layout.value, QRectF(260, 6, 40, 16));
+        QCOMPARE(layout.name, QRectF(0, 6, 252, 16));
     }
 
     void aWideFigureLeavesTheNameTheRest()
     {
-        QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 296, 1).name.width(), 0.0);
-        QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 296, 1).value.left(), 4.0);
+        QCOMPARE(BarRowLayout::stacked(stackedRow, 16, 296, 1).name.width(), 0.0);
+        QCOMPARE(BarRowLayout::stacked(stackedRow, 16, 296, 1).value.left(), 4.0);
     }
 
     void alignsFiguresOnOneLine()
     {
-        const auto places = BarRowPlaces::inLine(lineRow, 200, 60, 0.5);
-        QCOMPARE(places.name, QRectF(0, 0, 200, 24));
-        QCOMPARE(places.value, QRectF(740, 0, 60, 24));
-        QCOMPARE(places.track, QRectF(212, 8, 516, 8));
-        QCOMPARE(places.bar, QRectF(212, 8, 258, 8));
+        const auto layout = BarRowLayout::inLine(lineRow, 200, 60, 0.5);
+        QCOMPARE(layout.name, QRectF(0, 0, 200, 24));
+        QCOMPARE(layout.value, QRectF(740, 0, 60, 24));
+        QCOMPARE(layout.track, QRectF(212, 8, 516, 8));
+        QCOMPARE(layout.bar, QRectF(212, 8, 258, 8));
     }
 
     void aNarrowRowHasNoTrackRatherThanANegativeOne()
     {
-        const auto places = BarRowPlaces::inLine({120, 24}, 100, 60, 1);
-        QCOMPARE(places.track.width(), 0.0);
-        QCOMPARE(places.bar.width(), 0.0);
+        const auto layout = BarRowLayout::inLine({120, 24}, 100, 60, 1);
+        QCOMPARE(layout.track.width(), 0.0);
+        QCOMPARE(layout.bar.width(), 0.0);
     }
 
     void zeroTokensHaveNoBarAndFewHaveAVisibleOne()
     {
-        QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 40, 0).bar.width(), 0.0);
-        QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 40, 0.00001).bar.width(), 2.0);
+        QCOMPARE(BarRowLayout::stacked(stackedRow, 16, 40, 0).bar.width(), 0.0);
+        QCOMPARE(BarRowLayout::stacked(stackedRow, 16, 40, 0.00001).bar.width(), 2.0);
     }
 
     void equalTokensAreEquallyLong()
     {
-        QCOMPARE(BarRowPlaces::stacked(stackedRow, 16, 40, 0.3).bar,
-                 BarRowPlaces::stacked(stackedRow, 16, 90, 0.3).bar);
+        QCOMPARE(BarRowLayout::stacked(stackedRow, 16, 40, 0.3).bar,
+                 BarRowLayout::stacked(stackedRow, 16, 90, 0.3).bar);
     }
 
     void aHeadingIsBottomAlignedAndAlone()
     {
-        const auto places = BarRowPlaces::heading(lineRow, 18);
-        QCOMPARE(places.name, QRectF(0, 4, 800, 18));
-        QVERIFY(places.track.isEmpty());
-        QVERIFY(places.value.isEmpty());
+        const auto layout = BarRowLayout::heading(lineRow, 18);
+        QCOMPARE(layout.name, QRectF(0, 4, 800, 18));
+        QVERIFY(layout.track.isEmpty());
+        QVERIFY(layout.value.isEmpty());
     }
 
     void mirrorsAllParts()
     {
-        const auto places = BarRowPlaces::inLine(lineRow, 200, 60, 0.5).mirrored(800);
-        QCOMPARE(places.name, QRectF(600, 0, 200, 24));
-        QCOMPARE(places.value, QRectF(0, 0, 60, 24));
-        QCOMPARE(places.track, QRectF(72, 8, 516, 8));
-        QCOMPARE(places.bar, QRectF(330, 8, 258, 8));
+        const auto layout = BarRowLayout::inLine(lineRow, 200, 60, 0.5).mirrored(800);
+        QCOMPARE(layout.name, QRectF(600, 0, 200, 24));
+        QCOMPARE(layout.value, QRectF(0, 0, 60, 24));
+        QCOMPARE(layout.track, QRectF(72, 8, 516, 8));
+        QCOMPARE(layout.bar, QRectF(330, 8, 258, 8));
     }
 
 private:

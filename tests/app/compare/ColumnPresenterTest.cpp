@@ -50,7 +50,7 @@ private Q_SLOTS:
     {
         m_column->show(comparison(), 0);
         QCOMPARE(m_column->name(), QStringLiteral("harbor"));
-        QCOMPARE(m_column->place(), QStringLiteral("/srv/harbor"));
+        QCOMPARE(m_column->path(), QStringLiteral("/srv/harbor"));
         QCOMPARE(m_column->scanned(), QStringLiteral("Scanned Mar 4, 2026"));
         QCOMPARE(m_column->total(), QStringLiteral("43,655"));
         QCOMPARE(m_column->band(), 1);

@@ -52,8 +52,8 @@ private Q_SLOTS:
         QCOMPARE(texts("column"),
                  QStringList({QStringLiteral("-1"), QStringLiteral("0"), QStringLiteral("1"),
                               QStringLiteral("-1"), QStringLiteral("0"), QStringLiteral("1")}));
-        QCOMPARE(value(1, "place").toString(), QStringLiteral("/a/app"));
-        QCOMPARE(value(2, "place").toString(), QStringLiteral("/b/app"));
+        QCOMPARE(value(1, "path").toString(), QStringLiteral("/a/app"));
+        QCOMPARE(value(2, "path").toString(), QStringLiteral("/b/app"));
     }
 
     void barsShareOneScale()

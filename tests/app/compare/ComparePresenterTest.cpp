@@ -108,10 +108,10 @@ private Q_SLOTS:
         QCOMPARE(m_compare->columnCount(), 2);
         QCOMPARE(m_compare->categoryCount(), 2);
         QCOMPARE(m_compare->combined()->count(), 2 * 3);
-        QCOMPARE(card(0)->place(), QStringLiteral("/a"));
-        QCOMPARE(card(1)->place(), QStringLiteral("/b"));
-        QCOMPARE(card(2)->place(), QString());
-        QCOMPARE(card(-1)->place(), QString());
+        QCOMPARE(card(0)->path(), QStringLiteral("/a"));
+        QCOMPARE(card(1)->path(), QStringLiteral("/b"));
+        QCOMPARE(card(2)->path(), QString());
+        QCOMPARE(card(-1)->path(), QString());
     }
 
     void sortsCardsByNameNotWeight()
@@ -150,7 +150,7 @@ private Q_SLOTS:
         const auto last = card(1);
         record({});
         QCOMPARE(m_compare->columnCount(), 0);
-        QCOMPARE(last->place(), QStringLiteral("/b"));
+        QCOMPARE(last->path(), QStringLiteral("/b"));
         QCOMPARE(m_compare->leaderboard()->count(), 0);
     }
 
@@ -224,8 +224,8 @@ private Q_SLOTS:
         record({RecordedScanBuilder().named("app").in("/b/app").build(),
                 RecordedScanBuilder().named("app").in("/a/app").build()});
         QCOMPARE(ranked(0, "title"), ranked(1, "title"));
-        QCOMPARE(ranked(0, "place").toString(), QStringLiteral("/a/app"));
-        QCOMPARE(ranked(1, "place").toString(), QStringLiteral("/b/app"));
+        QCOMPARE(ranked(0, "path").toString(), QStringLiteral("/a/app"));
+        QCOMPARE(ranked(1, "path").toString(), QStringLiteral("/b/app"));
     }
 
     void equalTotalsKeepTheOrderOfTheirNames()

@@ -10,12 +10,12 @@
 namespace Loadwick {
 namespace {
 
-std::set<int> placesOf(const QList<QQuickItem *> &cards)
+std::set<int> indicesOf(const QList<QQuickItem *> &cards)
 {
-    std::set<int> places;
+    std::set<int> indices;
     for (const QQuickItem *card : cards)
-        places.insert(card->property("place").toInt());
-    return places;
+        indices.insert(card->property("repositoryIndex").toInt());
+    return indices;
 }
 
 } // namespace
@@ -26,7 +26,7 @@ class CompareScrollingTest : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
-    void notePlaces();
+    void noteIndices();
 
 private Q_SLOTS:
     void init() { m_page = std::make_unique<ComparePage>(); }
@@ -46,18 +46,18 @@ private:
     [[nodiscard]] bool cardsFillThePage();
 
     std::unique_ptr<ComparePage> m_page;
-    std::set<int> m_shownPlaces; ///< at the last turn of the cards
-    std::size_t m_mostNewPlaces = 0;
+    std::set<int> m_shownIndices; ///< at the last turn of the cards
+    std::size_t m_mostNewIndices = 0;
 };
 
 // Between two turns of the cards.
-void CompareScrollingTest::notePlaces()
+void CompareScrollingTest::noteIndices()
 {
-    const std::set<int> now = placesOf(m_page->cards());
-    const auto isNew = [&](int place) { return !m_shownPlaces.contains(place); };
+    const std::set<int> now = indicesOf(m_page->cards());
+    const auto isNew = [&](int index) { return !m_shownIndices.contains(index); };
     const auto count = static_cast<std::size_t>(std::ranges::count_if(now, isNew));
-    m_mostNewPlaces = std::max(m_mostNewPlaces, count);
-    m_shownPlaces = now;
+    m_mostNewIndices = std::max(m_mostNewIndices, count);
+    m_shownIndices = now;
 }
 
 // Whether the cards, each at its own position, cover the page from top to bottom.
@@ -119,8 +119,8 @@ void CompareScrollingTest::scrollingCreatesNoCards()
     QVERIFY(m_page->cards().size() > 6);
     const QList<QQuickItem *> before = m_page->cards();
     QVERIFY2(before.size() < 40, qPrintable(QString::number(before.size())));
-    for (const qreal place : {12'000.0, 12'240.0, 20'000.0, 11'000.0}) {
-        m_page->viewport()->setProperty("contentY", place);
+    for (const qreal position : {12'000.0, 12'240.0, 20'000.0, 11'000.0}) {
+        m_page->viewport()->setProperty("contentY", position);
         QTest::qWait(20);
         QCOMPARE(m_page->cards(), before);
     }
@@ -132,13 +132,13 @@ void CompareScrollingTest::everyPositionShowsItsOwnRepository()
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
     QVERIFY(m_page->cards().size() > 6);
-    for (const qreal place : {12'000.0, 12'300.0, 20'000.0, 11'000.0}) {
-        m_page->viewport()->setProperty("contentY", place);
+    for (const qreal position : {12'000.0, 12'300.0, 20'000.0, 11'000.0}) {
+        m_page->viewport()->setProperty("contentY", position);
         QTRY_VERIFY(cardsFillThePage());
         for (const QQuickItem *card : m_page->cards())
-            QCOMPARE(card->property("column").value<ColumnPresenter *>()->place(),
-                     m_page->said(card->property("place").toInt())->place());
-        QCOMPARE(placesOf(m_page->cards()).size(),
+            QCOMPARE(card->property("column").value<ColumnPresenter *>()->path(),
+                     m_page->said(card->property("repositoryIndex").toInt())->path());
+        QCOMPARE(indicesOf(m_page->cards()).size(),
                  static_cast<std::size_t>(m_page->cards().size()));
     }
 }
@@ -159,7 +159,7 @@ void CompareScrollingTest::createsAllOfFewTallCards()
     m_page->record(SampleHistories::ofSize(repositories, repositories, categories));
     QVERIFY(m_page->compare().isLarge());
     QTRY_COMPARE(m_page->cards().size(), repositories);
-    QCOMPARE(placesOf(m_page->cards()).size(), static_cast<std::size_t>(repositories));
+    QCOMPARE(indicesOf(m_page->cards()).size(), static_cast<std::size_t>(repositories));
 }
 
 // The rows are kept and show other values.
@@ -170,9 +170,9 @@ void CompareScrollingTest::aReusedCardReturnsTheFocus()
     QQuickItem *card = m_page->cards().constFirst();
     ComparePage::barsBelow(card).constFirst()->forceActiveFocus();
     QTest::qWait(100); // the page follows the focus
-    const int before = card->property("place").toInt();
+    const int before = card->property("repositoryIndex").toInt();
     m_page->viewport()->setProperty("contentY", 20'000.0);
-    QTRY_VERIFY(card->property("place").toInt() != before);
+    QTRY_VERIFY(card->property("repositoryIndex").toInt() != before);
     QVERIFY(qobject_cast<BarRow *>(m_page->view().activeFocusItem()) == nullptr);
 }
 
@@ -181,11 +181,11 @@ void CompareScrollingTest::reusesOneCardPerFrame()
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
     QObject *grid = m_page->items("cell").constFirst()->parentItem();
-    m_shownPlaces = placesOf(m_page->cards());
-    connect(grid, SIGNAL(turn(int)), this, SLOT(notePlaces()));
+    m_shownIndices = indicesOf(m_page->cards());
+    connect(grid, SIGNAL(turn(int)), this, SLOT(noteIndices()));
     m_page->viewport()->setProperty("contentY", 12'000.0);
     QTRY_VERIFY(cardsFillThePage());
-    QCOMPARE(m_mostNewPlaces, std::size_t{1});
+    QCOMPARE(m_mostNewIndices, std::size_t{1});
 }
 
 void CompareScrollingTest::scrollsToTheLastLineOfTwoHundredRepositories()

@@ -143,8 +143,8 @@ void CompareViewTest::equalTokensAreEquallyLongInEveryCard()
          RecordedScanBuilder().in("/b").withCategory("y", 30).build()});
     const auto first = ComparePage::barsBelow(m_page->items("bars")[0]);
     const auto second = ComparePage::barsBelow(m_page->items("bars")[1]);
-    QCOMPARE(first[1]->places().bar.width(), second.last()->places().bar.width());
-    QCOMPARE(first[0]->places().bar, first[0]->places().track);
+    QCOMPARE(first[1]->layout().bar.width(), second.last()->layout().bar.width());
+    QCOMPARE(first[0]->layout().bar, first[0]->layout().track);
 }
 
 void CompareViewTest::aScanWithoutCategoriesSaysSoOnItsCard()
@@ -167,7 +167,7 @@ void CompareViewTest::alignsTheFiguresOfAList()
     std::set<qreal> combined;
     const auto bars = ComparePage::barsBelow(m_page->items("combined")[0]);
     for (const BarRow *bar : bars)
-        combined.insert(bar->mapRectToScene(bar->places().value).right());
+        combined.insert(bar->mapRectToScene(bar->layout().value).right());
     QCOMPARE(combined.size(), std::size_t(1));
 }
 
@@ -190,10 +190,10 @@ void CompareViewTest::longNamesPushNoFigureOut()
     QCOMPARE(bars.size(), 2 * 2 + 2 * 2);
     for (const BarRow *bar : bars) {
         const QFontMetricsF metrics(bar->style()->valueFont);
-        const QRectF place = bar->places().value;
-        QVERIFY(bar->mapRectToScene(place).right() <= 480 - 24 - 16);
-        QVERIFY(place.width() >= metrics.horizontalAdvance(bar->property("value").toString()));
-        QVERIFY(bar->places().name.right() < place.left());
+        const QRectF value = bar->layout().value;
+        QVERIFY(bar->mapRectToScene(value).right() <= 480 - 24 - 16);
+        QVERIFY(value.width() >= metrics.horizontalAdvance(bar->property("value").toString()));
+        QVERIFY(bar->layout().name.right() < value.left());
     }
 }
 

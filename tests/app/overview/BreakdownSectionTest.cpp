@@ -115,8 +115,8 @@ private Q_SLOTS:
         QQuickItem &card = shown.item(QStringLiteral("card"));
         for (QQuickItem *label : shown.labels()) {
             const QString text = label->property("text").toString();
-            const QRectF place = label->mapRectToItem(&card, label->boundingRect());
-            QVERIFY2(place.left() >= 16 && place.right() <= width - 16, qPrintable(text));
+            const QRectF box = label->mapRectToItem(&card, label->boundingRect());
+            QVERIFY2(box.left() >= 16 && box.right() <= width - 16, qPrintable(text));
             QVERIFY2(label->property("contentHeight").toReal() <= label->height() + 1,
                      qPrintable(text));
             // A name may be elided: its tool tip holds the whole.

@@ -125,7 +125,7 @@ void AccessMatrixTest::everyPageFitsInTheLargestText()
 {
     QFETCH(const Qt::LayoutDirection, direction);
     open(direction, Appearance::Reduced);
-    m_window->appearance().setTextScale(DesktopWishes::largestTextScale);
+    m_window->appearance().setTextScale(DesktopPreferences::largestTextScale);
     visitStates();
     visitFullPages();
 }
@@ -134,7 +134,7 @@ void AccessMatrixTest::theWalkThroughFitsInTheLargestText()
 {
     QFETCH(const Qt::LayoutDirection, direction);
     openWalkThrough(direction, Appearance::Reduced);
-    m_window->appearance().setTextScale(DesktopWishes::largestTextScale);
+    m_window->appearance().setTextScale(DesktopPreferences::largestTextScale);
     visitSteps();
 }
 

@@ -271,9 +271,9 @@ private Q_SLOTS:
                  return made;
              }});
         QVERIFY(given.window().color().lightness() > 128);
-        desktop->wish({.dark = true});
+        desktop->setPreferences({.dark = true});
         QVERIFY(given.window().color().lightness() < 128);
-        desktop->wish({.dark = false});
+        desktop->setPreferences({.dark = false});
         QVERIFY(given.window().color().lightness() > 128);
     }
 

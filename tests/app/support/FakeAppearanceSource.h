@@ -4,7 +4,7 @@
 
 namespace Loadwick {
 
-/// A desktop with the wishes that a test sets; none at first.
+/// A desktop with the preferences that a test sets; none at first.
 class FakeAppearanceSource : public AppearanceSource
 {
     Q_OBJECT
@@ -12,20 +12,20 @@ class FakeAppearanceSource : public AppearanceSource
 public:
     using AppearanceSource::AppearanceSource;
 
-    [[nodiscard]] DesktopWishes wishes() const override { return m_wishes; }
+    [[nodiscard]] DesktopPreferences preferences() const override { return m_preferences; }
 
-    void wish(const DesktopWishes &wishes)
+    void setPreferences(const DesktopPreferences &preferences)
     {
-        m_wishes = wishes;
+        m_preferences = preferences;
         Q_EMIT changed();
     }
     void prefer(bool dark, bool reducedMotion)
     {
-        wish({.dark = dark, .reducedMotion = reducedMotion});
+        setPreferences({.dark = dark, .reducedMotion = reducedMotion});
     }
 
 private:
-    DesktopWishes m_wishes;
+    DesktopPreferences m_preferences;
 };
 
 } // namespace Loadwick

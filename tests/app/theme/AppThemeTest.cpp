@@ -180,7 +180,7 @@ private Q_SLOTS:
 
     void textAndItsContainersGrowTogether()
     {
-        m_desktop->wish({.fontPoints = 14});
+        m_desktop->setPreferences({.fontPoints = 14});
         QCOMPARE(value("bodyFont").value<QFont>().pixelSize(), 18);
         QCOMPARE(value("heroMetricFont").value<QFont>().pixelSize(), 64);
         QCOMPARE(value("controlHeight").toInt(), 45);
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QFETCH(int, scheme);
         use(scheme);
         const QColor quietLine = color("separator");
-        m_desktop->wish({.moreContrast = true});
+        m_desktop->setPreferences({.moreContrast = true});
         QVERIFY(color("separator") != quietLine);
         QCOMPARE(value("quietBorderOpacity").toDouble(), 1.0);
         for (const char *ground : grounds) {
@@ -223,7 +223,7 @@ private Q_SLOTS:
         use(scheme);
         const QColor ours = color("accent");
         for (const QColor &chosen : {QColor(255, 230, 0), QColor(0, 0, 90), QColor(230, 60, 150)}) {
-            m_desktop->wish({.accent = chosen});
+            m_desktop->setPreferences({.accent = chosen});
             const QColor accent = color("accent");
             QVERIFY(accent != ours);
             for (const char *ground : grounds)
@@ -239,8 +239,8 @@ private Q_SLOTS:
     {
         use(Appearance::Light);
         QCOMPARE(color("accent"), color("ownAccent"));
-        m_desktop->wish({.accent = QColor(Qt::red)});
-        m_desktop->wish({});
+        m_desktop->setPreferences({.accent = QColor(Qt::red)});
+        m_desktop->setPreferences({});
         QCOMPARE(color("accent"), color("ownAccent"));
     }
 

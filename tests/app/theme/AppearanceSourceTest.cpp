@@ -11,29 +11,29 @@ class AppearanceSourceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void itsOwnWishesWin()
+    void itsOwnPreferencesWin()
     {
-        const DesktopWishes one{.dark = false, .reducedMotion = true, .accent = QColor(Qt::red)};
-        const DesktopWishes other{.dark = true, .reducedMotion = false, .accent = QColor(Qt::blue)};
+        const DesktopPreferences one{.dark = false, .reducedMotion = true, .accent = QColor(Qt::red)};
+        const DesktopPreferences other{.dark = true, .reducedMotion = false, .accent = QColor(Qt::blue)};
         QVERIFY(one.orElse(other) == one);
     }
 
-    void absentWishesComeFromTheOther()
+    void absentPreferencesComeFromTheOther()
     {
-        const DesktopWishes one{.dark = true};
-        const DesktopWishes other{.dark = false, .moreContrast = true};
-        const DesktopWishes both{.dark = true, .moreContrast = true};
+        const DesktopPreferences one{.dark = true};
+        const DesktopPreferences other{.dark = false, .moreContrast = true};
+        const DesktopPreferences both{.dark = true, .moreContrast = true};
         QVERIFY(one.orElse(other) == both);
     }
 
-    void wishesAbsentFromBothStayAbsent()
+    void preferencesAbsentFromBothStayAbsent()
     {
-        QVERIFY(DesktopWishes().orElse({}) == DesktopWishes());
+        QVERIFY(DesktopPreferences().orElse({}) == DesktopPreferences());
     }
 
-    void aWishForTheOppositeIsNotAbsent()
+    void aPreferenceForTheOppositeIsNotAbsent()
     {
-        QVERIFY(DesktopWishes{.dark = false} != DesktopWishes());
+        QVERIFY(DesktopPreferences{.dark = false} != DesktopPreferences());
     }
 
     void textGrowsWithTheDesktops_data()
@@ -58,11 +58,11 @@ private Q_SLOTS:
         QFETCH(const double, points);
         QFETCH(const double, factor);
         QFETCH(const double, scale);
-        const DesktopWishes wishes{.fontPoints = points, .textFactor = factor};
-        QCOMPARE(wishes.textScale(), scale);
+        const DesktopPreferences preferences{.fontPoints = points, .textFactor = factor};
+        QCOMPARE(preferences.textScale(), scale);
     }
 
-    void withoutAWishTextKeepsItsSize() { QCOMPARE(DesktopWishes().textScale(), 1.0); }
+    void withoutAPreferenceTextKeepsItsSize() { QCOMPARE(DesktopPreferences().textScale(), 1.0); }
 };
 
 const RegisteredTest<AppearanceSourceTest> registered("AppearanceSource");

@@ -74,14 +74,14 @@ private Q_SLOTS:
         FakeAppearanceSource desktop;
         Appearance appearance(desktop);
         QVERIFY(!appearance.moreContrast());
-        desktop.wish({.moreContrast = true});
+        desktop.setPreferences({.moreContrast = true});
         QVERIFY(appearance.moreContrast());
         const QSignalSpy changes(&appearance, &Appearance::changed);
         appearance.setContrast(Appearance::Standard);
         appearance.setContrast(Appearance::Standard);
         QVERIFY(!appearance.moreContrast());
         QCOMPARE(changes.size(), 1);
-        desktop.wish({});
+        desktop.setPreferences({});
         appearance.setContrast(Appearance::More);
         QVERIFY(appearance.moreContrast());
     }
@@ -91,7 +91,7 @@ private Q_SLOTS:
         FakeAppearanceSource desktop;
         const Appearance appearance(desktop);
         QVERIFY(!appearance.hasAccent());
-        desktop.wish({.accent = QColor(Qt::magenta)});
+        desktop.setPreferences({.accent = QColor(Qt::magenta)});
         QVERIFY(appearance.hasAccent());
         QCOMPARE(appearance.accent(), QColor(Qt::magenta));
     }

@@ -31,39 +31,39 @@ private Q_SLOTS:
 
     void asksTheSourcesInOrder()
     {
-        m_fakes[2]->wish({.dark = true});
+        m_fakes[2]->setPreferences({.dark = true});
         QVERIFY(m_source->prefersDark());
-        m_fakes[1]->wish({.dark = false});
+        m_fakes[1]->setPreferences({.dark = false});
         QVERIFY(!m_source->prefersDark());
-        m_fakes[0]->wish({.dark = true});
+        m_fakes[0]->setPreferences({.dark = true});
         QVERIFY(m_source->prefersDark());
     }
 
-    void eachWishMayComeFromAnotherSource()
+    void eachPreferenceMayComeFromAnotherSource()
     {
-        m_fakes[0]->wish({.reducedMotion = true});
-        m_fakes[1]->wish({.reducedMotion = false, .moreContrast = true});
-        m_fakes[2]->wish({.dark = true, .accent = QColor(Qt::green)});
-        const DesktopWishes all{
+        m_fakes[0]->setPreferences({.reducedMotion = true});
+        m_fakes[1]->setPreferences({.reducedMotion = false, .moreContrast = true});
+        m_fakes[2]->setPreferences({.dark = true, .accent = QColor(Qt::green)});
+        const DesktopPreferences all{
             .dark = true, .reducedMotion = true, .moreContrast = true, .accent = QColor(Qt::green)};
-        QVERIFY(m_source->wishes() == all);
+        QVERIFY(m_source->preferences() == all);
     }
 
-    void aWithdrawnWishFallsBackToTheNextSource()
+    void aWithdrawnPreferenceFallsBackToTheNextSource()
     {
-        m_fakes[2]->wish({.dark = false});
-        m_fakes[0]->wish({.dark = true});
-        m_fakes[0]->wish({});
+        m_fakes[2]->setPreferences({.dark = false});
+        m_fakes[0]->setPreferences({.dark = true});
+        m_fakes[0]->setPreferences({});
         QVERIFY(!m_source->prefersDark());
     }
 
     void signalsOnlyEffectiveChanges()
     {
-        m_fakes[0]->wish({.dark = true});
+        m_fakes[0]->setPreferences({.dark = true});
         const QSignalSpy changes(m_source.get(), &AppearanceSource::changed);
-        m_fakes[1]->wish({.dark = false});
+        m_fakes[1]->setPreferences({.dark = false});
         QVERIFY(changes.isEmpty());
-        m_fakes[1]->wish({.dark = false, .moreContrast = true});
+        m_fakes[1]->setPreferences({.dark = false, .moreContrast = true});
         QCOMPARE(changes.size(), 1);
     }
 
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QFETCH(bool, dark);
         const PaletteAppearanceSource source;
         QGuiApplication::setPalette(QPalette(Qt::gray, window));
-        QVERIFY(source.wishes() == DesktopWishes{.dark = dark});
+        QVERIFY(source.preferences() == DesktopPreferences{.dark = dark});
     }
 
 private:

@@ -35,7 +35,7 @@ private Q_SLOTS:
         m_folder->write("kdeglobals", darkText);
         const auto stepping = std::make_shared<SteppingDispatcher>();
         const KdeAppearanceSource source(m_file, stepping);
-        QVERIFY(!source.wishes().dark);
+        QVERIFY(!source.preferences().dark);
         stepping->runAll();
         QVERIFY(source.prefersDark());
     }
@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         const KdeAppearanceSource source(m_file, m_dispatcher);
         QTest::qWait(50);
-        QVERIFY(source.wishes() == DesktopWishes());
+        QVERIFY(source.preferences() == DesktopPreferences());
         m_folder->write("kdeglobals", darkText);
         QTRY_VERIFY(source.prefersDark());
     }
@@ -76,7 +76,7 @@ private Q_SLOTS:
         const KdeAppearanceSource source(m_file, m_dispatcher);
         QTRY_VERIFY(source.prefersDark());
         std::filesystem::remove(m_file);
-        QTRY_VERIFY(!source.wishes().dark);
+        QTRY_VERIFY(!source.preferences().dark);
     }
 
     void ignoresAChangeToOtherSettings()
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(stepping->backgroundCount(), std::size_t(0));
         stepping->refuseBackground();
         const KdeAppearanceSource unread(m_file, stepping);
-        QVERIFY(unread.wishes() == DesktopWishes());
+        QVERIFY(unread.preferences() == DesktopPreferences());
     }
 
     void canBeDestroyedBeforeTheFileIsRead()
@@ -128,27 +128,27 @@ private Q_SLOTS:
         QCOMPARE(file.empty(), !reads);
     }
 
-    void readsTheWishesInItsText_data()
+    void readsThePreferencesInItsText_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<DesktopWishes>("wishes");
+        QTest::addColumn<DesktopPreferences>("preferences");
         schemeRows();
         motionRows();
         fontRows();
         ignoredRows();
     }
 
-    void readsTheWishesInItsText()
+    void readsThePreferencesInItsText()
     {
         QFETCH(const QByteArray, text);
-        QFETCH(const DesktopWishes, wishes);
-        QVERIFY(KdeGlobals::wishes(text.toStdString()) == wishes);
+        QFETCH(const DesktopPreferences, preferences);
+        QVERIFY(KdeGlobals::preferences(text.toStdString()) == preferences);
     }
 
 private:
-    static void row(const char *name, const QByteArray &text, const DesktopWishes &wishes)
+    static void row(const char *name, const QByteArray &text, const DesktopPreferences &preferences)
     {
-        QTest::newRow(name) << text << wishes;
+        QTest::newRow(name) << text << preferences;
     }
 
     static void schemeRows()

@@ -29,7 +29,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("space");
         QTest::addColumn<QByteArray>("name");
         QTest::addColumn<QVariant>("value");
-        QTest::addColumn<DesktopWishes>("wishes");
+        QTest::addColumn<DesktopPreferences>("preferences");
         schemeRows();
         motionRows();
         contrastRows();
@@ -42,10 +42,10 @@ private Q_SLOTS:
         QFETCH(const QByteArray, space);
         QFETCH(const QByteArray, name);
         QFETCH(const QVariant, value);
-        QFETCH(const DesktopWishes, wishes);
+        QFETCH(const DesktopPreferences, preferences);
         PortalAnswers answers;
         take(answers, space, name, value);
-        QVERIFY(answers.wishes() == wishes);
+        QVERIFY(answers.preferences() == preferences);
     }
 
     void theSharedKeyTakesPrecedence()
@@ -53,7 +53,7 @@ private Q_SLOTS:
         PortalAnswers answers;
         take(answers, common, "color-scheme", 2U);
         take(answers, gnome, "color-scheme", QStringLiteral("prefer-dark"));
-        QCOMPARE(answers.wishes().dark, std::optional(false));
+        QCOMPARE(answers.preferences().dark, std::optional(false));
     }
 
     void fallsBackToGnomesKey()
@@ -63,8 +63,8 @@ private Q_SLOTS:
         take(answers, gnome, "color-scheme", QStringLiteral("prefer-dark"));
         take(answers, common, "reduced-motion", 0U);
         take(answers, gnome, "enable-animations", false);
-        const DesktopWishes expected{.dark = true, .reducedMotion = true};
-        QVERIFY(answers.wishes() == expected);
+        const DesktopPreferences expected{.dark = true, .reducedMotion = true};
+        QVERIFY(answers.preferences() == expected);
     }
 
     void theLastAnswerCounts()
@@ -72,9 +72,9 @@ private Q_SLOTS:
         PortalAnswers answers;
         take(answers, common, "color-scheme", 1U);
         take(answers, common, "color-scheme", 2U);
-        QCOMPARE(answers.wishes().dark, std::optional(false));
+        QCOMPARE(answers.preferences().dark, std::optional(false));
         take(answers, common, "color-scheme", 0U);
-        QVERIFY(answers.wishes() == DesktopWishes());
+        QVERIFY(answers.preferences() == DesktopPreferences());
     }
 
     void wrappedValuesAreUnwrapped()
@@ -84,7 +84,7 @@ private Q_SLOTS:
         for (const QDBusVariant &wrapped : {once, twice}) {
             PortalAnswers answers;
             take(answers, common, "color-scheme", QVariant::fromValue(wrapped));
-            QCOMPARE(answers.wishes().dark, std::optional(true));
+            QCOMPARE(answers.preferences().dark, std::optional(true));
         }
     }
 
@@ -106,11 +106,11 @@ private Q_SLOTS:
 
 private:
     static void row(const char *space, const char *name, const QVariant &value,
-                    const DesktopWishes &wishes)
+                    const DesktopPreferences &preferences)
     {
         const char *type = value.isValid() ? value.typeName() : "nothing";
         QTest::addRow("%s %s %s %s", space, name, type, qPrintable(value.toString()))
-            << QByteArray(space) << QByteArray(name) << value << wishes;
+            << QByteArray(space) << QByteArray(name) << value << preferences;
     }
 
     static void schemeRows()

@@ -56,11 +56,11 @@ private Q_SLOTS:
         portal().set(common, scheme, 1U);
         portal().set(gnome, animations, false);
         PortalAppearanceSource &asked = source();
-        QVERIFY(!asked.wishes().dark);
+        QVERIFY(!asked.preferences().dark);
         QTRY_VERIFY(asked.prefersDark());
         QTRY_VERIFY(asked.prefersReducedMotion());
-        QVERIFY(!asked.wishes().moreContrast);
-        QVERIFY(!asked.wishes().accent);
+        QVERIFY(!asked.preferences().moreContrast);
+        QVERIFY(!asked.preferences().accent);
     }
 
     void followsChangesWhileItRuns()
@@ -82,27 +82,27 @@ private Q_SLOTS:
     {
         portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
         PortalAppearanceSource &asked = source();
-        QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(1.0F, 0.0F, 0.0F)));
+        QTRY_COMPARE(asked.preferences().accent, std::optional(QColor::fromRgbF(1.0F, 0.0F, 0.0F)));
         portal().change(common, accent, colorParts(0.0, 0.0, 1.0));
-        QTRY_COMPARE(asked.wishes().accent, std::optional(QColor::fromRgbF(0.0F, 0.0F, 1.0F)));
+        QTRY_COMPARE(asked.preferences().accent, std::optional(QColor::fromRgbF(0.0F, 0.0F, 1.0F)));
     }
 
     void ignoresAnAccentOutOfRange()
     {
         portal().set(common, accent, colorParts(1.0, 0.0, 0.0));
         PortalAppearanceSource &asked = source();
-        QTRY_VERIFY(asked.wishes().accent);
+        QTRY_VERIFY(asked.preferences().accent);
         portal().change(common, accent, colorParts(-1.0, -1.0, -1.0));
-        QTRY_VERIFY(!asked.wishes().accent);
+        QTRY_VERIFY(!asked.preferences().accent);
     }
 
     void takesTheSizeOfText()
     {
         portal().set(gnome, QStringLiteral("font-name"), QStringLiteral("Cantarell 12"));
         PortalAppearanceSource &asked = source();
-        QTRY_COMPARE(asked.wishes().textScale(), 1.2);
+        QTRY_COMPARE(asked.preferences().textScale(), 1.2);
         portal().change(gnome, QStringLiteral("text-scaling-factor"), 1.1);
-        QTRY_COMPARE(asked.wishes().textScale(), 1.32);
+        QTRY_COMPARE(asked.preferences().textScale(), 1.32);
     }
 
     void signalsOnlyChanges()
@@ -122,7 +122,7 @@ private Q_SLOTS:
     {
         portal().set(common, scheme, 2U);
         PortalAppearanceSource &asked = source();
-        QTRY_VERIFY(asked.wishes().dark);
+        QTRY_VERIFY(asked.preferences().dark);
         QDBusConnection other = m_bus->connection(newName());
         QDBusMessage lie = QDBusMessage::createSignal(
             QStringLiteral("/org/freedesktop/portal/desktop"),
@@ -134,22 +134,22 @@ private Q_SLOTS:
         QVERIFY(!asked.prefersDark());
     }
 
-    void withoutABusThereAreNoWishes()
+    void withoutABusThereAreNoPreferences()
     {
         const auto stepping = std::make_shared<SteppingDispatcher>();
         const PortalAppearanceSource asked(
             stepping, [] { return QDBusConnection(QStringLiteral("no such bus")); });
         stepping->runAll();
-        QVERIFY(asked.wishes() == DesktopWishes());
+        QVERIFY(asked.preferences() == DesktopPreferences());
     }
 
-    void withoutAPortalThereAreNoWishes()
+    void withoutAPortalThereAreNoPreferences()
     {
         PortalAppearanceSource &asked = source();
         const QSignalSpy changes(&asked, &AppearanceSource::changed);
         QTest::qWait(200);
         QVERIFY(changes.isEmpty());
-        QVERIFY(asked.wishes() == DesktopWishes());
+        QVERIFY(asked.preferences() == DesktopPreferences());
     }
 
     void aPortalThatNeverAnswersBlocksNothing()
@@ -159,7 +159,7 @@ private Q_SLOTS:
         timer.start();
         PortalAppearanceSource &asked = source();
         QTRY_COMPARE(portal().questionCount(), keyCount);
-        QVERIFY(asked.wishes() == DesktopWishes());
+        QVERIFY(asked.preferences() == DesktopPreferences());
         m_source.reset();
         QVERIFY2(timer.elapsed() < 3'000, qPrintable(QString::number(timer.elapsed())));
     }
@@ -203,7 +203,7 @@ private Q_SLOTS:
         const auto stepping = std::make_shared<SteppingDispatcher>();
         stepping->refuseBackground();
         const PortalAppearanceSource asked(stepping);
-        QVERIFY(asked.wishes() == DesktopWishes());
+        QVERIFY(asked.preferences() == DesktopPreferences());
     }
 
 private:

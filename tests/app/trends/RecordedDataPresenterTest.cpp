@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(data.runs()->text(0, QStringLiteral("value")), QStringLiteral("61.000"));
         QCOMPARE(data.runs()->text(0, QStringLiteral("band")), QStringLiteral("2"));
         QCOMPARE(data.runs()->text(0, QStringLiteral("valueCaption")), QString());
-        QCOMPARE(data.runs()->text(0, QStringLiteral("place")), QString());
+        QCOMPARE(data.runs()->text(0, QStringLiteral("path")), QString());
     }
 
     void aScanWithoutCategoriesSaysSo()
@@ -178,9 +178,9 @@ private Q_SLOTS:
         show(*m_data, {RecordedScanBuilder().in("/a").at(3).build(),
                        RecordedScanBuilder().in("/b").at(2).build(),
                        RecordedScanBuilder().named("other").in("/c").at(1).build()});
-        QCOMPARE(run(0, "place"), QStringLiteral("/a"));
-        QCOMPARE(run(1, "place"), QStringLiteral("/b"));
-        QCOMPARE(run(2, "place"), QString());
+        QCOMPARE(run(0, "path"), QStringLiteral("/a"));
+        QCOMPARE(run(1, "path"), QStringLiteral("/b"));
+        QCOMPARE(run(2, "path"), QString());
         QCOMPARE(run(0, "title"), QStringLiteral("webshop"));
     }
 

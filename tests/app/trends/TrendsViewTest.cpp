@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         show({RecordedScanBuilder().in("/srv/one/webshop").at(1'772'615'727).build(),
               RecordedScanBuilder().in("/srv/two/webshop").at(1'772'615'728).build()});
-        QTRY_COMPARE(placeOfRow("webshop"), QStringLiteral("/srv/two/webshop"));
+        QTRY_COMPARE(pathOfRow("webshop"), QStringLiteral("/srv/two/webshop"));
     }
 
     void theSummaryTilesAreOfEqualWidth()
@@ -227,9 +227,8 @@ private:
         m_window->loadwick().model().history().set(std::move(scans));
     }
 
-    /// The accessible description beside the name.
     /// The description of the first row that shows this title.
-    [[nodiscard]] QString placeOfRow(const char *title) const
+    [[nodiscard]] QString pathOfRow(const char *title) const
     {
         QAccessibleInterface *label = m_window->find(QString::fromUtf8(title));
         return label == nullptr ? QString() : label->parent()->text(QAccessible::Description);

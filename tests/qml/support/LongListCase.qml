@@ -40,7 +40,7 @@ TestCase {
             if (item.objectName !== "row" || !item.visible)
                 continue;
             const y = item.mapToItem(page, 0, 0).y;
-            compare(y, 140 - 120 + head.height + item.index * 30 - page.contentY, "place of row " + item.index);
+            compare(y, 140 - 120 + head.height + item.index * 30 - page.contentY, "position of row " + item.index);
             if (y + 30 > 0 && y < height)
                 found.push(item.index);
         }

@@ -1,4 +1,4 @@
-#include "stage/ProcessOfItsOwn.h"
+#include "stage/SeparateProcess.h"
 
 #include <array>
 #include <cerrno>
@@ -73,7 +73,7 @@ int exitStatus(pid_t child)
 
 } // namespace
 
-int runInProcessOfItsOwn(const std::function<int()> &program)
+int runInSeparateProcess(const std::function<int()> &program)
 {
     // Blocked around the fork, so that no signal comes before it can be forwarded.
     const sigset_t blocked = endingSet();

@@ -74,7 +74,7 @@ bool appendScans(const fs::path &folder, const std::string &name)
 
 } // namespace
 
-TEST(ScanHistoryStorePlacesSlowTest, replacesTenGigabytesWithinSixtyFourMegabytes)
+TEST(ScanHistoryStoreEdgeCasesSlowTest, replacesTenGigabytesWithinSixtyFourMegabytes)
 {
     const TemporaryFolder folder;
     ScanHistoryStore store(folder.path());
@@ -91,7 +91,7 @@ TEST(ScanHistoryStorePlacesSlowTest, replacesTenGigabytesWithinSixtyFourMegabyte
     EXPECT_EQ(store.load().size(), 1U);
 }
 
-TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileBeyondAQuota)
+TEST(ScanHistoryStoreEdgeCasesSlowTest, keepsTheOldFileBeyondAQuota)
 {
     const TemporaryFolder folder;
     ScanHistoryStore store(folder.path());
@@ -106,7 +106,7 @@ TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileBeyondAQuota)
     EXPECT_EQ(entriesIn(folder.path()), 1U);
 }
 
-TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileInAReadOnlyFolder)
+TEST(ScanHistoryStoreEdgeCasesSlowTest, keepsTheOldFileInAReadOnlyFolder)
 {
     const TemporaryFolder folder;
     const PlainPermissions plain;
@@ -120,7 +120,7 @@ TEST(ScanHistoryStorePlacesSlowTest, keepsTheOldFileInAReadOnlyFolder)
     EXPECT_EQ(entriesIn(folder.path()), 1U);
 }
 
-TEST(ScanHistoryStorePlacesSlowTest, survivesConcurrentAppendsByTwoPrograms)
+TEST(ScanHistoryStoreEdgeCasesSlowTest, survivesConcurrentAppendsByTwoPrograms)
 {
     const TemporaryFolder folder;
     const ScanHistoryStore store(folder.path());
