@@ -106,8 +106,8 @@ class Bench:
         return scan_rows(self.programs, self.count)
 
     def pages(self) -> list[Row]:
-        """The rest of the window and the frames of the pages. A round of them takes a minute and
-        its frames are many: three do."""
+        """The idle window and the frames of the pages. A round takes a minute and has many frames,
+        so three rounds suffice."""
         count = min(self.count, 3)
         return idle_rows(self.programs, count) + frame_rows(self.programs, count)
 
@@ -148,7 +148,7 @@ def table(rows: list[Row]) -> str:
 
 
 def write_document(text: str) -> None:
-    """Puts the table between its marks in the document."""
+    """Puts the table between its markers in the document."""
     before, rest = DOCUMENT.read_text(encoding="utf-8").split(MARKS[0])
     after = rest.split(MARKS[1])[1]
     DOCUMENT.write_text(f"{before}{MARKS[0]}\n{text}\n{MARKS[1]}{after}", encoding="utf-8")

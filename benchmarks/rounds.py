@@ -1,4 +1,4 @@
-"""Runs programs in turn, measures their times, and compares them with goals."""
+"""Runs programs alternately, measures their times, and compares them with goals."""
 
 from __future__ import annotations
 
@@ -32,7 +32,7 @@ class Row:
         return statistics.median(self.values)
 
     def verdict(self) -> str:
-        """Whether the goal holds."""
+        """Whether the goal is met."""
         if self.goal is None or self.bracket is None:
             return "for comparison"
         if self.median <= self.goal:
@@ -73,7 +73,7 @@ def seconds_of(command: str, is_wall: bool) -> float:
 
 def pair_times(ours: str, floor: str, count: int,
                is_wall: bool) -> tuple[list[float], list[float]]:
-    """The times of two commands in turn; the first turn is a warm-up."""
+    """The times of two commands, run alternately; the first round is a warm-up."""
     pairs = [(seconds_of(ours, is_wall), seconds_of(floor, is_wall)) for _ in range(count + 1)][1:]
     return [pair[0] for pair in pairs], [pair[1] for pair in pairs]
 

@@ -42,8 +42,7 @@ def start(program: Path, home: str) -> list[float]:
 
 
 def startup_rows(programs: Path, count: int) -> list[Row]:
-    """First frame and memory. The windows start in turns; the first turn warms up and does not
-    count."""
+    """First frame and memory. The windows start alternately; the first round is a warm-up."""
     with tempfile.TemporaryDirectory() as home:
         turns = [[start(programs / f"startup_{window}", home) for window in ("bare", "loadwick")]
                  for _ in range(count + 1)][1:]
@@ -87,8 +86,8 @@ def one_round(programs: Path) -> Costs:
 
 
 def frame_rows(programs: Path, count: int) -> list[Row]:
-    """The 99th percentile of what a frame costs the interface's thread, in the worst of the scenes.
-    A page enters in some two dozen frames, too few for a percentile: there, that of all pages."""
+    """The 99th percentile of a frame's cost on the interface thread, in the worst scene. A page
+    arrives in some two dozen frames, too few for a percentile: arrivals count all pages together."""
     costs = [one_round(programs) for _ in range(count)]
 
     def row(what: str, action: str, names: Iterable[str]) -> Row:

@@ -8,8 +8,8 @@
 
 namespace Loadwick {
 
-/// Keeps a program that scans inside one throw-away home: it can neither start the machine's own
-/// `claude` nor write to that one's files.
+/// Confines a program that scans to one throw-away home: it can neither start the user's own
+/// `claude` nor write to the user's files.
 namespace Confinement {
 
 /// Makes `home` this process's home and forgets the variables that name a configuration, data,

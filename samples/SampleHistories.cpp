@@ -35,7 +35,7 @@ std::string categoryName(std::int64_t category)
     return numbered(categoryNames[static_cast<std::size_t>(category % count)], category / count);
 }
 
-/// Wanders about a level of the repository's own, from 14,000 tokens up.
+/// Fluctuates around a level specific to the repository, at least 14,000 tokens.
 std::int64_t totalOf(std::int64_t repository, std::int64_t scan)
 {
     const std::int64_t level = 18'000 + repository * 13'700 % 74'000;

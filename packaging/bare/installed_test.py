@@ -1,4 +1,4 @@
-"""The installed program on a machine that holds nothing but what its package asks for."""
+"""The installed program on a machine with nothing but its package's dependencies."""
 
 from __future__ import annotations
 

@@ -30,7 +30,7 @@ def has_active_window() -> bool:
 
 
 def unless_gone(look: Callable[[], Found], otherwise: Found) -> Found:
-    """What `look` gives, or `otherwise` when the object has left the tree meanwhile."""
+    """The result of `look`, or `otherwise` if the object has left the tree meanwhile."""
     try:
         return look()
     except GLib.Error:
@@ -45,7 +45,7 @@ class AccessibleTree:
         self._root = self._until("the program's accessible tree", self._find_root)
 
     def _until(self, what: str, look: Callable[[], Optional[Found]]) -> Found:
-        """`until` that ends early with the program and tells what the window showed instead."""
+        """Like `until`, but fails as soon as the program ends, and says what the window showed."""
 
         def look_while_running() -> Optional[Found]:
             if not is_running(self._process):
@@ -105,7 +105,7 @@ class AccessibleTree:
 
     def wait_until_gone(self, name: str) -> None:
         """Returns once no visible object has this name."""
-        self._until(f"the end of {name!r}", lambda: self.find(name) is None)
+        self._until(f"{name!r} to disappear", lambda: self.find(name) is None)
 
     def focused(self) -> Optional[Any]:
         """The focused object: the innermost, if several claim the focus."""
@@ -115,11 +115,11 @@ class AccessibleTree:
     def wait_until_focused(self, name: str) -> None:
         """Returns once the object of this name is focused."""
 
-        def has_keyboard() -> bool:
+        def has_focus() -> bool:
             item = self.focused()
             return item is not None and item.get_name() == name
 
-        self._until(f"the keyboard on {name!r}", has_keyboard)
+        self._until(f"the focus on {name!r}", has_focus)
 
     def texts(self) -> list[str]:
         """The texts of all visible objects."""
@@ -127,9 +127,9 @@ class AccessibleTree:
 
     def press(self, name: str) -> None:
         """Presses the button or the row of this name, once it can be pressed."""
-        button = self._until(f"the button {name!r} that can be pressed", lambda: self._pressable(name))
+        button = self._until(f"an enabled button {name!r}", lambda: self._pressable(name))
         if not Atspi.Action.do_action(button, press_index(button)):
-            raise AssertionError(f"the button {name!r} refused to be pressed")
+            raise AssertionError(f"pressing the button {name!r} failed")
 
     def _pressable(self, name: str) -> Optional[Any]:
         for item in self.items():
@@ -142,25 +142,25 @@ class AccessibleTree:
         return is_enabled(self.wait_for(name, "push button"))
 
     def key(self, keys: str) -> None:
-        """Types real keys, such as "ctrl+o", into the program's window, once that is active."""
-        self._until("the active window", self._is_active)
+        """Types real keys, such as "ctrl+o", into the program's window, once it is active."""
+        self._until("the window to become active", self._is_active)
         xdotool("key", keys)
 
     def type(self, text: str) -> None:
         """Types the text with real keys into the focused object, once the window is active."""
-        self._until("the active window", self._is_active)
+        self._until("the window to become active", self._is_active)
         xdotool("type", "--delay", "1", text)
 
     def resize(self, width: int, height: int) -> None:
         """Gives the program's window this size, once it is active."""
-        self._until("the active window", self._is_active)
-        # The display server learns of it later than the program.
+        self._until("the window to become active", self._is_active)
+        # The display server learns this later than the program.
         until("the display's active window", has_active_window)
         xdotool("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
     def wait_until_inactive(self) -> None:
-        """Returns once the program knows that its window has lost the keyboard."""
-        self._until("the window's rest", lambda: not self._is_active())
+        """Returns once the program knows that its window has lost the focus."""
+        self._until("the window to become inactive", lambda: not self._is_active())
 
     def _is_active(self) -> bool:
         active = Atspi.StateType.ACTIVE
@@ -212,9 +212,9 @@ def press_index(item: Any) -> int:
 
 
 def text_of(item: Any) -> str:
-    """The object's whole text when it has one, else its name."""
+    """The object's whole text if it has one, else its name."""
     if "Text" in item.get_interfaces():
         text = Atspi.Text.get_text(item, 0, Atspi.Text.get_character_count(item))
         if text:
-            return str(text).replace("\N{PARAGRAPH SEPARATOR}", "\n")  # the toolkit's line end
+            return str(text).replace("\N{PARAGRAPH SEPARATOR}", "\n")  # the toolkit's line break
     return str(item.get_name() or "")

@@ -23,7 +23,7 @@ SIZES = ((1180, 780), (960, 640))
 
 
 def size_of(picture: Path) -> tuple[int, int]:
-    """Width and height as a PNG file's header has them."""
+    """Width and height, from a PNG file's header."""
     width, height = struct.unpack(">II", picture.read_bytes()[16:24])
     return int(width), int(height)
 
@@ -48,7 +48,7 @@ class DemonstrationTest(unittest.TestCase):
         path.chmod(0o755)
 
     def environment(self) -> dict[str, str]:
-        """That person's environment."""
+        """That user's environment."""
         return environment_for(self.machine / "home") | {
             "PATH": f"{self.machine}/path:{os.environ['PATH']}",
             "CLAUDE_CONFIG_DIR": str(self.machine / "home" / ".claude"),
@@ -57,7 +57,7 @@ class DemonstrationTest(unittest.TestCase):
         }
 
     def assert_untouched(self) -> None:
-        """Nothing of that user was started or written, and the throw-away home is gone."""
+        """None of the user's commands was started, no file written, and the throw-away home is gone."""
         self.assertFalse((self.machine / "started").exists())
         self.assertEqual(os.listdir(self.machine / "home" / ".claude"), [])
         self.assertFalse((self.machine / "home" / "data").exists())

@@ -1,4 +1,4 @@
-"""Each failure of a scan, reached through the window; its text is compared to the letter."""
+"""Each failure of a scan, reached through the window; its text is compared exactly."""
 
 from __future__ import annotations
 

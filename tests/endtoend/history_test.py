@@ -1,4 +1,4 @@
-"""What the window makes of several scans: their trend, their comparison, and their end."""
+"""What the window makes of several scans: their trend, their comparison, and their deletion."""
 
 from __future__ import annotations
 

@@ -1,4 +1,4 @@
-"""Texts from outside that are markup: shown to the letter on every page, and nothing is loaded."""
+"""Outside texts that hold markup: every page shows them verbatim and loads nothing."""
 
 from __future__ import annotations
 
@@ -28,7 +28,7 @@ class HostileTextsTest(TracedCase):
         self.markup = IMAGE.format(f"file://{self.bait}")
 
     def record(self, number: int) -> dict[str, object]:
-        """A recorded scan, hostile wherever it holds a text."""
+        """A recorded scan with markup in each of its texts."""
         return {
             "id": f"6BA7B810-9DAD-11D1-80B4-00C04FD430C{number}",
             "date": f"2026-03-0{number}T09:15:27Z",
@@ -52,13 +52,13 @@ class HostileTextsTest(TracedCase):
         )
 
     def open_high(self) -> Program:
-        """The window, high enough for each page, with a log of every file that it opens."""
+        """The window, tall enough for each page, with a log of every file that it opens."""
         program = self.open_traced("open,openat,socket")
         program.window.resize(1180, self.display_height - 100)
         return program
 
     def assert_shows_markup(self, program: Program, page: str) -> None:
-        """Expects the markup on the page, to the letter."""
+        """Expects the markup on the page, verbatim."""
         program.window.key(page)
         until(f"the markup on {page}", lambda: self.shown(program))
 
@@ -79,7 +79,7 @@ class HostileTextsTest(TracedCase):
         Path(os.fsdecode(folder), "<b>imported.md").write_text("Be brief.\n", encoding="utf-8")
         return folder
 
-    def test_every_page_shows_a_good_scan_to_the_letter(self) -> None:
+    def test_every_page_shows_a_good_scan_verbatim(self) -> None:
         self.plant()
         program = self.open_high()
         self.choose(program, self.repository())
@@ -90,7 +90,7 @@ class HostileTextsTest(TracedCase):
             self.assert_shows_markup(program, page)
         self.assert_loaded_nothing(program)
 
-    def test_a_session_that_fails_in_markup_is_shown_to_the_letter(self) -> None:
+    def test_a_session_that_fails_in_markup_is_shown_verbatim(self) -> None:
         program = self.open_high()
         self.choose(program, self.repository())
         self.home.play("failed", message=self.markup)

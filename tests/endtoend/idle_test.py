@@ -28,11 +28,11 @@ class WatchedProgram(Program):
         super().__init__(command, environment_for(home) | rules, self._log)
 
     def frames(self) -> int:
-        """How many frames it has drawn."""
+        """The number of frames drawn so far."""
         return self._log.read_bytes().count(FRAME)
 
     def wakes(self) -> int:
-        """How often it has been woken."""
+        """The number of wake-ups so far."""
         return wakes_of(self.process.pid)
 
     def is_at_rest(self) -> bool:
@@ -62,7 +62,7 @@ class IdleTest(EndToEndCase):
         return program
 
     def assert_sleeps(self, programs_at_rest: list[WatchedProgram]) -> None:
-        """Watches them for ten seconds."""
+        """Watches all the windows for ten seconds."""
         for program in programs_at_rest:
             until(f"the rest of {program.name}", program.is_at_rest)
         before = [(program.frames(), program.wakes()) for program in programs_at_rest]

@@ -37,7 +37,7 @@ class OverviewReadingTest(EndToEndCase):
 
     @staticmethod
     def weekly_line() -> dict[str, object]:
-        """One week just beside its targets."""
+        """One week just off its targets."""
         return {
             "median_tokens_per_session": 27510400,
             "tokens_per_pr": 37681169,
@@ -148,7 +148,7 @@ class OverviewReadingTest(EndToEndCase):
         return text if text != before else ""
 
     def tab_to(self, program: Program, part: str) -> None:
-        """Presses Tab until a stop says that."""
+        """Presses Tab until a stop has that text."""
         path = ""
         for _ in range(20):
             stop = self.step(program, "Tab", path)
@@ -174,8 +174,8 @@ class OverviewReadingTest(EndToEndCase):
         return found[0]
 
     def walk(self, program: Program, key: str) -> list[Any]:
-        """What the key leads to, one stop after the other, until it is where it began. Each stop
-        comes into sight."""
+        """The stops that the key reaches, one after the other, until it returns to the first. Each
+        stop scrolls into sight."""
         stops: list[Any] = []
         paths: list[str] = []
         while True:

@@ -1,10 +1,10 @@
-"""What the Overview says of the stand-in's session, and how the keyboard passes through it."""
+"""What the Overview says about the stand-in's session, and its tab order."""
 
 from __future__ import annotations
 
 from endtoend_case import CHOOSE, SCAN
 
-# Everything that the page says of the stand-in's session and of the files below, in its order.
+# Everything that the page says about the stand-in's session and the files below, in page order.
 HEADER = (
     "Overview",
     "Everything this Claude Code startup-context scan measured.",

@@ -1,4 +1,4 @@
-"""What the system says about processes, and how they are tied together."""
+"""What the system says about processes, and how to tie one to its parent."""
 
 from __future__ import annotations
 
@@ -6,7 +6,7 @@ import ctypes
 import signal
 from pathlib import Path
 
-SET_PARENT_DEATH_SIGNAL = 1  # of prctl
+SET_PARENT_DEATH_SIGNAL = 1  # an option of prctl(2)
 
 
 def end_with_parent() -> None:

@@ -45,7 +45,7 @@ class Program:
         return self.process.wait(LIMIT_SECONDS)
 
     def ask_to_end(self) -> float:
-        """Sends SIGTERM; gives the seconds until the program was gone."""
+        """Sends SIGTERM; returns the seconds until the program has ended."""
         start = time.monotonic()
         self.process.send_signal(signal.SIGTERM)
         self.process.wait(LIMIT_SECONDS)

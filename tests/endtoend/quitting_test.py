@@ -1,4 +1,4 @@
-"""The program's end while a session runs: it and the session are gone within one second."""
+"""Quitting while a session runs: the program and the session end within one second."""
 
 from __future__ import annotations
 

@@ -13,7 +13,7 @@ from waiting import LIMIT_SECONDS
 
 
 class SecondStartTest(EndToEndCase):
-    """Two programs and one home, or two."""
+    """Two programs on the same home, or on two."""
 
     def start_again(self) -> subprocess.CompletedProcess[str]:
         """Starts the program once more on the same home and waits for its end."""
@@ -39,7 +39,7 @@ class SecondStartTest(EndToEndCase):
 
     def test_after_a_hung_window_a_new_one_opens(self) -> None:
         hung = self.open()
-        hung.process.send_signal(19)  # SIGSTOP: it can answer nothing
+        hung.process.send_signal(19)  # SIGSTOP: it cannot answer
         start = time.monotonic()
         self.open()
         self.assertLess(time.monotonic() - start, LIMIT_SECONDS)

@@ -1,4 +1,4 @@
-"""A whole session under strace: whom the program contacts, and what it sends."""
+"""A whole session under strace: what the program connects to, and what it sends."""
 
 from __future__ import annotations
 

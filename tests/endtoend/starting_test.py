@@ -1,4 +1,4 @@
-"""How the program starts where there is little room for it, or no display."""
+"""Starting on a small screen, and without a display."""
 
 from __future__ import annotations
 

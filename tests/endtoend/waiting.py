@@ -1,4 +1,4 @@
-"""Bounded waiting that names what it waited for."""
+"""Waits with a time limit; a failure names what was waited for."""
 
 from __future__ import annotations
 

@@ -33,7 +33,7 @@ public:
     LinesAsEnvironment(const LinesAsEnvironment &) = delete;
     LinesAsEnvironment &operator=(const LinesAsEnvironment &) = delete;
 
-    /// The value that getenv gives.
+    /// The value that getenv returns.
     [[nodiscard]] const char *valueOf(const std::string &name) const
     {
         for (const std::string &entry : m_entries)

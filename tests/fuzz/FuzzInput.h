@@ -20,7 +20,7 @@ public:
     [[nodiscard]] std::string_view takeLine() noexcept { return takeUpTo('\n'); }
 
     /// The integer at the head, from -`limit` to `limit`: a larger one is folded into that range,
-    /// and none is 0. `limit` is at most `largestLimit`.
+    /// and a missing one is 0. `limit` is at most `largestLimit`.
     [[nodiscard]] std::int64_t takeInteger(std::int64_t limit) noexcept;
 
     static constexpr std::int64_t largestLimit = 100'000'000'000'000'000;

@@ -9,14 +9,13 @@
 
 namespace Loadwick {
 
-/// What nlohmann-json's parser, which keeps everything, makes of a document of which our reader
-/// keeps only parts.
+/// A document as nlohmann-json parses it, complete; our reader keeps only parts.
 struct JsonOracle
 {
     /// False where the two rightly differ: the library reads a NUL as the end and skips a byte
-    /// order mark, both of which RFC 8259 does not know, and refuses a number that is no double.
+    /// order mark, both of which RFC 8259 does not know, and refuses a number out of a double's range.
     bool isJudge;
-    std::optional<nlohmann::json> object; ///< nothing when the document is no JSON object
+    std::optional<nlohmann::json> object; ///< nothing when the document is not a JSON object
 
     /// White space around the document is allowed. Half a surrogate pair counts as U+FFFD.
     [[nodiscard]] static JsonOracle of(std::string_view document);

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t mostWeights = 48; // every pair of rectangles is compared
 
-/// A weight on each line; what is no number at all is 0.
+/// A weight on each line; a line that is not a number is 0.
 std::vector<double> weightsIn(FuzzInput input)
 {
     std::vector<double> weights;

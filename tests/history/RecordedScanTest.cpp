@@ -100,7 +100,7 @@ TEST(RecordedScanTest, withholdsABareFileNameWithAnExtension)
     EXPECT_EQ(storable("Memory from notes.txt and more"), withheld);
 }
 
-TEST(RecordedScanTest, withholdsAnEmptyOrAllBlankName)
+TEST(RecordedScanTest, withholdsAnEmptyOrBlankName)
 {
     EXPECT_EQ(storable(""), withheld);
     EXPECT_EQ(storable(" \n\t "), withheld);
@@ -158,7 +158,7 @@ TEST(RecordedScanTest, requiresLettersOrDigitsAfterTheDot)
     EXPECT_FALSE(looksLikePath("a.\xFF"));
 }
 
-TEST(RecordedScanTest, splitsWordsAtBlanksAndSkipsEmptyOnes)
+TEST(RecordedScanTest, splitsWordsAtSpacesAndSkipsEmptyOnes)
 {
     EXPECT_TRUE(looksLikePath("  read   notes.md  "));
     EXPECT_TRUE(looksLikePath("notes.md last"));

@@ -195,7 +195,7 @@ TEST_P(ScanHistoryOracleTest, agreesWithTheNaiveImplementation)
     EXPECT_EQ(ScanHistory::categoryAxis(scans), slowCategoryAxis(scans));
 }
 
-TEST_P(ScanHistoryOracleTest, ordersTotallyWhateverTheOrderOfTheScans)
+TEST_P(ScanHistoryOracleTest, isATotalOrderForAnyInputOrder)
 {
     RandomHistory history(GetParam());
     const Scans scans = history.scans();

@@ -14,7 +14,7 @@
 #include "support/PlainPermissions.h"
 #include "support/RecordedScanBuilder.h"
 
-// Tests that need processes of their own, or a memory limit that no sanitizer survives.
+// Tests that need a separate process, or a memory limit that no sanitizer survives.
 
 namespace Loadwick {
 
@@ -58,8 +58,7 @@ std::size_t entriesIn(const fs::path &folder)
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
 
-/// Whether one program's scans, appended in order, were each recorded or overwritten by the
-/// other's.
+/// Appends a program's scans in order; whether each list returned held the scan just appended.
 bool appendScans(const fs::path &folder, const std::string &name)
 {
     ScanHistoryStore store(folder);

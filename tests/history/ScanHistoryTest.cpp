@@ -20,7 +20,7 @@ RecordedScan scanOf(const char *path, std::int64_t date, const char *name = "web
     return RecordedScanBuilder().named(name).in(path).at(date).build();
 }
 
-/// A scan of /a whose identifier is that of `digit` alone.
+/// A scan of /a whose identifier repeats `digit`.
 RecordedScan identifiedScan(char digit, std::int64_t date, std::int64_t total)
 {
     RecordedScan scan = RecordedScanBuilder().in("/a").at(date).ofTotal(total).build();
@@ -75,7 +75,7 @@ TEST(ScanHistoryTest, mostRecentRepositoryIsThatOfTheLastScan)
     EXPECT_EQ(ScanHistory::mostRecentRepositoryPath(scans), "/b");
 }
 
-TEST(ScanHistoryTest, keepsTheLatestScanOfEachRepositoryWhateverTheOrder)
+TEST(ScanHistoryTest, keepsTheLatestScanOfEachRepositoryInAnyOrder)
 {
     const std::vector scans = {scanOf("/a", 2), scanOf("/a", 3), scanOf("/a", 1)};
     EXPECT_EQ(ScanHistory::latestPerRepository(scans), std::vector{scans[1]});
@@ -119,7 +119,7 @@ TEST(ScanHistoryTest, ranksARepositoryThatWasScannedOnceWithoutAPreviousTotal)
     EXPECT_EQ(ScanHistory::leaderboard(scans), std::vector{only});
 }
 
-TEST(ScanHistoryTest, comparesTheTwoLatestScansWhateverTheOrder)
+TEST(ScanHistoryTest, comparesTheTwoLatestScansInAnyOrder)
 {
     std::vector scans = {identifiedScan('1', 1, 10), identifiedScan('2', 2, 20),
                          identifiedScan('3', 3, 30)};

@@ -85,7 +85,7 @@ TEST_F(WeeklyKPIReaderTest, readsEveryField)
               expected);
 }
 
-TEST_F(WeeklyKPIReaderTest, theLastUsableLineWinsWhateverItsDate)
+TEST_F(WeeklyKPIReaderTest, theLastUsableLineWinsAtAnyDate)
 {
     EXPECT_EQ(
         medianIn(lineOf(1, R"(,"timestamp":"2030")") + "\n" + lineOf(2, R"(,"timestamp":"2020")")),
@@ -103,7 +103,7 @@ TEST_F(WeeklyKPIReaderTest, skipsALineWithoutBothRequiredFigures)
     EXPECT_EQ(medianIn(lineOf(1) + "\n{\"tokens_per_pr\":2}"), 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, skipsALineWhoseRequiredFigureIsNoInteger)
+TEST_F(WeeklyKPIReaderTest, skipsALineWhoseRequiredFigureIsNotAnInteger)
 {
     for (const char *figure : {"\"2\"", "2.5", "2.0", "2e3", "null", "true", "[2]", "{}",
                                "9223372036854775808", "-9223372036854775808"})
@@ -121,7 +121,7 @@ TEST_F(WeeklyKPIReaderTest, theLargestAndTheSmallestComparableFiguresCount)
     EXPECT_EQ(medianIn(lineOf(-9'223'372'036'827'265'347)), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, skipsALineThatIsNoObject)
+TEST_F(WeeklyKPIReaderTest, skipsALineThatIsNotAnObject)
 {
     for (const char *line : {"[1]", "1", "\"text\"", "null", "words", "{", "{} {}"})
         EXPECT_EQ(medianIn(lineOf(1) + "\n" + line), 1) << line;
@@ -204,19 +204,19 @@ TEST_F(WeeklyKPIReaderTest, readsTheLastLineOfTheFile)
     EXPECT_EQ(medianAt(write(loggedLine(1) + loggedLine(2))), 2);
 }
 
-TEST_F(WeeklyKPIReaderTest, givesNothingForAnEmptyFile)
+TEST_F(WeeklyKPIReaderTest, returnsNothingForAnEmptyFile)
 {
     EXPECT_EQ(medianAt(write("")), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, givesNothingForAMissingFileOrAFolder)
+TEST_F(WeeklyKPIReaderTest, returnsNothingForAMissingFileOrAFolder)
 {
     EXPECT_EQ(medianAt(m_folder.path() / "missing"), std::nullopt);
     EXPECT_EQ(medianAt(m_folder.path()), std::nullopt);
     EXPECT_EQ(medianAt(""), std::nullopt);
 }
 
-TEST_F(WeeklyKPIReaderTest, givesNothingForAnUnreadableFile)
+TEST_F(WeeklyKPIReaderTest, returnsNothingForAnUnreadableFile)
 {
     const fs::path path = write(loggedLine(1));
     fs::permissions(path, fs::perms::none);
@@ -272,7 +272,7 @@ TEST_F(WeeklyKPIReaderTest, ignoresIllFormedUtf8BeforeItsWindow)
     EXPECT_EQ(medianAt(write("caf\xE9 \u00E9\n" + loggedLine(1)), 53), 1);
 }
 
-TEST_F(WeeklyKPIReaderTest, givesNothingForALongFileWithoutALineFeed)
+TEST_F(WeeklyKPIReaderTest, returnsNothingForALongFileWithoutALineFeed)
 {
     EXPECT_EQ(medianAt(write(std::string(200, ' ')), 100), std::nullopt);
 }

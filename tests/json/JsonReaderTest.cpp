@@ -20,7 +20,7 @@ bool isObject(std::string_view text)
     return jsonObject(text, {}).has_value();
 }
 
-/// The same value as the library's type.
+/// The value, converted to the library's type.
 json libraryValue(const JsonValue &value)
 {
     json all;
@@ -44,7 +44,7 @@ json libraryValue(const JsonValue &value)
     return all;
 }
 
-/// The parts of a document, written as the library writes them; "none" if it is no JSON object.
+/// The parts of a document, written as the library writes them; "none" if it is not a JSON object.
 std::string partsOf(std::string_view text, std::initializer_list<std::string_view> keptPaths)
 {
     const auto object = jsonObject(text, keptPaths);
@@ -87,7 +87,7 @@ TEST(JsonReaderTest, keepsOnlyScalarsOnRequest)
     EXPECT_EQ(scalarsOf(R"({"a":[1,}]})", {"a"}), "none");
 }
 
-TEST(JsonReaderTest, findsAKeyByItsWholeNameWhateverItsEscapes)
+TEST(JsonReaderTest, findsAKeyByItsWholeNameDespiteEscapes)
 {
     EXPECT_EQ(partsOf(R"({"\u0061b":1})", {"ab"}), R"({"ab":1})");
     EXPECT_EQ(partsOf(R"({"message.usage":1})", {"message.usage"}), "{}");
@@ -124,13 +124,13 @@ TEST(JsonReaderTest, rejectsAByteOrderMark)
     EXPECT_FALSE(isObject(" \uFEFF{}"));
 }
 
-TEST(JsonReaderTest, isNothingUnlessTheTopLevelIsAnObject)
+TEST(JsonReaderTest, returnsNothingUnlessTheTopLevelIsAnObject)
 {
     for (const char *text : {"[]", "[{}]", "1", "\"x\"", "null", "true", "", " "})
         EXPECT_FALSE(isObject(text)) << text;
 }
 
-TEST(JsonReaderTest, isNothingUnlessTheTextIsJson)
+TEST(JsonReaderTest, returnsNothingUnlessTheTextIsJson)
 {
     for (const char *text : {"{",
                              "}",

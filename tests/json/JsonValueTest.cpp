@@ -41,13 +41,13 @@ JsonValue nested(std::size_t depth)
 
 } // namespace
 
-TEST(JsonValueTest, isDestroyedWhateverItsDepth)
+TEST(JsonValueTest, isDestroyedAtAnyDepth)
 {
     for (const std::size_t depth : {0U, 1U, 2U, 5U, 200'000U})
         EXPECT_EQ(nested(depth).as<std::int64_t>() != nullptr, depth == 0);
 }
 
-TEST(JsonValueTest, isDestroyedWhateverItsWidth)
+TEST(JsonValueTest, isDestroyedAtAnyWidth)
 {
     JsonValue value = array(array(), JsonValue(JsonValue::Object()), JsonValue());
     for (int item = 0; item < 100'000; ++item)
@@ -67,7 +67,7 @@ TEST(JsonValueTest, movesItsWholeContent)
     EXPECT_EQ(exactInteger(member(third, "a")), 1);
 }
 
-TEST(JsonValueTest, givesItsContentOnlyAsItsOwnKind)
+TEST(JsonValueTest, returnsItsContentOnlyAsItsOwnType)
 {
     const JsonValue text("words");
     EXPECT_EQ(*text.as<std::string>(), "words");
@@ -88,7 +88,7 @@ TEST(JsonValueTest, onlyObjectsHaveMembers)
     EXPECT_EQ(member(JsonValue(), "a"), nullptr);
 }
 
-TEST(JsonValueTest, givesTheLastDuplicateKey)
+TEST(JsonValueTest, returnsTheLastDuplicateKey)
 {
     EXPECT_EQ(exactInteger(member(object("before", integer(7)), "before")), 7);
 }

@@ -48,7 +48,7 @@ TEST_F(ScanModelObserversTest, seeTheResultBeforeTheHistory)
     EXPECT_EQ(log, (Log{"selection", "idle", "scanning", "result", "history 1"}));
 }
 
-TEST_F(ScanModelObserversTest, seeNoHistoryOfAFailure)
+TEST_F(ScanModelObserversTest, seeNoHistoryChangeAfterAFailure)
 {
     harness.probe->answer = []() -> ProbeResult { throw ProbeError::timedOut(); };
     logOf(model, log);

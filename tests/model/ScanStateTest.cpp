@@ -86,7 +86,7 @@ TEST(ScanStateTest, anOutcomeTurnsAnotherExceptionIntoUnreadableOutput)
               ScanOutcome<int>(ProbeError::unreadableOutput("a\xEF\xBF\xBDz")));
 }
 
-TEST(ScanStateTest, anOutcomeDescribesWhatIsNoExceptionAsUnknown)
+TEST(ScanStateTest, anOutcomeDescribesANonExceptionAsUnknown)
 {
     EXPECT_EQ(outcomeOfThrowing(7),
               ScanOutcome<int>(ProbeError::unreadableOutput("unknown error")));

@@ -66,7 +66,7 @@ TEST(AtomicFileTest, createsAFileThatOnlyItsOwnerCanRead)
     EXPECT_EQ(namesIn(folder.path()), Names{"file.json"});
 }
 
-TEST(AtomicFileTest, makesTheFileReadableWhateverTheUmask)
+TEST(AtomicFileTest, makesTheFileReadableUnderAnyUmask)
 {
     const TemporaryFolder folder;
     const mode_t before = umask(0777);

@@ -124,7 +124,7 @@ TEST(FileDescriptorTest, opensNoPipeOnAClosedStandardStream)
         dup2(keptInput.number(), STDIN_FILENO);
 }
 
-// An unprivileged user's pipes may already have used up their common limit.
+// An unprivileged user may already have reached the limit on all pipes together.
 TEST(FileDescriptorTest, opensPipesOfAtLeastTheUsualSize)
 {
 #if defined(__linux__)

@@ -68,7 +68,7 @@ TEST(FileSystemTest, doesNotCountAFifoAsAFile)
     EXPECT_EQ(entriesOf(folder.path()), (Entries{{"fifo", EntryKind::other}}));
 }
 
-TEST(FileSystemTest, givesNamesAsBytes)
+TEST(FileSystemTest, returnsNamesAsBytes)
 {
     const TemporaryFolder folder;
     (void)folder.write("caf\xE9", "");
@@ -141,7 +141,7 @@ TEST(FileSystemTest, recognisesALeafFolderWhereTheDiskCountsFolders)
 TEST(FileSystemTest, rulesOutNoFolderWhereTheDiskDoesNotCount)
 {
     const TemporaryFolder folder;
-    EXPECT_TRUE(PosixFileSystem().mayHoldFolders("/proc/self/fd")) << "two links, and no such disk";
+    EXPECT_TRUE(PosixFileSystem().mayHoldFolders("/proc/self/fd")) << "has two links anyway";
     EXPECT_TRUE(PosixFileSystem().mayHoldFolders(folder.path() / "missing"));
 }
 

@@ -14,7 +14,7 @@ namespace Loadwick {
 
 namespace {
 
-int failures = 0; // that a lookup has yet to give
+int failures = 0; // lookups that have yet to fail
 
 int recorded(passwd *entry, char *buffer, const char *home, passwd **found)
 {

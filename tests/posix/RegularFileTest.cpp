@@ -216,7 +216,7 @@ TEST(RegularFileTest, hidesItsDescriptorFromChildren)
 
 TEST(RegularFileTest, reportsWhyAnOpenFileCannotBeRead)
 {
-    auto file = RegularFile::open("/proc/self/mem"); // nothing is mapped at its beginning
+    auto file = RegularFile::open("/proc/self/mem"); // nothing is mapped at address 0
     ASSERT_TRUE(file);
     std::array<char, 16> buffer{};
     RegularFile::Failure failure;

@@ -15,7 +15,7 @@ using Paths = std::vector<std::string>;
 
 namespace {
 
-// A world in which one path is executable and the login shell gives one answer.
+// A machine on which one path is executable and the login shell gives one answer.
 struct World
 {
     std::string executable;

@@ -70,7 +70,7 @@ TEST(ProbeErrorTest, listsEveryPathThatWasSearched)
     EXPECT_EQ(ProbeError::cliNotFound({"", ""}).detail(), "Looked in:\n  \u2022 \n  \u2022 ");
 }
 
-TEST(ProbeErrorTest, namesTheFolderWithoutTranscript)
+TEST(ProbeErrorTest, namesTheFolderThatHoldsNoTranscript)
 {
     EXPECT_EQ(ProbeError::noTranscript("/p").detail(),
               "No session transcript was found under /p and the CLI returned no usage block.");

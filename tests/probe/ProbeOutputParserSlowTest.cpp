@@ -48,7 +48,7 @@ TEST(ProbeOutputParserSlowTest, copiesNoHugeArrayWhereAScalarBelongs)
     EXPECT_LT(memory.growthInBytes(), size / 20);
 }
 
-TEST(ProbeOutputParserSlowTest, copiesNoHugeOutputThatIsNoRecord)
+TEST(ProbeOutputParserSlowTest, copiesNoHugeOutputThatIsNotARecord)
 {
     const std::string text(size, 'x');
     const PeakMemory memory;

@@ -57,19 +57,19 @@ TEST(ProbeOutputParserTest, rejectsAUsageOfOnlyOutputTokens)
     EXPECT_FALSE(output(R"({"session_id":"s","usage":{"output_tokens":3}})").usage);
 }
 
-TEST(ProbeOutputParserTest, rejectsAUsageThatIsNoObject)
+TEST(ProbeOutputParserTest, rejectsAUsageThatIsNotAnObject)
 {
     EXPECT_FALSE(output(R"({"session_id":"s","usage":[3]})").usage);
     EXPECT_FALSE(output(R"({"session_id":"s","usage":null})").usage);
 }
 
-TEST(ProbeOutputParserTest, readsAResultThatIsNoStringAsEmpty)
+TEST(ProbeOutputParserTest, readsAResultThatIsNotAStringAsEmpty)
 {
     EXPECT_EQ(output(R"({"session_id":"s","result":{"a":1}})").result, "");
     EXPECT_EQ(output(R"({"session_id":"s","result":null})").result, "");
 }
 
-TEST(ProbeOutputParserTest, acceptsARecordWhateverTheExitCode)
+TEST(ProbeOutputParserTest, acceptsARecordWithAnyExitCode)
 {
     const auto read = ProbeOutputParser::parse(R"({"session_id":"s"})", "Invalid API key", 1);
     EXPECT_EQ(read.sessionID, "s");
@@ -80,7 +80,7 @@ TEST(ProbeOutputParserTest, lastDuplicateKeyWins)
     EXPECT_EQ(output(R"({"session_id":"a","session_id":"b"})").sessionID, "b");
 }
 
-TEST(ProbeOutputParserTest, ignoresAnErrorFlagThatIsNoBoolean)
+TEST(ProbeOutputParserTest, ignoresAnErrorFlagThatIsNotABoolean)
 {
     EXPECT_EQ(output(R"({"session_id":"s","is_error":"true"})").sessionID, "s");
     EXPECT_EQ(output(R"({"session_id":"s","is_error":1})").sessionID, "s");

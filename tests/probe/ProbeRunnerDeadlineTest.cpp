@@ -21,7 +21,7 @@ constexpr const char *notSignedIn = R"({"result":"Please run /login","is_error":
 constexpr const char *exitsWith143 = "trap 'exit 143' TERM\n"
                                      "while :; do sleep 0.02; done\n";
 
-// A disk that never answers within the life of a test.
+// A disk that does not answer during a test.
 class StuckFileSystem final : public FileSystem
 {
 public:
@@ -75,7 +75,7 @@ std::string printing(const char *text)
 
 } // namespace
 
-TEST(ProbeRunnerDeadlineTest, reportsAKilledSessionAsTimedOutWhateverItPrinted)
+TEST(ProbeRunnerDeadlineTest, reportsAKilledSessionAsTimedOutDespiteItsOutput)
 {
     for (const char *const text : {"{\"session_id\":", complete, failed})
         EXPECT_EQ(errorOf({.script = printing(text) + "exec sleep 30\n", .timeoutSeconds = 0.3}),

@@ -22,7 +22,7 @@ constexpr std::string_view assistantLine =
     R"({"type":"assistant","message":{"usage":{"input_tokens":7}}})"
     "\n";
 
-// Calls `listing` before every look at a disk.
+// Calls `listing` before every access to the disk.
 class ObservedFileSystem : public PosixFileSystem
 {
 public:
@@ -189,7 +189,7 @@ TEST(ProbeRunnerSearchTest, stopsWalkingAtItsLimit)
 TEST(ProbeRunnerSearchTest, endsTheProgramOnAnInvalidDelay)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    // No folder of its own: a program that dies leaves it behind.
+    // A fixed folder: a program that dies would leave a temporary one behind.
     EXPECT_DEATH((void)usageBy(searching("/nowhere", 2, -0.1)), "is no duration");
     EXPECT_DEATH((void)usageBy(searching("/nowhere", 2, std::nan(""))), "is no duration");
     const double infinity = std::numeric_limits<double>::infinity();

@@ -12,7 +12,7 @@ namespace Loadwick {
 
 namespace {
 
-// A home of its own with a command that is a small script; nothing else of the machine is seen.
+// A home of its own with a command that is a small script; nothing else on the machine is visible.
 class Setting
 {
 public:

@@ -49,7 +49,7 @@ TEST(ProbeUsageTest, acceptsEitherCacheCountAlone)
     EXPECT_EQ(usageOf(R"({"cache_read_input_tokens":8})"), counts(0, 0, 8, 0));
 }
 
-TEST(ProbeUsageTest, isNothingWithOutputTokensAlone)
+TEST(ProbeUsageTest, returnsNothingForOutputTokensAlone)
 {
     EXPECT_FALSE(usageOf(R"({"output_tokens":9})"));
     EXPECT_FALSE(usageOf("{}"));
@@ -67,7 +67,7 @@ TEST(ProbeUsageTest, treatsInexactIntegersAsAbsent)
     }
 }
 
-TEST(ProbeUsageTest, isNothingForWhatIsNoObject)
+TEST(ProbeUsageTest, returnsNothingForANonObject)
 {
     EXPECT_FALSE(usageOf("[]"));
     EXPECT_FALSE(usageOf("null"));

@@ -123,7 +123,7 @@ TEST(SlabParserTest, usesTheLastKeyword)
     EXPECT_FALSE(SlabParser::parseLine("SLAB a TOKENS 12 not tokens at all"));
 }
 
-TEST(SlabParserTest, joinsWordsOfTheNameWithSingleBlanks)
+TEST(SlabParserTest, joinsWordsOfTheNameWithSingleSpaces)
 {
     EXPECT_EQ(SlabParser::parseLine("SLAB   memory    files   TOKENS   9"),
               slab("memory files", 9));
@@ -144,7 +144,7 @@ TEST(SlabParserTest, skipsProseFencesAndBlankLines)
     EXPECT_EQ(SlabParser::parse(text), (Slabs{slab("a", 1), slab("b", 2)}));
 }
 
-TEST(SlabParserTest, givesNothingForAnAnswerWithoutSlabs)
+TEST(SlabParserTest, returnsNothingForAnAnswerWithoutSlabs)
 {
     EXPECT_TRUE(SlabParser::parse("I cannot see that.").empty());
     EXPECT_TRUE(SlabParser::parse("").empty());

@@ -31,7 +31,7 @@ std::optional<ProbeUsage> usageOfFile(std::string_view content)
     return TranscriptReader::firstAssistantUsageAtPath(folder.write("t.jsonl", content));
 }
 
-/// What both forms find in `text`.
+/// What both functions find in `text`.
 std::optional<ProbeUsage> usageOf(std::string_view text)
 {
     const auto usage = TranscriptReader::firstAssistantUsageIn(text);
@@ -128,7 +128,7 @@ TEST(TranscriptReaderTest, skipsOtherKindsOfLine)
         EXPECT_EQ(usageOf(std::string(line) + "\n" + assistantLine(2)), inputOf(2)) << line;
 }
 
-TEST(TranscriptReaderTest, isNothingWithoutAssistantMessage)
+TEST(TranscriptReaderTest, returnsNothingWithoutAnAssistantMessage)
 {
     EXPECT_FALSE(usageOf(""));
     EXPECT_FALSE(usageOf("\n\n"));
@@ -140,7 +140,7 @@ TEST(TranscriptReaderTest, trimsALine)
     EXPECT_EQ(usageOf("  \t" + assistantLine(6) + "  \r\n"), inputOf(6));
 }
 
-TEST(TranscriptReaderTest, isNothingForAnUnreadableFile)
+TEST(TranscriptReaderTest, returnsNothingForAnUnreadableFile)
 {
     const TemporaryFolder folder;
     EXPECT_FALSE(TranscriptReader::firstAssistantUsageAtPath(folder.path() / "missing"));
@@ -255,7 +255,7 @@ TEST(TranscriptReaderTest, findsAUsageWhereverThePiecesCutTheLines)
         EXPECT_EQ(usageInPieces(transcript, size), found) << size;
 }
 
-TEST(TranscriptReaderTest, givesTheUsageWithTheLineFeedThatCompletesTheLine)
+TEST(TranscriptReaderTest, returnsTheUsageWithTheLineFeedThatCompletesTheLine)
 {
     TranscriptPieces pieces(againIn(assistantRecord));
     EXPECT_EQ(pieces.take(assistantRecord), std::nullopt);
@@ -269,7 +269,7 @@ TEST(TranscriptReaderTest, completesTheLastLineAtTheEnd)
     EXPECT_EQ(pieces.finish(), found);
 }
 
-TEST(TranscriptReaderTest, givesNothingForAnEmptyTranscript)
+TEST(TranscriptReaderTest, returnsNothingForAnEmptyTranscript)
 {
     EXPECT_EQ(TranscriptPieces(never).finish(), std::nullopt);
 }

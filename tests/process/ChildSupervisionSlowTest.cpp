@@ -34,7 +34,7 @@ TEST(ChildSupervisionSlowTest, killsItsChildWhenMemoryForItsOutputRunsOut)
     const ProcessCensus before = ProcessCensus::now();
     std::optional<MemoryShortage> shortage;
     std::thread starving([&] {
-        // This thread and two readers: all that need memory to start have started.
+        // This thread and two readers: every thread that needs memory to start has started.
         EXPECT_TRUE(eventually([&] { return ProcessCensus::now().threads >= before.threads + 3; }));
         shortage.emplace(16U << 20U);
         folder.write("may-print", "");

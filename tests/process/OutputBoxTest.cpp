@@ -34,7 +34,7 @@ TEST(OutputBoxTest, joinsChunksInOrder)
     EXPECT_EQ(std::move(bytes).join(), "one two three");
 }
 
-TEST(OutputBoxTest, joinsALongTextWhateverTheSizeOfItsChunks)
+TEST(OutputBoxTest, joinsALongTextFromChunksOfAnySize)
 {
     const std::string text = numbered(3 * mebibyte + 17);
     for (const std::size_t size : {std::size_t{50'000}, text.size()}) {

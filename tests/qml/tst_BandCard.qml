@@ -63,7 +63,7 @@ Item {
             verify(total.mapToItem(card, 0, 0).x < 40);
         }
 
-        function test_givesTheReasonForTheThresholdsOnDemand() {
+        function test_explainsTheThresholdsOnDemand() {
             const card = createTemporaryObject(cards, scene);
             const why = sample.presenter.anchorNote;
             compare(label(card, why), null);

@@ -11,7 +11,7 @@ LongListScene {
         name: "LongListKeys"
         stage: scene
 
-        function test_aPressedRowReturnsTheFocusWhenItLeaves() {
+        function test_aPressedRowGivesUpTheFocusWhenItLeaves() {
             show(10000);
             page.contentY = 3000;
             waitForRendering(scene);

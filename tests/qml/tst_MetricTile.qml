@@ -25,7 +25,7 @@ TestCase {
         verify(tile.children[2].y > tile.children[1].y);
     }
 
-    function test_theFigureIsTheLoudest() {
+    function test_theFigureIsTheMostProminent() {
         verify(tile.children[1].font.pixelSize > tile.children[0].font.pixelSize);
         compare(tile.children[1].font.weight, Font.DemiBold);
     }

@@ -175,7 +175,7 @@ Item {
             compare(test.launch.presenter.currentIndex, 1);
         }
 
-        function test_theFocusedButtonAnswersTheKeyboard() {
+        function test_theFocusedButtonRespondsToTheKeyboard() {
             press("Next");
             keyClick(Qt.Key_Tab);
             verify(button("Skip").visualFocus);
@@ -186,7 +186,7 @@ Item {
             tryCompare(button("Next"), "activeFocus", true);
         }
 
-        function test_theButtonsStayPut() {
+        function test_theButtonsDoNotMove() {
             wait(50);
             const position = button("Next").mapToItem(scene, 0, 0);
             compare(position.y, Math.round(position.y));

@@ -130,7 +130,7 @@ Item {
             wait(50);
         }
 
-        function test_anItemTallerThanThePageStaysPut() {
+        function test_anItemTallerThanThePageDoesNotMove() {
             page.viewport.contentY = 300;
             tall.forceActiveFocus();
             wait(20);

@@ -57,7 +57,7 @@ Item {
             compare(findChild(first, "symbol").visible, false);
         }
 
-        function test_growthIsColouredAsAWarningAndShrinkageAsGoodNews() {
+        function test_growthIsColouredAsAWarningAndShrinkageAsSuccess() {
             compare(wordsOf(grew).color, AppTheme.bandHeavyText);
             compare(wordsOf(shrank).color, AppTheme.bandLeanText);
             compare(wordsOf(unchanged).color, AppTheme.secondaryText);

@@ -93,7 +93,7 @@ Item {
             neighbour.enabled = true;
         }
 
-        function test_answersThePointer() {
+        function test_respondsToThePointer() {
             mouseMove(button, 5, 5);
             tryVerify(function () { return button.hovered; });
             mouseMove(scene, 390, 190);

@@ -61,7 +61,7 @@ Item {
             compare(findChild(readOut, "detail").text, "812 tokens · 2.9%");
         }
 
-        function test_keepsItsSizeWhateverItShows() {
+        function test_keepsItsSizeForAnyContent() {
             const height = readOut.implicitHeight;
             readOut.title = "A name that is so long that it takes more than one line. ".repeat(9);
             readOut.detail = "812 tokens · 2.9%";

@@ -34,7 +34,7 @@ Item {
             tryVerify(shadowRests);
         }
 
-        // There is none before a pointer enters.
+        // No shadow exists before a pointer enters.
         function shadowRests() {
             const shadow = findChild(card, "shadow");
             return shadow === null || !shadow.visible;
@@ -51,7 +51,7 @@ Item {
             compare(card.implicitHeight, 60 + 32);
         }
 
-        function test_restsWithAFaintBorderAndNoShadow() {
+        function test_hasAFaintBorderAndNoShadowAtRest() {
             Appearance.motion = Appearance.Reduced;
             tryCompare(findChild(card, "border"), "opacity", 0.6);
             compare(findChild(card, "border").radius, 14);

@@ -105,7 +105,7 @@ Item {
             compare(edit(plain).Accessible.name, plain.text);
         }
 
-        // Otherwise the words would move under the pointer that selects them.
+        // Otherwise the words would move under the pointer during a selection.
         function test_theReaderReplacesTheLabel() {
             for (const item of [plain, several]) {
                 compare(edit(item).lineCount, shortForm(item).lineCount);

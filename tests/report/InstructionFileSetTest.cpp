@@ -31,7 +31,7 @@ TEST(InstructionFileSetTest, isEmptyInAllFourLists)
     EXPECT_EQ(InstructionFileSet::empty, (InstructionFileSet{{}, {}, {}, {}}));
 }
 
-TEST(InstructionFileSetTest, givesTheFilesOfATier)
+TEST(InstructionFileSetTest, returnsTheFilesOfATier)
 {
     const InstructionFileSet set = sampleSet();
     EXPECT_EQ(&set.files(InstructionFileTier::repository), &set.repositoryFiles);

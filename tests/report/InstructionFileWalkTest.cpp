@@ -183,7 +183,7 @@ TEST(InstructionFileWalkTest, beginsWithNoFindingsAndNotStopped)
     EXPECT_TRUE(findings.isStopped());
 }
 
-TEST(InstructionFileWalkTest, givesFindingsWhileAnotherThreadAdds)
+TEST(InstructionFileWalkTest, returnsFindingsWhileAnotherThreadAdds)
 {
     InstructionFileFindings findings;
     std::thread walker([&findings] {

@@ -75,7 +75,7 @@ TEST(InstructionFoldersTest, opensAFileAndALinkToOne)
     EXPECT_EQ(contentAt(file), "text");
     EXPECT_EQ(contentAt(folder.path() / "link"), "text");
     EXPECT_EQ(contentAt(folder.path() / "missing"), std::to_string(ENOENT));
-    EXPECT_EQ(contentAt(folder.path()), "0") << "no regular file";
+    EXPECT_EQ(contentAt(folder.path()), "0") << "not a regular file";
 }
 
 TEST(InstructionFoldersTest, findsEntriesOfTheRootAndOfTheCurrentFolder)

@@ -82,7 +82,7 @@ TEST(InstructionImportsTest, endsATokenAtEveryUnicodeWhiteSpace)
         const std::string line = std::string("x") + space + "@a.md" + space + "b";
         EXPECT_EQ(inLine(line), (Tokens{"a.md"})) << space;
     }
-    EXPECT_EQ(inLine("x\u200B@a.md"), Tokens{}) << "a zero-width blank is no white space";
+    EXPECT_EQ(inLine("x\u200B@a.md"), Tokens{}) << "a zero-width space is not white space";
 }
 
 TEST(InstructionImportsTest, doesNotTreatInlineCodeSpecially)
@@ -106,7 +106,7 @@ TEST(InstructionImportsTest, walksLinesInOrder)
 TEST(InstructionImportsTest, endsALineOnlyAtALineFeed)
 {
     EXPECT_EQ(in("@a\r\n@b\r\n"), (Tokens{"a", "b"}));
-    EXPECT_EQ(in("x\r```\n@a\n```\n"), (Tokens{"a"})) << "a carriage return begins no line";
+    EXPECT_EQ(in("x\r```\n@a\n```\n"), (Tokens{"a"})) << "a carriage return does not end a line";
 }
 
 TEST(InstructionImportsTest, ignoresOneByteOrderMark)
@@ -141,7 +141,7 @@ TEST(InstructionImportsTest, requiresThreeCharactersForAFence)
     EXPECT_EQ(in("``\n@a\n``\n"), (Tokens{"a"}));
     EXPECT_EQ(in("`~`\n@a\n`~`"), (Tokens{"a"}));
     EXPECT_EQ(in("- ```\n@a\n- ```"), (Tokens{"a"}));
-    EXPECT_EQ(in("\u00A0```\n@a\n\u00A0```"), (Tokens{"a"})) << "blanks and tabs alone are trimmed";
+    EXPECT_EQ(in("\u00A0```\n@a\n\u00A0```"), (Tokens{"a"})) << "only spaces and tabs are trimmed";
 }
 
 } // namespace Loadwick

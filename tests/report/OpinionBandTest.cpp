@@ -58,7 +58,7 @@ TEST(OpinionBandTest, wordsItsBoundsInTheLocalesFigures)
     EXPECT_EQ(OpinionBand(OpinionBand::heavy).range({.numbers = "de_DE"}), "30.000\u201360.000");
 }
 
-TEST(OpinionBandTest, ownsItsNotes)
+TEST(OpinionBandTest, hasFixedNotes)
 {
     EXPECT_EQ(OpinionBand::opinionNote,
               "These bands are this app's opinion, not an industry standard.");

@@ -91,7 +91,7 @@ OpinionBand bandOf(std::int64_t total)
 
 } // namespace
 
-TEST(ScanReportTest, ownsItsFixedTexts)
+TEST(ScanReportTest, hasFixedTexts)
 {
     EXPECT_EQ(ScanReport::repositoryCategoryName, "Repository instructions");
     EXPECT_EQ(ScanReport::inheritedCategoryName, "Inherited project instructions");
@@ -104,7 +104,7 @@ TEST(ScanReportTest, ownsItsFixedTexts)
               "above is authoritative.");
 }
 
-TEST(ScanReportTest, givesItsFilesByTierAndItsUnreadablePaths)
+TEST(ScanReportTest, returnsItsFilesByTierAndItsUnreadablePaths)
 {
     ScanReport report = sampleReport();
     const auto file = InstructionFileEstimate::fromPath;
@@ -263,7 +263,7 @@ TEST(ScanReportTest, endsTheProgramWhenASumOverflows)
     EXPECT_DEATH((void)report.overAttributionSource(), "does not fit 64 bits");
 }
 
-TEST(ScanReportTest, explainsFilesBesideATotalWithoutCategories)
+TEST(ScanReportTest, explainsFilesNextToATotalWithoutCategories)
 {
     ScanReport report = sampleReport();
     report.categoriesSelfReported = false;

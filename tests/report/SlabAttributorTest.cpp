@@ -36,7 +36,7 @@ using Rows = std::vector<SlabAttribution>;
 
 } // namespace
 
-TEST(SlabAttributorTest, ownsItsLabels)
+TEST(SlabAttributorTest, hasFixedLabels)
 {
     EXPECT_EQ(SlabAttributor::remainderLabel, "Unattributed");
     EXPECT_EQ(SlabAttributor::unreportedCategoriesLabel,

@@ -122,12 +122,12 @@ private:
 
 } // namespace
 
-TEST(TreemapLayoutTest, givesAnEmptyListForAnEmptyList)
+TEST(TreemapLayoutTest, returnsAnEmptyListForAnEmptyList)
 {
     EXPECT_TRUE(TreemapLayout::layout({}).empty());
 }
 
-TEST(TreemapLayoutTest, givesAZeroRectangleForEachZero)
+TEST(TreemapLayoutTest, returnsAZeroRectangleForEachZero)
 {
     EXPECT_EQ(TreemapLayout::layout(Weights{0.0, 0.0, 0.0}), Rects(3, TreemapRect::zero));
 }

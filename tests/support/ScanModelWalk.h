@@ -14,7 +14,7 @@
 namespace Loadwick {
 
 /// A random walk: a program that is started, used, disturbed and quit, and the table that predicts
-/// it after each step. Equal seeds produce equal walks.
+/// its state after each step. Equal seeds produce equal walks.
 class ScanModelWalk
 {
 public:

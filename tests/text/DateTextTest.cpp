@@ -81,7 +81,7 @@ TEST(DateTextTest, usesTheLocalesTwelveHourClock)
     const TimeZone utc("UTC");
     const std::string text = dateText(morning, DateForm::timeOfDay, {.dates = "en_US"});
     EXPECT_TRUE(text.starts_with("9:15")) << text;
-    EXPECT_TRUE(text.ends_with("AM")) << text; // the blank between them depends on ICU's version
+    EXPECT_TRUE(text.ends_with("AM")) << text; // the space before it depends on ICU's version
 }
 
 TEST(DateTextTest, everyFormFollowsTheTimeZoneWhenItChanges)

@@ -41,12 +41,12 @@ TEST(TextLinesTest, countsCarriageReturnAndLineFeedAsOneBreak)
     EXPECT_EQ(linesOf("a\r\nb\n\rc"), (Lines{"a", "b", "", "c"}));
 }
 
-TEST(TextLinesTest, givesEmptyLinesBetweenBreaks)
+TEST(TextLinesTest, returnsEmptyLinesBetweenBreaks)
 {
     EXPECT_EQ(linesOf("\n\na"), (Lines{"", "", "a"}));
 }
 
-TEST(TextLinesTest, givesNoLineAfterTheLastBreak)
+TEST(TextLinesTest, returnsNoLineAfterTheLastBreak)
 {
     EXPECT_EQ(linesOf("a\n"), (Lines{"a"}));
     EXPECT_EQ(linesOf(""), Lines{});
@@ -76,7 +76,7 @@ TEST(TextLinesTest, findsABreakAtEveryIndexAndNoLookalike)
             }
 }
 
-TEST(TextLinesTest, givesTheSameLinesFromTheEnd)
+TEST(TextLinesTest, returnsTheSameLinesFromTheEnd)
 {
     for (const std::string_view text :
          {"", "a", "\n", "a\n", "\na", "\n\na\n\n", "a\r\nb\n\rc\r\n", "\r\n", "\r", "\r\r\n",

@@ -51,7 +51,7 @@ TEST(UnicodeTextTest, skipsOneByteOrderMarkAtTheBeginning)
         EXPECT_EQ(withoutByteOrderMark(text), text);
 }
 
-TEST(UnicodeTextTest, trimsOnlyBlanksAndTabs)
+TEST(UnicodeTextTest, trimsOnlySpacesAndTabs)
 {
     EXPECT_EQ(trimmedBlanks(" \ta\n\t "), "a\n");
     EXPECT_EQ(trimmedBlanks(" \t"), "");

@@ -162,8 +162,8 @@ std::int64_t make(Words words)
 struct Operation
 {
     std::string_view verb;
-    std::string_view usage; ///< its words, as a reader writes them
-    std::size_t wordCount;  ///< the fewest that it takes
+    std::string_view usage; ///< its arguments, for the usage text
+    std::size_t wordCount;  ///< required arguments
     /// Does the work; returns how much it produced or found.
     std::int64_t (*run)(Words words);
 };

@@ -14,7 +14,7 @@ using namespace WindowControl;
 
 namespace {
 
-constexpr int greatestHeight = 16'000; // more than this a picture viewer may not open
+constexpr int greatestHeight = 16'000; // picture viewers may not open a taller one
 
 /// Long pages build their content over many frames: once they are done, two pictures are equal.
 QImage pictureAtRest(QQuickWindow &window)

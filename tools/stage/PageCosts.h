@@ -11,7 +11,7 @@ namespace Loadwick {
 
 /// What the frames of one page cost: the first, each while the page arrives, each while it is
 /// scrolled as fast as a wheel can, each while its scroll bar is dragged from the top to the end,
-/// and each while the pointer crosses everything that it shows.
+/// and each while the pointer crosses the page.
 class PageCosts
 {
 public:

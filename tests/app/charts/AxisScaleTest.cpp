@@ -29,7 +29,7 @@ private Q_SLOTS:
         QCOMPARE(AxisScale(101, 5).ticks()[1], 50);
     }
 
-    void aRoundUpperBoundIsATick()
+    void aRoundUpperBoundHasATick()
     {
         QCOMPARE(AxisScale(40, 4).ticks(), (Ticks{0, 10, 20, 30, 40}));
     }
@@ -113,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(QString::fromStdString(ticks[1].label), second);
     }
 
-    void oneMomentIsOneTick()
+    void oneMomentHasOneTick()
     {
         const TimeZone utc("UTC");
         const auto ticks = DateAxisScale(m_morning, m_morning).ticks(7, m_german);

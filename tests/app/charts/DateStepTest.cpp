@@ -56,7 +56,7 @@ private Q_SLOTS:
         }
     }
 
-    void aSkippedHourIsNoTick()
+    void aSkippedHourHasNoTick()
     {
         const TimeZone berlin("Europe/Berlin"); // 2:00 becomes 3:00 at 1:00 UTC
         const auto moments =
@@ -65,7 +65,7 @@ private Q_SLOTS:
                  (Words{"00:00", "01:00", "03:00", "04:00", "05:00"}));
     }
 
-    void aRepeatedHourIsOneTick()
+    void aRepeatedHourHasOneTick()
     {
         const TimeZone berlin("Europe/Berlin"); // 3:00 becomes 2:00 at 1:00 UTC
         const auto moments =
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(moments.front(), first);
     }
 
-    void aSkippedDayIsNoTick()
+    void aSkippedDayHasNoTick()
     {
         const TimeZone samoa("Pacific/Apia"); // had no December 30, 2011
         const auto moments =

@@ -70,7 +70,7 @@ struct ChartWindow
     /// A point of the chart.
     void pointAt(QPoint point) { QTest::mouseMove(&window, point + origin); }
 
-    /// What is painted over nothing, at one pixel per point unless more are asked for.
+    /// The chart painted on a transparent image.
     QImage picture(qreal pixelsPerPoint = 1.0)
     {
         QImage image((chart.size() * pixelsPerPoint).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -237,7 +237,7 @@ private Q_SLOTS:
         QCOMPARE(shown.picture().pixelColor(30, 12).alpha(), 0);
     }
 
-    void anEmptyFileCanBeReachedAndPaintsNothing()
+    void anEmptyFileIsReachableAndPaintsNothing()
     {
         ChartWindow shown({0.0, 1.0}, {80.0, 24.0});
         shown.chart.forceActiveFocus();

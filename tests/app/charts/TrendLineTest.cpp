@@ -92,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(line.points()[1].y, line.points()[2].y);
     }
 
-    void staysInThePlotWhateverTheTotals()
+    void staysInThePlotForAnyTotals()
     {
         constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
         const LineGeometry line = lineOf({{0, -5}, {1, largest}, {2, 0}});
@@ -121,13 +121,13 @@ private Q_SLOTS:
         QCOMPARE(line.nearest({.x = -9.0, .y = 0.9}), std::size_t(0));
     }
 
-    void halfwayBetweenTwoItFindsTheEarlier()
+    void findsTheEarlierScanAtTheMidpoint()
     {
         const LineGeometry line = lineOf({{0, 1}, {100, 1}});
         QCOMPARE(line.nearest({.x = 0.5, .y = 0.0}), std::size_t(0));
     }
 
-    void amongScansOfOneSecondItFindsTheNearestTotal()
+    void findsTheNearestTotalAmongScansOfOneSecond()
     {
         const LineGeometry line = lineOf({{10, 5'000}, {10, 60'000}});
         QCOMPARE(line.nearest({.x = 0.1, .y = 0.1}), std::size_t(0));

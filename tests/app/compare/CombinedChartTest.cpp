@@ -36,7 +36,7 @@ private Q_SLOTS:
 
     void isEmptyBeforeAnythingIsShown() { QCOMPARE(m_rows->count(), 0); }
 
-    void aCategoryHeadsOneBarPerRepository()
+    void listsOneBarPerRepositoryUnderEachCategory()
     {
         m_rows->setRows(CombinedLines(comparison()));
         QCOMPARE(texts("title"), QStringList({QStringLiteral("Tools"), QStringLiteral("app"),

@@ -18,7 +18,7 @@ QString nameOf(QObject *object)
 
 } // namespace
 
-/// The page, used by keyboard only. Nothing in it changes, so all tests share one.
+/// The page, used by keyboard only. No test changes its data, so all share one page.
 class CompareKeysTest : public QObject
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ QString CompareKeysTest::focused()
 
 QStringList CompareKeysTest::words(int card)
 {
-    const auto column = m_page->said(card);
+    const auto column = m_page->columnAt(card);
     return {column->name(), column->scanned(), column->total(), column->bandText()};
 }
 
@@ -80,7 +80,7 @@ void CompareKeysTest::aCardsHeadIsOneTabStop()
 {
     goTo(0);
     press(Qt::Key_Tab);
-    const auto card = m_page->said(0);
+    const auto card = m_page->columnAt(0);
     QCOMPARE(focused(), card->bars()->text(0, QStringLiteral("spoken")));
     press(Qt::Key_Tab);
     QCOMPARE(focused(), words(1)[0]);

@@ -50,7 +50,7 @@ private Q_SLOTS:
                                 "by side."));
     }
 
-    void saysThatOnlyOneRepositoryIsRecordedHoweverManyScansItHas()
+    void saysThatOnlyOneRepositoryIsRecordedForAnyNumberOfScans()
     {
         record({RecordedScanBuilder().at(1).ofTotal(31'000).build(),
                 RecordedScanBuilder().at(2).build()});

@@ -35,10 +35,10 @@ private Q_SLOTS:
     void createsOnlyVisibleCardsOfTwoHundred();
     void aViewportAsHighAsThePageNeedsNoMoreCells();
     void scrollingCreatesNoCards();
-    void everyPositionShowsItsOwnRepository();
+    void everyPositionShowsTheRightRepository();
     void createsAllOfFewTallCards_data();
     void createsAllOfFewTallCards();
-    void aReusedCardReturnsTheFocus();
+    void aReusedCardGivesUpTheFocus();
     void reusesOneCardPerFrame();
     void scrollsToTheLastLineOfTwoHundredRepositories();
 
@@ -50,7 +50,7 @@ private:
     std::size_t m_mostNewIndices = 0;
 };
 
-// Between two turns of the cards.
+// Called between two turns of the cards.
 void CompareScrollingTest::noteIndices()
 {
     const std::set<int> now = indicesOf(m_page->cards());
@@ -100,7 +100,7 @@ void CompareScrollingTest::createsOnlyVisibleCardsOfTwoHundred()
     m_page->viewport()->setProperty("contentY", 0);
     QTest::qWait(50);
     m_page->viewport()->setProperty("contentY", 200 * 48 + 3'000);
-    QTRY_VERIFY2(!m_page->items("bar").isEmpty(), "a card that was left can be come back to");
+    QTRY_VERIFY2(!m_page->items("bar").isEmpty(), "a card scrolled out of sight reappears");
 }
 
 // The page's first layout gives the viewport its content's height.
@@ -126,8 +126,7 @@ void CompareScrollingTest::scrollingCreatesNoCards()
     }
 }
 
-// At every scroll position the page shows the matching cards.
-void CompareScrollingTest::everyPositionShowsItsOwnRepository()
+void CompareScrollingTest::everyPositionShowsTheRightRepository()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
@@ -137,7 +136,7 @@ void CompareScrollingTest::everyPositionShowsItsOwnRepository()
         QTRY_VERIFY(cardsFillThePage());
         for (const QQuickItem *card : m_page->cards())
             QCOMPARE(card->property("column").value<ColumnPresenter *>()->path(),
-                     m_page->said(card->property("repositoryIndex").toInt())->path());
+                     m_page->columnAt(card->property("repositoryIndex").toInt())->path());
         QCOMPARE(indicesOf(m_page->cards()).size(),
                  static_cast<std::size_t>(m_page->cards().size()));
     }
@@ -162,8 +161,8 @@ void CompareScrollingTest::createsAllOfFewTallCards()
     QCOMPARE(indicesOf(m_page->cards()).size(), static_cast<std::size_t>(repositories));
 }
 
-// The rows are kept and show other values.
-void CompareScrollingTest::aReusedCardReturnsTheFocus()
+// Its rows are reused too, with other values.
+void CompareScrollingTest::aReusedCardGivesUpTheFocus()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     QTRY_COMPARE(m_page->cards().size(), m_page->items("cell").size());
@@ -199,7 +198,7 @@ void CompareScrollingTest::scrollsToTheLastLineOfTwoHundredRepositories()
     QVERIFY(!bars.isEmpty());
     const auto isHigher = [](const auto *one, const auto *other) { return one->y() < other->y(); };
     const BarRow *last = *std::ranges::max_element(bars, isHigher);
-    QCOMPARE(last->property("name").toString(), m_page->said(199)->name());
+    QCOMPARE(last->property("name").toString(), m_page->columnAt(199)->name());
 }
 
 const RegisteredTest<CompareScrollingTest> registered("CompareScrolling");

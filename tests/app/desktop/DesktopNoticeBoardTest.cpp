@@ -124,7 +124,7 @@ void DesktopNoticeBoardTest::theNextNoticeReplacesThePreviousOne()
     DesktopNoticeBoard &shown = board();
     shown.show(m_notice);
     QTRY_COMPARE(asked.notes.size(), 1);
-    QTest::qWait(50); // its answer
+    QTest::qWait(50); // for the answer to arrive
     shown.show(m_notice);
     QTRY_COMPARE(asked.notes.size(), 2);
     QCOMPARE(asked.notes.last().replaced, 1U);
@@ -223,7 +223,7 @@ void DesktopNoticeBoardTest::isANoOpWithoutAService()
     board().show(m_notice);
     QTest::qWait(50);
     m_board->withdraw();
-    // It may come later.
+    // The service may start later.
     StandInNotifications &asked = desktop();
     m_board->show(m_notice);
     QTRY_COMPARE(asked.notes.size(), 1);
@@ -240,7 +240,7 @@ void DesktopNoticeBoardTest::connectsOnlyWhenThereIsSomethingToShow()
     dispatcher->runAll();
     QCOMPARE(count, 0);
     board.show(m_notice);
-    QCOMPARE(count, 0); // not on this thread
+    QCOMPARE(count, 0); // only in the background
     dispatcher->runAll();
     QCOMPARE(count, 1);
 }

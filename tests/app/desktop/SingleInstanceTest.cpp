@@ -27,7 +27,7 @@ private Q_SLOTS:
         QVERIFY(!first.isAnswered());
     }
 
-    void theSecondIsAnsweredAndTheFirstIsRaised()
+    void theSecondIsAcknowledgedAndTheFirstIsRaised()
     {
         SingleInstance first(m_folder.path());
         QSignalSpy wanted(&first, &SingleInstance::windowWanted);

@@ -34,7 +34,7 @@ private Q_SLOTS:
     void replacesAFileOnlyWhenTheUserAgrees_data();
     void replacesAFileOnlyWhenTheUserAgrees();
     void asksInPlainText();
-    void givesNothingWhenTheUserCancels();
+    void returnsNothingWhenTheUserCancels();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
     void isANoOpWithoutAWindow();
@@ -232,7 +232,7 @@ void FileSaverTest::asksInPlainText()
     QVERIFY(question.isPlain);
 }
 
-void FileSaverTest::givesNothingWhenTheUserCancels()
+void FileSaverTest::returnsNothingWhenTheUserCancels()
 {
     open();
     DialogFixture::press(Qt::Key_Escape);

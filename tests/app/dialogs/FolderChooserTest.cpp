@@ -28,11 +28,11 @@ private Q_SLOTS:
     void staysOpenForATypedNonFolder();
     void forgetsAMistypedAddress();
     void choosesAFolderWhoseNameIsNotUtf8();
-    void givesNothingWhenTheUserCancels();
+    void returnsNothingWhenTheUserCancels();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
     void isANoOpWithoutAWindow();
-    void givesNothingOnceDestroyed();
+    void doesNotAnswerOnceDestroyed();
 
 private:
     void open();
@@ -157,7 +157,7 @@ void FolderChooserTest::choosesAFolderWhoseNameIsNotUtf8()
     QCOMPARE(m_chosen, root() / "caf\xE9");
 }
 
-void FolderChooserTest::givesNothingWhenTheUserCancels()
+void FolderChooserTest::returnsNothingWhenTheUserCancels()
 {
     open();
     DialogFixture::press(Qt::Key_Escape);
@@ -195,7 +195,7 @@ void FolderChooserTest::isANoOpWithoutAWindow()
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
-void FolderChooserTest::givesNothingOnceDestroyed()
+void FolderChooserTest::doesNotAnswerOnceDestroyed()
 {
     open();
     m_chooser.reset();

@@ -195,7 +195,7 @@ private:
     {
         const auto file = m_window->folder().path() / name;
         m_window->saver().answer = {.file = file, .mayReplace = m_mayReplace};
-        (void)m_window->loadwick().window().grabWindow(); // laid out as it is seen
+        (void)m_window->loadwick().window().grabWindow(); // forces a layout
         press(button);
         m_window->finishScan();
         return file;

@@ -28,7 +28,7 @@ bool isEmpty(const QImage &image)
     return image == nothing;
 }
 
-// Pixels that are neither quite empty nor quite full: the edge of the drawing.
+// Partly covered pixels: the edge of the drawing.
 int softPixels(const QImage &image)
 {
     int count = 0;

@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(m_window->chooser().openCount, 1);
     }
 
-    void givesTheKeyboardFocusBack()
+    void restoresTheKeyboardFocus()
     {
         open();
         m_window->press(Qt::Key_F6); // into the sidebar or out of it

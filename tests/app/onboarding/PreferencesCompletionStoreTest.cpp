@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(!isCompleted());
     }
 
-    void aFileTooLargeForPreferencesIsLeftAlone()
+    void ignoresAFileTooLargeForPreferences()
     {
         const std::string large(2 << 20, '\n');
         write(large);

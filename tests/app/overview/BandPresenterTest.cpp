@@ -20,7 +20,7 @@ ScanReport reportOf(std::int64_t total)
     return report;
 }
 
-/// A desktop in that language; "C" is no language.
+/// A desktop in that language; "C" means none.
 std::unique_ptr<BandPresenter> shown(std::int64_t total, const char *language)
 {
     auto band =
@@ -181,7 +181,7 @@ private Q_SLOTS:
         QTEST(shown(142'318, language)->meterSummary(), "summary");
     }
 
-    void givesTheReasonForTheThresholds()
+    void explainsTheThresholds()
     {
         QCOMPARE(
             shown(42'318, "de_DE")->anchorNote(),

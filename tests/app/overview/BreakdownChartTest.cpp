@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(shown.texts().contains(hint));
     }
 
-    void theReadOutStaysPut()
+    void theReadOutDoesNotMove()
     {
         BreakdownWindow shown(sampleReport());
         const QRectF chart = shown.item(donut).mapRectToScene({0, 0, 220, 220});

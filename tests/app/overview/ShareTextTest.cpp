@@ -13,7 +13,7 @@ class ShareTextTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void writesOneDecimalBehindAPoint_data()
+    void writesOneDecimalAfterAPoint_data()
     {
         QTest::addColumn<qint64>("tokens");
         QTest::addColumn<qint64>("total");
@@ -38,7 +38,7 @@ private Q_SLOTS:
         row("the largest figures", largest / 2, largest, "50.0%");
     }
 
-    void writesOneDecimalBehindAPoint()
+    void writesOneDecimalAfterAPoint()
     {
         QFETCH(const qint64, tokens);
         QFETCH(const qint64, total);

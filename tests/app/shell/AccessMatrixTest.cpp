@@ -20,10 +20,10 @@ namespace Loadwick {
 namespace {
 
 constexpr QSize smallest(960, 640);
-constexpr int arrivalMilliseconds = 450; // of a page, of a step, of a chart
+constexpr int arrivalMilliseconds = 450; // until a page, a step and a chart have arrived
 constexpr int settlingMilliseconds = 2'000;
 
-constexpr qsizetype leastTexts = 9; // of a failed scan, with the sidebar
+constexpr qsizetype leastTexts = 9; // a failed scan shows the fewest
 
 struct Look
 {
@@ -189,7 +189,7 @@ void AccessMatrixTest::visitPages()
     }
 }
 
-// The Overview has one for each state of a scan; Trends and Compare have nothing to show yet.
+// The states of the Overview during a scan, and the other pages while they are empty.
 void AccessMatrixTest::visitStates()
 {
     ScanModel &model = m_window->loadwick().model();
@@ -233,7 +233,7 @@ void AccessMatrixTest::visitSteps()
     }
 }
 
-// Words that fade in are invisible at first, so their absence would go unnoticed.
+// Words that are still fading in would escape the audit.
 void AccessMatrixTest::arrive()
 {
     QTest::qWait(arrivalMilliseconds);
@@ -245,7 +245,7 @@ void AccessMatrixTest::verify()
     if (QTest::currentTestFailed())
         return;
     QQuickWindow &window = m_window->loadwick().window();
-    QVERIFY(!window.grabWindow().isNull()); // lays out, paints
+    QVERIFY(!window.grabWindow().isNull()); // forces a layout
     QStringList faults;
     const bool isWhole = QTest::qWaitFor(
         [&] {

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void init() { m_window = std::make_unique<WindowFixture>(); }
     void cleanup() { m_window.reset(); }
 
-    void controlAndANumberGoToThePages()
+    void controlAndANumberSelectAPage()
     {
         m_window->press(Qt::Key_2, Qt::ControlModifier);
         QCOMPARE(pageIndex(), 1);
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->loadwick().window().isVisible());
     }
 
-    void tabGoesFromTheSidebarOverTheToolbarToThePage()
+    void tabGoesFromTheSidebarThroughTheToolbarToThePage()
     {
         scan();
         QStringList stops;
@@ -126,8 +126,7 @@ private Q_SLOTS:
                          QStringLiteral("Scanned repositories"), QStringLiteral("Scan Again")}));
     }
 
-    // Every tab stop of the window looks different with the focus.
-    void everyTabStopShowsItsFocus()
+        void everyTabStopShowsItsFocus()
     {
         stopMotion();
         scan();
@@ -165,7 +164,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, key);
         m_window->choose(m_window->folder().path());
-        // Lays everything out.
+        // Forces a layout.
         (void)m_window->loadwick().window().grabWindow();
         auto *control = qobject_cast<QQuickItem *>(m_window->find(name)->object());
         const QPointF middle(control->width() / 2, control->height() / 2);
@@ -175,7 +174,7 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] int pageIndex() { return m_window->loadwick().content().pageIndex(); }
-    /// The row that has the focus when the list of pages has it.
+    /// The row that is focused when the page list has the focus.
     [[nodiscard]] QString currentPage()
     {
         const AppPage page = AppPage::all.at(static_cast<std::size_t>(pageIndex()));

@@ -16,7 +16,7 @@ namespace {
 
 constexpr qsizetype mostObjects = 165;
 
-/// Whether the process has a library of that name.
+/// Whether the process has loaded a library of that name.
 bool isLoaded(const std::string &library)
 {
     std::ifstream maps("/proc/self/maps");

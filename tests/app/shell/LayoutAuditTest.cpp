@@ -14,7 +14,7 @@ class LayoutAuditTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aTextThatFitsIsNoFault()
+    void acceptsATextThatFits()
     {
         show("Text { text: 'Tokens' }\n"
              "Text { y: 40; width: 80; text: 'Tokens of the whole session'; wrapMode: Text.Wrap }\n"
@@ -56,14 +56,14 @@ private Q_SLOTS:
         QVERIFY(faults.join(u' ').contains(QStringLiteral("Tokens")));
     }
 
-    void aTextWithACompletingTipMayBeElided()
+    void acceptsAnElidedTextWithAToolTip()
     {
         show("Text { width: 20; text: 'Tokens'; elide: Text.ElideRight\n"
              "ToolTip { contentItem: Item { } } }");
         QCOMPARE(LayoutAudit::faults(*m_window).join(u'\n'), QString());
     }
 
-    void scrolledAwayItemsAreNoFault()
+    void acceptsItemsThatAreScrolledAway()
     {
         show("Flickable { width: 300; height: 50; clip: true; contentHeight: 400\n"
              "Text { y: 45; text: 'Tokens' } Text { y: 300; text: 'Share' } }");

@@ -23,7 +23,7 @@ const char *dispositionOf(int signal)
     return action.sa_handler == SIG_IGN ? "ignored" : "handled";
 }
 
-/// Inherits the opposite of what it needs, and prints the resulting dispositions.
+/// Starts with unsuitable signal dispositions, as if inherited, and prints what becomes of them.
 int dispositions(int, char **)
 {
     std::signal(SIGCHLD, SIG_IGN);

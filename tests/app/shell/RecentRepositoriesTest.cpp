@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         scan("one");
         scan("two");
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         openList();
         QCOMPARE(markedRows(*recent), QStringList{QStringLiteral("two")});
         QCOMPARE(marks().size(), 1);
@@ -86,7 +86,7 @@ private Q_SLOTS:
     void pathsReadFromLeftToRight()
     {
         scan("one");
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         const QString detail = firstDetail(*recent);
         const QString path = QString::fromStdString((m_window->folder().path() / "one").string());
         QVERIFY(detail.startsWith(QChar(0x200E)));
@@ -139,7 +139,7 @@ private Q_SLOTS:
     {
         scan("one");
         std::filesystem::remove_all(m_window->folder().path() / "one");
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         QVERIFY(!firstDetail(*recent).contains(notFound));
     }
 
@@ -160,7 +160,7 @@ private Q_SLOTS:
     {
         for (const char *name : {"one", "two", "one"})
             scan(name);
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         QCOMPARE(recent->count(), 2);
     }
 
@@ -168,7 +168,7 @@ private Q_SLOTS:
     {
         for (int number = 0; number < 12; ++number)
             scan(std::to_string(number));
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         QCOMPARE(recent->count(), static_cast<int>(RecentRepositories::longestList));
     }
 
@@ -183,7 +183,7 @@ private Q_SLOTS:
     void anUncheckedFolderCannotBeChosen()
     {
         scan("one");
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         recent->choose(0);
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Complete);
         recent->choose(-1);
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QFETCH(const int, row);
         for (const char *name : {"one", "two", "three", "four"})
             scan(name);
-        const auto recent = unseenList();
+        const auto recent = uncheckedList();
         for (const int end : {0, 3})
             std::filesystem::remove_all(m_window->folder().path() /
                                         titleOf(*recent, end).toStdString());
@@ -235,7 +235,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isExplained());
         QTest::mouseClick(&window, Qt::LeftButton, {}, button);
         QVERIFY(!isExplained());
-        m_window->finishScan(); // what looks for the folders
+        m_window->finishScan(); // runs the pending checks of the folders
         m_window->press(Qt::Key_Down);
         m_window->press(Qt::Key_Return);
         QTest::qWait(longerThanTheDelay); // the pointer is still there
@@ -246,8 +246,8 @@ private Q_SLOTS:
     }
 
 private:
-    /// Another list over the same model, which has not looked for the folders yet.
-    [[nodiscard]] std::unique_ptr<RecentRepositories> unseenList()
+    /// Another list over the same model, with its folders still unchecked.
+    [[nodiscard]] std::unique_ptr<RecentRepositories> uncheckedList()
     {
         return std::make_unique<RecentRepositories>(m_window->loadwick().model(),
                                                     m_window->loadwick().content(),
@@ -263,7 +263,7 @@ private:
     void openList()
     {
         m_window->pressButton(list);
-        m_window->finishScan(); // what looks for the folders
+        m_window->finishScan(); // runs the pending checks of the folders
     }
 
     [[nodiscard]] static QStringList markedRows(RecentRepositories &recent)

@@ -147,8 +147,8 @@ void ReducedMotionTest::settleAndBegin()
     m_sampler->begin();
 }
 
-// Ends a stretch: in the next one, a new layout may settle again. Continues while frames arrive and
-// were too few to judge.
+// Ends a stretch, so that a new layout may settle in the next one. Waits longer while frames keep
+// arriving and are too few to judge.
 void ReducedMotionTest::rest(int milliseconds)
 {
     const QDeadlineTimer latest(longestMilliseconds);

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] BreakdownPresenter &breakdown() noexcept { return *m_breakdown; }
     [[nodiscard]] QQuickWindow &window() noexcept { return *m_window; }
 
-    /// Everything laid out as it will be painted next.
+    /// Lays everything out.
     void settle();
     void press(Qt::Key key);
     void pointAt(const QPointF &scenePoint);

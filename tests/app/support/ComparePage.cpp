@@ -26,10 +26,10 @@ ComparePage::ComparePage()
         qFatal("The page does not show.");
 }
 
-std::unique_ptr<ColumnPresenter> ComparePage::said(int number)
+std::unique_ptr<ColumnPresenter> ComparePage::columnAt(int index)
 {
     auto card = std::make_unique<ColumnPresenter>();
-    card->setNumber(number);
+    card->setNumber(index);
     card->setCompare(&m_compare);
     return card;
 }

@@ -25,8 +25,8 @@ public:
     [[nodiscard]] QQuickView &view() noexcept { return m_view; }
     [[nodiscard]] ComparePresenter &compare() noexcept { return m_compare; }
 
-    /// The texts of the card of that number, from its own presenter.
-    [[nodiscard]] std::unique_ptr<ColumnPresenter> said(int number);
+    /// A new presenter of the repository at that index, to compare with a card.
+    [[nodiscard]] std::unique_ptr<ColumnPresenter> columnAt(int index);
 
     /// Replaces the recorded history; the page follows.
     void record(std::vector<RecordedScan> scans);

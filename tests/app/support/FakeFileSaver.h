@@ -10,7 +10,7 @@ namespace Loadwick {
 class FakeFileSaver final : public FileSaver
 {
 public:
-    /// Nothing: the user cancels.
+    /// Absent: the user cancels.
     std::optional<Target> answer;
     std::optional<Request> asked;
 

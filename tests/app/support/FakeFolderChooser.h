@@ -11,7 +11,7 @@ namespace Loadwick {
 class FakeFolderChooser final : public FolderChooser
 {
 public:
-    /// Nothing: the user cancels.
+    /// Absent: the user cancels.
     std::optional<std::filesystem::path> answer;
     int openCount = 0;
 

@@ -12,7 +12,7 @@ class FakeNoticeBoard final : public NoticeBoard
     Q_OBJECT
 
 public:
-    std::optional<Notice> shown; ///< nothing once it is withdrawn
+    std::optional<Notice> shown; ///< absent once it is withdrawn
     int showCount = 0;
 
     void show(const Notice &notice) override

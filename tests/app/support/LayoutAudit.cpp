@@ -12,10 +12,9 @@
 namespace Loadwick::LayoutAudit {
 namespace {
 
-constexpr double tolerance =
-    1.0; // pixels: the widths of words are fractions, those of items are not
-constexpr double leastOverlap = 3.0; // pixels; lines that are close overlap by less
-constexpr int tipDistance = 4;       // how far up a tool tip may hang
+constexpr double tolerance = 1.0;    // pixels: text widths are fractional, item widths are not
+constexpr double leastOverlap = 3.0; // pixels; closely set lines overlap by less
+constexpr int tipDistance = 4;       // ancestors that may carry an item's tool tip
 
 bool isText(const QQuickItem &item)
 {

@@ -13,7 +13,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr int settlingSteps = 6; // a layout within layouts, until all of them agree
+constexpr int settlingSteps = 6; // until nested layouts agree
 
 /// No layout sets these: they may change at most once.
 constexpr std::array<std::string_view, 9> paintedNumbers{

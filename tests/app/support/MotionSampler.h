@@ -38,7 +38,7 @@ private:
         QString name;
         double last = 0;
         int steps = 0;     ///< frames in which its value changed
-        int mostSteps = 0; ///< more of them are motion
+        int mostSteps = 0; ///< more steps than this are motion
     };
 
     void sample();

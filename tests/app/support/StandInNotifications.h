@@ -41,7 +41,7 @@ public:
 public Q_SLOTS:
     QString GetServerInformation(QString &vendor, QString &version, QString &specification);
     QStringList GetCapabilities() { return capabilities; }
-    // NOLINTNEXTLINE(readability-function-size): the interface's own
+    // NOLINTNEXTLINE(readability-function-size): the interface's signature
     uint Notify(const QString &application, uint replaced, const QString &icon,
                 const QString &title, const QString &body, const QStringList &actions,
                 const QVariantMap &hints, int milliseconds, const QDBusMessage &question);

@@ -11,8 +11,8 @@
 
 namespace Loadwick {
 
-/// A desktop's settings portal with the settings of a test; it wraps its answers twice, as the real
-/// one does.
+/// A desktop's settings portal whose settings a test chooses; it wraps its answers twice, as the
+/// real one does.
 class StandInPortal : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     ~StandInPortal() override;
 
     void set(const QString &space, const QString &name, const QVariant &value);
-    /// Sets it and announces the change.
+    /// Changes the setting and announces it.
     void change(const QString &space, const QString &name, const QVariant &value);
     /// From now on calls are received and never answered.
     void fallSilent() { m_isSilent = true; }

@@ -18,7 +18,7 @@ class QAccessibleInterface;
 namespace Loadwick {
 
 /// The real window over fakes, shown and ready for keys. Its scans proceed when a test says so. A
-/// test that has one fails on every warning that Qt prints from then on.
+/// test that uses this fixture fails on any warning that Qt prints.
 class WindowFixture
 {
 public:

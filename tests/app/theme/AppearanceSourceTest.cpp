@@ -31,7 +31,7 @@ private Q_SLOTS:
         QVERIFY(DesktopPreferences().orElse({}) == DesktopPreferences());
     }
 
-    void aPreferenceForTheOppositeIsNotAbsent()
+    void anOppositePreferenceIsNotAbsent()
     {
         QVERIFY(DesktopPreferences{.dark = false} != DesktopPreferences());
     }

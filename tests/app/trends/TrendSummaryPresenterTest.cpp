@@ -26,7 +26,7 @@ private Q_SLOTS:
         QVERIFY(!summary.hasScans());
     }
 
-    void saysWhereTheLatestTotalLanded_data()
+    void saysWhichBandTheLatestTotalIsIn_data()
     {
         QTest::addColumn<qint64>("total");
         QTest::addColumn<QString>("latest");
@@ -44,7 +44,7 @@ private Q_SLOTS:
         row(60'001, "60,001", 2, "Excessive", "over 60,000");
     }
 
-    void saysWhereTheLatestTotalLanded()
+    void saysWhichBandTheLatestTotalIsIn()
     {
         QFETCH(const qint64, total);
         TrendSummaryPresenter summary{TextLocale()};
@@ -104,12 +104,12 @@ private Q_SLOTS:
     }
 
 private:
-    /// The signal that ends a program which shows these; 0 if it survives.
+    /// The signal that ends a program showing these samples; 0 if it survives.
     static int signalThatEnds(const std::vector<LineSample> &samples)
     {
         const pid_t child = fork();
         if (child == 0) {
-            std::signal(SIGABRT, SIG_DFL); // Qt Test's own handler asks a debugger
+            std::signal(SIGABRT, SIG_DFL); // Qt Test's own handler looks for a debugger
             close(STDERR_FILENO);
             TrendSummaryPresenter(TextLocale()).show(samples);
             _exit(0);

@@ -33,7 +33,7 @@ struct Fault
     /// A transient shortage (memory, descriptors), or an interruption.
     [[nodiscard]] bool isTransient() const;
 
-    /// Neither memory nor a thread is available.
+    /// Memory or threads have run out.
     [[nodiscard]] bool isShortageOfMemoryOrThreads() const;
 
     [[nodiscard]] long count() const;

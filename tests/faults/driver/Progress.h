@@ -17,7 +17,7 @@ public:
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
-    /// From now on the process is `step`, a literal.
+    /// Records the step that the process has begun, a string literal.
     void begin(const char *step) noexcept;
 
     /// "performing; threads in futex_wait, do_poll", for the process that began the last step. The

@@ -5,8 +5,8 @@
 /// The preloaded library, as the driver reaches it.
 namespace Faults::Shim {
 
-/// Restarts this program with the library preloaded, unless it already is. What the program starts
-/// later does not get it.
+/// Restarts this program with the library preloaded, unless it already is. Programs
+/// started from this one do not get it.
 void require(char **arguments);
 
 void arm(const Plan &plan);

@@ -6,7 +6,7 @@
 
 namespace Faults {
 
-/// Whether this call is to fail; `errno` is set then. Allocates nothing.
+/// Whether this call must fail; if so, sets `errno`. Allocates nothing.
 [[nodiscard]] bool fails(Call call) noexcept;
 [[nodiscard]] bool fails(Call call, const char *path) noexcept;
 [[nodiscard]] bool fails(Call call, int descriptor) noexcept;

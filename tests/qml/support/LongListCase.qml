@@ -30,7 +30,7 @@ TestCase {
         waitForRendering(test.stage);
     }
 
-    // The rows in the page, from top to bottom, each where its number says.
+    // The indices of the rows in the page, from top to bottom; checks the position of each.
     function shownRows(height = 300) {
         const found = [];
         const view = findChild(list, "rows");

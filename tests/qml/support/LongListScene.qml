@@ -11,9 +11,9 @@ Item {
     property alias head: head
     property alias before: before
     property alias after: after
-    // The current rows.
+    // The number of rows that exist.
     property int made: 0
-    // Ever created.
+    // The number of rows ever created.
     property int makings: 0
     // Keys that the list ignored.
     property string keysLeft: ""

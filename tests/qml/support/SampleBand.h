@@ -18,7 +18,7 @@ public:
 
     [[nodiscard]] BandPresenter *presenter() { return &m_presenter; }
     [[nodiscard]] double total() const { return m_total; }
-    /// Shows the report of that total, also when it is the same as before.
+    /// Shows the report of that total, even if it is the same as before.
     void setTotal(double total);
 
 Q_SIGNALS:
