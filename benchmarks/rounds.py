@@ -36,8 +36,8 @@ class Row:
         if self.goal is None or self.bracket is None:
             return "for comparison"
         if self.median <= self.goal:
-            return "holds"
-        return "in its bracket" if self.median <= self.bracket else "MISSED"
+            return "met"
+        return "within bracket" if self.median <= self.bracket else "MISSED"
 
     def cells(self) -> list[str]:
         """The row as the table shows it."""

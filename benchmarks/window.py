@@ -93,7 +93,7 @@ def frame_rows(programs: Path, count: int) -> list[Row]:
     def row(what: str, action: str, names: Iterable[str]) -> Row:
         values = [max(each[name][action] for name in names if action in each[name])
                   for each in costs]
-        return Row(f"frame time, 99th percentile: {what}", "a frame of 60 in a second", values,
+        return Row(f"frame time, 99th percentile: {what}", "one frame at 60 a second", values,
                    FRAME_MILLISECONDS, FRAME_MILLISECONDS, " ms")
 
     together = {name for name in costs[0] if name.startswith(ALL)}

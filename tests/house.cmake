@@ -1,4 +1,4 @@
-# The checks of the house, each a command that can also be run by hand. They check the sources, so
+# The source checks, each also a command to run by hand. They check the sources, so
 # their names carry no build prefix.
 
 foreach(check IN ITEMS layers sizes format documented-paths packaging shell)
@@ -20,6 +20,6 @@ add_test(NAME house/qmllint
          COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
 set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 900)
 
-# Builds the quick folders of the core once more, with counters, by clang.
+# Builds the quick folders of the core again, with clang's counters.
 add_test(NAME house/coverage COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/coverage" --sample)
 set_tests_properties(house/coverage PROPERTIES LABELS house-coverage TIMEOUT 1800 RUN_SERIAL ON)

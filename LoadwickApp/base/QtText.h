@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-/// The core's UTF-8 as the window's text.
+/// The core's UTF-8 as a QString.
 [[nodiscard]] inline QString qtText(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));

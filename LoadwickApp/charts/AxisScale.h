@@ -54,7 +54,7 @@ public:
     [[nodiscard]] std::vector<DateTick> ticks(int mostTicks, const TextLocale &locale) const;
 
     /// The most ticks whose labels fit side by side on an axis `width` long with `gap` between
-    /// them, each centred on its tick as far as the ends allow. `measure` gives a label's width.
+    /// them, each centred on its tick as far as the ends allow. `measure` returns a label's width.
     [[nodiscard]] std::vector<DateTick>
     fittingTicks(double width, double gap, const TextLocale &locale,
                  const std::function<double(std::string_view)> &measure) const;

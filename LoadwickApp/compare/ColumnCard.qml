@@ -95,7 +95,7 @@ ReportSurface {
         ScaleEnds {
             id: ends
 
-            // Below the room for all bars, even for a scan that has none.
+            // Below the space for all bars, even for a scan that has none.
             y: bars.y + Math.max(1, card.compare.categoryCount) * bars.rowHeight + card.spacing
             width: parent.width
             start: card.compare.scaleStart

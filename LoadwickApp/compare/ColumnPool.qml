@@ -19,7 +19,7 @@ Item {
     readonly property int count: grid.compare.columnCount
     readonly property bool isLarge: grid.compare.isLarge
 
-    // Lines as even as possible: four cards in room for three become two by two.
+    // Lines as even as possible: four cards where three fit become two by two.
     readonly property int lineCount: Math.ceil(grid.count / grid.fitting(grid.width))
     readonly property int acrossCount: Math.max(1, Math.ceil(grid.count / Math.max(1, grid.lineCount)))
     readonly property real cardWidth: Math.floor((grid.width - (grid.acrossCount - 1) * grid.gap) / grid.acrossCount)

@@ -78,7 +78,7 @@ public:
     [[nodiscard]] QString scaleStart() const;
     [[nodiscard]] QString scaleEnd() const;
 
-    /// The repositories for other programs, as `ScanTables::categories` gives them, by name.
+    /// The repositories for other programs, as `ScanTables::categories` writes them, by name.
     [[nodiscard]] std::string table() const;
 
 Q_SIGNALS:

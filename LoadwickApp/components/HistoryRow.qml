@@ -14,11 +14,11 @@ Item {
     required property string value
     property color valueTint: AppTheme.text
     property string valueCaption: ""
-    // Tells rows of the same title apart; empty where they are distinct.
+    // The repository's path, if another one has the same title; else empty.
     property string path: ""
     // All words of the row, for a screen reader.
     property string sentence: title
-    // The minimum room for the child, so that the figures of all rows are aligned.
+    // The minimum width of the child, so that the figures of all rows are aligned.
     property real accessoryWidth: 0
     default property alias accessory: slot.data
 

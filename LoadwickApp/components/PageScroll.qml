@@ -39,7 +39,7 @@ Item {
         return holder === scroll.viewport.contentItem;
     }
 
-    // An item that is taller than the page stays put.
+    // An item that is taller than the page does not scroll into view.
     function reveal(item) {
         const box = item.mapToItem(scroll.viewport.contentItem, 0, 0, item.width, item.height);
         const start = box.y - AppTheme.cardSpace;

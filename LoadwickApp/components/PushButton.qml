@@ -18,7 +18,7 @@ AbstractButton {
     property bool destructive: false
     // Outlined at rest, for a button that is alone on a card.
     property bool outlined: false
-    // For a button whose title changes: it keeps its width, and its neighbours stay put.
+    // For a button whose title changes: it keeps its width, so its neighbours do not move.
     property real leastTextWidth: 0
     readonly property bool filled: (prominent || destructive) && enabled
     readonly property color wordColor: filled ? AppTheme.accentText : AppTheme.text

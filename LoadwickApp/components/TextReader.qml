@@ -41,7 +41,7 @@ Item {
         readOnly: true
         selectByMouse: true
         persistentSelection: true
-        // From an item that is no tab stop, Qt would return to the window's first stop.
+        // From an item that is not a tab stop, Qt would return to the window's first stop.
         activeFocusOnTab: reader.tabStop || words.activeFocus
         wrapMode: reader.wrapMode
         horizontalAlignment: reader.horizontalAlignment

@@ -10,7 +10,7 @@
 #include "history/ScanHistory.h"
 #include "text/TextLocale.h"
 
-/// What a trend pill says about a repository's total. A namespace of its own, so that QML can name
+/// What a trend pill says about a repository's total. A separate namespace, so that QML can name
 /// the values.
 namespace Loadwick::TrendKind {
 

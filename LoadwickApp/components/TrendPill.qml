@@ -2,7 +2,7 @@ import QtQuick
 import Loadwick
 
 // How a repository's total changed between its two most recent scans. Growth is coloured as a
-// warning, shrinkage as good news; a first scan says that there is nothing to compare with.
+// warning, shrinkage as success; a first scan says that there is nothing to compare with.
 StatusPill {
     id: pill
 

@@ -41,10 +41,10 @@ public:
     /// only if a running instance does not answer. A no-op without a folder.
     explicit SingleInstance(const std::filesystem::path &dataFolder, QObject *parent = nullptr);
 
-    /// A running instance shows its window instead, and this one can end.
+    /// A running instance shows its window instead, and this one can exit.
     [[nodiscard]] bool isAnswered() const noexcept { return m_isAnswered; }
 
-    /// This instance hears later ones.
+    /// This instance listens for later ones.
     [[nodiscard]] bool isListening() const noexcept { return m_listener != nullptr; }
 
 Q_SIGNALS:

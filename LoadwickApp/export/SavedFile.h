@@ -24,7 +24,7 @@ struct SavedFile
                                                const QByteArray &bytes);
 
     /// Why `write` failed: the end of a sentence, with its full stop, and the remedy if there is
-    /// one. An error without words of its own here has the system's.
+    /// one. Other errors have the system's words.
     [[nodiscard]] static QString reason(const std::error_code &failure);
 
     Q_DECLARE_TR_FUNCTIONS(SavedFile)

@@ -8,7 +8,7 @@ Item {
 
     required property OnboardingPresenter onboarding
 
-    // As high as the tallest step, so that the buttons stay put.
+    // As high as the tallest step, so that the buttons do not move.
     implicitHeight: {
         let highest = 0;
         for (let index = 0; index < repeater.count; ++index)

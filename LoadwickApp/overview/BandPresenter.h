@@ -17,8 +17,8 @@ struct ScanReport;
 /// total of 0, 0 at the scale's end. An illustration of the total, not a second measurement.
 [[nodiscard]] int headroomScore(std::int64_t total) noexcept;
 
-/// The total of a report, the band it falls in and the room it leaves, for the cards that show
-/// them. The total is 0 before the first report. Belongs to the interface thread.
+/// The total of a report, the band it falls in and the headroom it leaves, for the cards that
+/// show them. The total is 0 before the first report. Belongs to the interface thread.
 class BandPresenter final : public QObject
 {
     Q_OBJECT

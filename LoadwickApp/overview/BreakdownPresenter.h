@@ -41,7 +41,7 @@ public:
     /// The chart in one sentence, for a screen reader; empty without slices.
     [[nodiscard]] QString chartSummary() const { return m_chartSummary; }
 
-    /// Whether the session reported categories of its own.
+    /// Whether the session reported any categories.
     [[nodiscard]] bool selfReported() const noexcept { return m_selfReported; }
 
     /// Caveats about the rows; may be empty.

@@ -52,7 +52,7 @@ public:
         MakeNoticeBoard notices = {};                                    ///< none: no notices
         TextLocale locale = {};
         std::filesystem::path weeklyLog = {}; ///< empty: none is read
-        std::filesystem::path home = {};      ///< tells whose a file is; nothing in it is read
+        std::filesystem::path home = {};      ///< decides which files are personal; not read
         /// A second program over the same folder shows this one's window; empty: it opens its own.
         std::filesystem::path dataFolder = {};
         QString title = {}; ///< of the window; empty: the program's name

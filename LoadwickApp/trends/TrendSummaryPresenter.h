@@ -11,7 +11,7 @@
 
 namespace Loadwick {
 
-/// The card that says where a repository's total landed, and how far it has moved.
+/// The card with a repository's latest total, its band, and how far the total has moved.
 class TrendSummaryPresenter final : public QObject
 {
     Q_OBJECT

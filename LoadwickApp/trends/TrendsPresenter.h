@@ -39,7 +39,7 @@ public:
     [[nodiscard]] TrendSummaryPresenter *summary() { return &m_summary; }
     [[nodiscard]] RecordedDataPresenter *recordedData() { return &m_recordedData; }
 
-    /// The scans of the chart for other programs, as `ScanTables::totals` gives them.
+    /// The scans of the chart for other programs, as `ScanTables::totals` writes them.
     [[nodiscard]] std::string table() const;
 
     /// The repository that the page is about; empty when none was scanned.

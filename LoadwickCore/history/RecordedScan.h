@@ -22,7 +22,7 @@ struct RecordedCategory
     friend bool operator==(const RecordedCategory &, const RecordedCategory &) = default;
 };
 
-/// One scan as the history keeps it: totals and category names, never contents of a file.
+/// One scan as the history keeps it: totals and category names, never file contents.
 struct RecordedScan
 {
     Uuid id;

@@ -14,7 +14,7 @@ namespace Loadwick {
 namespace {
 
 /// The elements of a list member, each read by `read`; nothing when one of them cannot be read, or
-/// the member is missing or no list.
+/// the member is missing or not a list.
 template<typename Element>
 std::optional<std::vector<Element>> listMember(const JsonValue &object, std::string_view key,
                                                std::optional<Element> (*read)(const JsonValue &))

@@ -41,11 +41,11 @@ private:
     std::size_t m_index = 0;
 };
 
-/// The text of a string that `JsonTokens::takeString` gave, with U+FFFD for each half of a
+/// The text of a string that `JsonTokens::takeString` returned, with U+FFFD for each half of a
 /// surrogate pair. Never longer than `literal`.
 [[nodiscard]] std::string jsonStringText(std::string_view literal);
 
-/// The number that `JsonTokens::takeNumber` gave; null beyond the range of a `double`.
+/// The number that `JsonTokens::takeNumber` returned; null beyond the range of a `double`.
 [[nodiscard]] JsonValue jsonNumber(std::string_view literal);
 
 } // namespace Loadwick

@@ -26,7 +26,7 @@ JsonValue &JsonValue::operator=(JsonValue &&other) noexcept
     return *this;
 }
 
-/// The last item or member of a container; null if it is empty or no container.
+/// The last item or member of a container; null if it is empty or not a container.
 JsonValue *JsonValue::lastChild() noexcept
 {
     if (auto *const items = as<Array>())

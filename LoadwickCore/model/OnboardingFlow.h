@@ -88,7 +88,7 @@ public:
     /// False when nothing was ever stored, or nothing can be read.
     [[nodiscard]] virtual bool onboardingCompleted() const = 0;
 
-    /// Failed writes are silent.
+    /// A failed write is ignored.
     virtual void setOnboardingCompleted(bool completed) = 0;
 };
 

@@ -30,7 +30,7 @@ public:
         [[nodiscard]] bool isDenied() const noexcept;
     };
 
-    /// `path` in bytes, as a `std::filesystem::path` gives them. Follows links. Nothing on failure,
+    /// `path` in bytes, as `std::filesystem::path` holds them. Follows links. Nothing on failure,
     /// with the reason in `failure` unless that is null.
     [[nodiscard]] static std::optional<RegularFile> open(const std::string &path,
                                                          Failure *failure = nullptr);

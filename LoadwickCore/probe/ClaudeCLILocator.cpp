@@ -42,7 +42,7 @@ std::vector<std::string> candidates(const std::optional<std::string> &cliOverrid
                                     const std::string &home)
 {
     std::vector<std::string> paths;
-    if (cliOverride && !trimmedBlanks(*cliOverride).empty())
+    if (cliOverride && !trimmedSpaces(*cliOverride).empty())
         paths.push_back(*cliOverride);
     paths.push_back(home + "/.local/bin/claude");
     paths.emplace_back("/opt/homebrew/bin/claude");

@@ -61,7 +61,7 @@ public:
         std::shared_ptr<Shutdown> shutdown;
         int transcriptRetries = 12;            ///< attempts; fewer than 1 count as 1
         double transcriptRetryDelay = 0.4;     ///< seconds; negative or not finite is fatal
-        double transcriptSearchSeconds = 30.0; ///< then there is no transcript
+        double transcriptSearchSeconds = 30.0; ///< then the search gives up
         ChildSupervision::Limits limits = defaultLimits;
     };
 

@@ -12,7 +12,7 @@ namespace Loadwick {
 
 namespace {
 
-constexpr char blank = ' ';
+constexpr char space = ' ';
 
 /// No line that is a slab is shorter, its line break included.
 constexpr std::size_t shortestLine = std::string_view("SLAB a TOKENS 1\n").size();
@@ -20,19 +20,19 @@ constexpr std::size_t shortestLine = std::string_view("SLAB a TOKENS 1\n").size(
 /// No code point of more than this many bytes becomes an ASCII letter in lower case.
 constexpr std::size_t longestLetter = 4;
 
-constexpr bool isBlank(char byte) noexcept
+constexpr bool isSpace(char byte) noexcept
 {
-    return byte == blank;
+    return byte == space;
 }
 
-constexpr bool isBlankOrTab(char byte) noexcept
+constexpr bool isSpaceOrTab(char byte) noexcept
 {
-    return byte == blank || byte == '\t';
+    return byte == space || byte == '\t';
 }
 
 constexpr bool isDecoration(char byte) noexcept
 {
-    return byte == '-' || byte == '*' || byte == '`' || byte == '>' || byte == blank;
+    return byte == '-' || byte == '*' || byte == '`' || byte == '>' || byte == space;
 }
 
 /// `text` without unwanted bytes at either end.
@@ -46,26 +46,26 @@ std::string_view stripped(std::string_view text, Test isUnwanted) noexcept
     return text;
 }
 
-/// Takes the first word off `rest`, which begins with no blank.
+/// Takes the first word off `rest`, which does not begin with a space.
 std::string_view takeFirstWord(std::string_view &rest) noexcept
 {
-    const std::string_view word = rest.substr(0, rest.find(blank));
+    const std::string_view word = rest.substr(0, rest.find(space));
     rest.remove_prefix(word.size());
     return word;
 }
 
-/// Takes the last word and the blanks after it off `rest`; empty when there is none.
+/// Takes the last word and the spaces after it off `rest`; empty when there is none.
 std::string_view takeLastWord(std::string_view &rest) noexcept
 {
-    while (rest.ends_with(blank))
+    while (rest.ends_with(space))
         rest.remove_suffix(1);
-    const std::string_view word = rest.substr(rest.rfind(blank) + 1);
+    const std::string_view word = rest.substr(rest.rfind(space) + 1);
     rest.remove_suffix(word.size());
     return word;
 }
 
 /// Whether a word is a keyword in any letter case. A letter beyond ASCII takes more bytes than the
-/// ASCII letter that it becomes, so a word of the keyword's size is ASCII or no keyword.
+/// ASCII letter that it becomes, so a word of the keyword's size is ASCII or not a keyword.
 bool isKeyword(std::string_view word, std::string_view keyword)
 {
     const auto isSame = [](char letter, char lower) {
@@ -92,25 +92,25 @@ std::optional<std::int64_t> countIn(std::string_view word) noexcept
     return isEmpty ? std::nullopt : std::optional(count);
 }
 
-/// Appends words to `text`, joined by single blanks.
+/// Appends words to `text`, joined by single spaces.
 void appendWords(std::string &text, std::string_view words)
 {
     const auto start = static_cast<std::ptrdiff_t>(text.size());
     text += words;
-    const auto areBlanks = [](char left, char right) { return left == blank && right == blank; };
-    text.erase(std::unique(text.begin() + start, text.end(), areBlanks), text.end());
+    const auto areSpaces = [](char left, char right) { return left == space && right == space; };
+    text.erase(std::unique(text.begin() + start, text.end(), areSpaces), text.end());
 }
 
 /// A line that is a slab.
 struct SlabLine
 {
-    std::string_view words; ///< its name, separated by any number of blanks
+    std::string_view words; ///< its name, separated by any number of spaces
     std::int64_t tokens;
 };
 
 std::optional<SlabLine> slabIn(std::string_view line)
 {
-    std::string_view rest = stripped(stripped(line, isBlankOrTab), isDecoration);
+    std::string_view rest = stripped(stripped(line, isSpaceOrTab), isDecoration);
     if (!isKeyword(takeFirstWord(rest), "slab"))
         return std::nullopt;
     // The last "tokens" counts, so that a name may hold the word.
@@ -121,7 +121,7 @@ std::optional<SlabLine> slabIn(std::string_view line)
         word = takeLastWord(rest);
     }
     const auto count = word.empty() ? std::nullopt : countIn(follower);
-    const std::string_view words = stripped(rest, isBlank);
+    const std::string_view words = stripped(rest, isSpace);
     if (!count || words.empty())
         return std::nullopt;
     return SlabLine{.words = words, .tokens = *count};

@@ -11,7 +11,7 @@
 
 namespace Loadwick {
 
-/// Whom an instruction file belongs to.
+/// The owner of an instruction file.
 class InstructionFileTier
 {
 public:

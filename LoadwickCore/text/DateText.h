@@ -33,7 +33,7 @@ namespace IsoDate {
 /// A moment outside the years 0 to 9999, which this form cannot express, is clamped to them.
 [[nodiscard]] std::string text(std::chrono::sys_seconds moment);
 
-/// Reads exactly that form; a day or an hour that does not exist gives nothing.
+/// Reads exactly that form; nothing for a day or an hour that does not exist.
 [[nodiscard]] std::optional<std::chrono::sys_seconds> fromText(std::string_view text) noexcept;
 
 } // namespace IsoDate

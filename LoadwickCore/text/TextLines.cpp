@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view nextLine = "\xC2\x85";
 constexpr std::string_view separatorHead = "\xE2\x80"; // U+2028 and U+2029 end in A8 and A9
 
-/// Whether a byte begins no line break: it is printable ASCII.
+/// Whether a byte is printable ASCII, and so cannot begin a line break.
 constexpr bool isPlain(char byte) noexcept
 {
     return static_cast<unsigned char>(byte - ' ') < 0x80 - ' ';
@@ -24,7 +24,7 @@ std::size_t plainHead(std::string_view text) noexcept
     std::size_t index = 0;
     for (std::uint64_t eight = 0; text.size() - index >= sizeof eight; index += sizeof eight) {
         std::memcpy(&eight, text.data() + index, sizeof eight);
-        // The high bit is set in the difference below a blank, in the byte itself beyond ASCII.
+        // The high bit is set in the difference below a space, in the byte itself beyond ASCII.
         if ((((eight - everyByte * ' ') | eight) & (everyByte * 0x80)) != 0)
             break;
     }

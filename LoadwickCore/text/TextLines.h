@@ -10,7 +10,7 @@ namespace Loadwick {
 /// is empty. A view into the text.
 [[nodiscard]] std::optional<std::string_view> takeLine(std::string_view &rest) noexcept;
 
-/// The same from the end: the lines that `takeLine` gives, the last one first.
+/// The same from the end: the lines that `takeLine` returns, last one first.
 [[nodiscard]] std::optional<std::string_view> takeLastLine(std::string_view &rest) noexcept;
 
 } // namespace Loadwick

@@ -23,7 +23,7 @@ bool isLetter(char character) noexcept
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
 }
 
-/// Two or three letters; "C", "POSIX" and stray values are no language.
+/// Two or three letters; "C", "POSIX" and stray values are not languages.
 bool isLanguage(std::string_view text) noexcept
 {
     return (text.size() == 2 || text.size() == 3) &&

@@ -167,7 +167,7 @@ std::string_view trimmed(std::string_view text) noexcept
     return text;
 }
 
-std::string_view trimmedBlanks(std::string_view text) noexcept
+std::string_view trimmedSpaces(std::string_view text) noexcept
 {
     const std::size_t first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos)

@@ -23,8 +23,8 @@ namespace Loadwick {
 /// `text` without white space and line breaks at both ends. A view into `text`.
 [[nodiscard]] std::string_view trimmed(std::string_view text) noexcept;
 
-/// `text` without blanks and tabs at both ends; line breaks stay. A view into `text`.
-[[nodiscard]] std::string_view trimmedBlanks(std::string_view text) noexcept;
+/// `text` without spaces and tabs at both ends; line breaks stay. A view into `text`.
+[[nodiscard]] std::string_view trimmedSpaces(std::string_view text) noexcept;
 
 /// `text` in lower case by the full Unicode mapping, independent of any locale. Throws
 /// `std::bad_alloc`.

@@ -24,7 +24,7 @@ std::vector<std::string_view> linesOf(std::string_view text)
 
 std::string_view markerOf(std::string_view line)
 {
-    const std::string_view content = trimmedBlanks(line);
+    const std::string_view content = trimmedSpaces(line);
     for (const char *marker : {"```", "~~~"})
         if (content.starts_with(marker))
             return content.substr(0, 3);

@@ -53,8 +53,8 @@ TEST(UnicodeTextTest, skipsOneByteOrderMarkAtTheBeginning)
 
 TEST(UnicodeTextTest, trimsOnlySpacesAndTabs)
 {
-    EXPECT_EQ(trimmedBlanks(" \ta\n\t "), "a\n");
-    EXPECT_EQ(trimmedBlanks(" \t"), "");
+    EXPECT_EQ(trimmedSpaces(" \ta\n\t "), "a\n");
+    EXPECT_EQ(trimmedSpaces(" \t"), "");
 }
 
 TEST(UnicodeTextTest, lowercasesEveryScript)
