@@ -45,7 +45,7 @@ Rectangle {
             GallerySection { title: "Marks"; GalleryMarks { Layout.fillWidth: true } }
             GallerySection { title: "Rows and lists"; GalleryRows { Layout.fillWidth: true; viewport: scroller } }
             GallerySection { title: "Figures and meters"; GalleryFigures { Layout.fillWidth: true } }
-            GallerySection { title: "Charts"; GalleryCharts { Layout.fillWidth: true } }
+            GallerySection { title: "Charts"; GalleryCharts { Layout.fillWidth: true; viewport: scroller } }
             GallerySection { title: "Cards and states of a page"; GalleryCards { Layout.fillWidth: true } }
             GallerySection { title: "Dialogs and sheets"; GalleryDialogs { Layout.fillWidth: true } }
             GallerySection { title: "Symbols"; GallerySymbols { Layout.fillWidth: true } }

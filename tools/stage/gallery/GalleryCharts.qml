@@ -7,6 +7,8 @@ import LoadwickGallery
 ColumnLayout {
     id: charts
 
+    required property Flickable viewport
+
     component Donut: DonutChart {
         Layout.preferredWidth: 160
         Layout.preferredHeight: 160
@@ -34,16 +36,16 @@ ColumnLayout {
         id: tiles
 
         Layout.fillWidth: true
-        RelativeSizes { Layout.fillWidth: true; files: GallerySamples.files; room: tiles.width - 2 * AppTheme.cardPadding }
+        RelativeSizes { Layout.fillWidth: true; files: GallerySamples.files; viewport: charts.viewport; room: tiles.width - 2 * AppTheme.cardPadding }
     }
     ReportSurface {
         id: pointedTiles
 
         objectName: "pointed"
         Layout.fillWidth: true
-        RelativeSizes { Layout.fillWidth: true; files: GallerySamples.files; room: pointedTiles.width - 2 * AppTheme.cardPadding }
+        RelativeSizes { Layout.fillWidth: true; files: GallerySamples.files; viewport: charts.viewport; room: pointedTiles.width - 2 * AppTheme.cardPadding }
         Hairline { Layout.fillWidth: true }
-        RelativeSizes { Layout.fillWidth: true; files: GallerySamples.noFiles; room: pointedTiles.width - 2 * AppTheme.cardPadding }
+        RelativeSizes { Layout.fillWidth: true; files: GallerySamples.noFiles; viewport: charts.viewport; room: pointedTiles.width - 2 * AppTheme.cardPadding }
     }
     ReportSurface {
         Layout.fillWidth: true
