@@ -34,7 +34,7 @@ public:
         QString path; ///< the folder, as text
         std::filesystem::path folder;
         std::optional<bool> exists = {}; ///< unknown until checked
-        bool isCurrent = false;           ///< the repository that is chosen now
+        bool isCurrent = false;          ///< the repository that is chosen now
     };
 
     RecentRepositories(ScanModel &model, ContentPresenter &content,

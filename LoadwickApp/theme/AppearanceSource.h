@@ -47,7 +47,10 @@ public:
     {
         return preferences().reducedMotion.value_or(false);
     }
-    [[nodiscard]] bool prefersMoreContrast() const { return preferences().moreContrast.value_or(false); }
+    [[nodiscard]] bool prefersMoreContrast() const
+    {
+        return preferences().moreContrast.value_or(false);
+    }
 
 Q_SIGNALS:
     /// A preference has changed.

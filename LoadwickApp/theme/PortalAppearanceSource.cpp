@@ -101,23 +101,39 @@ std::optional<QColor> accentOfParts(const QVariant &value)
 using Preferences = DesktopPreferences;
 constexpr std::array<PortalAnswers::Key, 9> allKeys = {{
     {commonSpace, "color-scheme",
-     [](Preferences &preferences, const QVariant &value) { preferences.dark = darkOfNumber(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.dark = darkOfNumber(value);
+     }},
     {commonSpace, "contrast",
-     [](Preferences &preferences, const QVariant &value) { preferences.moreContrast = asked(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.moreContrast = asked(value);
+     }},
     {commonSpace, "reduced-motion",
-     [](Preferences &preferences, const QVariant &value) { preferences.reducedMotion = asked(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.reducedMotion = asked(value);
+     }},
     {commonSpace, "accent-color",
-     [](Preferences &preferences, const QVariant &value) { preferences.accent = accentOfParts(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.accent = accentOfParts(value);
+     }},
     {gnomeSpace, "color-scheme",
      [](Preferences &preferences, const QVariant &value) { preferences.dark = darkOfWord(value); }},
     {gnomeSpace, "enable-animations",
-     [](Preferences &preferences, const QVariant &value) { preferences.reducedMotion = negated(flag(value)); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.reducedMotion = negated(flag(value));
+     }},
     {gnomeSpace, "font-name",
-     [](Preferences &preferences, const QVariant &value) { preferences.fontPoints = pointsOfFont(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.fontPoints = pointsOfFont(value);
+     }},
     {gnomeSpace, "text-scaling-factor",
-     [](Preferences &preferences, const QVariant &value) { preferences.textFactor = factor(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.textFactor = factor(value);
+     }},
     {gnomeAccessSpace, "high-contrast",
-     [](Preferences &preferences, const QVariant &value) { preferences.moreContrast = flag(value); }},
+     [](Preferences &preferences, const QVariant &value) {
+         preferences.moreContrast = flag(value);
+     }},
 }};
 
 } // namespace

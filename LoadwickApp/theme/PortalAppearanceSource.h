@@ -56,7 +56,10 @@ public:
                                     const Connect &connect = &QDBusConnection::sessionBus,
                                     QObject *parent = nullptr);
 
-    [[nodiscard]] DesktopPreferences preferences() const override { return m_answers.preferences(); }
+    [[nodiscard]] DesktopPreferences preferences() const override
+    {
+        return m_answers.preferences();
+    }
 
 private Q_SLOTS:
     void followChange(const QDBusMessage &signal);

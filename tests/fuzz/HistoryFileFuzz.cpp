@@ -42,6 +42,21 @@ ScanHistoryFile storable(ScanHistoryFile file)
     return file;
 }
 
+/// The newest scans that fit are kept, and a scan that fits nowhere keeps its total.
+void checkLimit(const ScanHistoryFile &file, std::size_t limit)
+{
+    ScanHistoryFile expected = file;
+    for (RecordedScan &scan : expected.scans)
+        if (ScanHistoryFile{file.version, {scan}}.encoded().size() > limit)
+            scan.categories.clear();
+    const bool isTooLong = file.encoded().size() > limit;
+    while (isTooLong && !expected.scans.empty() && expected.encoded().size() > limit)
+        expected.scans.erase(expected.scans.begin());
+    ScanHistoryFile kept = file;
+    require(kept.encodedWithin(limit) == expected.encoded(), "what is too long is left out");
+    require(kept == expected, "what is written is what is kept");
+}
+
 void checkFile(std::string_view json)
 {
     const auto file = ScanHistoryFile::decoded(json);
@@ -52,6 +67,8 @@ void checkFile(std::string_view json)
     require(ScanHistoryFile::decoded("\uFEFF" + encoded) == file, "a byte order mark is skipped");
     require(JsonOracle::of(encoded).object.has_value(), "a written file is JSON");
     require(isUtf8(encoded), "a written file is UTF-8");
+    for (const std::size_t limit : {encoded.size(), encoded.size() - 1, encoded.size() / 2})
+        checkLimit(*file, limit);
 }
 
 void checkHistory(std::string_view input)

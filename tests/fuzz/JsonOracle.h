@@ -13,7 +13,8 @@ namespace Loadwick {
 struct JsonOracle
 {
     /// False where the two rightly differ: the library reads a NUL as the end and skips a byte
-    /// order mark, both of which RFC 8259 does not know, and refuses a number out of a double's range.
+    /// order mark, both of which RFC 8259 does not know, and refuses a number out of a double's
+    /// range.
     bool isJudge;
     std::optional<nlohmann::json> object; ///< nothing when the document is not a JSON object
 

@@ -24,8 +24,8 @@ private Q_SLOTS:
                 .append(page.symbol())
                 .append("\n");
         QCOMPARE(pages, std::string("overview Overview square.grid.2x2\n"
-                                   "trends Trends chart.line.uptrend.xyaxis\n"
-                                   "compare Compare rectangle.split.2x1\n"));
+                                    "trends Trends chart.line.uptrend.xyaxis\n"
+                                    "compare Compare rectangle.split.2x1\n"));
     }
 
     void findsPagesByName()

@@ -126,7 +126,7 @@ private Q_SLOTS:
                          QStringLiteral("Scanned repositories"), QStringLiteral("Scan Again")}));
     }
 
-        void everyTabStopShowsItsFocus()
+    void everyTabStopShowsItsFocus()
     {
         stopMotion();
         scan();

@@ -13,8 +13,10 @@ class AppearanceSourceTest : public QObject
 private Q_SLOTS:
     void itsOwnPreferencesWin()
     {
-        const DesktopPreferences one{.dark = false, .reducedMotion = true, .accent = QColor(Qt::red)};
-        const DesktopPreferences other{.dark = true, .reducedMotion = false, .accent = QColor(Qt::blue)};
+        const DesktopPreferences one{
+            .dark = false, .reducedMotion = true, .accent = QColor(Qt::red)};
+        const DesktopPreferences other{
+            .dark = true, .reducedMotion = false, .accent = QColor(Qt::blue)};
         QVERIFY(one.orElse(other) == one);
     }
 
