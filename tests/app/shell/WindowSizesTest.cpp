@@ -167,7 +167,7 @@ void WindowSizesTest::open(int points, int width)
 {
     m_window = std::make_unique<WindowFixture>();
     m_window->appearance().setMotion(Appearance::Reduced);
-    m_window->appearance().setTextScale(DesktopWishes{.fontPoints = points}.textScale());
+    m_window->appearance().setTextScale(DesktopPreferences{.fontPoints = points}.textScale());
     window().resize(width, height);
 }
 
