@@ -67,7 +67,7 @@ public:
         return m_calendar->get(name, status);
     }
 
-    /// From now on a wall-clock time that a day has twice means the later one.
+    /// Makes an ambiguous wall-clock time, which a day has twice, mean the later one.
     void preferLaterPass() { m_calendar->setRepeatedWallTimeOption(UCAL_WALLTIME_LAST); }
 
     /// Fields out of range carry over into the next larger one.

@@ -81,7 +81,7 @@ void OnboardingPresenter::presentOnboardingIfFirstLaunch(
     inBackground(this, dispatcher, isFirstLaunch, presentSoon);
 }
 
-void OnboardingPresenter::callOff()
+void OnboardingPresenter::cancel()
 {
     ++m_request;
     m_delay.stop();

@@ -84,7 +84,7 @@ public:
     void presentOnboardingIfFirstLaunch(const std::shared_ptr<TaskDispatcher> &dispatcher);
 
     /// Cancels a sheet that has not opened yet; an open one stays.
-    void callOff();
+    void cancel();
 
     [[nodiscard]] bool isPresented() const noexcept { return m_isPresented; }
     /// Call when the sheet has faded out.

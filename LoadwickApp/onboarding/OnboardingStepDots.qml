@@ -18,7 +18,7 @@ Row {
         // 0 for any step, 1 for the current one.
         property real emphasis: 0
 
-        readonly property real swelling: AppTheme.reduceMotion ? 1 : 1 + 0.15 * emphasis
+        readonly property real sizeFactor: AppTheme.reduceMotion ? 1 : 1 + 0.15 * emphasis
 
         function follow() {
             spring.stop();
@@ -39,7 +39,7 @@ Row {
             objectName: "disc"
             x: (dot.width - width) / 2
             y: (dot.height - height) / 2
-            width: AppTheme.stepDotSide * dot.swelling
+            width: AppTheme.stepDotSide * dot.sizeFactor
             height: width
             radius: width / 2
             color: AppTheme.accent

@@ -9,17 +9,17 @@ DropArea {
     required property FolderDrop folderDrop
     // Whether a modal sheet is open; nothing behind it can be reached.
     required property ModalGround ground
-    property string objection: ""
-    readonly property string words: area.containsDrag ? qsTr("Drop a folder here to choose it") : area.objection
+    property string refusalReason: ""
+    readonly property string words: area.containsDrag ? qsTr("Drop a folder here to choose it") : area.refusalReason
 
     function refuse(why) {
-        area.objection = why;
+        area.refusalReason = why;
         refusal.restart();
     }
 
     onEntered: drag => {
         const isCovered = area.ground.isCovered();
-        const why = isCovered ? "" : area.folderDrop.objection(drag.urls);
+        const why = isCovered ? "" : area.folderDrop.refusalReason(drag.urls);
         drag.accepted = !isCovered && area.folderDrop.accepts(drag.urls);
         refusal.stop();
         if (why.length > 0)

@@ -16,7 +16,7 @@ bool FolderDrop::accepts(const QList<QUrl> &urls) const
     return onlyFolder(urls).has_value();
 }
 
-QString FolderDrop::objection(const QList<QUrl> &urls) const
+QString FolderDrop::refusalReason(const QList<QUrl> &urls) const
 {
     if (urls.isEmpty() || accepts(urls))
         return {};

@@ -31,7 +31,7 @@ public:
 
     /// Why the dragged item may not be dropped, for the user to read. Empty if it may, or if it is
     /// not a file at all.
-    Q_INVOKABLE QString objection(const QList<QUrl> &urls) const;
+    Q_INVOKABLE QString refusalReason(const QList<QUrl> &urls) const;
 
     /// Chooses the dropped path once it proves to be a folder, unless a scan was started meanwhile.
     Q_INVOKABLE void take(const QList<QUrl> &urls);

@@ -186,7 +186,7 @@ void LoadwickWindow::presentOnAppearance(const std::shared_ptr<TaskDispatcher> &
                          if (isVisible)
                              onboarding->presentOnboardingIfFirstLaunch(dispatcher);
                          else
-                             onboarding->callOff();
+                             onboarding->cancel();
                      });
 }
 

@@ -157,7 +157,7 @@ void removeAbandoned(const fs::path &target)
     PosixFileSystem().list(folder, [&](const std::string &name, FileSystem::EntryKind kind) {
         if (kind == FileSystem::EntryKind::file && isAbandonedName(name, prefix))
             removeIfUnlocked(folder / name);
-        return FileSystem::Walk::goOn;
+        return FileSystem::Walk::proceed;
     });
 }
 

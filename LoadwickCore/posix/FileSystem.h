@@ -18,7 +18,7 @@ public:
     };
     enum class Walk
     {
-        goOn,
+        proceed,
         stop
     };
 

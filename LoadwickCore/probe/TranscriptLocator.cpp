@@ -49,18 +49,18 @@ private:
     Walk visit(const fs::path &folder, const std::string &name, EntryKind kind)
     {
         if (name.starts_with('.'))
-            return Walk::goOn;
+            return Walk::proceed;
         if (kind == EntryKind::folder)
             addPending(folder / name);
         if (name != m_fileName)
-            return Walk::goOn;
+            return Walk::proceed;
         if (kind == EntryKind::file) {
             m_file = folder / name;
             return Walk::stop;
         }
         if (!m_otherEntry)
             m_otherEntry = folder / name;
-        return Walk::goOn;
+        return Walk::proceed;
     }
 
     void addPending(fs::path folder)

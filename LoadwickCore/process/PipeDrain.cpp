@@ -22,7 +22,7 @@ enum class Readiness
 
 enum class Step
 {
-    goOn,
+    proceed,
     stop
 };
 
@@ -50,13 +50,13 @@ Step readOnce(int descriptor, std::span<char> buffer, const PipeDrain::Sink &sin
     const ssize_t count = read(descriptor, buffer.data(), buffer.size());
     if (count > 0) {
         sink(buffer.first(static_cast<std::size_t>(count)));
-        return Step::goOn;
+        return Step::proceed;
     }
     // unreachable: nothing else reads what poll has seen, and EAGAIN equals EWOULDBLOCK here
     if (count == 0 || (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR))
         return Step::stop;
     std::this_thread::sleep_for(PipeDrain::backOff);
-    return Step::goOn;
+    return Step::proceed;
 }
 
 } // namespace

@@ -10,7 +10,7 @@ SET_PARENT_DEATH_SIGNAL = 1  # an option of prctl(2)
 
 
 def end_with_parent() -> None:
-    """From now on this process is killed when its parent ends, for whatever reason."""
+    """Makes the system kill this process when its parent ends, for whatever reason."""
     ctypes.CDLL(None).prctl(SET_PARENT_DEATH_SIGNAL, signal.SIGKILL)
 
 

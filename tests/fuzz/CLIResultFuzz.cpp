@@ -77,7 +77,7 @@ Outcome expected(const Ended &ended, const JsonOracle &oracle)
         return unreadable(ended.standardOutput);
     return ProbeOutput{.sessionID = *session,
                        .result = result,
-                       .usage = usageByTheRule(JsonOracle::find(object, "usage"))};
+                       .usage = expectedUsage(JsonOracle::find(object, "usage"))};
 }
 
 void checkCLIResult(std::string_view bytes)

@@ -36,7 +36,7 @@ std::string joined(const std::vector<std::string> &names)
 }
 
 /// The folder by the rules in words.
-std::string folderByTheRules(std::string_view given, const std::string &workingFolder)
+std::string expectedFolder(std::string_view given, const std::string &workingFolder)
 {
     std::string folder(given);
     if (given == "~" || given.starts_with("~/"))
@@ -55,7 +55,7 @@ void checkConfigurationFolder(std::string_view bytes)
     require(folder.has_value() == !trimmed(value).empty(), "only white space is no folder");
     if (!folder)
         return;
-    require(*folder == folderByTheRules(trimmed(value), workingFolder),
+    require(*folder == expectedFolder(trimmed(value), workingFolder),
             "the folder follows the rules");
     require(standardizedPath(*folder) == *folder, "the path is already normalised");
     require(isUtf8(pathText(*folder)), "a path has a text");

@@ -53,7 +53,7 @@ std::optional<std::int64_t> countOf(const std::string &word)
 }
 
 /// A line by the rules in words: first all of its words, then their positions.
-std::optional<SelfReportedSlab> slabByTheRules(std::string_view line)
+std::optional<SelfReportedSlab> expectedSlab(std::string_view line)
 {
     const std::vector<std::string> words = wordsOf(stripped(stripped(line, " \t"), "-*`> "));
     std::size_t last = words.size();
@@ -76,7 +76,7 @@ void checkSlabText(std::string_view input)
     std::int64_t leastUnread = 0;
     std::string_view rest = input;
     while (const auto line = takeLine(rest)) {
-        if (const auto slab = slabByTheRules(*line))
+        if (const auto slab = expectedSlab(*line))
             expected.push_back(*slab);
         else if (!lettersAndNumbers(*line).empty() && line->find_first_of("`~") == line->npos)
             ++leastUnread;

@@ -53,7 +53,7 @@ Expected usageOfFullyParsedLines(std::string_view transcript)
         if (JsonOracle::text(JsonOracle::find(record, "type")) != "assistant")
             continue;
         const nlohmann::json *const message = JsonOracle::find(record, "message");
-        if (const Usage usage = usageByTheRule(JsonOracle::find(message, "usage")))
+        if (const Usage usage = expectedUsage(JsonOracle::find(message, "usage")))
             return {.isJudged = true, .usage = usage};
     }
     return {.isJudged = true, .usage = std::nullopt};

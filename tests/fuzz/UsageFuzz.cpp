@@ -30,7 +30,7 @@ void checkUsage(std::string_view input)
     const auto read = jsonObject(document, {"usage"});
     require(read.has_value(), "an object may be a member");
     const auto usage = ProbeUsage::from(*member(*read, "usage"));
-    require(usage == usageByTheRule(&*oracle.object), "the usage follows the rule");
+    require(usage == expectedUsage(&*oracle.object), "the usage follows the rule");
     if (!usage || !isBounded(usage->inputTokens) || !isBounded(usage->cacheCreationInputTokens) ||
         !isBounded(usage->cacheReadInputTokens))
         return;

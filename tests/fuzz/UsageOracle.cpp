@@ -7,7 +7,7 @@
 
 namespace Loadwick {
 
-std::optional<ProbeUsage> usageByTheRule(const nlohmann::json *value)
+std::optional<ProbeUsage> expectedUsage(const nlohmann::json *value)
 {
     constexpr std::array keys{"input_tokens", "cache_creation_input_tokens",
                               "cache_read_input_tokens", "output_tokens"};

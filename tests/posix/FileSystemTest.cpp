@@ -27,7 +27,7 @@ Entries entriesOf(const fs::path &folder)
     Entries entries;
     PosixFileSystem().list(folder, [&](const std::string &name, EntryKind kind) {
         entries.emplace(name, kind);
-        return FileSystem::Walk::goOn;
+        return FileSystem::Walk::proceed;
     });
     return entries;
 }

@@ -53,7 +53,7 @@ Item {
 
         function test_foldersReadFromLeftToRightInEveryScript() {
             ruler.text = hebrew.text;
-            verify(positionOf("\u05D0") > positionOf("\u05D2")); // as it would be by itself
+            verify(positionOf("\u05D0") > positionOf("\u05D2")); // as it would be on its own
             ruler.text = label(hebrew).text;
             verify(positionOf("\u05D0") < positionOf("\u05D2"));
             verify(positionOf("\u05D2") < positionOf("app"));

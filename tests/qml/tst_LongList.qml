@@ -21,7 +21,7 @@ LongListScene {
             for (const contentY of [0, 1, 119, 120, 155, 5000, 150001, 299999, 300340 - 300, 40, 0]) {
                 page.contentY = contentY;
                 compare(shownRows(), expectedRows(), "at " + contentY);
-                verify(scene.made < 100, scene.made + " rows at " + contentY);
+                verify(scene.rowCount < 100, scene.rowCount + " rows at " + contentY);
                 waitForRendering(scene, 100);
                 compare(shownRows(), expectedRows(), "rendered at " + contentY);
             }
@@ -46,13 +46,13 @@ LongListScene {
             page.contentY = 3000;
             waitForRendering(scene);
             page.contentY += 90;
-            const before = scene.makings;
+            const before = scene.createdCount;
             for (let step = 0; step < 40; ++step) {
                 page.contentY += step % 2 ? 85 : 95;
                 waitForRendering(scene, 50);
                 compare(shownRows(), expectedRows());
             }
-            verify(scene.makings - before < 15, scene.makings - before + " rows made");
+            verify(scene.createdCount - before < 15, scene.createdCount - before + " rows created");
         }
 
         function test_createsHardlyAnyRowsInAdvance_data() {
@@ -66,8 +66,8 @@ LongListScene {
             waitForRendering(scene);
             show(10000);
             compare(shownRows(), []);
-            verify(scene.made <= data.most, scene.made + " rows");
-            compare(scene.made > 9, data.isFilled);
+            verify(scene.rowCount <= data.most, scene.rowCount + " rows");
+            compare(scene.rowCount > 9, data.isFilled);
             page.contentY = 8800;
             compare(shownRows(), expectedRows());
             list.isFilled = false;
@@ -76,10 +76,10 @@ LongListScene {
         function test_createsNoRowsWithoutAHeight() {
             list.rowHeight = 0;
             show(10000);
-            verify(scene.made < 3, scene.made + " rows");
+            verify(scene.rowCount < 3, scene.rowCount + " rows");
             list.rowHeight = 30;
             compare(shownRows(), expectedRows());
-            verify(scene.made < 100, scene.made + " rows");
+            verify(scene.rowCount < 100, scene.rowCount + " rows");
         }
 
         function test_followsContentAboveItOnThePage() {
@@ -102,9 +102,9 @@ LongListScene {
 
         function test_aShortListExistsAsAWhole() {
             show(60);
-            compare(scene.made, 60);
+            compare(scene.rowCount, 60);
             page.contentY = 700;
-            compare(scene.made, 60);
+            compare(scene.rowCount, 60);
             compare(shownRows(), expectedRows());
         }
 
@@ -116,7 +116,7 @@ LongListScene {
             page.contentY = 0;
             show(3);
             compare(shownRows(), [0, 1, 2]);
-            compare(scene.made, 3);
+            compare(scene.rowCount, 3);
         }
 
         function test_highlightsTheReferredRow() {

@@ -42,29 +42,29 @@ Item {
         function test_theCurrentDotIsFullAndLarger() {
             const row = make(Appearance.Full);
             compare(dot(row, 0).opacity, 1);
-            compare(dot(row, 0).swelling, 1.15);
+            compare(dot(row, 0).sizeFactor, 1.15);
             compare(findChild(dot(row, 0), "disc").width, 7 * 1.15);
             compare(findChild(dot(row, 0), "disc").scale, 1);
             fuzzyCompare(dot(row, 1).opacity, 0.3, 0.001);
-            compare(dot(row, 1).swelling, 1);
+            compare(dot(row, 1).sizeFactor, 1);
         }
 
         function test_aChangeFollowsASpringThatOvershoots() {
             const row = make(Appearance.Full);
             row.currentIndex = 1;
-            compare(dot(row, 1).swelling, 1);
-            tryVerify(() => dot(row, 1).swelling > 1.151);
-            tryCompare(dot(row, 1), "swelling", 1.15);
-            compare(dot(row, 0).swelling, 1);
+            compare(dot(row, 1).sizeFactor, 1);
+            tryVerify(() => dot(row, 1).sizeFactor > 1.151);
+            tryCompare(dot(row, 1), "sizeFactor", 1.15);
+            compare(dot(row, 0).sizeFactor, 1);
         }
 
         function test_withReduceMotionNoDotChangesItsSize() {
             const row = make(Appearance.Reduced);
-            compare(dot(row, 0).swelling, 1);
+            compare(dot(row, 0).sizeFactor, 1);
             row.currentIndex = 1;
             tryVerify(() => dot(row, 1).opacity > 0.3 && dot(row, 1).opacity < 1);
             tryCompare(dot(row, 1), "opacity", 1);
-            compare(dot(row, 1).swelling, 1);
+            compare(dot(row, 1).sizeFactor, 1);
             fuzzyCompare(dot(row, 0).opacity, 0.3, 0.001);
         }
 
@@ -72,7 +72,7 @@ Item {
             const row = make(Appearance.Full);
             for (const index of [1, 2, 1, 2, 3])
                 row.currentIndex = index;
-            tryVerify(() => dot(row, 3).swelling === 1.15 && dot(row, 3).emphasis === 1);
+            tryVerify(() => dot(row, 3).sizeFactor === 1.15 && dot(row, 3).emphasis === 1);
             for (const index of [0, 1, 2])
                 tryCompare(dot(row, index), "emphasis", 0);
         }

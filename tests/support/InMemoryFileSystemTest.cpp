@@ -16,7 +16,7 @@ TEST(InMemoryFileSystemTest, listsEntriesInOrderOfAddition)
     std::vector<std::pair<std::string, EntryKind>> seen;
     fileSystem.list("/r", [&](const std::string &name, EntryKind kind) {
         seen.emplace_back(name, kind);
-        return Walk::goOn;
+        return Walk::proceed;
     });
     EXPECT_EQ(seen, (std::vector<std::pair<std::string, EntryKind>>{{"b", EntryKind::folder},
                                                                     {"a", EntryKind::file}}));

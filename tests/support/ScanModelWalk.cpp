@@ -68,9 +68,9 @@ void ScanModelWalk::step()
     case 5:
         return changeCollaborators();
     case 6:
-        return below(4) == 0 ? quit() : disturbDisk();
+        return below(4) == 0 ? quit() : disruptDisk();
     default:
-        return goOn();
+        return continueScan();
     }
 }
 
@@ -149,7 +149,7 @@ void ScanModelWalk::quit()
 }
 
 /// The scan's next step, if one runs: a stage, or what follows its outcome.
-void ScanModelWalk::goOn()
+void ScanModelWalk::continueScan()
 {
     if (m_harness.dispatcher->backgroundCount() > 0) {
         m_error = expectedOfStage();
@@ -195,11 +195,11 @@ void ScanModelWalk::moveClock()
     m_now += jumps.at(static_cast<std::size_t>(below(5)));
 }
 
-void ScanModelWalk::disturbDisk()
+void ScanModelWalk::disruptDisk()
 {
     if (m_diskWorks && below(6) == 0) {
         m_files.write(m_harness.historyFolder() / ScanHistoryStore::fileName, "nonsense");
-        m_table.spoil();
+        m_table.corrupt();
         return;
     }
     m_diskWorks = !m_diskWorks;

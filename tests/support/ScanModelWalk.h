@@ -55,12 +55,12 @@ private:
     void scan();
     void clear();
     void quit();
-    void goOn();
+    void continueScan();
     void receive();
     void refuse();
     void changeCollaborators();
     void moveClock();
-    void disturbDisk();
+    void disruptDisk();
     void swapHistoryFolder();
 
     [[nodiscard]] ProbeResult probed() const;

@@ -75,7 +75,7 @@ void ScanStateTable::clear()
     m_changes = "h";
 }
 
-void ScanStateTable::spoil()
+void ScanStateTable::corrupt()
 {
     if (m_diskWorks)
         m_disk.clear();

@@ -58,7 +58,7 @@ public:
     /// Whether the disk can be read and written; its content survives an outage.
     void setDiskWorks(bool works) noexcept { m_diskWorks = works; }
     /// Something else overwrote the file.
-    void spoil();
+    void corrupt();
     /// An event that the model cannot see.
     void wait() { m_changes.clear(); }
 

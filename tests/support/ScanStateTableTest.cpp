@@ -87,7 +87,7 @@ TEST(ScanStateTableTest, startsWithTheRecordedScans)
     table.start();
     EXPECT_EQ(table.history().size(), 1U);
     EXPECT_EQ(table.selection(), std::nullopt);
-    table.spoil();
+    table.corrupt();
     EXPECT_TRUE(table.canClear());
     table.start();
     EXPECT_FALSE(table.canClear());

@@ -15,7 +15,7 @@ public:
     void runInBackground(Task task) override;
     void postToInterface(Task task) override;
 
-    /// From now on refuses background tasks, as if threads had run out.
+    /// Refuses background tasks, as if threads had run out.
     void refuseBackground() noexcept { m_refusesBackground = true; }
 
     /// Accepts background tasks again.

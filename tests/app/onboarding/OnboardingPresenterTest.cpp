@@ -183,7 +183,7 @@ private Q_SLOTS:
     {
         ask();
         QTest::qWait(100);
-        m_onboarding->callOff();
+        m_onboarding->cancel();
         QTest::qWait(400);
         QVERIFY(!m_onboarding->isPresented());
     }
@@ -191,7 +191,7 @@ private Q_SLOTS:
     void ignoresAnAnswerAfterCancellation()
     {
         m_onboarding->presentOnboardingIfFirstLaunch(m_dispatcher);
-        m_onboarding->callOff();
+        m_onboarding->cancel();
         m_dispatcher->runAll();
         QTest::qWait(450);
         QVERIFY(!m_onboarding->isPresented());

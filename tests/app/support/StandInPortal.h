@@ -26,8 +26,7 @@ public:
     void set(const QString &space, const QString &name, const QVariant &value);
     /// Changes the setting and announces it.
     void change(const QString &space, const QString &name, const QVariant &value);
-    /// From now on calls are received and never answered.
-    void fallSilent() { m_isSilent = true; }
+    void stopAnswering() { m_isSilent = true; }
     [[nodiscard]] int questionCount() const { return m_questionCount; }
 
 public Q_SLOTS:

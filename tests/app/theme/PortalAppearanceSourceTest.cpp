@@ -154,7 +154,7 @@ private Q_SLOTS:
 
     void aPortalThatNeverAnswersBlocksNothing()
     {
-        portal().fallSilent();
+        portal().stopAnswering();
         QElapsedTimer timer;
         timer.start();
         PortalAppearanceSource &asked = source();
@@ -166,7 +166,7 @@ private Q_SLOTS:
 
     void followsAPortalThatNeverAnswers()
     {
-        portal().fallSilent();
+        portal().stopAnswering();
         PortalAppearanceSource &asked = source();
         QTRY_COMPARE(portal().questionCount(), keyCount);
         portal().change(common, scheme, 1U);

@@ -12,9 +12,9 @@ Item {
     property alias before: before
     property alias after: after
     // The number of rows that exist.
-    property int made: 0
+    property int rowCount: 0
     // The number of rows ever created.
-    property int makings: 0
+    property int createdCount: 0
     // Keys that the list ignored.
     property string keysLeft: ""
 
@@ -62,10 +62,10 @@ Item {
                         Accessible.name: "Row " + row.index
                         TextInput { objectName: "words" + row.index; width: 100; text: "Words" }
                         Component.onCompleted: {
-                            scene.made += 1;
-                            scene.makings += 1;
+                            scene.rowCount += 1;
+                            scene.createdCount += 1;
                         }
-                        Component.onDestruction: scene.made -= 1
+                        Component.onDestruction: scene.rowCount -= 1
                         ListView.onPooled: row.visible = false
                         ListView.onReused: row.visible = true
                     }

@@ -6,7 +6,7 @@ class QQmlEngine;
 
 namespace Loadwick {
 
-/// Gives Qt Quick Test the style, the font and the module of the window.
+/// Sets up Qt Quick Test with the window's style, font and module.
 class QuickTestSetup : public QObject
 {
     Q_OBJECT
