@@ -101,39 +101,23 @@ std::optional<QColor> accentOfParts(const QVariant &value)
 using Preferences = DesktopPreferences;
 constexpr std::array<PortalAnswers::Key, 9> allKeys = {{
     {commonSpace, "color-scheme",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.dark = darkOfNumber(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.dark = darkOfNumber(value); }},
     {commonSpace, "contrast",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.moreContrast = asked(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.moreContrast = asked(value); }},
     {commonSpace, "reduced-motion",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.reducedMotion = asked(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.reducedMotion = asked(value); }},
     {commonSpace, "accent-color",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.accent = accentOfParts(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.accent = accentOfParts(value); }},
     {gnomeSpace, "color-scheme",
-     [](Preferences &preferences, const QVariant &value) { preferences.dark = darkOfWord(value); }},
+     [](Preferences &result, const QVariant &value) { result.dark = darkOfWord(value); }},
     {gnomeSpace, "enable-animations",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.reducedMotion = negated(flag(value));
-     }},
+     [](Preferences &result, const QVariant &value) { result.reducedMotion = negated(flag(value)); }},
     {gnomeSpace, "font-name",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.fontPoints = pointsOfFont(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.fontPoints = pointsOfFont(value); }},
     {gnomeSpace, "text-scaling-factor",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.textFactor = factor(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.textFactor = factor(value); }},
     {gnomeAccessSpace, "high-contrast",
-     [](Preferences &preferences, const QVariant &value) {
-         preferences.moreContrast = flag(value);
-     }},
+     [](Preferences &result, const QVariant &value) { result.moreContrast = flag(value); }},
 }};
 
 } // namespace

@@ -17,7 +17,7 @@ def run_again_in_own_session() -> None:
     """Runs the script again in its own session and ends with that run's status.
 
     Returns only in that second run. The accessibility bus listens on a socket whose name is fixed
-    inside the folder for sockets: two scripts that share the folder take each other's bus away.
+    inside the folder for sockets: two scripts that share the folder would take over each other's bus.
     """
     end_with_parent()
     if MARK in os.environ:

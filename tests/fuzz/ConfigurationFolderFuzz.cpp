@@ -52,7 +52,7 @@ void checkConfigurationFolder(std::string_view bytes)
     const std::string workingFolder = "/" + std::string(input.takeLine());
     const std::string_view value = input.rest();
     const auto folder = TranscriptLocator::normalizedConfigDir(value, workingFolder);
-    require(folder.has_value() == !trimmed(value).empty(), "only white space is no folder");
+    require(folder.has_value() == !trimmed(value).empty(), "white space alone is not a folder");
     if (!folder)
         return;
     require(*folder == expectedFolder(trimmed(value), workingFolder),

@@ -72,8 +72,8 @@ void checkToken(std::string_view token, std::string_view text)
                 token.data() + token.size() <= text.data() + text.size(),
             "a token is a part of the text");
     require(*(token.data() - 1) == '@', "an @ precedes a token");
-    require(token.front() != '@', "a doubled @ is no import");
-    require(token.find("://") == std::string_view::npos, "an address is no import");
+    require(token.front() != '@', "a doubled @ is not an import");
+    require(token.find("://") == std::string_view::npos, "an address is not an import");
     require(token.find_first_of(" \t\n\r") == std::string_view::npos, "a token is one word");
     require(std::string_view(".,;:!?)]}\"'`").find(token.back()) == std::string_view::npos,
             "closing punctuation belongs to the sentence");

@@ -43,7 +43,7 @@ void checkCategoryName(std::string_view name)
     require(!stored.empty() && trimmed(stored) == stored, "a stored name is trimmed and not empty");
     require(byteCountOfCharacters(stored, RecordedCategoryName::limit) == stored.size(),
             "a stored name is short");
-    require(stored.find_first_of("/\\~") == std::string::npos, "a stored name is no path");
+    require(stored.find_first_of("/\\~") == std::string::npos, "a stored name is not a path");
     require(RecordedCategoryName::storable(stored) == stored, "storing a name is idempotent");
     require(stored == RecordedCategoryName::withheld || stored == trimmed(name),
             "a stored name is the whole name or none of it");

@@ -55,10 +55,10 @@ private Q_SLOTS:
         QTest::addColumn<double>("height");
         QTest::addColumn<bool>("shows");
         QTest::newRow("just large enough") << 84.0 << 28.0 << true;
-        QTest::newRow("a trifle too narrow") << 83.999 << 28.0 << false;
-        QTest::newRow("a trifle too low") << 84.0 << 27.999 << false;
-        QTest::newRow("wide but low") << 900.0 << 20.0 << false;
-        QTest::newRow("high but narrow") << 40.0 << 900.0 << false;
+        QTest::newRow("slightly too narrow") << 83.999 << 28.0 << false;
+        QTest::newRow("slightly too short") << 84.0 << 27.999 << false;
+        QTest::newRow("wide but short") << 900.0 << 20.0 << false;
+        QTest::newRow("tall but narrow") << 40.0 << 900.0 << false;
         QTest::newRow("large") << 640.0 << 360.0 << true;
     }
 

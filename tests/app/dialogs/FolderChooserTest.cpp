@@ -123,7 +123,7 @@ void FolderChooserTest::choosesATypedFolder()
 void FolderChooserTest::staysOpenForATypedNonFolder_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("not there") << QByteArray("$/nowhere");
+    QTest::newRow("missing") << QByteArray("$/nowhere");
     QTest::newRow("a file") << QByteArray("file.txt");
     QTest::newRow("address of nothing") << QByteArray("file://$/nowhere");
     QTest::newRow("another machine") << QByteArray("file://server/srv");

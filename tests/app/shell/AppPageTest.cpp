@@ -1,5 +1,6 @@
 #include "shell/AppPage.h"
 
+#include <optional>
 #include <string>
 
 #include <QTest>

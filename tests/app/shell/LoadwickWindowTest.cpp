@@ -41,7 +41,7 @@ private Q_SLOTS:
         QTest::addColumn<QSize>("size");
         QTest::newRow("a large screen") << QSize(2560, 1400) << QSize(1180, 780);
         QTest::newRow("exactly") << QSize(1180, 780) << QSize(1180, 780);
-        QTest::newRow("a low screen") << QSize(1366, 700) << QSize(1180, 700);
+        QTest::newRow("a short screen") << QSize(1366, 700) << QSize(1180, 700);
         QTest::newRow("a narrow screen") << QSize(1080, 1880) << QSize(1080, 780);
         QTest::newRow("smaller than the minimum") << QSize(800, 560) << QSize(960, 640);
     }
