@@ -1,5 +1,5 @@
-# The source checks, each also a command to run by hand. They check the sources, so
-# their names carry no build prefix.
+# The source checks, each also a command to run by hand. They do not depend on a build, so their names
+# carry no build prefix.
 
 foreach(check IN ITEMS layers sizes format documented-paths packaging shell)
     add_test(NAME "house/${check}" COMMAND "${PROJECT_SOURCE_DIR}/tools/checks/${check}")

@@ -23,8 +23,8 @@ public:
     [[nodiscard]] std::optional<std::filesystem::path> chosenPath() const;
 
     /// The ending that a file to save still needs: that of the chosen kind, unless the name already
-    /// has the ending of one of the kinds. Another dot is no ending: the "2" of "notes v1.2" names
-    /// no kind.
+    /// has the ending of one of the kinds. Another dot does not begin an ending: the "2" of
+    /// "notes v1.2" does not name a kind.
     [[nodiscard]] QString missingEnding(const QString &name) const;
 
 protected:

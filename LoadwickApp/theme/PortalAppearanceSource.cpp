@@ -32,7 +32,7 @@ QVariant unwrapped(QVariant value)
     return value;
 }
 
-/// 1 requests it; 0 is no preference, as is any value that future portals may add.
+/// 1 requests it; 0 means no preference, as does any value that future portals may add.
 std::optional<bool> asked(const QVariant &value)
 {
     return value.typeId() == QMetaType::UInt && value.toUInt() == 1 ? std::optional(true)
@@ -49,7 +49,7 @@ std::optional<bool> negated(std::optional<bool> value)
     return value ? std::optional(!*value) : std::nullopt;
 }
 
-/// 0 is no preference, 1 dark, 2 light.
+/// 0 means no preference, 1 dark, 2 light.
 std::optional<bool> darkOfNumber(const QVariant &value)
 {
     const uint scheme = value.typeId() == QMetaType::UInt ? value.toUInt() : 0;

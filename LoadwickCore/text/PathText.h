@@ -9,8 +9,8 @@ namespace Loadwick {
 /// UTF-8. Never hand it back to the file system.
 [[nodiscard]] std::string pathText(const std::filesystem::path &path);
 
-/// `path` without ".", ".." and a trailing slash (the root keeps its one). Links are not resolved,
-/// and a relative path stays relative.
+/// `path` without ".", ".." and a trailing slash, except the root's. Links are not resolved, and a
+/// relative path stays relative.
 [[nodiscard]] std::filesystem::path standardizedPath(const std::filesystem::path &path);
 
 } // namespace Loadwick

@@ -82,7 +82,7 @@ int window(const Invocation &invocation)
 {
     const char *home = std::getenv("HOME");
     if (home == nullptr || !fs::exists(fs::path(home) / "throw-away"))
-        return wrongCall("HOME is no throw-away home");
+        return wrongCall("HOME is not a throw-away home");
     const fs::path folder = home;
     Confinement::pinEnvironment(folder);
     const WindowOptions options = windowOptions(invocation.words);

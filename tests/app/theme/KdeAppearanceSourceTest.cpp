@@ -173,7 +173,7 @@ private:
         row("no animations, written long", factor + "0.0", {.reducedMotion = true});
         row("quick animations", factor + "0.25", {.reducedMotion = false});
         row("animations as they are", factor + "1", {.reducedMotion = false});
-        row("a factor that is no number", factor + "fast", {});
+        row("a factor that is not a number", factor + "fast", {});
         row("an empty factor", factor, {});
         row("suffixes of a name", "[KDE][$i]\n[KDE]\nAnimationDurationFactor[$i]=0\n",
             {.reducedMotion = true});
@@ -186,7 +186,7 @@ private:
         row("parts of a point", font + ", 10.5,-1\n", {.fontPoints = 10.5});
         row("a size in pixels", font + ",-1,18,5\n", {});
         row("a font without a size", font + "\n", {});
-        row("a size that is no number", font + ",large\n", {});
+        row("a size that is not a number", font + ",large\n", {});
     }
 
     static void ignoredRows()

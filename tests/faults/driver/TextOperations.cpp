@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using Loadwick::ProbeError;
 
-/// An answer that is no record, and a name, both longer than the limit and in non-ASCII text, which
+/// An answer that is not a record, and a name, both longer than the limit and in non-ASCII text, which
 /// takes the whole Unicode library.
 class Texts final : public Operation
 {
@@ -65,7 +65,7 @@ private:
                                                 const std::string &when)
     {
         if (!error || !std::holds_alternative<ProbeError::UnreadableOutput>(error->value()))
-            return when + "an answer that is no record was read";
+            return when + "an answer that is not a record was read";
         if (error->detail() != repeated("é", ProbeError::detailLimit) + "…")
             return when + "not the text of the answer";
         return std::nullopt;
