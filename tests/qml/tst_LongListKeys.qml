@@ -42,7 +42,7 @@ LongListScene {
             verify(before.activeFocus);
         }
 
-        function test_anEmptyListIsNoTabStop() {
+        function test_anEmptyListIsNotATabStop() {
             show(0);
             keyClick(Qt.Key_Tab);
             verify(after.activeFocus);

@@ -10,7 +10,7 @@
 
 namespace Loadwick {
 
-/// Qt's own dialog over a folder with the folders "api", "webshop" and a link to that one, and a
+/// Qt's own dialog over a folder with the folders "api" and "webshop", a link to "webshop", and a
 /// file.
 class FolderChooserTest : public QObject
 {

@@ -12,7 +12,7 @@ namespace Faults {
 
 namespace {
 
-constexpr int gateOfSystemCall = SIGTRAP | 0x80; // with PTRACE_O_TRACESYSGOOD
+constexpr int syscallStop = SIGTRAP | 0x80; // with PTRACE_O_TRACESYSGOOD
 
 int statusOf(pid_t child)
 {
@@ -25,7 +25,7 @@ int statusOf(pid_t child)
 /// Lets the child run to its next stop and delivers the signal that stopped it.
 int statusAtNextStop(pid_t child, int status)
 {
-    const bool isOwnSignal = WSTOPSIG(status) != gateOfSystemCall && WSTOPSIG(status) != SIGSTOP;
+    const bool isOwnSignal = WSTOPSIG(status) != syscallStop && WSTOPSIG(status) != SIGSTOP;
     const long signal = isOwnSignal ? WSTOPSIG(status) : 0;
     if (ptrace(PTRACE_SYSCALL, child, nullptr, signal) != 0)
         Loadwick::fatalError("a traced child cannot continue");
@@ -42,7 +42,7 @@ pid_t startStopped(const std::function<void()> &work)
             _exit(3);
         raise(SIGSTOP);
         work();
-        raise(SIGKILL); // only the work matters, not what a program does at its end
+        raise(SIGKILL); // the calls of an ordinary exit do not count
     }
     return child;
 }
@@ -56,11 +56,11 @@ bool isKilledAt(long stop, const std::function<void()> &work)
     if (!WIFSTOPPED(status))
         Loadwick::fatalError("this system does not permit tracing a child");
     ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
-    for (long gate = 0; gate < stop;) {
+    for (long stops = 0; stops < stop;) {
         status = statusAtNextStop(child, status);
         if (!WIFSTOPPED(status))
             return false;
-        gate += WSTOPSIG(status) == gateOfSystemCall ? 1 : 0;
+        stops += WSTOPSIG(status) == syscallStop ? 1 : 0;
     }
     kill(child, SIGKILL);
     statusOf(child);

@@ -22,7 +22,7 @@ namespace {
 
 constexpr long hour = 3600; // seconds
 
-std::atomic<bool> isClockRestless = false;
+std::atomic<bool> isClockChanging = false;
 std::thread clockMover;
 
 void setClockForward()
@@ -35,20 +35,20 @@ void setClockBack()
     Shim::shiftClock(-hour);
 }
 
-void beginRestlessClock()
+void startChangingClock()
 {
-    isClockRestless = true;
+    isClockChanging = true;
     clockMover = std::thread([] {
-        for (long shift = hour; isClockRestless; shift = -shift) {
+        for (long shift = hour; isClockChanging; shift = -shift) {
             Shim::shiftClock(shift);
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
     });
 }
 
-void endRestlessClock()
+void stopChangingClock()
 {
-    isClockRestless = false;
+    isClockChanging = false;
     clockMover.join();
 }
 
@@ -116,7 +116,7 @@ constexpr std::array all{
     Condition{"plain", [] {}},
     Condition{"clock-an-hour-forward", setClockForward},
     Condition{"clock-an-hour-back", setClockBack},
-    Condition{"clock-set-all-the-time", beginRestlessClock, endRestlessClock},
+    Condition{"clock-set-all-the-time", startChangingClock, stopChangingClock},
     Condition{"stopped-and-continued", [] {}, nullptr, stopAndContinue},
     Condition{"alarm-every-millisecond", [] { setAlarmEvery(1000); }, [] { setAlarmEvery(0); }},
     Condition{"standard-streams-closed", closeStandardStreams},
