@@ -34,7 +34,7 @@ private Q_SLOTS:
     void replacesAFileOnlyWhenTheUserAgrees_data();
     void replacesAFileOnlyWhenTheUserAgrees();
     void asksInPlainText();
-    void returnsNothingWhenTheUserCancels();
+    void choosesNothingWhenTheUserCancels();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
     void isANoOpWithoutAWindow();
@@ -232,7 +232,7 @@ void FileSaverTest::asksInPlainText()
     QVERIFY(question.isPlain);
 }
 
-void FileSaverTest::returnsNothingWhenTheUserCancels()
+void FileSaverTest::choosesNothingWhenTheUserCancels()
 {
     open();
     DialogFixture::press(Qt::Key_Escape);

@@ -28,11 +28,11 @@ private Q_SLOTS:
     void staysOpenForATypedNonFolder();
     void forgetsAMistypedAddress();
     void choosesAFolderWhoseNameIsNotUtf8();
-    void returnsNothingWhenTheUserCancels();
+    void choosesNothingWhenTheUserCancels();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
     void isANoOpWithoutAWindow();
-    void doesNotAnswerOnceDestroyed();
+    void choosesNothingOnceDestroyed();
 
 private:
     void open();
@@ -157,7 +157,7 @@ void FolderChooserTest::choosesAFolderWhoseNameIsNotUtf8()
     QCOMPARE(m_chosen, root() / "caf\xE9");
 }
 
-void FolderChooserTest::returnsNothingWhenTheUserCancels()
+void FolderChooserTest::choosesNothingWhenTheUserCancels()
 {
     open();
     DialogFixture::press(Qt::Key_Escape);
@@ -195,7 +195,7 @@ void FolderChooserTest::isANoOpWithoutAWindow()
     QVERIFY(DialogFixture::dialog() == nullptr);
 }
 
-void FolderChooserTest::doesNotAnswerOnceDestroyed()
+void FolderChooserTest::choosesNothingOnceDestroyed()
 {
     open();
     m_chooser.reset();
