@@ -18,7 +18,7 @@ class HistoryTest(EndToEndCase):
 
     display_height = 3000
 
-    def open_high(self) -> Program:
+    def open_tall(self) -> Program:
         program = self.open()
         program.window.resize(1180, self.display_height - 100)
         return program
@@ -55,7 +55,7 @@ class HistoryTest(EndToEndCase):
         return until(f"the first row of {listing!r}", lambda: unless_gone(look, []))
 
     def test_two_scans_have_a_drift(self) -> None:
-        program = self.open_high()
+        program = self.open_tall()
         webshop = self.home.make_repository("webshop")
         self.scan(program, webshop, 31_000)
         self.scan(program, webshop, 28_500)
@@ -68,7 +68,7 @@ class HistoryTest(EndToEndCase):
         )
 
     def test_the_heavier_repository_leads(self) -> None:
-        program = self.open_high()
+        program = self.open_tall()
         self.scan(program, self.home.make_repository("webshop"), 31_000)
         self.show(program, "Compare")
         program.window.wait_for("Only one repository recorded")
@@ -82,7 +82,7 @@ class HistoryTest(EndToEndCase):
         program.window.wait_for(row, "list item")
 
     def test_cleared_scans_are_gone(self) -> None:
-        program = self.open_high()
+        program = self.open_tall()
         self.scan(program, self.home.make_repository("webshop"), 31_000)
         self.scan(program, self.home.make_repository("warehouse"), 61_000)
         self.show(program, "Trends")
@@ -100,7 +100,7 @@ class HistoryTest(EndToEndCase):
         program.window.wait_for("No recorded scans yet")
 
     def test_the_report_on_screen_outlives_the_record(self) -> None:
-        program = self.open_high()
+        program = self.open_tall()
         self.scan(program, self.home.make_repository("webshop"), 31_000)
         self.show(program, "Trends")
         program.window.press("Clear Recorded Data…")

@@ -51,7 +51,7 @@ class HostileTextsTest(TracedCase):
             encoding="utf-8",
         )
 
-    def open_high(self) -> Program:
+    def open_tall(self) -> Program:
         """The window, tall enough for each page, with a log of every file that it opens."""
         program = self.open_traced("open,openat,socket")
         program.window.resize(1180, self.display_height - 100)
@@ -81,7 +81,7 @@ class HostileTextsTest(TracedCase):
 
     def test_every_page_shows_a_good_scan_verbatim(self) -> None:
         self.plant()
-        program = self.open_high()
+        program = self.open_tall()
         self.choose(program, self.repository())
         program.window.press(SCAN)
         program.window.wait_for("Scan complete")
@@ -91,7 +91,7 @@ class HostileTextsTest(TracedCase):
         self.assert_loaded_nothing(program)
 
     def test_a_session_that_fails_in_markup_is_shown_verbatim(self) -> None:
-        program = self.open_high()
+        program = self.open_tall()
         self.choose(program, self.repository())
         self.home.play("failed", message=self.markup)
         program.window.press(SCAN)

@@ -1,4 +1,4 @@
-"""Scans that succeed: what the window shows of them, copies, and remembers."""
+"""Scans that succeed: what the window shows, copies and remembers of them."""
 
 from __future__ import annotations
 

@@ -42,14 +42,14 @@ std::string lineOf(const std::string &description, const std::string &start)
 
 } // namespace
 
-TEST(ProcessSpawnTest, givesTheChildASessionOfItsOwnWithoutATerminal)
+TEST(ProcessSpawnTest, startsTheChildInItsOwnSessionWithoutATerminal)
 {
     const std::string description = described(commandInRoot({"describe"}));
     EXPECT_EQ(lineOf(description, "leads"), "leads session and group: yes");
     EXPECT_EQ(lineOf(description, "terminal"), "terminal: no");
 }
 
-TEST(ProcessSpawnTest, givesTheChildTheNullDeviceForInput)
+TEST(ProcessSpawnTest, startsTheChildWithTheNullDeviceForInput)
 {
     EXPECT_EQ(lineOf(described(commandInRoot({"describe"})), "input"), "input bytes: 0");
 }
@@ -101,7 +101,7 @@ TEST(ProcessSpawnTest, passesArgumentsUnchanged)
               "\ntwo words\n*$HOME\n\n\xFF\n");
 }
 
-TEST(ProcessSpawnTest, givesTheChildExactlyItsEnvironment)
+TEST(ProcessSpawnTest, startsTheChildWithExactlyItsEnvironment)
 {
     ChildCommand command = commandInRoot({"environment"});
     EXPECT_EQ(described(command), "");
