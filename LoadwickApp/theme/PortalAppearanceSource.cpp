@@ -111,7 +111,9 @@ constexpr std::array<PortalAnswers::Key, 9> allKeys = {{
     {gnomeSpace, "color-scheme",
      [](Preferences &result, const QVariant &value) { result.dark = darkOfWord(value); }},
     {gnomeSpace, "enable-animations",
-     [](Preferences &result, const QVariant &value) { result.reducedMotion = negated(flag(value)); }},
+     [](Preferences &result, const QVariant &value) {
+         result.reducedMotion = negated(flag(value));
+     }},
     {gnomeSpace, "font-name",
      [](Preferences &result, const QVariant &value) { result.fontPoints = pointsOfFont(value); }},
     {gnomeSpace, "text-scaling-factor",

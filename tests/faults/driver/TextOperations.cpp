@@ -14,8 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 using Loadwick::ProbeError;
 
-/// An answer that is not a record, and a name, both longer than the limit and in non-ASCII text, which
-/// takes the whole Unicode library.
+/// An answer that is not a record, and a name, both longer than the limit and in non-ASCII text,
+/// which takes the whole Unicode library.
 class Texts final : public Operation
 {
 public:
