@@ -26,7 +26,7 @@ ColumnLayout {
         readonly property bool narrow: cells.width < AppTheme.scaled(760)
         readonly property real sourceWidth: cells.narrow ? 0 : AppTheme.scaled(288) + AppTheme.pageMargin
         readonly property font wordFont: cells.heading ? AppTheme.captionStrongFont : AppTheme.bodyFont
-        // Figures end in one column in every reading direction.
+        // From right to left too, figures end in one column, which then needs one width.
         readonly property int figureAlignment: cells.LayoutMirroring.enabled ? Text.AlignLeft : Text.AlignRight
 
         implicitHeight: AppTheme.scaled(cells.narrow ? 48 : 32)
@@ -60,7 +60,7 @@ ColumnLayout {
             objectName: "tokens"
             anchors { right: portion.left; rightMargin: AppTheme.cardSpace; baseline: name.baseline }
             // A long figure pushes the name aside, but shrinks before the name would vanish.
-            width: Math.min(0.4 * cells.width, Math.ceil(implicitWidth))
+            width: Math.min(0.4 * cells.width, Math.max(cells.LayoutMirroring.enabled ? AppTheme.scaled(88) : 0, Math.ceil(implicitWidth)))
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 10
             horizontalAlignment: cells.figureAlignment

@@ -56,6 +56,8 @@ Item {
         }
         ColumnLayout {
             Layout.fillWidth: false
+            // From right to left, figures end in one column only if it has one width.
+            Layout.minimumWidth: row.LayoutMirroring.enabled ? Math.min(AppTheme.scaled(144), 0.35 * row.width) : 0
             spacing: 2
             visible: row.isReadable
 

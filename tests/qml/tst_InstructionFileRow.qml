@@ -45,6 +45,26 @@ Item {
         isReadable: true
         words: "all of it"
     }
+    Repeater {
+        id: mirrored
+        model: ["1 token", "3,086,420 tokens"]
+
+        InstructionFileRow {
+            required property string modelData
+
+            LayoutMirroring.enabled: true
+            LayoutMirroring.childrenInherit: true
+            y: 240
+            width: 600
+            height: 52
+            path: "/srv/CLAUDE.md"
+            size: "4 bytes on disk"
+            amount: modelData
+            share: "0.1% of total"
+            isReadable: true
+            words: "all of it"
+        }
+    }
     LargestFilesSection.Cells {
         id: cells
         y: 120
@@ -70,6 +90,12 @@ Item {
                 verify(label.implicitWidth <= label.width, name);
                 compare(label.horizontalAlignment, Text.AlignRight);
             }
+        }
+
+        function test_figuresEndInOneColumnFromRightToLeftToo() {
+            const edges = [0, 1].map(row => end(findChild(mirrored.itemAt(row), "amount")));
+            compare(edges[0], edges[1]);
+            verify(edges[0] < 300);
         }
 
         function test_aLongPathDoesNotOverlapTheFigures() {
