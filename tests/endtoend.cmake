@@ -28,10 +28,7 @@ endforeach()
 # It watches for ten seconds.
 set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/idle" APPEND PROPERTY LABELS slow)
 
-# It starts the program a thousand times, under sanitizers a hundred times.
+# It starts the program a thousand times.
 set(any_environment "${LOADWICK_TEST_PREFIX}endtoend/any_environment")
 set_property(TEST "${any_environment}" APPEND PROPERTY LABELS slow)
 set_tests_properties("${any_environment}" PROPERTIES TIMEOUT 900 PROCESSORS 2)
-if(LOADWICK_SANITIZE)
-    set_property(TEST "${any_environment}" APPEND PROPERTY ENVIRONMENT LOADWICK_STARTS=100)
-endif()
