@@ -70,7 +70,8 @@ LoadwickWindow::Collaborators::ofUser(std::shared_ptr<Shutdown> shutdown)
                  .historyStore = std::make_unique<ScanHistoryStore>(dataFolder)},
         .completionStore = std::make_shared<PreferencesCompletionStore>(
             PreferencesCompletionStore::defaultFile(environment)),
-        .appearance = &DesktopAppearanceSource::ofUser,
+        .appearance =
+            [](const auto &dispatcher) { return DesktopAppearanceSource::ofUser(dispatcher); },
         .notices =
             [](const auto &dispatcher) { return std::make_unique<DesktopNoticeBoard>(dispatcher); },
         .locale = TextLocale::fromEnvironment(environment),

@@ -7,7 +7,6 @@
 #include <QPalette>
 
 #include "theme/KdeAppearanceSource.h"
-#include "theme/PortalAppearanceSource.h"
 
 namespace Loadwick {
 
@@ -37,12 +36,15 @@ DesktopAppearanceSource::DesktopAppearanceSource(Sources sources, QObject *paren
 }
 
 std::unique_ptr<AppearanceSource>
-DesktopAppearanceSource::ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher)
+DesktopAppearanceSource::ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher,
+                                const PortalAppearanceSource::Connect &connect)
 {
     Sources sources;
-    sources.push_back(std::make_unique<PortalAppearanceSource>(dispatcher));
+    sources.push_back(std::make_unique<PortalAppearanceSource>(dispatcher, connect));
     sources.push_back(
         std::make_unique<KdeAppearanceSource>(KdeAppearanceSource::userFile(), dispatcher));
+    if (KdeAppearanceSource::isDesktopKde())
+        std::swap(sources[0], sources[1]);
     sources.push_back(std::make_unique<PaletteAppearanceSource>());
     return std::make_unique<DesktopAppearanceSource>(std::move(sources));
 }

@@ -5,6 +5,7 @@
 
 #include "model/TaskDispatcher.h"
 #include "theme/AppearanceSource.h"
+#include "theme/PortalAppearanceSource.h"
 
 namespace Loadwick {
 
@@ -31,10 +32,12 @@ public:
 
     explicit DesktopAppearanceSource(Sources sources, QObject *parent = nullptr);
 
-    /// The desktop that the program runs on: its portal, then what KDE keeps in a file, then the
-    /// palette. Background work goes through the dispatcher.
+    /// The desktop that the program runs on: its portal, what KDE keeps in a file, then the
+    /// palette. KDE's file comes first on KDE, where a portal of GTK may run too. Background work
+    /// goes through the dispatcher.
     [[nodiscard]] static std::unique_ptr<AppearanceSource>
-    ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher);
+    ofUser(const std::shared_ptr<TaskDispatcher> &dispatcher,
+           const PortalAppearanceSource::Connect &connect = &QDBusConnection::sessionBus);
 
     [[nodiscard]] DesktopPreferences preferences() const override { return m_preferences; }
 

@@ -115,10 +115,14 @@ KdeAppearanceSource::KdeAppearanceSource(std::filesystem::path file,
         read();
 }
 
+bool KdeAppearanceSource::isDesktopKde()
+{
+    return qgetenv("XDG_CURRENT_DESKTOP").split(':').contains("KDE");
+}
+
 std::filesystem::path KdeAppearanceSource::userFile()
 {
-    const QByteArray desktop = qgetenv("XDG_CURRENT_DESKTOP");
-    if (!desktop.isEmpty() && !desktop.split(':').contains("KDE"))
+    if (!qEnvironmentVariableIsEmpty("XDG_CURRENT_DESKTOP") && !isDesktopKde())
         return {};
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return std::filesystem::path(folder.toStdString()) / "kdeglobals";

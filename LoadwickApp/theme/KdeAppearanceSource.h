@@ -32,6 +32,9 @@ public:
     KdeAppearanceSource(std::filesystem::path file, std::shared_ptr<TaskDispatcher> dispatcher,
                         QObject *parent = nullptr);
 
+    /// Whether the desktop identifies itself as KDE.
+    [[nodiscard]] static bool isDesktopKde();
+
     /// The path of the user's file. Empty on a desktop that identifies itself as another: a file
     /// that KDE once left there is out of date.
     [[nodiscard]] static std::filesystem::path userFile();

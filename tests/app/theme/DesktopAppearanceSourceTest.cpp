@@ -1,6 +1,11 @@
 #include "theme/DesktopAppearanceSource.h"
 
+#include "base/QtTaskDispatcher.h"
+#include "samples/TemporaryFolder.h"
+#include "support/EnvironmentSwap.h"
 #include "support/FakeAppearanceSource.h"
+#include "support/PrivateBus.h"
+#include "support/StandInPortal.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 
@@ -65,6 +70,38 @@ private Q_SLOTS:
         QVERIFY(changes.isEmpty());
         m_fakes[1]->setPreferences({.dark = false, .moreContrast = true});
         QCOMPARE(changes.size(), 1);
+    }
+
+    void kdeComesBeforeThePortalOnKde_data()
+    {
+        QTest::addColumn<QString>("desktop");
+        QTest::addColumn<bool>("reducesMotion");
+        QTest::newRow("KDE") << QStringLiteral("KDE") << false;
+        QTest::newRow("unknown") << QString() << true;
+    }
+
+    // KDE's file asks for motion, the portal for none.
+    void kdeComesBeforeThePortalOnKde()
+    {
+        QFETCH(const QString, desktop);
+        QFETCH(const bool, reducesMotion);
+        PrivateBus bus;
+        StandInPortal portal(bus.connection(QStringLiteral("portal")));
+        const QString space = QStringLiteral("org.gnome.desktop.interface");
+        portal.set(space, QStringLiteral("enable-animations"), false);
+        portal.set(space, QStringLiteral("font-name"),
+                   QStringLiteral("Cantarell 11")); // asked later
+        const TemporaryFolder folder;
+        folder.write("kdeglobals",
+                     "[General]\nAccentColor=1,2,3\n[KDE]\nAnimationDurationFactor=1\n");
+        const EnvironmentSwap swapped({"XDG_CURRENT_DESKTOP=" + desktop.toStdString(),
+                                       "XDG_CONFIG_HOME=" + folder.path().string()});
+        QObject receiver;
+        const auto source = DesktopAppearanceSource::ofUser(
+            std::make_shared<QtTaskDispatcher>(receiver),
+            [connection = bus.connection(QStringLiteral("program"))] { return connection; });
+        QTRY_VERIFY(source->preferences().fontPoints && source->preferences().accent);
+        QCOMPARE(source->prefersReducedMotion(), reducesMotion);
     }
 
     void fallsBackToThePalette()
