@@ -16,6 +16,15 @@ function(loadwick_qt_strictness target)
                                                  QT_NO_KEYWORDS)
 endfunction()
 
+# Links the program with modules of pages, which are all that it imports statically: a scan of its
+# imports would look for static versions of Qt's own modules too, and warn that there are none.
+function(loadwick_link_pages target)
+    set_property(TARGET ${target} PROPERTY QT_QML_MODULE_NO_IMPORT_SCAN ON)
+    foreach(module IN LISTS ARGN)
+        target_link_libraries(${target} PRIVATE ${module} ${module}plugin ${module}plugin_init)
+    endforeach()
+endfunction()
+
 # A newly globbed file does not by itself make CMake 3.25 run moc again, as none of the files that it
 # has read changed; without the stamp of its last run it does.
 function(loadwick_moc_follows target)

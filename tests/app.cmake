@@ -28,8 +28,8 @@ function(loadwick_qt_tests)
     loadwick_precompile(app_tests ${LOADWICK_STANDARD_HEADERS} ${LOADWICK_QT_HEADERS} <QAccessible>
                                   <QSignalSpy> <QTest>)
     target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
-    target_link_libraries(app_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
-                                            Qt6::DBus Qt6::Svg Qt6::Test)
+    loadwick_link_pages(app_tests LoadwickUi)
+    target_link_libraries(app_tests PRIVATE LoadwickTestSupport Qt6::DBus Qt6::Svg Qt6::Test)
     set_target_properties(app_tests PROPERTIES AUTOMOC ON)
     loadwick_moc_follows(app_tests ${sources})
     file(GLOB tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/app"
@@ -48,8 +48,8 @@ function(loadwick_quick_tests)
     qt_add_executable(qml_tests ${support})
     loadwick_warnings(qml_tests)
     loadwick_qt_strictness(qml_tests)
-    target_link_libraries(qml_tests PRIVATE LoadwickUi LoadwickUiplugin LoadwickTestSupport
-                                            Qt6::QuickTest)
+    loadwick_link_pages(qml_tests LoadwickUi)
+    target_link_libraries(qml_tests PRIVATE LoadwickTestSupport Qt6::QuickTest)
     set_target_properties(qml_tests PROPERTIES AUTOMOC ON)
     loadwick_moc_follows(qml_tests ${support})
     file(GLOB tests CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/qml/tst_*.qml")

@@ -13,7 +13,7 @@ target_link_libraries(loadwick-clipboard PRIVATE Qt6::Gui)
 qt_add_executable(loadwick-first-frame endtoend/first_frame.cpp)
 loadwick_warnings(loadwick-first-frame)
 loadwick_qt_strictness(loadwick-first-frame)
-target_link_libraries(loadwick-first-frame PRIVATE LoadwickUi LoadwickUiplugin)
+loadwick_link_pages(loadwick-first-frame LoadwickUi)
 
 file(GLOB scripts CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}/endtoend"
                                     "${CMAKE_CURRENT_SOURCE_DIR}/endtoend/*_test.py")
