@@ -28,6 +28,10 @@ function(loadwick_qt_tests)
     loadwick_precompile(app_tests ${LOADWICK_STANDARD_HEADERS} ${LOADWICK_QT_HEADERS} <QAccessible>
                                   <QSignalSpy> <QTest>)
     target_include_directories(app_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/app")
+    # QTRY_VERIFY narrows a duration there; earlier versions still check our own conversions.
+    if(Qt6_VERSION VERSION_GREATER_EQUAL 6.8)
+        target_compile_options(app_tests PRIVATE -Wno-conversion)
+    endif()
     loadwick_link_pages(app_tests LoadwickUi)
     target_link_libraries(app_tests PRIVATE LoadwickTestSupport Qt6::DBus Qt6::Svg Qt6::Test)
     set_target_properties(app_tests PROPERTIES AUTOMOC ON)
