@@ -87,7 +87,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
 
 void run(int argc, char **argv, const MakeCollaborators &make)
 {
-    const auto shutdown = std::make_shared<Shutdown>();
+    const auto shutdown = std::make_shared<Shutdown>(std::make_unique<DeathWatch>());
     ProgramEnd::followSignals(shutdown);
     ApplicationSetup::prepare();
     const int status = runWindow(argc, argv, make, shutdown);

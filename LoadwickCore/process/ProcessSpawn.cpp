@@ -38,7 +38,7 @@ public:
     void connect(int source, int target)
     {
         if (source == FileDescriptor::none)
-            openNullDevice(target, O_WRONLY);
+            openNullDevice(target, target == STDIN_FILENO ? O_RDONLY : O_WRONLY);
         else
             check(posix_spawn_file_actions_adddup2(&m_actions, source, target));
     }
@@ -148,7 +148,7 @@ pid_t spawnSessionLeader(const ChildCommand &command, const ChildStreams &stream
 {
     refuseEmbeddedNuls(command);
     FileActions actions;
-    actions.openNullDevice(STDIN_FILENO, O_RDONLY);
+    actions.connect(streams.standardInput, STDIN_FILENO);
     actions.connect(streams.standardOutput, STDOUT_FILENO);
     actions.connect(streams.standardError, STDERR_FILENO);
     actions.closeEverythingElse();

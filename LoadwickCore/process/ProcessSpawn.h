@@ -12,7 +12,7 @@
 
 namespace Loadwick {
 
-/// A child process to start. Its standard input is always the null device.
+/// A child process to start.
 struct ChildCommand
 {
     std::string executable;             ///< a path, from this process's folder; argument 0 too
@@ -21,11 +21,12 @@ struct ChildCommand
     std::optional<std::filesystem::path> workingFolder; ///< this process's own when absent
 };
 
-/// Where a child's output goes; the null device when there is no descriptor.
+/// A child's standard streams; the null device when there is no descriptor.
 struct ChildStreams
 {
     int standardOutput = FileDescriptor::none;
     int standardError = FileDescriptor::none;
+    int standardInput = FileDescriptor::none;
 };
 
 /// Starts a process as the leader of a session and group of its own, with no terminal, no

@@ -50,6 +50,8 @@ bool Shutdown::add(pid_t group)
     if (m_isRequested)
         return false;
     m_groups.push_back(group);
+    if (m_deathWatch)
+        m_deathWatch->add(group);
     return true;
 }
 
@@ -57,6 +59,8 @@ void Shutdown::remove(pid_t group)
 {
     const std::lock_guard lock(m_mutex);
     m_groups.erase(std::remove(m_groups.begin(), m_groups.end(), group), m_groups.end());
+    if (m_deathWatch)
+        m_deathWatch->remove(group);
     m_changed.notify_all();
 }
 

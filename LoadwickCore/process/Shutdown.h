@@ -4,9 +4,12 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 #include <sys/types.h>
+
+#include "process/DeathWatch.h"
 
 namespace Loadwick {
 
@@ -15,6 +18,11 @@ namespace Loadwick {
 class Shutdown
 {
 public:
+    /// With a watch, the listed groups do not outlive the program whatever ends it.
+    explicit Shutdown(std::unique_ptr<DeathWatch> deathWatch = nullptr)
+        : m_deathWatch(std::move(deathWatch))
+    {}
+
     /// Wakes every `waitFor`, now and later. Cannot be undone.
     void request();
     [[nodiscard]] bool isRequested() const;
@@ -46,6 +54,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
+    std::unique_ptr<DeathWatch> m_deathWatch; ///< may be null
     std::vector<pid_t> m_groups;
     int m_announced = 0;
     bool m_isRequested = false;

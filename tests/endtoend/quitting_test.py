@@ -55,6 +55,11 @@ class QuittingTest(EndToEndCase):
         # One second, plus the time to find the window and ask it to close.
         self.assertLess(time.monotonic() - start, LIMIT_SECONDS + 1.0)
 
+    def test_a_killed_program_takes_its_session_with_it(self) -> None:
+        program, session = self.scanning("hang")
+        program.process.kill()
+        until("the session's end", lambda: not is_running(session))
+
     def test_an_idle_program_ends_at_once(self) -> None:
         self.assertLess(self.open().ask_to_end(), LIMIT_SECONDS)
 
