@@ -127,8 +127,11 @@ void InstructionFileWalk::admit(const std::string &path, int depth, InstructionF
     // unreachable: only a network disk denies reading an open file
     if (seen->isReadDenied)
         m_findings->addUnreadable(repairedUtf8(path));
+    if (depth == m_maxImportDepth)
+        return;
     for (const std::string &token : seen->importTokens) {
-        if (depth == m_maxImportDepth || m_findings->isStopped())
+        // rarely taken: the time is up between two imports
+        if (m_findings->isStopped())
             return;
         admit(importTarget(token, path), depth + 1, origin);
     }
