@@ -113,7 +113,7 @@ std::optional<std::string> ScanReport::zeroTotalNote() const
 {
     if (total != 0)
         return std::nullopt;
-    return "This session took nothing in; a hook may have blocked its prompt.";
+    return "This session received no tokens; a hook may have blocked its prompt.";
 }
 
 std::optional<std::string> ScanReport::unreadableFilesNote() const

@@ -34,7 +34,7 @@ Item {
 
         function test_aTotalOfZeroHasALineThatSaysWhy() {
             const card = createTemporaryObject(cards, scene);
-            const words = "This session took nothing in; a hook may have blocked its prompt.";
+            const words = "This session received no tokens; a hook may have blocked its prompt.";
             verify(!label(card, words));
             sample.total = 0;
             verify(label(card, words));

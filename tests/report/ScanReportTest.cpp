@@ -353,7 +353,7 @@ TEST(ScanReportTest, explainsATotalOfZero)
     }
     report.total = 0;
     EXPECT_EQ(report.zeroTotalNote(),
-              "This session took nothing in; a hook may have blocked its prompt.");
+              "This session received no tokens; a hook may have blocked its prompt.");
 }
 
 TEST(ScanReportTest, classifiesTheTotal)

@@ -50,7 +50,7 @@ private Q_SLOTS:
         m_presenter->show(reportOf(0));
         QCOMPARE(
             m_presenter->zeroNote(),
-            QStringLiteral("This session took nothing in; a hook may have blocked its prompt."));
+            QStringLiteral("This session received no tokens; a hook may have blocked its prompt."));
         m_presenter->show(reportOf(1));
         QCOMPARE(m_presenter->zeroNote(), QString());
     }
