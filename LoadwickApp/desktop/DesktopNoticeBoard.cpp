@@ -65,7 +65,9 @@ void DesktopNoticeBoard::begin(const QDBusConnection &bus)
         m_bus->connect(service, path, interface, QStringLiteral("ActivationToken"), this,
                        SLOT(followToken(QDBusMessage)));
     }
-    askWhoItIs();
+    // Answers come in the order of the questions, and the last one sends the notice.
+    askForServer();
+    askForCapabilities();
 }
 
 void DesktopNoticeBoard::call(const QString &method, const QVariantList &arguments,
@@ -84,11 +86,10 @@ void DesktopNoticeBoard::call(const QString &method, const QVariantList &argumen
 }
 
 // GNOME Shell gives no token to raise the window with, but raises it itself if there is no action.
-void DesktopNoticeBoard::askWhoItIs()
+void DesktopNoticeBoard::askForServer()
 {
     call(QStringLiteral("GetServerInformation"), {}, [this](const QDBusMessage &answer) {
         m_raisesWindows = answer.arguments().constFirst() == QLatin1String("gnome-shell");
-        askForCapabilities();
     });
 }
 

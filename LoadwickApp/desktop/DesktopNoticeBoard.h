@@ -41,7 +41,7 @@ private:
     void connectInBackground();
     void begin(const QDBusConnection &bus);
     void call(const QString &method, const QVariantList &arguments, const Answered &answered);
-    void askWhoItIs();
+    void askForServer();
     void askForCapabilities();
     void send();
     void take(quint32 identifier);
