@@ -56,6 +56,8 @@ SplitView {
 
         SplitView.preferredWidth: AppTheme.scaled(250)
         SplitView.minimumWidth: AppTheme.scaled(220)
+        // A window that narrows takes its width from a wide sidebar, not from the page.
+        SplitView.maximumWidth: Math.max(sidebar.SplitView.minimumWidth, view.width - AppTheme.detailMinimumWidth - AppTheme.hairline)
         content: view.content
     }
 

@@ -91,6 +91,23 @@ private Q_SLOTS:
         }
     }
 
+    void aWideSidebarLeavesThePageItsWidth()
+    {
+        QQuickWindow &window = m_window->loadwick().window();
+        window.resize(1500, 780);
+        auto *scan = qobject_cast<QQuickItem *>(m_window->find(QStringLiteral("Scan"))->object());
+        const auto right = [scan] { return qRound(scan->mapToScene({scan->width(), 0}).x()); };
+        QTRY_VERIFY(right() > 1400);
+        // The divider, to the right as far as it goes.
+        QTest::mousePress(&window, Qt::LeftButton, {}, {250, 400});
+        QTest::mouseMove(&window, {600, 400});
+        QTest::mouseMove(&window, {1499, 400});
+        QTest::mouseRelease(&window, Qt::LeftButton, {}, {1499, 400});
+        window.resize(960, 640);
+        QTRY_COMPARE(window.width(), 960);
+        QTRY_VERIFY2(right() <= 960, qPrintable(QString::number(right())));
+    }
+
     void saysWhatAScanCostsBeforeTheFirstOne()
     {
         const QString disclosure = m_window->loadwick().content().allowanceDisclosure();
