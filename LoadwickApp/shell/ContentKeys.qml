@@ -56,7 +56,11 @@ Item {
     }
 
     visible: false
-    Window.onActiveFocusItemChanged: keys.noteStop()
+    // A page can also be hidden while a dialog has the keyboard.
+    Window.onActiveFocusItemChanged: {
+        keys.leaveHiddenPage();
+        keys.noteStop();
+    }
 
     Shortcut {
         sequences: ["F6", "Shift+F6"]

@@ -85,6 +85,22 @@ private Q_SLOTS:
         QVERIFY(column(focused()) > 250);
     }
 
+    void theKeyboardLeavesAPageThatWasHiddenBehindADialog()
+    {
+        scan();
+        m_window->press(Qt::Key_F6);
+        QQuickWindow &window = m_window->loadwick().window();
+        QQuickWindow dialog;
+        dialog.show();
+        dialog.requestActivate();
+        QTRY_VERIFY(window.activeFocusItem() == nullptr);
+        m_window->loadwick().content().setPageIndex(1);
+        dialog.close();
+        window.requestActivate();
+        QTRY_VERIFY(focused() != nullptr);
+        QCOMPARE(focusedName(), currentPage());
+    }
+
     // Elsewhere the page takes these keys.
     void homeAndEndReachTheFirstAndTheLastPage()
     {
