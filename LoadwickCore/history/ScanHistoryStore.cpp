@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <chrono>
 #include <exception>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <thread>
@@ -109,20 +108,16 @@ std::vector<RecordedScan> ScanHistoryStore::load() const
 }
 
 std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan,
-                                                   std::vector<RecordedScan> known)
+                                                   const std::vector<RecordedScan> &known)
 {
     std::optional<std::vector<RecordedScan>> recorded = recordedScans();
     const bool isRead = recorded.has_value();
-    ScanHistoryFile file{.version = schemaVersion, .scans = std::move(isRead ? *recorded : known)};
-    if (isRead)
-        std::ranges::move(std::exchange(m_unwritten, {}), std::back_inserter(file.scans));
+    ScanHistoryFile file{.version = schemaVersion, .scans = isRead ? std::move(*recorded) : known};
     file.scans.push_back(scan);
     order(file.scans);
     keepNewest(file.scans);
     if (isRead)
         write(file);
-    else
-        m_unwritten.push_back(scan);
     return std::move(file.scans);
 }
 
@@ -153,7 +148,6 @@ void ScanHistoryStore::write(ScanHistoryFile &file) const
 
 void ScanHistoryStore::clear()
 {
-    m_unwritten.clear();
     try {
         AtomicFile::remove(m_fileURL);
     } catch (const std::exception &) {

@@ -14,7 +14,7 @@ namespace Loadwick {
 
 struct ScanHistoryFile;
 
-/// Owns the history file. Every call reads it. Reports no error: an
+/// Owns the history file. Caches nothing: every call reads the file. Reports no error: an
 /// unreadable history is an empty one, and a failed write leaves the old file. A transient shortage
 /// (memory, descriptors) does not count as unreadable. A history file that is a link is read and
 /// written through it. Belongs to the interface thread. Programs are not synchronised with each
@@ -47,11 +47,11 @@ public:
     /// Adds a scan, keeps the newest `maximumScans` and of those what `maximumBytes` can hold (see
     /// `ScanHistoryFile::encodedWithin`), writes the file and returns the new list, whether or not
     /// writing succeeded. While a transient shortage keeps the recorded scans from being read,
-    /// nothing is written, and `known` takes their place in the list; the first `append` after it
-    /// writes the scans of the shortage too. Throws `std::bad_alloc`, and leaves the old file, when
-    /// there is no memory for the list itself.
+    /// nothing is written, and `known` takes their place in the list. A scan that was left out when
+    /// the file was read is not written again. Throws `std::bad_alloc`, and
+    /// leaves the old file, when there is no memory for the list itself.
     [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan,
-                                                   std::vector<RecordedScan> known = {});
+                                                   const std::vector<RecordedScan> &known = {});
 
     /// Deletes the file. When that is a link, deletes its target and keeps the link, so that the
     /// next scan is recorded there again. Never fails, and never removes a folder.
@@ -64,7 +64,6 @@ private:
 
     std::filesystem::path m_directory;
     std::filesystem::path m_fileURL;
-    std::vector<RecordedScan> m_unwritten; ///< scans of a shortage
 };
 
 } // namespace Loadwick

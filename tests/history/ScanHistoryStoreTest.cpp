@@ -308,29 +308,6 @@ TEST_F(ScanHistoryStoreTest, recordsNothingDuringALastingShortage)
     EXPECT_EQ(store.load(), known);
 }
 
-TEST_F(ScanHistoryStoreTest, recordsTheScansOfAShortageAfterIt)
-{
-    static_cast<void>(store.append(scanAt(0)));
-    {
-        const DescriptorShortage shortage;
-        static_cast<void>(store.append(scanAt(1)));
-    }
-    EXPECT_EQ(store.append(scanAt(2)).size(), 3U);
-    EXPECT_EQ(store.append(scanAt(3)).size(), 4U);
-    EXPECT_EQ(store.load().size(), 4U);
-}
-
-TEST_F(ScanHistoryStoreTest, forgetsTheScansOfAShortageWhenCleared)
-{
-    static_cast<void>(store.append(scanAt(0)));
-    {
-        const DescriptorShortage shortage;
-        static_cast<void>(store.append(scanAt(1)));
-    }
-    store.clear();
-    EXPECT_EQ(store.append(scanAt(2)).size(), 1U);
-}
-
 TEST_F(ScanHistoryStoreTest, prefersTheFileToWhatIsKnown)
 {
     static_cast<void>(store.append(scanAt(1)));
