@@ -30,7 +30,7 @@ public:
     /// addresses, not memory.
     void reserveForAnswer(std::size_t byteCount);
 
-    /// Adds a slab whose name is `words`, joined by single blanks.
+    /// Adds a slab whose name is `words`, joined by single spaces.
     void add(std::string_view words, std::int64_t tokens);
 
     [[nodiscard]] std::size_t size() const noexcept { return m_slabs.size(); }
@@ -69,7 +69,7 @@ struct AnswerLines
 
 /// Reads lines of the form "SLAB <category name> TOKENS <integer>" out of a session's answer.
 /// Lenient about decoration (bullets, quotes, backticks, letter case, digit grouping), strict about
-/// the rest: a line that does not fit is no slab, and no error.
+/// the rest: a line that does not fit is neither a slab nor an error.
 namespace Loadwick::SlabParser {
 
 struct Answer
