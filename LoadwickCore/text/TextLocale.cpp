@@ -68,7 +68,11 @@ std::string icuName(std::string_view value)
         return std::string(english);
     if (const std::string_view script = scriptOf(value); !script.empty())
         name.append("_").append(script);
-    const icu::Locale locale(name.append(region.substr(languageEnd)).c_str());
+    name.append(region.substr(languageEnd));
+    // What becomes of a longer name differs between versions of ICU.
+    if (name.size() >= ULOC_FULLNAME_CAPACITY)
+        return std::string(english);
+    const icu::Locale locale(name.c_str());
     // The base name excludes settings, such as a numbering system that does not exist.
     return isKnown(locale) ? std::string(locale.getBaseName()) : std::string(english);
 }
