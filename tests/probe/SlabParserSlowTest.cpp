@@ -1,6 +1,9 @@
 // Peak memory, which is meaningless under a sanitizer.
 #include "probe/SlabParser.h"
 
+#include <array>
+#include <cstdint>
+#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -22,6 +25,22 @@ std::string repeated(std::string_view line, std::string_view lineBreak)
     std::string text;
     for (text.reserve(size + line.size() + lineBreak.size()); text.size() < size;)
         text.append(line).append(lineBreak);
+    return text;
+}
+
+/// 64 MiB of lines with names of many scripts and any length, some of which are no slabs.
+std::string randomAnswer(std::uint32_t seed)
+{
+    constexpr std::array<std::string_view, 8> pieces{
+        "a", " ", "é", "कि", "🗂️", "1\uFE0F\u20E3", "\uFEFF", "`"};
+    std::mt19937 random(seed);
+    std::string text;
+    for (text.reserve(size + 1'000); text.size() < size; text += '\n') {
+        text += random() % 5 == 0 ? "" : "SLAB ";
+        for (auto left = random() % 40; left > 0; --left)
+            text += pieces.at(random() % pieces.size());
+        text.append(" TOKENS ").append(std::to_string(random() % 100'000));
+    }
     return text;
 }
 
@@ -49,6 +68,16 @@ TEST(SlabParserSlowTest, takesLittleMoreMemoryThanTheAnswer)
         const PeakMemory memory;
         EXPECT_EQ(SlabParser::parse(answer).empty(), line == "No slab.");
         EXPECT_LT(memory.growthInBytes(), answer.size() + answer.size() / 5) << line.substr(0, 20);
+    }
+}
+
+TEST(SlabParserSlowTest, takesLittleMoreMemoryThanARandomAnswer)
+{
+    for (const std::uint32_t seed : {1U, 2U, 3U, 4U}) {
+        const std::string answer = randomAnswer(seed);
+        const PeakMemory memory;
+        EXPECT_FALSE(SlabParser::parse(answer).empty());
+        EXPECT_LT(memory.growthInBytes(), answer.size() + answer.size() / 5) << seed;
     }
 }
 

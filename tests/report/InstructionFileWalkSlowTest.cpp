@@ -13,11 +13,11 @@ namespace Loadwick {
 namespace {
 
 /// Nearly 4 MB of imports, every one of another file.
-std::string manyImports()
+std::string manyImports(std::string_view folder)
 {
     std::string text;
     for (int number = 1'000'000; text.size() < 3'990'000; ++number)
-        text.append("@").append(std::to_string(number)).append("\n");
+        text.append("@").append(folder).append(std::to_string(number)).append("\n");
     return text;
 }
 
@@ -30,7 +30,7 @@ TEST(InstructionFileWalkSlowTest, keepsNoImportsThatAreTooDeep)
     std::string imports;
     for (int number = 0; number < fileCount; ++number) {
         const std::string name = "f" + std::to_string(number) + ".md";
-        folder.write("repository/" + name, manyImports());
+        folder.write("repository/" + name, manyImports(number % 2 == 0 ? "" : "ж/🗂️/"));
         imports.append("@").append(name).append("\n");
     }
     folder.write("repository/CLAUDE.md", imports);
