@@ -123,6 +123,14 @@ TEST(DeathWatchTest, leavesTheChildrenOfALivingProgramAlone)
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.2)));
 }
 
+TEST(DeathWatchTest, leavesTheEndOfAChildToALivingProgram)
+{
+    const auto shutdown = std::make_shared<Shutdown>(std::make_unique<DeathWatch>(0));
+    ChildProcess child = startHostileChild({"trap-term", "7"}, shutdown);
+    child.signalGroup(SIGTERM);
+    EXPECT_EQ(child.reap(), (ChildProcess::Ending{7, false}));
+}
+
 TEST(DeathWatchTest, forgetsARemovedGroup)
 {
     const ChildProcess child = startHostileChild({"ignore-term"});
