@@ -6,6 +6,7 @@
 #include "probe/ProbeError.h"
 #include "probe/ProbeRunner.h"
 #include "samples/TemporaryFolder.h"
+#include "support/ProbeSettings.h"
 #include "support/Stopwatch.h"
 
 namespace Loadwick {
@@ -46,15 +47,9 @@ std::optional<ProbeError> errorOf(const Run &run)
 {
     const TemporaryFolder folder;
     folder.writeScript(".local/bin/claude", "#!/bin/sh\n" + run.script);
-    ProbeRunner::Settings settings;
-    settings.home = folder.path().string();
-    settings.projectsRoot = folder.path() / "projects";
-    settings.environment = {{"PATH", "/usr/bin:/bin"}};
-    settings.workingDirectory = folder.path();
-    settings.lookup = {ClaudeCLILocator::isExecutableFile, [] { return std::nullopt; }};
+    ProbeRunner::Settings settings = probeSettingsIn(folder.path());
     settings.fileSystem = run.fileSystem;
     settings.shutdown = run.shutdown;
-    settings.transcriptRetries = 2;
     settings.transcriptRetryDelay = run.transcriptRetryDelay;
     settings.transcriptSearchSeconds = run.transcriptSearchSeconds;
     settings.limits.timeoutSeconds = run.timeoutSeconds;

@@ -2,31 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include "posix/FileSystem.h"
 #include "probe/ProbeError.h"
 #include "samples/TemporaryFolder.h"
 #include "support/EnumerationNames.h"
+#include "support/ProbeSettings.h"
 #include "support/Stopwatch.h"
 
 namespace Loadwick {
 
 namespace {
 
-// A home of its own with a command that is a small script; nothing else on the machine is visible.
+// A home of its own with a command that is a small script.
 class Setting
 {
 public:
     Setting()
     {
-        settings.home = folder.path().string();
-        settings.projectsRoot = folder.path() / "projects";
-        settings.environment = {{"PATH", "/usr/bin:/bin"}, {"ROOT", folder.path().string()}};
-        settings.workingDirectory = folder.path();
-        settings.lookup = {ClaudeCLILocator::isExecutableFile, [] { return std::nullopt; }};
-        settings.fileSystem = std::make_shared<PosixFileSystem>();
+        settings = probeSettingsIn(folder.path());
+        settings.environment["ROOT"] = folder.path().string();
         settings.shutdown = std::make_shared<Shutdown>();
-        settings.transcriptRetries = 2;
-        settings.transcriptRetryDelay = 0.01;
         settings.limits.timeoutSeconds = 30;
         settings.limits.killGraceSeconds = 0.2;
         settings.limits.readerGraceSeconds = 0.2;

@@ -8,9 +8,9 @@
 
 #include <gtest/gtest.h>
 
-#include "posix/FileSystem.h"
 #include "probe/ProbeRunner.h"
 #include "samples/TemporaryFolder.h"
+#include "support/ProbeSettings.h"
 #include "support/ProcessMemory.h"
 
 namespace Loadwick {
@@ -42,19 +42,6 @@ std::string randomAnswer(std::uint32_t seed)
         text.append(" TOKENS ").append(std::to_string(random() % 100'000));
     }
     return text;
-}
-
-ProbeRunner::Settings settingsIn(const TemporaryFolder &folder)
-{
-    ProbeRunner::Settings settings;
-    settings.home = folder.path().string();
-    settings.projectsRoot = folder.path() / "projects";
-    settings.environment = {{"PATH", "/usr/bin:/bin"}};
-    settings.workingDirectory = folder.path();
-    settings.lookup = {ClaudeCLILocator::isExecutableFile, [] { return std::nullopt; }};
-    settings.fileSystem = std::make_shared<PosixFileSystem>();
-    settings.transcriptRetries = 1;
-    return settings;
 }
 
 } // namespace
@@ -90,7 +77,7 @@ TEST(SlabParserSlowTest, takesTwiceTheMemoryOfTheOutputInAWholeRun)
     folder.writeScript(".local/bin/claude",
                        "#!/bin/sh\ncat '" + folder.path().string() + "/record'\n");
     const PeakMemory memory;
-    const ProbeResult result = ProbeRunner(settingsIn(folder)).run(folder.path());
+    const ProbeResult result = ProbeRunner(probeSettingsIn(folder.path())).run(folder.path());
     EXPECT_GT(result.selfReportedSlabs.size(), size / 18);
     EXPECT_LT(memory.growthInBytes(), size * 22 / 10);
 }

@@ -4,6 +4,16 @@
 
 namespace Loadwick {
 
+namespace {
+
+/// The locale of figures where LANG has that value.
+std::string numbers(const char *value)
+{
+    return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
+}
+
+} // namespace
+
 TEST(TextLocaleTest, isEnglishWithoutAnyVariable)
 {
     EXPECT_EQ(TextLocale::fromEnvironment({}), TextLocale());
@@ -40,9 +50,6 @@ TEST(TextLocaleTest, countsTheCLocaleAsEnglish)
 
 TEST(TextLocaleTest, turnsAModifierIntoAScript)
 {
-    const auto numbers = [](const char *value) {
-        return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
-    };
     EXPECT_EQ(numbers("sr_RS@latin"), "sr_Latn_RS");
     EXPECT_EQ(numbers("sr_RS.UTF-8@latin"), "sr_Latn_RS");
     EXPECT_EQ(numbers("uz_UZ.UTF-8@cyrillic"), "uz_Cyrl_UZ");
@@ -60,9 +67,6 @@ TEST(TextLocaleTest, isEnglishWhereIcuKnowsNothing)
 
 TEST(TextLocaleTest, keepsWhatIcuKnowsOfAName)
 {
-    const auto numbers = [](const char *value) {
-        return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
-    };
     EXPECT_EQ(numbers("de_ZZ"), "de_ZZ");
     EXPECT_EQ(numbers("es_419"), "es_419");
     EXPECT_EQ(numbers("zh_Hans_CN.UTF-8"), "zh_Hans_CN");
@@ -74,9 +78,6 @@ TEST(TextLocaleTest, keepsWhatIcuKnowsOfAName)
 
 TEST(TextLocaleTest, acceptsOnlyTwoOrThreeLettersAsALanguage)
 {
-    const auto numbers = [](const char *value) {
-        return TextLocale::fromEnvironment({{"LANG", value}}).numbers;
-    };
     EXPECT_EQ(numbers("fil_PH"), "fil_PH");
     EXPECT_EQ(numbers("DE"), "de");
     for (const char *value : {"d1", "12", "@de", "d~", "d[", "abcd"})

@@ -31,11 +31,11 @@ void StandInNotifications::press(uint identifier, const QString &token)
 }
 
 QString StandInNotifications::GetServerInformation(QString &vendor, QString &version,
-                                                   QString &specification)
+                                                   QString &protocol)
 {
     vendor = QStringLiteral("none");
     version = QStringLiteral("1");
-    specification = QStringLiteral("1.2");
+    protocol = QStringLiteral("1.2");
     return server;
 }
 

@@ -39,7 +39,7 @@ public:
     void answer();
 
 public Q_SLOTS:
-    QString GetServerInformation(QString &vendor, QString &version, QString &specification);
+    QString GetServerInformation(QString &vendor, QString &version, QString &protocol);
     QStringList GetCapabilities() { return capabilities; }
     // NOLINTNEXTLINE(readability-function-size): the interface's signature
     uint Notify(const QString &application, uint replaced, const QString &icon,
