@@ -55,6 +55,10 @@ class Display:
             process.terminate()
             process.wait(LIMIT_SECONDS)
 
+    def kill_server(self) -> None:
+        """Kills the X server, which ends the display for good."""
+        self._processes[0].kill()
+
     def _start(self, command: list[str], descriptors: tuple[int, ...] = ()) -> None:
         nobody = {"HOME": "/nonexistent", "XDG_CONFIG_HOME": "/nonexistent"}
         self._processes.append(
