@@ -81,24 +81,11 @@ public:
     bool take(const RecordedScan &scan);
 
 private:
-    /// Positive and negative tokens apart, so that every part of them fits too.
-    struct Tokens
-    {
-        std::int64_t positive = 0;
-        std::int64_t negative = 0;
-    };
-
     struct Range
     {
         std::int64_t lowest;
         std::int64_t highest;
     };
-
-    std::int64_t &sumFor(const RecordedCategory &category)
-    {
-        Tokens &tokens = m_categories[category.name];
-        return category.tokens > 0 ? tokens.positive : tokens.negative;
-    }
 
     Range totalsWith(const RecordedScan &scan) const
     {
@@ -109,28 +96,30 @@ private:
         return {std::min(lowest, scan.total), std::max(highest, scan.total)};
     }
 
-    std::unordered_map<std::string_view, Tokens> m_categories;
+    /// The tokens of every category without their signs: no sum of some of them, and no difference
+    /// of two such sums, is larger. Nothing when they do not fit.
+    std::optional<std::int64_t> magnitudeWith(const RecordedScan &scan) const
+    {
+        std::int64_t magnitude = m_magnitude;
+        for (const auto &[name, tokens] : scan.categories)
+            if (tokens < 0 ? __builtin_sub_overflow(magnitude, tokens, &magnitude)
+                           : __builtin_add_overflow(magnitude, tokens, &magnitude))
+                return std::nullopt;
+        return magnitude;
+    }
+
+    std::int64_t m_magnitude = 0;
     std::unordered_map<std::string_view, Range> m_totals; ///< by repository
 };
 
 bool Sums::take(const RecordedScan &scan)
 {
     const Range totals = totalsWith(scan);
-    std::int64_t result = 0;
-    if (__builtin_sub_overflow(totals.highest, totals.lowest, &result))
+    const auto magnitude = magnitudeWith(scan);
+    std::int64_t spread = 0;
+    if (!magnitude || __builtin_sub_overflow(totals.highest, totals.lowest, &spread))
         return false;
-    const auto &categories = scan.categories;
-    for (auto category = categories.begin(); category != categories.end(); ++category) {
-        std::int64_t &sum = sumFor(*category);
-        if (__builtin_add_overflow(sum, category->tokens, &result)) {
-            while (category != categories.begin()) {
-                --category;
-                sumFor(*category) -= category->tokens;
-            }
-            return false;
-        }
-        sum = result;
-    }
+    m_magnitude = *magnitude;
     m_totals.insert_or_assign(scan.repositoryPath, totals);
     return true;
 }

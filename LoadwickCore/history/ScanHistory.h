@@ -43,7 +43,7 @@ struct LeaderboardEntry
 namespace Loadwick::ScanHistory {
 
 /// `scans` without those that would make a sum of the others overflow, which a file may hold. In
-/// the order of the list, a scan is left out when its tokens in a category do not fit 64 bits
+/// the order of the list, a scan is left out when the tokens of its categories do not fit 64 bits
 /// together with those of the scans before it, or its total differs too much from another one of
 /// its repository. No sum or difference over any of the rest, in any order, overflows.
 [[nodiscard]] std::vector<RecordedScan> summable(std::vector<RecordedScan> scans);

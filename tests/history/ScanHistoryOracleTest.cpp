@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <map>
 #include <random>
@@ -152,14 +153,13 @@ std::vector<std::string> slowCategoryAxis(const Scans &scans)
 /// numbers.
 bool isSummable(const Scans &scans)
 {
-    std::map<std::pair<std::string, bool>, long double> sums;
+    long double magnitude = 0;
     for (const RecordedScan &scan : scans)
         for (const RecordedCategory &category : scan.categories)
-            sums[{category.name, category.tokens < 0}] += category.tokens;
+            magnitude += std::abs(static_cast<long double>(category.tokens));
     const auto fits = [](long double value) { return value < 0x1p63L && value >= -0x1p63L; };
-    for (const auto &[key, sum] : sums)
-        if (!fits(sum))
-            return false;
+    if (!fits(magnitude))
+        return false;
     for (const RecordedScan &left : scans)
         for (const RecordedScan &right : scans)
             if (left.repositoryPath == right.repositoryPath &&
