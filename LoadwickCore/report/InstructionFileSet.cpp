@@ -1,5 +1,6 @@
 #include "report/InstructionFileSet.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -98,6 +99,19 @@ Files InstructionFileSet::allFiles() const
     for (const InstructionFileTier tier : InstructionFileTier::all)
         all.insert(all.end(), files(tier).begin(), files(tier).end());
     return all;
+}
+
+std::vector<std::string_view> InstructionFileSet::importChain(const std::string &path) const
+{
+    std::vector<std::string_view> chain;
+    for (auto step = importers.find(path); step != importers.end();
+         step = importers.find(step->second)) {
+        // Two names that are not UTF-8 can have one text, and lead around in a circle.
+        if (std::find(chain.begin(), chain.end(), step->second) != chain.end())
+            break;
+        chain.push_back(step->second);
+    }
+    return chain;
 }
 
 std::string_view InstructionFileSet::categoryName(InstructionFileTier tier) noexcept

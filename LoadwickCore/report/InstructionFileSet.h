@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "text/NamedValue.h"
@@ -73,6 +74,9 @@ struct InstructionFileSet
     std::vector<InstructionFileEstimate> inheritedFiles;
     std::vector<InstructionFileEstimate> personalFiles;
     std::vector<std::string> unreadablePaths; ///< ascending, each once
+    /// The file whose import led to a file first, by their paths. Nothing for a file that a session
+    /// looks for by itself.
+    std::unordered_map<std::string, std::string> importers = {};
 
     static const InstructionFileSet empty;
 
@@ -81,6 +85,10 @@ struct InstructionFileSet
 
     /// Repository, then inherited, then personal files.
     [[nodiscard]] std::vector<InstructionFileEstimate> allFiles() const;
+
+    /// Why a file is loaded: the file that imports it, the one that imports that, and so on up to
+    /// one that a session looks for by itself. Empty for such a file.
+    [[nodiscard]] std::vector<std::string_view> importChain(const std::string &path) const;
 
     /// The name of a tier's row in the breakdown.
     [[nodiscard]] static std::string_view categoryName(InstructionFileTier tier) noexcept;

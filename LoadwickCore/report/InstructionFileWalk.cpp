@@ -70,9 +70,12 @@ std::vector<std::string> importTokensOf(const std::string &content)
 
 } // namespace
 
-void InstructionFileFindings::add(InstructionFileTier tier, InstructionFileEstimate file)
+void InstructionFileFindings::add(InstructionFileTier tier, InstructionFileEstimate file,
+                                  std::string importer)
 {
     const std::lock_guard lock(m_mutex);
+    if (!importer.empty())
+        m_files.importers.emplace(file.path, std::move(importer));
     m_files.files(tier).push_back(std::move(file));
 }
 
@@ -102,18 +105,19 @@ InstructionFileWalk::InstructionFileWalk(const InstructionFileScanner::Settings 
 void InstructionFileWalk::run()
 {
     for (const char *name : {"CLAUDE.md", "CLAUDE.local.md", "AGENTS.md"})
-        admit(m_repository / name, 0, InstructionFileTier::inherited);
+        admit(m_repository / name, {0, InstructionFileTier::inherited});
     for (const std::filesystem::path &folder : ancestorFolders())
         for (const char *name : {"CLAUDE.md", "CLAUDE.local.md"})
-            admit(folder / name, 0, InstructionFileTier::inherited);
-    admit(m_home / ".claude/CLAUDE.md", 0, InstructionFileTier::personal);
+            admit(folder / name, {0, InstructionFileTier::inherited});
+    admit(m_home / ".claude/CLAUDE.md", {0, InstructionFileTier::personal});
 }
 
-void InstructionFileWalk::admit(const std::string &path, int depth, InstructionFileTier origin)
+void InstructionFileWalk::admit(const std::string &path, const Route &route)
 {
+    const int depth = route.depth;
     if (depth > m_maxImportDepth || m_findings->isStopped())
         return;
-    SeenFile *const seen = seenFile(path, depth, origin);
+    SeenFile *const seen = seenFile(path, route);
     if (seen == nullptr || seen->depth <= depth)
         return;
     // A shorter way to the file brings imports into reach that the depth limit cut off before.
@@ -133,12 +137,12 @@ void InstructionFileWalk::admit(const std::string &path, int depth, InstructionF
         // rarely taken: the time is up between two imports
         if (m_findings->isStopped())
             return;
-        admit(importTarget(token, path), depth + 1, origin);
+        admit(importTarget(token, path), {depth + 1, route.origin, path});
     }
 }
 
-InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &path, int depth,
-                                                             InstructionFileTier origin)
+InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &path,
+                                                             const Route &route)
 {
     const auto known = m_seenByPath.find(path);
     if (known != m_seenByPath.end())
@@ -149,7 +153,7 @@ InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &
     const InstructionFolders::Entry entry = m_folders.entryAt(path);
     auto seen = m_seen.find(entry.identityPath);
     if (seen == m_seen.end()) {
-        std::optional<SeenFile> file = countedFile(path, entry, depth, origin);
+        std::optional<SeenFile> file = countedFile(path, entry, route);
         if (!file)
             return nullptr;
         seen = m_seen.emplace(entry.identityPath, std::move(*file)).first;
@@ -159,7 +163,7 @@ InstructionFileWalk::SeenFile *InstructionFileWalk::seenFile(const std::string &
 
 std::optional<InstructionFileWalk::SeenFile>
 InstructionFileWalk::countedFile(const std::string &path, const InstructionFolders::Entry &entry,
-                                 int depth, InstructionFileTier origin)
+                                 const Route &route)
 {
     RegularFile::Failure failure;
     std::optional<RegularFile> file = InstructionFolders::opened(path, entry, failure);
@@ -168,10 +172,11 @@ InstructionFileWalk::countedFile(const std::string &path, const InstructionFolde
             m_findings->addUnreadable(repairedUtf8(path));
         return std::nullopt;
     }
-    m_findings->add(tierOf(path, origin),
-                    InstructionFileEstimate::fromPath(repairedUtf8(path), file->size()));
+    m_findings->add(tierOf(path, route.origin),
+                    InstructionFileEstimate::fromPath(repairedUtf8(path), file->size()),
+                    repairedUtf8(route.importer));
     SeenFile seen;
-    read(*file, depth, seen);
+    read(*file, route.depth, seen);
     return seen;
 }
 

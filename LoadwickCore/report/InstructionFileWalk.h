@@ -22,7 +22,8 @@ namespace Loadwick {
 class InstructionFileFindings
 {
 public:
-    void add(InstructionFileTier tier, InstructionFileEstimate file);
+    /// `importer` is the path of the file that imports this one; empty for one of the walk's own.
+    void add(InstructionFileTier tier, InstructionFileEstimate file, std::string importer = {});
     void addUnreadable(std::string path);
 
     /// A copy of everything so far.
@@ -56,6 +57,14 @@ public:
     void run();
 
 private:
+    /// How a file was reached.
+    struct Route
+    {
+        int depth;                  ///< imports on the way
+        InstructionFileTier origin; ///< the tier of a file that is not the repository's own
+        std::string_view importer = {};
+    };
+
     /// A file that has been counted, with what is needed to walk its imports again.
     struct SeenFile
     {
@@ -67,12 +76,11 @@ private:
 
     // Files are named by the text of their standardized path: making a path object costs as much as
     // opening a file.
-    void admit(const std::string &path, int depth, InstructionFileTier origin);
-    [[nodiscard]] SeenFile *seenFile(const std::string &path, int depth,
-                                     InstructionFileTier origin);
+    void admit(const std::string &path, const Route &route);
+    [[nodiscard]] SeenFile *seenFile(const std::string &path, const Route &route);
     [[nodiscard]] std::optional<SeenFile> countedFile(const std::string &path,
                                                       const InstructionFolders::Entry &entry,
-                                                      int depth, InstructionFileTier origin);
+                                                      const Route &route);
     void read(RegularFile &file, int depth, SeenFile &seen) const;
     [[nodiscard]] std::vector<std::filesystem::path> ancestorFolders() const;
     [[nodiscard]] InstructionFileTier tierOf(std::string_view path,

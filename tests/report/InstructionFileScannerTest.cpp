@@ -282,6 +282,24 @@ TEST_F(InstructionFileScannerTest, treatsAnImportWithANulAsMissing)
     EXPECT_EQ(ownFiles(), Paths{"CLAUDE.md"});
 }
 
+TEST_F(InstructionFileScannerTest, saysWhichImportLedToAFileFirst)
+{
+    writeOwn("CLAUDE.md", "@docs/style.md @AGENTS.md");
+    writeOwn("docs/style.md", "@tests.md @../CLAUDE.md");
+    writeOwn("docs/tests.md", "");
+    writeOwn("AGENTS.md", "@docs/tests.md");
+    const std::string top = root() / "CLAUDE.md";
+    const std::string style = root() / "docs/style.md";
+    const InstructionFileSet set = scanned();
+    EXPECT_EQ(set.importers, (std::unordered_map<std::string, std::string>{
+                                 {style, top},
+                                 {root() / "docs/tests.md", style},
+                                 {root() / "AGENTS.md", top},
+                             }));
+    EXPECT_EQ(set.importChain(root() / "docs/tests.md"),
+              (std::vector<std::string_view>{style, top}));
+}
+
 TEST_F(InstructionFileScannerTest, searchesAFileUpToTheLimitForImports)
 {
     constexpr auto limit = static_cast<std::size_t>(InstructionFileScanner::importSearchLimit);
@@ -309,6 +327,8 @@ TEST_F(InstructionFileScannerTest, showsReplacementCharactersInAnIllFormedName)
     folder.write("caf\xE9/a.md", "");
     const InstructionFileSet set = scanner().scanSynchronously(strange);
     EXPECT_EQ(pathsOf(set.repositoryFiles), (Paths{"caf\uFFFD/CLAUDE.md", "caf\uFFFD/a.md"}));
+    EXPECT_EQ(set.importChain(set.repositoryFiles.at(1).path),
+              std::vector<std::string_view>{set.repositoryFiles.at(0).path});
 }
 
 TEST_F(InstructionFileScannerTest, handlesManyImportsQuickly)

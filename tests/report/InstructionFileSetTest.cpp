@@ -94,6 +94,21 @@ TEST(InstructionFileSetTest, endsTheProgramWhenASumOverflows)
     EXPECT_DEATH((void)set.localCategories(), "does not fit 64 bits");
 }
 
+TEST(InstructionFileSetTest, followsTheImportsThatLeadToAFile)
+{
+    InstructionFileSet set;
+    set.importers = {{"/c", "/b"}, {"/b", "/a"}};
+    EXPECT_EQ(set.importChain("/c"), (std::vector<std::string_view>{"/b", "/a"}));
+    EXPECT_TRUE(set.importChain("/a").empty());
+}
+
+TEST(InstructionFileSetTest, endsAChainOfImportsThatComesBackToItself)
+{
+    InstructionFileSet set;
+    set.importers = {{"/a", "/b"}, {"/b", "/a"}};
+    EXPECT_EQ(set.importChain("/a"), (std::vector<std::string_view>{"/b", "/a"}));
+}
+
 TEST(InstructionFileSetTest, namesTheTiers)
 {
     expectNames<InstructionFileTier>({"repository", "inherited", "personal"});
