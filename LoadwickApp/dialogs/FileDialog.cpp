@@ -11,7 +11,6 @@
 #include <QTreeView>
 
 #include "base/FolderUrl.h"
-#include "dialogs/DialogLook.h"
 
 namespace Loadwick {
 namespace {
@@ -48,7 +47,6 @@ FileDialog::FileDialog(QWindow &window)
     windowHandle()->setTransientParent(&window);
     setAttribute(Qt::WA_DeleteOnClose);
     setOption(DontResolveSymlinks);
-    DialogLook::follow(window, *this);
     resize(firstSize);
     move(window.geometry().center() - rect().center());
 }

@@ -24,6 +24,7 @@
 #include "shell/RecentRepositories.h"
 #include "shell/ScanNotices.h"
 #include "text/Fatal.h"
+#include "theme/ApplicationLook.h"
 #include "theme/ApplicationStyle.h"
 #include "theme/DesktopAppearanceSource.h"
 #include "trends/TrendsPresenter.h"
@@ -152,6 +153,7 @@ void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatc
 void LoadwickWindow::makeWindow()
 {
     ApplicationStyle::addModulePath(m_engine);
+    ApplicationLook::follow(m_engine);
     QString failure;
     std::unique_ptr<QObject> made =
         qmlObject(m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml")),

@@ -4,26 +4,33 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QPalette>
 
+#include "theme/ApplicationLook.h"
 #include "theme/KdeAppearanceSource.h"
 
 namespace Loadwick {
+namespace {
 
-PaletteAppearanceSource::PaletteAppearanceSource(QObject *parent) : AppearanceSource(parent)
+bool isDesktopDark()
+{
+    return ApplicationLook::desktopGround().lightness() < 128;
+}
+
+} // namespace
+
+PaletteAppearanceSource::PaletteAppearanceSource(QObject *parent)
+    : AppearanceSource(parent), m_isDark(isDesktopDark())
 {
     qGuiApp->installEventFilter(this);
 }
 
-DesktopPreferences PaletteAppearanceSource::preferences() const
-{
-    return {.dark = QGuiApplication::palette().window().color().lightness() < 128};
-}
-
 bool PaletteAppearanceSource::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
-        Q_EMIT changed();
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange) {
+        const bool wasDark = std::exchange(m_isDark, isDesktopDark());
+        if (wasDark != m_isDark)
+            Q_EMIT changed();
+    }
     return AppearanceSource::eventFilter(watched, event);
 }
 

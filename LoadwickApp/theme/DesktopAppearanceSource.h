@@ -9,7 +9,7 @@
 
 namespace Loadwick {
 
-/// Derives dark or light from the application's palette: a window darker than middle grey is dark.
+/// Derives dark or light from the desktop's palette: a window darker than middle grey is dark.
 /// A palette says nothing about motion or contrast.
 class PaletteAppearanceSource : public AppearanceSource
 {
@@ -18,8 +18,11 @@ class PaletteAppearanceSource : public AppearanceSource
 public:
     explicit PaletteAppearanceSource(QObject *parent = nullptr);
 
-    [[nodiscard]] DesktopPreferences preferences() const override;
+    [[nodiscard]] DesktopPreferences preferences() const override { return {.dark = m_isDark}; }
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool m_isDark;
 };
 
 /// Combines several sources: each preference comes from the first source that has it.
