@@ -78,7 +78,7 @@ InstructionFileSet fewFiles(const std::string &repository)
             .unreadablePaths = {}};
 }
 
-/// Eleven files in all tiers, and one that is unreadable.
+/// Eleven files in all tiers, three of them imported, and one that is unreadable.
 InstructionFileSet someFiles(const std::string &repository)
 {
     return {.repositoryFiles = below(repository, {{"CLAUDE.md", 9'840},
@@ -92,7 +92,11 @@ InstructionFileSet someFiles(const std::string &repository)
                                                     {"rules/commit-messages.md", 1'115},
                                                     {"rules/review.md", 2'380},
                                                     {"rules/style.md", 1'302}}),
-            .unreadablePaths = {repository + "/.claude/rules/secrets.md"}};
+            .unreadablePaths = {repository + "/.claude/rules/secrets.md"},
+            .importers = {
+                {repository + "/.claude/rules/api.md", repository + "/CLAUDE.md"},
+                {repository + "/docs/agents/glossary.md", repository + "/.claude/rules/api.md"},
+                {personalFolder + "/rules/review.md", personalFolder + "/CLAUDE.md"}}};
 }
 
 /// 31 files of very different sizes, one of them deep down. One path of each tier is unreadable,

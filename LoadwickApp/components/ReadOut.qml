@@ -10,10 +10,13 @@ Item {
     // Empty while there is no current mark.
     required property string title
     required property string detail
+    // A third, quieter text, which is cut if it takes too many lines.
+    property string note: ""
     // A path that takes too many lines is elided in the middle, on one line.
     property bool isPath: false
     property int titleLines: 3
     property int detailLines: 1
+    property int noteLines: 0
     // At the top, beside a tall neighbour; else centred.
     property bool atTop: false
     // The colour of the mark in the chart.
@@ -30,7 +33,7 @@ Item {
     readonly property real lineHeight: Math.ceil(metrics.ascent) + Math.ceil(metrics.descent)
 
     implicitWidth: 320
-    implicitHeight: (titleLines + detailLines) * lineHeight + 2 * AppTheme.smallSpace + AppTheme.tightSpace
+    implicitHeight: (titleLines + detailLines + noteLines) * lineHeight + 2 * AppTheme.smallSpace + AppTheme.tightSpace
 
     FontMetrics { id: metrics; font: AppTheme.bodyStrongFont }
 
@@ -106,6 +109,17 @@ Item {
                 wrapMode: Text.Wrap
                 maximumLineCount: readOut.detailLines
                 elide: Text.ElideRight
+            }
+            PlainLabel {
+                objectName: "note"
+                width: Math.min(Math.ceil(implicitWidth), readOut.room)
+                text: readOut.note
+                font: AppTheme.captionFont
+                secondary: true
+                wrapMode: Text.Wrap
+                maximumLineCount: Math.max(1, readOut.noteLines)
+                elide: Text.ElideRight
+                visible: readOut.note.length > 0
             }
         }
     }

@@ -12,6 +12,8 @@ Item {
     required property string amount
     required property string share
     required property bool isReadable
+    required property string importer
+    required property string chain
     required property string words
 
     Accessible.role: Accessible.ListItem
@@ -52,6 +54,23 @@ Item {
                 elide: Text.ElideRight
 
                 HoverTip { words: bytes.truncated ? bytes.text : "" }
+            }
+            PlainLabel {
+                id: reason
+
+                objectName: "importer"
+                Layout.fillWidth: true
+                text: row.importer
+                font: AppTheme.captionFont
+                secondary: true
+                elide: Text.ElideMiddle
+                maximumLineCount: 1
+                visible: row.importer.length > 0
+
+                HoverTip {
+                    objectName: "tip"
+                    words: reason.truncated || row.chain !== row.importer ? row.chain : ""
+                }
             }
         }
         ColumnLayout {

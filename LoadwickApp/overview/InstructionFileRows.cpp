@@ -10,6 +10,8 @@
 namespace Loadwick {
 namespace {
 
+constexpr QLatin1String separator(", ");
+
 QString nameOf(const ListedFile &file)
 {
     return qtText(file.path.substr(file.path.find_last_of('/') + 1));
@@ -33,6 +35,10 @@ InstructionFileRows::InstructionFileRows()
           {"figures", std::bind_front(&InstructionFileRows::figures, this)},
           {"weight", weightOf},
           {"isReadable", [](const ListedFile &file) { return file.estimate != nullptr; }},
+          {"importer",
+           [this](const ListedFile &file) { return imports(file, &shownPath).value(0); }},
+          {"chain",
+           [this](const ListedFile &file) { return imports(file, &shownPath).join(separator); }},
           {"words", std::bind_front(&InstructionFileRows::words, this)},
       })
 {}
@@ -76,11 +82,21 @@ QString InstructionFileRows::figures(const ListedFile &file) const
                                     : QString();
 }
 
+// The importer of the file, the importer's importer and so on.
+QStringList InstructionFileRows::imports(const ListedFile &file, PathAsText pathAsText) const
+{
+    QStringList steps;
+    for (const std::string_view importer : m_context.files->importChain(std::string(file.path)))
+        steps.append(tr("imported by %1").arg(pathAsText(m_context.folders.shortPath(importer))));
+    return steps;
+}
+
 QString InstructionFileRows::words(const ListedFile &file) const
 {
-    const QString path = qtText(file.path);
-    return file.estimate != nullptr ? tr("%1. %2. %3.").arg(path, figures(file), size(file))
-                                    : tr("%1. %2.").arg(path, size(file));
+    QStringList sentences = {qtText(file.path), figures(file), size(file),
+                             imports(file, &qtText).join(separator)};
+    sentences.removeAll(QString());
+    return sentences.join(QLatin1String(". ")) + QLatin1Char('.');
 }
 
 QString InstructionFileRows::grouped(std::int64_t number) const

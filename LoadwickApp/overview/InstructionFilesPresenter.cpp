@@ -46,26 +46,18 @@ void InstructionFilesPresenter::show(const ScanReport &report)
 {
     const InstructionFileRows::Context context{
         .files = std::make_shared<const InstructionFileSet>(report.fileSet),
+        .folders = TierFolders(report.repositoryPath, m_home),
         .total = report.total,
         .locale = m_locale};
-    auto tiers = ListedFile::byTier(*context.files, TierFolders(report.repositoryPath, m_home));
+    auto tiers = ListedFile::byTier(*context.files, context.folders);
     m_repositoryRows.show(context, std::move(tiers[InstructionFileTier::repository]));
     m_inheritedRows.show(context, std::move(tiers[InstructionFileTier::inherited]));
     m_personalRows.show(context, std::move(tiers[InstructionFileTier::personal]));
     m_note = qtText(report.unreportedCategoryFilesNote().value_or(""));
+    m_hasImports = !context.files->importers.empty();
+    m_largestRows.show(context, ListedFile::largest(*context.files, largestCount));
     showSizes(context);
-    showLargest(report);
     Q_EMIT changed();
-}
-
-void InstructionFilesPresenter::showLargest(const ScanReport &report)
-{
-    // Keeps only the few files shown.
-    const auto shown = std::make_shared<InstructionFileSet>();
-    for (const ListedFile &file : ListedFile::largest(report.fileSet, largestCount))
-        shown->repositoryFiles.push_back(*file.estimate);
-    m_largestRows.show({.files = shown, .total = report.total, .locale = m_locale},
-                       ListedFile::allReadable(*shown));
 }
 
 void InstructionFilesPresenter::showSizes(const InstructionFileRows::Context &context)

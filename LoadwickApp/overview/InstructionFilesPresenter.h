@@ -20,6 +20,7 @@ class InstructionFilesPresenter final : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window.")
     Q_PROPERTY(QString note READ note NOTIFY changed)
+    Q_PROPERTY(bool hasImports READ hasImports NOTIFY changed)
     Q_PROPERTY(QString sizeSummary READ sizeSummary NOTIFY changed)
     Q_PROPERTY(bool hasSizes READ hasSizes NOTIFY changed)
     Q_PROPERTY(Loadwick::RowList *tiles READ tiles CONSTANT)
@@ -39,6 +40,9 @@ public:
     /// What the files mean to a session that reported no categories; else empty.
     [[nodiscard]] QString note() const { return m_note; }
 
+    /// Whether a file was reached by an import.
+    [[nodiscard]] bool hasImports() const noexcept { return m_hasImports; }
+
     /// The treemap in one sentence or two, for a screen reader; empty without a tile.
     [[nodiscard]] QString sizeSummary() const { return m_sizeSummary; }
     /// Whether there is a tile to draw.
@@ -56,12 +60,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void showLargest(const ScanReport &report);
     void showSizes(const InstructionFileRows::Context &context);
 
     TextLocale m_locale;
     std::filesystem::path m_home;
     QString m_note;
+    bool m_hasImports = false;
     QString m_sizeSummary;
     InstructionFileRows m_tiles;
     InstructionFileRows m_repositoryRows;

@@ -16,6 +16,7 @@ ReportSurface {
         required property string title
         required property RowList rows
         required property Flickable viewport
+        required property bool hasImports
 
         Layout.fillWidth: true
         spacing: AppTheme.tightSpace
@@ -28,8 +29,8 @@ ReportSurface {
         LongList {
             objectName: "list"
             Layout.fillWidth: true
-            // A line more where the words below a path wrap.
-            rowHeight: AppTheme.scaled(tier.width < AppTheme.scaled(480) ? 70 : 52)
+            // A line more where the words below a path wrap, and one for the importers.
+            rowHeight: AppTheme.scaled((tier.width < AppTheme.scaled(480) ? 70 : 52) + (tier.hasImports ? 20 : 0))
             viewport: tier.viewport
             model: tier.rows
             visible: tier.rows.count > 0
@@ -74,16 +75,19 @@ ReportSurface {
     Tier {
         title: qsTr("Repository instructions")
         rows: section.files.repositoryRows
+        hasImports: section.files.hasImports
         viewport: section.viewport
     }
     Tier {
         title: qsTr("Inherited project instructions")
         rows: section.files.inheritedRows
+        hasImports: section.files.hasImports
         viewport: section.viewport
     }
     Tier {
         title: qsTr("Personal instructions")
         rows: section.files.personalRows
+        hasImports: section.files.hasImports
         viewport: section.viewport
     }
     PlainLabel {

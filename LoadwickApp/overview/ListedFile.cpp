@@ -31,7 +31,9 @@ void append(std::vector<ListedFile> &list, const std::vector<InstructionFileEsti
 } // namespace
 
 TierFolders::TierFolders(const std::filesystem::path &repository, const std::filesystem::path &home)
-    : m_repository(folderText(repository)), m_personal(folderText(home / ".claude"))
+    : m_repository(folderText(repository)),
+      m_home(home.empty() ? std::string() : folderText(home)),
+      m_personal(folderText(home / ".claude"))
 {}
 
 InstructionFileTier TierFolders::tierOf(std::string_view path) const
@@ -39,6 +41,14 @@ InstructionFileTier TierFolders::tierOf(std::string_view path) const
     if (isIn(path, m_repository))
         return InstructionFileTier::repository;
     return isIn(path, m_personal) ? InstructionFileTier::personal : InstructionFileTier::inherited;
+}
+
+std::string TierFolders::shortPath(std::string_view path) const
+{
+    if (path.size() > m_repository.size() && isIn(path, m_repository))
+        return std::string(path.substr(m_repository.size() + 1));
+    const bool isAtHome = !m_home.empty() && isIn(path, m_home);
+    return isAtHome ? "~" + std::string(path.substr(m_home.size())) : std::string(path);
 }
 
 std::vector<ListedFile> ListedFile::allReadable(const InstructionFileSet &files)

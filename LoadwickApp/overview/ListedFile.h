@@ -11,17 +11,22 @@
 
 namespace Loadwick {
 
-/// The folders that determine the tier of an instruction file by its path alone.
+/// The folders that determine the tier of an instruction file by its path alone, and shorten it.
 class TierFolders
 {
 public:
+    TierFolders() = default;
     TierFolders(const std::filesystem::path &repository, const std::filesystem::path &home);
 
     /// Inside the repository: repository; in the home folder's ".claude": personal; else inherited.
     [[nodiscard]] InstructionFileTier tierOf(std::string_view path) const;
 
+    /// From the repository on; from "~" if only the home folder holds it; else the whole path.
+    [[nodiscard]] std::string shortPath(std::string_view path) const;
+
 private:
     std::string m_repository; ///< without a slash at the end
+    std::string m_home;       ///< the same; empty: none
     std::string m_personal;
 };
 

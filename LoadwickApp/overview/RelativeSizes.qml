@@ -93,10 +93,12 @@ ColumnLayout {
             Layout.alignment: Qt.AlignTop
             title: sizes.files.tiles.text(map.currentMark, "path")
             detail: sizes.files.tiles.text(map.currentMark, "figures")
+            note: sizes.files.tiles.text(map.currentMark, "importer")
             hint: qsTr("Hover a tile, or walk the tiles with the arrow keys, for its path and share.")
             isPath: true
             titleLines: pair.stacked ? 2 : 4
             detailLines: 3
+            noteLines: sizes.files.hasImports ? 2 : 0
             atTop: true
             transform: Translate { y: sizes.shift }
         }

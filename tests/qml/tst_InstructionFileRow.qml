@@ -5,7 +5,7 @@ import Loadwick
 Item {
     id: scene
     width: 700
-    height: 300
+    height: 400
 
     InstructionFileRow {
         id: readable
@@ -18,6 +18,8 @@ Item {
         share: "100.0% of total"
         isReadable: true
         words: "all of it"
+        importer: ""
+        chain: ""
     }
     InstructionFileRow {
         id: unreadable
@@ -31,12 +33,14 @@ Item {
         share: ""
         isReadable: false
         words: "/srv/CLAUDE.md. Could not be read."
+        importer: ""
+        chain: ""
     }
     InstructionFileRow {
         id: narrow
         y: 170
         width: 400
-        height: 70
+        height: 88
         index: 2
         path: "/srv/CLAUDE.md"
         size: "12,345,678 bytes on disk · local estimate at 4 bytes/token"
@@ -44,6 +48,23 @@ Item {
         share: "100.0% of total"
         isReadable: true
         words: "all of it"
+        importer: "imported by " + "folder/".repeat(30) + "style.md"
+        chain: "the whole chain"
+    }
+    InstructionFileRow {
+        id: imported
+        y: 300
+        width: 600
+        height: 70
+        index: 3
+        path: "/srv/docs/style.md"
+        size: "4 bytes on disk"
+        amount: "1 token"
+        share: "0.1% of total"
+        isReadable: true
+        words: "all of it"
+        importer: "imported by CLAUDE.md"
+        chain: "imported by CLAUDE.md"
     }
     Repeater {
         id: mirrored
@@ -63,6 +84,8 @@ Item {
             share: "0.1% of total"
             isReadable: true
             words: "all of it"
+            importer: ""
+            chain: ""
         }
     }
     LargestFilesSection.Cells {
@@ -108,7 +131,28 @@ Item {
             const size = findChild(narrow, "size");
             verify(!size.truncated);
             compare(size.lineCount, 2);
-            verify(size.mapToItem(narrow, 0, size.height).y <= narrow.height);
+            const importer = findChild(narrow, "importer");
+            verify(size.mapToItem(narrow, 0, size.height).y <= importer.mapToItem(narrow, 0, 0).y);
+            verify(importer.mapToItem(narrow, 0, importer.height).y <= narrow.height);
+            verify(importer.truncated);
+        }
+
+        function tipOver(row) {
+            const importer = findChild(row, "importer");
+            mouseMove(importer, 5, importer.height / 2);
+            const tip = findChild(importer, "tip");
+            tryVerify(() => tip.hovered);
+            return tip.words;
+        }
+
+        function test_theTipSaysWhatTheLineDoesNot() {
+            compare(tipOver(narrow), "the whole chain");
+            compare(tipOver(imported), "");
+        }
+
+        function test_aFileWithoutAnImporterHasNoLineForIt() {
+            verify(!findChild(readable, "importer").visible);
+            verify(findChild(imported, "importer").visible);
         }
 
         function test_aFileThatCouldNotBeReadHasNoFigures() {

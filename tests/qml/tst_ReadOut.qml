@@ -108,6 +108,22 @@ Item {
             verify(!findChild(path, "title").visible);
         }
 
+        function test_aNoteIsBelowTheDetail() {
+            const note = findChild(path, "note");
+            verify(!note.visible);
+            const height = path.implicitHeight;
+            path.noteLines = 2;
+            verify(path.implicitHeight > height);
+            showPath("/srv/CLAUDE.md");
+            path.note = "imported by " + "docs/".repeat(40) + "style.md";
+            verify(note.visible);
+            compare(note.lineCount, 2);
+            const detail = findChild(path, "detail");
+            tryVerify(() => note.y >= detail.y + detail.height); // positioned before the next frame
+            path.note = "";
+            path.noteLines = 0;
+        }
+
         function test_keepsItsHeightForAnyPath() {
             const height = path.implicitHeight;
             for (const words of ["/a", "/srv/" + "folder/".repeat(5), "/srv/" + "folder/".repeat(40)]) {

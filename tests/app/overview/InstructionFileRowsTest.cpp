@@ -39,6 +39,11 @@ QString textOf(const InstructionFileRows &rows, const char *role)
     return rows.text(0, QString::fromLatin1(role));
 }
 
+QString withoutMarks(QString text)
+{
+    return text.remove(QChar(0x200E));
+}
+
 } // namespace
 
 class InstructionFileRowsTest : public QObject
@@ -146,6 +151,50 @@ private Q_SLOTS:
         QCOMPARE(rows.value(0, QStringLiteral("weight")).toDouble(), 100.0);
         rows.show(contextOf({}), {{.path = "bare.md"}});
         QCOMPARE(textOf(rows, "name"), QStringLiteral("bare.md"));
+    }
+
+    void namesTheImportThatLedToAFile_data()
+    {
+        QTest::addColumn<QString>("figures");
+        QTest::newRow("en_US") << QStringLiteral(
+            "1,234 estimated tokens · 12.3% of total. 4,936 bytes");
+        QTest::newRow("de_DE") << QStringLiteral(
+            "1.234 estimated tokens · 12.3% of total. 4.936 bytes");
+        QTest::newRow("hi_IN") << QStringLiteral(
+            "1,234 estimated tokens · 12.3% of total. 4,936 bytes");
+        QTest::newRow("ar_EG") << QStringLiteral(
+            "١٬٢٣٤ estimated tokens · 12.3% of total. ٤٬٩٣٦ bytes");
+    }
+
+    void namesTheImportThatLedToAFile()
+    {
+        InstructionFileSet files = oneFile(4'936);
+        files.importers = {{"/code/app/docs/CLAUDE.md", "/code/app/docs/%1 style.md"},
+                           {"/code/app/docs/%1 style.md", "/home/ada/notes.md"},
+                           {"/home/ada/notes.md", "/srv/CLAUDE.md"}};
+        InstructionFileRows::Context context = contextOf(files, QTest::currentDataTag());
+        context.folders = TierFolders("/code/app", "/home/ada");
+        InstructionFileRows rows;
+        showAll(rows, context);
+        const auto heard = QStringLiteral(
+            "imported by docs/%1 style.md, imported by ~/notes.md, imported by /srv/CLAUDE.md");
+        QCOMPARE(withoutMarks(textOf(rows, "importer")),
+                 QStringLiteral("imported by docs/%1 style.md"));
+        QVERIFY(textOf(rows, "importer").contains(QChar(0x200E)));
+        QCOMPARE(withoutMarks(textOf(rows, "chain")), heard);
+        QFETCH(const QString, figures);
+        QCOMPARE(textOf(rows, "words"),
+                 QStringLiteral("/code/app/docs/CLAUDE.md. ") + figures +
+                     QStringLiteral(" on disk · local estimate at 4 bytes/token. ") + heard +
+                     QStringLiteral("."));
+    }
+
+    void aFileThatNothingImportsHasNoImporter()
+    {
+        InstructionFileRows rows;
+        showAll(rows, contextOf(oneFile(400)));
+        QCOMPARE(textOf(rows, "importer"), QString());
+        QCOMPARE(textOf(rows, "chain"), QString());
     }
 
     void isEmptyOutOfRange()

@@ -118,6 +118,21 @@ private Q_SLOTS:
                  QStringLiteral("0.1% of total"));
     }
 
+    void everyListNamesTheImporter()
+    {
+        InstructionFileSet set = threeTiers();
+        set.importers = {{"/home/ada/app/CLAUDE.md", "/home/ada/.claude/CLAUDE.md"}};
+        InstructionFilesPresenter files({}, "/home/ada");
+        QVERIFY(!files.hasImports());
+        files.show(reportOf(set));
+        QVERIFY(files.hasImports());
+        for (const RowList *rows : {files.repositoryRows(), files.tiles(), files.largestRows()})
+            QVERIFY(rows->text(0, QStringLiteral("words"))
+                        .endsWith(QStringLiteral(". imported by ~/.claude/CLAUDE.md.")));
+        files.show(reportOf(threeTiers()));
+        QVERIFY(!files.hasImports());
+    }
+
     void anUnreadableFileIsInTheTierOfItsPath()
     {
         InstructionFileSet set = threeTiers();

@@ -54,6 +54,35 @@ private Q_SLOTS:
                  texts({"/r/b.md", "/r/a.md", "/CLAUDE.md", "/h/.claude/CLAUDE.md"}));
     }
 
+    void shortensAPathByTheNearestFolder_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("shortened");
+        QTest::newRow("in the repository") << "/h/r/docs/a.md"
+                                           << "docs/a.md";
+        QTest::newRow("the repository itself") << "/h/r"
+                                               << "~/r";
+        QTest::newRow("beside it") << "/h/rs/a.md"
+                                   << "~/rs/a.md";
+        QTest::newRow("elsewhere") << "/hs/a.md"
+                                   << "/hs/a.md";
+    }
+
+    void shortensAPathByTheNearestFolder()
+    {
+        QFETCH(const QString, path);
+        QFETCH(const QString, shortened);
+        const TierFolders near("/h/r/", "/h");
+        QCOMPARE(QString::fromStdString(near.shortPath(path.toStdString())), shortened);
+    }
+
+    void withoutAHomeOnlyTheRepositoryShortensAPath()
+    {
+        const TierFolders near("/r", {});
+        QCOMPARE(near.shortPath("/r/a.md"), std::string("a.md"));
+        QCOMPARE(near.shortPath("/h/a.md"), std::string("/h/a.md"));
+    }
+
     void listsUnreadableFilesLastInTheirTier()
     {
         InstructionFileSet files = sampleFiles();
