@@ -25,6 +25,9 @@ foreach(script IN LISTS scripts)
                   "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 endforeach()
 
+# It starts a desktop for each test.
+set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/desktop_sway" APPEND PROPERTY LABELS slow)
+
 # It watches for ten seconds.
 set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/idle" APPEND PROPERTY LABELS slow)
 

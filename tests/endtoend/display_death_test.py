@@ -39,7 +39,7 @@ class DisplayDeathTest(EndToEndCase):
 
     @unittest.skipUnless(Sway.is_installed(), "sway is not installed")
     def test_the_death_of_the_compositor_ends_the_session(self) -> None:
-        sway = self.enterContext(Sway())
+        sway = self.enterContext(Sway(self.home.path))
         self.assert_takes_the_session_along(
             sway.kill, QT_QPA_PLATFORM="wayland", WAYLAND_DISPLAY=sway.display, DISPLAY=""
         )

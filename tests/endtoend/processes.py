@@ -3,15 +3,30 @@
 from __future__ import annotations
 
 import ctypes
+import os
 import signal
 from pathlib import Path
 
-SET_PARENT_DEATH_SIGNAL = 1  # an option of prctl(2)
+# Options of prctl(2).
+SET_PARENT_DEATH_SIGNAL = 1
+SET_CHILD_SUBREAPER = 36
 
 
 def end_with_parent() -> None:
     """Makes the system kill this process when its parent ends, for whatever reason."""
     ctypes.CDLL(None).prctl(SET_PARENT_DEATH_SIGNAL, signal.SIGKILL)
+
+
+def adopt_orphans() -> None:
+    """Makes this process the parent of its descendants whose own parents end."""
+    ctypes.CDLL(None).prctl(SET_CHILD_SUBREAPER, 1)
+
+
+def kill_orphans() -> None:
+    """Kills this process's children, and theirs, until none is left."""
+    while child := child_of(os.getpid()):
+        os.kill(child, signal.SIGKILL)
+        os.waitpid(child, 0)
 
 
 def is_running(process: int) -> bool:

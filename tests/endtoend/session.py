@@ -6,11 +6,25 @@ import os
 import subprocess
 import sys
 import tempfile
+from pathlib import Path
 
-from processes import end_with_parent
+from processes import adopt_orphans, end_with_parent, kill_orphans
 from waiting import LIMIT_SECONDS, WaitFailed, until
 
 MARK = "LOADWICK_OWN_SESSION"
+
+# Only the accessibility bus is started on request; anything else that the machine has installed would
+# make a difference.
+BUS = """<busconfig>
+<type>session</type>
+<listen>unix:dir={folder}</listen>
+<servicedir>{folder}/services</servicedir>
+<policy context="default">
+<allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
+</policy>
+</busconfig>
+"""
+ACCESSIBILITY = Path("/usr/share/dbus-1/services/org.a11y.Bus.service")
 
 
 def run_again_in_own_session() -> None:
@@ -22,15 +36,30 @@ def run_again_in_own_session() -> None:
     end_with_parent()
     if MARK in os.environ:
         return
+    adopt_orphans()
     with tempfile.TemporaryDirectory(prefix="loadwick-session-") as sockets:
         environment = os.environ | {MARK: "yes", "XDG_RUNTIME_DIR": sockets}
         for name in ("DBUS_SESSION_BUS_ADDRESS", "AT_SPI_BUS_ADDRESS", "DISPLAY"):
             environment.pop(name, None)
-        command = ["dbus-run-session", "--", sys.executable, "-B", *sys.argv]
-        status = subprocess.run(
-            command, env=environment, check=False, preexec_fn=end_with_parent
-        ).returncode
+        command = ["dbus-run-session", f"--config-file={bus_settings(Path(sockets))}", "--"]
+        command += [sys.executable, "-B", *sys.argv]
+        try:
+            status = subprocess.run(
+                command, env=environment, check=False, preexec_fn=end_with_parent
+            ).returncode
+        finally:
+            kill_orphans()
     sys.exit(status)
+
+
+def bus_settings(folder: Path) -> Path:
+    """Writes the settings of a session bus whose socket is in the folder; returns their file."""
+    services = folder / "services"
+    services.mkdir()
+    (services / ACCESSIBILITY.name).symlink_to(ACCESSIBILITY)
+    settings = folder / "bus.conf"
+    settings.write_text(BUS.format(folder=folder), encoding="utf-8")
+    return settings
 
 
 class Display:

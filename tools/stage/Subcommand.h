@@ -24,6 +24,7 @@ int demo(const Invocation &invocation);
 ///   --platform-dialog   the real folder dialog instead
 ///   --timeout SECONDS   how long a session may take (default 60)
 ///   --beside-others     a second window where one is open over the same data
+///   --follow-desktop    the colours, fonts and motion that the desktop asks for
 int window(const Invocation &invocation);
 
 /// Shows every component in every state, light and dark side by side. With a folder, writes

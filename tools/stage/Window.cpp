@@ -13,6 +13,7 @@
 #include "shell/LoadwickApp.h"
 #include "stage/ConfinedWindow.h"
 #include "stage/Subcommand.h"
+#include "theme/DesktopAppearanceSource.h"
 
 namespace Loadwick {
 
@@ -24,6 +25,7 @@ struct WindowOptions
 {
     bool usesPlatformDialog = false;
     bool opensBesideOthers = false; ///< over the same data
+    bool followsDesktop = false;    ///< its colours, fonts and motion
     double timeoutSeconds = 60.0;
 };
 
@@ -35,6 +37,8 @@ WindowOptions windowOptions(const std::vector<std::string> &words)
             options.usesPlatformDialog = true;
         else if (*word == "--beside-others")
             options.opensBesideOthers = true;
+        else if (*word == "--follow-desktop")
+            options.followsDesktop = true;
         else if (*word == "--timeout" && std::next(word) != words.end())
             options.timeoutSeconds = std::stod(*++word);
     }
@@ -71,6 +75,10 @@ LoadwickWindow::Collaborators collaborators(const fs::path &home, const WindowOp
     made.notices = [](const auto &dispatcher) {
         return std::make_unique<DesktopNoticeBoard>(dispatcher);
     };
+    if (options.followsDesktop)
+        made.appearance = [](const auto &dispatcher) {
+            return DesktopAppearanceSource::ofUser(dispatcher);
+        };
     if (!options.usesPlatformDialog)
         made.folderChooser = ConfinedWindow::givenFolder([home] { return folderToChoose(home); });
     return made;

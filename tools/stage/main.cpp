@@ -24,7 +24,9 @@ struct Subcommand
 constexpr std::array subcommands{
     Subcommand{"demo", "FOLDER", demo},
 #ifdef LOADWICK_WHOLE_STAGE
-    Subcommand{"window", "[--platform-dialog] [--timeout SECONDS] [--beside-others]", window},
+    Subcommand{"window",
+               "[--platform-dialog] [--timeout SECONDS] [--beside-others] [--follow-desktop]",
+               window},
     Subcommand{"gallery", "[FOLDER]", gallery},
     Subcommand{"pictures", "FOLDER [NAME...]", pictures},
     Subcommand{"looks", "FOLDER", looks},

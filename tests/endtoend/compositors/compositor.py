@@ -1,4 +1,4 @@
-"""A Wayland compositor without a screen, as the display of one program."""
+"""A Wayland compositor without a screen."""
 
 from __future__ import annotations
 
@@ -12,15 +12,18 @@ from typing import Optional
 from processes import end_with_parent
 from waiting import LIMIT_SECONDS, WaitFailed, until
 
-NOBODY = 65534
+
+SCREEN = (1280, 900)  # pixels
 
 
 class Compositor:
-    """One running compositor. Its sockets are in a folder of their own."""
+    """One compositor, with its sockets in a folder of their own. It runs while entered."""
 
     executable = ""
+    desktop = ""  # what XDG_CURRENT_DESKTOP is beside it
 
-    def __init__(self) -> None:
+    def __init__(self, home: Path) -> None:
+        self.home = home
         self.sockets = Path(tempfile.mkdtemp(prefix="loadwick-compositor-"))
         self.log = self.sockets / "log"
         self._process: Optional[subprocess.Popen[bytes]] = None
@@ -35,21 +38,52 @@ class Compositor:
         raise NotImplementedError
 
     def settings(self) -> dict[str, str]:
-        """What the compositor's environment has besides the session's."""
+        """The compositor's own environment variables."""
         return {}
 
     def user(self) -> Optional[int]:
         """The user that runs the compositor; none: whoever runs the test."""
         return None
 
+    def set_up(self) -> None:
+        """Runs once the compositor accepts clients."""
+
     @property
     def display(self) -> str:
-        """What a client's WAYLAND_DISPLAY is."""
+        """The WAYLAND_DISPLAY of its clients."""
         return str(self._socket())
 
-    def _socket(self) -> Optional[Path]:
-        found = [path for path in self.sockets.glob("wayland-*") if path.is_socket()]
-        return found[0] if found else None
+    def active(self) -> str:
+        """The application identity of the window that has the focus; "" for none."""
+        raise NotImplementedError
+
+    def identities(self) -> list[str]:
+        """The application identity of each window."""
+        raise NotImplementedError
+
+    def refusal(self) -> str:
+        """Why the compositor has refused to raise a window; "" if it has not."""
+        return ""
+
+    def activate(self, identity: str) -> None:
+        """Gives the focus to the window of this application, as a task bar does."""
+        raise NotImplementedError
+
+    def press_return(self) -> None:
+        """Presses the Return key."""
+        raise NotImplementedError
+
+    def click(self, x: int, y: int) -> None:
+        """Clicks at this point of the screen."""
+        raise NotImplementedError
+
+    def picture(self, file: Path) -> None:
+        """Writes what the screen would show to a PNG file."""
+        raise NotImplementedError
+
+    def set_scale(self, scale: float) -> None:
+        """Sets how many pixels of the screen one of the window's is."""
+        raise NotImplementedError
 
     def __enter__(self) -> "Compositor":
         try:
@@ -70,25 +104,37 @@ class Compositor:
         with open(self.log, "wb") as log:
             self._process = subprocess.Popen(
                 self.command(),
-                env=self.environment(),
+                env=self._environment(),
                 user=user,
                 group=user,
                 extra_groups=None if user is None else [],
                 preexec_fn=end_with_parent,
+                stdin=subprocess.DEVNULL,
                 stdout=log,
                 stderr=log,
             )
         until(f"{self.executable}'s socket", self._is_ready)
+        self.set_up()
 
-    def environment(self) -> dict[str, str]:
-        """The compositor's environment."""
-        kept = {key: os.environ[key] for key in os.environ if key not in ("DISPLAY", "WAYLAND_DISPLAY")}
-        return kept | {"XDG_RUNTIME_DIR": str(self.sockets), "LC_ALL": "C.UTF-8"} | self.settings()
+    def _environment(self) -> dict[str, str]:
+        dropped = ("DISPLAY", "WAYLAND_DISPLAY")
+        kept = {key: value for key, value in os.environ.items() if key not in dropped}
+        folders = {"HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.sockets)}
+        names = {"XDG_CURRENT_DESKTOP": self.desktop, "LC_ALL": "C.UTF-8"}
+        return kept | folders | names | self.settings()
+
+    def _socket(self) -> Optional[Path]:
+        found = [path for path in self.sockets.glob("wayland-*") if path.is_socket()]
+        return found[0] if found else None
 
     def _is_ready(self) -> bool:
         if self._process is not None and self._process.poll() is not None:
-            raise WaitFailed(f"{self.executable} ended: {self.log.read_text(errors='replace')}")
+            raise WaitFailed(f"{self.executable} ended before it was ready:\n{self.words()}")
         return self._socket() is not None
+
+    def words(self) -> str:
+        """What the compositor has said so far."""
+        return self.log.read_text(encoding="utf-8", errors="replace")
 
     def kill(self) -> None:
         """Kills the compositor if it is still running."""

@@ -1,0 +1,112 @@
+"""What the program does on a real desktop; one class derives from this for each compositor."""
+
+from __future__ import annotations
+
+import os
+import subprocess
+import unittest
+from pathlib import Path
+from typing import Any
+
+from compositors.compositor import Compositor
+from desktop import Desktop
+from endtoend_case import CHOOSE, SCAN, EndToEndCase, window_command
+from processes import end_with_parent
+from program import Program
+from waiting import LIMIT_SECONDS, until
+
+IDENTITY = "io.github.loadwick.Loadwick"
+LAUNCHER = "launcher"
+
+ENTRY = """[Desktop Entry]
+Type=Application
+Name=Loadwick
+Exec={command}
+StartupNotify=true
+"""
+
+SECOND_START = """#!/bin/sh
+token=${{XDG_ACTIVATION_TOKEN:-$DESKTOP_STARTUP_ID}}
+unset XDG_ACTIVATION_TOKEN DESKTOP_STARTUP_ID
+exec env {variable}="$token" {command}
+"""
+
+
+class DesktopCase(EndToEndCase):
+    """A test on a desktop of its own."""
+
+    compositor_type: type[Compositor]
+    notices_type: type[Any]
+
+    @classmethod
+    def setUpClass(cls) -> None:
+        """Starts no X server."""
+        if not cls.compositor_type.is_installed():
+            raise unittest.SkipTest(f"{cls.compositor_type.executable} is not installed")
+
+    def setUp(self) -> None:
+        super().setUp()
+        compositor = self.compositor_type(self.home.path)
+        self.desktop = self.enterContext(Desktop(compositor, self.notices_type(), self.home))
+
+    def open_here(self, *options: str, **environment: str) -> Program:
+        """Opens the window on the desktop; it closes with the test."""
+        # The leak checker would look for a second after the display's death.
+        checks = {"ASAN_OPTIONS": os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"}
+        program = self.start(
+            "--follow-desktop", *options, environment=self.desktop.environment() | checks | environment
+        )
+        program.window.wait_for(CHOOSE, "push button")
+        return program
+
+    def wait_until_raised(self) -> None:
+        """Returns once the program's window has the focus; skips the test if the compositor refuses
+        that."""
+        compositor = self.desktop.compositor
+
+        def is_raised() -> bool:
+            if refusal := compositor.refusal():
+                self.skipTest(refusal)
+            return compositor.active() == IDENTITY
+
+        until("the program's window to be raised", is_raised)
+
+    def wait_until_active(self, identity: str) -> None:
+        """Returns once the window of this application has the focus."""
+        until(f"the focus on {identity}", lambda: self.desktop.compositor.active() == identity)
+
+    def open_launcher(self, entry: Path) -> None:
+        """Opens another window, which takes the focus."""
+        launcher = subprocess.Popen(
+            ["/usr/bin/python3", os.fspath(Path(__file__).with_name("launcher.py")), os.fspath(entry)],
+            env=self.desktop.environment(),
+            preexec_fn=end_with_parent,
+        )
+        self.addCleanup(launcher.wait, LIMIT_SECONDS)
+        self.addCleanup(launcher.kill)
+        compositor = self.desktop.compositor
+        until("the launcher's window", lambda: LAUNCHER in compositor.identities())
+        compositor.activate(LAUNCHER)
+        self.wait_until_active(LAUNCHER)
+
+    def second_start(self, variable: str) -> Path:
+        """A desktop entry that starts the program again, with the launcher's token in this variable."""
+        script = self.home.path / "second-start"
+        command = " ".join(window_command())
+        script.write_text(SECOND_START.format(variable=variable, command=command))
+        script.chmod(0o755)
+        entry = self.home.path / ".local/share/applications" / f"{IDENTITY}.desktop"
+        entry.parent.mkdir(exist_ok=True)
+        entry.write_text(ENTRY.format(command=script))
+        return entry
+
+    def finish_unseen_scan(self, program: Program) -> None:
+        """Performs a scan that ends while another window has the focus."""
+        self.home.hold()
+        self.choose(program, self.home.make_repository("webshop"))
+        program.window.press(SCAN)
+        self.wait_for_session()
+        self.open_launcher(self.second_start("XDG_ACTIVATION_TOKEN"))
+        program.window.wait_until_inactive()
+        self.home.release()
+        until("the notice", lambda: self.desktop.notices.titles() == ["Scan complete"])
