@@ -27,7 +27,10 @@ ColumnLayout {
         Accessible.description: section.isExpanded ? qsTr("Expanded") : qsTr("Collapsed")
         Keys.onReturnPressed: head.clicked()
         Keys.onEnterPressed: head.clicked()
-        onClicked: section.isExpanded = !section.isExpanded
+        onClicked: {
+            section.isExpanded = !section.isExpanded;
+            Announcer.announce(head.Accessible.description);
+        }
 
         contentItem: RowLayout {
             spacing: AppTheme.smallSpace

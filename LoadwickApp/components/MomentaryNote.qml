@@ -11,7 +11,7 @@ Row {
 
     spacing: AppTheme.tightSpace
     visible: moment.running
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.Notification
     Accessible.name: note.words
 
     Symbol {

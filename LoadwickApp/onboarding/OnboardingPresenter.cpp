@@ -107,6 +107,14 @@ QString OnboardingPresenter::position() const
     return tr("Step %1 of %2").arg(currentIndex() + 1).arg(stepCount());
 }
 
+QString OnboardingPresenter::stepWords() const
+{
+    const OnboardingStepTexts &step = *currentStep();
+    QStringList words{position(), step.title(), step.body(), step.platformNote(), step.footnote()};
+    words.removeAll(QString());
+    return words.join(QLatin1Char('\n'));
+}
+
 QString OnboardingPresenter::legendCaption() const
 {
     return qtText(OpinionBand::opinionNote);

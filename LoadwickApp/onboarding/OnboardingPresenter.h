@@ -68,6 +68,7 @@ class OnboardingPresenter final : public QObject
     Q_PROPERTY(int currentIndex READ currentIndex NOTIFY moved)
     Q_PROPERTY(Loadwick::OnboardingStepTexts *currentStep READ currentStep NOTIFY moved)
     Q_PROPERTY(QString position READ position NOTIFY moved)
+    Q_PROPERTY(QString stepWords READ stepWords NOTIFY moved)
     Q_PROPERTY(bool isFinished READ isFinished NOTIFY isFinishedChanged)
     Q_PROPERTY(Loadwick::RowList *legend READ legend CONSTANT)
     Q_PROPERTY(QString legendCaption READ legendCaption CONSTANT)
@@ -97,6 +98,8 @@ public:
     [[nodiscard]] OnboardingStepTexts *currentStep() const;
     /// "Step 1 of 4".
     [[nodiscard]] QString position() const;
+    /// The title and the words of the current step, for a screen reader.
+    [[nodiscard]] QString stepWords() const;
     [[nodiscard]] bool isFinished() const { return m_flow.isFinished(); }
 
     /// One row per band, "title" and "detail", in the order of the bands.

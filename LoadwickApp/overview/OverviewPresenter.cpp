@@ -63,6 +63,21 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
     showCurrentState();
 }
 
+QString OverviewPresenter::stateWords() const
+{
+    switch (m_state) {
+    case State::Empty:
+        return {};
+    case State::Loading:
+        return tr("Scan started");
+    case State::Failure:
+        return tr("Scan failed. %1").arg(m_headline);
+    case State::Report:
+        return tr("Scan complete. %1").arg(m_band.sentence());
+    }
+    return {};
+}
+
 std::chrono::seconds OverviewPresenter::elapsedTime() const
 {
     using std::chrono::seconds;

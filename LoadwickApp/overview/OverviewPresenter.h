@@ -32,6 +32,7 @@ class OverviewPresenter final : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window.")
     Q_PROPERTY(State state READ state NOTIFY changed)
+    Q_PROPERTY(QString stateWords READ stateWords NOTIFY changed)
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
     Q_PROPERTY(QString elapsedWords READ elapsedWords NOTIFY elapsedChanged)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
@@ -64,6 +65,9 @@ public:
                       std::filesystem::path home = {});
 
     [[nodiscard]] State state() const noexcept { return m_state; }
+
+    /// What a screen reader says when the state is reached; empty while there is nothing to say.
+    [[nodiscard]] QString stateWords() const;
 
     /// The elapsed time of the running scan, as on a stopwatch: "0:07", "61:00".
     [[nodiscard]] QString elapsed() const;

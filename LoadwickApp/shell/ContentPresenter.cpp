@@ -61,6 +61,11 @@ QString ContentPresenter::repositoryDetail() const
                      : tr("Choose a local repository to begin one scan.");
 }
 
+QString ContentPresenter::selectionWords() const
+{
+    return hasRepository() ? tr("Repository %1 chosen").arg(repositoryName()) : QString();
+}
+
 ContentPresenter::Status ContentPresenter::status() const
 {
     return std::visit(StatusOf{}, m_model.state().get().value());
@@ -134,6 +139,11 @@ void ContentPresenter::setPageIndex(int index)
 {
     const bool isPage = index >= 0 && index < static_cast<int>(AppPage::all.size());
     showPage(AppPage::all[isPage ? static_cast<std::size_t>(index) : 0]);
+}
+
+QString ContentPresenter::pageWords() const
+{
+    return tr("%1 page").arg(qtText(AppPage(m_page).title()));
 }
 
 void ContentPresenter::chooseFolder()

@@ -23,6 +23,7 @@ class ContentPresenter final : public QObject
     Q_PROPERTY(bool hasRepository READ hasRepository NOTIFY selectionChanged)
     Q_PROPERTY(QString repositoryName READ repositoryName NOTIFY selectionChanged)
     Q_PROPERTY(QString repositoryDetail READ repositoryDetail NOTIFY selectionChanged)
+    Q_PROPERTY(QString selectionWords READ selectionWords NOTIFY selectionChanged)
     Q_PROPERTY(Status status READ status NOTIFY stateChanged)
     Q_PROPERTY(QString statusTitle READ statusTitle NOTIFY stateChanged)
     Q_PROPERTY(QString statusSymbol READ statusSymbol NOTIFY stateChanged)
@@ -34,6 +35,7 @@ class ContentPresenter final : public QObject
     Q_PROPERTY(QString allowanceDisclosure READ allowanceDisclosure CONSTANT)
     Q_PROPERTY(Loadwick::RowList *pages READ pages CONSTANT)
     Q_PROPERTY(int pageIndex READ pageIndex WRITE setPageIndex NOTIFY pageIndexChanged)
+    Q_PROPERTY(QString pageWords READ pageWords NOTIFY pageIndexChanged)
 
 public:
     enum class Status
@@ -51,6 +53,8 @@ public:
     [[nodiscard]] QString repositoryName() const;
     /// The folder's whole path, or what to do while none is chosen.
     [[nodiscard]] QString repositoryDetail() const;
+    /// Says what was chosen, for a screen reader; empty while nothing is.
+    [[nodiscard]] QString selectionWords() const;
 
     [[nodiscard]] Status status() const;
     [[nodiscard]] QString statusTitle() const;
@@ -71,6 +75,8 @@ public:
     /// The page's index in that order. Setting an index out of range shows the first page.
     [[nodiscard]] int pageIndex() const noexcept { return static_cast<int>(m_page); }
     void setPageIndex(int index);
+    /// Names the page that is shown, for a screen reader.
+    [[nodiscard]] QString pageWords() const;
 
     /// Lets the user choose a folder and then shows the Overview; does nothing while a scan runs.
     Q_INVOKABLE void chooseFolder();

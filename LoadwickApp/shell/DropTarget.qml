@@ -34,7 +34,7 @@ DropArea {
     Rectangle {
         anchors { fill: parent; margins: AppTheme.smallSpace }
         visible: area.containsDrag || refusal.running
-        Accessible.role: Accessible.AlertMessage
+        Accessible.role: Accessible.Notification
         Accessible.name: area.words
         radius: AppTheme.cardRadius
         color: Qt.alpha(AppTheme.window, 0.95)

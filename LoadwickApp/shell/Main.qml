@@ -49,6 +49,12 @@ ApplicationWindow {
             ground: ground
         }
     }
+    // Not on the ground: it is heard over a modal sheet, too.
+    Announcements {
+        content: window.content
+        overview: window.overview
+        onboarding: window.onboarding
+    }
     // Created on demand: most launches do not need it.
     Loader {
         id: sheet

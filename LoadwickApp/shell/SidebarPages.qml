@@ -34,6 +34,16 @@ ListView {
     // Unlike a plain binding, it survives writes by the arrow keys and the rows.
     Binding on currentIndex { value: list.content.pageIndex }
 
+    Connections {
+        target: list.content
+
+        // A screen reader speaks a focused row anyway.
+        function onPageIndexChanged() {
+            if (!list.activeFocus)
+                Announcer.announce(list.content.pageWords);
+        }
+    }
+
     // To assistive technology a plain button stays a button, whatever role it has.
     delegate: T.ItemDelegate {
         id: row

@@ -1,0 +1,172 @@
+// What a screen reader hears of the window although it belongs to no focused item.
+#include <QAccessible>
+#include <QTest>
+
+#include "base/QtText.h"
+#include "onboarding/OnboardingPresenter.h"
+#include "samples/SampleHistories.h"
+#include "shell/ContentPresenter.h"
+#include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr auto heardMark = "wasHeard";
+
+} // namespace
+
+class AnnouncementsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_window = std::make_unique<WindowFixture>(); }
+    void cleanup() { m_window.reset(); }
+    void aChosenRepositoryIsAnnounced();
+    void theStartAndTheEndOfAScanAreAnnounced();
+    void aFailureIsAnnouncedByItsHeadline();
+    void aPageIsAnnouncedUnlessItsRowHasTheFocus();
+    void aSectionSaysWhetherItIsOpen();
+    void copyingIsAnnounced();
+    void aSavedFileIsAnnounced();
+    void theStepsOfTheWalkThroughAreAnnounced();
+    void onlyTheLastAnnouncementsAreKept();
+
+private:
+    void chooseAndScan();
+    [[nodiscard]] ContentPresenter &content() { return m_window->loadwick().content(); }
+    /// The announcements since the last call, in order.
+    [[nodiscard]] QStringList heard();
+    [[nodiscard]] QQuickItem *announcements();
+
+    std::unique_ptr<WindowFixture> m_window;
+};
+
+void AnnouncementsTest::chooseAndScan()
+{
+    m_window->scan(m_window->folder().path());
+    (void)heard();
+}
+
+QStringList AnnouncementsTest::heard()
+{
+    QStringList words;
+    for (QQuickItem *item : announcements()->childItems()) {
+        const QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(item);
+        if (!item->property(heardMark).toBool() && spoken->role() == QAccessible::Notification)
+            words.append(spoken->text(QAccessible::Name));
+        item->setProperty(heardMark, true);
+    }
+    return words;
+}
+
+QQuickItem *AnnouncementsTest::announcements()
+{
+    return m_window->loadwick().window().findChild<QQuickItem *>(QStringLiteral("announcements"));
+}
+
+void AnnouncementsTest::aChosenRepositoryIsAnnounced()
+{
+    content().setPageIndex(1);
+    (void)heard();
+    m_window->choose(m_window->folder().path());
+    QCOMPARE(heard(),
+             (QStringList{QStringLiteral("Repository %1 chosen").arg(content().repositoryName()),
+                          QStringLiteral("Overview page")}));
+}
+
+void AnnouncementsTest::theStartAndTheEndOfAScanAreAnnounced()
+{
+    m_window->choose(m_window->folder().path());
+    (void)heard();
+    m_window->press(Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(heard(), QStringList{QStringLiteral("Scan started")});
+    m_window->finishScan();
+    QCOMPARE(heard(),
+             QStringList{QStringLiteral("Scan complete. The total measured by Claude is 27,654 "
+                                        "tokens, which falls in the Lean band (under 30,000).")});
+}
+
+void AnnouncementsTest::aFailureIsAnnouncedByItsHeadline()
+{
+    m_window->probe().answer = []() -> ProbeResult { throw ProbeError::sessionFailed("Why"); };
+    m_window->scan(m_window->folder().path());
+    QCOMPARE(heard().last(), QStringLiteral("Scan failed. The probe session reported an error."));
+}
+
+void AnnouncementsTest::aPageIsAnnouncedUnlessItsRowHasTheFocus()
+{
+    m_window->press(Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(heard(), QStringList{QStringLiteral("Trends page")});
+    m_window->pressButton(QStringLiteral("Compare"));
+    QCOMPARE(heard(), QStringList{QStringLiteral("Compare page")});
+    m_window->press(Qt::Key_F6);
+    m_window->press(Qt::Key_F6);
+    m_window->press(Qt::Key_Up);
+    QCOMPARE(content().pageIndex(), 1);
+    QCOMPARE(heard(), QStringList());
+}
+
+void AnnouncementsTest::aSectionSaysWhetherItIsOpen()
+{
+    chooseAndScan();
+    m_window->pressButton(QStringLiteral("Why these bands?"));
+    QCOMPARE(heard(), QStringList{QStringLiteral("Expanded")});
+    m_window->pressButton(QStringLiteral("Why these bands?"));
+    QCOMPARE(heard(), QStringList{QStringLiteral("Collapsed")});
+}
+
+void AnnouncementsTest::copyingIsAnnounced()
+{
+    chooseAndScan();
+    m_window->pressButton(QStringLiteral("Copy Summary"));
+    QAccessibleInterface *note = m_window->find(QStringLiteral("Copied"));
+    QVERIFY(note != nullptr);
+    QCOMPARE(note->role(), QAccessible::Notification);
+}
+
+void AnnouncementsTest::aSavedFileIsAnnounced()
+{
+    m_window->loadwick().model().history().set(SampleHistories::ofSize(31, 5, 3));
+    content().setPageIndex(2);
+    (void)heard();
+    const std::filesystem::path file = m_window->folder().path() / "scans.csv";
+    m_window->saver().answer = {.file = file, .mayReplace = true};
+    m_window->pressButton(QStringLiteral("Save Data…"));
+    m_window->finishScan();
+    QCOMPARE(heard(), QStringList{QStringLiteral("Saved as %1.").arg(qtText(file.native()))});
+}
+
+void AnnouncementsTest::theStepsOfTheWalkThroughAreAnnounced()
+{
+    m_window.reset();
+    m_window = std::make_unique<WindowFixture>(std::make_shared<FakeCompletionStore>());
+    m_window->askForFirstLaunch();
+    QTRY_VERIFY(m_window->shows(QStringLiteral("Next")));
+    QCOMPARE(heard(), QStringList()); // a dialog that opens is spoken as a whole
+    const OnboardingPresenter &onboarding = m_window->loadwick().onboarding();
+    m_window->press(Qt::Key_Return);
+    const OnboardingStepTexts &step = *onboarding.currentStep();
+    const QString words = heard().join(u'|');
+    QVERIFY2(words.startsWith(QStringLiteral("Step 2 of 4\n%1\n%2").arg(step.title(), step.body())),
+             qPrintable(words));
+    m_window->press(Qt::Key_Escape);
+    QCOMPARE(heard(), QStringList());
+}
+
+void AnnouncementsTest::onlyTheLastAnnouncementsAreKept()
+{
+    for (int page = 0; page < 20; ++page) {
+        content().setPageIndex(1 + page % 2);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(heard().size(), 1);
+    }
+    QCOMPARE(announcements()->childItems().size(), 4);
+}
+
+const RegisteredTest<AnnouncementsTest> registered("Announcements");
+
+} // namespace Loadwick
+
+#include "AnnouncementsTest.moc"
