@@ -1,6 +1,5 @@
 #include "export/SavedFile.h"
 
-#include <algorithm>
 #include <cerrno>
 
 #include "posix/AtomicFile.h"
@@ -12,11 +11,9 @@ QString SavedFile::suggestedName(const QString &kind, const QString &repositoryN
     constexpr qsizetype longest = 60;
     constexpr QChar dash = u'-';
     QString name = repositoryName.left(longest);
-    const auto stays = [](QChar letter) {
-        return letter.isLetterOrNumber() || letter == u'.' || letter == u'_';
-    };
-    std::replace_if(
-        name.begin(), name.end(), [&](QChar letter) { return !stays(letter); }, dash);
+    for (QChar &letter : name)
+        if (!letter.isLetterOrNumber() && letter != u'.' && letter != u'_')
+            letter = dash;
     return name.isEmpty() ? kind : kind + dash + name;
 }
 

@@ -29,8 +29,8 @@ void WeeklyPresenter::load(const std::filesystem::path &log,
                            const std::shared_ptr<TaskDispatcher> &dispatcher)
 {
     const auto showLine = [this](const std::optional<WeeklyKPILine> &line) { show(line); };
-    if (!inBackground(
-            this, dispatcher, [log] { return readInTime(log); }, showLine))
+    const auto readLine = [log] { return readInTime(log); };
+    if (!inBackground(this, dispatcher, readLine, showLine))
         show(std::nullopt);
 }
 

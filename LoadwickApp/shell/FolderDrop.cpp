@@ -31,6 +31,7 @@ void FolderDrop::take(const QList<QUrl> &urls)
     const auto folder = onlyFolder(urls);
     if (!folder)
         return;
+    const auto look = [folder = *folder] { return isFolder(folder); };
     const auto settle = [this, folder = *folder](bool isChoosable) {
         if (isChoosable)
             m_content.choose(folder);
@@ -38,8 +39,7 @@ void FolderDrop::take(const QList<QUrl> &urls)
             Q_EMIT refused();
     };
     // Without a thread the drop is lost; the dialog remains.
-    inBackground(
-        this, m_dispatcher, [folder = *folder] { return isFolder(folder); }, settle);
+    inBackground(this, m_dispatcher, look, settle);
 }
 
 std::optional<std::filesystem::path> FolderDrop::onlyFolder(const QList<QUrl> &urls) const

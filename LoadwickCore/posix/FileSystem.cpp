@@ -32,8 +32,7 @@ bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) 
 #if defined(__linux__)
     constexpr std::array<decltype(statfs::f_type), 3> counters{EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,
                                                                TMPFS_MAGIC};
-    struct statfs disk
-    {};
+    struct statfs disk = {};
     (void)::statfs(folder.c_str(), &disk);
     return std::find(counters.begin(), counters.end(), disk.f_type) != counters.end();
 #else
@@ -44,8 +43,7 @@ bool countsFoldersAsLinks([[maybe_unused]] const std::filesystem::path &folder) 
 /// The DT_ constant of an entry, by examining it; DT_UNKNOWN when that fails.
 unsigned char examinedType(int folder, const char *name, int flags) noexcept
 {
-    struct stat status
-    {};
+    struct stat status = {};
     if (::fstatat(folder, name, &status, flags) != 0)
         return DT_UNKNOWN;
     return static_cast<unsigned char>(IFTODT(status.st_mode));
@@ -76,8 +74,7 @@ void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &v
 bool PosixFileSystem::mayHold(const std::filesystem::path &path) const
 {
     // A dangling link is an entry too, and a path that cannot be examined may be one.
-    struct stat status
-    {};
+    struct stat status = {};
     return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;
 }
 
@@ -85,8 +82,7 @@ bool PosixFileSystem::mayHoldFolders(const std::filesystem::path &folder) const
 {
     // Without a status the count stays 0, which rules nothing out.
     constexpr nlink_t linksWithoutFolders = 2;
-    struct stat status
-    {};
+    struct stat status = {};
     (void)::lstat(folder.c_str(), &status);
     return status.st_nlink != linksWithoutFolders || !countsFoldersAsLinks(folder);
 }

@@ -57,8 +57,7 @@ std::optional<RegularFile> RegularFile::open(const std::string &path, Failure *f
         report(failure, ENOENT);
         return std::nullopt;
     }
-    struct stat status
-    {};
+    struct stat status = {};
     if (!isRegular(uninterrupted([&] { return ::stat(path.c_str(), &status); }), status, failure))
         return std::nullopt;
     return openSeen(path, failure);
@@ -74,8 +73,7 @@ std::optional<RegularFile> RegularFile::openSeen(const std::string &path, Failur
         report(failure, errno);
         return std::nullopt;
     }
-    struct stat status
-    {};
+    struct stat status = {};
     if (!isRegular(::fstat(file.m_descriptor.number(), &status), status, failure))
         return std::nullopt;
     file.m_size = status.st_size;

@@ -71,8 +71,7 @@ std::string resolve(const std::optional<std::string> &cliOverride, const std::st
 
 bool isExecutableFile(const std::string &path)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     return path.find('\0') == std::string::npos && stat(path.c_str(), &status) == 0 &&
            S_ISREG(status.st_mode) && faccessat(AT_FDCWD, path.c_str(), X_OK, AT_EACCESS) == 0;
 }

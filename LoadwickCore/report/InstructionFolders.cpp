@@ -34,8 +34,7 @@ std::string withSlash(std::string path)
 
 mode_t typeOf(int folder, const std::string &name)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     const int outcome = ::fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW);
     return outcome == 0 ? status.st_mode & S_IFMT : 0;
 }

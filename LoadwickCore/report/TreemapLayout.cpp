@@ -97,7 +97,7 @@ public:
     explicit Map(std::size_t count) : m_rects(count, TreemapRect::zero) {}
 
     [[nodiscard]] double side() const noexcept { return std::min(m_free.width, m_free.height); }
-    [[nodiscard]] std::vector<TreemapRect> rects() &&noexcept { return std::move(m_rects); }
+    [[nodiscard]] std::vector<TreemapRect> takeRects() { return std::move(m_rects); }
 
     void place(const Row &row)
     {
@@ -163,7 +163,7 @@ std::vector<TreemapRect> layout(std::span<const double> weights)
     }
     if (row.sum > 0.0)
         map.place(row);
-    return std::move(map).rects();
+    return map.takeRects();
 }
 
 } // namespace Loadwick::TreemapLayout

@@ -46,8 +46,7 @@ void readAll(benchmark::State &state)
     std::vector<char> buffer(65'536);
     for (auto round : state)
         for (const fs::path &path : paths) {
-            struct stat status
-            {};
+            struct stat status = {};
             const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
             fstat(file, &status);
             benchmark::DoNotOptimize(read(file, buffer.data(), buffer.size()));

@@ -13,16 +13,17 @@ namespace Loadwick {
 namespace {
 
 /// A name in two spellings that mean the same category.
-constexpr std::array<std::array<const char *, 2>, 9> names{
-    {{"Memory files", "🗂️ memory_files"},
-     {"CLAUDE.md", "claude md"},
-     {"Messages", "MESSAGES"},
-     {"MCP tools", "mcp-tools"},
-     {"User memory", "user.memory"},
-     {"Skills", "`Skills`"},
-     {"1️⃣ System", "1-SYSTEM"},
-     {"हिन्दी", "📁 हिन्दी ✔️"},
-     {"Été", "+\u0301 ÉTÉ"}}};
+constexpr std::array<std::array<const char *, 2>, 9> names{{
+    {"Memory files", "🗂️ memory_files"},
+    {"CLAUDE.md", "claude md"},
+    {"Messages", "MESSAGES"},
+    {"MCP tools", "mcp-tools"},
+    {"User memory", "user.memory"},
+    {"Skills", "`Skills`"},
+    {"1️⃣ System", "1-SYSTEM"},
+    {"हिन्दी", "📁 हिन्दी ✔️"},
+    {"Été", "+\u0301 ÉTÉ"},
+}};
 
 struct Slab
 {

@@ -157,8 +157,9 @@ private Q_SLOTS:
         const auto dispatcher = std::make_shared<SteppingDispatcher>();
         dispatcher->refuseBackground();
         QObject receiver;
-        QVERIFY(!inBackground(
-            &receiver, dispatcher, [] { return 1; }, [](int) {}));
+        const auto work = [] { return 1; };
+        const auto done = [](int) {};
+        QVERIFY(!inBackground(&receiver, dispatcher, work, done));
     }
 };
 

@@ -42,8 +42,7 @@ bool isBlocked(int number)
 
 bool hasOwnDisposition(int number)
 {
-    struct sigaction action
-    {};
+    struct sigaction action = {};
     return sigaction(number, nullptr, &action) == 0 && action.sa_handler != SIG_DFL;
 }
 
