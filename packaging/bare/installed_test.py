@@ -40,7 +40,7 @@ class InstalledTest(EndToEndCase):
     def test_a_first_start_explains_itself(self) -> None:
         self.home.forget_preferences()
         program = self.start()
-        program.window.wait_for("Skip", "push button")
+        program.window.wait_for("Skip", "button")
 
 
 if __name__ == "__main__":

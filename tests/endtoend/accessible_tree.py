@@ -61,7 +61,7 @@ class AccessibleTree:
         if not hasattr(self, "_root"):
             return "  (nothing)"
         return "\n".join(
-            f"  [{unless_gone(item.get_role_name, '?')}] {unless_gone(lambda: text_of(item), '')!r}"
+            f"  [{role_of(item)}] {unless_gone(lambda: text_of(item), '')!r}"
             for item in self.items()
         )
 
@@ -93,7 +93,7 @@ class AccessibleTree:
         """The first visible object with this name and, if given, this role."""
         for item in self.items():
             if unless_gone(lambda: text_of(item) == name or item.get_name() == name, False):
-                if not role or unless_gone(item.get_role_name, "") == role:
+                if not role or role_of(item) == role:
                     return item
         return None
 
@@ -139,7 +139,7 @@ class AccessibleTree:
 
     def is_enabled(self, name: str) -> bool:
         """Whether the button of this name can be pressed."""
-        return is_enabled(self.wait_for(name, "push button"))
+        return is_enabled(self.wait_for(name, "button"))
 
     def key(self, keys: str) -> None:
         """Types real keys, such as "ctrl+o", into the program's window, once it is active."""
@@ -167,7 +167,7 @@ class AccessibleTree:
         return any(
             unless_gone(lambda: item.get_state_set().contains(active), False)
             for item in self.items()
-            if unless_gone(item.get_role_name, "") in ("frame", "window", "dialog", "alert")
+            if role_of(item) in ("frame", "window", "dialog", "alert")
         )
 
 
@@ -177,10 +177,16 @@ def is_showing(item: Any) -> bool:
     return states.contains(Atspi.StateType.SHOWING) and states.contains(Atspi.StateType.VISIBLE)
 
 
+def role_of(item: Any) -> str:
+    """The role's name, empty once the object has gone; "button" was "push button" before AT-SPI 2.53."""
+    name = str(unless_gone(item.get_role_name, ""))
+    return "button" if name == "push button" else name
+
+
 def is_in_window(item: Any) -> bool:
     """Whether the whole object is inside its window, which a taller object never is."""
     holder = item
-    while holder.get_role_name() not in ("frame", "window"):
+    while role_of(holder) not in ("frame", "window"):
         holder = holder.get_parent()
     # In a window's own coordinates the toolkit adds the window's position to the size.
     box = Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)

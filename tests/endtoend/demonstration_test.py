@@ -93,7 +93,7 @@ class DemonstrationTest(unittest.TestCase):
             self.addCleanup(demo.kill)
             window = until("the demonstration's process", lambda: child_of(demo.pid))
             tree = AccessibleTree(window)
-            tree.wait_for(CHOOSE, "push button")
+            tree.wait_for(CHOOSE, "button")
             tree.wait_for("Demonstration of Loadwick", "frame")
             demo.send_signal(signal.SIGTERM)
             demo.wait(30)

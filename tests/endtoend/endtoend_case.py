@@ -55,14 +55,14 @@ class EndToEndCase(unittest.TestCase):
     def open(self, *options: str) -> Program:
         """Opens the window; it closes with the test."""
         program = self.start(*options)
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         return program
 
     def choose(self, program: Program, folder: bytes) -> None:
         """Chooses a folder and waits until the window shows it."""
         self.home.will_choose(folder)
         program.window.press(CHOOSE)
-        program.window.wait_for(SCAN, "push button")
+        program.window.wait_for(SCAN, "button")
 
     def wait_for_session(self, count: int = 1) -> int:
         """The process id of the session last started, once there are `count`."""

@@ -33,7 +33,7 @@ class FirstLaunchTest(EndToEndCase):
     def launch(self, *options: str) -> Program:
         """Starts the program and waits for the sheet."""
         program = self.start(*options)
-        program.window.wait_for("Next", "push button")
+        program.window.wait_for("Next", "button")
         return program
 
     def assert_no_sheet_comes(self, program: Program) -> None:
@@ -68,7 +68,7 @@ class FirstLaunchTest(EndToEndCase):
     def test_skip_on_the_first_step_is_remembered_by_the_next_start(self) -> None:
         program = self.launch()
         program.window.press("Skip")
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         self.assertEqual(program.close(), 0)
         self.assert_no_sheet_comes(self.open())
 
@@ -83,13 +83,13 @@ class FirstLaunchTest(EndToEndCase):
             program.window.wait_for(title, "heading")
         program.window.key("Escape")
         program.window.key("Return")
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         self.assertIn("hasCompletedOnboarding=true", self.home.preferences.read_text())
 
     def test_escape_skips(self) -> None:
         program = self.launch()
         program.window.key("Escape")
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         self.assert_no_sheet_comes(program)
 
     def test_nothing_behind_the_sheet_is_found_or_reached(self) -> None:
@@ -107,7 +107,7 @@ class FirstLaunchTest(EndToEndCase):
         self.home.preferences.mkdir(parents=True)
         program = self.launch()
         program.window.press("Skip")
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         self.choose(program, self.home.make_repository("webshop"))
         self.assertEqual(program.close(), 0)
         self.launch()
@@ -117,7 +117,7 @@ class FirstLaunchTest(EndToEndCase):
         self.home.preferences.write_bytes(b"\x00\xff[[[\n")
         program = self.launch()
         program.window.press("Skip")
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         self.assertEqual(program.close(), 0)
         self.assert_no_sheet_comes(self.open())
 

@@ -5,6 +5,7 @@ from __future__ import annotations
 import time
 from pathlib import Path
 
+from accessible_tree import role_of
 from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
 from processes import wakes_of
 from program import Program, environment_for
@@ -49,7 +50,7 @@ class IdleTest(EndToEndCase):
         """Opens one more window; it is closed at the end of the test."""
         program = WatchedProgram(self.home.path, name)
         self.addCleanup(program.kill)
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         return program
 
     def open_scanned(self, name: str, outcome: str, sign: str) -> WatchedProgram:
@@ -83,7 +84,7 @@ class IdleTest(EndToEndCase):
     def focused_role(self, program: WatchedProgram) -> str:
         """The role of the focused object."""
         focused = program.window.focused()
-        return str(focused.get_role_name()) if focused else ""
+        return role_of(focused) if focused else ""
 
     def test_an_idle_window_draws_no_frame_and_sleeps(self) -> None:
         self.repository = self.home.make_repository("webshop")

@@ -27,7 +27,7 @@ class LanguagesTest(EndToEndCase):
             self._program.kill()
         program = self.start(*options, environment={"LC_ALL": f"{language}.UTF-8"})
         self._program = program
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         return program
 
     def start_of_words(self, program: Program) -> int:
@@ -45,8 +45,8 @@ class LanguagesTest(EndToEndCase):
             with self.subTest(language):
                 window = self.open_in(language).window
                 frame = extents_of(window.wait_for("Loadwick", "frame"))
-                choose = extents_of(window.wait_for(CHOOSE, "push button"))
-                scan = extents_of(window.wait_for("Scan", "push button"))
+                choose = extents_of(window.wait_for(CHOOSE, "button"))
+                scan = extents_of(window.wait_for("Scan", "button"))
                 self.assertLess(choose.x, scan.x)
                 self.assertLess(frame.x + frame.width - (scan.x + scan.width), 40)
                 self.assertLess(scan.y - frame.y, 40)

@@ -7,7 +7,7 @@ import os
 from pathlib import Path
 from typing import Any
 
-from accessible_tree import is_enabled, is_in_window, text_of, unless_gone
+from accessible_tree import is_enabled, is_in_window, role_of, text_of
 from endtoend_case import SCAN, EndToEndCase, main
 from overview_words import (
     BAND, BREAKDOWN, CHARTS, FILES, HEADER, HEADROOM, PAGES, REPORT, ROWS, TAB_ORDER, WEEKLY
@@ -16,7 +16,7 @@ from program import Program
 from waiting import until
 
 CONTROLS = {
-    "push button", "toggle button", "check box", "combo box", "list", "list item", "slider", "text",
+    "button", "toggle button", "check box", "combo box", "list", "list item", "slider", "text",
     "entry", "link", "page tab", "image", "scroll bar"
 }
 
@@ -87,14 +87,14 @@ class OverviewReadingTest(EndToEndCase):
 
     def test_no_control_is_without_a_name(self) -> None:
         for item in self.open_whole_report().window.items():
-            role = unless_gone(item.get_role_name, "")
+            role = role_of(item)
             if role in CONTROLS:
                 with self.subTest(role):
                     self.assertTrue(item.get_name().strip() or text_of(item).strip(), role)
 
     def test_each_chart_is_one_graphic_with_a_name(self) -> None:
         charts = [item for item in self.open_whole_report().window.items()
-                  if unless_gone(item.get_role_name, "") in ("image", "graphic")]
+                  if role_of(item) in ("image", "graphic")]
         self.assertEqual(len(charts), CHARTS, [chart.get_name() for chart in charts])
         for chart in charts:
             self.assertTrue(chart.get_name())
@@ -111,8 +111,8 @@ class OverviewReadingTest(EndToEndCase):
         program.window.resize(1180, self.display_height - 100)
         program.window.wait_for(REPORT[-1])
         for control in program.window.items():
-            role = unless_gone(control.get_role_name, "")
-            if role == "push button" and is_enabled(control) and text_of(control) not in PAGES:
+            role = role_of(control)
+            if role == "button" and is_enabled(control) and text_of(control) not in PAGES:
                 self.assertIn(text_of(control), names)
 
     def test_the_keyboard_walks_back_the_same_way(self) -> None:
@@ -203,7 +203,7 @@ class OverviewReadingTest(EndToEndCase):
     def path_of(item: Any) -> str:
         """The indices that lead from the window to an object."""
         indices = []
-        while item is not None and item.get_role_name() != "application":
+        while item is not None and role_of(item) != "application":
             indices.append(item.get_index_in_parent())
             item = item.get_parent()
         return "/".join(map(str, reversed(indices)))

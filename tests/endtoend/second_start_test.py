@@ -48,7 +48,7 @@ class SecondStartTest(EndToEndCase):
         first = self.open()
         self.home = self.enterContext(ThrowAwayHome())
         second = self.open()
-        second.window.wait_for(CHOOSE, "push button")
+        second.window.wait_for(CHOOSE, "button")
         self.assertIsNone(first.process.poll())
 
 

@@ -59,7 +59,7 @@ class SuccessesTest(EndToEndCase):
         self.home.hold()
         program.window.press(SCAN)
         program.window.wait_for("Scanning")
-        program.window.wait_for("Scanning…", "push button")
+        program.window.wait_for("Scanning…", "button")
         self.assertFalse(program.window.is_enabled("Scanning…"))
         self.assertFalse(program.window.is_enabled(CHOOSE))
         self.home.release()

@@ -25,7 +25,7 @@ class TracedCase(EndToEndCase):
         # The leak checker is itself a tracer, and a process can have only one.
         environment["ASAN_OPTIONS"] = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
         program = self.start(tracer=tracer, environment=environment)
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         return program
 
     def close_traced(self, program: Program) -> str:
