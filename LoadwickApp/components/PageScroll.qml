@@ -9,8 +9,7 @@ Item {
     readonly property real farthest: Math.max(0, scroll.viewport.contentHeight - scroll.viewport.height)
     // Less than a page, so that the line at the edge stays visible.
     readonly property real pageStep: scroll.viewport.height - AppTheme.wideSpace
-    // The section whose header has the focus, and whether it was opened since the page last changed
-    // its height.
+    // The section whose header has the focus, and whether it was opened and has not scrolled yet.
     property CollapsibleSection section: null
     property bool isOpening: false
 
@@ -65,9 +64,15 @@ Item {
         scroll.isOpening = false;
     }
 
-    // A section that was just opened scrolls into view, header first.
+    // A section that was just opened scrolls into view, header first, once both it and the page have
+    // grown; which of them is first depends on the version of Qt.
     function revealOpened() {
-        if (scroll.isOpening && scroll.section && !pointer.active)
+        if (!scroll.isOpening || !scroll.section || scroll.section.height < Math.floor(scroll.section.implicitHeight))
+            return;
+        const bottom = scroll.section.mapToItem(scroll.viewport.contentItem, 0, scroll.section.height).y;
+        if (bottom > scroll.viewport.contentHeight)
+            return;
+        if (!pointer.active)
             scroll.reveal(scroll.section);
         scroll.isOpening = false;
     }
@@ -81,6 +86,7 @@ Item {
         target: scroll.section
 
         function onIsExpandedChanged() { scroll.isOpening = scroll.section.isExpanded; }
+        function onHeightChanged() { scroll.revealOpened(); }
     }
     Connections {
         target: scroll.viewport
