@@ -1,7 +1,10 @@
 # Qt for all folders that build with it, found once, so that each of them sees the same targets.
-find_package(Qt6 6.4 REQUIRED COMPONENTS DBus Gui Qml Quick QuickControls2 Svg Widgets)
+loadwick_needs_qt(6.4 DBus Gui Qml Quick QuickControls2 Svg Widgets)
+loadwick_needs_private_qt(Quick qaccessiblequickitem_p.h)
+loadwick_needs_modules_of("${PROJECT_SOURCE_DIR}/LoadwickApp")
 if(LOADWICK_BUILD_TESTS)
-    find_package(Qt6 6.4 REQUIRED COMPONENTS Test QuickTest)
+    loadwick_needs_qt(6.4 Test QuickTest)
+    loadwick_needs_modules_of("${PROJECT_SOURCE_DIR}/tests/qml")
 endif()
 set(QT_QML_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml")
 

@@ -16,6 +16,17 @@ set_tests_properties(house/layers-finds-upward-uses house/sizes-finds-long-ones
 set_tests_properties(house/sizes-finds-long-ones PROPERTIES PASS_REGULAR_EXPRESSION
     "Long.cpp:6: longest has 41 lines[^\n]*\n50% [^\n]*\n90% [^\n]*\nLoadwickApp/page/Long.qml has 201 lines")
 
+# The configuration names all that it lacks, also what a module needs in turn.
+add_test(NAME house/names-what-is-missing
+         COMMAND ${CMAKE_COMMAND} -S "${CMAKE_CURRENT_SOURCE_DIR}/fixtures/needs"
+                 -B "${CMAKE_CURRENT_BINARY_DIR}/needs" --fresh)
+string(JOIN "[ \n]*" missing
+    "Found:" "Present" "QML module QtQuick" "Missing:" "Absent 2.1 COMPONENTS one two"
+    "Qt6QuickPrivate with private/qquickitem_p.h" "QML module QtQuick.Absent"
+    "QML module QtQuick.Imported" "QML module QtQml.Deep" "Install")
+set_tests_properties(house/names-what-is-missing PROPERTIES LABELS house TIMEOUT 60
+                                                            PASS_REGULAR_EXPRESSION "${missing}")
+
 add_test(NAME house/qmllint
          COMMAND ${CMAKE_COMMAND} --build "${PROJECT_BINARY_DIR}" --target all_qmllint)
 set_tests_properties(house/qmllint PROPERTIES LABELS "house;app" TIMEOUT 900)
