@@ -26,11 +26,8 @@ endmacro()
 
 # The private headers of a part of Qt, one of which is `header`. Some distributions package them apart.
 function(loadwick_needs_private_qt part header)
-    set(folders "")
-    if(TARGET Qt6::${part}Private)
-        get_target_property(folders Qt6::${part}Private INTERFACE_INCLUDE_DIRECTORIES)
-    endif()
-    find_file(found "private/${header}" PATHS ${folders} NO_DEFAULT_PATH NO_CACHE)
+    find_file(found "private/${header}" PATHS ${Qt6${part}_INCLUDE_DIRS} NO_DEFAULT_PATH NO_CACHE
+              PATH_SUFFIXES "${Qt6${part}_VERSION}/Qt${part}")
     loadwick_note("${found}" "Qt6${part}Private with private/${header}")
 endfunction()
 
