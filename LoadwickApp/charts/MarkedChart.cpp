@@ -45,6 +45,11 @@ int MarkedChart::currentMark() const noexcept
     return m_pointed >= 0 ? m_pointed : m_chosen;
 }
 
+QString MarkedChart::markPosition() const
+{
+    return currentMark() < 0 ? QString() : tr("%1 of %2").arg(currentMark() + 1).arg(markCount());
+}
+
 void MarkedChart::forgetMarks()
 {
     setMarks(-1, -1);
@@ -73,8 +78,11 @@ void MarkedChart::keyPressEvent(QKeyEvent *event)
     const std::optional<int> mark =
         markCount() > 0 ? markAfterKey(event->key(), m_chosen, markCount()) : std::nullopt;
     event->setAccepted(mark.has_value());
-    if (mark) // A resting pointer does not override the keys.
-        setMarks(-1, *mark);
+    if (!mark)
+        return;
+    setMarks(-1, *mark); // A resting pointer does not override the keys.
+    if (*mark >= 0)
+        Q_EMIT walked();
 }
 
 void MarkedChart::focusOutEvent(QFocusEvent *event)

@@ -17,14 +17,19 @@ class MarkedChart : public QQuickPaintedItem
     QML_ANONYMOUS
     /// The index of the current mark, -1 while there is none.
     Q_PROPERTY(int currentMark READ currentMark NOTIFY currentMarkChanged)
+    Q_PROPERTY(QString markPosition READ markPosition NOTIFY currentMarkChanged)
 
 public:
     explicit MarkedChart(QQuickItem *parent = nullptr);
 
     [[nodiscard]] int currentMark() const noexcept;
+    /// "2 of 8"; empty without a current mark.
+    [[nodiscard]] QString markPosition() const;
 
 Q_SIGNALS:
     void currentMarkChanged();
+    /// A key has chosen the current mark, perhaps again. A screen reader does not notice by itself.
+    void walked();
 
 protected:
     [[nodiscard]] virtual int markCount() const = 0;

@@ -46,8 +46,10 @@ RowLayout {
             colors: AppTheme.chartColors
             Accessible.role: Accessible.Graphic
             Accessible.name: chart.breakdown.chartSummary
-            Accessible.description: donut.currentRow < 0 ? readOut.hint : chart.breakdown.readOutSentence(donut.currentRow)
+            Accessible.description: donut.currentRow < 0 ? readOut.hint + " " + qsTr("The arrow keys walk the segments.")
+                                                         : chart.breakdown.readOutSentence(donut.currentRow)
             Accessible.focusable: true
+            onWalked: Announcer.announce(donut.Accessible.description + "\n" + donut.markPosition)
 
             FocusRing {
                 shown: donut.activeFocus

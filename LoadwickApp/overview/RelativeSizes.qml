@@ -67,8 +67,9 @@ ColumnLayout {
                 dimming: AppTheme.tileDimming
                 Accessible.role: Accessible.Graphic
                 Accessible.name: sizes.files.sizeSummary
-                Accessible.description: sizes.files.tiles.text(map.currentMark, "words")
+                Accessible.description: map.currentMark < 0 ? readOut.hint : sizes.files.tiles.text(map.currentMark, "words")
                 Accessible.focusable: true
+                onWalked: Announcer.announce(map.Accessible.description + "\n" + map.markPosition)
 
                 FocusRing {
                     shown: map.activeFocus

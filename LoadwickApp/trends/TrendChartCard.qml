@@ -70,12 +70,15 @@ ReportSurface {
         groundColor: AppTheme.surface
         Accessible.role: Accessible.Graphic
         Accessible.name: card.chart.summary
-        Accessible.description: plot.readout
+        Accessible.description: plot.currentMark < 0 ? caption.text + " " + qsTr("The arrow keys walk the scans.") : plot.readout
         Accessible.focusable: true
+        onWalked: Announcer.announce(plot.readout + "\n" + plot.markPosition)
 
         FocusRing { shown: plot.activeFocus }
     }
     PlainLabel {
+        id: caption
+
         Layout.fillWidth: true
         text: qsTr("Hover the chart to read a single scan. Dashed lines mark the band thresholds.")
         font: AppTheme.captionFont

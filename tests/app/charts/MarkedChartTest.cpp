@@ -128,6 +128,29 @@ private Q_SLOTS:
         QCOMPARE(shown.chart.currentMark(), -1);
     }
 
+    void namesThePositionOfTheCurrentMark()
+    {
+        ChartWindow shown(3);
+        shown.afterKey(Qt::Key_End);
+        QCOMPARE(shown.chart.markPosition(), QStringLiteral("3 of 3"));
+        shown.afterKey(Qt::Key_Escape);
+        QCOMPARE(shown.chart.markPosition(), QString());
+    }
+
+    void signalsEveryKeyThatChoosesAMark()
+    {
+        ChartWindow shown(2);
+        const QSignalSpy walks(&shown.chart, &MarkedChart::walked);
+        shown.afterMoveTo({15, 5});
+        QCOMPARE(walks.count(), 0);
+        shown.afterKey(Qt::Key_Left);
+        shown.afterKey(Qt::Key_Right);
+        QCOMPARE(walks.count(), 2);
+        shown.afterKey(Qt::Key_Escape);
+        shown.afterKey(Qt::Key_A);
+        QCOMPARE(walks.count(), 2);
+    }
+
     void aChartWithoutMarksIgnoresKeys()
     {
         ChartWindow shown(0);

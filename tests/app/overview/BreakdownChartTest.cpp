@@ -69,7 +69,8 @@ private Q_SLOTS:
         QVERIFY(chart != nullptr);
         QCOMPARE(chart->role(), QAccessible::Graphic);
         QCOMPARE(chart->text(QAccessible::Name), shown.breakdown().chartSummary());
-        QCOMPARE(chart->text(QAccessible::Description), hint);
+        QCOMPARE(chart->text(QAccessible::Description),
+                 hint + QStringLiteral(" The arrow keys walk the segments."));
         shown.press(Qt::Key_Tab);
         shown.press(Qt::Key_Right);
         QCOMPARE(chart->text(QAccessible::Description), shown.breakdown().readOutSentence(0));

@@ -5,8 +5,10 @@
 #include "base/QtText.h"
 #include "onboarding/OnboardingPresenter.h"
 #include "samples/SampleHistories.h"
+#include "samples/SampleScans.h"
 #include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
+#include "support/VisualItems.h"
 #include "support/WindowFixture.h"
 
 namespace Loadwick {
@@ -31,6 +33,8 @@ private Q_SLOTS:
     void copyingIsAnnounced();
     void aSavedFileIsAnnounced();
     void theStepsOfTheWalkThroughAreAnnounced();
+    void theMarkThatAKeyReachesIsAnnounced_data();
+    void theMarkThatAKeyReachesIsAnnounced();
     void onlyTheLastAnnouncementsAreKept();
 
 private:
@@ -153,6 +157,48 @@ void AnnouncementsTest::theStepsOfTheWalkThroughAreAnnounced()
              qPrintable(words));
     m_window->press(Qt::Key_Escape);
     QCOMPARE(heard(), QStringList());
+}
+
+void AnnouncementsTest::theMarkThatAKeyReachesIsAnnounced_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("chart");
+    QTest::addColumn<QString>("hint");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("donut")
+        << 0 << QStringLiteral("donut") << QStringLiteral(" The arrow keys walk the segments.")
+        << QStringLiteral("Repository instructions, 26,177 tokens, 18.4%, measured on disk at ~4 "
+                          "bytes/token (estimate)\n1 of 15");
+    QTest::newRow("treemap") << 0 << QStringLiteral("map")
+                             << QStringLiteral("walk the tiles with the arrow keys, for its path "
+                                               "and share.")
+                             << QStringLiteral("31,870 bytes on disk · local estimate at 4 "
+                                               "bytes/token.\n1 of 31");
+    QTest::newRow("trend") << 1 << QStringLiteral("chart")
+                           << QStringLiteral(" The arrow keys walk the scans.")
+                           << QStringLiteral(" tokens\n1 of 7");
+}
+
+void AnnouncementsTest::theMarkThatAKeyReachesIsAnnounced()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, chart);
+    QFETCH(const QString, hint);
+    QFETCH(const QString, first);
+    ScanModel &model = m_window->loadwick().model();
+    model.history().set(SampleHistories::ofSize(31, 5, 3));
+    model.state().set(ScanState::result(SampleScans::excessive().report()));
+    content().setPageIndex(page);
+    const auto found = visibleItems(m_window->loadwick().window().contentItem(), chart);
+    QCOMPARE(found.size(), 1);
+    const QAccessibleInterface *graphic = QAccessible::queryAccessibleInterface(found.front());
+    QVERIFY2(graphic->text(QAccessible::Description).endsWith(hint),
+             qPrintable(graphic->text(QAccessible::Description)));
+    (void)heard();
+    found.front()->forceActiveFocus();
+    m_window->press(Qt::Key_Right);
+    const QString words = heard().join(u'|');
+    QVERIFY2(words.endsWith(first), qPrintable(words));
 }
 
 void AnnouncementsTest::onlyTheLastAnnouncementsAreKept()
