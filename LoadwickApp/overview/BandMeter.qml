@@ -60,8 +60,11 @@ Item {
     }
 
     implicitHeight: AppTheme.meterHeight + AppTheme.tightSpace + lean.implicitHeight
+    // The one tab stop of its card: it says the total and the band, too.
+    activeFocusOnTab: true
     Accessible.role: Accessible.Graphic
     Accessible.name: meter.band.meterSummary
+    Accessible.focusable: true
     // A new total slides in from the start.
     onTotalChanged: if (entrance.hasBegun) entrance.begin()
 
@@ -113,6 +116,8 @@ Item {
         radius: width / 2
         color: AppTheme.text
     }
+
+    FocusRing { shown: meter.activeFocus }
 
     Item {
         objectName: "labels"

@@ -9,7 +9,7 @@ Item {
     required property ContentPresenter content
     required property OverviewPresenter overview
     required property OnboardingPresenter onboarding
-    readonly property int mostItems: 4
+    readonly property int mostItems: 10
 
     objectName: "announcements"
 

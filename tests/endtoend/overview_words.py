@@ -93,6 +93,7 @@ TAB_ORDER = (
     CHOOSE,
     SCAN,
     "/webshop",
+    "Band meter",
     "Why these bands?",
     "Donut chart",
     "system tools",

@@ -53,6 +53,14 @@ Item {
             compare(marker(meter).color, AppTheme.text);
         }
 
+        function test_theKeyboardReachesItsWords() {
+            const meter = createTemporaryObject(meters, scene);
+            keyClick(Qt.Key_Tab);
+            verify(meter.activeFocus);
+            compare(meter.Accessible.name, sample.presenter.meterSummary);
+            verify(meter.Accessible.focusable);
+        }
+
         function test_withReduceMotionTheMarkerDoesNotSlide() {
             const meter = createTemporaryObject(meters, scene);
             compare(meter.markerProgress, 0.5);

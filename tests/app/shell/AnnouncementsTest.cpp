@@ -208,7 +208,7 @@ void AnnouncementsTest::onlyTheLastAnnouncementsAreKept()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(heard().size(), 1);
     }
-    QCOMPARE(announcements()->childItems().size(), 4);
+    QCOMPARE(announcements()->childItems().size(), 10);
 }
 
 const RegisteredTest<AnnouncementsTest> registered("Announcements");
