@@ -44,14 +44,11 @@ bool isOurs(int descriptor)
            peer.uid == ::geteuid();
 }
 
-QByteArray ownToken()
+/// One that cannot be sent is left out.
+QByteArray line(const QByteArray &token)
 {
-    QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
-    if (token.isEmpty()) // launchers of GLib before 2.76 leave it here
-        token = qgetenv("DESKTOP_STARTUP_ID");
-    if (token.contains(lineEnd) || token.size() > longestToken)
-        token.clear();
-    return token + lineEnd;
+    const bool isUnfit = token.contains(lineEnd) || token.size() > longestToken;
+    return (isUnfit ? QByteArray() : token) + lineEnd;
 }
 
 bool send(int descriptor, const QByteArray &bytes)
@@ -98,25 +95,34 @@ const sockaddr *LocalAddress::address() const noexcept
     return reinterpret_cast<const sockaddr *>(&m_address);
 }
 
-SingleInstance::SingleInstance(const std::filesystem::path &dataFolder, QObject *parent)
+QByteArray SingleInstance::launchToken()
+{
+    QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    if (token.isEmpty()) // launchers of GLib before 2.76 leave it here
+        token = qgetenv("DESKTOP_STARTUP_ID");
+    return token;
+}
+
+SingleInstance::SingleInstance(const std::filesystem::path &dataFolder, const QByteArray &token,
+                               QObject *parent)
     : QObject(parent)
 {
     if (dataFolder.empty())
         return;
     const LocalAddress address(dataFolder);
-    m_isAnswered = ask(address);
+    m_isAnswered = ask(address, token);
     // If two start at once, one gets no answer and then finds the name in use.
     if (!m_isAnswered && !listen(address) && errno == EADDRINUSE)
-        m_isAnswered = ask(address);
+        m_isAnswered = ask(address, token);
 }
 
-bool SingleInstance::ask(const LocalAddress &address)
+bool SingleInstance::ask(const LocalAddress &address, const QByteArray &token)
 {
     const FileDescriptor socket = newSocket();
     const int descriptor = socket.number();
     if (!socket.isOpen() || ::connect(descriptor, address.address(), address.length()) != 0)
         return false;
-    return isOurs(descriptor) && send(descriptor, ownToken()) && becomesReadable(descriptor) &&
+    return isOurs(descriptor) && send(descriptor, line(token)) && becomesReadable(descriptor) &&
            !received(descriptor).isEmpty();
 }
 

@@ -37,9 +37,14 @@ class SingleInstance final : public QObject
     Q_OBJECT
 
 public:
+    /// The desktop's permission to raise the window, as a launcher left it in the environment;
+    /// empty without one. Read it before the application exists: GTK's platform theme removes it.
+    [[nodiscard]] static QByteArray launchToken();
+
     /// Asks the running instance, or else listens for later ones. Blocks for a second at most, and
     /// only if a running instance does not answer. A no-op without a folder.
-    explicit SingleInstance(const std::filesystem::path &dataFolder, QObject *parent = nullptr);
+    explicit SingleInstance(const std::filesystem::path &dataFolder,
+                            const QByteArray &token = launchToken(), QObject *parent = nullptr);
 
     /// A running instance shows its window instead, and this one can exit.
     [[nodiscard]] bool isAnswered() const noexcept { return m_isAnswered; }
@@ -53,7 +58,7 @@ Q_SIGNALS:
     void windowWanted(const QByteArray &token);
 
 private:
-    [[nodiscard]] static bool ask(const LocalAddress &address);
+    [[nodiscard]] static bool ask(const LocalAddress &address, const QByteArray &token);
     [[nodiscard]] bool listen(const LocalAddress &address);
     void receive();
     void answer(int descriptor);

@@ -60,12 +60,13 @@ public:
 int runWindow(int argc, char **argv, const MakeCollaborators &make,
               const std::shared_ptr<Shutdown> &shutdown)
 {
+    const QByteArray launchToken = SingleInstance::launchToken();
     std::optional<DisplayFailure> displayFailure(std::in_place);
     QApplication application(argc, argv);
     displayFailure.reset();
     ApplicationSetup::apply(application);
     LoadwickWindow::Collaborators collaborators = make(shutdown);
-    const SingleInstance instance(collaborators.dataFolder);
+    const SingleInstance instance(collaborators.dataFolder, launchToken);
     if (instance.isAnswered()) {
         std::puts("Loadwick is open already: its window was asked to come to the front.");
         std::fflush(stdout); // the exit does not flush

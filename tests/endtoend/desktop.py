@@ -32,7 +32,7 @@ class Desktop:
     def __enter__(self) -> "Desktop":
         try:
             self.compositor.__enter__()
-            self._start_notices()
+            self._start(self.notices.service, self.notices.command)
             self._start_portals()
         except BaseException:
             self.__exit__()
@@ -72,10 +72,6 @@ class Desktop:
     def process_of(self, service: str) -> int:
         """The process id of a service that the desktop started."""
         return self._processes[service].pid
-
-    def _start_notices(self) -> None:
-        if self.notices.command:
-            self._start("org.freedesktop.Notifications", self.notices.command)
 
     def _start_portals(self) -> None:
         choice = self._home.path / ".config" / "xdg-desktop-portal" / "portals.conf"

@@ -6,7 +6,7 @@ import os
 import subprocess
 import unittest
 from pathlib import Path
-from typing import Any
+from typing import Any, Callable
 
 from compositors.compositor import Compositor
 from desktop import Desktop
@@ -28,7 +28,8 @@ StartupNotify=true
 SECOND_START = """#!/bin/sh
 token=${{XDG_ACTIVATION_TOKEN:-$DESKTOP_STARTUP_ID}}
 unset XDG_ACTIVATION_TOKEN DESKTOP_STARTUP_ID
-exec env {variable}="$token" {command}
+# GTK's theme takes the startup ID out of the environment.
+exec env {variable}="$token" QT_QPA_PLATFORMTHEME=gtk3 {command}
 """
 
 
@@ -36,7 +37,7 @@ class DesktopCase(EndToEndCase):
     """A test on a desktop of its own."""
 
     compositor_type: type[Compositor]
-    notices_type: type[Any]
+    notices_type: Callable[[Any], Any]
 
     @classmethod
     def setUpClass(cls) -> None:
@@ -46,8 +47,10 @@ class DesktopCase(EndToEndCase):
 
     def setUp(self) -> None:
         super().setUp()
+        self.entry = self.install_entry()
         compositor = self.compositor_type(self.home.path)
-        self.desktop = self.enterContext(Desktop(compositor, self.notices_type(), self.home))
+        notices = type(self).notices_type(compositor)
+        self.desktop = self.enterContext(Desktop(compositor, notices, self.home))
 
     def open_here(self, *options: str, **environment: str) -> Program:
         """Opens the window on the desktop; it closes with the test."""
@@ -75,10 +78,26 @@ class DesktopCase(EndToEndCase):
         """Returns once the window of this application has the focus."""
         until(f"the focus on {identity}", lambda: self.desktop.compositor.active() == identity)
 
-    def open_launcher(self, entry: Path) -> None:
+    def install_entry(self) -> Path:
+        """Writes the desktop entry of the program, which runs a script; returns the entry's file."""
+        entry = self.home.path / ".local/share/applications" / f"{IDENTITY}.desktop"
+        entry.parent.mkdir()
+        entry.write_text(ENTRY.format(command=self.install_second_start("XDG_ACTIVATION_TOKEN")))
+        return entry
+
+    def install_second_start(self, variable: str) -> Path:
+        """Writes the entry's script, which hands the launcher's token on in this variable."""
+        script = self.home.path / "second-start"
+        command = " ".join(window_command())
+        script.write_text(SECOND_START.format(variable=variable, command=command))
+        script.chmod(0o755)
+        return script
+
+    def open_launcher(self) -> None:
         """Opens another window, which takes the focus."""
+        script = os.fspath(Path(__file__).with_name("launcher.py"))
         launcher = subprocess.Popen(
-            ["/usr/bin/python3", os.fspath(Path(__file__).with_name("launcher.py")), os.fspath(entry)],
+            ["/usr/bin/python3", script, os.fspath(self.entry)],
             env=self.desktop.environment(),
             preexec_fn=end_with_parent,
         )
@@ -89,24 +108,13 @@ class DesktopCase(EndToEndCase):
         compositor.activate(LAUNCHER)
         self.wait_until_active(LAUNCHER)
 
-    def second_start(self, variable: str) -> Path:
-        """A desktop entry that starts the program again, with the launcher's token in this variable."""
-        script = self.home.path / "second-start"
-        command = " ".join(window_command())
-        script.write_text(SECOND_START.format(variable=variable, command=command))
-        script.chmod(0o755)
-        entry = self.home.path / ".local/share/applications" / f"{IDENTITY}.desktop"
-        entry.parent.mkdir(exist_ok=True)
-        entry.write_text(ENTRY.format(command=script))
-        return entry
-
     def finish_unseen_scan(self, program: Program) -> None:
         """Performs a scan that ends while another window has the focus."""
         self.home.hold()
         self.choose(program, self.home.make_repository("webshop"))
         program.window.press(SCAN)
         self.wait_for_session()
-        self.open_launcher(self.second_start("XDG_ACTIVATION_TOKEN"))
+        self.open_launcher()
         program.window.wait_until_inactive()
         self.home.release()
         until("the notice", lambda: self.desktop.notices.titles() == ["Scan complete"])

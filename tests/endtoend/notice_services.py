@@ -13,17 +13,21 @@ MAKO = "fr.emersion.Mako"
 class Mako:
     """mako, for compositors that let a program draw on top of all windows."""
 
+    service = NOTICES
     command = ["mako"]
+
+    def __init__(self, compositor: Compositor) -> None:
+        self._compositor = compositor
 
     def titles(self) -> list[str]:
         """The titles of the notices that are shown."""
         return [str(notice["summary"]) for notice in self._notices()]
 
-    def press(self, compositor: Compositor) -> None:
+    def press(self) -> None:
         """Clicks on the notice, which is in the upper right corner."""
 
         def is_pressed() -> bool:
-            compositor.click(SCREEN[0] - 160, 40)
+            self._compositor.click(SCREEN[0] - 160, 40)
             return not self.titles()
 
         until("the notice to be pressed", is_pressed)

@@ -61,6 +61,10 @@ class Compositor:
         """The application identity of each window."""
         raise NotImplementedError
 
+    def titles(self) -> list[str]:
+        """The title of each window."""
+        raise NotImplementedError
+
     def refusal(self) -> str:
         """Why the compositor has refused to raise a window; "" if it has not."""
         return ""

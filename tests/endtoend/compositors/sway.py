@@ -50,6 +50,9 @@ class Sway(Compositor):
     def identities(self) -> list[str]:
         return [str(window["app_id"]) for window in self._windows()]
 
+    def titles(self) -> list[str]:
+        return [str(window["name"]) for window in self._windows()]
+
     def refusal(self) -> str:
         # sway 1.7 says so of every notice.
         is_refused = "surface doesn't have keyboard focus" in self.words()
