@@ -59,7 +59,7 @@ class DesktopCase(EndToEndCase):
         program = self.start(
             "--follow-desktop", *options, environment=self.desktop.environment() | checks | environment
         )
-        program.window.wait_for(CHOOSE, "push button")
+        program.window.wait_for(CHOOSE, "button")
         return program
 
     def wait_until_raised(self) -> None:
