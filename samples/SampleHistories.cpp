@@ -82,6 +82,33 @@ std::vector<RecordedScan> growing()
     return scans;
 }
 
+/// A repository before and after someone cleaned up: categories that came, went, grew, shrank, and
+/// did not change, and one that was at first counted only beyond its local estimate.
+std::vector<RecordedScan> cleanedUp()
+{
+    RecordedScan before = scanOf(0, 42'318, 1);
+    before.categories = {{"system tools", 16'420},
+                         {"mcp tools", 8'240},
+                         {"Repository instructions", 5'870},
+                         {"Unattributed", 3'770},
+                         {"system prompt", 3'187},
+                         {"memory files (beyond local estimate)", 2'105},
+                         {"custom agents", 1'260},
+                         {"Personal instructions", 980},
+                         {"messages", 486}};
+    RecordedScan after = scanOf(0, 36'204, 0);
+    after.categories = {{"system tools", 16'420},
+                        {"Unattributed", 6'041},
+                        {"Repository instructions", 3'410},
+                        {"system prompt", 3'187},
+                        {"memory files", 2'480},
+                        {"skills", 1'935},
+                        {"custom agents", 1'260},
+                        {"Personal instructions", 980},
+                        {"messages", 491}};
+    return {before, after};
+}
+
 struct Measurement
 {
     std::string_view repository;
@@ -154,7 +181,8 @@ std::vector<SampleHistory> all()
             {.name = "two-repositories", .scans = ofSize(7, 2, 6)},
             {.name = "30-scans", .scans = growing()},
             {.name = "5-repositories", .scans = ofSize(31, 5, 7)},
-            {.name = "30-repositories", .scans = ofSize(200, 30, 9)}};
+            {.name = "30-repositories", .scans = ofSize(200, 30, 9)},
+            {.name = "clean-up", .scans = cleanedUp()}};
 }
 
 std::vector<RecordedScan> ofTenWeeks(const std::filesystem::path &projects,

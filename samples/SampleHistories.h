@@ -33,7 +33,7 @@ inline constexpr std::array<std::string_view, 9> categoryNames{"System tools",
                                                                "Messages"};
 
 /// No scan, one, two equal ones, two repositories, 30 scans of one repository, 31 over five, and
-/// 200 over 30 repositories, in that order. Each ends in March 2026.
+/// 200 over 30 repositories, and two around a clean-up, in that order. Each ends in March 2026.
 [[nodiscard]] std::vector<SampleHistory> all();
 
 /// `scanCount` scans that rotate through `repositoryCount` repositories, each with `categoryCount`

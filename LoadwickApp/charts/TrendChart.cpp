@@ -31,6 +31,14 @@ QString TrendChart::readout() const
     return m_line->date(mark) + QStringLiteral(", ") + m_line->total(mark);
 }
 
+QPointF TrendChart::centreOf(int mark) const
+{
+    if (mark < 0 || mark >= markCount())
+        return {};
+    const LinePoint &point = m_line->geometry().points()[static_cast<std::size_t>(mark)];
+    return {picture().layout().xOf(point.x), picture().layout().yOf(point.y)};
+}
+
 void TrendChart::paint(QPainter *painter)
 {
     if (m_line != nullptr)
@@ -78,6 +86,7 @@ void TrendChart::redraw()
     m_picture.reset();
     m_scans = {};
     update();
+    Q_EMIT drawn();
 }
 
 void TrendChart::replaceScans()

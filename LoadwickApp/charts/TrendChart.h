@@ -41,11 +41,18 @@ public:
 
     [[nodiscard]] QString readout() const;
 
+    /// The scan that a point of the item chooses, -1 for none.
+    Q_INVOKABLE [[nodiscard]] int markUnder(const QPointF &point) const { return markAt(point); }
+    /// The centre of a scan's point, which moves with `drawn`; nothing sensible without the scan.
+    Q_INVOKABLE [[nodiscard]] QPointF centreOf(int mark) const;
+
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
     void lineChanged();
     void styleChanged();
+    /// The points have other places.
+    void drawn();
 
 protected:
     [[nodiscard]] int markCount() const override;

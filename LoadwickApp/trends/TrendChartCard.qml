@@ -7,6 +7,8 @@ ReportSurface {
     id: card
 
     required property TrendChartPresenter chart
+    // What the chart's points choose. Null: nothing.
+    property ScanChangesPresenter changes: null
     // Null: nothing can be saved here.
     property PageExport exporter: null
     // The page's subject, for viewers of the picture alone.
@@ -74,6 +76,26 @@ ReportSurface {
         Accessible.focusable: true
         onWalked: Announcer.announce(plot.readout + "\n" + plot.markPosition)
 
+        Keys.enabled: card.changes !== null
+        Keys.onReturnPressed: card.changes.choosePoint(plot.currentMark)
+        Keys.onEnterPressed: card.changes.choosePoint(plot.currentMark)
+
+        TapHandler {
+            enabled: card.changes !== null
+            onTapped: point => card.changes.choosePoint(plot.markUnder(point.position))
+        }
+        HoverHandler { cursorShape: card.changes && plot.currentMark >= 0 ? Qt.PointingHandCursor : Qt.ArrowCursor }
+        ComparedPoint {
+            objectName: "earlierPoint"
+            chart: plot
+            point: card.changes ? card.changes.earlierPoint : -1
+        }
+        ComparedPoint {
+            objectName: "laterPoint"
+            chart: plot
+            point: card.changes ? card.changes.laterPoint : -1
+            isFilled: true
+        }
         FocusRing { shown: plot.activeFocus }
     }
     PlainLabel {

@@ -2,11 +2,13 @@ import QtQuick
 import QtQuick.Layouts
 import Loadwick
 
-// The repository's latest total, and how far it has moved.
+// The repository's latest total, how far it has moved, and what changed from one scan to another.
 ReportSurface {
     id: card
 
     required property TrendSummaryPresenter summary
+    required property ScanChangesPresenter changes
+    required property Flickable viewport
     // All three are of equal width, whatever their content.
     readonly property real tileWidth: Math.max(latest.implicitWidth, band.implicitWidth, drift.implicitWidth)
 
@@ -46,5 +48,17 @@ ReportSurface {
             value: card.summary.drift
             caption: card.summary.driftCaption
         }
+    }
+    Loader {
+        id: section
+
+        Layout.fillWidth: true
+        active: card.changes.hasChanges
+        visible: active
+        Component.onCompleted: section.setSource("ScanChangesSection.qml", {
+            changes: card.changes,
+            viewport: card.viewport,
+            room: Qt.binding(() => card.width - 2 * AppTheme.cardPadding)
+        })
     }
 }

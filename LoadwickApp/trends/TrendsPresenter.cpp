@@ -22,7 +22,11 @@ QString pageDetail(const QString &repositoryName)
 } // namespace
 
 TrendsPresenter::TrendsPresenter(ScanModel &model, const TextLocale &locale)
-    : m_model(model), m_chart(locale), m_summary(locale), m_recordedData(model, locale)
+    : m_model(model),
+      m_chart(locale),
+      m_summary(locale),
+      m_changes(model, locale),
+      m_recordedData(model, locale)
 {
     m_model.selection().observe({.didChange = [this] { showRepository(); }});
     m_model.history().observe({.didChange = [this] { showHistory(); }});
@@ -57,6 +61,7 @@ void TrendsPresenter::showRepository()
     else
         m_chart.show(scans);
     m_summary.show(m_chart.line()->geometry().samples());
+    m_changes.show(shownRepository());
     Q_EMIT changed();
     auto repository = shownRepository();
     if (repository == m_repository)

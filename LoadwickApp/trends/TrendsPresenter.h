@@ -11,6 +11,7 @@
 #include "model/ScanModel.h"
 #include "text/TextLocale.h"
 #include "trends/RecordedDataPresenter.h"
+#include "trends/ScanChangesPresenter.h"
 #include "trends/TrendChartPresenter.h"
 #include "trends/TrendSummaryPresenter.h"
 
@@ -27,6 +28,7 @@ class TrendsPresenter final : public QObject
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
     Q_PROPERTY(Loadwick::TrendChartPresenter *chart READ chart CONSTANT)
     Q_PROPERTY(Loadwick::TrendSummaryPresenter *summary READ summary CONSTANT)
+    Q_PROPERTY(Loadwick::ScanChangesPresenter *changes READ changes CONSTANT)
     Q_PROPERTY(Loadwick::RecordedDataPresenter *recordedData READ recordedData CONSTANT)
 
 public:
@@ -37,6 +39,7 @@ public:
 
     [[nodiscard]] TrendChartPresenter *chart() { return &m_chart; }
     [[nodiscard]] TrendSummaryPresenter *summary() { return &m_summary; }
+    [[nodiscard]] ScanChangesPresenter *changes() { return &m_changes; }
     [[nodiscard]] RecordedDataPresenter *recordedData() { return &m_recordedData; }
 
     /// The scans of the chart for other programs, as `ScanTables::totals` writes them.
@@ -63,6 +66,7 @@ private:
     QString m_detail;
     TrendChartPresenter m_chart;
     TrendSummaryPresenter m_summary;
+    ScanChangesPresenter m_changes;
     RecordedDataPresenter m_recordedData;
 };
 

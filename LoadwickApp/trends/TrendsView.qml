@@ -23,12 +23,15 @@ PageColumn {
     TrendChartCard {
         Layout.fillWidth: true
         chart: page.trends.chart
+        changes: page.trends.changes
         exporter: page.exporter
         subject: page.trends.detail
     }
     TrendSummaryCard {
         Layout.fillWidth: true
         summary: page.trends.summary
+        changes: page.trends.changes
+        viewport: page.viewport
         visible: page.trends.summary.hasScans
     }
     PreviousRunsCard {

@@ -60,7 +60,8 @@ TEST(SampleHistoriesTest, haveTheScansAndRepositoriesThatTheirNamesPromise)
                                       {"two-repositories", {7, 2}},
                                       {"30-scans", {30, 1}},
                                       {"5-repositories", {31, 5}},
-                                      {"30-repositories", {200, 30}}}));
+                                      {"30-repositories", {200, 30}},
+                                      {"clean-up", {2, 1}}}));
 }
 
 TEST(SampleHistoriesTest, areOrderedFromOldestToNewest)
