@@ -14,12 +14,9 @@ RowLayout {
 
     spacing: AppTheme.mediumSpace
 
-    PlainLabel {
+    SaveOutcome {
         Layout.fillWidth: true
-        text: bar.exporter ? bar.exporter.outcome : ""
-        font: AppTheme.captionFont
-        color: bar.exporter && bar.exporter.failed ? AppTheme.bandExcessiveText : AppTheme.secondaryText
-        wrapMode: Text.Wrap
+        exporter: bar.exporter
     }
     PushButton {
         title: qsTr("Save Data…")

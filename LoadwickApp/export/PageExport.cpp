@@ -53,6 +53,18 @@ void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
     });
 }
 
+void PageExport::saveReport()
+{
+    const QPointer<PageExport> page(this);
+    const FileSaver::Request request = {.title = tr("Save the report"),
+                                        .name = m_contents.name() + QStringLiteral(".html"),
+                                        .filters = {tr("Web page (*.html)")}};
+    m_saver.open(request, [page, report = m_contents.report()](const FileSaver::Target &target) {
+        if (page)
+            page->write(target, report);
+    });
+}
+
 void PageExport::write(const FileSaver::Target &target, const PictureFrame::Bytes &bytes)
 {
     const bool isStarted = inBackground(

@@ -16,9 +16,9 @@
 
 namespace Loadwick {
 
-/// Saves one page as files for other programs: its scans as comma-separated values, its chart as a
-/// picture. Files are written in the background. Belongs to the interface thread;
-/// the saver outlives it.
+/// Saves one page as files for other programs: its figures as comma-separated values, its chart as
+/// a picture, all of it as a report. Files are written in the background. Belongs to the interface
+/// thread; the saver outlives it.
 class PageExport final : public QObject
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ public:
     {
         std::function<QString()> name; ///< of the files, without their ending
         std::function<std::string()> table;
+        std::function<PictureFrame::Bytes()> report = {}; ///< an HTML file; none of most pages
     };
 
     PageExport(Contents contents, FileSaver &saver, std::shared_ptr<TaskDispatcher> dispatcher);
@@ -45,6 +46,9 @@ public:
 
     /// As a drawing if the file's name ends in ".svg", else as a picture.
     Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, Loadwick::PictureFrame *frame);
+
+    /// The report as it is when the user is asked for a file.
+    Q_INVOKABLE void saveReport();
 
 Q_SIGNALS:
     void changed();

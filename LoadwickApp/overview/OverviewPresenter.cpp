@@ -8,6 +8,8 @@
 #include <QGuiApplication>
 
 #include "base/QtText.h"
+#include "overview/ReportDocument.h"
+#include "report/ReportTable.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {
@@ -49,9 +51,10 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
     : m_model(model),
       m_locale(std::move(locale)),
       m_clock(std::move(clock)),
+      m_home(std::move(home)),
       m_start(m_clock()),
       m_breakdown(m_locale),
-      m_files(m_locale, std::move(home)),
+      m_files(m_locale, m_home),
       m_details({{"label", [](const SessionDetail &detail) { return detail.label; }},
                  {"value", [](const SessionDetail &detail) { return detail.value; }}}),
       m_weekly(m_locale),
@@ -103,6 +106,39 @@ void OverviewPresenter::copySummary() const
     QGuiApplication::clipboard()->setText(m_summary);
 }
 
+QString OverviewPresenter::repositoryName() const
+{
+    return m_report ? qtText(m_report->repositoryName) : QString();
+}
+
+std::string OverviewPresenter::table() const
+{
+    return m_report ? ReportTable::bytes(*m_report) : std::string();
+}
+
+std::function<QByteArray()> OverviewPresenter::document() const
+{
+    using std::chrono::system_clock;
+    const ReportDocument document = {
+        .report = m_report,
+        .scanned = recordedDate(),
+        .saved = std::chrono::floor<std::chrono::seconds>(system_clock::now()),
+        .locale = m_locale,
+        .home = m_home};
+    return [document] { return document.html(); };
+}
+
+/// The report itself has no date. It is the last one of its repository, unless the history was
+/// cleared.
+std::optional<std::chrono::sys_seconds> OverviewPresenter::recordedDate() const
+{
+    const auto &history = m_model.history().get();
+    const auto recorded = std::find_if(history.rbegin(), history.rend(), [this](const auto &scan) {
+        return scan.repositoryPath == m_report->repositoryPath;
+    });
+    return recorded != history.rend() ? std::optional(recorded->date) : std::nullopt;
+}
+
 void OverviewPresenter::show(const ScanState::Idle &)
 {
     m_state = State::Empty;
@@ -127,7 +163,8 @@ void OverviewPresenter::show(const ScanState::Failed &failed)
 void OverviewPresenter::show(const ScanState::Result &result)
 {
     m_state = State::Report;
-    const ScanReport &report = result.report;
+    m_report = std::make_shared<const ScanReport>(result.report);
+    const ScanReport &report = *m_report;
     m_repositoryPath = qtText(report.repositoryPath);
     m_summary = summaryOf(report, m_locale);
     m_notes = {qtText(ScanReport::measurementNote), qtText(ScanReport::splitsEstimateNote),

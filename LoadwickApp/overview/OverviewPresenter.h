@@ -3,6 +3,9 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <optional>
+#include <string>
 
 #include <QObject>
 #include <QTimer>
@@ -100,6 +103,13 @@ public:
     /// Puts the summary on the clipboard.
     Q_INVOKABLE void copySummary() const;
 
+    /// The name of the last report's repository; empty before the first.
+    [[nodiscard]] QString repositoryName() const;
+    /// The last report for other programs, as `ReportTable` writes it.
+    [[nodiscard]] std::string table() const;
+    /// Makes the last report's HTML file, on any thread.
+    [[nodiscard]] std::function<QByteArray()> document() const;
+
 Q_SIGNALS:
     void changed();
     void elapsedChanged();
@@ -111,10 +121,13 @@ private:
     void show(const ScanState::Result &result);
     void showCurrentState();
     [[nodiscard]] std::chrono::seconds elapsedTime() const;
+    [[nodiscard]] std::optional<std::chrono::sys_seconds> recordedDate() const;
 
     ScanModel &m_model;
     TextLocale m_locale;
     Clock m_clock;
+    std::filesystem::path m_home;
+    std::shared_ptr<const ScanReport> m_report;
     QTimer m_tick;
     std::chrono::steady_clock::time_point m_start;
     State m_state = State::Empty;

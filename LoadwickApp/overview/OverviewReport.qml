@@ -7,6 +7,7 @@ PageColumn {
     id: page
 
     required property OverviewPresenter overview
+    required property PageExport exporter
 
     RowLayout {
         Layout.fillWidth: true
@@ -66,5 +67,6 @@ PageColumn {
     ReportSection {
         Layout.fillWidth: true
         overview: page.overview
+        exporter: page.exporter
     }
 }

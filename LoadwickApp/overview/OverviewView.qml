@@ -8,6 +8,7 @@ Item {
     required property OverviewPresenter overview
     // The cost of a scan.
     required property string disclosure
+    required property PageExport exporter
 
     ScanEmptyState {
         anchors.fill: parent
@@ -36,6 +37,6 @@ Item {
 
         anchors.fill: parent
         active: page.overview.state === OverviewPresenter.Report
-        Component.onCompleted: report.setSource("OverviewReport.qml", { overview: page.overview })
+        Component.onCompleted: report.setSource("OverviewReport.qml", { overview: page.overview, exporter: page.exporter })
     }
 }

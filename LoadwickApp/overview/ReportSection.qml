@@ -7,6 +7,7 @@ ReportSurface {
     id: section
 
     required property OverviewPresenter overview
+    required property PageExport exporter
 
     RowLayout {
         Layout.alignment: Qt.AlignRight
@@ -87,6 +88,25 @@ ReportSurface {
         SelectableText {
             Layout.fillWidth: true
             text: section.overview.summary
+        }
+    }
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: AppTheme.mediumSpace
+
+        SaveOutcome {
+            Layout.fillWidth: true
+            exporter: section.exporter
+        }
+        PushButton {
+            title: qsTr("Save Data…")
+            outlined: true
+            onClicked: section.exporter.saveTable()
+        }
+        PushButton {
+            title: qsTr("Save Report…")
+            outlined: true
+            onClicked: section.exporter.saveReport()
         }
     }
 }

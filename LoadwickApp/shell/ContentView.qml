@@ -12,6 +12,7 @@ SplitView {
     required property TrendsPresenter trends
     required property ComparePresenter compare
     required property RecentRepositories recent
+    required property PageExport overviewExport
     required property PageExport trendsExport
     required property PageExport compareExport
 
@@ -83,6 +84,7 @@ SplitView {
             OverviewView {
                 overview: view.overview
                 disclosure: view.content.allowanceDisclosure
+                exporter: view.overviewExport
             }
             LatePage {
                 id: trendsPage

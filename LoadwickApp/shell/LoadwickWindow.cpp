@@ -137,6 +137,15 @@ void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatc
 {
     m_folderDrop = std::make_unique<FolderDrop>(*m_content, dispatcher);
     m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher);
+    const auto reportName = [this] {
+        return SavedFile::suggestedName(QStringLiteral("loadwick-report"),
+                                        m_overview->repositoryName());
+    };
+    m_overviewExport = std::make_unique<PageExport>(
+        PageExport::Contents{.name = reportName,
+                             .table = [this] { return m_overview->table(); },
+                             .report = [this] { return m_overview->document(); }},
+        *m_saver, dispatcher);
     const auto trendName = [this] {
         return SavedFile::suggestedName(QStringLiteral("loadwick-trend"),
                                         m_trends->repositoryName());
@@ -164,6 +173,7 @@ void LoadwickWindow::makeWindow()
                    {QStringLiteral("onboarding"), QVariant::fromValue(m_onboarding.get())},
                    {QStringLiteral("folderDrop"), QVariant::fromValue(m_folderDrop.get())},
                    {QStringLiteral("recent"), QVariant::fromValue(m_recent.get())},
+                   {QStringLiteral("overviewExport"), QVariant::fromValue(m_overviewExport.get())},
                    {QStringLiteral("trendsExport"), QVariant::fromValue(m_trendsExport.get())},
                    {QStringLiteral("compareExport"), QVariant::fromValue(m_compareExport.get())}},
                   failure);

@@ -97,6 +97,7 @@ private:
     std::unique_ptr<OnboardingPresenter> m_onboarding;
     std::unique_ptr<FolderDrop> m_folderDrop;
     std::unique_ptr<RecentRepositories> m_recent;
+    std::unique_ptr<PageExport> m_overviewExport;
     std::unique_ptr<PageExport> m_trendsExport;
     std::unique_ptr<PageExport> m_compareExport;
     QQmlEngine m_engine;

@@ -12,6 +12,7 @@ ApplicationWindow {
     required property OnboardingPresenter onboarding
     required property FolderDrop folderDrop
     required property RecentRepositories recent
+    required property PageExport overviewExport
     required property PageExport trendsExport
     required property PageExport compareExport
 
@@ -40,6 +41,7 @@ ApplicationWindow {
             trends: window.trends
             compare: window.compare
             recent: window.recent
+            overviewExport: window.overviewExport
             trendsExport: window.trendsExport
             compareExport: window.compareExport
         }

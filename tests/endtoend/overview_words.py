@@ -87,6 +87,8 @@ REPORT = (
     "Session details",
     "Full report",
     "A factual, copyable summary of this one Claude Code startup-context scan.",
+    "Save Data…",
+    "Save Report…",
 )
 PAGES = ("Overview", "Trends", "Compare")  # one stop for all, navigated by the arrow keys
 TAB_ORDER = (
@@ -103,5 +105,7 @@ TAB_ORDER = (
     "Copy Summary",
     "Session details",
     "Full report",
+    "Save Data…",
+    "Save Report…",
 )
 CHARTS = 4  # meter, gauge, donut, treemap

@@ -2,6 +2,10 @@
 
 from __future__ import annotations
 
+import os
+import subprocess
+from pathlib import Path
+
 from accessible_tree import AccessibleTree
 from endtoend_case import SCAN, EndToEndCase, main
 from waiting import until
@@ -9,6 +13,8 @@ from waiting import until
 
 class SavingTest(EndToEndCase):
     """The toolkit's own dialog, which an X display without a desktop gets."""
+
+    display_height = 4000
 
     def trends(self) -> AccessibleTree:
         """The Trends page of a repository that was scanned twice."""
@@ -41,6 +47,27 @@ class SavingTest(EndToEndCase):
         table = file.read_bytes().split(b"\r\n")
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line break
+
+    def test_the_report_is_a_valid_page_that_shows_names_as_text(self) -> None:
+        program = self.open()
+        repository = self.home.make_repository("<script>alert(1)<&script>", "@<img>.md\n")
+        Path(os.fsdecode(repository), "<img>.md").write_text("Be brief.\n" * 40)
+        self.choose(program, repository)
+        window = program.window
+        window.press(SCAN)
+        window.wait_for("Scan complete")
+        window.resize(1180, self.display_height - 100)
+        self.ask(window, "Save Report…")
+        window.wait_for("Save the report", "dialog")
+        window.type("report")
+        window.press("Save")
+        file = self.home.path / "report.html"
+        window.wait_for(f"Saved as {file}.")
+        self.assertIn("&lt;script&gt;alert(1)", file.read_text())
+        tidy = subprocess.run(
+            ["tidy", "-quiet", "-errors", str(file)], capture_output=True, text=True, timeout=60
+        )
+        self.assertEqual((tidy.returncode, tidy.stderr), (0, ""))
 
     def test_what_is_typed_takes_the_place_of_the_suggested_name(self) -> None:
         window = self.dialog("Save Data…")

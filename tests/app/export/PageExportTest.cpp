@@ -36,6 +36,38 @@ private Q_SLOTS:
     }
     void cleanup() { m_window.reset(); }
 
+    void savesTheLastScanAsCsv()
+    {
+        const QByteArray table = content(save("Save Data…", "scan.csv"));
+        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-report-two.csv"));
+        QVERIFY(table.startsWith("Kind,Name,Tokens,Source,Bytes,Tier,Imported by\r\n"
+                                 "Total,two,27654,reported by Claude,,,\r\n"
+                                 "Category,System prompt,14210,"));
+    }
+
+    void savesTheLastScanAsAReport()
+    {
+        const auto file = save("Save Report…", "scan.html");
+        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-report-two.html"));
+        const QByteArray page = content(file);
+        const auto moment = m_window->loadwick().model().history().get().back().date;
+        QVERIFY(page.startsWith("<!DOCTYPE html>"));
+        QVERIFY(page.contains("<bdi>two</bdi>"));
+        QVERIFY(page.contains(
+            ("Scanned on " + dateText(moment, DateForm::dayAndTime, TextLocale()) + ".").c_str()));
+        QVERIFY(m_window->shows(savedAs(file)));
+    }
+
+    void aReportIsThatOfTheScanThatWasShown()
+    {
+        const auto file = m_window->folder().path() / "scan.html";
+        press("Save Report…");
+        scan("later");
+        m_window->saver().chosen({.file = file, .mayReplace = true});
+        m_window->finishScan();
+        QVERIFY(content(file).contains("<bdi>two</bdi>"));
+    }
+
     void savesTheTrendAsCsv()
     {
         m_window->loadwick().content().setPageIndex(1);

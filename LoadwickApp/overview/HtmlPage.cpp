@@ -1,0 +1,65 @@
+#include "overview/HtmlPage.h"
+
+#include <algorithm>
+
+namespace Loadwick {
+namespace {
+
+bool isExpressible(QChar letter)
+{
+    return letter >= u' ' ? letter < QChar(0xFFFE) && letter != QChar(0x7F)
+                          : letter == u'\n' || letter == u'\t';
+}
+
+QString expressible(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar letter) { return !isExpressible(letter); },
+        QChar(QChar::ReplacementCharacter));
+    return text;
+}
+
+void add(QXmlStreamWriter &writer, HtmlPage::Attributes attributes)
+{
+    for (const auto &[name, value] : attributes)
+        writer.writeAttribute(QString::fromLatin1(name), expressible(value));
+}
+
+} // namespace
+
+HtmlPage::HtmlPage() : m_writer(&m_bytes)
+{
+    m_writer.writeDTD(QStringLiteral("<!DOCTYPE html>\n"));
+}
+
+HtmlPage::Element HtmlPage::open(const char *name, Attributes attributes)
+{
+    m_writer.writeStartElement(QString::fromLatin1(name));
+    add(m_writer, attributes);
+    return Element(m_writer);
+}
+
+void HtmlPage::element(const char *name, const QString &text, Attributes attributes)
+{
+    const Element element = open(name, attributes);
+    this->text(text);
+}
+
+void HtmlPage::emptyElement(const char *name, Attributes attributes)
+{
+    m_writer.writeEmptyElement(QString::fromLatin1(name));
+    add(m_writer, attributes);
+}
+
+// Even an empty text keeps the writer from ending the element as XML alone allows it.
+void HtmlPage::text(const QString &text)
+{
+    m_writer.writeCharacters(expressible(text));
+}
+
+void HtmlPage::foreign(const QString &text)
+{
+    element("bdi", text);
+}
+
+} // namespace Loadwick
