@@ -29,11 +29,6 @@ RowLayout {
         onClicked: bar.exporter.saveChart(bar.chart, frame)
     }
 
-    Connections {
-        target: bar.exporter
-
-        function onChanged() { Announcer.announce(bar.exporter.outcome); }
-    }
     PictureFrame {
         id: frame
 

@@ -12,4 +12,10 @@ PlainLabel {
     font: AppTheme.captionFont
     color: outcome.exporter && outcome.exporter.failed ? AppTheme.bandExcessiveText : AppTheme.secondaryText
     wrapMode: Text.Wrap
+
+    Connections {
+        target: outcome.exporter
+
+        function onChanged() { Announcer.announce(outcome.exporter.outcome); }
+    }
 }

@@ -24,7 +24,7 @@ struct ReportDocument
     Q_DECLARE_TR_FUNCTIONS(ReportDocument)
 
 public:
-    std::shared_ptr<const ScanReport> report; ///< not null
+    std::shared_ptr<const ScanReport> report;        ///< not null
     std::optional<std::chrono::sys_seconds> scanned; ///< nothing where it is not recorded
     std::chrono::sys_seconds saved;
     TextLocale locale;

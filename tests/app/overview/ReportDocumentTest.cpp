@@ -27,6 +27,21 @@ QString htmlOf(const ScanReport &report, const char *locale = "en_US")
     return QString::fromUtf8(document.html());
 }
 
+/// Variables of the style, and the roles of the window whose colours they have.
+constexpr std::pair<const char *, const char *> roles[] = {
+    {"window", "window"},
+    {"surface", "surface"},
+    {"separator", "separator"},
+    {"text", "text"},
+    {"secondary", "secondaryText"},
+    {"lean", "bandLean"},
+    {"heavy", "bandHeavy"},
+    {"excessive", "bandExcessive"},
+    {"lean-text", "bandLeanText"},
+    {"heavy-text", "bandHeavyText"},
+    {"excessive-text", "bandExcessiveText"},
+};
+
 struct Reading
 {
     QString text; ///< all of it, without the style
@@ -236,20 +251,7 @@ private Q_SLOTS:
         singletons->property("appearance")
             .value<QObject *>()
             ->setProperty("scheme", dark ? Appearance::Dark : Appearance::Light);
-        const std::pair<const char *, const char *> pairs[] = {
-            {"window", "window"},
-            {"surface", "surface"},
-            {"separator", "separator"},
-            {"text", "text"},
-            {"secondary", "secondaryText"},
-            {"lean", "bandLean"},
-            {"heavy", "bandHeavy"},
-            {"excessive", "bandExcessive"},
-            {"lean-text", "bandLeanText"},
-            {"heavy-text", "bandHeavyText"},
-            {"excessive-text", "bandExcessiveText"},
-        };
-        for (const auto &[name, role] : pairs)
+        for (const auto &[name, role] : roles)
             QCOMPARE(colorOf(name), theme->property(role).value<QColor>());
         const auto series = theme->property("chartColors").value<QList<QColor>>();
         const char *const names[] = {"blue", "teal", "purple", "orange", "gray"};
