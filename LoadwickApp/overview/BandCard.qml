@@ -7,6 +7,8 @@ ReportSurface {
     id: card
 
     required property BandPresenter band
+    // Null: nothing is recorded here.
+    property LatestChangePresenter change: null
     readonly property color bandColor: AppTheme.bandTexts[card.band.band]
 
     spacing: AppTheme.cardSpace
@@ -71,6 +73,14 @@ ReportSurface {
                 text: qsTr("Authoritative · measured by Claude")
                 font: AppTheme.subheadlineFont
                 secondary: true
+            }
+            Loader {
+                id: latestChange
+
+                Layout.topMargin: AppTheme.smallSpace
+                active: card.change !== null && card.change.isKnown
+                visible: active
+                Component.onCompleted: latestChange.setSource("LatestChange.qml", { change: card.change })
             }
         }
     }

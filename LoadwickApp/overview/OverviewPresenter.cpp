@@ -58,7 +58,8 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_details({{"label", [](const SessionDetail &detail) { return detail.label; }},
                  {"value", [](const SessionDetail &detail) { return detail.value; }}}),
       m_weekly(m_locale),
-      m_band(m_locale)
+      m_band(m_locale),
+      m_latestChange(m_model, m_locale)
 {
     m_tick.setInterval(std::chrono::seconds(1));
     connect(&m_tick, &QTimer::timeout, this, &OverviewPresenter::elapsedChanged);
@@ -173,6 +174,7 @@ void OverviewPresenter::show(const ScanState::Result &result)
     m_breakdown.show(report);
     m_files.show(report);
     m_band.show(report);
+    m_latestChange.show(report);
 }
 
 void OverviewPresenter::showCurrentState()

@@ -16,6 +16,7 @@
 #include "overview/BandPresenter.h"
 #include "overview/BreakdownPresenter.h"
 #include "overview/InstructionFilesPresenter.h"
+#include "overview/LatestChangePresenter.h"
 #include "overview/WeeklyPresenter.h"
 #include "text/TextLocale.h"
 
@@ -49,6 +50,7 @@ class OverviewPresenter final : public QObject
     Q_PROPERTY(Loadwick::RowList *sessionDetails READ sessionDetails CONSTANT)
     Q_PROPERTY(Loadwick::WeeklyPresenter *weekly READ weekly CONSTANT)
     Q_PROPERTY(Loadwick::BandPresenter *band READ band CONSTANT)
+    Q_PROPERTY(Loadwick::LatestChangePresenter *latestChange READ latestChange CONSTANT)
 
 public:
     enum class State
@@ -99,6 +101,7 @@ public:
 
     [[nodiscard]] WeeklyPresenter *weekly() { return &m_weekly; }
     [[nodiscard]] BandPresenter *band() { return &m_band; }
+    [[nodiscard]] LatestChangePresenter *latestChange() { return &m_latestChange; }
 
     /// Puts the summary on the clipboard.
     Q_INVOKABLE void copySummary() const;
@@ -142,6 +145,7 @@ private:
     ListOf<SessionDetail> m_details;
     WeeklyPresenter m_weekly;
     BandPresenter m_band;
+    LatestChangePresenter m_latestChange;
 };
 
 } // namespace Loadwick

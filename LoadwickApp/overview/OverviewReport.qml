@@ -40,6 +40,7 @@ PageColumn {
     BandCard {
         Layout.fillWidth: true
         band: page.overview.band
+        change: page.overview.latestChange
     }
     HealthScoreCard {
         Layout.fillWidth: true

@@ -34,9 +34,21 @@ SplitView {
         Component.onCompleted: page.ask()
     }
 
+    function showLatestChange() {
+        view.trends.changes.chooseNewest();
+        view.content.pageIndex = 1;
+        (trendsPage.item as TrendsView).goToChanges();
+    }
+
     function takeKeyboard() { keys.begin(); }
 
     orientation: Qt.Horizontal
+
+    Connections {
+        target: view.overview.latestChange
+
+        function onOpened() { view.showLatestChange(); }
+    }
 
     handle: Rectangle {
         id: divider

@@ -12,6 +12,9 @@ ReportSurface {
     // All three are of equal width, whatever their content.
     readonly property real tileWidth: Math.max(latest.implicitWidth, band.implicitWidth, drift.implicitWidth)
 
+    // The section below the metrics; null without one.
+    readonly property ScanChangesSection changesSection: section.item as ScanChangesSection
+
     SectionHeader {
         Layout.fillWidth: true
         title: qsTr("Where this repository landed")

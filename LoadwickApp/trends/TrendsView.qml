@@ -9,6 +9,34 @@ PageColumn {
     required property TrendsPresenter trends
     required property PageExport exporter
 
+    // The section that scrolls to the top of the page and then takes the focus; null for none.
+    property ScanChangesSection wanted: null
+    property real wantedTop: -1
+
+    function goToChanges() {
+        page.wanted = summary.changesSection;
+        page.wantedTop = -1;
+        page.Window.window.update();
+    }
+
+    // Until a page has been laid out, which takes some frames, its sections move.
+    function follow() {
+        const top = page.wanted.mapToItem(page.viewport.contentItem, 0, 0).y;
+        const isThere = top === page.wantedTop;
+        page.wantedTop = top;
+        page.viewport.contentY = Math.max(0, Math.min(top - AppTheme.cardSpace, page.viewport.contentHeight - page.viewport.height));
+        if (isThere) {
+            page.wanted.takeFocus();
+            page.wanted = null;
+        }
+        page.Window.window.update();
+    }
+
+    Connections {
+        target: page.wanted ? page.Window.window : null
+
+        function onFrameSwapped() { page.follow(); }
+    }
     Connections {
         target: page.trends
 
@@ -28,6 +56,8 @@ PageColumn {
         subject: page.trends.detail
     }
     TrendSummaryCard {
+        id: summary
+
         Layout.fillWidth: true
         summary: page.trends.summary
         changes: page.trends.changes

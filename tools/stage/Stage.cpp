@@ -18,6 +18,8 @@ using namespace WindowControl;
 
 namespace {
 
+constexpr std::chrono::sys_seconds scanDate(std::chrono::seconds(1'772'615'727)); // 4 March 2026
+
 /// Collaborators of a window without scans: everything it could start or read is in an empty home.
 LoadwickWindow::Collaborators collaborators(const std::filesystem::path &home)
 {
@@ -54,12 +56,17 @@ WeeklyKPILine sampleWeek()
             .timestamp = "2026-03-09T06:00:00Z"};
 }
 
-/// A scan that has ended is recorded.
+/// A scan that has ended is recorded, after a lighter one of the day before.
 std::vector<RecordedScan> historyOf(const Scene &scene)
 {
     if (!scene.report)
         return scene.history;
-    return {RecordedScan::fromReport(*scene.report, {}, Uuid::random())};
+    RecordedScan latest = RecordedScan::fromReport(*scene.report, scanDate, Uuid::random());
+    RecordedScan previous = latest;
+    previous.id = Uuid::random();
+    previous.date -= std::chrono::hours(24);
+    previous.total -= previous.total / 16;
+    return {std::move(previous), std::move(latest)};
 }
 
 } // namespace

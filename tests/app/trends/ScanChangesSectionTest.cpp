@@ -60,6 +60,8 @@ private Q_SLOTS:
     void aScreenReaderChoosesADate();
     void theKeysChooseAPointOfTheChart();
     void thePointerChoosesAPointOfTheChart();
+    void thePillOfTheOverviewLeadsToTheSection_data();
+    void thePillOfTheOverviewLeadsToTheSection();
     void createsOnlyTheRowsThatShow();
     void fitsEveryWidth_data();
     void fitsEveryWidth();
@@ -281,6 +283,49 @@ void ScanChangesSectionTest::thePointerChoosesAPointOfTheChart()
     QVERIFY((centreOf(item("laterPoint")) - chart->centreOf(2)).manhattanLength() <= 1);
     click(chart, {1, 1});
     QCOMPARE(nameOf(item("later")).left(14), QStringLiteral("After: Mar 6, "));
+}
+
+void ScanChangesSectionTest::thePillOfTheOverviewLeadsToTheSection_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("keys") << "keys";
+    QTest::newRow("pointer") << "pointer";
+    QTest::newRow("screen reader") << "screen reader";
+    QTest::newRow("other scans were chosen") << "again";
+}
+
+void ScanChangesSectionTest::thePillOfTheOverviewLeadsToTheSection()
+{
+    QFETCH(const QString, how);
+    const QString words = QStringLiteral("+1 tokens since Mar 6, 2026, 9:15\u202FAM");
+    if (how == u"again") {
+        showTrends(scansOf(4, 30));
+        focus("chart");
+        m_window->press(Qt::Key_Home);
+        m_window->press(Qt::Key_Return);
+        QCOMPARE(nameOf(item("earlier")).left(15), QStringLiteral("Before: Mar 4, "));
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::overview));
+    }
+    ScanModel &model = m_window->loadwick().model();
+    model.select(RepoSelection::fromUrl(sampleReport().repositoryPath));
+    model.state().set(ScanState::result(sampleReport()));
+    QCOMPARE(m_window->shows(words), how == u"again");
+    record(scansOf(4, 30));
+    QTRY_VERIFY(m_window->shows(words));
+    settle();
+    auto *button = qobject_cast<QQuickItem *>(m_window->find(words)->object());
+    button->forceActiveFocus(Qt::TabFocusReason);
+    if (how == u"pointer")
+        clickMiddleOf(button);
+    else if (how == u"keys")
+        m_window->press(Qt::Key_Return);
+    else
+        m_window->pressButton(words);
+    QCOMPARE(m_window->loadwick().content().pageIndex(), int(AppPage::trends));
+    QTRY_VERIFY(focusName().startsWith(QStringLiteral("Total, before 27,653, after 27,654")));
+    const qreal top = pageTopOf(
+        qobject_cast<QQuickItem *>(m_window->find(QStringLiteral("What changed"))->object()));
+    QVERIFY2(top > 0 && top < 80, qPrintable(QString::number(top)));
 }
 
 // 200 scans of 55,000 categories would take half a gigabyte: only the compared ones are that large.

@@ -1,0 +1,73 @@
+#include "overview/LatestChangePresenter.h"
+
+#include <utility>
+
+#include "base/QtText.h"
+#include "history/ScanHistory.h"
+#include "report/ScanReport.h"
+#include "text/DateText.h"
+
+namespace Loadwick {
+namespace {
+
+struct LastTwo
+{
+    const RecordedScan *latest = nullptr;
+    const RecordedScan *previous = nullptr;
+};
+
+/// Of scans of one second the last in the history is the latest.
+LastTwo lastTwoOf(const std::vector<RecordedScan> &history, const std::string &path)
+{
+    LastTwo last;
+    for (const RecordedScan &scan : history) {
+        if (scan.repositoryPath != path)
+            continue;
+        if (last.latest == nullptr || scan.date >= last.latest->date)
+            last.previous = std::exchange(last.latest, &scan);
+        else if (last.previous == nullptr || scan.date >= last.previous->date)
+            last.previous = &scan;
+    }
+    return last;
+}
+
+} // namespace
+
+LatestChangePresenter::LatestChangePresenter(ScanModel &model, TextLocale locale)
+    : m_model(model), m_locale(std::move(locale))
+{
+    m_model.history().observe({.didChange = [this] { showHistory(); }});
+}
+
+void LatestChangePresenter::show(const ScanReport &report)
+{
+    m_repository = report.repositoryPath;
+    m_total = report.total;
+    showHistory();
+}
+
+QString LatestChangePresenter::sentence() const
+{
+    return isKnown() ? tr("%1 tokens %2").arg(title(), since()) : QString();
+}
+
+// A report is shown before it is recorded, and remains if that fails.
+void LatestChangePresenter::showHistory()
+{
+    const LastTwo last =
+        m_repository ? lastTwoOf(m_model.history().get(), *m_repository) : LastTwo();
+    m_mark = {};
+    m_since.clear();
+    if (last.previous != nullptr && last.latest->total == m_total) {
+        const LeaderboardEntry entry{
+            .latest = *last.latest, .previousTotal = last.previous->total, .scanCount = 2};
+        m_mark = TrendMark::of(entry.trend(), entry.delta(), m_locale);
+        m_since = tr("since %1")
+                      .arg(qtText(dateText(last.previous->date, DateForm::dayAndTime, m_locale)));
+    }
+    Q_EMIT changed();
+}
+
+} // namespace Loadwick
+
+#include "moc_LatestChangePresenter.cpp"
