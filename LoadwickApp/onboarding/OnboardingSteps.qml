@@ -24,14 +24,14 @@ Item {
             id: content
 
             required property int index
-            readonly property OnboardingSteps steps: content.parent as OnboardingSteps
             readonly property int distance: content.index - (content.onboarding?.currentIndex ?? 0)
 
-            width: content.steps?.width ?? 0
+            width: content.parent?.width ?? 0
             x: AppTheme.reduceMotion ? 0 : Math.sign(content.distance) * AppTheme.stepSlide
             opacity: content.distance === 0 ? 1 : 0
             visible: opacity > 0
-            onboarding: content.steps?.onboarding ?? null
+            // Qt 6.8 cannot compile a property that has the type of its own file.
+            onboarding: (content.parent as OnboardingSteps)?.onboarding ?? null
             step: content.onboarding?.step(content.index) ?? null
 
             Behavior on x {

@@ -19,11 +19,12 @@ LongList {
         required length
         required isTotal
         required property string sentence
-        readonly property ScanChangeList list: row.ListView.view ? row.ListView.view.parent as ScanChangeList : null
+        readonly property LongListRows rows: row.ListView.view as LongListRows
 
-        width: row.list ? row.list.width : 0
-        height: row.list ? row.list.rowHeight : 0
-        style: row.list ? row.list.style : null
+        width: row.rows ? row.rows.width : 0
+        height: row.rows ? row.rows.rowHeight : 0
+        // Qt 6.8 cannot compile a property that has the type of its own file.
+        style: row.rows ? (row.rows.parent as ScanChangeList).style : null
         Accessible.role: Accessible.ListItem
         Accessible.name: row.sentence
         // Hidden while pooled.

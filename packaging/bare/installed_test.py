@@ -41,6 +41,7 @@ class InstalledTest(EndToEndCase):
         self.home.forget_preferences()
         program = self.start()
         program.window.wait_for("Skip", "button")
+        program.window.wait_for("See what Claude Code loads before it reads a single message")
 
 
 if __name__ == "__main__":
