@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import Loadwick
 
 // The date of one of the two scans that are compared, and the list to choose another one from.
@@ -24,7 +25,7 @@ AbstractButton {
         (menu.item as ScanDateMenu).openAt(button.row);
     }
 
-    implicitWidth: AppTheme.scaled(240)
+    implicitWidth: Math.max(AppTheme.scaled(240), implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: AppTheme.scaled(44)
     leftPadding: AppTheme.mediumSpace
     rightPadding: AppTheme.mediumSpace
@@ -37,33 +38,28 @@ AbstractButton {
     Keys.onDownPressed: button.clicked()
     onClicked: button.open()
 
-    contentItem: Item {
-        ScanMark {
-            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
-            isFilled: button.isFilled
-        }
-        Column {
-            anchors { left: parent.left; leftMargin: AppTheme.pageMargin; right: parent.right; rightMargin: AppTheme.pageMargin; verticalCenter: parent.verticalCenter }
+    contentItem: RowLayout {
+        spacing: AppTheme.mediumSpace
+
+        ScanMark { isFilled: button.isFilled }
+        ColumnLayout {
+            spacing: 0
 
             PlainLabel {
-                width: parent.width
+                Layout.fillWidth: true
                 text: button.caption
                 font: AppTheme.captionFont
                 secondary: true
                 Accessible.ignored: true
             }
             PlainLabel {
-                objectName: "date"
-                width: parent.width
+                Layout.fillWidth: true
                 text: button.date
                 font: AppTheme.bodyStrongFont
-                elide: Text.ElideRight
-                maximumLineCount: 1
                 Accessible.ignored: true
             }
         }
         Symbol {
-            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             name: "chevron.down"
             tint: AppTheme.secondaryText
         }
