@@ -57,7 +57,13 @@ class Desktop:
         }
 
     def set_dark(self, is_dark: bool) -> None:
-        """Asks programs for dark or for light windows."""
+        """Asks programs for dark or for light windows. On KDE, a portal of GTK says the opposite, which
+        must not count."""
+        if self.compositor.desktop == "KDE":
+            ground = "20,20,20" if is_dark else "240,240,240"
+            file = self._home.path / ".config" / "kdeglobals"
+            file.write_text(f"[Colors:Window]\nBackgroundNormal={ground}\n", encoding="utf-8")
+            is_dark = not is_dark
         self.set("color-scheme", "prefer-dark" if is_dark else "prefer-light")
 
     def set(self, key: str, value: str) -> None:

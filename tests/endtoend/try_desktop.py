@@ -6,11 +6,12 @@ import os
 
 import desktop_checks
 from compositors.gnome_shell import GnomeNotices, GnomeShell
+from compositors.kwin import KWin
 from compositors.sway import Sway
 from endtoend_case import main
 from notice_services import Mako
 
-DESKTOPS = {"sway": (Sway, Mako), "mutter": (GnomeShell, GnomeNotices)}
+DESKTOPS = {"sway": (Sway, Mako), "kwin": (KWin, Mako), "mutter": (GnomeShell, GnomeNotices)}
 NAME = os.environ["LOADWICK_DESKTOP"]
 
 
