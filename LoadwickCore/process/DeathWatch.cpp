@@ -48,14 +48,17 @@ DeathWatch::~DeathWatch()
     }
 }
 
-void DeathWatch::add(pid_t group) noexcept
+void DeathWatch::prepare() noexcept
 {
     try {
         if (m_shell == 0)
             start();
     } catch (const std::exception &) { // no shell, descriptor, process or memory
-        return;
     }
+}
+
+void DeathWatch::add(pid_t group) noexcept
+{
     tell('+', group);
 }
 

@@ -24,8 +24,11 @@ public:
     DeathWatch(const DeathWatch &) = delete;
     DeathWatch &operator=(const DeathWatch &) = delete;
 
-    /// Lists a group whose leader is our child. The first one starts the shell; where that fails,
-    /// no group is listed.
+    /// Starts the shell. Call it before a child is started, so that listing its group takes no
+    /// longer than writing a line. Where it fails, no group is listed.
+    void prepare() noexcept;
+
+    /// Lists a group whose leader is our child.
     void add(pid_t group) noexcept;
 
     /// Call it before the leader is reaped, as for `Shutdown::remove`.

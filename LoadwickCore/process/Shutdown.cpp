@@ -33,6 +33,8 @@ bool Shutdown::announce()
     const std::lock_guard lock(m_mutex);
     if (m_isRequested)
         return false;
+    if (m_deathWatch)
+        m_deathWatch->prepare();
     ++m_announced;
     return true;
 }

@@ -95,10 +95,18 @@ TEST(DeathWatchTest, startsNothingWithoutAGroup)
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "there is a child";
 }
 
+TEST(DeathWatchTest, isReadyBeforeAnAnnouncedChildStarts)
+{
+    Shutdown shutdown(std::make_unique<DeathWatch>());
+    ASSERT_TRUE(shutdown.announce());
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), 0) << "there is no shell";
+}
+
 // As the name of a group, 1 would be every process.
 TEST(DeathWatchTest, listsNoGroupThatNamesOthers)
 {
     DeathWatch watch(0);
+    watch.prepare();
     for (const pid_t group : {1, 0, -1})
         watch.add(group);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), 0) << "the shell is its only child";
@@ -118,6 +126,7 @@ TEST(DeathWatchTest, leavesTheChildrenOfALivingProgramAlone)
 {
     auto watch = std::make_unique<DeathWatch>(1);
     const ChildProcess child = startHostileChild({"ignore-term"});
+    watch->prepare();
     watch->add(child.processID());
     watch.reset();
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.2)));
@@ -137,6 +146,7 @@ TEST(DeathWatchTest, forgetsARemovedGroup)
     const pid_t program = fork();
     if (program == 0) {
         DeathWatch watch(0);
+        watch.prepare();
         watch.add(child.processID());
         watch.remove(child.processID());
         kill(getpid(), SIGKILL);
