@@ -5,10 +5,11 @@ from __future__ import annotations
 import os
 import subprocess
 from pathlib import Path
-from typing import Any
+from typing import Optional
 
 from bus import has_owner
 from compositors.compositor import Compositor
+from notice_services import NoticeService
 from processes import end_with_parent
 from program import environment_for
 from throw_away_home import ThrowAwayHome
@@ -23,7 +24,7 @@ PORTALS = {
 class Desktop:
     """Everything around a program's window. It runs while entered."""
 
-    def __init__(self, compositor: Compositor, notices: Any, home: ThrowAwayHome) -> None:
+    def __init__(self, compositor: Compositor, notices: NoticeService, home: ThrowAwayHome) -> None:
         self.compositor = compositor
         self.notices = notices
         self._home = home
@@ -32,7 +33,7 @@ class Desktop:
     def __enter__(self) -> "Desktop":
         try:
             self.compositor.__enter__()
-            self._start(self.notices.service, self.notices.command)
+            self._start(self.notices.service, self.notices.command, self.notices.environment())
             self._start_portals()
         except BaseException:
             self.__exit__()
@@ -86,12 +87,14 @@ class Desktop:
         for service, program in PORTALS.items():
             self._start(service, [os.fspath(Path("/usr/libexec") / program)])
 
-    def _start(self, service: str, command: list[str]) -> None:
+    def _start(
+        self, service: str, command: list[str], settings: Optional[dict[str, str]] = None
+    ) -> None:
         log = self._home.path / f"{service}.log"
         with open(log, "wb") as file:
             process = subprocess.Popen(
                 command,
-                env=self.environment(),
+                env=self.environment() | (settings or {}),
                 preexec_fn=end_with_parent,
                 stdin=subprocess.DEVNULL,
                 stdout=file,

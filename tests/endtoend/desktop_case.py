@@ -17,6 +17,7 @@ from waiting import LIMIT_SECONDS, until
 
 IDENTITY = "io.github.loadwick.Loadwick"
 LAUNCHER = "launcher"
+MIDDLE_GREY = 0.5
 
 ENTRY = """[Desktop Entry]
 Type=Application
@@ -49,6 +50,7 @@ class DesktopCase(EndToEndCase):
         super().setUp()
         self.entry = self.install_entry()
         compositor = self.compositor_type(self.home.path)
+        compositor.scale = self.scale()
         notices = type(self).notices_type(compositor)
         self.desktop = self.enterContext(Desktop(compositor, notices, self.home))
 
@@ -61,6 +63,28 @@ class DesktopCase(EndToEndCase):
         )
         program.window.wait_for(CHOOSE, "button")
         return program
+
+    def scale(self) -> float:
+        """How many pixels of the screen one of the window is."""
+        return 1.0
+
+    def wait_until_brightness(self, is_dark: bool) -> None:
+        """Returns once the window is dark, or light."""
+        until(
+            "a dark window" if is_dark else "a light window",
+            lambda: (self.brightness() < MIDDLE_GREY) == is_dark,
+        )
+
+    def brightness(self) -> float:
+        """That of the middle of the screen, where the window is: 0 is black, 1 is white."""
+        picture = self.home.path / "picture.png"
+        self.desktop.compositor.picture(picture)
+        command = ["convert", os.fspath(picture), "-gravity", "center", "-crop", "400x300+0+0"]
+        command += ["-colorspace", "Gray", "-format", "%[fx:mean]", "info:"]
+        answer = subprocess.run(
+            command, check=True, capture_output=True, text=True, timeout=LIMIT_SECONDS
+        )
+        return float(answer.stdout)
 
     def wait_until_raised(self) -> None:
         """Returns once the program's window has the focus; skips the test if the compositor refuses

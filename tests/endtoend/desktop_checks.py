@@ -2,8 +2,6 @@
 
 from __future__ import annotations
 
-import os
-import subprocess
 import time
 
 from accessible_tree import AccessibleTree, Atspi
@@ -15,7 +13,6 @@ from waiting import LIMIT_SECONDS, until
 FOLDER_TITLE = "Choose a local repository to scan."
 FILE_DIALOGS = "org.freedesktop.impl.portal.desktop.gtk"
 END_SECONDS = 1.0
-MIDDLE_GREY = 0.5
 
 
 class DesktopChecks(DesktopCase):
@@ -30,16 +27,20 @@ class DesktopChecks(DesktopCase):
         self.open_here()
         for is_dark in (True, False):
             self.desktop.set_dark(is_dark)
-            until(
-                "a dark window" if is_dark else "a light window",
-                lambda: (self.brightness() < MIDDLE_GREY) == is_dark,
-            )
+            self.wait_until_brightness(is_dark)
 
     def test_an_unseen_end_of_a_scan_is_announced_until_the_window_is_seen(self) -> None:
         self.finish_unseen_scan(self.open_here())
+        self.assertEqual([scan["repositoryName"] for scan in self.home.scans()], ["webshop"])
         self.desktop.compositor.activate(IDENTITY)
         until("the notice's end", lambda: self.desktop.notices.titles() == [])
-        self.assertEqual([scan["repositoryName"] for scan in self.home.scans()], ["webshop"])
+
+    def test_the_next_scan_withdraws_the_notice(self) -> None:
+        program = self.open_here()
+        self.finish_unseen_scan(program)
+        self.home.hold()
+        program.window.press(SCAN)
+        until("the notice's end", lambda: self.desktop.notices.titles() == [])
 
     def test_a_click_on_the_notice_raises_the_window(self) -> None:
         self.finish_unseen_scan(self.open_here())
@@ -79,17 +80,6 @@ class DesktopChecks(DesktopCase):
         program.process.wait(LIMIT_SECONDS)
         until("the session's end", lambda: not is_running(session))
         self.assertLess(time.monotonic() - start, END_SECONDS)
-
-    def brightness(self) -> float:
-        """That of the middle of the screen, where the window is: 0 is black, 1 is white."""
-        picture = self.home.path / "picture.png"
-        self.desktop.compositor.picture(picture)
-        command = ["convert", os.fspath(picture), "-gravity", "center", "-crop", "400x300+0+0"]
-        command += ["-colorspace", "Gray", "-format", "%[fx:mean]", "info:"]
-        answer = subprocess.run(
-            command, check=True, capture_output=True, text=True, timeout=LIMIT_SECONDS
-        )
-        return float(answer.stdout)
 
     def assert_second_start_raises(self, variable: str) -> None:
         """Starts the program again from another window, with that one's token in this variable."""

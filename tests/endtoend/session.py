@@ -65,8 +65,8 @@ def bus_settings(folder: Path) -> Path:
 class Display:
     """A private X server with a window manager, so that windows become active."""
 
-    def __init__(self, height: int = 900) -> None:
-        self._height = height
+    def __init__(self, height: int = 900, width: int = 1280) -> None:
+        self._size = f"{width}x{height}"
         self._processes: list[subprocess.Popen[bytes]] = []
 
     def __enter__(self) -> "Display":
@@ -105,7 +105,7 @@ class Display:
         reader, writer = os.pipe()
         # Without -noreset the server restarts whenever its last client leaves, and drops clients that
         # are just connecting.
-        screen = ["-screen", "0", f"1280x{self._height}x24", "-nolisten", "tcp", "-noreset"]
+        screen = ["-screen", "0", f"{self._size}x24", "-nolisten", "tcp", "-noreset"]
         self._start(["Xvfb", "-displayfd", str(writer), *screen], (writer,))
         os.close(writer)
         with os.fdopen(reader) as answers:

@@ -13,7 +13,7 @@ from processes import end_with_parent
 from waiting import LIMIT_SECONDS, WaitFailed, until
 
 
-SCREEN = (1280, 900)  # pixels
+SCREEN = (1280, 900)  # what windows have room in
 
 
 class Compositor:
@@ -21,6 +21,7 @@ class Compositor:
 
     executable = ""
     desktop = ""  # what XDG_CURRENT_DESKTOP is beside it
+    scale = 1.0  # how many of the screen's pixels are one of a window's
 
     def __init__(self, home: Path) -> None:
         self.home = home
@@ -47,6 +48,12 @@ class Compositor:
 
     def set_up(self) -> None:
         """Runs once the compositor accepts clients."""
+
+    @property
+    def pixels(self) -> tuple[int, int]:
+        """The columns and rows of the screen, which has the same room for windows at any scale."""
+        width, height = SCREEN
+        return round(width * self.scale), round(height * self.scale)
 
     @property
     def display(self) -> str:
@@ -83,10 +90,6 @@ class Compositor:
 
     def picture(self, file: Path) -> None:
         """Writes what the screen would show to a PNG file."""
-        raise NotImplementedError
-
-    def set_scale(self, scale: float) -> None:
-        """Sets how many pixels of the screen one of the window's is."""
         raise NotImplementedError
 
     def __enter__(self) -> "Compositor":

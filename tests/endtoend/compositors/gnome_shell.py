@@ -10,10 +10,13 @@ from typing import Any
 from gi.repository import GLib
 
 from bus import ask
-from compositors.compositor import SCREEN, Compositor
+from compositors.compositor import Compositor
+from notice_services import NoticeService
 from waiting import until
 
 SHELL = "org.gnome.Shell"
+DISPLAYS = "org.gnome.Mutter.DisplayConfig"
+ANY_SCALE = "[org/gnome/mutter]\nexperimental-features=['scale-monitor-framebuffer']\n"
 MAIN = "imports.ui.main"
 WINDOWS = "global.display.get_tab_list(imports.gi.Meta.TabList.NORMAL_ALL, null)"
 TRAY = f"{MAIN}.messageTray"
@@ -41,7 +44,7 @@ class GnomeShell(Compositor):
     _step = 1  # of the pointer, to and fro
 
     def command(self) -> list[str]:
-        size = "{}x{}".format(*SCREEN)
+        size = "{}x{}".format(*self.pixels)
         return ["gnome-shell", "--wayland", "--headless", "--unsafe-mode", "--virtual-monitor", size]
 
     def settings(self) -> dict[str, str]:
@@ -56,6 +59,24 @@ class GnomeShell(Compositor):
         self.run(f"{MAIN}.overview.hide()")
         until("the end of the overview", lambda: not self.run(f"{MAIN}.overview.visible"))
         self.run(DEVICES)
+        if self.scale != 1:
+            self._set_scale()
+
+    def _start(self) -> None:
+        folder = self.home / ".config" / "glib-2.0" / "settings"
+        folder.mkdir(parents=True)
+        (folder / "keyfile").write_text(ANY_SCALE, encoding="utf-8")
+        super()._start()
+
+    def _set_scale(self) -> None:
+        """Takes the offered scale that is nearest."""
+        path = f"/{DISPLAYS.replace('.', '/')}"
+        serial, [(names, modes, _)], _, _ = ask(DISPLAYS, path, f"{DISPLAYS}.GetCurrentState")
+        name, _, _, _, _, scales, _ = modes[0]
+        scale = min(scales, key=lambda offered: abs(offered - self.scale))
+        screen = f"(0, 0, {scale:.16f}, uint32 0, true, [('{names[0]}', '{name}', @a{{sv}} {{}})])"
+        configuration = f"(uint32 {serial}, uint32 1, [{screen}], @a{{sv}} {{}})"
+        ask(DISPLAYS, path, f"{DISPLAYS}.ApplyMonitorsConfig", configuration)
 
     def _has_started(self) -> bool:
         try:
@@ -93,7 +114,7 @@ class GnomeShell(Compositor):
             self.run(f"global.pointer.notify_button({NOW}, 1, {state})")
 
     def show_life(self) -> None:
-        """Moves the pointer a bit: a notice stays until there is somebody to see it, and others wait."""
+        """Moves the pointer a bit. Until somebody is there, a notice stays and others wait."""
         self._step = -self._step
         self.run(f"global.pointer.notify_relative_motion({NOW}, {self._step}, 0)")
 
@@ -103,18 +124,15 @@ class GnomeShell(Compositor):
         ask(service, "/org/gnome/Shell/Screenshot", f"{service}.Screenshot", arguments)
 
 
-class GnomeNotices:
+class GnomeNotices(NoticeService):
     """The notices of GNOME Shell itself, which takes them from a program of its own."""
 
     service = f"{SHELL}.Notifications"
     command = ["gjs", f"/usr/share/gnome-shell/{service}"]
 
-    def __init__(self, shell: GnomeShell) -> None:
-        self._shell = shell
-
     def titles(self) -> list[str]:
         """The titles of the notices that are shown or kept in the list, without the shell's own."""
-        return list(self._shell.run(f"{NOTICES}.map(notice => notice.title)"))
+        return list(self._compositor.run(f"{NOTICES}.map(notice => notice.title)"))
 
     def press(self) -> None:
         """Clicks on the notice."""
@@ -122,12 +140,12 @@ class GnomeNotices:
         is_moving = f"{TRAY}._bannerBin.get_transition('y')"
 
         def is_pressed() -> bool:
-            if self._shell.run(f"Boolean({shown}) && !{is_moving}"):
+            if self._compositor.run(f"Boolean({shown}) && !{is_moving}"):
                 place = f"[{shown}.get_center().x, {shown}.get_center().y]"
-                x, y = self._shell.run(place)
-                self._shell.click(round(x), round(y))
+                x, y = self._compositor.run(place)
+                self._compositor.click(round(x), round(y))
             else:
-                self._shell.show_life()
+                self._compositor.show_life()
             return not self.titles()
 
         until("the notice to be pressed", is_pressed)

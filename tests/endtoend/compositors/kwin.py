@@ -12,7 +12,7 @@ from pathlib import Path
 from gi.repository import Gio, GLib
 
 from bus import ask
-from compositors.compositor import Compositor, SCREEN
+from compositors.compositor import SCREEN, Compositor
 from compositors.wayland_client import WaylandClient
 from waiting import LIMIT_SECONDS, until
 
@@ -41,7 +41,7 @@ class KWin(Compositor):
         copy.chmod(0o755)
         width, height = (str(size) for size in SCREEN)
         options = ["--width", width, "--height", height, "--no-lockscreen", "--no-global-shortcuts"]
-        return [str(copy), "--virtual", *options]
+        return [str(copy), "--virtual", "--scale", f"{self.scale:g}", *options]
 
     def settings(self) -> dict[str, str]:
         return {
@@ -70,8 +70,8 @@ class KWin(Compositor):
         with tempfile.NamedTemporaryFile("w", dir=self.home, suffix=".js") as script:
             script.write(f"print('{MARK}' + JSON.stringify({expression}));")
             script.flush()
-            [number] = ask(KWIN, "/Scripting", "org.kde.kwin.Scripting.loadScript", f"('{script.name}',)")
-            path = f"/{number}"
+            load = "org.kde.kwin.Scripting.loadScript"
+            path = "/{}".format(*ask(KWIN, "/Scripting", load, f"('{script.name}',)"))
             ask(KWIN, path, "org.kde.kwin.Script.run")
             until("KWin's answer", lambda: self.words().count(MARK) > before)
             ask(KWIN, path, "org.kde.kwin.Script.stop")
@@ -108,7 +108,7 @@ class KWin(Compositor):
             with os.fdopen(writer, "wb") as end:
                 size = self._take(end.fileno())
             command = ["convert", "-size", "{}x{}".format(*size), "-depth", "8", "bgra:-"]
-            command += ["-alpha", "off", os.fspath(file)]
+            command += ["-alpha", "off", "-define", "png:exclude-chunk=date,time", os.fspath(file)]
             subprocess.run(command, stdin=pixels, check=True, timeout=LIMIT_SECONDS)
 
     def _take(self, descriptor: int) -> tuple[int, int]:

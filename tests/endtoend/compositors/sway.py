@@ -38,7 +38,7 @@ class Sway(Compositor):
 
     def set_up(self) -> None:
         until("sway's control socket", lambda: list(self.sockets.glob("sway-ipc.*")))
-        self._message("output * resolution {}x{}".format(*SCREEN))
+        self._message("output * resolution {}x{} scale {}".format(*self.pixels, self.scale))
         # As it comes, sway would only mark the window as urgent.
         self._message("focus_on_window_activation focus")
         self._input = WlrootsInput(self.display)
@@ -69,9 +69,6 @@ class Sway(Compositor):
 
     def picture(self, file: Path) -> None:
         self._run(["grim", str(file)])
-
-    def set_scale(self, scale: float) -> None:
-        self._message(f"output * scale {scale:g}")
 
     def _message(self, *words: str) -> Any:
         [socket] = self.sockets.glob("sway-ipc.*")

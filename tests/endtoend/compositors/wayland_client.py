@@ -31,6 +31,10 @@ class WaylandClient:
         """Ends the connection."""
         self._socket.close()
 
+    def interfaces(self) -> set[str]:
+        """What the compositor offers."""
+        return set(self._globals)
+
     def new_id(self) -> int:
         """A number for a new object."""
         self._last += 1
