@@ -135,6 +135,14 @@ QString ScanChangesPresenter::laterDate() const
     return hasChanges() ? dateOf(m_moments[m_later]) : QString();
 }
 
+QString ScanChangesPresenter::sentence() const
+{
+    return hasChanges() ? tr("%1. %2. %3")
+                              .arg(earlierSentence(), laterSentence(),
+                                   m_rows.text(0, QStringLiteral("sentence")))
+                        : QString();
+}
+
 int ScanChangesPresenter::earlierRow() const noexcept
 {
     return static_cast<int>(m_later) - 1 - static_cast<int>(m_earlier);

@@ -37,6 +37,7 @@ class ScanChangesPresenter final : public QObject
     Q_PROPERTY(QString laterDate READ laterDate NOTIFY changed)
     Q_PROPERTY(QString earlierSentence READ earlierSentence NOTIFY changed)
     Q_PROPERTY(QString laterSentence READ laterSentence NOTIFY changed)
+    Q_PROPERTY(QString sentence READ sentence NOTIFY changed)
     Q_PROPERTY(int earlierRow READ earlierRow NOTIFY changed)
     Q_PROPERTY(int laterRow READ laterRow NOTIFY changed)
     Q_PROPERTY(int earlierPoint READ earlierPoint NOTIFY changed)
@@ -79,6 +80,8 @@ public:
     /// The dates and which of the two they are, for a screen reader.
     [[nodiscard]] QString earlierSentence() const { return tr("Before: %1").arg(earlierDate()); }
     [[nodiscard]] QString laterSentence() const { return tr("After: %1").arg(laterDate()); }
+    /// Both and the difference of the totals, for a screen reader.
+    [[nodiscard]] QString sentence() const;
     /// The chosen scans in these lists.
     [[nodiscard]] int earlierRow() const noexcept;
     [[nodiscard]] int laterRow() const noexcept;

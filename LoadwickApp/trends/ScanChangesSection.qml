@@ -16,6 +16,8 @@ ColumnLayout {
     readonly property real figureWidth: Math.ceil(Math.max(widest.advanceWidth, longestHeading.advanceWidth))
     readonly property real rowHeight: AppTheme.scaled(section.isNarrow ? 48 : 32)
 
+    function announce() { Announcer.announce(section.changes.rows.text(0, "sentence")); }
+
     function takeFocus() { rows.forceActiveFocus(Qt.TabFocusReason); }
 
     spacing: AppTheme.mediumSpace
@@ -50,7 +52,10 @@ ColumnLayout {
             sentence: section.changes.earlierSentence
             scans: section.changes.earlierScans
             row: section.changes.earlierRow
-            onChosen: row => section.changes.chooseEarlier(row)
+            onChosen: row => {
+                section.changes.chooseEarlier(row);
+                section.announce();
+            }
         }
         ScanDateButton {
             objectName: "later"
@@ -61,7 +66,10 @@ ColumnLayout {
             sentence: section.changes.laterSentence
             scans: section.changes.laterScans
             row: section.changes.laterRow
-            onChosen: row => section.changes.chooseLater(row)
+            onChosen: row => {
+                section.changes.chooseLater(row);
+                section.announce();
+            }
         }
     }
     ColumnLayout {

@@ -43,6 +43,7 @@ ListView {
 
         width: row.ListView.view ? row.ListView.view.width : 0
         implicitHeight: AppTheme.listRowHeight
+        rightPadding: AppTheme.pageMargin
         highlighted: row.ListView.isCurrentItem || row.hovered
         marked: row.ListView.view ? (row.ListView.view as ScanDateList).chosenRow === row.index : false
         hoverEnabled: true

@@ -15,6 +15,14 @@ ReportSurface {
     property string subject: ""
     readonly property bool isEmpty: card.chart.emptyText.length > 0
 
+    // The page changes out of a screen reader's sight.
+    function compare(point) {
+        if (point < 0)
+            return;
+        card.changes.choosePoint(point);
+        Announcer.announce(card.changes.sentence);
+    }
+
     ColumnLayout {
         Layout.alignment: Qt.AlignHCenter
         Layout.maximumWidth: AppTheme.stateWidth
@@ -72,17 +80,17 @@ ReportSurface {
         groundColor: AppTheme.surface
         Accessible.role: Accessible.Graphic
         Accessible.name: card.chart.summary
-        Accessible.description: plot.currentMark < 0 ? caption.text + " " + qsTr("The arrow keys walk the scans.") : plot.readout
+        Accessible.description: plot.currentMark < 0 ? caption.text + " " + qsTr("The arrow keys walk the scans; Enter compares one with an earlier one.") : plot.readout
         Accessible.focusable: true
         onWalked: Announcer.announce(plot.readout + "\n" + plot.markPosition)
 
         Keys.enabled: card.changes !== null
-        Keys.onReturnPressed: card.changes.choosePoint(plot.currentMark)
-        Keys.onEnterPressed: card.changes.choosePoint(plot.currentMark)
+        Keys.onReturnPressed: card.compare(plot.currentMark)
+        Keys.onEnterPressed: card.compare(plot.currentMark)
 
         TapHandler {
             enabled: card.changes !== null
-            onTapped: point => card.changes.choosePoint(plot.markUnder(point.position))
+            onTapped: point => card.compare(plot.markUnder(point.position))
         }
         HoverHandler { cursorShape: card.changes && plot.currentMark >= 0 ? Qt.PointingHandCursor : Qt.ArrowCursor }
         ComparedPoint {

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void theStepsOfTheWalkThroughAreAnnounced();
     void theMarkThatAKeyReachesIsAnnounced_data();
     void theMarkThatAKeyReachesIsAnnounced();
+    void aChosenScanIsAnnouncedWithItsDifference();
     void onlyTheLastAnnouncementsAreKept();
 
 private:
@@ -175,7 +176,7 @@ void AnnouncementsTest::theMarkThatAKeyReachesIsAnnounced_data()
                              << QStringLiteral("31,870 bytes on disk · local estimate at 4 "
                                                "bytes/token.\n1 of 31");
     QTest::newRow("trend") << 1 << QStringLiteral("chart")
-                           << QStringLiteral(" The arrow keys walk the scans.")
+                           << QStringLiteral("; Enter compares one with an earlier one.")
                            << QStringLiteral(" tokens\n1 of 7");
 }
 
@@ -199,6 +200,30 @@ void AnnouncementsTest::theMarkThatAKeyReachesIsAnnounced()
     m_window->press(Qt::Key_Right);
     const QString words = heard().join(u'|');
     QVERIFY2(words.endsWith(first), qPrintable(words));
+}
+
+void AnnouncementsTest::aChosenScanIsAnnouncedWithItsDifference()
+{
+    m_window->loadwick().model().history().set(SampleHistories::ofSize(3, 1, 3));
+    content().setPageIndex(1);
+    auto &window = m_window->loadwick().window();
+    visibleItems(window.contentItem(), QStringLiteral("chart")).front()->forceActiveFocus();
+    m_window->press(Qt::Key_End);
+    m_window->press(Qt::Key_Left);
+    (void)heard();
+    m_window->press(Qt::Key_Return);
+    const QString words = heard().join(u'|');
+    QVERIFY2(words.startsWith(QStringLiteral("Before: Mar 1, 2026, 6:41\u202FPM. After: Mar 3, ")),
+             qPrintable(words));
+    QVERIFY2(
+        words.contains(QStringLiteral("Total, before 14,000, after 16,917, difference +2,917 ")),
+        qPrintable(words));
+    visibleItems(window.contentItem(), QStringLiteral("later")).front()->forceActiveFocus();
+    m_window->press(Qt::Key_Return);
+    QTRY_VERIFY(window.activeFocusItem()->inherits("QQuickMenuItem"));
+    (void)heard();
+    m_window->press(Qt::Key_Return);
+    QVERIFY(heard().join(u'|').startsWith(QStringLiteral("Total, before 14,000, after ")));
 }
 
 void AnnouncementsTest::onlyTheLastAnnouncementsAreKept()

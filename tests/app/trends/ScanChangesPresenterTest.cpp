@@ -92,7 +92,7 @@ void ScanChangesPresenterTest::needsTwoScansOfOneRepository()
     const auto verifyNothing = [this] {
         QVERIFY(!m_changes->hasChanges());
         QCOMPARE(m_changes->rows()->count(), 0);
-        QCOMPARE(m_changes->unchanged(), QString());
+        QCOMPARE(m_changes->unchanged() + m_changes->sentence(), QString());
         QCOMPARE(m_changes->whyOnlyTotals(), QString());
         QCOMPARE(m_changes->widestFigure(), QString());
         QCOMPARE(m_changes->laterScans()->count(), 0);
@@ -117,6 +117,9 @@ void ScanChangesPresenterTest::comparesTheNewestWithTheOneBefore()
     QCOMPARE(m_changes->earlierDate(), QStringLiteral("Mar 5, 2026, 9:15\u202FAM"));
     QCOMPARE(m_changes->laterDate(), QStringLiteral("Mar 6, 2026, 9:15\u202FAM"));
     QCOMPARE(m_changes->earlierSentence(), QStringLiteral("Before: Mar 5, 2026, 9:15\u202FAM"));
+    QCOMPARE(m_changes->sentence(), m_changes->earlierSentence() + QStringLiteral(". ") +
+                                        m_changes->laterSentence() + QStringLiteral(". ") +
+                                        row(0, "sentence"));
     QCOMPARE(m_changes->laterSentence(), QStringLiteral("After: Mar 6, 2026, 9:15\u202FAM"));
 }
 
