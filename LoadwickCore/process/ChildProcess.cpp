@@ -86,8 +86,11 @@ ChildProcess ChildProcess::start(const ChildCommand &command, const ChildStreams
     ShutdownEntry entry(std::move(shutdown));
     if (!entry.isAnnounced())
         refuse();
-    ChildProcess child(spawnSessionLeader(command, streams), std::move(entry));
-    if (!child.m_entry.enter(child.m_processID))
+    const pid_t processID = spawnSessionLeader(command, streams);
+    // At once: until then, nothing ends the child if this program dies.
+    const bool isListed = entry.enter(processID);
+    ChildProcess child(processID, std::move(entry));
+    if (!isListed)
         refuse();
     return child;
 }

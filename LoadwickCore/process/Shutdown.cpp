@@ -35,6 +35,8 @@ bool Shutdown::announce()
         return false;
     if (m_deathWatch)
         m_deathWatch->prepare();
+    // Listing a child that runs already must not fail.
+    m_groups.reserve(m_groups.size() + static_cast<std::size_t>(m_announced) + 1);
     ++m_announced;
     return true;
 }

@@ -74,7 +74,7 @@ class DesktopChecks(DesktopCase):
         program = self.open_here()
         self.choose(program, self.home.make_repository("webshop"))
         program.window.press(SCAN)
-        session = self.wait_for_session()
+        session = self.wait_for_watched_session(program)
         start = time.monotonic()
         self.desktop.compositor.kill()
         program.process.wait(LIMIT_SECONDS)

@@ -26,7 +26,7 @@ class DisplayDeathTest(EndToEndCase):
         program = self.start(environment=display | {"ASAN_OPTIONS": options})
         self.choose(program, self.home.make_repository("repository"))
         program.window.press(SCAN)
-        session = self.wait_for_session()
+        session = self.wait_for_watched_session(program)
         start = time.monotonic()
         kill_display()
         program.process.wait(30)

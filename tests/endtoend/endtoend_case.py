@@ -8,6 +8,7 @@ import unittest
 from pathlib import Path
 from typing import Optional, Sequence
 
+from processes import has_handle_of
 from program import Program, environment_for
 from session import Display, run_again_in_own_session
 from throw_away_home import ThrowAwayHome
@@ -68,6 +69,12 @@ class EndToEndCase(unittest.TestCase):
         """The process id of the session last started, once there are `count`."""
         until(f"session number {count}", lambda: len(self.home.runs()) >= count)
         return self.home.runs()[-1]
+
+    def wait_for_watched_session(self, program: Program) -> int:
+        """The process id of the session, once it does not outlive the program."""
+        session = self.wait_for_session()
+        until("the session's handle", lambda: has_handle_of(program.process.pid, session))
+        return session
 
 
 def main() -> None:

@@ -44,6 +44,17 @@ def child_of(process: int) -> int:
     return int(children[0]) if children else 0
 
 
+def has_handle_of(process: int, other: int) -> bool:
+    """Whether a process holds a handle of another one, through which it learns of the other's end."""
+    for handle in Path(f"/proc/{process}/fdinfo").iterdir():
+        try:
+            if f"\nPid:\t{other}\n" in handle.read_text():
+                return True
+        except FileNotFoundError:  # closed meanwhile
+            continue
+    return False
+
+
 def wakes_of(process: int) -> int:
     """How often the threads of a process have slept voluntarily, and so were woken."""
     count = 0

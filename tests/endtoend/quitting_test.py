@@ -23,7 +23,7 @@ class QuittingTest(EndToEndCase):
         program = self.open()
         self.choose(program, self.home.make_repository("repository"))
         program.window.press(SCAN)
-        return program, self.wait_for_session()
+        return program, self.wait_for_watched_session(program)
 
     def assert_ends(self, outcome: str, signal_number: int) -> None:
         """Sends the signal and expects program and session to be gone in time."""
