@@ -170,6 +170,23 @@ private Q_SLOTS:
         QCOMPARE(at.afterMoveTo(1, 1), QString());
     }
 
+    void everyScanIsUnderTheCentreOfItsPoint()
+    {
+        ChartWindow at;
+        QSignalSpy drawn(&at.chart, &TrendChart::drawn);
+        at.show({10'000, 20'000, 30'000});
+        QCOMPARE(drawn.count(), 1);
+        for (const int scan : {0, 1, 2})
+            QCOMPARE(at.chart.markUnder(at.chart.centreOf(scan)), scan);
+        const QPointF before = at.chart.centreOf(2);
+        at.chart.setWidth(width / 2.0);
+        QCOMPARE(drawn.count(), 2);
+        QVERIFY(at.chart.centreOf(2).x() < before.x() - width / 3.0);
+        for (const int missing : {-1, 3})
+            QCOMPARE(at.chart.centreOf(missing), QPointF());
+        QCOMPARE(at.chart.markUnder({1, 1}), -1);
+    }
+
     void theArrowKeysWalkByDate()
     {
         ChartWindow at;
