@@ -13,13 +13,14 @@ MenuItem {
     // The selected one of several.
     property bool marked: false
 
-    implicitHeight: item.detail.length > 0 ? 48 : AppTheme.controlHeight
+    implicitHeight: item.detail.length > 0 ? AppTheme.listRowHeight : AppTheme.controlHeight
     leftPadding: AppTheme.mediumSpace
     rightPadding: AppTheme.mediumSpace
     topPadding: 0
     bottomPadding: 0
     Accessible.name: item.title
-    Accessible.description: item.detail
+    // Without the marks that order a path's folders on the screen.
+    Accessible.description: item.detail.replace(/\u200E/g, "")
     Accessible.checkable: item.marked
     Accessible.checked: item.marked
 

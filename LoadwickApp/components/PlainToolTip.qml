@@ -14,11 +14,13 @@ ToolTip {
     padding: AppTheme.smallSpace
     contentItem: PlainLabel {
         text: control.words
+        // Without the marks that order a path's folders on the screen.
+        Accessible.name: text.replace(/\u200E/g, "")
         font: AppTheme.captionFont
         wrapMode: Text.Wrap
     }
     // Never wider than a comfortable line.
-    implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, 320)
+    implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, AppTheme.scaled(320))
     background: Rectangle {
         color: AppTheme.surface
         radius: AppTheme.controlRadius

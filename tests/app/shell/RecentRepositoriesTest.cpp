@@ -94,6 +94,15 @@ private Q_SLOTS:
         QCOMPARE(QString(detail).remove(QChar(0x200E)), path);
     }
 
+    void pathsAreSpokenWithoutMarks()
+    {
+        scan("one");
+        scan("two"); // the sidebar names it
+        openList();
+        QCOMPARE(spokenDetail(QStringLiteral("one")),
+                 QString::fromStdString((m_window->folder().path() / "one").string()));
+    }
+
     void aMissingFolderIsDisabled()
     {
         scan("one");
