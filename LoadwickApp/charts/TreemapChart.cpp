@@ -229,7 +229,7 @@ void TreemapChart::paintNames(QPainter &painter) const
         if (!m_tiles.showsName(tile))
             continue;
         const bool isDimmed = currentMark() >= 0 && currentMark() != static_cast<int>(tile);
-        painter.setOpacity(isDimmed ? 0.6 : 1.0);
+        painter.setOpacity(isDimmed ? dimmedNameOpacity : 1.0);
         const TreemapRect rect = m_tiles.tile(tile);
         const QRectF room(rect.x + namePadding, rect.y + namePadding / 2.0,
                           rect.width - 2.0 * namePadding, rect.height - namePadding);

@@ -81,6 +81,9 @@ class TreemapChart : public Loadwick::MarkedChart
     Q_PROPERTY(qreal dimming MEMBER m_dimming NOTIFY looksChanged)
 
 public:
+    /// Opacity of the names on the other tiles while one is current; they stay readable.
+    static constexpr qreal dimmedNameOpacity = 0.7;
+
     explicit TreemapChart(QQuickItem *parent = nullptr);
 
     [[nodiscard]] QAbstractItemModel *model() const { return m_model; }

@@ -1,3 +1,4 @@
+#include "charts/TreemapChart.h"
 #include "support/FakeAppearanceSource.h"
 #include "support/TestRegistry.h"
 #include "theme/Appearance.h"
@@ -146,6 +147,24 @@ private Q_SLOTS:
                 const QColor ground = blended(tile, color("surface"));
                 QVERIFY2(contrast(color("text"), ground) >= leastForText, qPrintable(tile.name()));
             }
+        }
+    }
+
+    void theNameOnADimmedTileIsReadable_data() { schemes(); }
+
+    void theNameOnADimmedTileIsReadable()
+    {
+        QFETCH(int, scheme);
+        use(scheme);
+        const double opacity = value("tileOpacity").toDouble() * value("tileDimming").toDouble();
+        QColor name = color("text");
+        name.setAlphaF(float(TreemapChart::dimmedNameOpacity));
+        const auto tiles = value("chartColors").value<QList<QColor>>();
+        for (QColor tile : tiles) {
+            tile.setAlphaF(float(opacity));
+            const QColor ground = blended(tile, color("surface"));
+            QVERIFY2(contrast(blended(name, ground), ground) >= leastForText,
+                     qPrintable(tile.name()));
         }
     }
 
