@@ -30,6 +30,8 @@ class RelativeSizesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { m_window.reset(); }
+
     void theWordsStayInViewWithTheMap_data()
     {
         QTest::addColumn<double>("textScale");
@@ -40,23 +42,43 @@ private Q_SLOTS:
     void theWordsStayInViewWithTheMap()
     {
         QFETCH(const double, textScale);
-        WindowFixture shown;
-        shown.appearance().setMotion(Appearance::Reduced);
-        shown.appearance().setTextScale(textScale);
-        QQuickWindow &window = shown.loadwick().window();
-        window.resize(960, 640);
-        shown.loadwick().model().state().set(ScanState::result(SampleScans::excessive().report()));
-        (void)window.grabWindow();
+        open(textScale);
+        QQuickWindow &window = m_window->loadwick().window();
         QQuickItem &map = only(window, "map");
-        map.forceActiveFocus(Qt::TabFocusReason);
-        shown.press(Qt::Key_Home);
         for (const double part : {0.1, 0.5, 0.9}) {
             QTRY_VERIFY((scroll(map, part), areReadable(window)));
             QTRY_VERIFY((scroll(map, part - 1), areReadable(window)));
         }
     }
 
+    void theWordsFollowWhenSomethingAboveOpens()
+    {
+        open(1.0);
+        QQuickWindow &window = m_window->loadwick().window();
+        QQuickItem &map = only(window, "map");
+        QTRY_VERIFY((scroll(map, 0.5), areReadable(window)));
+        const double before = inScene(map).top();
+        m_window->pressButton(QStringLiteral("Why these bands?"));
+        QTRY_VERIFY(inScene(map).top() > before);
+        QTRY_VERIFY(areReadable(window));
+    }
+
 private:
+    /// A report, and the keyboard on the first tile.
+    void open(double textScale)
+    {
+        m_window = std::make_unique<WindowFixture>();
+        m_window->appearance().setMotion(Appearance::Reduced);
+        m_window->appearance().setTextScale(textScale);
+        QQuickWindow &window = m_window->loadwick().window();
+        window.resize(960, 640);
+        const ScanReport report = SampleScans::excessive().report();
+        m_window->loadwick().model().state().set(ScanState::result(report));
+        (void)window.grabWindow();
+        only(window, "map").forceActiveFocus(Qt::TabFocusReason);
+        m_window->press(Qt::Key_Home);
+    }
+
     /// Scrolls that part of the map out of sight at the top, or at the bottom if it is negative.
     static void scroll(QQuickItem &map, double part)
     {
@@ -82,6 +104,8 @@ private:
             qFatal("%s is there %d times.", name, int(found.size()));
         return *found.first();
     }
+
+    std::unique_ptr<WindowFixture> m_window;
 };
 
 const RegisteredTest<RelativeSizesTest> registered("RelativeSizes");
