@@ -30,10 +30,11 @@ ColumnLayout {
         secondary: true
         wrapMode: Text.Wrap
     }
-    RowLayout {
+    GridLayout {
         Layout.alignment: Qt.AlignRight
         Layout.topMargin: AppTheme.cardSpace
-        spacing: AppTheme.mediumSpace
+        columnSpacing: AppTheme.mediumSpace
+        columns: confirmation.width < cancel.implicitWidth + columnSpacing + confirm.implicitWidth ? 1 : 2
 
         PushButton {
             id: cancel
@@ -44,6 +45,8 @@ ColumnLayout {
             onClicked: confirmation.cancelled()
         }
         PushButton {
+            id: confirm
+
             objectName: "action"
             title: confirmation.action
             destructive: true

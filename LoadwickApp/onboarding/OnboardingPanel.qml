@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
@@ -22,6 +23,8 @@ FocusScope {
     implicitHeight: column.implicitHeight
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) panel.forward(); }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) panel.forward(); }
+    Keys.onUpPressed: scroller.scroll(-AppTheme.scrollStep)
+    Keys.onDownPressed: scroller.scroll(AppTheme.scrollStep)
     Keys.onEscapePressed: if (panel.onboarding.currentStep.showsSkip) panel.skip()
 
     ColumnLayout {
@@ -52,10 +55,35 @@ FocusScope {
                 onClicked: panel.skip()
             }
         }
-        OnboardingSteps {
+        // The words of a step scroll if they are taller than the window.
+        Flickable {
+            id: scroller
+
+            function scroll(distance) {
+                scroller.contentY = Math.max(0, Math.min(scroller.contentHeight - scroller.height, scroller.contentY + distance));
+            }
+
             Layout.fillWidth: true
             Layout.fillHeight: true
-            onboarding: panel.onboarding
+            implicitHeight: steps.implicitHeight
+            contentHeight: Math.max(scroller.height, steps.implicitHeight)
+            interactive: scroller.contentHeight > scroller.height
+            boundsBehavior: Flickable.StopAtBounds
+            clip: scroller.interactive
+            ScrollBar.vertical: ThinScrollBar { }
+
+            OnboardingSteps {
+                id: steps
+
+                width: scroller.width
+                height: scroller.contentHeight
+                onboarding: panel.onboarding
+            }
+            Connections {
+                target: panel.onboarding
+
+                function onMoved() { scroller.contentY = 0; }
+            }
         }
         RowLayout {
             Layout.preferredHeight: AppTheme.controlHeight

@@ -21,7 +21,7 @@ Item {
         id: bar
 
         anchors { left: parent.left; right: parent.right; top: parent.top }
-        height: 56
+        height: AppTheme.controlHeight + AppTheme.pageMargin
         radius: AppTheme.controlRadius
         color: AppTheme.window
         border { width: AppTheme.hairline; color: AppTheme.separator }

@@ -42,6 +42,7 @@ Dialog {
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(AppTheme.sheetWidth, parent.width - 2 * AppTheme.pageMargin) : AppTheme.sheetWidth
+    height: parent ? Math.min(implicitHeight, parent.height - 2 * AppTheme.smallSpace) : implicitHeight
     padding: AppTheme.pageMargin
     modal: true
     focus: true

@@ -10,7 +10,7 @@ Item {
     required property RecentRepositories recent
 
     implicitHeight: AppTheme.controlHeight + 2 * AppTheme.smallSpace
-    // At the top right in every language.
+    // On the right in every language, as the walk-through says.
     LayoutMirroring.enabled: false
     LayoutMirroring.childrenInherit: true
 

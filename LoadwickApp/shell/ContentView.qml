@@ -15,6 +15,7 @@ SplitView {
     required property PageExport overviewExport
     required property PageExport trendsExport
     required property PageExport compareExport
+    readonly property real leastWidth: AppTheme.sidebarMinimumWidth + AppTheme.hairline + AppTheme.detailMinimumWidth
 
     // A page that is created when it is first shown, and kept.
     component LatePage: Loader {
@@ -43,6 +44,8 @@ SplitView {
     function takeKeyboard() { keys.begin(); }
 
     orientation: Qt.Horizontal
+    // The view itself does not mirror its columns.
+    Component.onCompleted: if (Application.layoutDirection === Qt.RightToLeft) view.moveItem(0, 1)
 
     Connections {
         target: view.overview.latestChange
@@ -68,9 +71,9 @@ SplitView {
         id: sidebar
 
         SplitView.preferredWidth: AppTheme.scaled(250)
-        SplitView.minimumWidth: AppTheme.scaled(220)
+        SplitView.minimumWidth: AppTheme.sidebarMinimumWidth
         // A window that narrows takes its width from a wide sidebar, not from the page.
-        SplitView.maximumWidth: Math.max(sidebar.SplitView.minimumWidth, view.width - AppTheme.detailMinimumWidth - AppTheme.hairline)
+        SplitView.maximumWidth: Math.max(AppTheme.sidebarMinimumWidth, view.width - AppTheme.detailMinimumWidth - AppTheme.hairline)
         content: view.content
     }
 

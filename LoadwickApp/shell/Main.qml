@@ -19,8 +19,8 @@ ApplicationWindow {
     title: qsTr("Loadwick")
     width: 1180
     height: 780
-    minimumWidth: 960
-    minimumHeight: 640
+    minimumWidth: AppTheme.windowMinimumWidth
+    minimumHeight: AppTheme.windowMinimumHeight
     color: AppTheme.window
     font: AppTheme.bodyFont
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
@@ -32,18 +32,26 @@ ApplicationWindow {
         anchors.fill: parent
         Accessible.role: Accessible.Pane
 
-        ContentView {
-            id: contents
+        SidewaysScroll {
+            id: sideways
 
             anchors.fill: parent
-            content: window.content
-            overview: window.overview
-            trends: window.trends
-            compare: window.compare
-            recent: window.recent
-            overviewExport: window.overviewExport
-            trendsExport: window.trendsExport
-            compareExport: window.compareExport
+            leastWidth: contents.leastWidth
+
+            ContentView {
+                id: contents
+
+                width: sideways.contentWidth
+                height: sideways.height
+                content: window.content
+                overview: window.overview
+                trends: window.trends
+                compare: window.compare
+                recent: window.recent
+                overviewExport: window.overviewExport
+                trendsExport: window.trendsExport
+                compareExport: window.compareExport
+            }
         }
         DropTarget {
             anchors.fill: parent

@@ -19,6 +19,7 @@ AbstractButton {
             loader.setSource("RecentMenu.qml", { recent: button.recent });
             button.menu = loader.item as RecentMenu;
         }
+        button.menu.width = Math.min(button.menu.implicitWidth, button.Window.width - 2 * AppTheme.smallSpace);
         button.recent.checkFolders();
         button.menu.popup(button, button.width - button.menu.width, button.height + AppTheme.tightSpace);
     }

@@ -8,7 +8,7 @@ PlainMenu {
 
     required property RecentRepositories recent
 
-    implicitWidth: 320
+    implicitWidth: AppTheme.scaled(320)
 
     Repeater {
         model: menu.recent.rows

@@ -43,8 +43,10 @@ Rectangle {
                     Layout.fillWidth: true
                     text: sidebar.content.repositoryName
                     font: AppTheme.emphasisFont
+                    // A name is cut, our own words wrap.
                     elide: Text.ElideMiddle
-                    maximumLineCount: 1
+                    wrapMode: sidebar.content.hasRepository ? Text.NoWrap : Text.Wrap
+                    maximumLineCount: sidebar.content.hasRepository ? 1 : 3
                     Accessible.name: text
 
                     HoverTip { words: name.truncated ? name.text : "" }

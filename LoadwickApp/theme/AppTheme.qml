@@ -95,8 +95,11 @@ QtObject {
     readonly property int wideSpace: 32
     readonly property int cardPadding: 16
     readonly property int contentWidth: 1040
-    // The width of the page column; no page is laid out narrower.
-    readonly property int detailMinimumWidth: 480
+    readonly property int windowMinimumWidth: 960
+    readonly property int windowMinimumHeight: 640
+    // No page is laid out narrower. In the largest text it takes its room from the sidebar.
+    readonly property int detailMinimumWidth: Math.max(480, scaled(340))
+    readonly property int sidebarMinimumWidth: Math.min(scaled(220), windowMinimumWidth - hairline - detailMinimumWidth)
     readonly property int stateWidth: scaled(420)
     // The width that words beside a figure need; with less they go below it.
     readonly property int copyMinimumWidth: scaled(280)
@@ -119,8 +122,8 @@ QtObject {
 
     readonly property int meterHeight: 16
     readonly property int meterTickWidth: 2
-    readonly property int gaugeSide: 100
-    readonly property int gaugeArcSide: 90
+    readonly property int gaugeSide: scaled(100)
+    readonly property int gaugeArcSide: scaled(90)
 
     readonly property int sheetWidth: scaled(560)
     readonly property int illustrationHeight: 140

@@ -25,8 +25,8 @@ struct DesktopPreferences
     /// up to there the scale is 1.
     [[nodiscard]] double textScale() const;
 
-    /// 14 points instead of 10; the smallest window has no room for more.
-    static constexpr double largestTextScale = 1.4;
+    /// As far as desktops offer it.
+    static constexpr double largestTextScale = 2.0;
 
     friend bool operator==(const DesktopPreferences &, const DesktopPreferences &) = default;
 };

@@ -46,14 +46,14 @@ QAccessibleInterface *findButton(QAccessibleInterface &parent, const QString &na
     return nullptr;
 }
 
-/// The first that is wide enough; lists within the page are nested deeper.
+/// Of the first scroll view that is wide enough.
 QQuickItem *viewportBelow(const QQuickItem &parent, double leastWidth)
 {
     for (QQuickItem *child : parent.childItems()) {
         if (!child->isVisible())
             continue;
-        if (child->inherits("QQuickFlickable") && child->width() > leastWidth)
-            return child;
+        if (child->inherits("QQuickScrollView") && child->width() > leastWidth)
+            return child->property("contentItem").value<QQuickItem *>();
         if (QQuickItem *found = viewportBelow(*child, leastWidth))
             return found;
     }

@@ -85,6 +85,26 @@ private Q_SLOTS:
         QCOMPARE(m_store->writes, 0);
     }
 
+    void inTheLargestTextTheWordsOfAStepScroll()
+    {
+        openSheet();
+        QQuickWindow &window = m_window->loadwick().window();
+        m_window->appearance().setTextScale(2);
+        window.resize(960, 640);
+        const QString last = QStringLiteral("Look for the folder icon in the top-right toolbar.");
+        advance(1);
+        QTRY_VERIFY(m_window->shows(last));
+        const auto endsAbove = [this, last](const QString &button) {
+            return placeOf(last).bottom() < placeOf(button).top();
+        };
+        QTRY_VERIFY(!endsAbove(QStringLiteral("Next")));
+        for (int press = 0; press < 20; ++press)
+            m_window->press(Qt::Key_Down);
+        QTRY_VERIFY(endsAbove(QStringLiteral("Next")));
+        QVERIFY(placeOf(QStringLiteral("Skip")).top() > 0);
+        QVERIFY(placeOf(QStringLiteral("Next")).bottom() < 640);
+    }
+
     void returnOnTheLastStepCompletesOnceAndCloses()
     {
         openSheet();
@@ -199,6 +219,13 @@ private Q_SLOTS:
     }
 
 private:
+    /// Of the item of that name, in the window.
+    [[nodiscard]] QRectF placeOf(const QString &name) const
+    {
+        const auto *item = qobject_cast<QQuickItem *>(m_window->find(name)->object());
+        return item->mapRectToScene(QRectF(QPointF(), item->size()));
+    }
+
     [[nodiscard]] bool shows(const char *name) const
     {
         return m_window->shows(QString::fromUtf8(name));

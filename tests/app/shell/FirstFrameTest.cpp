@@ -14,7 +14,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr qsizetype mostObjects = 165;
+constexpr qsizetype mostObjects = 172;
 
 /// Whether the process has loaded a library of that name.
 bool isLoaded(const std::string &library)

@@ -21,7 +21,7 @@ private Q_SLOTS:
     {
         const QAccessibleInterface *name = m_window->find(QStringLiteral("No repository selected"));
         QVERIFY(name != nullptr);
-        for (const double scale : {1.0, 1.2, 1.4}) {
+        for (const double scale : {1.0, 1.2, 1.4, 2.0}) {
             m_window->appearance().setTextScale(scale);
             (void)m_window->loadwick().window().grabWindow();
             QVERIFY(!name->object()->property("truncated").toBool());

@@ -1,6 +1,7 @@
-// Every page in windows, texts and sidebars of many sizes, with a scan that ends there: nothing is
-// cut off, nothing overlaps, and headings are over their columns.
+// Every page in windows, texts and sidebars of many sizes and in both directions, with scans that
+// fail and end there: nothing is cut off, nothing overlaps, and headings are over their columns.
 #include <array>
+#include <vector>
 
 #include <QSet>
 #include <QTest>
@@ -12,17 +13,48 @@
 #include "support/TestRegistry.h"
 #include "support/VisualItems.h"
 #include "support/WindowFixture.h"
-#include "theme/AppearanceSource.h"
 
 namespace Loadwick {
 namespace {
 
-constexpr std::array widths{960, 1000, 1040, 1080, 1100, 1180, 1500, 2560};
-constexpr std::array fontPoints{10, 12, 14};
+/// Fonts of 10, 12, 14 and 20 points.
+constexpr std::array textScales{1.0, 1.2, 1.4, 2.0};
 constexpr int height = 640;
-constexpr int narrowestPage = 480;
 constexpr int leastNameWidth = 100;
 constexpr int settlingMilliseconds = 2'000;
+
+struct Size
+{
+    double textScale;
+    int width;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+};
+/// A compositor that tiles makes the window narrower than its minimum.
+constexpr std::array allSizes{Size{1.0, 480},
+                              Size{1.0, 700},
+                              Size{1.0, 960},
+                              Size{1.0, 1000},
+                              Size{1.0, 1040},
+                              Size{1.0, 1080},
+                              Size{1.0, 1180},
+                              Size{1.0, 2560},
+                              Size{1.2, 960},
+                              Size{1.2, 1100},
+                              Size{1.4, 480},
+                              Size{1.4, 960},
+                              Size{1.4, 1080},
+                              Size{1.4, 1500},
+                              Size{2.0, 480},
+                              Size{2.0, 700},
+                              Size{2.0, 960},
+                              Size{2.0, 1180},
+                              Size{2.0, 1500},
+                              Size{2.0, 2560},
+                              Size{1.0, 480, Qt::RightToLeft},
+                              Size{1.0, 960, Qt::RightToLeft},
+                              Size{1.4, 1180, Qt::RightToLeft},
+                              Size{2.0, 700, Qt::RightToLeft},
+                              Size{2.0, 960, Qt::RightToLeft}};
 
 enum class Sidebar
 {
@@ -30,7 +62,6 @@ enum class Sidebar
     narrowest,
     widest
 };
-constexpr std::array allSidebars{Sidebar::usual, Sidebar::narrowest, Sidebar::widest};
 
 /// With a name and a figure of the greatest length.
 ScanReport busyReport()
@@ -66,7 +97,7 @@ QQuickItem &shownItemOfType(QQuickWindow &window, const char *type)
     qFatal("There is no %s.", type);
 }
 
-/// The card that holds an item, else the root of the window.
+/// The card that holds an item, else the root of the window, which may be scrolled.
 QQuickItem &cardOf(QQuickItem &item)
 {
     QQuickItem *holder = item.parentItem();
@@ -95,15 +126,22 @@ class WindowSizesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { m_window.reset(); }
+    void cleanup()
+    {
+        m_window.reset();
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
     void theFirstLaunchFits_data();
     void theFirstLaunchFits();
     void everyPageFits_data();
     void everyPageFits();
 
 private:
-    void open(int points, int width);
+    void open(const Size &size);
     void dragSidebar(Sidebar sidebar);
+    [[nodiscard]] QPoint fromSide(int distance);
+    [[nodiscard]] int widestSidebar();
+    [[nodiscard]] std::vector<Sidebar> sidebars();
     void choose();
     void endScan();
     void visitPages();
@@ -113,6 +151,7 @@ private:
     [[nodiscard]] QStringList wordsBesideCards();
     [[nodiscard]] QStringList partedColumns();
     [[nodiscard]] QStringList vanishedNames();
+    [[nodiscard]] QStringList lostSidebar();
     [[nodiscard]] QQuickWindow &window() { return m_window->loadwick().window(); }
 
     std::unique_ptr<WindowFixture> m_window;
@@ -121,16 +160,16 @@ private:
 
 void WindowSizesTest::theFirstLaunchFits_data()
 {
-    QTest::addColumn<int>("points");
-    for (const int points : fontPoints)
-        QTest::addRow("%d points", points) << points;
+    QTest::addColumn<double>("textScale");
+    for (const double scale : textScales)
+        QTest::addRow("text of %.0f %%", 100 * scale) << scale;
 }
 
 void WindowSizesTest::theFirstLaunchFits()
 {
-    QFETCH(const int, points);
-    open(points, widths.front());
-    for (const Sidebar sidebar : allSidebars) {
+    QFETCH(const double, textScale);
+    open({textScale, 960});
+    for (const Sidebar sidebar : sidebars()) {
         dragSidebar(sidebar);
         visitPages();
     }
@@ -138,20 +177,19 @@ void WindowSizesTest::theFirstLaunchFits()
 
 void WindowSizesTest::everyPageFits_data()
 {
-    QTest::addColumn<int>("points");
-    QTest::addColumn<int>("width");
-    for (const int points : fontPoints)
-        for (const int width : widths)
-            QTest::addRow("%d points, %d wide", points, width) << points << width;
+    QTest::addColumn<Size>("size");
+    for (const Size &size : allSizes)
+        QTest::addRow("text of %.0f %%, %d wide%s", 100 * size.textScale, size.width,
+                      size.direction == Qt::RightToLeft ? ", right to left" : "")
+            << size;
 }
 
 void WindowSizesTest::everyPageFits()
 {
-    QFETCH(const int, points);
-    QFETCH(const int, width);
-    open(points, width);
+    QFETCH(const Size, size);
+    open(size);
     choose();
-    for (const Sidebar sidebar : allSidebars) {
+    for (const Sidebar sidebar : sidebars()) {
         dragSidebar(sidebar);
         endScan();
         visitPages();
@@ -163,12 +201,14 @@ void WindowSizesTest::everyPageFits()
 }
 
 // At the first size, then at the real one, as the program does.
-void WindowSizesTest::open(int points, int width)
+void WindowSizesTest::open(const Size &size)
 {
+    QGuiApplication::setLayoutDirection(size.direction);
     m_window = std::make_unique<WindowFixture>();
     m_window->appearance().setMotion(Appearance::Reduced);
-    m_window->appearance().setTextScale(DesktopPreferences{.fontPoints = points}.textScale());
-    window().resize(width, height);
+    m_window->appearance().setTextScale(size.textScale);
+    window().resize(size.width, height);
+    QTRY_COMPARE(window().contentItem()->width(), size.width);
 }
 
 void WindowSizesTest::choose()
@@ -187,18 +227,38 @@ void WindowSizesTest::dragSidebar(Sidebar sidebar)
 {
     if (sidebar == Sidebar::usual)
         return;
-    constexpr int middle = height / 2;
     const QQuickItem &side = shownItemOfType(window(), "Sidebar_");
-    const QPoint start(int(side.width()), middle);
-    const QPoint end(sidebar == Sidebar::narrowest ? 1 : window().width() - 1, middle);
-    QTest::mousePress(&window(), Qt::LeftButton, {}, start);
-    QTest::mouseMove(&window(), (start + end) / 2);
-    QTest::mouseMove(&window(), end);
-    QTest::mouseRelease(&window(), Qt::LeftButton, {}, end);
+    const int start = int(side.width());
+    const int end = sidebar == Sidebar::narrowest ? 1 : window().width() - 1;
+    QTest::mousePress(&window(), Qt::LeftButton, {}, fromSide(start));
+    QTest::mouseMove(&window(), fromSide((start + end) / 2));
+    QTest::mouseMove(&window(), fromSide(end));
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, fromSide(end));
     if (sidebar == Sidebar::narrowest)
-        QTRY_VERIFY(side.width() < start.x());
+        QTRY_VERIFY(side.width() < start);
     else
-        QTRY_COMPARE(int(window().width() - side.width()) - 1, narrowestPage);
+        QTRY_COMPARE(int(side.width()), widestSidebar());
+}
+
+/// In the middle, that far from the window's edge beside the sidebar.
+QPoint WindowSizesTest::fromSide(int distance)
+{
+    const bool isRight = QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    return {isRight ? window().width() - 1 - distance : distance, height / 2};
+}
+
+/// Beside the narrowest page.
+int WindowSizesTest::widestSidebar()
+{
+    const double scale = m_window->appearance().textScale();
+    return window().width() - 1 - std::max(480, qRound(340 * scale));
+}
+
+std::vector<Sidebar> WindowSizesTest::sidebars()
+{
+    if (widestSidebar() <= shownItemOfType(window(), "Sidebar_").width())
+        return {Sidebar::usual};
+    return {Sidebar::usual, Sidebar::narrowest, Sidebar::widest};
 }
 
 void WindowSizesTest::endScan()
@@ -206,6 +266,8 @@ void WindowSizesTest::endScan()
     ScanModel &model = m_window->loadwick().model();
     model.state().set(ScanState::scanning());
     verify("while scanning");
+    model.state().set(ScanState::failed(ProbeError::notAuthenticated()));
+    verify("after a failure");
     // A real scan takes longer than the deletion of the previous report.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     model.state().set(ScanState::result(busyReport()));
@@ -242,7 +304,7 @@ QStringList WindowSizesTest::faults()
 {
     return LayoutAudit::clippedTexts(window()) + LayoutAudit::overlappingTexts(window()) +
            LayoutAudit::misplacedItems(window()) + cutWords() + wordsBesideCards() +
-           partedColumns() + vanishedNames();
+           partedColumns() + vanishedNames() + lostSidebar();
 }
 
 // Our own words are never cut, only names and paths.
@@ -264,6 +326,8 @@ QStringList WindowSizesTest::wordsBesideCards()
     QStringList found;
     for (QQuickItem *item : shownItems(*window().contentItem())) {
         const QQuickItem &card = cardOf(*item);
+        if (card.parentItem() == nullptr)
+            continue;
         const QRectF place = item->mapRectToItem(&card, QRectF(QPointF(), item->size()));
         if (isText(*item) && (place.left() < 0 || place.right() > card.width()))
             found << QStringLiteral("\"%1\" is partly beside its card").arg(textOf(*item));
@@ -271,8 +335,11 @@ QStringList WindowSizesTest::wordsBesideCards()
     return found;
 }
 
+// From right to left a figure that is longer than its column ends outside it.
 QStringList WindowSizesTest::partedColumns()
 {
+    if (QGuiApplication::layoutDirection() == Qt::RightToLeft)
+        return {};
     static const QSet<QString> headings{QStringLiteral("Category"), QStringLiteral("Tokens"),
                                         QStringLiteral("Share"), QStringLiteral("Source"),
                                         QStringLiteral("% of total")};
@@ -290,6 +357,19 @@ QStringList WindowSizesTest::partedColumns()
         }
     }
     return found;
+}
+
+QStringList WindowSizesTest::lostSidebar()
+{
+    const QQuickItem &side = shownItemOfType(window(), "Sidebar_");
+    const QQuickItem &scroller = shownItemOfType(window(), "SidewaysScroll_");
+    const QRectF whole(0, 0, scroller.property("contentWidth").toDouble(), height);
+    const auto *content = scroller.property("contentItem").value<QQuickItem *>();
+    const QRectF place = side.mapRectToItem(content, QRectF(QPointF(), side.size()));
+    const bool isRight = QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    const qreal gap = isRight ? whole.right() - place.right() : place.left();
+    return gap == 0 ? QStringList()
+                    : QStringList(QStringLiteral("The sidebar is %1 beside its edge").arg(gap));
 }
 
 QStringList WindowSizesTest::vanishedNames()

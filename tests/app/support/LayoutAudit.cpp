@@ -51,14 +51,40 @@ QRectF words(const QQuickItem &text)
     return {left, top, width, height};
 }
 
-/// The part of an area of the window left visible by the window and by clipping items.
+/// The part of the scene that scrolling sideways can bring into the window; without a scroller, the
+/// window.
+QRectF reachablePart(const QQuickItem &holder)
+{
+    const double width = std::max(holder.width(), number(holder, "contentWidth"));
+    return holder.mapRectToScene({-number(holder, "contentX"), 0, width, holder.height()});
+}
+
+bool scrollsSideways(const QQuickItem &item)
+{
+    return item.property("leastWidth").isValid();
+}
+
+/// The part of an area of the window left visible by the window, wherever it is scrolled sideways,
+/// and by clipping items.
 QRectF shownPart(const QQuickItem &item, QRectF area)
 {
     for (const QQuickItem *holder = item.parentItem(); holder; holder = holder->parentItem()) {
+        if (scrollsSideways(*holder))
+            return area & reachablePart(*holder);
         if (holder->clip() || holder->parentItem() == nullptr)
             area &= holder->mapRectToScene(holder->boundingRect());
     }
     return area;
+}
+
+/// Whether the words are beside what the window can show.
+bool isBeside(const QQuickItem &item, const QRectF &scene)
+{
+    const QQuickItem *holder = &item;
+    while (holder->parentItem() != nullptr && !scrollsSideways(*holder))
+        holder = holder->parentItem();
+    const QRectF reachable = reachablePart(*holder);
+    return scene.right() < reachable.left() || scene.left() > reachable.right();
 }
 
 bool isTip(const QObject &object)
@@ -97,7 +123,7 @@ QStringList faultsOf(const QQuickItem &item)
     const QRectF shown = shownPart(item, scene);
     if (!shown.isEmpty() && shown.width() < scene.width() - tolerance)
         found << described(item) + QStringLiteral(" is cut off at a side");
-    if (scene.right() < 0 || scene.left() > item.window()->width())
+    if (isBeside(item, scene))
         found << described(item) + QStringLiteral(" is beside the window");
     return found;
 }
@@ -235,7 +261,9 @@ QStringList misplacedItems(QQuickWindow &window)
         const QQuickItem &parent = *item->parentItem();
         if (isLayout(*item))
             found += overlappingChildren(*item);
-        if ((isLayout(*item) || isLayout(parent)) && isOutside(placeInParent(*item), parent))
+        const QRectF place =
+            isText(*item) ? item->mapRectToItem(&parent, words(*item)) : placeInParent(*item);
+        if ((isLayout(*item) || isLayout(parent)) && isOutside(place, parent))
             found << described(*item) + QStringLiteral(" extends beyond ") + described(parent);
     }
     return found;

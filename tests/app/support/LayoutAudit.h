@@ -16,8 +16,8 @@ namespace LayoutAudit {
 /// Texts that are painted over each other.
 [[nodiscard]] QStringList overlappingTexts(QQuickWindow &window);
 
-/// Layouts and their children that extend beyond their parent, and children of a layout that cover
-/// each other.
+/// Layouts and their children (of a text, its words) that extend beyond their parent, and children
+/// of a layout that cover each other.
 [[nodiscard]] QStringList misplacedItems(QQuickWindow &window);
 
 /// Focusable or accessible items without an accessible name.

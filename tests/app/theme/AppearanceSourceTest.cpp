@@ -48,10 +48,10 @@ private Q_SLOTS:
         QTest::newRow("as GNOME comes") << 11.0 << 1.0 << 1.0;
         QTest::newRow("large") << 12.0 << 1.0 << 1.2;
         QTest::newRow("fourteen points") << 14.0 << 1.0 << 1.4;
-        QTest::newRow("beyond") << 40.0 << 1.0 << 1.4;
+        QTest::newRow("beyond") << 40.0 << 1.0 << 2.0;
         QTest::newRow("by a factor") << 10.0 << 1.25 << 1.25;
         QTest::newRow("by both") << 12.0 << 1.1 << 1.32;
-        QTest::newRow("a factor beyond") << 10.0 << 3.0 << 1.4;
+        QTest::newRow("a factor beyond") << 10.0 << 3.0 << 2.0;
         QTest::newRow("made smaller") << 10.0 << 0.5 << 1.0;
     }
 

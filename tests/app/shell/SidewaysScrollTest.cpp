@@ -1,0 +1,140 @@
+// A window that a compositor makes narrower than its minimum: everything in it can be reached.
+#include <QGuiApplication>
+#include <QTest>
+
+#include "shell/ContentPresenter.h"
+#include "support/TestRegistry.h"
+#include "support/VisualItems.h"
+#include "support/WindowFixture.h"
+
+namespace Loadwick {
+namespace {
+
+constexpr int narrow = 480;
+constexpr int leastWidth = 220 + 1 + 480; // a sidebar, the line beside it, a page
+
+} // namespace
+
+class SidewaysScrollTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void scrollsOnlyBelowItsLeastWidth();
+    void beginsAtTheSidebar_data();
+    void beginsAtTheSidebar();
+    void theWheelScrolls();
+    void theKeyboardScrollsToItsItem();
+    void aPressedItemStaysUnderThePointer();
+
+private:
+    void resize(int width);
+    [[nodiscard]] QQuickWindow &window() { return m_window->loadwick().window(); }
+    [[nodiscard]] double position() { return m_scroller->property("contentX").toDouble(); }
+
+    std::unique_ptr<WindowFixture> m_window;
+    QQuickItem *m_scroller = nullptr;
+};
+
+void SidewaysScrollTest::init()
+{
+    m_window = std::make_unique<WindowFixture>();
+    m_window->appearance().setMotion(Appearance::Reduced);
+    for (QQuickItem *item : shownItems(*window().contentItem()))
+        if (item->property("leastWidth").isValid() && item->inherits("QQuickFlickable"))
+            m_scroller = item;
+    QVERIFY(m_scroller != nullptr);
+}
+
+void SidewaysScrollTest::cleanup()
+{
+    m_window.reset();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+void SidewaysScrollTest::scrollsOnlyBelowItsLeastWidth()
+{
+    for (const int width : {leastWidth, 960, 1180}) {
+        resize(width);
+        QCOMPARE(m_scroller->property("contentWidth").toInt(), width);
+        QVERIFY(!m_scroller->property("interactive").toBool());
+    }
+    resize(narrow);
+    QCOMPARE(m_scroller->property("contentWidth").toInt(), leastWidth);
+    QVERIFY(m_scroller->property("interactive").toBool());
+}
+
+void SidewaysScrollTest::beginsAtTheSidebar_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<int>("begin");
+    QTest::newRow("left to right") << Qt::LeftToRight << 0;
+    QTest::newRow("right to left") << Qt::RightToLeft << leastWidth - narrow;
+}
+
+void SidewaysScrollTest::beginsAtTheSidebar()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const int, begin);
+    m_window.reset();
+    QGuiApplication::setLayoutDirection(direction);
+    init();
+    resize(narrow);
+    QTRY_COMPARE(int(position()), begin);
+}
+
+void SidewaysScrollTest::theWheelScrolls()
+{
+    resize(narrow);
+    QWheelEvent turn({300, 300}, window().mapToGlobal(QPointF(300, 300)), {}, {-1200, 0},
+                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window(), &turn);
+    QTRY_COMPARE(int(position()), leastWidth - narrow);
+}
+
+void SidewaysScrollTest::theKeyboardScrollsToItsItem()
+{
+    resize(narrow);
+    m_window->press(Qt::Key_F6);
+    m_window->press(Qt::Key_F6);
+    const auto isWhole = [this] {
+        const QQuickItem *item = window().activeFocusItem();
+        const QRectF place = item->mapRectToScene(QRectF(QPointF(), item->size()));
+        return place.left() >= 0 && place.right() <= narrow;
+    };
+    for (int stop = 0; stop < 4; ++stop) {
+        QTRY_VERIFY(isWhole());
+        m_window->press(Qt::Key_Tab);
+    }
+}
+
+void SidewaysScrollTest::aPressedItemStaysUnderThePointer()
+{
+    resize(narrow);
+    QQuickItem *choose = nullptr;
+    for (QQuickItem *item : shownItems(*window().contentItem()))
+        if (item->property("title") == QStringLiteral("Choose Repository…"))
+            choose = item;
+    QVERIFY(choose != nullptr);
+    m_window->chooser().answer = m_window->folder().path();
+    const QPoint edge(narrow - 2, int(choose->mapToScene({0, choose->height() / 2}).y()));
+    QVERIFY(choose->mapToScene({}).x() < edge.x());
+    QTest::mousePress(&window(), Qt::LeftButton, {}, edge);
+    QTest::qWait(0);
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, edge);
+    QVERIFY(m_window->loadwick().content().hasRepository());
+}
+
+void SidewaysScrollTest::resize(int width)
+{
+    window().resize(width, 640);
+    QTRY_COMPARE(int(m_scroller->width()), width);
+}
+
+const RegisteredTest<SidewaysScrollTest> registered("SidewaysScroll");
+
+} // namespace Loadwick
+
+#include "SidewaysScrollTest.moc"
