@@ -109,15 +109,18 @@ class AccessibleTree:
 
     def focused(self) -> Optional[Any]:
         """The focused object: the innermost, if several claim the focus."""
-        found = [item for item in self.items() if unless_gone(lambda: is_focused(item), False)]
+        found = self._claiming_focus()
         return found[-1] if found else None
 
+    def _claiming_focus(self) -> list[Any]:
+        return [item for item in self.items() if unless_gone(lambda: is_focused(item), False)]
+
     def wait_until_focused(self, name: str) -> None:
-        """Returns once the object of this name is focused."""
+        """Returns once the object of this name is focused. With Qt 6.8 the chosen row of a closed combo
+        box claims the focus too."""
 
         def has_focus() -> bool:
-            item = self.focused()
-            return item is not None and item.get_name() == name
+            return any(item.get_name() == name for item in self._claiming_focus())
 
         self._until(f"the focus on {name!r}", has_focus)
 
