@@ -28,6 +28,14 @@ endforeach()
 # It starts a desktop for each test.
 set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/desktop_sway" APPEND PROPERTY LABELS slow)
 
+# They wait for what is said.
+foreach(script IN LISTS scripts)
+    if(script MATCHES "^reader_(.*)_test\\.py$")
+        set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/reader_${CMAKE_MATCH_1}"
+                     APPEND PROPERTY LABELS slow)
+    endif()
+endforeach()
+
 # It watches for ten seconds.
 set_property(TEST "${LOADWICK_TEST_PREFIX}endtoend/idle" APPEND PROPERTY LABELS slow)
 

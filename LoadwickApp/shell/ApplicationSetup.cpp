@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLocale>
 
+#include "shell/AccessibleEvents.h"
 #include "shell/AccessiblePress.h"
 #include "shell/ModalGround.h"
 #include "theme/ApplicationStyle.h"
@@ -26,6 +27,7 @@ void apply(QGuiApplication &application)
     ApplicationStyle::applyFont(application);
     // For desktops that do not take the icon from the desktop entry.
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Loadwick/application.png")));
+    AccessibleEvents::install();
     AccessiblePress::install();
     ModalGround::install();
 }
