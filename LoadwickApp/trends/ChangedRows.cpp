@@ -57,11 +57,10 @@ TrendKind::Value changedKind(const ChangedRow &row)
 
 QString spokenOn(Side side, const ChangedRow &row, const TextLocale &locale)
 {
-    const QString figure = figureOn(side, row, locale);
     if (!tokensOn(side, row))
-        return figure;
+        return figureOn(side, row, locale);
     return (side == Side::before ? ChangedRow::tr("before %1") : ChangedRow::tr("after %1"))
-        .arg(figure);
+        .arg(figureOn(side, row, locale));
 }
 
 QString sentenceOf(const ChangedRow &row, const TextLocale &locale)

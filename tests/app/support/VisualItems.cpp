@@ -1,5 +1,7 @@
 #include "support/VisualItems.h"
 
+#include <QTest>
+
 namespace Loadwick {
 
 QList<QQuickItem *> visibleItems(QQuickItem *root, const QString &objectName)
@@ -35,6 +37,19 @@ void expandSections(const QQuickItem &root)
         if (item->property("isExpanded").isValid())
             item->setProperty("isExpanded", true);
     }
+}
+
+bool settles(QQuickWindow &window)
+{
+    QList<QRectF> places;
+    return QTest::qWaitFor([&] {
+        QList<QRectF> now;
+        if (!window.grabWindow().isNull())
+            for (const QQuickItem *item : shownItems(*window.contentItem()))
+                now << item->mapRectToScene(item->boundingRect());
+        std::swap(places, now);
+        return places == now;
+    });
 }
 
 qreal rightEdge(const QQuickItem *item)

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QQuickItem>
+#include <QQuickWindow>
 #include <QString>
 
 namespace Loadwick {
@@ -15,6 +16,10 @@ namespace Loadwick {
 
 /// Opens all visible sections that open and close.
 void expandSections(const QQuickItem &root);
+
+/// Waits until two frames agree on the places of all items, since a layout takes some. False if
+/// that takes seconds.
+[[nodiscard]] bool settles(QQuickWindow &window);
 
 /// The item's trailing edge, in the coordinates of its window.
 [[nodiscard]] qreal rightEdge(const QQuickItem *item);
