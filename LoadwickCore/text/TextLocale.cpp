@@ -43,11 +43,11 @@ std::string_view scriptOf(std::string_view value) noexcept
 }
 
 /// ICU falls back to a locale of its own, which it takes from the environment and copies into a
-/// fixed buffer, however long it is.
+/// fixed buffer, however long it is. The constants of icu::Locale ask for it too.
 void makeEnglishTheFallback()
 {
     UErrorCode status = U_ZERO_ERROR;
-    icu::Locale::setDefault(icu::Locale::getUS(), status);
+    icu::Locale::setDefault(icu::Locale("en", "US"), status);
 }
 
 /// Whether ICU has words of the locale's language, or of one that it derives from.
