@@ -12,6 +12,7 @@ from program import Program
 from screen_reader import ScreenReader, is_installed
 from waiting import WaitFailed
 
+MOST_STOPS = 12  # between two stops of interest
 TRANSCRIPTS = "LOADWICK_TRANSCRIPTS"  # names a folder that keeps what was said, for reading
 
 
@@ -41,6 +42,15 @@ class ReaderCase(EndToEndCase):
         """Presses a key and waits for what the reader says to it."""
         program.window.key(key)
         self.hears(*parts)
+
+    def tab_to(self, program: Program, part: str) -> None:
+        """Presses Tab until the reader says that part first."""
+        for _ in range(MOST_STOPS):
+            said = self.reader.answer_to("tab", lambda: program.window.key("Tab"))
+            if part in said:
+                self.hears(part)
+                return
+        self.fail(f"Tab does not lead to {part!r}; the reader said:\n{self.reader.transcript()}")
 
     def scan(self, program: Program, name: str) -> None:
         """Chooses a new repository and scans it once, until the reader has said the result."""

@@ -7,10 +7,10 @@ import shutil
 import subprocess
 import tempfile
 from pathlib import Path
-from typing import Optional
+from typing import Callable, Optional
 
 from processes import end_with_parent
-from speech_server import SpeechServer
+from speech_server import INTERRUPTED, SpeechServer
 from waiting import LIMIT_SECONDS, WaitFailed, until
 
 READY = "Screen reader on."
@@ -69,6 +69,17 @@ class ScreenReader:
     def transcript(self) -> str:
         """All that was said so far, a message a line."""
         return "\n".join(self._speech.transcript)
+
+    def answer_to(self, key: str, press: Callable[[], None]) -> str:
+        """The first words after a press of the key of that name, which may be spoken too."""
+        said = len(self._speech.transcript)
+        press()
+
+        def words() -> Optional[str]:
+            lines = self._speech.transcript[said:]
+            return next((line for line in lines if line not in (INTERRUPTED, key)), None)
+
+        return until(f"words after {key!r}", words)
 
     def hears(self, *parts: str) -> None:
         """Waits until all parts were said in this order, after those that were awaited before."""
