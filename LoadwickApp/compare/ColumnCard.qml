@@ -40,7 +40,7 @@ ReportSurface {
         Accessible.name: bar.spoken
         // Hidden while pooled.
         ListView.onPooled: bar.visible = false
-        ListView.onReused: bar.visible = true
+        ListView.onReused: { bar.visible = true; bar.Accessible.ignored = false; }
     }
 
     onRepositoryIndexChanged: bars.begin()

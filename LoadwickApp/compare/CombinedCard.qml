@@ -45,7 +45,7 @@ ReportSurface {
         Accessible.description: row.path
         // Hidden while pooled.
         ListView.onPooled: row.visible = false
-        ListView.onReused: row.visible = true
+        ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
     }
 
     SectionHeader {

@@ -29,7 +29,7 @@ Item {
     Accessible.description: row.path
     // Hidden while pooled.
     ListView.onPooled: row.visible = false
-    ListView.onReused: row.visible = true
+    ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
 
     RowLayout {
         id: line

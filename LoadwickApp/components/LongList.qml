@@ -3,7 +3,8 @@ import Loadwick
 
 // Any number of rows of one height inside a scrolling page. Only the rows on the page exist, except
 // in a short list, which a screen reader finds whole. The delegate is `rowHeight` high, names
-// itself for assistive technology, and hides itself while pooled.
+// itself for assistive technology, and hides itself while pooled; there Qt 6.8 takes it out of the
+// accessible tree, to which it returns itself when it is reused.
 FocusScope {
     id: list
 

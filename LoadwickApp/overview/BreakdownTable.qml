@@ -130,7 +130,7 @@ ColumnLayout {
             Accessible.name: row.sentence
             // Hidden while pooled.
             ListView.onPooled: row.visible = false
-            ListView.onReused: row.visible = true
+            ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
 
             Cells {
                 id: cells

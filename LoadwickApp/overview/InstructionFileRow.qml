@@ -21,7 +21,7 @@ Item {
     Accessible.focusable: true
     // Hidden while pooled.
     ListView.onPooled: row.visible = false
-    ListView.onReused: row.visible = true
+    ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
 
     Hairline {
         width: parent.width

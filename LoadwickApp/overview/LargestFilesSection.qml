@@ -125,7 +125,7 @@ ReportSurface {
                 Accessible.focusable: true
                 // Hidden while pooled.
                 ListView.onPooled: row.visible = false
-                ListView.onReused: row.visible = true
+                ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
 
                 Hairline {
                     width: parent.width

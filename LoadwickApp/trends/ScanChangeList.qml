@@ -29,7 +29,7 @@ LongList {
         Accessible.name: row.sentence
         // Hidden while pooled.
         ListView.onPooled: row.visible = false
-        ListView.onReused: row.visible = true
+        ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
     }
 
     HoverTip {
