@@ -54,15 +54,16 @@ ChangeRowLayout ChangeRowLayout::wide(const QSizeF &row, qreal figureWidth, qrea
             .track = track};
 }
 
-ChangeRowLayout ChangeRowLayout::narrow(const QSizeF &row, qreal figureWidth)
+ChangeRowLayout ChangeRowLayout::narrow(const QSizeF &row, qreal figureWidth, qreal differenceWidth)
 {
+    const qreal nameEnd = row.width() - differenceWidth;
     const qreal half = std::floor(row.height() / 2);
     const qreal last = row.width() - figureWidth;
     const qreal middle = last - columnGap - figureWidth;
-    return {.name = {0, 0, std::max(0.0, last - columnGap), half},
+    return {.name = {0, 0, std::max(0.0, nameEnd - columnGap), half},
             .before = {middle, half, figureWidth, half},
             .after = {last, half, figureWidth, half},
-            .difference = {last, 0, figureWidth, half},
+            .difference = {nameEnd, 0, differenceWidth, half},
             .track = middleOf({0, half, std::max(0.0, middle - columnGap), half})};
 }
 
@@ -122,8 +123,9 @@ ChangeRowLayout ChangeRow::layout() const
     if (!m_style)
         return {};
     const qreal figureWidth = m_style->figureWidth;
+    const qreal differenceWidth = std::ceil(QFontMetricsF(font()).horizontalAdvance(difference));
     const ChangeRowLayout layout =
-        m_style->isNarrow ? ChangeRowLayout::narrow(size(), figureWidth)
+        m_style->isNarrow ? ChangeRowLayout::narrow(size(), figureWidth, differenceWidth)
                           : ChangeRowLayout::wide(size(), figureWidth, m_style->trackWidth);
     return m_style->isMirrored ? layout.mirrored(width()) : layout;
 }

@@ -69,8 +69,10 @@ struct ChangeRowLayout
     [[nodiscard]] static ChangeRowLayout wide(const QSizeF &row, qreal figureWidth,
                                               qreal trackWidth);
 
-    /// Name and difference over the bar and the other two figures.
-    [[nodiscard]] static ChangeRowLayout narrow(const QSizeF &row, qreal figureWidth);
+    /// Name and difference over the bar and the other two figures. The name gets what the
+    /// difference leaves.
+    [[nodiscard]] static ChangeRowLayout narrow(const QSizeF &row, qreal figureWidth,
+                                                qreal differenceWidth);
 
     /// The same row, mirrored for right-to-left reading.
     [[nodiscard]] ChangeRowLayout mirrored(qreal rowWidth) const;

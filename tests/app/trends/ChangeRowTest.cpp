@@ -125,12 +125,13 @@ void ChangeRowTest::noPartsOverlap()
     QFETCH(const bool, isNarrow);
     m_style->isNarrow = isNarrow;
     m_row->setSize(size);
+    const qreal differenceWidth = QFontMetricsF(m_style->font).horizontalAdvance(m_row->difference);
     for (const bool isMirrored : {false, true}) {
         m_style->isMirrored = isMirrored;
         const QList<QRectF> parts = partsOf(m_row->layout());
         for (const QRectF &part : parts) {
             QVERIFY(QRectF(QPointF(), size).contains(part));
-            QVERIFY(part.width() >= figureWidth);
+            QVERIFY(part.width() >= differenceWidth);
             for (const QRectF &other : parts)
                 QVERIFY(&part == &other || !part.intersects(other));
         }
