@@ -33,7 +33,7 @@ public:
     {
         std::function<QString()> name; ///< of the files, without their ending
         std::function<std::string()> table;
-        std::function<PictureFrame::Bytes()> report = {}; ///< an HTML file; none of most pages
+        std::function<PictureFrame::Bytes()> report = {}; ///< an HTML file; most pages have none
     };
 
     PageExport(Contents contents, FileSaver &saver, std::shared_ptr<TaskDispatcher> dispatcher);

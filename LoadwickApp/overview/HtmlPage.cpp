@@ -7,8 +7,8 @@ namespace {
 
 bool isExpressible(QChar letter)
 {
-    return letter >= u' ' ? letter < QChar(0xFFFE) && letter != QChar(0x7F)
-                          : letter == u'\n' || letter == u'\t';
+    const bool isControl = letter < u' ' || (letter >= QChar(0x7F) && letter < QChar(0xA0));
+    return isControl ? letter == u'\n' || letter == u'\t' : letter < QChar(0xFFFE);
 }
 
 QString expressible(QString text)
@@ -22,19 +22,19 @@ QString expressible(QString text)
 void add(QXmlStreamWriter &writer, HtmlPage::Attributes attributes)
 {
     for (const auto &[name, value] : attributes)
-        writer.writeAttribute(QString::fromLatin1(name), expressible(value));
+        writer.writeAttribute(markup(name), expressible(value));
 }
 
 } // namespace
 
 HtmlPage::HtmlPage() : m_writer(&m_bytes)
 {
-    m_writer.writeDTD(QStringLiteral("<!DOCTYPE html>\n"));
+    m_writer.writeDTD(markup("<!DOCTYPE html>\n"));
 }
 
 HtmlPage::Element HtmlPage::open(const char *name, Attributes attributes)
 {
-    m_writer.writeStartElement(QString::fromLatin1(name));
+    m_writer.writeStartElement(markup(name));
     add(m_writer, attributes);
     return Element(m_writer);
 }
@@ -47,7 +47,7 @@ void HtmlPage::element(const char *name, const QString &text, Attributes attribu
 
 void HtmlPage::emptyElement(const char *name, Attributes attributes)
 {
-    m_writer.writeEmptyElement(QString::fromLatin1(name));
+    m_writer.writeEmptyElement(markup(name));
     add(m_writer, attributes);
 }
 

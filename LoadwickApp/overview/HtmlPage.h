@@ -9,6 +9,12 @@
 
 namespace Loadwick {
 
+/// Words of the page's language and of its style, as opposed to text for its reader; ASCII.
+[[nodiscard]] inline QString markup(const char *words)
+{
+    return QString::fromLatin1(words);
+}
+
 /// Writes an HTML page that is well-formed XML as well. Text is escaped, whatever it holds, and
 /// what neither format can express is replaced by U+FFFD.
 class HtmlPage

@@ -120,6 +120,8 @@ std::string OverviewPresenter::table() const
 std::function<QByteArray()> OverviewPresenter::document() const
 {
     using std::chrono::system_clock;
+    if (!m_report)
+        return [] { return QByteArray(); };
     const ReportDocument document = {
         .report = m_report,
         .scanned = recordedDate(),
@@ -129,13 +131,12 @@ std::function<QByteArray()> OverviewPresenter::document() const
     return [document] { return document.html(); };
 }
 
-/// The report itself has no date. It is the last one of its repository, unless the history was
-/// cleared.
+/// The report itself has no date, and is not recorded where the history was cleared.
 std::optional<std::chrono::sys_seconds> OverviewPresenter::recordedDate() const
 {
     const auto &history = m_model.history().get();
     const auto recorded = std::find_if(history.rbegin(), history.rend(), [this](const auto &scan) {
-        return scan.repositoryPath == m_report->repositoryPath;
+        return scan.repositoryPath == m_report->repositoryPath && scan.total == m_report->total;
     });
     return recorded != history.rend() ? std::optional(recorded->date) : std::nullopt;
 }

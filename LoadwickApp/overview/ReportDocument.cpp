@@ -17,7 +17,7 @@ namespace {
 
 QString style()
 {
-    QFile file(QStringLiteral(":/qt/qml/Loadwick/overview/report.css"));
+    QFile file(markup(":/qt/qml/Loadwick/overview/report.css"));
     if (!file.open(QIODevice::ReadOnly))
         fatalError("The style of a report is missing.");
     return QString::fromUtf8(file.readAll());
@@ -25,43 +25,45 @@ QString style()
 
 QString classed(const char *kind, int index)
 {
-    return QString::fromLatin1(kind) + QString::number(index);
+    return markup(kind) + QString::number(index);
 }
 
 void addNote(HtmlPage &page, const QString &note)
 {
     if (!note.isEmpty())
-        page.element("p", note, {{"class", QStringLiteral("quiet small")}});
+        page.element("p", note, {{"class", markup("quiet small")}});
 }
 
 void addTitle(HtmlPage &page, const QString &title, const QString &detail)
 {
     page.element("h2", title);
-    page.element("p", detail, {{"class", QStringLiteral("quiet")}});
+    page.element("p", detail, {{"class", markup("quiet")}});
 }
 
-/// The head of a table whose columns after the first are figures, except one at the end.
-void addHeads(HtmlPage &page, const QStringList &heads, const QString &last)
+enum class Column
+{
+    words,
+    figures
+};
+
+void addHeads(HtmlPage &page, std::initializer_list<std::pair<QString, Column>> heads)
 {
     const HtmlPage::Element row = page.open("tr");
-    for (const QString &head : heads)
-        page.element("th", head,
-                     {{"scope", QStringLiteral("col")},
-                      {"class", head == heads.first() ? QString() : QStringLiteral("figure")}});
-    if (!last.isEmpty())
-        page.element("th", last, {{"scope", QStringLiteral("col")}});
+    for (const auto &[title, column] : heads)
+        page.element("th", title,
+                     {{"scope", markup("col")},
+                      {"class", markup(column == Column::figures ? "figure" : "words")}});
 }
 
 void addFigure(HtmlPage &page, const QString &figure)
 {
-    page.element("td", figure, {{"class", QStringLiteral("figure")}});
+    page.element("td", figure, {{"class", markup("figure")}});
 }
 
 void addDot(HtmlPage &page, const QString &color)
 {
-    page.element(
-        "span", QStringLiteral("●"),
-        {{"class", QStringLiteral("dot ") + color}, {"aria-hidden", QStringLiteral("true")}});
+    page.element("span", markup("●"),
+                 {{"class", markup("dot ") + color}, {"aria-hidden", markup("true")}});
 }
 
 } // namespace
@@ -70,7 +72,7 @@ QByteArray ReportDocument::html() const
 {
     HtmlPage page;
     {
-        const HtmlPage::Element html = page.open("html", {{"lang", QStringLiteral("en")}});
+        const HtmlPage::Element html = page.open("html", {{"lang", markup("en")}});
         addHead(page);
         const HtmlPage::Element body = page.open("body");
         const HtmlPage::Element main = page.open("main");
@@ -86,13 +88,13 @@ QByteArray ReportDocument::html() const
 void ReportDocument::addHead(HtmlPage &page) const
 {
     const HtmlPage::Element head = page.open("head");
-    page.emptyElement("meta", {{"charset", QStringLiteral("utf-8")}});
-    page.emptyElement("meta", {{"name", QStringLiteral("viewport")},
-                               {"content", QStringLiteral("width=device-width")}});
+    page.emptyElement("meta", {{"charset", markup("utf-8")}});
+    page.emptyElement("meta",
+                      {{"name", markup("viewport")}, {"content", markup("width=device-width")}});
     // Whatever a name in it holds, nothing is loaded or run.
-    page.emptyElement(
-        "meta", {{"http-equiv", QStringLiteral("Content-Security-Policy")},
-                 {"content", QStringLiteral("default-src 'none'; style-src 'unsafe-inline'")}});
+    page.emptyElement("meta",
+                      {{"http-equiv", markup("Content-Security-Policy")},
+                       {"content", markup("default-src 'none'; style-src 'unsafe-inline'")}});
     page.element("title", tr("Startup context of %1: %2 tokens")
                               .arg(qtText(report->repositoryName), grouped(report->total)));
     page.element("style", style());
@@ -107,7 +109,7 @@ void ReportDocument::addHeader(HtmlPage &page) const
         page.foreign(qtText(report->repositoryName));
     }
     {
-        const HtmlPage::Element path = page.open("p", {{"class", QStringLiteral("quiet small")}});
+        const HtmlPage::Element path = page.open("p", {{"class", markup("quiet small")}});
         page.foreign(qtText(report->repositoryPath));
     }
     if (scanned)
@@ -123,7 +125,7 @@ void ReportDocument::addBand(HtmlPage &page) const
     page.element("h2", band.title(), {{"class", classed("text-", band.band())}});
     page.element("p", band.sentence());
     {
-        const HtmlPage::Element metric = page.open("p", {{"class", QStringLiteral("metric")}});
+        const HtmlPage::Element metric = page.open("p", {{"class", markup("metric")}});
         page.text(band.total() + u' ');
         page.element("small", tr("tokens"));
     }
@@ -131,11 +133,11 @@ void ReportDocument::addBand(HtmlPage &page) const
     addNote(page, band.zeroNote());
     ReportDrawings::addMeter(page, report->total, band.meterSummary());
     {
-        const HtmlPage::Element legend = page.open("ul", {{"class", QStringLiteral("legend")}});
+        const HtmlPage::Element legend = page.open("ul", {{"class", markup("legend")}});
         for (const OpinionBand each : OpinionBand::all) {
             const HtmlPage::Element item = page.open("li");
             addDot(page, classed("band-", each));
-            page.text(qtText(each.title()) + QStringLiteral(" · ") + qtText(each.range(locale)));
+            page.text(qtText(each.title()) + markup(" · ") + qtText(each.range(locale)));
         }
     }
     for (const std::string_view note :
@@ -153,8 +155,12 @@ void ReportDocument::addBreakdown(HtmlPage &page) const
     const HtmlPage::Element section = page.open("section");
     addTitle(page, tr("Estimated breakdown by category"),
              tr("Shares use the Claude-reported total; category rows are estimates."));
-    if (!report->categoriesSelfReported)
+    if (!report->categoriesSelfReported) {
         addNote(page, tr("This session did not report category rows."));
+        addNote(page, tr("Claude did not self-report categories for this session. The total and "
+                         "band remain factual; instruction files are listed separately as local "
+                         "estimates."));
+    }
     if (breakdown.hasSlices())
         ReportDrawings::addDonut(page, {breakdown.slices().constData(), report->rows.size()},
                                  breakdown.total(), breakdown.chartSummary());
@@ -167,8 +173,12 @@ void ReportDocument::addBreakdown(HtmlPage &page) const
 
 void ReportDocument::addCategories(HtmlPage &page) const
 {
+    const HtmlPage::Element room = page.open("div", {{"class", markup("table")}});
     const HtmlPage::Element table = page.open("table");
-    addHeads(page, {tr("Category"), tr("Tokens"), tr("Share")}, tr("Source"));
+    addHeads(page, {{tr("Category"), Column::words},
+                    {tr("Tokens"), Column::figures},
+                    {tr("Share"), Column::figures},
+                    {tr("Source"), Column::words}});
     int index = 0;
     for (const SlabAttribution &category : report->rows) {
         const HtmlPage::Element row = page.open("tr");
@@ -190,8 +200,7 @@ void ReportDocument::addFiles(HtmlPage &page) const
              tr("Grouped by where Claude Code loads them. Their contents are never displayed or "
                 "persisted."));
     addNote(page, qtText(report->unreportedCategoryFilesNote().value_or("")));
-    const auto tiers =
-        ListedFile::byTier(report->fileSet, TierFolders(report->repositoryPath, home));
+    const auto tiers = ListedFile::byTier(report->fileSet, folders());
     for (const InstructionFileTier tier : InstructionFileTier::all)
         addTier(page, qtText(InstructionFileSet::categoryName(tier)), tiers.at(tier));
     addNote(page, tr("Tokens of files are local estimates at 4 bytes/token."));
@@ -206,8 +215,12 @@ void ReportDocument::addTier(HtmlPage &page, const QString &title,
         addNote(page, tr("No files found in this tier."));
         return;
     }
+    const HtmlPage::Element room = page.open("div", {{"class", markup("table")}});
     const HtmlPage::Element table = page.open("table");
-    addHeads(page, {tr("File"), tr("Bytes on disk"), tr("Tokens (estimate)"), tr("Share")}, {});
+    addHeads(page, {{tr("File"), Column::words},
+                    {tr("Bytes on disk"), Column::figures},
+                    {tr("Tokens (estimate)"), Column::figures},
+                    {tr("Share"), Column::figures}});
     for (const ListedFile &file : files)
         addFile(page, file);
 }
@@ -222,11 +235,11 @@ void ReportDocument::addFile(HtmlPage &page, const ListedFile &file) const
         if (importer != report->fileSet.importers.end()) {
             const HtmlPage::Element reason = page.open("small");
             page.text(tr("imported by "));
-            page.foreign(qtText(importer->second));
+            page.foreign(qtText(folders().shortPath(importer->second)));
         }
     }
     if (file.estimate == nullptr) {
-        page.element("td", tr("Could not be read"), {{"colspan", QStringLiteral("3")}});
+        page.element("td", tr("Could not be read"), {{"colspan", markup("3")}});
         return;
     }
     addFigure(page, grouped(file.estimate->byteCount));
@@ -249,6 +262,11 @@ void ReportDocument::addSession(HtmlPage &page) const
     detail(tr("Duration"), tr("%1 seconds").arg(qtText(NumberText::oneDecimal(report->duration))));
 }
 
+TierFolders ReportDocument::folders() const
+{
+    return {report->repositoryPath, home};
+}
+
 QString ReportDocument::grouped(std::int64_t number) const
 {
     return qtText(NumberText::grouped(number, locale));
@@ -256,7 +274,8 @@ QString ReportDocument::grouped(std::int64_t number) const
 
 QString ReportDocument::dated(std::chrono::sys_seconds moment) const
 {
-    return qtText(dateText(moment, DateForm::dayAndTime, locale));
+    return qtText(dateText(moment, DateForm::dayAndTime, locale) + " (" + IsoDate::text(moment) +
+                  ')');
 }
 
 } // namespace Loadwick

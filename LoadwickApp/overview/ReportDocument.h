@@ -16,9 +16,10 @@ namespace Loadwick {
 
 class HtmlPage;
 
-/// A report as one HTML file for people without this program: what the Overview shows, with every
-/// caveat, and no contents of files. It needs nothing else, runs nothing, and follows its reader's
-/// light or dark setting. Times are in the time zone of the process.
+/// A report as one HTML file for people without this program: the total, the breakdown and the
+/// instruction files of the Overview with every caveat, and no contents of files. It needs nothing
+/// else, runs nothing, and follows its reader's light or dark setting. Times are in the time zone
+/// of the process, and in UTC.
 struct ReportDocument
 {
     Q_DECLARE_TR_FUNCTIONS(ReportDocument)
@@ -28,7 +29,7 @@ public:
     std::optional<std::chrono::sys_seconds> scanned; ///< nothing where it is not recorded
     std::chrono::sys_seconds saved;
     TextLocale locale;
-    std::filesystem::path home; ///< determines the tier of an unreadable file
+    std::filesystem::path home; ///< determines the tier of an unreadable file, shortens paths
 
     /// The file's bytes; may be called on any thread.
     [[nodiscard]] QByteArray html() const;
@@ -43,6 +44,7 @@ private:
     void addTier(HtmlPage &page, const QString &title, const std::vector<ListedFile> &files) const;
     void addFile(HtmlPage &page, const ListedFile &file) const;
     void addSession(HtmlPage &page) const;
+    [[nodiscard]] TierFolders folders() const;
     [[nodiscard]] QString grouped(std::int64_t number) const;
     [[nodiscard]] QString dated(std::chrono::sys_seconds moment) const;
 };

@@ -23,7 +23,7 @@ QString number(double value)
 
 QString numbered(const char *kind, std::size_t index)
 {
-    return QStringLiteral("%1-%2").arg(QLatin1String(kind)).arg(index);
+    return markup("%1-%2").arg(markup(kind)).arg(index);
 }
 
 QString point(double angle, double distance)
@@ -34,7 +34,7 @@ QString point(double angle, double distance)
 /// The end of an arc along a circle of that radius.
 QString arcTo(double angle, double sweep, double distance)
 {
-    return QStringLiteral("A%1 %1 0 %2 %3 %4 ")
+    return markup("A%1 %1 0 %2 %3 %4 ")
         .arg(number(distance))
         .arg(std::abs(sweep) > std::numbers::pi ? 1 : 0)
         .arg(sweep > 0 ? 1 : 0)
@@ -59,9 +59,9 @@ QString outline(const DonutGeometry::Sector &sector)
 HtmlPage::Element openDrawing(HtmlPage &page, const char *kind, const QString &box,
                               const QString &words)
 {
-    return page.open("svg", {{"class", QLatin1String(kind)},
+    return page.open("svg", {{"class", markup(kind)},
                              {"viewBox", box},
-                             {"role", QStringLiteral("img")},
+                             {"role", markup("img")},
                              {"aria-label", words}});
 }
 
@@ -83,16 +83,15 @@ void addMeter(HtmlPage &page, std::int64_t total, const QString &words)
         .thresholds = {BandScale::thresholdPosition(OpinionBand::heavyThreshold, total),
                        BandScale::thresholdPosition(OpinionBand::excessiveThreshold, total)},
         .position = position};
-    const HtmlPage::Element drawing =
-        openDrawing(page, "meter", QStringLiteral("0 0 640 16"), words);
+    const HtmlPage::Element drawing = openDrawing(page, "meter", markup("0 0 640 16"), words);
     const auto segments = BandMeterGeometry::segments(meter);
     for (std::size_t band = 0; band < segments.size(); ++band)
         addBox(page, numbered("band", band), segments[band].left, segments[band].width);
     for (const double tick : BandMeterGeometry::ticks(meter))
-        addBox(page, QStringLiteral("tick"), tick - tickWidth / 2, tickWidth);
+        addBox(page, markup("tick"), tick - tickWidth / 2, tickWidth);
     constexpr double half = BandMeterGeometry::markerSide / 2;
     page.emptyElement("circle",
-                      {{"class", QStringLiteral("marker")},
+                      {{"class", markup("marker")},
                        {"cx", number(BandMeterGeometry::markerLeft(meterWidth, position) + half)},
                        {"cy", number(meterHeight / 2)},
                        {"r", number(half)}});
@@ -103,14 +102,14 @@ void addDonut(HtmlPage &page, std::span<const double> tokens, const QString &tot
 {
     const DonutGeometry donut(tokens);
     const HtmlPage::Element drawing =
-        openDrawing(page, "donut", QStringLiteral("-110 -110 220 220"), words);
+        openDrawing(page, "donut", markup("-110 -110 220 220"), words);
     for (const DonutGeometry::Mark &mark : donut.marks(radius, {})) {
         const std::size_t row = donut.slices()[mark.slice].row;
         page.emptyElement(
             "path", {{"class", numbered("slice", row % sliceColors)}, {"d", outline(mark.sector)}});
     }
-    page.element("text", total, {{"class", QStringLiteral("total")}, {"y", QStringLiteral("2")}});
-    page.element("text", QStringLiteral("tokens"), {{"y", QStringLiteral("22")}});
+    page.element("text", total, {{"class", markup("total")}, {"y", markup("2")}});
+    page.element("text", markup("tokens"), {{"y", markup("22")}});
 }
 
 } // namespace Loadwick::ReportDrawings

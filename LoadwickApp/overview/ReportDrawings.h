@@ -15,8 +15,8 @@ namespace ReportDrawings {
 
 inline constexpr int sliceColors = 5;
 
-/// The bands up to the end of the total's scale, and the total on them. `words` is the same for who
-/// does not see it.
+/// The bands up to the end of the total's scale, and the total on them. `words` is the same for a
+/// reader who cannot see it.
 void addMeter(HtmlPage &page, std::int64_t total, const QString &words);
 
 /// A ring of the rows' tokens, with the total in its middle.

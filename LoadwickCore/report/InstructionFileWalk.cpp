@@ -85,6 +85,12 @@ void InstructionFileFindings::addUnreadable(std::string path)
     m_unreadablePaths.insert(std::move(path));
 }
 
+void InstructionFileFindings::forgetImporter(const std::string &path)
+{
+    const std::lock_guard lock(m_mutex);
+    m_files.importers.erase(path);
+}
+
 InstructionFileSet InstructionFileFindings::set() const
 {
     const std::lock_guard lock(m_mutex);
@@ -118,6 +124,8 @@ void InstructionFileWalk::admit(const std::string &path, const Route &route)
     if (depth > m_maxImportDepth || m_findings->isStopped())
         return;
     SeenFile *const seen = seenFile(path, route);
+    if (depth == 0)
+        m_findings->forgetImporter(repairedUtf8(path));
     if (seen == nullptr || seen->depth <= depth)
         return;
     // A shorter way to the file brings imports into reach that the depth limit cut off before.

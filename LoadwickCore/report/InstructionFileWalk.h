@@ -25,6 +25,8 @@ public:
     /// `importer` is the path of the file that imports this one; empty for one of the walk's own.
     void add(InstructionFileTier tier, InstructionFileEstimate file, std::string importer = {});
     void addUnreadable(std::string path);
+    /// For a file that the walk looks for by itself, although an import led to it before.
+    void forgetImporter(const std::string &path);
 
     /// A copy of everything so far.
     [[nodiscard]] InstructionFileSet set() const;

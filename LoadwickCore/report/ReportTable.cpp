@@ -1,6 +1,8 @@
 #include "report/ReportTable.h"
 
 #include <string_view>
+#include <unordered_set>
+#include <vector>
 
 #include "report/ScanReport.h"
 #include "text/CsvTable.h"
@@ -39,6 +41,17 @@ void addFiles(CsvTable &table, const InstructionFileSet &files, InstructionFileT
     }
 }
 
+/// The unreadable paths without those of files that have figures all the same.
+std::vector<std::string> unreadOnly(const InstructionFileSet &files)
+{
+    std::unordered_set<std::string> counted;
+    for (const InstructionFileEstimate &file : files.allFiles())
+        counted.insert(file.path);
+    std::vector<std::string> paths = files.unreadablePaths;
+    std::erase_if(paths, [&counted](const std::string &path) { return counted.contains(path); });
+    return paths;
+}
+
 } // namespace
 
 std::string bytes(const ScanReport &report)
@@ -50,7 +63,7 @@ std::string bytes(const ScanReport &report)
         addFigure(table, "Category", row.name, row.tokens, row.provenance);
     for (const InstructionFileTier tier : InstructionFileTier::all)
         addFiles(table, report.fileSet, tier);
-    for (const std::string &path : report.unreadablePaths())
+    for (const std::string &path : unreadOnly(report.fileSet))
         table.text("File")
             .text(path)
             .empty()

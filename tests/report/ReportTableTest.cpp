@@ -45,7 +45,8 @@ TEST(ReportTableTest, listsEveryFileWithItsTierAndWhatImportsIt)
     report.fileSet.repositoryFiles = {InstructionFileEstimate::fromPath("/shop/CLAUDE.md", 10),
                                       InstructionFileEstimate::fromPath("/shop/a b.md", 4)};
     report.fileSet.personalFiles = {InstructionFileEstimate::fromPath("/home/CLAUDE.md", 0)};
-    report.fileSet.unreadablePaths = {"/shop/secret.md"};
+    // Reading the first one was refused after it was counted.
+    report.fileSet.unreadablePaths = {"/shop/CLAUDE.md", "/shop/secret.md"};
     report.fileSet.importers = {{"/shop/a b.md", "/shop/CLAUDE.md"}};
     const std::string source = "measured on disk at ~4 bytes/token (estimate)";
     EXPECT_EQ(ReportTable::bytes(report), head + totalRow + "File,/shop/CLAUDE.md,3," + source +

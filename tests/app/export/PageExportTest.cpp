@@ -54,7 +54,7 @@ private Q_SLOTS:
         QVERIFY(page.startsWith("<!DOCTYPE html>"));
         QVERIFY(page.contains("<bdi>two</bdi>"));
         QVERIFY(page.contains(
-            ("Scanned on " + dateText(moment, DateForm::dayAndTime, TextLocale()) + ".").c_str()));
+            ("Scanned on " + dateText(moment, DateForm::dayAndTime, TextLocale())).c_str()));
         QVERIFY(m_window->shows(savedAs(file)));
     }
 
