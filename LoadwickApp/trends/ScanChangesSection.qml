@@ -18,7 +18,11 @@ ColumnLayout {
 
     function announce() { Announcer.announce(section.changes.rows.text(0, "sentence")); }
 
-    function takeFocus() { rows.forceActiveFocus(Qt.TabFocusReason); }
+    // On the totals, whichever row the keys had reached.
+    function takeFocus() {
+        rows.begin();
+        rows.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     spacing: AppTheme.mediumSpace
 

@@ -300,6 +300,8 @@ void ScanChangesSectionTest::thePillOfTheOverviewLeadsToTheSection()
         m_window->press(Qt::Key_Home);
         m_window->press(Qt::Key_Return);
         QCOMPARE(nameOf(item("earlier")).left(15), QStringLiteral("Before: Mar 4, "));
+        focus("changes");
+        m_window->press(Qt::Key_End);
         m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::overview));
     }
     ScanModel &model = m_window->loadwick().model();
