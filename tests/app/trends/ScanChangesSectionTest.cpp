@@ -1,5 +1,7 @@
 // The section "What changed" in the real window, by keyboard, pointer and screen reader.
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QTest>
 
@@ -176,6 +178,8 @@ void ScanChangesSectionTest::everyRowCanBeReadAndCopied()
              QStringLiteral("mcp tools, before 8,240, gone, difference -8,240 tokens"));
     m_window->press(Qt::Key_Down);
     QCOMPARE(focusName(), QStringLiteral("skills, new, after 1,935, difference +1,935 tokens"));
+    m_window->press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), focusName());
 }
 
 void ScanChangesSectionTest::aScanThatEndsLeavesTheKeysInTheList()
