@@ -26,6 +26,9 @@ public:
     /// "2 of 8"; empty without a current mark.
     [[nodiscard]] QString markPosition() const;
 
+    /// The mark at a point of the item, -1 where there is none.
+    Q_INVOKABLE [[nodiscard]] int markUnder(const QPointF &point) const { return markAt(point); }
+
 Q_SIGNALS:
     void currentMarkChanged();
     /// A key has chosen the current mark, perhaps again. A screen reader does not notice by itself.
@@ -33,7 +36,6 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] virtual int markCount() const = 0;
-    /// The mark at a point of the item, -1 where there is none.
     [[nodiscard]] virtual int markAt(const QPointF &point) const = 0;
 
     /// Call when the marks have changed; clears the current mark.

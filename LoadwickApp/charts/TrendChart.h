@@ -41,8 +41,6 @@ public:
 
     [[nodiscard]] QString readout() const;
 
-    /// The scan that a point of the item chooses, -1 for none.
-    Q_INVOKABLE [[nodiscard]] int markUnder(const QPointF &point) const { return markAt(point); }
     /// The centre of a scan's point, which moves with `drawn`; nothing sensible without the scan.
     Q_INVOKABLE [[nodiscard]] QPointF centreOf(int mark) const;
 

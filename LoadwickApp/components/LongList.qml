@@ -24,6 +24,9 @@ FocusScope {
     property int shortCount: 60
 
     signal copyRequested(int index)
+    // Assistive technology pressed a row, or asked for its menu.
+    signal openRequested(int index)
+    signal menuRequested(int index)
 
     // The list's position on the page. It moves when any of its ancestors does.
     readonly property real pageTop: {
@@ -130,6 +133,8 @@ FocusScope {
         page: list.viewport
         pageTop: list.pageTop
         shortCount: list.shortCount
+        onOpenRequested: index => list.openRequested(index)
+        onMenuRequested: index => list.menuRequested(index)
         onCountChanged: if (list.currentIndex >= rows.count) list.currentIndex = rows.count - 1
     }
 

@@ -12,6 +12,11 @@ ListView {
     // The list's position on the page.
     required property real pageTop
     required property int shortCount
+
+    // Assistive technology pressed a row, or asked for its menu.
+    signal openRequested(int index)
+    signal menuRequested(int index)
+
     readonly property bool isShort: rows.count <= rows.shortCount
     // Whether all rows that a page can show are created before any is visible.
     property bool isFilled: false

@@ -1,33 +1,37 @@
 import QtQuick
 import Loadwick
 
-// Briefly confirms that something was done, then disappears.
+// Briefly confirms that something was done, or says why it was not, then disappears.
 Row {
     id: note
 
     required property string words
+    property bool failed: false
+    // `visible` also tells whether the parent is.
+    readonly property bool isShown: moment.running
+    readonly property color tint: failed ? AppTheme.bandHeavyText : AppTheme.bandLeanText
 
     function show() { moment.restart(); }
 
     spacing: AppTheme.tightSpace
-    visible: moment.running
+    visible: isShown
     Accessible.role: Accessible.Notification
     Accessible.name: note.words
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
-        name: "checkmark.circle.fill"
-        tint: AppTheme.bandLeanText
+        name: note.failed ? "exclamationmark.triangle.fill" : "checkmark.circle.fill"
+        tint: note.tint
     }
     PlainLabel {
         anchors.verticalCenter: parent.verticalCenter
         text: note.words
-        color: AppTheme.bandLeanText
+        color: note.tint
         Accessible.ignored: true
     }
 
     Timer {
         id: moment
-        interval: AppTheme.noteDuration
+        interval: note.failed ? 3 * AppTheme.noteDuration : AppTheme.noteDuration
     }
 }

@@ -16,9 +16,13 @@ Item {
     required property string chain
     required property string words
 
+    // What assistive technology asks for.
+    function showMenu() { (row.ListView.view as LongListRows).menuRequested(row.index); }
+
     Accessible.role: Accessible.ListItem
     Accessible.name: row.words
     Accessible.focusable: true
+    Accessible.onPressAction: (row.ListView.view as LongListRows).openRequested(row.index)
     // Hidden while pooled.
     ListView.onPooled: row.visible = false
     ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }

@@ -27,6 +27,10 @@ double weightOf(const ListedFile &file)
 InstructionFileRows::InstructionFileRows()
     : ListOf({
           {"path", [](const ListedFile &file) { return qtText(file.path); }},
+          {"pathInRepository",
+           [this](const ListedFile &file) {
+               return qtText(m_context.folders.pathInRepository(file.path));
+           }},
           {"name", nameOf},
           {"size", std::bind_front(&InstructionFileRows::size, this)},
           {"tokens", std::bind_front(&InstructionFileRows::tokens, this)},

@@ -16,9 +16,10 @@ namespace Loadwick {
 
 /// A list of instruction files for the screen. A file without figures could not be read: its
 /// "tokens", "amount", "share" and "figures" are empty. The roles:
-/// "path", "name" (the last part of the path), "size" (bytes on disk, or that the file could not be
-/// read), "tokens" ("1,234"), "amount" ("1,234 tokens"), "share" ("12.3% of total"), "figures"
-/// (tokens and share in one line), "weight" (tokens as a double), "isReadable", "importer"
+/// "path", "pathInRepository" (empty outside it), "name" (the last part of the path), "size" (bytes
+/// on disk, or that the file could not be read), "tokens" ("1,234"), "amount" ("1,234 tokens"),
+/// "share" ("12.3% of total"), "figures" (tokens and share in one line), "weight" (tokens as a
+/// double), "isReadable", "importer"
 /// ("imported by docs/style.md"; empty for a file that a session looks for by itself), "chain" (the
 /// importer, its importer and so on) and "words" (the whole row, for a screen reader).
 class InstructionFileRows final : public ListOf<ListedFile>

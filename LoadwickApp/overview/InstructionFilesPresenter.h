@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+#include "desktop/FileOpener.h"
 #include "overview/InstructionFileRows.h"
 #include "text/TextLocale.h"
 
@@ -19,6 +20,7 @@ class InstructionFilesPresenter final : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window.")
+    Q_PROPERTY(Loadwick::FileOpener *opener READ opener CONSTANT)
     Q_PROPERTY(QString note READ note NOTIFY changed)
     Q_PROPERTY(bool hasImports READ hasImports NOTIFY changed)
     Q_PROPERTY(QString sizeSummary READ sizeSummary NOTIFY changed)
@@ -36,6 +38,10 @@ public:
     InstructionFilesPresenter(TextLocale locale, std::filesystem::path home);
 
     void show(const ScanReport &report);
+
+    /// Call it before the files are on the screen; without it they cannot be opened. Not owned.
+    void openWith(FileOpener &opener) { m_opener = &opener; }
+    [[nodiscard]] FileOpener *opener() const noexcept { return m_opener; }
 
     /// What the files mean to a session that reported no categories; else empty.
     [[nodiscard]] QString note() const { return m_note; }
@@ -62,6 +68,7 @@ Q_SIGNALS:
 private:
     void showSizes(const InstructionFileRows::Context &context);
 
+    FileOpener *m_opener = nullptr;
     TextLocale m_locale;
     std::filesystem::path m_home;
     QString m_note;

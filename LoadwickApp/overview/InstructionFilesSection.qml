@@ -17,6 +17,7 @@ ReportSurface {
         required property RowList rows
         required property Flickable viewport
         required property bool hasImports
+        required property FileOpener opener
 
         Layout.fillWidth: true
         spacing: AppTheme.tightSpace
@@ -27,6 +28,8 @@ ReportSurface {
             font: AppTheme.emphasisFont
         }
         LongList {
+            id: list
+
             objectName: "list"
             Layout.fillWidth: true
             // A line more where the words below a path wrap, and one for the importers.
@@ -35,11 +38,25 @@ ReportSurface {
             model: tier.rows
             visible: tier.rows.count > 0
             Accessible.name: tier.title
+            Keys.forwardTo: [actions]
             onCopyRequested: index => tier.rows.copy(index, "path")
+            onOpenRequested: index => actions.openFile(index)
+            onMenuRequested: index => actions.openMenu(index)
 
             delegate: InstructionFileRow {
                 width: ListView.view.width
                 height: (ListView.view as LongListRows).rowHeight
+            }
+
+            FileActions {
+                id: actions
+
+                anchors.fill: parent
+                opener: tier.opener
+                rows: tier.rows
+                rowAtPoint: Math.floor(actions.point.y / list.rowHeight)
+                currentRow: list.currentIndex
+                corner: Qt.point(0, (actions.row + 1) * list.rowHeight)
             }
         }
         PlainLabel {
@@ -76,18 +93,21 @@ ReportSurface {
         title: qsTr("Repository instructions")
         rows: section.files.repositoryRows
         hasImports: section.files.hasImports
+        opener: section.files.opener
         viewport: section.viewport
     }
     Tier {
         title: qsTr("Inherited project instructions")
         rows: section.files.inheritedRows
         hasImports: section.files.hasImports
+        opener: section.files.opener
         viewport: section.viewport
     }
     Tier {
         title: qsTr("Personal instructions")
         rows: section.files.personalRows
         hasImports: section.files.hasImports
+        opener: section.files.opener
         viewport: section.viewport
     }
     PlainLabel {

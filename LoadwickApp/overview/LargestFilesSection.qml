@@ -7,6 +7,7 @@ ReportSurface {
     id: section
 
     required property RowList rows
+    required property FileOpener opener
     required property Flickable viewport
     readonly property bool isEmpty: section.rows.count === 0
 
@@ -102,13 +103,18 @@ ReportSurface {
         }
         Hairline { Layout.fillWidth: true }
         LongList {
+            id: list
+
             objectName: "list"
             Layout.fillWidth: true
             rowHeight: AppTheme.tableRowHeight
             viewport: section.viewport
             model: section.rows
             Accessible.name: header.title
+            Keys.forwardTo: [actions]
             onCopyRequested: index => section.rows.copy(index, "path")
+            onOpenRequested: index => actions.openFile(index)
+            onMenuRequested: index => actions.openMenu(index)
 
             delegate: Cells {
                 id: row
@@ -117,12 +123,16 @@ ReportSurface {
                 required property string path
                 required property string words
 
+                // What assistive technology asks for.
+                function showMenu() { (row.ListView.view as LongListRows).menuRequested(row.index); }
+
                 width: ListView.view.width
                 height: AppTheme.tableRowHeight
                 file: row.path
                 Accessible.role: Accessible.ListItem
                 Accessible.name: row.words
                 Accessible.focusable: true
+                Accessible.onPressAction: (row.ListView.view as LongListRows).openRequested(row.index)
                 // Hidden while pooled.
                 ListView.onPooled: row.visible = false
                 ListView.onReused: { row.visible = true; row.Accessible.ignored = false; }
@@ -131,6 +141,17 @@ ReportSurface {
                     width: parent.width
                     visible: row.index > 0
                 }
+            }
+
+            FileActions {
+                id: actions
+
+                anchors.fill: parent
+                opener: section.opener
+                rows: section.rows
+                rowAtPoint: Math.floor(actions.point.y / list.rowHeight)
+                currentRow: list.currentIndex
+                corner: Qt.point(0, (actions.row + 1) * list.rowHeight)
             }
         }
     }

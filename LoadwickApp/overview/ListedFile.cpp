@@ -43,10 +43,16 @@ InstructionFileTier TierFolders::tierOf(std::string_view path) const
     return isIn(path, m_personal) ? InstructionFileTier::personal : InstructionFileTier::inherited;
 }
 
+std::string TierFolders::pathInRepository(std::string_view path) const
+{
+    const bool isInside = path.size() > m_repository.size() && isIn(path, m_repository);
+    return isInside ? std::string(path.substr(m_repository.size() + 1)) : std::string();
+}
+
 std::string TierFolders::shortPath(std::string_view path) const
 {
-    if (path.size() > m_repository.size() && isIn(path, m_repository))
-        return std::string(path.substr(m_repository.size() + 1));
+    if (std::string inRepository = pathInRepository(path); !inRepository.empty())
+        return inRepository;
     const bool isAtHome = !m_home.empty() && isIn(path, m_home);
     return isAtHome ? "~" + std::string(path.substr(m_home.size())) : std::string(path);
 }

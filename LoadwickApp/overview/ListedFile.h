@@ -21,7 +21,10 @@ public:
     /// Inside the repository: repository; in the home folder's ".claude": personal; else inherited.
     [[nodiscard]] InstructionFileTier tierOf(std::string_view path) const;
 
-    /// From the repository on; from "~" if only the home folder holds it; else the whole path.
+    /// From the repository on; empty for what it does not hold, and for itself.
+    [[nodiscard]] std::string pathInRepository(std::string_view path) const;
+
+    /// The same; from "~" if only the home folder holds it; else the whole path.
     [[nodiscard]] std::string shortPath(std::string_view path) const;
 
 private:

@@ -59,6 +59,7 @@ PageColumn {
     LargestFilesSection {
         Layout.fillWidth: true
         rows: page.overview.files.largestRows
+        opener: page.overview.files.opener
         viewport: page.viewport
     }
     WeeklyCard {

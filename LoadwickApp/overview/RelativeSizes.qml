@@ -67,7 +67,22 @@ Item {
         Accessible.description: map.currentMark < 0 ? readOut.hint : sizes.files.tiles.text(map.currentMark, "words")
         Accessible.focusable: true
         onWalked: Announcer.announce(map.Accessible.description + "\n" + map.markPosition)
+        Accessible.onPressAction: actions.openFile(map.currentMark)
+        Keys.forwardTo: [actions]
 
+        // What assistive technology asks for.
+        function showMenu() { actions.openMenu(map.currentMark); }
+
+        FileActions {
+            id: actions
+
+            anchors.fill: parent
+            opener: sizes.files.opener
+            rows: sizes.files.tiles
+            rowAtPoint: map.markUnder(actions.point)
+            currentRow: map.currentMark
+            corner: Qt.point(AppTheme.smallSpace, map.height - AppTheme.smallSpace)
+        }
         FocusRing {
             shown: map.activeFocus
             controlRadius: 3

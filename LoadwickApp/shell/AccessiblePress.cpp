@@ -67,6 +67,42 @@ private:
     QQuickAbstractButton &m_button;
 };
 
+/// An item that can show a menu, which a mouse opens by its right button.
+class AccessibleMenuOwner final : public QAccessibleQuickItem
+{
+public:
+    explicit AccessibleMenuOwner(QQuickItem &item) : QAccessibleQuickItem(&item), m_item(item) {}
+
+    QStringList actionNames() const override
+    {
+        return QAccessibleQuickItem::actionNames() + QStringList(showMenuAction());
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (ModalGround::hides(m_item))
+            return;
+        if (name == showMenuAction())
+            QMetaObject::invokeMethod(&m_item, menuMethod);
+        else
+            QAccessibleQuickItem::doAction(name);
+    }
+
+    static constexpr auto menuMethod = "showMenu";
+
+private:
+    QQuickItem &m_item;
+};
+
+QAccessibleInterface *accessibleMenuOwner(const QString &className, QObject *object)
+{
+    if (className != QLatin1String("QQuickItem") ||
+        object->metaObject()->indexOfMethod("showMenu()") < 0)
+        return nullptr;
+    auto *item = qobject_cast<QQuickItem *>(object);
+    return item != nullptr ? new AccessibleMenuOwner(*item) : nullptr;
+}
+
 QAccessibleInterface *accessibleButton(const QString &className, QObject *object)
 {
     if (className != QLatin1String("QQuickAbstractButton"))
@@ -80,6 +116,7 @@ QAccessibleInterface *accessibleButton(const QString &className, QObject *object
 void install()
 {
     QAccessible::installFactory(accessibleButton);
+    QAccessible::installFactory(accessibleMenuOwner);
 }
 
 } // namespace Loadwick::AccessiblePress

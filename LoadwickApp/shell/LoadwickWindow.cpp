@@ -95,6 +95,7 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     if (given.appearance)
         given.appearance(dispatcher).release()->setParent(&m_engine);
     m_model = std::make_unique<ScanModel>(std::move(given.scan));
+    m_fileOpener = std::make_unique<FileOpener>(dispatcher, std::move(given.desktop));
     makePresenters(given.locale, given.home);
     makeCommands(dispatcher);
     makeWindow();
@@ -129,6 +130,7 @@ void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesys
     m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
     m_overview = std::make_unique<OverviewPresenter>(*m_model, locale,
                                                      &std::chrono::steady_clock::now, home);
+    m_overview->files()->openWith(*m_fileOpener);
     m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
     m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
 }

@@ -8,6 +8,7 @@
 #include <QQuickWindow>
 #include <QSize>
 
+#include "desktop/FileOpener.h"
 #include "desktop/NoticeBoard.h"
 #include "dialogs/FileSaver.h"
 #include "dialogs/FolderChooser.h"
@@ -50,6 +51,7 @@ public:
         std::shared_ptr<OnboardingCompletionStore> completionStore = {}; ///< null: no walk-through
         MakeAppearance appearance = {};                                  ///< none: the palette's
         MakeNoticeBoard notices = {};                                    ///< none: no notices
+        FileOpener::Desktop desktop = {};                                ///< opens and shows files
         TextLocale locale = {};
         std::filesystem::path weeklyLog = {}; ///< empty: none is read
         std::filesystem::path home = {};      ///< decides which files are personal; not read
@@ -95,6 +97,7 @@ private:
     std::unique_ptr<TrendsPresenter> m_trends;
     std::unique_ptr<ComparePresenter> m_compare;
     std::unique_ptr<OnboardingPresenter> m_onboarding;
+    std::unique_ptr<FileOpener> m_fileOpener;
     std::unique_ptr<FolderDrop> m_folderDrop;
     std::unique_ptr<RecentRepositories> m_recent;
     std::unique_ptr<PageExport> m_overviewExport;

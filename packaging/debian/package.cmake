@@ -26,7 +26,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "${loaded}")
 # Without the theme the file dialogs are Qt's own; without the portal the window does not know
 # whether the desktop is dark; without zsh its log-in shell cannot be queried.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme, xdg-desktop-portal")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-gtk-platformtheme, xdg-desktop-portal, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS zsh)
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "measures how much of a Claude Code session's context is gone at its start

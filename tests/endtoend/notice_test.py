@@ -2,13 +2,13 @@
 
 from __future__ import annotations
 
-import threading
 from dataclasses import dataclass
-from typing import Any
+from typing import Any, Optional
 
-from gi.repository import Gio, GLib
+from gi.repository import GLib
 
 from accessible_tree import xdotool
+from bus_service import BusService
 from endtoend_case import EndToEndCase, main
 from waiting import until
 
@@ -32,60 +32,26 @@ class Note:
     body: str
 
 
-class Notifications:
+class Notifications(BusService):
     """Records what programs show and withdraw, while entered."""
 
+    name, path, interface = NAME, PATH, INTERFACE
+
     def __init__(self) -> None:
+        super().__init__()
         self.notes: list[Note] = []
         self.closed: list[int] = []
-        self._has_name = False
 
-    def __enter__(self) -> "Notifications":
-        self._loop = GLib.MainLoop(GLib.MainContext())
-        self._thread = threading.Thread(target=self._serve, daemon=True)
-        self._thread.start()
-        until("the notification service", lambda: self._has_name)
-        return self
-
-    def __exit__(self, *_: object) -> None:
-        self._loop.quit()
-        self._thread.join()
-
-    def _serve(self) -> None:
-        context = self._loop.get_context()
-        context.push_thread_default()
-        flags = (
-            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
-        )
-        address = Gio.dbus_address_get_for_bus_sync(Gio.BusType.SESSION, None)
-        bus = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
-        interface = Gio.DBusNodeInfo.new_for_xml(INTERFACE).interfaces[0]
-        bus.register_object(PATH, interface, self._answer, None, None)
-        owner = Gio.bus_own_name_on_connection(
-            bus, NAME, Gio.BusNameOwnerFlags.NONE, self._named, None
-        )
-        self._loop.run()
-        Gio.bus_unown_name(owner)
-        bus.close_sync(None)
-        context.pop_thread_default()
-
-    def _named(self, *_: Any) -> None:
-        self._has_name = True
-
-    def _answer(self, *call: Any) -> None:
-        method, arguments, invocation = call[4], call[5].unpack(), call[6]
+    def answer(self, method: str, arguments: tuple[Any, ...]) -> Optional[GLib.Variant]:
         if method == "GetServerInformation":
-            answer = GLib.Variant("(ssss)", ("test", "none", "1", "1.2"))
-        elif method == "GetCapabilities":
-            answer = GLib.Variant("(as)", (["body", "body-markup", "actions"],))
-        elif method == "Notify":
+            return GLib.Variant("(ssss)", ("test", "none", "1", "1.2"))
+        if method == "GetCapabilities":
+            return GLib.Variant("(as)", (["body", "body-markup", "actions"],))
+        if method == "Notify":
             self.notes.append(Note(title=arguments[3], body=arguments[4]))
-            answer = GLib.Variant("(u)", (len(self.notes),))
-        else:
-            self.closed.append(arguments[0])
-            answer = None
-        invocation.return_value(answer)
+            return GLib.Variant("(u)", (len(self.notes),))
+        self.closed.append(arguments[0])
+        return None
 
 
 class NoticeTest(EndToEndCase):

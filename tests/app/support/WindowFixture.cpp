@@ -49,6 +49,7 @@ WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completi
                 m_notices = board.get();
                 return board;
             },
+        .desktop = m_desktop.asDesktop(),
         .locale = locale,
         .weeklyLog = m_folder.path() / "weekly.jsonl",
     });

@@ -6,6 +6,7 @@
 
 #include "samples/TemporaryFolder.h"
 #include "shell/LoadwickWindow.h"
+#include "support/FakeDesktop.h"
 #include "support/FakeFileSaver.h"
 #include "support/FakeFolderChooser.h"
 #include "support/FakeNoticeBoard.h"
@@ -36,6 +37,7 @@ public:
     [[nodiscard]] FakeInstructionScanner &scanner() noexcept { return *m_scanner; }
     [[nodiscard]] FakeFolderChooser &chooser() noexcept { return *m_chooser; }
     [[nodiscard]] FakeFileSaver &saver() noexcept { return *m_saver; }
+    [[nodiscard]] FakeDesktop &desktop() noexcept { return m_desktop; }
     [[nodiscard]] FakeNoticeBoard &notices() noexcept { return *m_notices; }
     [[nodiscard]] const TemporaryFolder &folder() const noexcept { return m_folder; }
 
@@ -62,6 +64,7 @@ private:
     std::shared_ptr<FakeProbe> m_probe = std::make_shared<FakeProbe>();
     std::shared_ptr<FakeInstructionScanner> m_scanner = std::make_shared<FakeInstructionScanner>();
     std::shared_ptr<SteppingDispatcher> m_dispatcher = std::make_shared<SteppingDispatcher>();
+    FakeDesktop m_desktop;
     FakeFolderChooser *m_chooser = nullptr;
     FakeFileSaver *m_saver = nullptr;
     FakeNoticeBoard *m_notices = nullptr;
