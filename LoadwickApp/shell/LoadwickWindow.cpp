@@ -132,6 +132,7 @@ void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesys
                                                      &std::chrono::steady_clock::now, home);
     m_overview->files()->openWith(*m_fileOpener);
     m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
+    m_trends->recordedData()->openWith(*m_fileOpener);
     m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
 }
 

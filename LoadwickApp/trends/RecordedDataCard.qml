@@ -7,6 +7,7 @@ ReportSurface {
     id: card
 
     required property RecordedDataPresenter recordedData
+    property int request: -1
 
     SectionHeader {
         Layout.fillWidth: true
@@ -25,6 +26,26 @@ ReportSurface {
         wrapMode: Text.Wrap
         visible: text.length > 0
     }
+    SelectableText {
+        objectName: "historyFile"
+        Layout.fillWidth: true
+        text: card.recordedData.historyFile
+        visible: text.length > 0
+    }
+    PushButton {
+        title: qsTr("Show in Folder")
+        symbol: "folder"
+        outlined: true
+        enabled: card.recordedData.canClear
+        visible: card.recordedData.historyFile.length > 0
+        onClicked: card.request = card.recordedData.opener.showInFolder(card.recordedData.historyFile)
+    }
+    MomentaryNote {
+        id: note
+
+        words: ""
+        failed: true
+    }
     PushButton {
         title: qsTr("Clear Recorded Data…")
         symbol: "trash"
@@ -33,6 +54,16 @@ ReportSurface {
         onClicked: confirmation.open()
     }
 
+    Connections {
+        target: card.recordedData.opener
+
+        function onFailed(request, words) {
+            if (request === card.request) {
+                note.words = words;
+                note.show();
+            }
+        }
+    }
     ConfirmationDialog {
         id: confirmation
 

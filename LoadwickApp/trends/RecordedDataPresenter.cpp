@@ -95,10 +95,14 @@ QString RecordedDataPresenter::storageNote() const
 
 QString RecordedDataPresenter::storagePlatformNote() const
 {
-    const auto file = m_model.historyFile();
-    const auto note =
-        file ? onLinux("On Linux the file is " + pathText(*file) + ".") : std::nullopt;
+    const auto note = m_model.historyFile() ? onLinux("On Linux the file is:") : std::nullopt;
     return qtText(note.value_or(""));
+}
+
+QString RecordedDataPresenter::historyFile() const
+{
+    const auto file = m_model.historyFile();
+    return file ? qtText(pathText(*file)) : QString();
 }
 
 QString RecordedDataPresenter::deleteTitle() const

@@ -5,6 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "base/ListOf.h"
+#include "desktop/FileOpener.h"
 #include "history/RecordedScan.h"
 #include "model/ScanModel.h"
 #include "text/TextLocale.h"
@@ -22,6 +23,8 @@ class RecordedDataPresenter final : public QObject
     Q_PROPERTY(QString runsDetail READ runsDetail NOTIFY changed)
     Q_PROPERTY(QString storageNote READ storageNote NOTIFY changed)
     Q_PROPERTY(QString storagePlatformNote READ storagePlatformNote CONSTANT)
+    Q_PROPERTY(QString historyFile READ historyFile CONSTANT)
+    Q_PROPERTY(Loadwick::FileOpener *opener READ opener CONSTANT)
     Q_PROPERTY(QString deleteTitle READ deleteTitle NOTIFY changed)
     Q_PROPERTY(bool canClear READ canClear NOTIFY changed)
 
@@ -44,6 +47,12 @@ public:
     [[nodiscard]] QString storageNote() const;
     /// Where that is on this system, if the note speaks of another one; empty without a store.
     [[nodiscard]] QString storagePlatformNote() const;
+    /// Its path; empty without a store.
+    [[nodiscard]] QString historyFile() const;
+
+    /// Call it before the data is on the screen; without it the file cannot be shown. Not owned.
+    void openWith(FileOpener &opener) { m_opener = &opener; }
+    [[nodiscard]] FileOpener *opener() const noexcept { return m_opener; }
 
     /// The title of the button that deletes that many scans permanently.
     [[nodiscard]] QString deleteTitle() const;
@@ -60,6 +69,7 @@ private:
     [[nodiscard]] QString pathOf(const RecordedScan &scan) const;
 
     ScanModel &m_model;
+    FileOpener *m_opener = nullptr;
     TextLocale m_locale;
     ListOf<RecordedScan> m_runs;
     QString m_runsDetail;

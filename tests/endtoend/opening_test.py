@@ -142,6 +142,16 @@ class OpeningTest(EndToEndCase):
             until(f"{file!r} in the file manager", lambda: len(desktop.shown) == count)
             self.assertEqual(path_of(desktop.shown[-1]), file)
 
+    def test_trends_shows_the_recorded_data_in_its_folder(self) -> None:
+        desktop = self.enterContext(FileManager())
+        program = self.open_tall()
+        self.scanned(program, b"webshop")
+        program.window.key("ctrl+2")
+        program.window.wait_for(str(self.home.history_file))
+        program.window.press("Show in Folder")
+        until("the history in the file manager", lambda: desktop.shown)
+        self.assertEqual(path_of(desktop.shown[0]), os.fsencode(self.home.history_file))
+
     def test_without_a_file_manager_the_folder_opens(self) -> None:
         self.install_handler()
         program = self.open_tall()

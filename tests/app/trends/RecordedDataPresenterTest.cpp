@@ -63,9 +63,10 @@ private Q_SLOTS:
 
     void namesTheFileOnLinux()
     {
-        const auto expected =
-            onLinux("On Linux the file is " + m_folder->path().string() + "/scan-history.json.");
+        const auto expected = onLinux("On Linux the file is:");
         QCOMPARE(m_data->storagePlatformNote().toStdString(), expected.value_or(""));
+        QCOMPARE(m_data->historyFile().toStdString(),
+                 (m_folder->path() / "scan-history.json").string());
     }
 
     void writesTheLimitInTheLocalesFiguresAndCountsInPlainDecimal()
