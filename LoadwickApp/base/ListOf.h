@@ -77,6 +77,13 @@ public:
             Q_EMIT dataChanged(index(0), index(count() - 1));
     }
 
+    void updateRow(std::size_t row, Row value)
+    {
+        m_rows[row] = std::move(value);
+        const QModelIndex place = index(static_cast<int>(row));
+        Q_EMIT dataChanged(place, place);
+    }
+
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const final
     {
         return parent.isValid() ? 0 : static_cast<int>(m_rows.size());

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import Loadwick
 
 // One line of a menu. Its words are `title`, because the control's own text accepts markup.
@@ -10,6 +11,9 @@ MenuItem {
     // A second, quieter line; none when empty. It may explain why the item is disabled, and stays
     // readable then.
     required property string detail
+    // At the end of the first line; none when empty.
+    property string figure: ""
+    property color figureTint: AppTheme.text
     // The selected one of several.
     property bool marked: false
 
@@ -29,13 +33,26 @@ MenuItem {
             anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
             anchors.rightMargin: item.marked ? AppTheme.iconSize + AppTheme.smallSpace : 0
 
-            PlainLabel {
+            RowLayout {
                 width: parent.width
-                text: item.title
-                opacity: item.enabled ? 1 : AppTheme.disabledOpacity
-                elide: Text.ElideMiddle
-                maximumLineCount: 1
-                Accessible.ignored: true
+                spacing: AppTheme.smallSpace
+
+                PlainLabel {
+                    Layout.fillWidth: true
+                    text: item.title
+                    opacity: item.enabled ? 1 : AppTheme.disabledOpacity
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                    Accessible.ignored: true
+                }
+                PlainLabel {
+                    text: item.figure
+                    font: AppTheme.bodyStrongFont
+                    color: item.figureTint
+                    opacity: item.enabled ? 1 : AppTheme.disabledOpacity
+                    visible: item.figure.length > 0
+                    Accessible.ignored: true
+                }
             }
             PlainLabel {
                 width: parent.width

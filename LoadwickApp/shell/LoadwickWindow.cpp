@@ -97,7 +97,7 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     m_model = std::make_unique<ScanModel>(std::move(given.scan));
     m_fileOpener = std::make_unique<FileOpener>(dispatcher, std::move(given.desktop));
     makePresenters(given.locale, given.home);
-    makeCommands(dispatcher);
+    makeCommands(dispatcher, given.locale);
     makeWindow();
     if (!given.title.isEmpty())
         m_window->setTitle(given.title);
@@ -136,10 +136,11 @@ void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesys
     m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
 }
 
-void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher)
+void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher,
+                                  const TextLocale &locale)
 {
     m_folderDrop = std::make_unique<FolderDrop>(*m_content, dispatcher);
-    m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher);
+    m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher, locale);
     const auto reportName = [this] {
         return SavedFile::suggestedName(QStringLiteral("loadwick-report"),
                                         m_overview->repositoryName());

@@ -85,7 +85,7 @@ public:
 private:
     void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
     void makeWindow();
-    void makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher);
+    void makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher, const TextLocale &locale);
     void putNoticesOn(std::unique_ptr<NoticeBoard> board);
     void presentOnAppearance(const std::shared_ptr<TaskDispatcher> &dispatcher);
 

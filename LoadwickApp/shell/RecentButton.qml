@@ -16,12 +16,12 @@ AbstractButton {
 
     function open() {
         if (!button.menu) {
-            loader.setSource("RecentMenu.qml", { recent: button.recent });
+            loader.setSource("RecentMenu.qml", { recent: button.recent, button: button });
             button.menu = loader.item as RecentMenu;
         }
         button.menu.width = Math.min(button.menu.implicitWidth, button.Window.width - 2 * AppTheme.smallSpace);
         button.recent.checkFolders();
-        button.menu.popup(button, button.width - button.menu.width, button.height + AppTheme.tightSpace);
+        button.menu.open();
     }
 
     implicitWidth: AppTheme.controlHeight

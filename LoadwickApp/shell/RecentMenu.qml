@@ -1,28 +1,43 @@
 import QtQuick
+import QtQuick.Controls
 import Loadwick
 
-// The repositories that can be chosen again. The current one is checked; one whose folder is gone
-// is disabled and says so.
-PlainMenu {
+// The repositories that can be chosen again, the one scanned last first. Typing narrows them down,
+// whether the line for it or a row has the focus. Only the rows that show exist, unlike those of a
+// menu.
+Popup {
     id: menu
 
     required property RecentRepositories recent
+    required property Item button
+    readonly property real room: button.Window.height - button.mapToItem(null, 0, menu.y).y - AppTheme.smallSpace
 
-    implicitWidth: AppTheme.scaled(320)
+    parent: button
+    x: button.width - menu.width
+    y: button.height + AppTheme.tightSpace
+    width: AppTheme.scaled(380)
+    height: Math.min(menu.implicitHeight, menu.room)
+    padding: AppTheme.tightSpace
+    focus: true
+    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
-    Repeater {
-        model: menu.recent.rows
+    onAboutToShow: (menu.contentItem as RecentChooser).begin()
 
-        PlainMenuItem {
-            id: row
+    Connections {
+        target: menu.recent
 
-            required property int index
-            required property bool exists
-            required property bool isCurrent
-
-            enabled: row.exists
-            marked: row.isCurrent
-            onTriggered: (row.menu as RecentMenu).recent.choose(row.index)
+        function onFilterChanged() { Announcer.announce(menu.recent.matchWords); }
+    }
+    background: Rectangle {
+        radius: AppTheme.controlRadius
+        color: AppTheme.surface
+        border { width: AppTheme.hairline; color: AppTheme.separator }
+    }
+    contentItem: RecentChooser {
+        recent: menu.recent
+        onChosen: row => {
+            menu.close();
+            menu.recent.choose(row);
         }
     }
 }

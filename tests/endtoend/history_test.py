@@ -54,6 +54,19 @@ class HistoryTest(EndToEndCase):
 
         return until(f"the first row of {listing!r}", lambda: unless_gone(look, []))
 
+    def test_typing_finds_a_scanned_repository(self) -> None:
+        program = self.open_tall()
+        self.scan(program, self.home.make_repository("webshop"), 31_000)
+        self.scan(program, self.home.make_repository("notes"), 2_000)
+        program.window.press("Scanned repositories")
+        program.window.wait_until_focused("Name or path of a repository")
+        program.window.type("SHO")
+        program.window.wait_until_gone("notes, 2,000 tokens, Lean")
+        program.window.key("Down")
+        program.window.wait_until_focused("webshop, 31,000 tokens, Heavy")
+        program.window.key("Return")
+        program.window.wait_for("Ready to scan")
+
     def test_two_scans_have_a_drift(self) -> None:
         program = self.open_tall()
         webshop = self.home.make_repository("webshop")

@@ -40,7 +40,7 @@ class ReaderDialogsTest(ReaderCase):
         self.press(program, "shift+Tab", "Scan Again")
         self.press(program, "shift+Tab", "Scanned repositories")
         program.window.key("space")
-        program.window.wait_for("webshop", "menu item")
+        program.window.wait_for("webshop, 42,318 tokens, Heavy", "menu item")
         self.press(program, "Down", "wiki", "tmp")
         self.press(program, "Down", "webshop", "tmp")
         self.press(program, "Return", "Repository webshop chosen")

@@ -13,6 +13,12 @@ namespace Loadwick {
 namespace {
 
 const auto list = QStringLiteral("Scanned repositories");
+/// What a screen reader says of a repository; every scan measures the same.
+QString spoken(const char *name)
+{
+    return QString::fromLatin1(name) + QStringLiteral(", 27,654 tokens, Lean");
+}
+
 const auto notFound = QStringLiteral("Folder not found: ");
 
 } // namespace
@@ -32,8 +38,8 @@ private Q_SLOTS:
         scan("one");
         scan("two");
         openList();
-        QVERIFY(m_window->isPressable(QStringLiteral("one")));
-        m_window->pressButton(QStringLiteral("one"));
+        QVERIFY(m_window->isPressable(spoken("one")));
+        m_window->pressButton(spoken("one"));
         QVERIFY(m_window->loadwick().model().selection().get()->url ==
                 m_window->folder().path() / "one");
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Idle);
@@ -99,7 +105,7 @@ private Q_SLOTS:
         scan("one");
         scan("two"); // the sidebar names it
         openList();
-        QCOMPARE(spokenDetail(QStringLiteral("one")),
+        QCOMPARE(spokenDetail(spoken("one")),
                  QString::fromStdString((m_window->folder().path() / "one").string()));
     }
 
@@ -109,9 +115,9 @@ private Q_SLOTS:
         scan("two");
         std::filesystem::remove_all(m_window->folder().path() / "one");
         openList();
-        QVERIFY(m_window->shows(QStringLiteral("one")));
-        QVERIFY(!m_window->isPressable(QStringLiteral("one")));
-        m_window->pressButton(QStringLiteral("one"));
+        QVERIFY(m_window->shows(spoken("one")));
+        QVERIFY(!m_window->isPressable(spoken("one")));
+        m_window->pressButton(spoken("one"));
         QVERIFY(m_window->loadwick().model().selection().get()->url ==
                 m_window->folder().path() / "two");
     }
@@ -121,12 +127,12 @@ private Q_SLOTS:
         scan("one");
         scan("two"); // the sidebar names it
         openList();
-        QVERIFY(!spokenDetail(QStringLiteral("one")).contains(notFound));
+        QVERIFY(!spokenDetail(spoken("one")).contains(notFound));
         m_window->press(Qt::Key_Escape);
         std::filesystem::remove_all(m_window->folder().path() / "one");
         openList();
-        QVERIFY(spokenDetail(QStringLiteral("one")).startsWith(notFound));
-        QVERIFY(spokenDetail(QStringLiteral("one")).endsWith(QStringLiteral("one")));
+        QVERIFY(spokenDetail(spoken("one")).startsWith(notFound));
+        QVERIFY(spokenDetail(spoken("one")).endsWith(QStringLiteral("one")));
     }
 
     void theDetailOfAMissingFolderStaysReadable()
@@ -161,8 +167,8 @@ private Q_SLOTS:
         m_window->press(Qt::Key_Escape);
         std::filesystem::create_directory(m_window->folder().path() / "one");
         openList();
-        QVERIFY(m_window->isPressable(QStringLiteral("one")));
-        QVERIFY(!spokenDetail(QStringLiteral("one")).contains(notFound));
+        QVERIFY(m_window->isPressable(spoken("one")));
+        QVERIFY(!spokenDetail(spoken("one")).contains(notFound));
     }
 
     void listsEachRepositoryOnce()
@@ -173,12 +179,12 @@ private Q_SLOTS:
         QCOMPARE(recent->count(), 2);
     }
 
-    void listsTenRepositoriesAtMost()
+    void listsEveryRepository()
     {
         for (int number = 0; number < 12; ++number)
             scan(std::to_string(number));
         const auto recent = uncheckedList();
-        QCOMPARE(recent->count(), static_cast<int>(RecentRepositories::longestList));
+        QCOMPARE(recent->count(), 12);
     }
 
     void whileScanningNoneCanBeChosen()
@@ -272,7 +278,8 @@ private:
     void openList()
     {
         m_window->pressButton(list);
-        m_window->finishScan(); // runs the pending checks of the folders
+        m_window->finishScan();                           // runs the pending checks of the folders
+        (void)m_window->loadwick().window().grabWindow(); // creates the rows
     }
 
     [[nodiscard]] static QStringList markedRows(RecentRepositories &recent)
