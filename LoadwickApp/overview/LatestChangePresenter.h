@@ -55,6 +55,7 @@ Q_SIGNALS:
 
 private:
     void showHistory();
+    void compareWith(const RecordedScan &previous);
 
     ScanModel &m_model;
     TextLocale m_locale;
