@@ -15,7 +15,7 @@ Popup {
     parent: button
     x: button.width - menu.width
     y: button.height + AppTheme.tightSpace
-    width: AppTheme.scaled(380)
+    implicitWidth: AppTheme.scaled(380)
     height: Math.min(menu.implicitHeight, menu.room)
     padding: AppTheme.tightSpace
     focus: true

@@ -113,6 +113,7 @@ private Q_SLOTS:
         (void)window.grabWindow();
         const QList<QQuickItem *> rows = shownRows();
         QVERIFY(rows.size() > 5 && rows.size() < 20);
+        QVERIFY(rows[0]->width() > 300);
         m_window->press(Qt::Key_End);
         (void)window.grabWindow();
         const QQuickItem *last = window.activeFocusItem();
