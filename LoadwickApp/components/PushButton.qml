@@ -64,7 +64,7 @@ AbstractButton {
     Shortcut {
         sequence: control.shortcut
         autoRepeat: false
-        enabled: control.enabled
+        enabled: control.Window.active && control.enabled
         onActivated: control.clicked()
     }
 

@@ -64,6 +64,7 @@ Item {
 
     Shortcut {
         sequences: ["F6", "Shift+F6"]
+        enabled: keys.Window.active
         onActivated: keys.switchSides()
     }
     // Active while a modal sheet is open, too.

@@ -96,6 +96,8 @@ ListView {
         Shortcut {
             sequence: row.shortcut
             autoRepeat: false
+            // Qt 6.8 passes the keys of a dialog on to the window behind it.
+            enabled: row.Window.active
             onActivated: row.clicked()
         }
         HoverTip {
