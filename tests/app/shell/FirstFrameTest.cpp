@@ -14,7 +14,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr qsizetype mostObjects = 172;
+constexpr qsizetype mostObjects = 175;
 
 /// Whether the process has loaded a library of that name.
 bool isLoaded(const std::string &library)
