@@ -11,12 +11,13 @@ Row {
     readonly property bool isShown: moment.running
     readonly property color tint: failed ? AppTheme.bandHeavyText : AppTheme.bandLeanText
 
-    function show() { moment.restart(); }
+    function show() {
+        moment.restart();
+        Announcer.announce(note.words);
+    }
 
     spacing: AppTheme.tightSpace
     visible: isShown
-    Accessible.role: Accessible.Notification
-    Accessible.name: note.words
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
@@ -27,7 +28,6 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         text: note.words
         color: note.tint
-        Accessible.ignored: true
     }
 
     Timer {

@@ -9,12 +9,12 @@ Item {
     required property ContentPresenter content
     required property OverviewPresenter overview
     required property OnboardingPresenter onboarding
-    readonly property int mostItems: 10
+    // Each announcement has an item of its own, kept this long: a slow reader asks for its words when
+    // others have already followed.
+    property int keptMilliseconds: 10000
 
     objectName: "announcements"
 
-    // Each announcement has an item of its own: a slow reader asks for its words when others have
-    // already followed.
     Component {
         id: notification
 
@@ -33,9 +33,7 @@ Item {
         target: Announcer
 
         function onAnnounced(words) {
-            if (announcements.children.length >= announcements.mostItems)
-                announcements.children[0].destroy();
-            notification.createObject(announcements, { words: words });
+            notification.createObject(announcements, { words: words }).destroy(announcements.keptMilliseconds);
         }
     }
     Connections {

@@ -128,6 +128,17 @@ class AccessibleTree:
         """The texts of all visible objects."""
         return [unless_gone(lambda: text_of(item), "") for item in self.items()]
 
+    def announcements(self) -> list[str]:
+        """The words that a screen reader is to speak, oldest first. Their objects take no room."""
+        self._root.clear_cache()
+        notices = [item for item in self._below(self._root) if role_of(item) == "notification"]
+        names = [unless_gone(item.get_name, "") for item in notices]
+        return [name for name in names if name]
+
+    def wait_for_announcement(self, words: str) -> None:
+        """Returns once these words are announced."""
+        self._until(f"the announcement {words!r}", lambda: words in self.announcements())
+
     def press(self, name: str) -> None:
         """Presses the button or the row of this name, once it can be pressed."""
         button = self._until(f"an enabled button {name!r}", lambda: self._pressable(name))

@@ -36,6 +36,10 @@ class WatchedProgram(Program):
         """The number of wake-ups so far."""
         return wakes_of(self.process.pid)
 
+    def is_silent(self) -> bool:
+        """Whether nothing is announced."""
+        return not self.window.announcements()
+
     def is_at_rest(self) -> bool:
         """Whether nothing happens for a while."""
         frames, wakes = self.frames(), self.wakes()
@@ -65,6 +69,7 @@ class IdleTest(EndToEndCase):
     def assert_sleeps(self, programs_at_rest: list[WatchedProgram]) -> None:
         """Watches all the windows for ten seconds."""
         for program in programs_at_rest:
+            until(f"the end of what {program.name} announces", program.is_silent)
             until(f"the rest of {program.name}", program.is_at_rest)
         before = [(program.frames(), program.wakes()) for program in programs_at_rest]
         time.sleep(IDLE_SECONDS)

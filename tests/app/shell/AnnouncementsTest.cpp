@@ -36,7 +36,7 @@ private Q_SLOTS:
     void theMarkThatAKeyReachesIsAnnounced_data();
     void theMarkThatAKeyReachesIsAnnounced();
     void aChosenScanIsAnnouncedWithItsDifference();
-    void onlyTheLastAnnouncementsAreKept();
+    void anAnnouncementIsKeptForAWhile();
 
 private:
     void chooseAndScan();
@@ -125,10 +125,11 @@ void AnnouncementsTest::aSectionSaysWhetherItIsOpen()
 void AnnouncementsTest::copyingIsAnnounced()
 {
     chooseAndScan();
-    m_window->pressButton(QStringLiteral("Copy Summary"));
-    QAccessibleInterface *note = m_window->find(QStringLiteral("Copied"));
-    QVERIFY(note != nullptr);
-    QCOMPARE(note->role(), QAccessible::Notification);
+    for (int time = 0; time < 2; ++time) {
+        m_window->pressButton(QStringLiteral("Copy Summary"));
+        QCOMPARE(heard(), QStringList{QStringLiteral("Copied")});
+        QVERIFY(m_window->shows(QStringLiteral("Copied")));
+    }
 }
 
 void AnnouncementsTest::aSavedFileIsAnnounced()
@@ -226,14 +227,14 @@ void AnnouncementsTest::aChosenScanIsAnnouncedWithItsDifference()
     QVERIFY(heard().join(u'|').startsWith(QStringLiteral("Total, before 14,000, after ")));
 }
 
-void AnnouncementsTest::onlyTheLastAnnouncementsAreKept()
+// A burst, too, is heard as a whole and leaves nothing behind.
+void AnnouncementsTest::anAnnouncementIsKeptForAWhile()
 {
-    for (int page = 0; page < 20; ++page) {
+    announcements()->setProperty("keptMilliseconds", 1);
+    for (int page = 0; page < 20; ++page)
         content().setPageIndex(1 + page % 2);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(heard().size(), 1);
-    }
-    QCOMPARE(announcements()->childItems().size(), 10);
+    QCOMPARE(heard().size(), 20);
+    QTRY_COMPARE(announcements()->childItems().size(), 0);
 }
 
 const RegisteredTest<AnnouncementsTest> registered("Announcements");
