@@ -5,7 +5,7 @@ import QtQuick
 QtObject {
     signal announced(string words)
 
-    function announce(words) {
+    function announce(words: string): void {
         if (words.length > 0)
             announced(words);
     }

@@ -165,6 +165,11 @@ void ContentPresenter::scan()
     m_model.scan();
 }
 
+void ContentPresenter::showTrends()
+{
+    showPage(AppPage::trends);
+}
+
 void ContentPresenter::showPage(AppPage page)
 {
     if (m_page == page)

@@ -75,6 +75,7 @@ public:
     /// The page's index in that order. Setting an index out of range shows the first page.
     [[nodiscard]] int pageIndex() const noexcept { return static_cast<int>(m_page); }
     void setPageIndex(int index);
+    Q_INVOKABLE void showTrends();
     /// Names the page that is shown, for a screen reader.
     [[nodiscard]] QString pageWords() const;
 

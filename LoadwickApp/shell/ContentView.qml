@@ -16,6 +16,7 @@ SplitView {
     required property PageExport trendsExport
     required property PageExport compareExport
     readonly property real leastWidth: AppTheme.sidebarMinimumWidth + AppTheme.hairline + AppTheme.detailMinimumWidth
+    readonly property bool isMirrored: Application.layoutDirection === Qt.RightToLeft
 
     // A page that is created when it is first shown, and kept.
     component LatePage: Loader {
@@ -37,15 +38,21 @@ SplitView {
 
     function showLatestChange() {
         view.trends.changes.chooseNewest();
-        view.content.pageIndex = 1;
+        view.content.showTrends();
         (trendsPage.item as TrendsView).goToChanges();
+    }
+
+    // The view itself does not mirror its columns.
+    function placeSidebar() {
+        if (view.isMirrored === (view.itemAt(0) === sidebar))
+            view.moveItem(0, 1);
     }
 
     function takeKeyboard() { keys.begin(); }
 
     orientation: Qt.Horizontal
-    // The view itself does not mirror its columns.
-    Component.onCompleted: if (Application.layoutDirection === Qt.RightToLeft) view.moveItem(0, 1)
+    Component.onCompleted: view.placeSidebar()
+    onIsMirroredChanged: view.placeSidebar()
 
     Connections {
         target: view.overview.latestChange

@@ -135,6 +135,7 @@ private Q_SLOTS:
     void theFirstLaunchFits();
     void everyPageFits_data();
     void everyPageFits();
+    void theSidebarFollowsTheDirection();
 
 private:
     void open(const Size &size);
@@ -198,6 +199,15 @@ void WindowSizesTest::everyPageFits()
     }
     expandSections(*window().contentItem());
     verify("Overview with open sections");
+}
+
+void WindowSizesTest::theSidebarFollowsTheDirection()
+{
+    open({1.0, 960, Qt::RightToLeft});
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QGuiApplication::setLayoutDirection(direction);
+        QTRY_COMPARE(lostSidebar(), QStringList());
+    }
 }
 
 // At the first size, then at the real one, as the program does.
