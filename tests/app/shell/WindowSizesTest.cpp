@@ -112,11 +112,26 @@ QQuickItem &cellOf(QQuickItem &text)
     return text.objectName().isEmpty() ? *text.parentItem() : text;
 }
 
+bool isMirrored()
+{
+    return QGuiApplication::layoutDirection() == Qt::RightToLeft;
+}
+
+bool holdsFigures(const QQuickItem &cell)
+{
+    return cell.objectName() == u"tokens" || cell.objectName() == u"share";
+}
+
 /// Where the column of a cell begins or, if it holds figures, where it ends.
 qreal edgeOf(const QQuickItem &cell)
 {
-    const bool holdsFigures = cell.objectName() == u"tokens" || cell.objectName() == u"share";
-    return holdsFigures ? rightEdge(&cell) : cell.mapToScene(QPointF()).x();
+    return holdsFigures(cell) || isMirrored() ? rightEdge(&cell) : cell.mapToScene(QPointF()).x();
+}
+
+/// From right to left the longest figure ends outside its column.
+bool mayLeaveColumn(const QQuickItem &cell)
+{
+    return isMirrored() && textOf(cell) == u"1,000,000,000,000,000,000";
 }
 
 } // namespace
@@ -253,8 +268,7 @@ void WindowSizesTest::dragSidebar(Sidebar sidebar)
 /// In the middle, that far from the window's edge beside the sidebar.
 QPoint WindowSizesTest::fromSide(int distance)
 {
-    const bool isRight = QGuiApplication::layoutDirection() == Qt::RightToLeft;
-    return {isRight ? window().width() - 1 - distance : distance, height / 2};
+    return {isMirrored() ? window().width() - 1 - distance : distance, height / 2};
 }
 
 /// Beside the narrowest page.
@@ -345,11 +359,8 @@ QStringList WindowSizesTest::wordsBesideCards()
     return found;
 }
 
-// From right to left a figure that is longer than its column ends outside it.
 QStringList WindowSizesTest::partedColumns()
 {
-    if (QGuiApplication::layoutDirection() == Qt::RightToLeft)
-        return {};
     static const QSet<QString> headings{QStringLiteral("Category"), QStringLiteral("Tokens"),
                                         QStringLiteral("Share"), QStringLiteral("Source"),
                                         QStringLiteral("% of total")};
@@ -360,7 +371,7 @@ QStringList WindowSizesTest::partedColumns()
         const QQuickItem &heading = cellOf(*item);
         for (const QQuickItem *cell : visibleItems(&cardOf(*item), heading.objectName())) {
             const qreal distance = edgeOf(*cell) - edgeOf(heading);
-            if (std::abs(distance) > 1)
+            if (std::abs(distance) > 1 && !mayLeaveColumn(*cell))
                 found << QStringLiteral("\"%1\" is %2 beside its column")
                              .arg(textOf(*item))
                              .arg(distance);
@@ -376,8 +387,7 @@ QStringList WindowSizesTest::lostSidebar()
     const QRectF whole(0, 0, scroller.property("contentWidth").toDouble(), height);
     const auto *content = scroller.property("contentItem").value<QQuickItem *>();
     const QRectF place = side.mapRectToItem(content, QRectF(QPointF(), side.size()));
-    const bool isRight = QGuiApplication::layoutDirection() == Qt::RightToLeft;
-    const qreal gap = isRight ? whole.right() - place.right() : place.left();
+    const qreal gap = isMirrored() ? whole.right() - place.right() : place.left();
     return gap == 0 ? QStringList()
                     : QStringList(QStringLiteral("The sidebar is %1 beside its edge").arg(gap));
 }
