@@ -1,10 +1,7 @@
 #include "shell/AccessibleEvents.h"
 
 #include <QAccessible>
-#include <QtGui/private/qguiapplication_p.h>
-#include <QtQuick/private/qquickitem_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
+#include <QQuickItem>
 
 namespace Loadwick::AccessibleEvents {
 namespace {
@@ -23,18 +20,28 @@ bool describes(QAccessible::Event type)
     }
 }
 
+/// Names the protected function, which a pointer to a member may then call on any item.
+struct Item : QQuickItem
+{
+    static constexpr bool (QQuickItem::*isComplete)() const = &Item::isComponentComplete;
+};
+
 bool isBeingCreated(QObject *object)
 {
-    auto *item = qobject_cast<QQuickItem *>(object);
-    return item != nullptr && !QQuickItemPrivate::get(item)->componentComplete;
+    const auto *item = qobject_cast<QQuickItem *>(object);
+    return item != nullptr && !(item->*Item::isComplete)();
 }
 
 void forward(QAccessibleEvent *event)
 {
+    // Qt has already applied it to its table, which must not happen twice. Only widgets have one.
+    if (event->type() == QAccessible::TableModelChanged)
+        return;
     if (describes(event->type()) && isBeingCreated(event->object()))
         return;
-    if (auto *bus = QGuiApplicationPrivate::platformIntegration()->accessibility())
-        bus->notifyAccessibilityUpdate(event);
+    QAccessible::installUpdateHandler(nullptr);
+    QAccessible::updateAccessibility(event);
+    QAccessible::installUpdateHandler(forward);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
-/// Spares assistive technology the events that mean nothing to it. It needs Qt's private headers:
-/// no public one says whether an item is complete, or passes an event on to the desktop.
+/// Spares assistive technology the events that mean nothing to it.
 namespace Loadwick::AccessibleEvents {
 
 /// Keeps back the names and texts that an item gets while it is created: nobody has asked for it
