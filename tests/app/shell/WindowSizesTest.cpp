@@ -117,15 +117,11 @@ bool isMirrored()
     return QGuiApplication::layoutDirection() == Qt::RightToLeft;
 }
 
-bool holdsFigures(const QQuickItem &cell)
-{
-    return cell.objectName() == u"tokens" || cell.objectName() == u"share";
-}
-
 /// Where the column of a cell begins or, if it holds figures, where it ends.
 qreal edgeOf(const QQuickItem &cell)
 {
-    return holdsFigures(cell) || isMirrored() ? rightEdge(&cell) : cell.mapToScene(QPointF()).x();
+    const bool holdsFigures = cell.objectName() == u"tokens" || cell.objectName() == u"share";
+    return holdsFigures || isMirrored() ? rightEdge(&cell) : cell.mapToScene(QPointF()).x();
 }
 
 /// From right to left the longest figure ends outside its column.
@@ -150,7 +146,6 @@ private Q_SLOTS:
     void theFirstLaunchFits();
     void everyPageFits_data();
     void everyPageFits();
-    void theSidebarFollowsTheDirection();
 
 private:
     void open(const Size &size);
@@ -214,15 +209,8 @@ void WindowSizesTest::everyPageFits()
     }
     expandSections(*window().contentItem());
     verify("Overview with open sections");
-}
-
-void WindowSizesTest::theSidebarFollowsTheDirection()
-{
-    open({1.0, 960, Qt::RightToLeft});
-    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-        QGuiApplication::setLayoutDirection(direction);
-        QTRY_COMPARE(lostSidebar(), QStringList());
-    }
+    QGuiApplication::setLayoutDirection(isMirrored() ? Qt::LeftToRight : Qt::RightToLeft);
+    verify("Overview in the other direction");
 }
 
 // At the first size, then at the real one, as the program does.
