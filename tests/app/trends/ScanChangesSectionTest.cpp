@@ -1,7 +1,6 @@
 // The section "What changed" in the real window, by keyboard, pointer and screen reader.
 #include <QAccessible>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QQuickItem>
 #include <QTest>
 
@@ -73,8 +72,7 @@ private:
     [[nodiscard]] static qreal pageTopOf(const QQuickItem *of);
     [[nodiscard]] QQuickItem *item(const char *name)
     {
-        const auto found = visibleItems(window().contentItem(), QString::fromLatin1(name));
-        return found.isEmpty() ? nullptr : found.first();
+        return visibleItems(window().contentItem(), QString::fromLatin1(name)).value(0);
     }
     void record(std::vector<RecordedScan> scans)
     {
