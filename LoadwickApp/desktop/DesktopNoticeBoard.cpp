@@ -12,7 +12,7 @@ namespace Loadwick {
 namespace {
 
 constexpr QLatin1String service("org.freedesktop.Notifications");
-constexpr QLatin1String path("/org/freedesktop/Notifications");
+constexpr QLatin1String objectPath("/org/freedesktop/Notifications");
 constexpr QLatin1String interface("org.freedesktop.Notifications");
 constexpr QLatin1String defaultAction("default"); ///< invoked by a press on the notice itself
 
@@ -60,9 +60,9 @@ void DesktopNoticeBoard::begin(const QDBusConnection &bus)
     if (!bus.isConnected())
         return;
     if (!std::exchange(m_bus, bus)) {
-        m_bus->connect(service, path, interface, QStringLiteral("ActionInvoked"), this,
+        m_bus->connect(service, objectPath, interface, QStringLiteral("ActionInvoked"), this,
                        SLOT(followAction(QDBusMessage)));
-        m_bus->connect(service, path, interface, QStringLiteral("ActivationToken"), this,
+        m_bus->connect(service, objectPath, interface, QStringLiteral("ActivationToken"), this,
                        SLOT(followToken(QDBusMessage)));
     }
     // Answers come in the order of the questions, and the last one sends the notice.
@@ -73,7 +73,7 @@ void DesktopNoticeBoard::begin(const QDBusConnection &bus)
 void DesktopNoticeBoard::call(const QString &method, const QVariantList &arguments,
                               const Answered &answered)
 {
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, method);
+    QDBusMessage question = QDBusMessage::createMethodCall(service, objectPath, interface, method);
     question.setArguments(arguments);
     auto *watcher =
         new QDBusPendingCallWatcher(m_bus->asyncCall(question, answerMilliseconds), this);

@@ -15,9 +15,9 @@
 namespace Loadwick {
 namespace {
 
-constexpr QLatin1String service("org.freedesktop.FileManager1");
-constexpr QLatin1String object("/org/freedesktop/FileManager1");
-constexpr int answerMilliseconds = 25'000; ///< the bus may have to start the file manager
+constexpr QLatin1String fileManager("org.freedesktop.FileManager1");
+constexpr QLatin1String fileManagerPath("/org/freedesktop/FileManager1");
+constexpr int showMilliseconds = 25'000; ///< the bus may have to start the file manager
 
 bool isThere(const QString &path)
 {
@@ -93,11 +93,11 @@ void FileOpener::askFileManager(int request, const QString &path, const QDBusCon
 {
     if (!bus.isConnected())
         return openFolder(request, path);
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(service, object, service, QStringLiteral("ShowItems"));
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        fileManager, fileManagerPath, fileManager, QStringLiteral("ShowItems"));
     const QString url = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
     question.setArguments({QStringList(url), QString()});
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question, answerMilliseconds), this);
+    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question, showMilliseconds), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request, path] {
         watcher->deleteLater();
         if (watcher->isError())
