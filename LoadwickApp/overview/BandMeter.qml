@@ -60,7 +60,7 @@ Item {
     }
 
     implicitHeight: AppTheme.meterHeight + AppTheme.tightSpace + lean.implicitHeight
-    // The one tab stop of its card: it says the total and the band, too.
+    // It speaks for the total and the band beside it, which are no tab stops.
     activeFocusOnTab: true
     Accessible.role: Accessible.Graphic
     Accessible.name: meter.band.meterSummary

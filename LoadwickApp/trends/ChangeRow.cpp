@@ -160,7 +160,7 @@ void ChangeRow::paint(QPainter *painter)
         painter->fillRect(QRectF(0, height() - 1, width(), 1), m_style->line);
 }
 
-// Of a name and its note, the note gives way first.
+// The note is elided before the name.
 void ChangeRow::paintNames(QPainter &painter, const QRectF &box) const
 {
     const Qt::Alignment start = m_style->isMirrored ? Qt::AlignRight : Qt::AlignLeft;

@@ -40,8 +40,8 @@ struct CategoryChange
     friend bool operator==(const CategoryChange &, const CategoryChange &) = default;
 };
 
-/// What changed from one scan to another. Only the totals are authoritative: neither do the
-/// categories need to add up to them, nor their differences to that of the totals.
+/// What changed from one scan to another. Only the totals are authoritative: the categories need
+/// not add up to them, nor their differences to the difference of the totals.
 struct ScanComparison
 {
     std::int64_t totalBefore;
