@@ -6,16 +6,29 @@
 #include "history/ScanHistory.h"
 #include "report/ScanReport.h"
 #include "text/DateText.h"
-#include "text/Fatal.h"
 
 namespace Loadwick {
 namespace {
 
-TrendDirection directionOf(std::int64_t delta)
+struct LastTwo
 {
-    if (delta == 0)
-        return TrendDirection::flat;
-    return delta > 0 ? TrendDirection::up : TrendDirection::down;
+    const RecordedScan *latest = nullptr;
+    const RecordedScan *previous = nullptr;
+};
+
+/// Of scans of one second the last in the history is the latest.
+LastTwo lastTwoOf(const std::vector<RecordedScan> &history, const std::string &path)
+{
+    LastTwo last;
+    for (const RecordedScan &scan : history) {
+        if (scan.repositoryPath != path)
+            continue;
+        if (last.latest == nullptr || scan.date >= last.latest->date)
+            last.previous = std::exchange(last.latest, &scan);
+        else if (last.previous == nullptr || scan.date >= last.previous->date)
+            last.previous = &scan;
+    }
+    return last;
 }
 
 } // namespace
@@ -41,21 +54,18 @@ QString LatestChangePresenter::sentence() const
 // A report is shown before it is recorded, and remains if that fails.
 void LatestChangePresenter::showHistory()
 {
+    const LastTwo last =
+        m_repository ? lastTwoOf(m_model.history().get(), *m_repository) : LastTwo();
     m_mark = {};
     m_since.clear();
-    const auto scans = m_repository
-                           ? ScanHistory::oldestFirst(m_model.history().get(), *m_repository)
-                           : std::vector<const RecordedScan *>();
-    if (scans.size() > 1 && scans.back()->total == m_total)
-        compareWith(*scans[scans.size() - 2]);
+    if (last.previous != nullptr && last.latest->total == m_total) {
+        const LeaderboardEntry entry{
+            .latest = *last.latest, .previousTotal = last.previous->total, .scanCount = 2};
+        m_mark = TrendMark::of(entry.trend(), entry.delta(), m_locale);
+        m_since = tr("since %1")
+                      .arg(qtText(dateText(last.previous->date, DateForm::dayAndTime, m_locale)));
+    }
     Q_EMIT changed();
-}
-
-void LatestChangePresenter::compareWith(const RecordedScan &previous)
-{
-    const std::int64_t delta = checkedDifference(m_total, previous.total);
-    m_mark = TrendMark::of(directionOf(delta), delta, m_locale);
-    m_since = tr("since %1").arg(qtText(dateText(previous.date, DateForm::dayAndTime, m_locale)));
 }
 
 } // namespace Loadwick

@@ -55,7 +55,6 @@ Q_SIGNALS:
 
 private:
     void showHistory();
-    void compareWith(const RecordedScan &previous);
 
     ScanModel &m_model;
     TextLocale m_locale;

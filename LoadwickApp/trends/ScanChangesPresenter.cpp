@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/QtText.h"
-#include "history/ScanHistory.h"
 #include "text/DateText.h"
 #include "text/NumberText.h"
 
@@ -13,13 +12,19 @@ namespace {
 
 using Moment = ScanChangesPresenter::Moment;
 
-/// The repository's scans, in the order of the points of the chart.
+/// The repository's scans by date. Scans of one second keep the order of the history, as the points
+/// of the chart do.
 std::vector<Moment> momentsOf(const std::vector<RecordedScan> &history, const std::string &path)
 {
     std::vector<Moment> moments;
-    for (const RecordedScan *scan : ScanHistory::oldestFirst(history, path))
-        moments.push_back(
-            {scan->id, scan->date, scan->total, static_cast<std::size_t>(scan - history.data())});
+    for (std::size_t position = 0; position < history.size(); ++position) {
+        const RecordedScan &scan = history[position];
+        if (scan.repositoryPath == path)
+            moments.push_back({scan.id, scan.date, scan.total, position});
+    }
+    std::stable_sort(moments.begin(), moments.end(), [](const Moment &left, const Moment &right) {
+        return left.date < right.date;
+    });
     return moments;
 }
 

@@ -1,6 +1,5 @@
 #include "trends/TrendsPresenter.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "base/QtText.h"
@@ -54,11 +53,9 @@ std::string TrendsPresenter::table() const
 
 void TrendsPresenter::showRepository()
 {
-    std::vector<RecordedScan> scans = shownScans();
+    const std::vector<RecordedScan> scans = shownScans();
     m_repositoryName = scans.empty() ? QString() : qtText(scans.back().repositoryName);
     m_detail = pageDetail(m_repositoryName);
-    // The chart keeps this order for scans of one second.
-    std::stable_sort(scans.begin(), scans.end(), ScanHistory::isEarlier);
     if (m_model.history().get().empty())
         m_chart.showNoHistory();
     else

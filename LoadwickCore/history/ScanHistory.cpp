@@ -31,7 +31,7 @@ namespace ScanHistory {
 namespace {
 
 /// Identifiers sort as their texts do: those are fixed in length, and their digits sort as bytes.
-auto dateKey(const RecordedScan &scan) noexcept
+auto dateKey(const RecordedScan &scan)
 {
     return std::tie(scan.date, scan.id);
 }
@@ -51,9 +51,9 @@ struct Standing
     void take(const RecordedScan &scan)
     {
         ++scanCount;
-        if (latest == nullptr || !isEarlier(scan, *latest))
+        if (latest == nullptr || dateKey(scan) >= dateKey(*latest))
             previous = std::exchange(latest, &scan);
-        else if (previous == nullptr || !isEarlier(scan, *previous))
+        else if (previous == nullptr || dateKey(scan) >= dateKey(*previous))
             previous = &scan;
     }
 
@@ -149,31 +149,15 @@ std::vector<RecordedScan> summable(std::vector<RecordedScan> scans)
     return kept;
 }
 
-bool isEarlier(const RecordedScan &left, const RecordedScan &right) noexcept
-{
-    return dateKey(left) < dateKey(right);
-}
-
-std::vector<const RecordedScan *> oldestFirst(std::span<const RecordedScan> scans,
-                                              std::string_view repositoryPath)
-{
-    std::vector<const RecordedScan *> found;
-    for (const RecordedScan &scan : scans)
-        if (scan.repositoryPath == repositoryPath)
-            found.push_back(&scan);
-    std::stable_sort(found.begin(), found.end(),
-                     [](const auto *left, const auto *right) { return isEarlier(*left, *right); });
-    return found;
-}
-
 std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans)
 {
     std::vector<const RecordedScan *> order;
     order.reserve(scans.size());
     for (const RecordedScan &scan : scans)
         order.push_back(&scan);
-    std::stable_sort(order.begin(), order.end(),
-                     [](const auto *left, const auto *right) { return isEarlier(*right, *left); });
+    std::stable_sort(order.begin(), order.end(), [](const auto *left, const auto *right) {
+        return dateKey(*left) > dateKey(*right);
+    });
     return copies(order);
 }
 

@@ -48,15 +48,6 @@ namespace Loadwick::ScanHistory {
 /// its repository. No sum or difference over any of the rest, in any order, overflows.
 [[nodiscard]] std::vector<RecordedScan> summable(std::vector<RecordedScan> scans);
 
-/// Whether `left` was made before `right` or, where dates are equal, its identifier's text sorts
-/// first. This is what decides which scan of a repository is the latest.
-[[nodiscard]] bool isEarlier(const RecordedScan &left, const RecordedScan &right) noexcept;
-
-/// The scans of one repository by `isEarlier`, views into the list; in the order of the list where
-/// identifiers are equal, too.
-[[nodiscard]] std::vector<const RecordedScan *> oldestFirst(std::span<const RecordedScan> scans,
-                                                            std::string_view repositoryPath);
-
 /// All scans, by date and, where dates are equal, by the text of their identifier; descending.
 [[nodiscard]] std::vector<RecordedScan> newestFirst(std::span<const RecordedScan> scans);
 

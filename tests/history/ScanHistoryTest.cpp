@@ -57,22 +57,9 @@ TEST(ScanHistoryTest, findsNothingInAnEmptyList)
     EXPECT_TRUE(ScanHistory::scans({}, "/a").empty());
     EXPECT_EQ(ScanHistory::mostRecentRepositoryPath({}), std::nullopt);
     EXPECT_TRUE(ScanHistory::newestFirst({}).empty());
-    EXPECT_TRUE(ScanHistory::oldestFirst({}, "/a").empty());
     EXPECT_TRUE(ScanHistory::latestPerRepository({}).empty());
     EXPECT_TRUE(ScanHistory::leaderboard({}).empty());
     EXPECT_TRUE(ScanHistory::categoryAxis({}).empty());
-}
-
-TEST(ScanHistoryTest, ordersTheScansOfARepositoryByDateThenByIdentifier)
-{
-    const Scans scans = {identifiedScan('2', 7, 1), identifiedScan('1', 7, 2), scanOf("/b", 6),
-                         identifiedScan('3', 5, 3), identifiedScan('2', 7, 4)};
-    std::vector<std::int64_t> totals;
-    for (const RecordedScan *scan : ScanHistory::oldestFirst(scans, "/a"))
-        totals.push_back(scan->total);
-    EXPECT_EQ(totals, (std::vector<std::int64_t>{3, 2, 1, 4}));
-    EXPECT_TRUE(ScanHistory::isEarlier(scans[1], scans[0]));
-    EXPECT_FALSE(ScanHistory::isEarlier(scans[0], scans[4]));
 }
 
 TEST(ScanHistoryTest, listsTheScansOfOneRepositoryInTheirOrder)

@@ -61,18 +61,6 @@ private Q_SLOTS:
         QCOMPARE(m_change->title(), QStringLiteral("-80"));
     }
 
-    void agreesWithTheLeaderboardAboutScansOfOneSecond()
-    {
-        RecordedScan previous = scanOf(20'000, 9);
-        RecordedScan last = latest();
-        if (last.id < previous.id)
-            std::swap(last.id, previous.id);
-        m_change->show(sampleReport());
-        record({last, previous});
-        QCOMPARE(ScanHistory::leaderboard(m_scanning->model.history().get())[0].delta(), 7'654);
-        QCOMPARE(m_change->title(), QStringLiteral("+7,654"));
-    }
-
     void aReportThatIsNotRecordedYetHasNoChange()
     {
         record({scanOf(1, 0), scanOf(2, 1)});

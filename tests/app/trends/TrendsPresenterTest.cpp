@@ -80,19 +80,6 @@ private Q_SLOTS:
             QStringLiteral("3 scans across 2 repositories, ")));
     }
 
-    void ordersScansOfOneSecondByIdentifier()
-    {
-        RecordedScan latest = RecordedScanBuilder().ofTotal(2).build();
-        RecordedScan previous = RecordedScanBuilder().ofTotal(1).build();
-        if (latest.id < previous.id)
-            std::swap(latest.id, previous.id);
-        record({latest, previous});
-        QCOMPARE(m_trends->chart()->line()->geometry().samples().back().total, 2);
-        QCOMPARE(m_trends->changes()->laterPoint(), 1);
-        QCOMPARE(m_trends->changes()->rows()->text(0, QStringLiteral("after")),
-                 QStringLiteral("2"));
-    }
-
     void showsAnExistingHistory()
     {
         record({RecordedScanBuilder().build()});
