@@ -27,6 +27,7 @@ Row {
     PlainLabel {
         anchors.verticalCenter: parent.verticalCenter
         text: note.words
+        Accessible.ignored: !note.isShown
         color: note.tint
     }
 
