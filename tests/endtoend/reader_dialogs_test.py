@@ -2,8 +2,11 @@
 
 from __future__ import annotations
 
+import time
+
 from endtoend_case import main
 from reader_case import ReaderCase
+from waiting import until
 
 
 class ReaderDialogsTest(ReaderCase):
@@ -35,6 +38,8 @@ class ReaderDialogsTest(ReaderCase):
     def test_the_menu_of_repositories_is_heard(self) -> None:
         program = self.open()
         self.scan(program, "webshop")
+        scanned = int(time.time())
+        until("the next second, as the newest is first", lambda: int(time.time()) > scanned)
         self.scan(program, "wiki")
         self.press(program, "F6", "/wiki")
         self.press(program, "shift+Tab", "Scan Again")
