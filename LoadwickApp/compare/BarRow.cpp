@@ -6,16 +6,17 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "charts/RowPainting.h"
+
 namespace Loadwick {
 namespace {
 
-constexpr qreal barHeight = 8;
+using namespace RowPainting;
+
 constexpr qreal barMargin = 4; // below a bar, to the next row
 constexpr qreal lineGap = 2;   // between words and what is below them
 constexpr qreal nameGap = 8;
 constexpr qreal columnGap = 12;
-constexpr qreal leastBar = 2; // a single token is visible
-constexpr qreal cornerRadius = 4;
 
 QRectF barOn(const QRectF &track, double length)
 {
@@ -23,18 +24,6 @@ QRectF barOn(const QRectF &track, double length)
     bar.setWidth(length > 0 ? std::min(track.width(), std::max(leastBar, length * track.width()))
                             : 0);
     return bar;
-}
-
-QRectF mirroredIn(qreal rowWidth, const QRectF &box)
-{
-    return {rowWidth - box.right(), box.top(), box.width(), box.height()};
-}
-
-void write(QPainter &painter, const QRectF &box, Qt::Alignment side, const QString &words)
-{
-    painter.drawText(
-        box, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
-        words);
 }
 
 } // namespace
@@ -155,12 +144,8 @@ void BarRow::paint(QPainter *painter)
 
 void BarRow::paintBar(QPainter &painter, const BarRowLayout &layout) const
 {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(m_style->track);
-    painter.drawRoundedRect(layout.track, cornerRadius, cornerRadius);
-    const qreal radius = std::min(cornerRadius, layout.bar.width() / 2);
-    painter.setBrush(fill);
-    painter.drawRoundedRect(layout.bar, radius, radius);
+    fillBar(painter, layout.track, m_style->track);
+    fillBar(painter, layout.bar, fill);
 }
 
 void BarRow::paintWords(QPainter &painter, const BarRowLayout &layout) const

@@ -6,31 +6,20 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include "charts/RowPainting.h"
+
 namespace Loadwick {
 namespace {
 
-constexpr qreal barHeight = 8;
+using namespace RowPainting;
+
 constexpr qreal columnGap = 16;
 constexpr qreal noteGap = 8;
-constexpr qreal leastBar = 2; // a single token is visible
-constexpr qreal cornerRadius = 4;
-
-QRectF mirroredIn(qreal rowWidth, const QRectF &box)
-{
-    return {rowWidth - box.right(), box.top(), box.width(), box.height()};
-}
 
 QRectF middleOf(const QRectF &box)
 {
     return {box.left(), box.top() + std::round((box.height() - barHeight) / 2), box.width(),
             barHeight};
-}
-
-void write(QPainter &painter, const QRectF &box, Qt::Alignment side, const QString &words)
-{
-    painter.drawText(
-        box, static_cast<int>(side | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
-        words);
 }
 
 } // namespace
@@ -197,11 +186,8 @@ void ChangeRow::paintBar(QPainter &painter, const ChangeRowLayout &layout) const
     const qreal top = layout.after.top(); // of the line that the bar is on
     painter.fillRect(QRectF(std::floor(layout.track.center().x()), top, 1, height() - top),
                      m_style->line);
-    const QRectF bar = layout.bar(length, m_style->isMirrored);
-    const qreal radius = std::min(cornerRadius, bar.width() / 2);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(kind == TrendKind::Shrank ? m_style->shrankBar : m_style->grewBar);
-    painter.drawRoundedRect(bar, radius, radius);
+    fillBar(painter, layout.bar(length, m_style->isMirrored),
+            kind == TrendKind::Shrank ? m_style->shrankBar : m_style->grewBar);
 }
 
 } // namespace Loadwick
