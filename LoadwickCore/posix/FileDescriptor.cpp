@@ -94,13 +94,19 @@ void FileDescriptor::reset() noexcept
 
 Pipe Pipe::open()
 {
+    Pipe pipe = forSignal();
+    enlarge(pipe.writeEnd.number());
+    return pipe;
+}
+
+Pipe Pipe::forSignal()
+{
     std::array<int, 2> ends{};
     if (!openEnds(ends))
         throw std::system_error(errno, std::generic_category());
     Pipe pipe{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
     pipe.readEnd = aboveStandardStreams(std::move(pipe.readEnd));
     pipe.writeEnd = aboveStandardStreams(std::move(pipe.writeEnd));
-    enlarge(pipe.writeEnd.number());
     return pipe;
 }
 

@@ -48,6 +48,10 @@ struct Pipe
     /// A new pipe, as large as the system permits: a command that writes its whole output and exits
     /// right away loses what the pipe cannot hold. Throws `std::system_error`.
     [[nodiscard]] static Pipe open();
+
+    /// A pipe for a signal: nothing is written; whoever polls `readEnd` wakes when `writeEnd` is
+    /// closed, also if that was before. Throws `std::system_error`.
+    [[nodiscard]] static Pipe forSignal();
 };
 
 } // namespace Loadwick

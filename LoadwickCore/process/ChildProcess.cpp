@@ -1,5 +1,6 @@
 #include "process/ChildProcess.h"
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <exception>
@@ -45,17 +46,6 @@ bool hasEnded(pid_t child) noexcept
     return result != 0 || found.si_pid == child;
 }
 
-void pauseUntilEndOr(Deadline deadline, int handle)
-{
-    using namespace std::chrono_literals;
-    if (handle == FileDescriptor::none) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(millisecondsUntil(deadline, 10ms)));
-        return;
-    }
-    pollfd ended{handle, POLLIN, 0};
-    poll(&ended, 1, millisecondsUntil(deadline, 60s));
-}
-
 /// How a child ended, once it has; all zero for a process that is not, or no longer, our child.
 siginfo_t reapedEnd(pid_t processID) noexcept
 {
@@ -69,12 +59,15 @@ siginfo_t reapedEnd(pid_t processID) noexcept
 
 ExitWatch::ExitWatch(pid_t child) noexcept : m_child(child), m_handle(exitHandle(child)) {}
 
-bool ExitWatch::waitUntil(Deadline deadline) const
+bool ExitWatch::waitUntil(Deadline deadline, int interruption) const
 {
+    using namespace std::chrono_literals;
+    const std::chrono::milliseconds longestPause = m_handle.isOpen() ? 60s : 10ms;
+    std::array waited{pollfd{m_handle.number(), POLLIN, 0}, pollfd{interruption, POLLIN, 0}};
     while (!hasEnded(m_child)) {
-        if (std::chrono::steady_clock::now() >= deadline)
+        if (waited[1].revents != 0 || std::chrono::steady_clock::now() >= deadline)
             return false;
-        pauseUntilEndOr(deadline, m_handle.number());
+        poll(waited.data(), waited.size(), millisecondsUntil(deadline, longestPause));
     }
     return true;
 }

@@ -20,9 +20,9 @@ public:
     /// `child` is a child of this process that has not been reaped.
     explicit ExitWatch(pid_t child) noexcept;
 
-    /// Blocks until `deadline` at most; true if the child has ended. A process that is not, or no
-    /// longer, our child counts as ended.
-    [[nodiscard]] bool waitUntil(Deadline deadline) const;
+    /// Blocks until `deadline` at most, or until the descriptor `interruption` is readable; true if
+    /// the child has ended. A process that is not, or no longer, our child counts as ended.
+    [[nodiscard]] bool waitUntil(Deadline deadline, int interruption = FileDescriptor::none) const;
 
 private:
     pid_t m_child;
@@ -61,8 +61,11 @@ public:
 
     [[nodiscard]] pid_t processID() const noexcept { return m_processID; }
 
-    /// Waits without reaping; true when the child has ended.
-    [[nodiscard]] bool waitUntil(Deadline deadline) const { return m_exit.waitUntil(deadline); }
+    /// Waits as `ExitWatch` does, without reaping; true when the child has ended.
+    [[nodiscard]] bool waitUntil(Deadline deadline, int interruption = FileDescriptor::none) const
+    {
+        return m_exit.waitUntil(deadline, interruption);
+    }
     [[nodiscard]] bool isRunning() const { return !waitUntil(Deadline::min()); }
 
     /// Signals the child alone, or its whole group. Errors are ignored: the process is gone.

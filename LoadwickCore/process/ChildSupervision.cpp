@@ -1,6 +1,5 @@
 #include "process/ChildSupervision.h"
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <new>
@@ -14,7 +13,6 @@ namespace Loadwick::ChildSupervision {
 
 namespace {
 
-constexpr double memoryCheckSeconds = 0.1;
 constexpr ChildProcess::Ending killed{SIGKILL, true};
 
 struct StartedChild
@@ -34,10 +32,11 @@ StartedChild startPiped(const Request &request)
             ChildProcess::start(request.command, streams, request.shutdown)};
 }
 
-StartedChild start(const Request &request)
+template<typename Make>
+auto orStartFailed(Make make)
 {
     try {
-        return startPiped(request);
+        return make();
     } catch (const std::system_error &error) {
         throw StartFailed(error.code());
     }
@@ -55,19 +54,16 @@ void startReaders(StreamReaders &readers, const StartedChild &child)
 std::optional<StartedChild> startBefore(Deadline timeout, const Request &request)
 {
     return callWithin(timeout - std::chrono::steady_clock::now(),
-                      [request] { return start(request); });
+                      [request] { return orStartFailed([&] { return startPiped(request); }); });
 }
 
 // True when the child ended before `timeout`. Once its output is lost, waiting is pointless.
 bool endsBefore(Deadline timeout, const ChildProcess &child, const OutputBox &box)
 {
-    while (!child.waitUntil(std::min(timeout, deadlineAfter(memoryCheckSeconds)))) {
-        if (box.ranOutOfMemory())
-            throw std::bad_alloc();
-        if (std::chrono::steady_clock::now() >= timeout)
-            return false;
-    }
-    return true;
+    const bool hasEnded = child.waitUntil(timeout, box.lossDescriptor());
+    if (!hasEnded && box.ranOutOfMemory())
+        throw std::bad_alloc();
+    return hasEnded;
 }
 
 // True when the time-out found the child running. Without a limit on the wait for its death, a
@@ -95,7 +91,8 @@ ChildProcess::Ending endingOf(ChildProcess child)
 
 Outcome run(const Request &request)
 {
-    StreamReaders readers(request.limits.captureLimit);
+    StreamReaders readers =
+        orStartFailed([&] { return StreamReaders(request.limits.captureLimit); });
     const Deadline timeout = deadlineAfter(request.limits.timeoutSeconds);
     std::optional<StartedChild> child = startBefore(timeout, request);
     if (!child)

@@ -56,6 +56,8 @@ void OutputBox::append(Stream stream, std::span<const char> chunk) noexcept
 {
     const std::lock_guard lock(m_lock);
     bytes(stream).append(chunk);
+    if (bytes(stream).ranOutOfMemory())
+        m_loss.writeEnd.reset();
 }
 
 std::optional<std::string> OutputBox::take(Stream stream)

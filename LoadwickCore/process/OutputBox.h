@@ -6,6 +6,8 @@
 #include <span>
 #include <string>
 
+#include "posix/FileDescriptor.h"
+
 namespace Loadwick {
 
 /// The bytes read from one stream, up to a limit. A long text reserves address space for its whole
@@ -52,8 +54,9 @@ public:
         standardError
     };
 
-    /// Keeps up to `limit` bytes of each stream.
-    explicit OutputBox(std::size_t limit) noexcept : m_outData(limit), m_errData(limit) {}
+    /// Keeps up to `limit` bytes of each stream. Throws `std::system_error` if no pipe can be
+    /// opened.
+    explicit OutputBox(std::size_t limit) : m_outData(limit), m_errData(limit) {}
 
     void append(Stream stream, std::span<const char> chunk) noexcept;
 
@@ -63,6 +66,8 @@ public:
 
     /// Whether a stream was lost for lack of memory: `take` would throw for it.
     [[nodiscard]] bool ranOutOfMemory() const;
+    /// Readable once memory ran out.
+    [[nodiscard]] int lossDescriptor() const noexcept { return m_loss.readEnd.number(); }
 
     /// Notes that a reader had to stop before its stream ended.
     void noteReaderTimeOut();
@@ -74,6 +79,7 @@ private:
     mutable std::mutex m_lock;
     CapturedBytes m_outData;
     CapturedBytes m_errData;
+    Pipe m_loss = Pipe::forSignal();
     bool m_readersDidTimeOut = false;
 };
 

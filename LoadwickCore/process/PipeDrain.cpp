@@ -33,16 +33,17 @@ void makeNonBlocking(int descriptor) noexcept
         fcntl(descriptor, F_SETFL, flags | O_NONBLOCK);
 }
 
+// Until the deadline is known there is nothing to wake up for but input and the deadline itself: a
+// command runs for minutes.
 Readiness waitForInput(int descriptor, const ReaderDeadline &deadline)
 {
     const auto expiry = deadline.expiry();
-    const int milliseconds = expiry ? millisecondsUntil(*expiry, PipeDrain::pollInterval)
-                                    : static_cast<int>(PipeDrain::pollInterval.count());
-    pollfd input{descriptor, POLLIN, 0};
-    const int count = poll(&input, 1, milliseconds);
-    if (count > 0)
-        return Readiness::readable;
-    return count == 0 || errno == EINTR ? Readiness::notYet : Readiness::failed;
+    const int known = expiry ? FileDescriptor::none : deadline.descriptor();
+    std::array waited{pollfd{descriptor, POLLIN, 0}, pollfd{known, POLLIN, 0}};
+    const int limit = expiry ? millisecondsUntil(*expiry, PipeDrain::pollInterval) : -1;
+    if (poll(waited.data(), waited.size(), limit) < 0)
+        return errno == EINTR ? Readiness::notYet : Readiness::failed;
+    return waited[0].revents != 0 ? Readiness::readable : Readiness::notYet;
 }
 
 Step readOnce(int descriptor, std::span<char> buffer, const PipeDrain::Sink &sink)
@@ -65,6 +66,7 @@ void ReaderDeadline::setExpiry(Deadline expiry)
 {
     const std::lock_guard lock(m_lock);
     m_expiry = expiry;
+    m_known.writeEnd.reset();
 }
 
 std::optional<Deadline> ReaderDeadline::expiry() const

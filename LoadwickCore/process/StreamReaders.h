@@ -13,7 +13,8 @@ namespace Loadwick {
 class StreamReaders
 {
 public:
-    /// Keeps up to `captureLimit` bytes of each stream.
+    /// Keeps up to `captureLimit` bytes of each stream. Throws `std::system_error` if no descriptor
+    /// is left.
     explicit StreamReaders(std::size_t captureLimit);
     ~StreamReaders();
 

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "samples/TemporaryFolder.h"
+#include "support/DescriptorShortage.h"
 #include "support/HostileChild.h"
 #include "support/ProcessCensus.h"
 #include "support/Sanitizers.h"
@@ -100,6 +101,29 @@ TEST(ChildSupervisionTest, leavesNothingBehindWhenTheChildCannotStart)
     request.command.executable = "/nowhere";
     EXPECT_THROW((void)ChildSupervision::run(request), ChildSupervision::StartFailed);
     EXPECT_TRUE(ProcessCensus::now().isWithin(before));
+}
+
+TEST(ChildSupervisionTest, cannotStartWithoutDescriptors)
+{
+    const DescriptorShortage shortage;
+    EXPECT_THROW((void)ChildSupervision::run(hostileRequest({})), ChildSupervision::StartFailed);
+}
+
+TEST(ChildSupervisionTest, sleepsWhileItsChildRuns)
+{
+    ChildSupervision::Request request = hostileRequest({});
+    request.command = {"/bin/sleep", {"30"}, {}, std::nullopt};
+    request.shutdown = std::make_shared<Shutdown>();
+    const ProcessCensus before = ProcessCensus::now();
+    std::thread supervising([&] { (void)ChildSupervision::run(request); });
+    // That thread and two readers.
+    EXPECT_TRUE(eventually([&] { return ProcessCensus::now().threads == before.threads + 3; }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(300)); // they come to rest
+    const long wakes = wakeCount();
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    EXPECT_LE(wakeCount() - wakes, 3);
+    request.shutdown->stopChildren(std::chrono::seconds(20));
+    supervising.join();
 }
 
 TEST(ChildSupervisionTest, stopsItsChildWhenTheProgramEnds)

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include <unistd.h>
@@ -64,6 +65,19 @@ void PrintTo(const ProcessCensus &census, std::ostream *stream)
 {
     *stream << census.descriptors << " descriptors, " << census.threads << " threads, "
             << census.zombies << " zombies";
+}
+
+long wakeCount()
+{
+    constexpr std::string_view label = "voluntary_ctxt_switches:";
+    long count = 0;
+    for (const auto &task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream status(task.path() / "status");
+        for (std::string line; std::getline(status, line);)
+            if (line.starts_with(label))
+                count += std::stol(line.substr(label.size()));
+    }
+    return count;
 }
 
 bool eventually(const std::function<bool()> &holds, std::chrono::milliseconds limit)

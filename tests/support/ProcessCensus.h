@@ -23,6 +23,10 @@ struct ProcessCensus
     friend bool operator==(const ProcessCensus &, const ProcessCensus &) = default;
 };
 
+/// How often the threads of this process have slept so far, and so were woken; those of ended
+/// threads no longer count.
+[[nodiscard]] long wakeCount();
+
 /// Text for a failed expectation.
 void PrintTo(const ProcessCensus &census, std::ostream *stream);
 
