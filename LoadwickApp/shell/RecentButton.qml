@@ -35,7 +35,7 @@ AbstractButton {
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onDownPressed: button.clicked()
-    onClicked: button.open()
+    onClicked: button.isOpen ? button.menu.close() : button.open()
     onIsOpenChanged: if (button.isOpen) button.wasOpen = true
     onActiveFocusChanged: if (!button.activeFocus && !button.isOpen) button.wasOpen = false
     onHoveredChanged: if (!button.isOpen) button.wasOpen = false

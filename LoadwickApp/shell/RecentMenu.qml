@@ -19,7 +19,8 @@ Popup {
     height: Math.min(menu.implicitHeight, menu.room)
     padding: AppTheme.tightSpace
     focus: true
-    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    // A click on the button closes it.
+    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutsideParent
 
     onAboutToShow: (menu.contentItem as RecentChooser).begin()
 

@@ -36,7 +36,7 @@ AbstractButton {
     Keys.onReturnPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onEnterPressed: event => { if (!event.isAutoRepeat) button.clicked(); }
     Keys.onDownPressed: button.clicked()
-    onClicked: button.open()
+    onClicked: button.isOpen ? (menu.item as ScanDateMenu).close() : button.open()
 
     contentItem: RowLayout {
         spacing: AppTheme.mediumSpace

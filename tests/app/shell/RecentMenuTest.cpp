@@ -57,6 +57,20 @@ private Q_SLOTS:
         QCOMPARE(shownRows().size(), 3); // as a whole again
     }
 
+    void aClickOnTheButtonClosesTheList()
+    {
+        scan("one");
+        openList();
+        QQuickWindow &window = m_window->loadwick().window();
+        const auto *button = qobject_cast<QQuickItem *>(
+            m_window->find(QStringLiteral("Scanned repositories"))->object());
+        QTest::mouseClick(&window, Qt::LeftButton, {},
+                          button->mapToScene(button->boundingRect().center()).toPoint());
+        QVERIFY(settles(window));
+        QVERIFY(!button->property("isOpen").toBool());
+        QVERIFY(button->hasActiveFocus());
+    }
+
     void saysThatNothingMatches()
     {
         scan("one");
