@@ -36,6 +36,16 @@ Flickable {
         view.contentX = Math.max(0, Math.min(view.farthest, here));
     }
 
+    // A vertical wheel scrolls the page, unless Shift turns it.
+    function isSideways(wheel) {
+        return wheel.modifiers & Qt.ShiftModifier || Math.abs(wheel.angleDelta.x) > Math.abs(wheel.angleDelta.y);
+    }
+
+    function turn(wheel) {
+        const steps = (wheel.angleDelta.x || wheel.angleDelta.y) / 120;
+        view.contentX = Math.max(0, Math.min(view.farthest, view.contentX - steps * AppTheme.scrollStep));
+    }
+
     contentWidth: Math.max(view.width, view.leastWidth)
     contentHeight: view.height
     flickableDirection: Flickable.HorizontalFlick
@@ -54,6 +64,20 @@ Flickable {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         active: view.farthest > 0
         source: "ThinScrollBar.qml"
+    }
+
+    // Over the page, which would take every turn of the wheel.
+    MouseArea {
+        parent: view
+        anchors.fill: parent
+        z: 1
+        enabled: view.farthest > 0
+        acceptedButtons: Qt.NoButton
+        onWheel: wheel => {
+            wheel.accepted = view.isSideways(wheel);
+            if (wheel.accepted)
+                view.turn(wheel);
+        }
     }
 
     Window.onActiveFocusItemChanged: if (view.farthest > 0) afterwards.restart()

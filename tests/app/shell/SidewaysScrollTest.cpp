@@ -25,12 +25,16 @@ private Q_SLOTS:
     void scrollsOnlyBelowItsLeastWidth();
     void beginsAtTheSidebar_data();
     void beginsAtTheSidebar();
+    void theWheelScrolls_data();
     void theWheelScrolls();
+    void aVerticalWheelScrollsThePage();
     void theKeyboardScrollsToItsItem();
     void aPressedItemStaysUnderThePointer();
 
 private:
     void resize(int width);
+    void turnWheel(QPoint angle, Qt::KeyboardModifiers modifiers);
+    [[nodiscard]] double pagePosition();
     [[nodiscard]] QQuickWindow &window() { return m_window->loadwick().window(); }
     [[nodiscard]] double position() { return m_scroller->property("contentX").toDouble(); }
 
@@ -85,13 +89,37 @@ void SidewaysScrollTest::beginsAtTheSidebar()
     QTRY_COMPARE(int(position()), begin);
 }
 
+void SidewaysScrollTest::theWheelScrolls_data()
+{
+    QTest::addColumn<QPoint>("angle");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    const Qt::KeyboardModifiers none;
+    const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
+    QTest::newRow("tilted") << QPoint(-1'200, 0) << none;
+    QTest::newRow("tilted and turned") << QPoint(-1'200, 40) << none;
+    QTest::newRow("turned with Shift") << QPoint(0, -1'200) << shift;
+}
+
 void SidewaysScrollTest::theWheelScrolls()
 {
+    QFETCH(const QPoint, angle);
+    QFETCH(const Qt::KeyboardModifiers, modifiers);
+    m_window->scan(m_window->folder().path());
     resize(narrow);
-    QWheelEvent turn({300, 300}, window().mapToGlobal(QPointF(300, 300)), {}, {-1200, 0},
-                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&window(), &turn);
+    turnWheel(angle, modifiers);
     QTRY_COMPARE(int(position()), leastWidth - narrow);
+    turnWheel(-angle, modifiers);
+    QTRY_COMPARE(int(position()), 0);
+    QCOMPARE(pagePosition(), 0.0);
+}
+
+void SidewaysScrollTest::aVerticalWheelScrollsThePage()
+{
+    m_window->scan(m_window->folder().path());
+    resize(narrow);
+    turnWheel({0, -1'200}, Qt::NoModifier);
+    QTRY_VERIFY(pagePosition() > 0);
+    QCOMPARE(position(), 0.0);
 }
 
 void SidewaysScrollTest::theKeyboardScrollsToItsItem()
@@ -125,6 +153,24 @@ void SidewaysScrollTest::aPressedItemStaysUnderThePointer()
     QTest::qWait(0);
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, edge);
     QVERIFY(m_window->loadwick().content().hasRepository());
+}
+
+// Over the page, which scrolls too.
+void SidewaysScrollTest::turnWheel(QPoint angle, Qt::KeyboardModifiers modifiers)
+{
+    const QPointF at(narrow - 60, 300);
+    QWheelEvent turn(at, window().mapToGlobal(at), {}, angle, Qt::NoButton, modifiers,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window(), &turn);
+}
+
+double SidewaysScrollTest::pagePosition()
+{
+    for (const QQuickItem *item : shownItems(*m_scroller))
+        if (item->inherits("QQuickFlickable") &&
+            item->property("contentHeight").toDouble() > item->height())
+            return item->property("contentY").toDouble();
+    return -1;
 }
 
 void SidewaysScrollTest::resize(int width)
