@@ -6,6 +6,7 @@
 #include "history/ScanHistory.h"
 #include "report/ScanReport.h"
 #include "text/DateText.h"
+#include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {
@@ -62,6 +63,8 @@ void LatestChangePresenter::showHistory()
         const LeaderboardEntry entry{
             .latest = *last.latest, .previousTotal = last.previous->total, .scanCount = 2};
         m_mark = TrendMark::of(entry.trend(), entry.delta(), m_locale);
+        // The sign of the comparison that it leads to: no change is +0.
+        m_mark.title = qtText(NumberText::groupedChange(*entry.delta(), m_locale));
         m_since = tr("since %1")
                       .arg(qtText(dateText(last.previous->date, DateForm::dayAndTime, m_locale)));
     }

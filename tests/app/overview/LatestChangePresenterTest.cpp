@@ -59,6 +59,9 @@ private Q_SLOTS:
         QCOMPARE(m_change->since(), QStringLiteral("since Mar 4, 2026, 10:15\u202FAM"));
         record({latest(), scanOf(27'734, 1), scanOf(1, 0)});
         QCOMPARE(m_change->title(), QStringLiteral("-80"));
+        record({scanOf(latest().total, 1), latest()});
+        QCOMPARE(m_change->kind(), TrendKind::Unchanged);
+        QCOMPARE(m_change->title(), QStringLiteral("+0")); // as in the comparison it leads to
     }
 
     void aReportThatIsNotRecordedYetHasNoChange()
