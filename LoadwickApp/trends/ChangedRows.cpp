@@ -24,8 +24,8 @@ QString changedNote(const ChangedRow &row)
     if (!row.category->beyondLocalEstimate)
         return {};
     return *row.category->beyondLocalEstimate == Side::before
-               ? ChangedRow::tr("before: beyond local estimate")
-               : ChangedRow::tr("after: beyond local estimate");
+               ? ChangedRow::tr("before: without files on disk")
+               : ChangedRow::tr("after: without files on disk");
 }
 
 std::optional<std::int64_t> tokensOn(Side side, const ChangedRow &row)

@@ -142,7 +142,7 @@ void ScanChangesPresenterTest::listsTheTotalsFirstThenEveryCategoryThatChanged()
     QCOMPARE(rowTexts(3), QStringLiteral("memory files|2,105|2,480|+375"));
     QCOMPARE(rowTexts(4), QStringLiteral("messages|486|491|+5"));
     QCOMPARE(row(0, "note"), QStringLiteral("Authoritative · measured by Claude"));
-    QCOMPARE(row(3, "note"), QStringLiteral("before: beyond local estimate"));
+    QCOMPARE(row(3, "note"), QStringLiteral("before: without files on disk"));
     QCOMPARE(row(4, "note"), QString());
     QCOMPARE(row(0, "sentence"),
              QStringLiteral("Total, before 42,318, after 36,204, difference -6,114 tokens, "
