@@ -18,28 +18,12 @@ SplitView {
     readonly property real leastWidth: AppTheme.sidebarMinimumWidth + AppTheme.hairline + AppTheme.detailMinimumWidth
     readonly property bool isMirrored: Application.layoutDirection === Qt.RightToLeft
 
-    // A page that is created when it is first shown, and kept.
-    component LatePage: Loader {
-        id: page
-
-        required property bool isShown
-
-        // Handled by calling `setSource`.
-        signal wanted()
-
-        function ask() {
-            if (page.isShown && page.status === Loader.Null)
-                page.wanted();
-        }
-
-        onIsShownChanged: page.ask()
-        Component.onCompleted: page.ask()
-    }
-
     function showLatestChange() {
         view.trends.changes.chooseNewest();
         view.content.showTrends();
-        (trendsPage.item as TrendsView).goToChanges();
+        const page = trendsPage.item as TrendsView;
+        if (page)
+            page.goToChanges();
     }
 
     // The view itself does not mirror its columns.
