@@ -1,20 +1,17 @@
 import QtQuick
 import Loadwick
 
-// A symbol that can turn, once a second, to show that time passes; still under reduced motion.
+// A symbol that can turn to show that time passes; still under reduced motion, and while it is not
+// seen.
 Symbol {
     id: icon
 
     property bool turning: false
-    readonly property bool moving: turning && visible && !AppTheme.reduceMotion
+    readonly property bool moving: turning && !AppTheme.reduceMotion && icon.Sight.isSeen
 
-    onMovingChanged: if (!moving) angle = 0
+    function count(more) { TurnClock.users += more; }
 
-    NumberAnimation on angle {
-        running: icon.moving
-        from: 0
-        to: 360
-        duration: AppTheme.turnDuration
-        loops: Animation.Infinite
-    }
+    angle: moving ? TurnClock.angle : 0
+    onMovingChanged: icon.count(icon.moving ? 1 : -1)
+    Component.onDestruction: if (icon.moving) icon.count(-1)
 }

@@ -82,12 +82,11 @@ void Symbol::paint(QPainter *painter)
     painter->drawImage(square, picture(pixels));
 }
 
-// While a drawing turns, no picture of it is shown twice.
+// A drawing that turns does so by a few steps, whose pictures are shown again at every turn.
 QImage Symbol::picture(int side)
 {
-    if (!qFuzzyIsNull(m_angle))
-        return drawn(side);
-    const QString key = QStringLiteral("%1 %2 %3").arg(m_file).arg(side).arg(m_tint.rgba(), 0, 16);
+    const QString key =
+        QStringLiteral("%1 %2 %3 %4").arg(m_file).arg(side).arg(m_angle).arg(m_tint.rgba(), 0, 16);
     return SymbolPictures::find(key, [this, side] { return drawn(side); });
 }
 

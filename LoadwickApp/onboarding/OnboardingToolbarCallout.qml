@@ -5,7 +5,7 @@ import Loadwick
 Item {
     id: callout
 
-    readonly property bool isBobbing: visible && !AppTheme.reduceMotion
+    readonly property bool isBobbing: !AppTheme.reduceMotion && callout.Sight.isSeen
     // 0 away from the toolbar, 1 near it.
     property real bob
 

@@ -7,6 +7,11 @@ Item {
 
     required property OverviewPresenter overview
 
+    Binding {
+        target: page.overview
+        property: "isTimeShown"
+        value: page.Sight.isSeen
+    }
     ScanLoadingState {
         id: state
         anchors.fill: parent

@@ -61,8 +61,9 @@ OverviewPresenter::OverviewPresenter(ScanModel &model, TextLocale locale, Clock 
       m_band(m_locale),
       m_latestChange(m_model, m_locale)
 {
-    m_tick.setInterval(std::chrono::seconds(1));
-    connect(&m_tick, &QTimer::timeout, this, &OverviewPresenter::elapsedChanged);
+    m_tick.setSingleShot(true);
+    m_tick.setTimerType(Qt::PreciseTimer);
+    connect(&m_tick, &QTimer::timeout, this, &OverviewPresenter::tick);
     m_model.state().observe({.didChange = [this] { showCurrentState(); }});
     showCurrentState();
 }
@@ -82,21 +83,40 @@ QString OverviewPresenter::stateWords() const
     return {};
 }
 
-std::chrono::seconds OverviewPresenter::elapsedTime() const
+void OverviewPresenter::setTimeShown(bool isShown)
 {
-    using std::chrono::seconds;
-    return std::max(std::chrono::duration_cast<seconds>(m_clock() - m_start), seconds::zero());
+    if (m_isTimeShown == isShown)
+        return;
+    m_isTimeShown = isShown;
+    Q_EMIT isTimeShownChanged();
+    tick();
+}
+
+void OverviewPresenter::tick()
+{
+    m_tick.stop();
+    if (!m_isTimeShown || m_state != State::Loading)
+        return;
+    using namespace std::chrono_literals;
+    m_tick.start(1s - elapsedTime() % 1s);
+    Q_EMIT elapsedChanged();
+}
+
+std::chrono::milliseconds OverviewPresenter::elapsedTime() const
+{
+    using std::chrono::milliseconds;
+    return std::max(std::chrono::floor<milliseconds>(m_clock() - m_start), milliseconds::zero());
 }
 
 QString OverviewPresenter::elapsed() const
 {
-    const auto past = elapsedTime().count();
+    const auto past = elapsedTime() / std::chrono::seconds(1);
     return QStringLiteral("%1:%2").arg(past / 60).arg(past % 60, 2, 10, QLatin1Char('0'));
 }
 
 QString OverviewPresenter::elapsedWords() const
 {
-    const auto minutes = elapsedTime().count() / 60;
+    const auto minutes = elapsedTime() / std::chrono::minutes(1);
     if (minutes == 0)
         return tr("Running for less than a minute");
     return minutes == 1 ? tr("Running for 1 minute") : tr("Running for %1 minutes").arg(minutes);
@@ -150,8 +170,6 @@ void OverviewPresenter::show(const ScanState::Scanning &)
 {
     m_state = State::Loading;
     m_start = m_clock();
-    m_tick.start();
-    Q_EMIT elapsedChanged();
 }
 
 void OverviewPresenter::show(const ScanState::Failed &failed)
@@ -180,8 +198,8 @@ void OverviewPresenter::show(const ScanState::Result &result)
 
 void OverviewPresenter::showCurrentState()
 {
-    m_tick.stop();
     std::visit([this](const auto &state) { show(state); }, m_model.state().get().value());
+    tick();
     Q_EMIT changed();
 }
 

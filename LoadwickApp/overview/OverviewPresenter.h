@@ -37,6 +37,7 @@ class OverviewPresenter final : public QObject
     QML_UNCREATABLE("Made by the window.")
     Q_PROPERTY(State state READ state NOTIFY changed)
     Q_PROPERTY(QString stateWords READ stateWords NOTIFY changed)
+    Q_PROPERTY(bool isTimeShown READ isTimeShown WRITE setTimeShown NOTIFY isTimeShownChanged)
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
     Q_PROPERTY(QString elapsedWords READ elapsedWords NOTIFY elapsedChanged)
     Q_PROPERTY(QString headline READ headline NOTIFY changed)
@@ -74,6 +75,9 @@ public:
     /// What a screen reader says when the state is reached; empty while there is nothing to say.
     [[nodiscard]] QString stateWords() const;
 
+    /// Whether the elapsed time can be seen; `elapsedChanged` is emitted only then.
+    [[nodiscard]] bool isTimeShown() const noexcept { return m_isTimeShown; }
+    void setTimeShown(bool isShown);
     /// The elapsed time of the running scan, as on a stopwatch: "0:07", "61:00".
     [[nodiscard]] QString elapsed() const;
     /// The same for a screen reader, in whole minutes, so that it seldom changes.
@@ -115,6 +119,7 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void isTimeShownChanged();
     void elapsedChanged();
 
 private:
@@ -123,7 +128,8 @@ private:
     void show(const ScanState::Failed &failed);
     void show(const ScanState::Result &result);
     void showCurrentState();
-    [[nodiscard]] std::chrono::seconds elapsedTime() const;
+    void tick();
+    [[nodiscard]] std::chrono::milliseconds elapsedTime() const;
     [[nodiscard]] std::optional<std::chrono::sys_seconds> recordedDate() const;
 
     ScanModel &m_model;
@@ -131,7 +137,8 @@ private:
     Clock m_clock;
     std::filesystem::path m_home;
     std::shared_ptr<const ScanReport> m_report;
-    QTimer m_tick;
+    QTimer m_tick; ///< runs out on the scan's next whole second
+    bool m_isTimeShown = false;
     std::chrono::steady_clock::time_point m_start;
     State m_state = State::Empty;
     QString m_headline;

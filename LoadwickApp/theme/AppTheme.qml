@@ -137,7 +137,6 @@ QtObject {
     // Milliseconds, already adapted to reduced motion.
     readonly property int hoverDuration: reduceMotion ? 0 : 180
     readonly property int pageDuration: reduceMotion ? 0 : 320
-    readonly property int turnDuration: 1000
     // How long a confirmation note stays.
     readonly property int noteDuration: 2000
     readonly property int stepDuration: reduceMotion ? 120 : 220

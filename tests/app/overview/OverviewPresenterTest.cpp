@@ -61,12 +61,36 @@ private Q_SLOTS:
     void signalsTheTimeEverySecondWhileScanning()
     {
         QSignalSpy elapsed(m_overview.get(), &OverviewPresenter::elapsedChanged);
+        m_overview->setTimeShown(true);
         m_scanning->choose();
         m_scanning->model.scan();
         elapsed.clear();
         QVERIFY(elapsed.wait(3000));
         m_scanning->finish();
         elapsed.clear();
+        QVERIFY(!elapsed.wait(1200));
+    }
+
+    void signalsTheTimeOnTheScansOwnSeconds()
+    {
+        m_overview->setTimeShown(true);
+        m_scanning->choose();
+        m_scanning->model.scan();
+        m_now += std::chrono::milliseconds(2'950);
+        m_overview->setTimeShown(false);
+        QSignalSpy elapsed(m_overview.get(), &OverviewPresenter::elapsedChanged);
+        m_overview->setTimeShown(true);
+        QCOMPARE(elapsed.size(), 1);
+        QVERIFY2(elapsed.wait(500), "the third second is over in 50 ms");
+    }
+
+    void signalsNoTimeWhileItIsNotShown()
+    {
+        m_overview->setTimeShown(true);
+        m_scanning->choose();
+        m_scanning->model.scan();
+        m_overview->setTimeShown(false);
+        QSignalSpy elapsed(m_overview.get(), &OverviewPresenter::elapsedChanged);
         QVERIFY(!elapsed.wait(1200));
     }
 
