@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "history/ScanHistory.h"
@@ -27,25 +28,38 @@ void addTotal(CsvTable &table, const RecordedScan &scan)
         .text(scan.band().title());
 }
 
-std::optional<std::int64_t> tokensOf(const RecordedScan &scan, std::string_view name)
+/// The categories of all scans, each a column.
+class CategoryColumns
 {
-    std::optional<std::int64_t> tokens;
-    for (const RecordedCategory &category : scan.categories)
-        if (category.name == name)
-            tokens = checkedSum(tokens.value_or(0), category.tokens);
-    return tokens;
-}
-
-void addCategories(CsvTable &table, const RecordedScan &scan, std::span<const std::string> axis)
-{
-    for (const std::string &name : axis) {
-        const auto tokens = tokensOf(scan, name);
-        if (tokens)
-            table.figure(*tokens);
-        else
-            table.empty();
+public:
+    explicit CategoryColumns(std::span<const RecordedScan> scans)
+        : m_names(ScanHistory::categoryAxis(scans))
+    {
+        for (const std::string &name : m_names)
+            m_columns.emplace(name, m_columns.size());
     }
-}
+
+    void addHeads(CsvTable &table) const
+    {
+        for (const std::string &name : m_names)
+            table.text(name + " tokens (estimate)");
+    }
+
+    void addTokens(CsvTable &table, const RecordedScan &scan) const
+    {
+        std::vector<std::optional<std::int64_t>> cells(m_names.size());
+        for (const RecordedCategory &category : scan.categories) {
+            auto &cell = cells[m_columns.at(category.name)];
+            cell = checkedSum(cell.value_or(0), category.tokens);
+        }
+        for (const auto &cell : cells)
+            cell ? table.figure(*cell) : table.empty();
+    }
+
+private:
+    std::vector<std::string> m_names;
+    std::unordered_map<std::string_view, std::size_t> m_columns;
+};
 
 } // namespace
 
@@ -63,15 +77,14 @@ std::string totals(std::span<const RecordedScan> scans)
 
 std::string categories(std::span<const RecordedScan> scans)
 {
-    const std::vector<std::string> axis = ScanHistory::categoryAxis(scans);
+    const CategoryColumns columns(scans);
     CsvTable table;
     addHeader(table);
-    for (const std::string &name : axis)
-        table.text(name + " tokens (estimate)");
+    columns.addHeads(table);
     table.endRow();
     for (const RecordedScan &scan : scans) {
         addTotal(table, scan);
-        addCategories(table, scan, axis);
+        columns.addTokens(table, scan);
         table.endRow();
     }
     return table.bytes();

@@ -50,6 +50,12 @@ double perScan(const std::string &verb, const fs::path &folder, double scanCount
     return difference({verb, folder}, {"weights", "0"}) / scanCount;
 }
 
+/// The cost of an operation on two scans per category that each of them has.
+double perCategory(const std::string &verb, std::int64_t count)
+{
+    return difference({verb, std::to_string(count)}, {verb, "0"}) / static_cast<double>(count);
+}
+
 } // namespace
 
 TEST(InstructionCountSlowTest, anEntryOfATranscriptsFolder)
@@ -106,6 +112,13 @@ TEST(InstructionCountSlowTest, aScanCostsLittleMoreInALongHistory)
     GeneratedFiles::history(folder.path() / "large", 10'000);
     const double few = perScan("leaderboard", folder.path() / "small", 200);
     EXPECT_LT(perScan("leaderboard", folder.path() / "large", 10'000), few * 1.5);
+}
+
+TEST(InstructionCountSlowTest, aCategoryOfATable)
+{
+    const double few = perCategory("category-table", 1'000);
+    EXPECT_LT(few, 6'600 * slack);
+    EXPECT_LT(perCategory("category-table", 10'000), few * 1.5);
 }
 
 } // namespace Loadwick

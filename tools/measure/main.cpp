@@ -14,8 +14,10 @@
 #include <string_view>
 #include <vector>
 
+#include "history/ScanComparison.h"
 #include "history/ScanHistory.h"
 #include "history/ScanHistoryStore.h"
+#include "history/ScanTables.h"
 #include "measure/CallCounters.h"
 #include "posix/FileSystem.h"
 #include "posix/RegularFile.h"
@@ -138,6 +140,32 @@ std::int64_t leaderboard(Words words)
     return countOf(ScanHistory::leaderboard(scans)) + countOf(ScanHistory::categoryAxis(scans));
 }
 
+/// Two scans with as many categories in common, in opposite orders.
+std::vector<RecordedScan> scansOfCategories(std::int64_t count)
+{
+    std::vector<RecordedScan> scans = GeneratedFiles::scans(2);
+    for (RecordedScan &scan : scans)
+        scan.categories.clear();
+    for (std::int64_t index = 0; index < count; ++index) {
+        const std::int64_t other = count - 1 - index;
+        scans[0].categories.push_back({"A category by the name of " + std::to_string(index), 1});
+        scans[1].categories.push_back(
+            {"A category by the name of " + std::to_string(other), other});
+    }
+    return scans;
+}
+
+std::int64_t comparison(Words words)
+{
+    const std::vector<RecordedScan> scans = scansOfCategories(std::stoll(words[0]));
+    return countOf(ScanComparison::between(scans[0], scans[1]).changes);
+}
+
+std::int64_t categoryTable(Words words)
+{
+    return countOf(ScanTables::categories(scansOfCategories(std::stoll(words[0]))));
+}
+
 std::int64_t make(Words words)
 {
     using namespace GeneratedFiles;
@@ -182,6 +210,8 @@ const std::vector<Operation> operations{
     {"history-load", "FOLDER", 1, historyLoad},
     {"history-append", "FOLDER", 1, historyAppend},
     {"leaderboard", "FOLDER", 1, leaderboard},
+    {"comparison", "COUNT", 1, comparison},
+    {"category-table", "COUNT", 1, categoryTable},
     {"make",
      "projects|transcript|long-line|instructions|crossed-instructions|answer|record|history "
      "PATH COUNT|BYTES",
