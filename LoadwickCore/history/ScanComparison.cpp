@@ -1,8 +1,10 @@
 #include "history/ScanComparison.h"
 
 #include <algorithm>
+#include <bit>
+#include <functional>
+#include <span>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include "history/RecordedScan.h"
@@ -16,25 +18,32 @@ using Side = CategoryChange::Side;
 
 constexpr std::string_view suffix = SlabAttributor::beyondLocalEstimateSuffix;
 
-/// The categories of two scans, each name once. Views into the scans.
+/// A change that gets its name last: most of a large comparison would be copying names.
+struct Named
+{
+    std::string_view name; ///< in one of the scans
+    CategoryChange change;
+};
+
+/// The categories of two scans, each name once. Views into the scans. A hash table without nodes,
+/// since those of a standard one would make most of a large comparison a wait for memory.
 class Union
 {
 public:
     Union(const RecordedScan &before, const RecordedScan &after)
+        : m_slots(std::bit_ceil(2 * (before.categories.size() + after.categories.size())))
     {
-        const std::size_t limit = before.categories.size() + after.categories.size();
-        m_positions.reserve(limit);
-        m_changes.reserve(limit);
+        m_changes.reserve(m_slots.size() / 2);
         for (const RecordedCategory &category : before.categories)
             add(changeOf(category.name).before, category.tokens);
         for (const RecordedCategory &category : after.categories)
             add(changeOf(category.name).after, category.tokens);
-        for (CategoryChange &change : m_changes)
-            joinWithWhole(change);
+        for (Named &excess : m_changes)
+            joinWithWhole(excess);
     }
 
     /// One that was joined with another is left without tokens.
-    [[nodiscard]] std::vector<CategoryChange> take() { return std::move(m_changes); }
+    [[nodiscard]] std::vector<Named> &changes() noexcept { return m_changes; }
 
 private:
     static void add(std::optional<std::int64_t> &tokens, std::int64_t more)
@@ -42,24 +51,36 @@ private:
         tokens = checkedSum(tokens.value_or(0), more);
     }
 
+    /// The slot with the name, or the empty one where it belongs. At least half of them are empty,
+    /// and their number is a power of two.
+    std::uint32_t &slotOf(std::string_view name)
+    {
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t place = std::hash<std::string_view>()(name) & mask;
+        while (m_slots[place] != 0 && m_changes[m_slots[place] - 1].name != name)
+            place = (place + 1) & mask;
+        return m_slots[place];
+    }
+
     CategoryChange &changeOf(std::string_view name)
     {
-        const auto [known, isNew] = m_positions.try_emplace(name, m_changes.size());
-        if (isNew)
-            m_changes.push_back(
-                {.name = std::string(name), .before = {}, .after = {}, .beyondLocalEstimate = {}});
-        return m_changes[known->second];
+        std::uint32_t &slot = slotOf(name);
+        if (slot == 0) {
+            m_changes.push_back({.name = name, .change = {}});
+            slot = static_cast<std::uint32_t>(m_changes.size());
+        }
+        return m_changes[slot - 1].change;
     }
 
     /// Makes one change of a category that one scan has whole and the other beyond its estimate.
-    void joinWithWhole(CategoryChange &excess)
+    void joinWithWhole(Named &excess)
     {
         if (!excess.name.ends_with(suffix))
             return;
-        const auto whole = m_positions.find(
-            std::string_view(excess.name).substr(0, excess.name.size() - suffix.size()));
-        if (whole != m_positions.end())
-            join(m_changes[whole->second], excess);
+        const std::uint32_t whole =
+            slotOf(excess.name.substr(0, excess.name.size() - suffix.size()));
+        if (whole != 0)
+            join(m_changes[whole - 1].change, excess.change);
     }
 
     static void join(CategoryChange &whole, CategoryChange &excess)
@@ -73,8 +94,8 @@ private:
         }
     }
 
-    std::unordered_map<std::string_view, std::size_t> m_positions; ///< in the changes
-    std::vector<CategoryChange> m_changes;
+    std::vector<std::uint32_t> m_slots; ///< positions of changes, counted from 1; 0 is empty
+    std::vector<Named> m_changes;
 };
 
 /// Any 64-bit number has one.
@@ -84,21 +105,24 @@ std::uint64_t magnitude(std::int64_t number)
     return number < 0 ? 0 - bits : bits;
 }
 
-std::vector<CategoryChange> largestFirst(std::vector<CategoryChange> changes)
+/// Takes the changes out of the list.
+std::vector<CategoryChange> largestFirst(std::span<Named *const> changes)
 {
     // Sorts small keys, since a change is large to move.
-    std::vector<std::pair<std::uint64_t, CategoryChange *>> order;
+    std::vector<std::pair<std::uint64_t, Named *>> order;
     order.reserve(changes.size());
-    for (CategoryChange &change : changes)
-        order.emplace_back(magnitude(change.difference()), &change);
+    for (Named *change : changes)
+        order.emplace_back(magnitude(change->change.difference()), change);
     std::sort(order.begin(), order.end(), [](const auto &left, const auto &right) {
         return left.first != right.first ? left.first > right.first
                                          : left.second->name < right.second->name;
     });
     std::vector<CategoryChange> sorted;
     sorted.reserve(order.size());
-    for (const auto &[size, change] : order)
-        sorted.push_back(std::move(*change));
+    for (const auto &[size, change] : order) {
+        sorted.push_back(std::move(change->change));
+        sorted.back().name = change->name;
+    }
     return sorted;
 }
 
@@ -125,16 +149,19 @@ ScanComparison ScanComparison::between(const RecordedScan &before, const Recorde
                               .unchangedTokens = 0};
     if (!comparison.hasCategories)
         return comparison;
-    std::vector<CategoryChange> changes;
-    for (CategoryChange &change : Union(before, after).take()) {
+    Union categories(before, after);
+    std::vector<Named *> changed;
+    changed.reserve(categories.changes().size());
+    for (Named &category : categories.changes()) {
+        const CategoryChange &change = category.change;
         if (change.isUnchanged()) {
             ++comparison.unchangedCount;
             comparison.unchangedTokens = checkedSum(comparison.unchangedTokens, *change.after);
         } else if (change.before || change.after) {
-            changes.push_back(std::move(change));
+            changed.push_back(&category);
         }
     }
-    comparison.changes = largestFirst(std::move(changes));
+    comparison.changes = largestFirst(changed);
     return comparison;
 }
 

@@ -114,6 +114,13 @@ TEST(InstructionCountSlowTest, aScanCostsLittleMoreInALongHistory)
     EXPECT_LT(perScan("leaderboard", folder.path() / "large", 10'000), few * 1.5);
 }
 
+TEST(InstructionCountSlowTest, aCategoryOfAComparison)
+{
+    const double few = perCategory("comparison", 1'000);
+    EXPECT_LT(few, 2'750 * slack);
+    EXPECT_LT(perCategory("comparison", 10'000), few * 1.5);
+}
+
 TEST(InstructionCountSlowTest, aCategoryOfATable)
 {
     const double few = perCategory("category-table", 1'000);
