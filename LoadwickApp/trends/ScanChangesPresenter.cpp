@@ -80,6 +80,12 @@ void ScanChangesPresenter::show(const std::optional<std::string> &repositoryPath
         chooseNewest();
 }
 
+void ScanChangesPresenter::setShown(bool isShown)
+{
+    m_isShown = isShown;
+    compare();
+}
+
 QString ScanChangesPresenter::unchanged() const
 {
     if (!m_comparison || m_comparison->unchangedCount == 0)
@@ -196,14 +202,28 @@ void ScanChangesPresenter::choose(std::size_t earlier, std::size_t later)
 {
     m_earlier = earlier;
     m_later = later;
-    m_comparison = hasChanges() ? std::make_shared<const ScanComparison>(
-                                      ScanComparison::between(scanOf(earlier), scanOf(later)))
-                                : nullptr;
     m_earlierScans.setRows(newestFirst(m_moments, 0, later));
     m_laterScans.setRows(hasChanges() ? newestFirst(m_moments, 1, m_moments.size() - 1)
                                       : std::vector<Moment>());
-    m_rows.setRows(ChangedRowsOf(m_comparison));
     Q_EMIT changed();
+    compare();
+}
+
+void ScanChangesPresenter::compare()
+{
+    if (!m_isShown && hasChanges())
+        return;
+    const auto wanted =
+        hasChanges() ? std::optional(std::pair(m_moments[m_earlier].id, m_moments[m_later].id))
+                     : std::nullopt;
+    if (wanted == m_compared)
+        return;
+    m_compared = wanted;
+    m_comparison = wanted ? std::make_shared<const ScanComparison>(
+                                ScanComparison::between(scanOf(m_earlier), scanOf(m_later)))
+                          : nullptr;
+    m_rows.setRows(ChangedRowsOf(m_comparison));
+    Q_EMIT compared();
 }
 
 QString ScanChangesPresenter::dateOf(const Moment &moment) const

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QObject>
@@ -27,17 +28,18 @@ class ScanChangesPresenter final : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Made by the page's presenter.")
     Q_PROPERTY(bool hasChanges READ hasChanges NOTIFY changed)
+    Q_PROPERTY(bool isShown READ isShown WRITE setShown)
     Q_PROPERTY(Loadwick::RowList *rows READ rows CONSTANT)
-    Q_PROPERTY(QString unchanged READ unchanged NOTIFY changed)
-    Q_PROPERTY(QString whyOnlyTotals READ whyOnlyTotals NOTIFY changed)
-    Q_PROPERTY(QString widestFigure READ widestFigure NOTIFY changed)
+    Q_PROPERTY(QString unchanged READ unchanged NOTIFY compared)
+    Q_PROPERTY(QString whyOnlyTotals READ whyOnlyTotals NOTIFY compared)
+    Q_PROPERTY(QString widestFigure READ widestFigure NOTIFY compared)
     Q_PROPERTY(Loadwick::RowList *earlierScans READ earlierScans CONSTANT)
     Q_PROPERTY(Loadwick::RowList *laterScans READ laterScans CONSTANT)
     Q_PROPERTY(QString earlierDate READ earlierDate NOTIFY changed)
     Q_PROPERTY(QString laterDate READ laterDate NOTIFY changed)
     Q_PROPERTY(QString earlierSentence READ earlierSentence NOTIFY changed)
     Q_PROPERTY(QString laterSentence READ laterSentence NOTIFY changed)
-    Q_PROPERTY(QString sentence READ sentence NOTIFY changed)
+    Q_PROPERTY(QString sentence READ sentence NOTIFY compared)
     Q_PROPERTY(int earlierRow READ earlierRow NOTIFY changed)
     Q_PROPERTY(int laterRow READ laterRow NOTIFY changed)
     Q_PROPERTY(int earlierPoint READ earlierPoint NOTIFY changed)
@@ -61,6 +63,11 @@ public:
 
     /// Whether the repository has two scans; otherwise the rest is meaningless.
     [[nodiscard]] bool hasChanges() const noexcept { return m_moments.size() > 1; }
+
+    /// Scans are compared only while they are shown, since that takes time: until then, rows and
+    /// words are those of the scans that were shown last.
+    [[nodiscard]] bool isShown() const noexcept { return m_isShown; }
+    void setShown(bool isShown);
 
     /// The totals, then the categories that changed; see `changedRowRoles`.
     [[nodiscard]] RowList *rows() { return &m_rows; }
@@ -100,9 +107,11 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void compared();
 
 private:
     void choose(std::size_t earlier, std::size_t later);
+    void compare();
     [[nodiscard]] QString dateOf(const Moment &moment) const;
     [[nodiscard]] const RecordedScan &scanOf(std::size_t index) const;
 
@@ -111,6 +120,8 @@ private:
     std::vector<Moment> m_moments; ///< the oldest first
     std::size_t m_earlier = 0;     ///< among these
     std::size_t m_later = 0;
+    bool m_isShown = false;
+    std::optional<std::pair<Uuid, Uuid>> m_compared;    ///< the scans of the comparison
     std::shared_ptr<const ScanComparison> m_comparison; ///< null without two scans
     ChangedRows m_rows;
     ListOf<Moment> m_earlierScans;

@@ -125,6 +125,7 @@ ColumnLayout {
         visible: section.changes.whyOnlyTotals.length === 0
     }
 
+    Binding { section.changes.isShown: section.visible }
     ChangeStyle {
         id: look
 

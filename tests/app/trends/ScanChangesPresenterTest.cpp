@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include <QSignalSpy>
 #include <QTest>
 
 #include "components/TrendMark.h"
@@ -36,7 +37,7 @@ class ScanChangesPresenterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_changes = std::make_unique<ScanChangesPresenter>(m_scanning.model, english()); }
+    void init() { show(english()); }
 
     void needsTwoScansOfOneRepository();
     void comparesTheNewestWithTheOneBefore();
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void ignoresScansThatDoNotExist();
     void aNewScanIsComparedAtOnce();
     void otherRepositoriesLeaveTheChoice();
+    void comparesOnlyWhatIsShownAndNoTwoScansTwice();
     void wordsEveryLocale_data();
     void wordsEveryLocale();
     void noFigureIsWiderThanTheWidest();
@@ -57,6 +59,11 @@ private Q_SLOTS:
 
 private:
     static TextLocale english() { return {.numbers = "en_US", .dates = "en_US"}; }
+    void show(const TextLocale &locale)
+    {
+        m_changes = std::make_unique<ScanChangesPresenter>(m_scanning.model, locale);
+        m_changes->setShown(true);
+    }
     void record(std::vector<RecordedScan> scans, const char *path = "/home/someone/webshop");
     [[nodiscard]] QString row(int index, const char *role) const
     {
@@ -105,6 +112,7 @@ void ScanChangesPresenterTest::needsTwoScansOfOneRepository()
     verifyNothing();
     record(scansOf(2));
     QVERIFY(m_changes->hasChanges());
+    m_changes->setShown(false);
     m_changes->show(std::nullopt);
     verifyNothing();
 }
@@ -291,6 +299,27 @@ void ScanChangesPresenterTest::otherRepositoriesLeaveTheChoice()
     QVERIFY(!m_changes->hasChanges());
 }
 
+// Each comparison replaces the rows.
+void ScanChangesPresenterTest::comparesOnlyWhatIsShownAndNoTwoScansTwice()
+{
+    m_changes->setShown(false);
+    const QSignalSpy comparisons(m_changes->rows(), &RowList::modelReset);
+    record(scansOf(3));
+    m_changes->choosePoint(1);
+    m_changes->chooseNewest();
+    QCOMPARE(comparisons.count(), 0);
+    QCOMPARE(m_changes->rows()->count(), 0);
+    m_changes->setShown(true);
+    QCOMPARE(comparisons.count(), 1);
+    m_changes->setShown(false);
+    m_changes->setShown(true);
+    m_changes->chooseNewest();
+    m_changes->chooseLater(0);
+    QCOMPARE(comparisons.count(), 1);
+    m_changes->choosePoint(1);
+    QCOMPARE(comparisons.count(), 2);
+}
+
 void ScanChangesPresenterTest::wordsEveryLocale_data()
 {
     QTest::addColumn<QString>("sentence");
@@ -317,8 +346,7 @@ void ScanChangesPresenterTest::wordsEveryLocale()
     QFETCH(const QString, unchanged);
     QFETCH(const QString, earlier);
     const std::string locale = QTest::currentDataTag();
-    m_changes = std::make_unique<ScanChangesPresenter>(
-        m_scanning.model, TextLocale{.numbers = locale, .dates = locale});
+    show({.numbers = locale, .dates = locale});
     const auto scan = [](int daysLater, std::int64_t tokens) {
         return scanOf(30'000, daysLater)
             .withCategory("tools", tokens)
@@ -358,6 +386,7 @@ void ScanChangesPresenterTest::comparesTheLargestScans()
     QCOMPARE(row(1, "name"), QStringLiteral("category 54999"));
     QBENCHMARK
     {
+        m_changes->chooseEarlier(1); // has no categories
         m_changes->chooseNewest();
     }
     QCOMPARE(row(categoryCount, "difference"), QStringLiteral("+1"));

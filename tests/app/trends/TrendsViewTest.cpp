@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 #include "samples/SampleReport.h"
@@ -9,6 +10,7 @@
 #include "shell/ContentPresenter.h"
 #include "support/RecordedScanBuilder.h"
 #include "support/TestRegistry.h"
+#include "support/VisualItems.h"
 #include "support/WindowFixture.h"
 
 namespace Loadwick {
@@ -53,6 +55,22 @@ private Q_SLOTS:
         QVERIFY(shows("Drift across recorded scans"));
         QVERIFY(shows("Session totals were reported by Claude; category splits are local "
                       "estimates."));
+    }
+
+    void comparesScansOnceAndWhileItIsShown()
+    {
+        scan(31'000);
+        scan(28'500);
+        QTRY_VERIFY(shows("What changed"));
+        // Each comparison replaces the rows.
+        const QSignalSpy comparisons(changedRows(), &RowList::modelReset);
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::compare));
+        scan(40'000);
+        QCOMPARE(comparisons.count(), 0);
+        m_window->loadwick().content().setPageIndex(static_cast<int>(AppPage::trends));
+        QTRY_VERIFY(shows("Total, before 28,500, after 40,000, difference +11,500 tokens, "
+                          "Authoritative · measured by Claude"));
+        QCOMPARE(comparisons.count(), 1);
     }
 
     void clearingAsksFirstAndCancelLeavesTheHistory()
@@ -225,6 +243,13 @@ private:
     void show(std::vector<RecordedScan> scans)
     {
         m_window->loadwick().model().history().set(std::move(scans));
+    }
+
+    [[nodiscard]] RowList *changedRows() const
+    {
+        const auto lists =
+            visibleItems(m_window->loadwick().window().contentItem(), QStringLiteral("changes"));
+        return qvariant_cast<RowList *>(lists.value(0)->property("model"));
     }
 
     /// The description of the first row that shows this title.
