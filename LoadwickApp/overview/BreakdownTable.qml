@@ -140,7 +140,8 @@ ColumnLayout {
                 tokens: row.tokens
                 share: row.share
                 source: row.source
-                dot: AppTheme.chartColors[row.index % AppTheme.chartColors.length]
+                // A pooled row has no index.
+                dot: AppTheme.chartColors[Math.max(0, row.index) % AppTheme.chartColors.length]
             }
         }
     }
