@@ -42,18 +42,18 @@ InstructionFilesPresenter::InstructionFilesPresenter(TextLocale locale, std::fil
     : m_locale(std::move(locale)), m_home(std::move(home))
 {}
 
-void InstructionFilesPresenter::show(const ScanReport &report)
+void InstructionFilesPresenter::show(const std::shared_ptr<const ScanReport> &report)
 {
     const InstructionFileRows::Context context{
-        .files = std::make_shared<const InstructionFileSet>(report.fileSet),
-        .folders = TierFolders(report.repositoryPath, m_home),
-        .total = report.total,
+        .files = std::shared_ptr<const InstructionFileSet>(report, &report->fileSet),
+        .folders = TierFolders(report->repositoryPath, m_home),
+        .total = report->total,
         .locale = m_locale};
     auto tiers = ListedFile::byTier(*context.files, context.folders);
     m_repositoryRows.show(context, std::move(tiers[InstructionFileTier::repository]));
     m_inheritedRows.show(context, std::move(tiers[InstructionFileTier::inherited]));
     m_personalRows.show(context, std::move(tiers[InstructionFileTier::personal]));
-    m_note = qtText(report.unreportedCategoryFilesNote().value_or(""));
+    m_note = qtText(report->unreportedCategoryFilesNote().value_or(""));
     m_hasImports = !context.files->importers.empty();
     m_largestRows.show(context, ListedFile::largest(*context.files, largestCount));
     showSizes(context);

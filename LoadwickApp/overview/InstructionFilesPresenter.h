@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -37,7 +38,8 @@ public:
     /// `home` determines the tier of an unreadable file; nothing in it is read.
     InstructionFilesPresenter(TextLocale locale, std::filesystem::path home);
 
-    void show(const ScanReport &report);
+    /// Keeps the report, whose files the rows point to.
+    void show(const std::shared_ptr<const ScanReport> &report);
 
     /// Call it before the files are on the screen; without it they cannot be opened. Not owned.
     void openWith(FileOpener &opener) { m_opener = &opener; }

@@ -6,6 +6,7 @@
 #include "history/ScanHistory.h"
 #include "report/ScanReport.h"
 #include "text/DateText.h"
+#include "text/Fatal.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {
@@ -60,11 +61,11 @@ void LatestChangePresenter::showHistory()
     m_mark = {};
     m_since.clear();
     if (last.previous != nullptr && last.latest->total == m_total) {
-        const LeaderboardEntry entry{
-            .latest = *last.latest, .previousTotal = last.previous->total, .scanCount = 2};
-        m_mark = TrendMark::of(entry.trend(), entry.delta(), m_locale);
+        const std::int64_t before = last.previous->total;
+        const std::int64_t difference = checkedDifference(m_total, before);
+        m_mark = TrendMark::of(trendDirection(before, m_total), difference, m_locale);
         // The sign of the comparison that it leads to: no change is +0.
-        m_mark.title = qtText(NumberText::groupedChange(*entry.delta(), m_locale));
+        m_mark.title = qtText(NumberText::groupedChange(difference, m_locale));
         m_since = tr("since %1")
                       .arg(qtText(dateText(last.previous->date, DateForm::dayAndTime, m_locale)));
     }

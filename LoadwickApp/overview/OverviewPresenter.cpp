@@ -191,7 +191,7 @@ void OverviewPresenter::show(const ScanState::Result &result)
                qtText(report.totalSourceLine())};
     m_details.setRows(detailsOf(report, m_locale));
     m_breakdown.show(report);
-    m_files.show(report);
+    m_files.show(m_report);
     m_band.show(report);
     m_latestChange.show(report);
 }

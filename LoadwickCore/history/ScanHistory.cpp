@@ -10,13 +10,18 @@
 
 namespace Loadwick {
 
+TrendDirection trendDirection(std::int64_t before, std::int64_t after) noexcept
+{
+    if (after == before)
+        return TrendDirection::flat;
+    return after > before ? TrendDirection::up : TrendDirection::down;
+}
+
 std::optional<TrendDirection> LeaderboardEntry::trend() const noexcept
 {
     if (!previousTotal)
         return std::nullopt;
-    if (latest.total == *previousTotal)
-        return TrendDirection::flat;
-    return latest.total > *previousTotal ? TrendDirection::up : TrendDirection::down;
+    return trendDirection(*previousTotal, latest.total);
 }
 
 std::optional<std::int64_t> LeaderboardEntry::delta() const noexcept

@@ -19,6 +19,8 @@ enum class TrendDirection
     flat
 };
 
+[[nodiscard]] TrendDirection trendDirection(std::int64_t before, std::int64_t after) noexcept;
+
 /// One repository among all that have been scanned.
 struct LeaderboardEntry
 {

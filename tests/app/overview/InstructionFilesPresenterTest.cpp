@@ -34,6 +34,11 @@ InstructionFileSet threeTiers()
             .unreadablePaths = {}};
 }
 
+std::shared_ptr<const ScanReport> shared(ScanReport report)
+{
+    return std::make_shared<const ScanReport>(std::move(report));
+}
+
 TextLocale localeNamed(const char *name)
 {
     return TextLocale::fromEnvironment({{"LC_ALL", name}});
@@ -73,7 +78,7 @@ private Q_SLOTS:
     void listsEachTiersFiles()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOf(threeTiers()));
+        files.show(shared(reportOf(threeTiers())));
         QCOMPARE(textsOf(files.repositoryRows(), "path"),
                  QStringList({QStringLiteral("/home/ada/app/CLAUDE.md"),
                               QStringLiteral("/home/ada/app/AGENTS.md")}));
@@ -84,6 +89,18 @@ private Q_SLOTS:
         QCOMPARE(files.tiles()->count(), 4);
         QCOMPARE(files.tiles()->text(2, QStringLiteral("path")),
                  QStringLiteral("/home/ada/CLAUDE.md"));
+    }
+
+    void sharesTheReport()
+    {
+        auto report = shared(reportOf(threeTiers()));
+        const std::weak_ptr<const ScanReport> shown = report;
+        InstructionFilesPresenter files({}, "/home/ada");
+        files.show(report);
+        report.reset();
+        QVERIFY(!shown.expired());
+        files.show(shared(reportOf({})));
+        QVERIFY(shown.expired());
     }
 
     void writesFiguresInTheLocale_data()
@@ -108,7 +125,7 @@ private Q_SLOTS:
     void writesFiguresInTheLocale()
     {
         InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
-        files.show(reportOf(threeTiers()));
+        files.show(shared(reportOf(threeTiers())));
         QTEST(files.repositoryRows()->text(0, QStringLiteral("size")), "size");
         QTEST(files.repositoryRows()->text(0, QStringLiteral("amount")), "amount");
         QTEST(files.tiles()->text(0, QStringLiteral("figures")), "figures");
@@ -124,12 +141,12 @@ private Q_SLOTS:
         set.importers = {{"/home/ada/app/CLAUDE.md", "/home/ada/.claude/CLAUDE.md"}};
         InstructionFilesPresenter files({}, "/home/ada");
         QVERIFY(!files.hasImports());
-        files.show(reportOf(set));
+        files.show(shared(reportOf(set)));
         QVERIFY(files.hasImports());
         for (const RowList *rows : {files.repositoryRows(), files.tiles(), files.largestRows()})
             QVERIFY(rows->text(0, QStringLiteral("words"))
                         .endsWith(QStringLiteral(". imported by ~/.claude/CLAUDE.md.")));
-        files.show(reportOf(threeTiers()));
+        files.show(shared(reportOf(threeTiers())));
         QVERIFY(!files.hasImports());
     }
 
@@ -139,7 +156,7 @@ private Q_SLOTS:
         set.unreadablePaths = {"/home/ada/.claude/notes.md", "/home/ada/CLAUDE.local.md",
                                "/home/ada/app/docs/a.md"};
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOf(set));
+        files.show(shared(reportOf(set)));
         QCOMPARE(files.repositoryRows()->text(2, QStringLiteral("path")),
                  QStringLiteral("/home/ada/app/docs/a.md"));
         QCOMPARE(files.inheritedRows()->text(1, QStringLiteral("path")),
@@ -153,10 +170,10 @@ private Q_SLOTS:
     void aTierOfUnreadableFilesIsNotCalledEmpty()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOf({.repositoryFiles = {},
-                             .inheritedFiles = {},
-                             .personalFiles = {},
-                             .unreadablePaths = {"/home/ada/.claude/CLAUDE.md"}}));
+        files.show(shared(reportOf({.repositoryFiles = {},
+                                    .inheritedFiles = {},
+                                    .personalFiles = {},
+                                    .unreadablePaths = {"/home/ada/.claude/CLAUDE.md"}})));
         QCOMPARE(files.personalRows()->count(), 1);
         QCOMPARE(files.repositoryRows()->count(), 0);
         QCOMPARE(files.inheritedRows()->count(), 0);
@@ -167,7 +184,7 @@ private Q_SLOTS:
         InstructionFileSet set = threeTiers();
         set.unreadablePaths = {"/home/ada/CLAUDE.md"};
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOf(set));
+        files.show(shared(reportOf(set)));
         QCOMPARE(files.inheritedRows()->count(), 1);
         QVERIFY(files.inheritedRows()->value(0, QStringLiteral("isReadable")).toBool());
     }
@@ -192,7 +209,7 @@ private Q_SLOTS:
     void summarizesTheSizesForAScreenReader()
     {
         InstructionFilesPresenter files(localeNamed(QTest::currentDataTag()), "/home/ada");
-        files.show(reportOf(threeTiers()));
+        files.show(shared(reportOf(threeTiers())));
         QVERIFY(files.hasSizes());
         QTEST(files.sizeSummary(), "summary");
     }
@@ -200,10 +217,10 @@ private Q_SLOTS:
     void saysOneFileInTheSingular()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 400)},
-                             .inheritedFiles = {},
-                             .personalFiles = {},
-                             .unreadablePaths = {}}));
+        files.show(shared(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 400)},
+                                    .inheritedFiles = {},
+                                    .personalFiles = {},
+                                    .unreadablePaths = {}})));
         QVERIFY(files.sizeSummary().startsWith(
             QStringLiteral("Relative size of 1 instruction file, 100 estimated tokens")));
     }
@@ -211,13 +228,13 @@ private Q_SLOTS:
     void hasNoSizesWithoutTokens()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOf({}));
+        files.show(shared(reportOf({})));
         QVERIFY(!files.hasSizes());
         QCOMPARE(files.sizeSummary(), QString());
-        files.show(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 0)},
-                             .inheritedFiles = {},
-                             .personalFiles = {},
-                             .unreadablePaths = {}}));
+        files.show(shared(reportOf({.repositoryFiles = {file("/home/ada/app/CLAUDE.md", 0)},
+                                    .inheritedFiles = {},
+                                    .personalFiles = {},
+                                    .unreadablePaths = {}})));
         QVERIFY(!files.hasSizes());
         QCOMPARE(files.repositoryRows()->count(), 1);
     }
@@ -225,7 +242,7 @@ private Q_SLOTS:
     void showsTheFiveLargestWithTheLargestFirst()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOfTokens({10, 700, 30, 4'000, 50, 60, 20'000}));
+        files.show(shared(reportOfTokens({10, 700, 30, 4'000, 50, 60, 20'000})));
         QCOMPARE(textsOf(files.largestRows(), "path"), words("/r/6 /r/3 /r/1 /r/5 /r/4"));
         QCOMPARE(textsOf(files.largestRows(), "tokens"), words("20,000 4,000 700 60 50"));
         QCOMPARE(textsOf(files.largestRows(), "share"),
@@ -237,7 +254,7 @@ private Q_SLOTS:
     void filesOfEqualTokensKeepTheirListingOrder()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOfTokens({5, 7, 5, 7, 5, 5, 5}));
+        files.show(shared(reportOfTokens({5, 7, 5, 7, 5, 5, 5})));
         QCOMPARE(textsOf(files.largestRows(), "path"), words("/r/1 /r/3 /r/0 /r/2 /r/4"));
     }
 
@@ -247,14 +264,14 @@ private Q_SLOTS:
         report.fileSet.personalFiles = {InstructionFileEstimate::fromPath("/p", 20)};
         report.fileSet.inheritedFiles = {InstructionFileEstimate::fromPath("/i", 20)};
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(report);
+        files.show(shared(report));
         QCOMPARE(textsOf(files.largestRows(), "path"), words("/r/0 /i /p"));
     }
 
     void fewerThanFiveFilesShowAllOfThem()
     {
         InstructionFilesPresenter files({}, "/home/ada");
-        files.show(reportOfTokens({1, 2, 3}));
+        files.show(shared(reportOfTokens({1, 2, 3})));
         QCOMPARE(files.largestRows()->count(), 3);
     }
 
@@ -263,7 +280,7 @@ private Q_SLOTS:
         InstructionFilesPresenter files({}, "/home/ada");
         ScanReport report = reportOf(threeTiers());
         report.categoriesSelfReported = false;
-        files.show(report);
+        files.show(shared(report));
         QCOMPARE(
             files.note(),
             QStringLiteral("Claude did not self-report categories for this session, so the "
@@ -272,7 +289,7 @@ private Q_SLOTS:
                            "local estimates of what makes up that total, not additional tokens "
                            "on top of it."));
         report.categoriesSelfReported = true;
-        files.show(report);
+        files.show(shared(report));
         QCOMPARE(files.note(), QString());
     }
 
@@ -281,7 +298,7 @@ private Q_SLOTS:
         InstructionFilesPresenter files({}, "/home/ada");
         ScanReport report = reportOf({});
         report.categoriesSelfReported = false;
-        files.show(report);
+        files.show(shared(report));
         QCOMPARE(files.note(), QString());
     }
 
@@ -289,8 +306,8 @@ private Q_SLOTS:
     {
         InstructionFilesPresenter files({}, "/home/ada");
         const QSignalSpy changes(&files, &InstructionFilesPresenter::changed);
-        files.show(reportOf(threeTiers()));
-        files.show(reportOf({}));
+        files.show(shared(reportOf(threeTiers())));
+        files.show(shared(reportOf({})));
         QCOMPARE(changes.count(), 2);
         QCOMPARE(files.repositoryRows()->count(), 0);
         QCOMPARE(files.tiles()->count(), 0);
@@ -302,7 +319,7 @@ private Q_SLOTS:
         const ScanReport report = SampleScans::ofSize(10, 10'000).report();
         InstructionFilesPresenter files({}, "/home/ada");
         const ProcessorTime timer;
-        files.show(report);
+        files.show(shared(report));
         // Half a frame; a sanitizer takes a few times as long.
         QVERIFY2(timer.milliseconds() < 50, qPrintable(QString::number(timer.milliseconds())));
         QCOMPARE(files.tiles()->count(), 10'000);
