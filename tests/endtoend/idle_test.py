@@ -5,7 +5,7 @@ from __future__ import annotations
 import time
 from pathlib import Path
 
-from accessible_tree import role_of
+from accessible_tree import role_of, xdotool
 from endtoend_case import CHOOSE, SCAN, EndToEndCase, main, window_command
 from processes import wakes_of
 from program import Program, environment_for
@@ -14,7 +14,11 @@ from waiting import until
 IDLE_SECONDS = 10.0
 MOST_WAKES = 2
 REST_SECONDS = 2.0  # between two checks whether a window is at rest
-FRAME = b"renderloop"  # in each line that the toolkit logs for a frame
+FRAME = b"rendered with"  # in the line that the toolkit logs for a frame
+TURNS = 110  # at most: the symbols turn by ten steps a second
+TICKS = 11  # the seconds of a scan's time
+WAKES_OF_A_FRAME = 6
+MOST_SCAN_WAKES = 20  # of those that neither turn nor tick
 
 
 class WatchedProgram(Program):
@@ -102,14 +106,32 @@ class IdleTest(EndToEndCase):
             ]
         )
 
-    def test_a_running_scan_draws_frames(self) -> None:
+    def test_a_running_scan_moves_only_what_is_seen(self) -> None:
         self.home.hold()
         self.addCleanup(self.home.release)
         self.repository = self.home.make_repository("webshop")
-        program = self.open_scanned("scanning", "transcript", "Scanning")
-        frames, wakes = program.frames(), program.wakes()
-        until("frames", lambda: program.frames() > frames)
-        self.assertGreater(program.wakes(), wakes)
+        overview, trends, minimised = (
+            self.open_scanned(name, "transcript", "Scanning")
+            for name in ("Overview", "Trends", "minimised")
+        )
+        xdotool("getactivewindow", "windowminimize")
+        minimised.window.wait_until_inactive()
+        trends.window.press("Trends")
+        self.assert_paces({overview: TURNS + TICKS, trends: TURNS, minimised: 0})
+
+    def assert_paces(self, most_frames: dict[WatchedProgram, int]) -> None:
+        """Watches the windows for ten seconds: a frame for each step of the symbols and each second of
+        the time, a few wake-ups for a frame, and nothing where neither can be seen."""
+        for program in most_frames:
+            until(f"the end of what {program.name} announces", program.is_silent)
+        time.sleep(REST_SECONDS)
+        before = [(program.frames(), program.wakes()) for program in most_frames]
+        time.sleep(IDLE_SECONDS)
+        for (program, most), (frames, wakes) in zip(most_frames.items(), before):
+            with self.subTest(program.name):
+                self.assertLessEqual(program.frames() - frames, most)
+                self.assertGreaterEqual(program.frames() - frames, most / 10)
+                self.assertLessEqual(program.wakes() - wakes, MOST_SCAN_WAKES + WAKES_OF_A_FRAME * most)
 
 
 if __name__ == "__main__":
