@@ -11,6 +11,7 @@ import subprocess
 from pathlib import Path
 
 from rounds import (Row, benchmark, figures, in_process_row, instructions, pair_times, ratios)
+from scanning import scanning_rows
 from window import frame_rows, idle_rows, scan_rows, startup_rows
 
 ROOT = Path(__file__).resolve().parents[1]
@@ -105,6 +106,10 @@ class Bench:
         """A scan through the window."""
         return scan_rows(self.programs, self.count)
 
+    def scanning(self) -> list[Row]:
+        """The window while a scan runs. A round watches for a quarter of a minute."""
+        return scanning_rows(self.programs, min(self.count, 3))
+
     def pages(self) -> list[Row]:
         """The idle window and the frames of the pages. A round takes a minute and has many frames,
         so three rounds suffice."""
@@ -116,7 +121,8 @@ class Bench:
         parts = {"in-process": self.in_process, "processes": self.processes, "memory": self.memory,
                  "growth": self.growth}
         if not is_core:
-            parts |= {"startup": self.startup, "scan": self.scan, "pages": self.pages}
+            parts |= {"startup": self.startup, "scan": self.scan, "running": self.scanning,
+                      "pages": self.pages}
         self.make_data()
         return [row for name, part in parts.items() if only in name for row in part()]
 
