@@ -32,8 +32,8 @@ GallerySamples::GallerySamples(QObject *parent)
     m_lean.show(SampleScans::lean().report());
     m_heavy.show(SampleScans::heavy().report());
     m_excessive.show(SampleScans::excessive().report());
-    m_files.show(SampleScans::heavy().report());
-    m_noFiles.show(SampleScans::zero().report());
+    m_files.show(std::make_shared<const ScanReport>(SampleScans::heavy().report()));
+    m_noFiles.show(std::make_shared<const ScanReport>(SampleScans::zero().report()));
     m_manyScans.show(SampleHistories::ofSize(30, 1, 1));
     m_twoScans.show(SampleHistories::ofSize(2, 1, 1));
     m_oneScan.show(SampleHistories::ofSize(1, 1, 1));
