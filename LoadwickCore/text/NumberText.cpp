@@ -16,29 +16,30 @@ namespace {
 
 using Formatter = icu::number::LocalizedNumberFormatter;
 
-/// The formatter of the locale that this thread used last: a page writes hundreds of figures in one
-/// locale, and building a formatter costs far more than using it.
-const Formatter &formatterFor(const std::string &locale)
+struct Formatters
 {
-    struct Cached
-    {
-        std::string locale;
-        Formatter formatter;
-    };
-    thread_local Cached cached;
+    std::string locale;
+    Formatter plain;
+    Formatter withSign; ///< writes a plus sign, too
+};
+
+/// Those of the locale that this thread used last: a page writes hundreds of figures in one locale,
+/// and building a formatter costs far more than using it.
+const Formatters &formattersFor(const std::string &locale)
+{
+    thread_local Formatters cached;
     if (cached.locale != locale || locale.empty()) {
-        cached.formatter = icu::number::NumberFormatter::withLocale(icu::Locale(locale.c_str()));
         cached.locale = locale;
+        cached.plain = icu::number::NumberFormatter::withLocale(icu::Locale(locale.c_str()));
+        cached.withSign = cached.plain.sign(UNUM_SIGN_ALWAYS);
     }
-    return cached.formatter;
+    return cached;
 }
 
-} // namespace
-
-std::string grouped(std::int64_t number, const TextLocale &locale)
+std::string written(std::int64_t number, const Formatter &formatter)
 {
     UErrorCode status = U_ZERO_ERROR;
-    const auto figure = formatterFor(locale.numbers).formatInt(number, status);
+    const auto figure = formatter.formatInt(number, status);
     std::string text;
     figure.toString(status).toUTF8String(text);
     // unreachable: every locale can write every integer
@@ -47,10 +48,16 @@ std::string grouped(std::int64_t number, const TextLocale &locale)
     return text;
 }
 
+} // namespace
+
+std::string grouped(std::int64_t number, const TextLocale &locale)
+{
+    return written(number, formattersFor(locale.numbers).plain);
+}
+
 std::string groupedChange(std::int64_t change, const TextLocale &locale)
 {
-    const std::string figure = grouped(change, locale);
-    return change < 0 ? figure : std::string(1, '+').append(figure);
+    return written(change, formattersFor(locale.numbers).withSign);
 }
 
 std::string oneDecimal(double number)

@@ -53,6 +53,8 @@ TEST(NumberTextTest, signsEvenAChangeOfZero)
     EXPECT_EQ(NumberText::groupedChange(-2'500, {}), "-2,500");
     EXPECT_EQ(NumberText::groupedChange(-2'500, {.numbers = "de_DE"}), "-2.500");
     EXPECT_EQ(NumberText::groupedChange(1'234'567, {.numbers = "hi_IN"}), "+12,34,567");
+    EXPECT_EQ(NumberText::groupedChange(25, {.numbers = "ar_EG"}), "\u061C+٢٥");
+    EXPECT_EQ(NumberText::groupedChange(-25, {.numbers = "ar_EG"}), "\u061C-٢٥");
 }
 
 TEST(NumberTextTest, writesTheLocalesMinusSign)
