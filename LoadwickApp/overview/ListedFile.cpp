@@ -51,8 +51,8 @@ std::string TierFolders::pathInRepository(std::string_view path) const
 
 std::string TierFolders::shortPath(std::string_view path) const
 {
-    if (std::string inRepository = pathInRepository(path); !inRepository.empty())
-        return inRepository;
+    if (const std::string inRepository = pathInRepository(path); !inRepository.empty())
+        return inRepository.starts_with('~') ? "./" + inRepository : inRepository;
     const bool isAtHome = !m_home.empty() && isIn(path, m_home);
     return isAtHome ? "~" + std::string(path.substr(m_home.size())) : std::string(path);
 }

@@ -24,7 +24,8 @@ public:
     /// From the repository on; empty for what it does not hold, and for itself.
     [[nodiscard]] std::string pathInRepository(std::string_view path) const;
 
-    /// The same; from "~" if only the home folder holds it; else the whole path.
+    /// The same, after "./" if it begins with "~"; from "~" if only the home folder holds it; else
+    /// the whole path. A home folder that is the root shortens nothing.
     [[nodiscard]] std::string shortPath(std::string_view path) const;
 
 private:

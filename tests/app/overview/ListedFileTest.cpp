@@ -64,8 +64,14 @@ private Q_SLOTS:
                                                << "~/r";
         QTest::newRow("beside it") << "/h/rs/a.md"
                                    << "~/rs/a.md";
-        QTest::newRow("elsewhere") << "/hs/a.md"
-                                   << "/hs/a.md";
+        QTest::newRow("beside the home folder") << "/hs/a.md"
+                                                << "/hs/a.md";
+        QTest::newRow("the home folder itself") << "/h"
+                                                << "~";
+        QTest::newRow("the root") << "/"
+                                  << "/";
+        QTest::newRow("a folder like the sign for home") << "/h/r/~/a.md"
+                                                         << "./~/a.md";
     }
 
     void shortensAPathByTheNearestFolder()
@@ -74,6 +80,22 @@ private Q_SLOTS:
         QFETCH(const QString, shortened);
         const TierFolders near("/h/r/", "/h");
         QCOMPARE(QString::fromStdString(near.shortPath(path.toStdString())), shortened);
+    }
+
+    void aRepositoryAtTheRootShortensEveryPath()
+    {
+        const TierFolders near("/", "/h");
+        QCOMPARE(near.shortPath("/etc/a.md"), std::string("etc/a.md"));
+        QCOMPARE(near.shortPath("/h/a.md"), std::string("h/a.md"));
+        QCOMPARE(near.shortPath("/"), std::string("/"));
+    }
+
+    void aHomeAtTheRootShortensNoPath()
+    {
+        const TierFolders near("/r", "/");
+        QCOMPARE(near.shortPath("/r/a.md"), std::string("a.md"));
+        QCOMPARE(near.shortPath("/etc/a.md"), std::string("/etc/a.md"));
+        QCOMPARE(int(near.tierOf("/.claude/CLAUDE.md")), int(InstructionFileTier::personal));
     }
 
     void withoutAHomeOnlyTheRepositoryShortensAPath()
