@@ -75,7 +75,7 @@ struct InstructionFileSet
     std::vector<InstructionFileEstimate> personalFiles;
     std::vector<std::string> unreadablePaths; ///< ascending, each once
     /// The file whose import led to a file first, by their paths. Nothing for a file that a session
-    /// looks for by itself.
+    /// looks for by itself. Part of equality, since it is shown with the files.
     std::unordered_map<std::string, std::string> importers = {};
 
     static const InstructionFileSet empty;

@@ -109,6 +109,18 @@ TEST(InstructionFileSetTest, endsAChainOfImportsThatComesBackToItself)
     EXPECT_EQ(set.importChain("/a"), (std::vector<std::string_view>{"/b", "/a"}));
 }
 
+// They are shown: a page that took such sets for equal would keep the wrong reason.
+TEST(InstructionFileSetTest, equalSetsHaveTheSameImporters)
+{
+    InstructionFileSet set;
+    set.importers = {{"/c", "/b"}, {"/b", "/a"}};
+    InstructionFileSet other;
+    other.importers = {{"/b", "/a"}, {"/c", "/b"}};
+    EXPECT_EQ(set, other);
+    other.importers["/c"] = "/a";
+    EXPECT_NE(set, other);
+}
+
 TEST(InstructionFileSetTest, namesTheTiers)
 {
     expectNames<InstructionFileTier>({"repository", "inherited", "personal"});
