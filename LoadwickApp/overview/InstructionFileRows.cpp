@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "overview/ShareText.h"
 #include "text/NumberText.h"
 
@@ -67,10 +68,9 @@ QString InstructionFileRows::tokens(const ListedFile &file) const
 
 QString InstructionFileRows::amount(const ListedFile &file) const
 {
-    if (file.estimate == nullptr)
-        return {};
-    return (file.estimate->estimatedTokens == 1 ? tr("%1 token") : tr("%1 tokens"))
-        .arg(tokens(file));
+    return file.estimate != nullptr
+               ? TokenText::count(file.estimate->estimatedTokens, m_context.locale)
+               : QString();
 }
 
 QString InstructionFileRows::share(const ListedFile &file) const

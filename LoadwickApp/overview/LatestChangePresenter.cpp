@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "history/ScanHistory.h"
 #include "report/ScanReport.h"
 #include "text/DateText.h"
@@ -50,7 +51,7 @@ void LatestChangePresenter::show(const ScanReport &report)
 
 QString LatestChangePresenter::sentence() const
 {
-    return isKnown() ? tr("%1 tokens %2").arg(title(), since()) : QString();
+    return isKnown() ? tr("%1 %2").arg(m_difference, since()) : QString();
 }
 
 // A report is shown before it is recorded, and remains if that fails.
@@ -66,6 +67,7 @@ void LatestChangePresenter::showHistory()
         m_mark = TrendMark::of(trendDirection(before, m_total), difference, m_locale);
         // The sign of the comparison that it leads to: no change is +0.
         m_mark.title = qtText(NumberText::groupedChange(difference, m_locale));
+        m_difference = TokenText::change(difference, m_locale);
         m_since = tr("since %1")
                       .arg(qtText(dateText(last.previous->date, DateForm::dayAndTime, m_locale)));
     }

@@ -61,6 +61,7 @@ private:
     std::optional<std::string> m_repository; ///< of the report
     std::int64_t m_total = 0;                ///< of the report
     TrendMark m_mark;
+    QString m_difference; ///< with its unit
     QString m_since;
 };
 

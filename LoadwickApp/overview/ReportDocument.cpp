@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "overview/BandPresenter.h"
 #include "overview/BreakdownPresenter.h"
 #include "overview/HtmlPage.h"
@@ -95,8 +96,9 @@ void ReportDocument::addHead(HtmlPage &page) const
     page.emptyElement("meta",
                       {{"http-equiv", markup("Content-Security-Policy")},
                        {"content", markup("default-src 'none'; style-src 'unsafe-inline'")}});
-    page.element("title", tr("Startup context of %1: %2 tokens")
-                              .arg(qtText(report->repositoryName), grouped(report->total)));
+    page.element("title",
+                 tr("Startup context of %1: %2")
+                     .arg(qtText(report->repositoryName), TokenText::count(report->total, locale)));
     page.element("style", style());
 }
 

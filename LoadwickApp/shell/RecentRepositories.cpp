@@ -7,6 +7,7 @@
 #include "base/FolderUrl.h"
 #include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "history/ScanHistory.h"
 #include "report/OpinionBand.h"
 #include "text/NumberText.h"
@@ -61,8 +62,9 @@ std::vector<ListOf<Row>::Role> RecentRepositories::roles() const
             {"exists", [](const Row &row) { return row.exists.value_or(false); }},
             {"isCurrent", [](const Row &row) { return row.isCurrent; }},
             {"words", [this, bandOf](const Row &row) {
-                 return tr("%1, %2 tokens, %3")
-                     .arg(row.title, grouped(row.total), qtText(bandOf(row).title()));
+                 return tr("%1, %2, %3")
+                     .arg(row.title, TokenText::count(row.total, m_locale),
+                          qtText(bandOf(row).title()));
              }}};
 }
 

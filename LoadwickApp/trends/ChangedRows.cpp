@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "components/TrendMark.h"
 #include "text/NumberText.h"
 
@@ -66,9 +67,9 @@ QString spokenOn(Side side, const ChangedRow &row, const TextLocale &locale)
 QString sentenceOf(const ChangedRow &row, const TextLocale &locale)
 {
     const QString sentence =
-        ChangedRow::tr("%1, %2, %3, difference %4 tokens")
+        ChangedRow::tr("%1, %2, %3, difference %4")
             .arg(changedName(row), spokenOn(Side::before, row, locale),
-                 spokenOn(Side::after, row, locale), differenceOf(row, locale));
+                 spokenOn(Side::after, row, locale), TokenText::change(row.difference(), locale));
     const QString note = changedNote(row);
     return note.isEmpty() ? sentence : sentence + QStringLiteral(", ") + note;
 }

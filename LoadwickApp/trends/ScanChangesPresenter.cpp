@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "text/DateText.h"
 #include "text/NumberText.h"
 
@@ -52,10 +53,7 @@ std::vector<ListOf<Moment>::Role> momentRoles(const TextLocale &locale)
              return qtText(dateText(moment.date, DateForm::dayAndTime, locale));
          }},
         {"detail",
-         [locale](const Moment &moment) {
-             return ScanChangesPresenter::tr("%1 tokens")
-                 .arg(qtText(NumberText::grouped(moment.total, locale)));
-         }},
+         [locale](const Moment &moment) { return TokenText::count(moment.total, locale); }},
     };
 }
 
@@ -91,10 +89,9 @@ QString ScanChangesPresenter::unchanged() const
     if (!m_comparison || m_comparison->unchangedCount == 0)
         return {};
     const auto count = static_cast<std::int64_t>(m_comparison->unchangedCount);
-    return (count == 1 ? tr("%1 category unchanged, %2 tokens")
-                       : tr("%1 categories unchanged, %2 tokens"))
+    return (count == 1 ? tr("%1 category unchanged, %2") : tr("%1 categories unchanged, %2"))
         .arg(qtText(NumberText::grouped(count, m_locale)),
-             qtText(NumberText::grouped(m_comparison->unchangedTokens, m_locale)));
+             TokenText::count(m_comparison->unchangedTokens, m_locale));
 }
 
 QString ScanChangesPresenter::whyOnlyTotals() const

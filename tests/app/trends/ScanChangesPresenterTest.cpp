@@ -168,17 +168,15 @@ void ScanChangesPresenterTest::listsTheTotalsFirstThenEveryCategoryThatChanged()
 
 void ScanChangesPresenterTest::foldsWhatDidNotChangeIntoOneLine()
 {
-    const auto scan = [](int daysLater) {
-        return scanOf(30'000, daysLater).withCategory("a", 400);
-    };
+    const auto scan = [](int daysLater) { return scanOf(30'000, daysLater).withCategory("a", 1); };
     record({scan(0).build(), scan(1).build()});
-    QCOMPARE(m_changes->unchanged(), QStringLiteral("1 category unchanged, 400 tokens"));
+    QCOMPARE(m_changes->unchanged(), QStringLiteral("1 category unchanged, 1 token"));
     QCOMPARE(m_changes->rows()->count(), 1);
     QCOMPARE(row(0, "difference"), QStringLiteral("+0"));
     QCOMPARE(row(0, "kind").toInt(), int(TrendKind::Unchanged));
     record({scan(0).withCategory("b", 21'000).build(),
             scan(1).withCategory("b", 21'000).withCategory("empty", 0).build()});
-    QCOMPARE(m_changes->unchanged(), QStringLiteral("2 categories unchanged, 21,400 tokens"));
+    QCOMPARE(m_changes->unchanged(), QStringLiteral("2 categories unchanged, 21,001 tokens"));
     QCOMPARE(rowTexts(1), QStringLiteral("empty|new|0|+0"));
     QCOMPARE(row(1, "length").toDouble(), 0.0);
     QCOMPARE(m_changes->whyOnlyTotals(), QString());

@@ -298,7 +298,7 @@ void ScanChangesSectionTest::thePillOfTheOverviewLeadsToTheSection_data()
 void ScanChangesSectionTest::thePillOfTheOverviewLeadsToTheSection()
 {
     QFETCH(const QString, how);
-    const QString words = QStringLiteral("+1 tokens since Mar 6, 2026, 9:15\u202FAM");
+    const QString words = QStringLiteral("+1 token since Mar 6, 2026, 9:15\u202FAM");
     if (how == u"again") {
         showTrends(scansOf(4, 30));
         focus("chart");
