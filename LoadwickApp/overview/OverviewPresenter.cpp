@@ -134,7 +134,7 @@ QString OverviewPresenter::repositoryName() const
 
 std::string OverviewPresenter::table() const
 {
-    return m_report ? ReportTable::bytes(*m_report) : std::string();
+    return m_report ? ReportTable::bytes(*m_report, recordedDate()) : std::string();
 }
 
 std::function<QByteArray()> OverviewPresenter::document() const

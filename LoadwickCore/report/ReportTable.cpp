@@ -6,32 +6,63 @@
 
 #include "report/ScanReport.h"
 #include "text/CsvTable.h"
+#include "text/DateText.h"
 
 namespace Loadwick::ReportTable {
 namespace {
 
-void addHeader(CsvTable &table)
+/// The rows of one scan.
+class Rows
 {
-    for (const std::string_view name :
-         {"Kind", "Name", "Tokens", "Source", "Bytes", "Tier", "Imported by"})
-        table.text(name);
-    table.endRow();
-}
+public:
+    Rows(const ScanReport &report, std::optional<std::chrono::sys_seconds> scanned)
+        : m_report(report), m_date(scanned ? IsoDate::text(*scanned) : std::string())
+    {
+        for (const std::string_view name : {"Repository", "Path", "Date (UTC)", "Kind", "Name",
+                                            "Tokens", "Source", "Bytes", "Tier", "Imported by"})
+            m_table.text(name);
+        m_table.endRow();
+    }
 
-/// A row without what only files have.
-void addFigure(CsvTable &table, std::string_view kind, std::string_view name, std::int64_t tokens,
-               Provenance source)
-{
-    table.text(kind).text(name).figure(tokens).text(source.sourceLabel());
-    table.empty().empty().empty().endRow();
-}
+    /// A row without what only files have.
+    void addFigure(std::string_view kind, std::string_view name, std::int64_t tokens,
+                   Provenance source)
+    {
+        begin(kind, name).figure(tokens).text(source.sourceLabel());
+        m_table.empty().empty().empty().endRow();
+    }
 
-void addFiles(CsvTable &table, const InstructionFileSet &files, InstructionFileTier tier)
+    void addFiles(InstructionFileTier tier);
+
+    void addUnread(const std::string &path)
+    {
+        begin("File", path).empty().text("could not be read");
+        m_table.empty().empty().empty().endRow();
+    }
+
+    [[nodiscard]] const std::string &bytes() const noexcept { return m_table.bytes(); }
+
+private:
+    CsvTable &begin(std::string_view kind, std::string_view name)
+    {
+        return m_table.text(m_report.repositoryName)
+            .text(m_report.repositoryPath)
+            .text(m_date)
+            .text(kind)
+            .text(name);
+    }
+
+    const ScanReport &m_report;
+    std::string m_date;
+    CsvTable m_table;
+};
+
+void Rows::addFiles(InstructionFileTier tier)
 {
+    const InstructionFileSet &files = m_report.fileSet;
     for (const InstructionFileEstimate &file : files.files(tier)) {
         const auto importer = files.importers.find(file.path);
-        table.text("File")
-            .text(file.path)
+        begin("File", file.path)
             .figure(file.estimatedTokens)
             .text(Provenance(Provenance::localEstimate).sourceLabel())
             .figure(file.byteCount)
@@ -54,25 +85,17 @@ std::vector<std::string> unreadOnly(const InstructionFileSet &files)
 
 } // namespace
 
-std::string bytes(const ScanReport &report)
+std::string bytes(const ScanReport &report, std::optional<std::chrono::sys_seconds> scanned)
 {
-    CsvTable table;
-    addHeader(table);
-    addFigure(table, "Total", report.repositoryName, report.total, Provenance::claudeReported);
+    Rows rows(report, scanned);
+    rows.addFigure("Total", {}, report.total, Provenance::claudeReported);
     for (const SlabAttribution &row : report.rows)
-        addFigure(table, "Category", row.name, row.tokens, row.provenance);
+        rows.addFigure("Category", row.name, row.tokens, row.provenance);
     for (const InstructionFileTier tier : InstructionFileTier::all)
-        addFiles(table, report.fileSet, tier);
+        rows.addFiles(tier);
     for (const std::string &path : unreadOnly(report.fileSet))
-        table.text("File")
-            .text(path)
-            .empty()
-            .text("could not be read")
-            .empty()
-            .empty()
-            .empty()
-            .endRow();
-    return table.bytes();
+        rows.addUnread(path);
+    return rows.bytes();
 }
 
 } // namespace Loadwick::ReportTable

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import csv
 import os
 import subprocess
 from pathlib import Path
@@ -47,6 +48,23 @@ class SavingTest(EndToEndCase):
         table = file.read_bytes().split(b"\r\n")
         self.assertEqual(table[0], b"Repository,Path,Date (UTC),Total tokens,Band")
         self.assertEqual(len(table), 4)  # two scans, and nothing after the last line break
+
+    def test_the_data_of_a_report_names_its_repository_and_date(self) -> None:
+        program = self.open()
+        repository = self.home.make_repository("webshop, old")
+        self.choose(program, repository)
+        program.window.press(SCAN)
+        program.window.wait_for("Scan complete")
+        program.window.resize(1180, self.display_height - 100)
+        self.ask(program.window, "Save Data…")
+        program.window.press("Save")
+        file = self.home.path / "loadwick-report-webshop--old.csv"
+        program.window.wait_for(f"Saved as {file}.")
+        rows = list(csv.DictReader(file.read_text().splitlines()))
+        self.assertEqual({row["Repository"] for row in rows}, {"webshop, old"})
+        self.assertEqual({row["Path"] for row in rows}, {os.fsdecode(repository)})
+        self.assertEqual({row["Date (UTC)"] for row in rows}, {self.home.scans()[0]["date"]})
+        self.assertEqual(rows[0]["Kind"], "Total")
 
     def test_the_report_is_a_valid_page_that_shows_names_as_text(self) -> None:
         program = self.open()

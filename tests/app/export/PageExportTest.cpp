@@ -40,8 +40,12 @@ private Q_SLOTS:
     {
         const QByteArray table = content(save("Save Data…", "scan.csv"));
         QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-report-two.csv"));
-        QVERIFY(table.startsWith("Kind,Name,Tokens,Source,Bytes,Tier,Imported by\r\n"
-                                 "Total,two,27654,reported by Claude,,,\r\n"
+        const RecordedScan scan = m_window->loadwick().model().history().get().back();
+        const auto row = QByteArray::fromStdString("\r\ntwo," + scan.repositoryPath + ',' +
+                                                   IsoDate::text(scan.date) + ',');
+        QVERIFY(table.startsWith("Repository,Path,Date (UTC),Kind,Name,Tokens,Source,Bytes,Tier,"
+                                 "Imported by" +
+                                 row + "Total,,27654,reported by Claude,,," + row +
                                  "Category,System prompt,14210,"));
     }
 
