@@ -98,9 +98,11 @@ QString ComparePresenter::scaleEnd() const
     return qtText(NumberText::grouped(m_comparison->bars.maximumRowTokens(), m_locale));
 }
 
-std::string ComparePresenter::table() const
+std::function<QByteArray()> ComparePresenter::table() const
 {
-    return ScanTables::categories(m_comparison->columns);
+    return [comparison = m_comparison] {
+        return QByteArray::fromStdString(ScanTables::categories(comparison->columns));
+    };
 }
 
 void ComparePresenter::showHistory()

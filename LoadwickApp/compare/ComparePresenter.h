@@ -1,10 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
-#include <string>
 #include <vector>
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -78,8 +79,9 @@ public:
     [[nodiscard]] QString scaleStart() const;
     [[nodiscard]] QString scaleEnd() const;
 
-    /// The repositories for other programs, as `ScanTables::categories` writes them, by name.
-    [[nodiscard]] std::string table() const;
+    /// The repositories for other programs, as `ScanTables::categories` writes them, by name. The
+    /// function that writes them may be called on any thread.
+    [[nodiscard]] std::function<QByteArray()> table() const;
 
 Q_SIGNALS:
     void changed();

@@ -26,16 +26,8 @@ PageExport::PageExport(Contents contents, FileSaver &saver,
 
 void PageExport::saveTable()
 {
-    const QPointer<PageExport> page(this);
-    const FileSaver::Request request = {.title = tr("Save the data"),
-                                        .name = m_contents.name() + QStringLiteral(".csv"),
-                                        .filters = {tr("Comma-separated values (*.csv)")}};
-    m_saver.open(request, [page](const FileSaver::Target &target) {
-        if (page)
-            page->write(target, [table = QByteArray::fromStdString(page->m_contents.table())] {
-                return table;
-            });
-    });
+    save(tr("Save the data"), QStringLiteral(".csv"), tr("Comma-separated values (*.csv)"),
+         m_contents.table());
 }
 
 void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
@@ -55,13 +47,19 @@ void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
 
 void PageExport::saveReport()
 {
+    save(tr("Save the report"), QStringLiteral(".html"), tr("Web page (*.html)"),
+         m_contents.report());
+}
+
+void PageExport::save(const QString &title, const QString &ending, const QString &filter,
+                      const PictureFrame::Bytes &bytes)
+{
     const QPointer<PageExport> page(this);
-    const FileSaver::Request request = {.title = tr("Save the report"),
-                                        .name = m_contents.name() + QStringLiteral(".html"),
-                                        .filters = {tr("Web page (*.html)")}};
-    m_saver.open(request, [page, report = m_contents.report()](const FileSaver::Target &target) {
+    const FileSaver::Request request = {
+        .title = title, .name = m_contents.name() + ending, .filters = {filter}};
+    m_saver.open(request, [page, bytes](const FileSaver::Target &target) {
         if (page)
-            page->write(target, report);
+            page->write(target, bytes);
     });
 }
 

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <memory>
-#include <string>
 #include <system_error>
 
 #include <QObject>
@@ -32,7 +31,7 @@ public:
     struct Contents
     {
         std::function<QString()> name; ///< of the files, without their ending
-        std::function<std::string()> table;
+        std::function<PictureFrame::Bytes()> table;
         std::function<PictureFrame::Bytes()> report = {}; ///< an HTML file; most pages have none
     };
 
@@ -41,19 +40,22 @@ public:
     [[nodiscard]] QString outcome() const { return m_outcome; }
     [[nodiscard]] bool failed() const noexcept { return m_failed; }
 
-    /// The figures as they are when the user has chosen a file.
+    /// The figures as they are when the user is asked for a file.
     Q_INVOKABLE void saveTable();
 
     /// As a drawing if the file's name ends in ".svg", else as a picture.
     Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, Loadwick::PictureFrame *frame);
 
-    /// The report as it is when the user is asked for a file.
+    /// The report as it is at that moment.
     Q_INVOKABLE void saveReport();
 
 Q_SIGNALS:
     void changed();
 
 private:
+    /// `filter` is that of a `FileSaver::Request`.
+    void save(const QString &title, const QString &ending, const QString &filter,
+              const PictureFrame::Bytes &bytes);
     void write(const FileSaver::Target &target, const PictureFrame::Bytes &bytes);
     void tell(const FileSaver::Target &target, const std::error_code &failure);
 

@@ -132,9 +132,13 @@ QString OverviewPresenter::repositoryName() const
     return m_report ? qtText(m_report->repositoryName) : QString();
 }
 
-std::string OverviewPresenter::table() const
+std::function<QByteArray()> OverviewPresenter::table() const
 {
-    return m_report ? ReportTable::bytes(*m_report, recordedDate()) : std::string();
+    if (!m_report)
+        return [] { return QByteArray(); };
+    return [report = m_report, scanned = recordedDate()] {
+        return QByteArray::fromStdString(ReportTable::bytes(*report, scanned));
+    };
 }
 
 std::function<QByteArray()> OverviewPresenter::document() const

@@ -112,8 +112,8 @@ public:
 
     /// The name of the last report's repository; empty before the first.
     [[nodiscard]] QString repositoryName() const;
-    /// The last report for other programs, as `ReportTable` writes it.
-    [[nodiscard]] std::string table() const;
+    /// Writes the last report for other programs, as `ReportTable` does, on any thread.
+    [[nodiscard]] std::function<QByteArray()> table() const;
     /// Makes the last report's HTML file, on any thread.
     [[nodiscard]] std::function<QByteArray()> document() const;
 

@@ -43,12 +43,21 @@ std::optional<std::string> TrendsPresenter::shownRepository() const
 std::vector<RecordedScan> TrendsPresenter::shownScans() const
 {
     const auto path = shownRepository();
-    return path ? ScanHistory::scans(m_model.history().get(), *path) : std::vector<RecordedScan>();
+    std::vector<RecordedScan> scans;
+    for (const RecordedScan &scan : m_model.history().get())
+        if (scan.repositoryPath == path)
+            scans.push_back({.id = scan.id,
+                             .repositoryName = scan.repositoryName,
+                             .repositoryPath = scan.repositoryPath,
+                             .date = scan.date,
+                             .total = scan.total,
+                             .categories = {}});
+    return scans;
 }
 
-std::string TrendsPresenter::table() const
+std::function<QByteArray()> TrendsPresenter::table() const
 {
-    return ScanTables::totals(shownScans());
+    return [scans = shownScans()] { return QByteArray::fromStdString(ScanTables::totals(scans)); };
 }
 
 void TrendsPresenter::showRepository()

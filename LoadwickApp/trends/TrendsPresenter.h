@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -42,8 +44,9 @@ public:
     [[nodiscard]] ScanChangesPresenter *changes() { return &m_changes; }
     [[nodiscard]] RecordedDataPresenter *recordedData() { return &m_recordedData; }
 
-    /// The scans of the chart for other programs, as `ScanTables::totals` writes them.
-    [[nodiscard]] std::string table() const;
+    /// The scans of the chart for other programs, as `ScanTables::totals` writes them. The function
+    /// that writes them may be called on any thread.
+    [[nodiscard]] std::function<QByteArray()> table() const;
 
     /// The repository that the page is about; empty when none was scanned.
     [[nodiscard]] QString repositoryName() const { return m_repositoryName; }
@@ -56,6 +59,7 @@ Q_SIGNALS:
 private:
     /// The path of the repository that the page is about.
     [[nodiscard]] std::optional<std::string> shownRepository() const;
+    /// Without their categories, which can be many and are not shown.
     [[nodiscard]] std::vector<RecordedScan> shownScans() const;
     void showRepository();
     void showHistory();

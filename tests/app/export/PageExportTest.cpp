@@ -2,12 +2,16 @@
 
 #include <fstream>
 #include <iterator>
+#include <thread>
 
 #include <QAccessible>
 #include <QImage>
+#include <QSignalSpy>
 #include <QTest>
 
+#include "base/QtTaskDispatcher.h"
 #include "shell/ContentPresenter.h"
+#include "support/FakeFileSaver.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 #include "text/DateText.h"
@@ -62,14 +66,45 @@ private Q_SLOTS:
         QVERIFY(m_window->shows(savedAs(file)));
     }
 
-    void aReportIsThatOfTheScanThatWasShown()
+    void savesTheScanThatWasShown_data()
     {
-        const auto file = m_window->folder().path() / "scan.html";
-        press("Save Report…");
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("Save Report…") << QByteArray("<bdi>two</bdi>");
+        QTest::newRow("Save Data…") << QByteArray("\r\ntwo,");
+    }
+
+    void savesTheScanThatWasShown()
+    {
+        QFETCH(const QByteArray, start);
+        const auto file = m_window->folder().path() / "scan";
+        press(QTest::currentDataTag());
         scan("later");
         m_window->saver().chosen({.file = file, .mayReplace = true});
         m_window->finishScan();
-        QVERIFY(content(file).contains("<bdi>two</bdi>"));
+        QVERIFY(content(file).contains(start));
+    }
+
+    void makesTheDataInTheBackground()
+    {
+        const auto file = m_window->folder().path() / "data.csv";
+        FakeFileSaver saver;
+        saver.answer = {.file = file, .mayReplace = true};
+        QObject interface;
+        std::thread::id maker;
+        PageExport page({.name = [] { return QStringLiteral("data"); },
+                         .table =
+                             [&maker] {
+                                 return [&maker] {
+                                     maker = std::this_thread::get_id();
+                                     return QByteArray("a,b\r\n");
+                                 };
+                             }},
+                        saver, std::make_shared<QtTaskDispatcher>(interface));
+        const QSignalSpy saved(&page, &PageExport::changed);
+        page.saveTable();
+        QTRY_COMPARE(saved.count(), 1);
+        QCOMPARE(content(file), QByteArray("a,b\r\n"));
+        QVERIFY(maker != std::thread::id() && maker != std::this_thread::get_id());
     }
 
     void savesTheTrendAsCsv()
