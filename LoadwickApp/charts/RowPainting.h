@@ -2,6 +2,8 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPointer>
+#include <QQuickPaintedItem>
 #include <QRectF>
 #include <QString>
 
@@ -20,5 +22,21 @@ void write(QPainter &painter, const QRectF &box, Qt::Alignment side, const QStri
 
 /// Fills a bar whose corners are as round as its width allows.
 void fillBar(QPainter &painter, const QRectF &bar, const QColor &color);
+
+/// Makes a row follow another style, null for none: the row is repainted whenever the style has
+/// changed. False if the row has that style already.
+template<typename Style>
+bool follow(QQuickPaintedItem &row, QPointer<Style> &followed, Style *style)
+{
+    if (followed == style)
+        return false;
+    if (followed)
+        followed->disconnect(&row);
+    followed = style;
+    if (style)
+        QObject::connect(style, &Style::changed, &row, [&row] { row.update(); });
+    row.update();
+    return true;
+}
 
 } // namespace Loadwick::RowPainting

@@ -77,15 +77,8 @@ BarRow::BarRow(QQuickItem *parent) : QQuickPaintedItem(parent)
 
 void BarRow::setStyle(BarStyle *style)
 {
-    if (m_style == style)
-        return;
-    if (m_style)
-        m_style->disconnect(this);
-    m_style = style;
-    if (m_style)
-        connect(m_style, &BarStyle::changed, this, [this] { update(); });
-    update();
-    Q_EMIT styleChanged();
+    if (follow(*this, m_style, style))
+        Q_EMIT styleChanged();
 }
 
 QString BarRow::tip() const

@@ -84,15 +84,8 @@ ChangeRow::ChangeRow(QQuickItem *parent) : QQuickPaintedItem(parent)
 
 void ChangeRow::setStyle(ChangeStyle *style)
 {
-    if (m_style == style)
-        return;
-    if (m_style)
-        m_style->disconnect(this);
-    m_style = style;
-    if (m_style)
-        connect(m_style, &ChangeStyle::changed, this, [this] { update(); });
-    update();
-    Q_EMIT styleChanged();
+    if (follow(*this, m_style, style))
+        Q_EMIT styleChanged();
 }
 
 QString ChangeRow::tip() const
