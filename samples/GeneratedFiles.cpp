@@ -89,17 +89,16 @@ RecordedScan scan(std::int64_t number, std::int64_t scanCount)
 {
     const std::int64_t repository = number * 7 % repositoryCount;
     const std::int64_t total = 18'000 + number * 2'917 % 61'000;
-    RecordedScan scan{.id = identifier(number),
-                      .repositoryName = "repository-" + std::to_string(repository),
-                      .repositoryPath =
-                          "/home/someone/projects/repository-" + std::to_string(repository),
-                      .date = lastScan - std::chrono::hours(scanCount - number),
-                      .total = total,
-                      .categories = {}};
+    RecordedCategories::List categories;
     for (std::size_t rank = 0; rank < SampleHistories::categoryNames.size(); ++rank)
-        scan.categories.push_back({.name = std::string(SampleHistories::categoryNames[rank]),
-                                   .tokens = total / static_cast<std::int64_t>(rank + 2)});
-    return scan;
+        categories.push_back({.name = std::string(SampleHistories::categoryNames[rank]),
+                              .tokens = total / static_cast<std::int64_t>(rank + 2)});
+    return {.id = identifier(number),
+            .repositoryName = "repository-" + std::to_string(repository),
+            .repositoryPath = "/home/someone/projects/repository-" + std::to_string(repository),
+            .date = lastScan - std::chrono::hours(scanCount - number),
+            .total = total,
+            .categories = std::move(categories)};
 }
 
 } // namespace

@@ -121,6 +121,10 @@ void ComparePresenter::showHistory()
 
 void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)
 {
+    if (!m_model.isHistoryComplete()) {
+        m_emptyTitle = tr("Reading the recorded scans…");
+        return;
+    }
     if (columns.empty()) {
         m_emptyTitle = tr("No recorded scans yet");
         m_emptyText =

@@ -61,7 +61,8 @@ void LatestChangePresenter::showHistory()
         m_repository ? lastTwoOf(m_model.history().get(), *m_repository) : LastTwo();
     m_mark = {};
     m_since.clear();
-    if (last.previous != nullptr && last.latest->total == m_total) {
+    const bool isRecorded = m_model.isHistoryComplete();
+    if (isRecorded && last.previous != nullptr && last.latest->total == m_total) {
         const std::int64_t before = last.previous->total;
         const std::int64_t difference = checkedDifference(m_total, before);
         m_mark = TrendMark::of(trendDirection(before, m_total), difference, m_locale);

@@ -81,6 +81,7 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
     const int status = QApplication::exec();
     // The clean-up after this line (a copied summary goes to the desktop's clipboard) may hang.
     ProgramEnd::begin(shutdown, status);
+    loadwick.model().finishHistory(); // for as long as the end may take
     return status;
 }
 

@@ -83,6 +83,8 @@ QString RecordedDataPresenter::pathOf(const RecordedScan &scan) const
 
 QString RecordedDataPresenter::storageNote() const
 {
+    if (!m_model.isHistoryComplete())
+        return {};
     const std::vector<RecordedScan> &history = m_model.history().get();
     const std::size_t scans = history.size();
     const std::size_t repositories = repositoryCount(history);

@@ -43,7 +43,8 @@ public:
     /// Describes which scans these are.
     [[nodiscard]] QString runsDetail() const { return m_runsDetail; }
 
-    /// Composed on demand: its figures load the locale's data, which start-up does not need.
+    /// Empty while the history changes. Composed on demand: its figures load the locale's data,
+    /// which start-up does not need.
     [[nodiscard]] QString storageNote() const;
     /// Where that is on this system, if the note speaks of another one; empty without a store.
     [[nodiscard]] QString storagePlatformNote() const;

@@ -36,6 +36,12 @@ void TrendChartPresenter::showNoHistory()
              {}, {});
 }
 
+void TrendChartPresenter::showReading()
+{
+    m_line.setSamples({});
+    setWords({}, tr("Reading the recorded scans…"), {}, {});
+}
+
 void TrendChartPresenter::show(std::span<const RecordedScan> scans)
 {
     m_line.setSamples(samplesOf(scans));

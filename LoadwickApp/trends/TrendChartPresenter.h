@@ -28,6 +28,8 @@ public:
     explicit TrendChartPresenter(const TextLocale &locale) : m_locale(locale), m_line(locale) {}
 
     void showNoHistory();
+    /// The history is being read.
+    void showReading();
     /// The scans of the repository shown, in the order of the history.
     void show(std::span<const RecordedScan> scans);
 

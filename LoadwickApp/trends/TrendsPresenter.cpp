@@ -65,10 +65,7 @@ void TrendsPresenter::showRepository()
     const std::vector<RecordedScan> scans = shownScans();
     m_repositoryName = scans.empty() ? QString() : qtText(scans.back().repositoryName);
     m_detail = pageDetail(m_repositoryName);
-    if (m_model.history().get().empty())
-        m_chart.showNoHistory();
-    else
-        m_chart.show(scans);
+    showChart(scans);
     m_summary.show(m_chart.line()->geometry().samples());
     m_changes.show(shownRepository());
     Q_EMIT changed();
@@ -78,6 +75,16 @@ void TrendsPresenter::showRepository()
     m_repository = std::move(repository);
     if (m_repository)
         Q_EMIT repositoryChanged();
+}
+
+void TrendsPresenter::showChart(std::span<const RecordedScan> scans)
+{
+    if (!m_model.history().get().empty())
+        m_chart.show(scans);
+    else if (m_model.isHistoryComplete())
+        m_chart.showNoHistory();
+    else
+        m_chart.showReading();
 }
 
 void TrendsPresenter::showHistory()

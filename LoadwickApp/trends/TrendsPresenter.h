@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,7 @@ private:
     /// Without their categories, which can be many and are not shown.
     [[nodiscard]] std::vector<RecordedScan> shownScans() const;
     void showRepository();
+    void showChart(std::span<const RecordedScan> scans);
     void showHistory();
 
     ScanModel &m_model;

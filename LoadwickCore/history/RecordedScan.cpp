@@ -1,5 +1,7 @@
 #include "history/RecordedScan.h"
 
+#include <utility>
+
 #include "report/ScanReport.h"
 #include "text/UnicodeText.h"
 
@@ -8,17 +10,17 @@ namespace Loadwick {
 RecordedScan RecordedScan::fromReport(const ScanReport &report, std::chrono::sys_seconds date,
                                       const Uuid &id)
 {
-    RecordedScan scan = {.id = id,
-                         .repositoryName = report.repositoryName,
-                         .repositoryPath = report.repositoryPath,
-                         .date = date,
-                         .total = report.total,
-                         .categories = {}};
-    scan.categories.reserve(report.rows.size());
+    RecordedCategories::List categories;
+    categories.reserve(report.rows.size());
     for (const SlabAttribution &row : report.rows)
-        scan.categories.push_back(
+        categories.push_back(
             {.name = RecordedCategoryName::storable(row.name), .tokens = row.tokens});
-    return scan;
+    return {.id = id,
+            .repositoryName = report.repositoryName,
+            .repositoryPath = report.repositoryPath,
+            .date = date,
+            .total = report.total,
+            .categories = std::move(categories)};
 }
 
 namespace RecordedCategoryName {

@@ -89,12 +89,12 @@ void writeCategory(JsonWriter &writer, const RecordedCategory &category)
     writer.close('}');
 }
 
-template<typename Element>
-void writeList(JsonWriter &writer, const std::vector<Element> &elements,
-               void (*write)(JsonWriter &, const Element &))
+template<typename List>
+void writeList(JsonWriter &writer, const List &elements,
+               void (*write)(JsonWriter &, const typename List::value_type &))
 {
     writer.open('[');
-    for (const Element &element : elements) {
+    for (const auto &element : elements) {
         writer.element();
         write(writer, element);
     }
@@ -134,7 +134,7 @@ void keepWithin(std::vector<RecordedScan> &scans, std::size_t byteLimit)
     for (std::size_t size = 0; oldest != scans.begin(); --oldest) {
         RecordedScan &scan = *std::prev(oldest);
         if (encodedSize(scan) > byteLimit)
-            scan.categories.clear();
+            scan.categories = {};
         size += encodedSize(scan);
         if (size > byteLimit)
             break;

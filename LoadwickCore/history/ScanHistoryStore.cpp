@@ -77,6 +77,17 @@ void order(std::vector<RecordedScan> &scans)
                      });
 }
 
+/// Lets `scans` share the memory of those that are known.
+void shareWith(std::vector<RecordedScan> &scans, const std::vector<RecordedScan> &known)
+{
+    for (RecordedScan &scan : scans) {
+        const auto same = std::find_if(known.begin(), known.end(),
+                                       [&](const auto &other) { return other.id == scan.id; });
+        if (same != known.end() && same->categories == scan.categories)
+            scan.categories = same->categories;
+    }
+}
+
 void keepNewest(std::vector<RecordedScan> &scans)
 {
     if (scans.size() > ScanHistoryStore::maximumScans)
@@ -113,6 +124,7 @@ std::vector<RecordedScan> ScanHistoryStore::append(const RecordedScan &scan,
     std::optional<std::vector<RecordedScan>> recorded = recordedScans();
     const bool isRead = recorded.has_value();
     ScanHistoryFile file{.version = schemaVersion, .scans = isRead ? std::move(*recorded) : known};
+    shareWith(file.scans, known);
     file.scans.push_back(scan);
     order(file.scans);
     keepNewest(file.scans);

@@ -17,7 +17,7 @@ struct ScanHistoryFile;
 /// Owns the history file. Caches nothing: every call reads the file. Reports no error: an
 /// unreadable history is an empty one, and a failed write leaves the old file. A transient shortage
 /// (memory, descriptors) does not count as unreadable. A history file that is a link is read and
-/// written through it. Belongs to the interface thread. Programs are not synchronised with each
+/// written through it. Used by one thread at a time. Programs are not synchronised with each
 /// other: the last to write the file wins.
 class ScanHistoryStore
 {
@@ -48,8 +48,9 @@ public:
     /// `ScanHistoryFile::encodedWithin`), writes the file and returns the new list, whether or not
     /// writing succeeded. While a transient shortage keeps the recorded scans from being read,
     /// nothing is written, and `known` takes their place in the list. A scan that was left out when
-    /// the file was read is not written again. Throws `std::bad_alloc`, and
-    /// leaves the old file, when there is no memory for the list itself.
+    /// the file was read is not written again. Scans that are in `known` share their categories
+    /// with it. Throws `std::bad_alloc`, and leaves the old file, when there is no memory for the
+    /// list itself.
     [[nodiscard]] std::vector<RecordedScan> append(const RecordedScan &scan,
                                                    const std::vector<RecordedScan> &known = {});
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "model/HistoryKeeper.h"
 #include "probe/FolderAccess.h"
 #include "report/ScanReport.h"
 #include "text/Fatal.h"
@@ -24,17 +25,11 @@ public:
     explicit Internals(Collaborators collaborators);
 
     [[nodiscard]] bool isScanning() const noexcept;
-    [[nodiscard]] bool isRecording() const noexcept { return store() != nullptr; }
-    [[nodiscard]] const ScanHistoryStore *store() const noexcept
-    {
-        return m_with.historyStore.get();
-    }
+    [[nodiscard]] HistoryKeeper &keeper() const noexcept { return *m_keeper; }
     void begin();
-    void clearHistory();
 
     Published<ScanState> state{ScanState::idle()};
     Published<std::optional<RepoSelection>> selection{std::nullopt};
-    Published<std::vector<RecordedScan>> history{{}};
 
 private:
     void checkFolder(const RepoSelection &chosen);
@@ -48,16 +43,18 @@ private:
     void run(Stage stage, Next next);
 
     const Collaborators m_with;
+    const std::shared_ptr<HistoryKeeper> m_keeper;
     /// A scan runs. Set before the state changes, so that its observers cannot start another.
     bool m_isUnderway = false;
 };
 
-ScanModel::Internals::Internals(Collaborators collaborators) : m_with(std::move(collaborators))
+ScanModel::Internals::Internals(Collaborators collaborators)
+    : m_with(std::move(collaborators)),
+      m_keeper(std::make_shared<HistoryKeeper>(m_with.historyStore, m_with.dispatcher))
 {
     if (!m_with.probeRunner || !m_with.instructionScanner || !m_with.dispatcher || !m_with.now)
         fatalError("a scan model lacks a collaborator");
-    if (isRecording())
-        history.set(m_with.historyStore->load());
+    m_keeper->load();
 }
 
 bool ScanModel::Internals::isScanning() const noexcept
@@ -103,11 +100,8 @@ void ScanModel::Internals::makeReport(const RepoSelection &chosen, const ProbeRe
 void ScanModel::Internals::succeed(const ScanReport &report)
 {
     end(ScanState::result(report));
-    if (!isRecording())
-        return;
     try {
-        history.set(m_with.historyStore->append(
-            RecordedScan::fromReport(report, m_with.now(), Uuid::random()), history.get()));
+        m_keeper->record(RecordedScan::fromReport(report, m_with.now(), Uuid::random()));
     } catch (const std::bad_alloc &) {
         // Not recorded: the earlier scans remain, on disk and on the pages.
     }
@@ -147,13 +141,6 @@ void ScanModel::Internals::run(Stage stage, Next next)
     }
 }
 
-void ScanModel::Internals::clearHistory()
-{
-    if (isRecording())
-        m_with.historyStore->clear();
-    history.set({});
-}
-
 ScanModel::ScanModel(Collaborators collaborators)
     : m_internals(std::make_shared<Internals>(std::move(collaborators)))
 {}
@@ -172,7 +159,7 @@ Published<std::optional<RepoSelection>> &ScanModel::selection() noexcept
 
 Published<std::vector<RecordedScan>> &ScanModel::history() noexcept
 {
-    return m_internals->history;
+    return m_internals->keeper().history();
 }
 
 bool ScanModel::canScan() const noexcept
@@ -180,14 +167,20 @@ bool ScanModel::canScan() const noexcept
     return m_internals->selection.get().has_value() && !m_internals->isScanning();
 }
 
+bool ScanModel::isHistoryComplete() const noexcept
+{
+    return m_internals->keeper().isComplete();
+}
+
 bool ScanModel::canClearHistory() const noexcept
 {
-    return m_internals->isRecording() && !m_internals->history.get().empty();
+    HistoryKeeper &keeper = m_internals->keeper();
+    return keeper.store() != nullptr && !keeper.history().get().empty();
 }
 
 std::optional<std::filesystem::path> ScanModel::historyFile() const
 {
-    const ScanHistoryStore *store = m_internals->store();
+    const ScanHistoryStore *store = m_internals->keeper().store();
     return store != nullptr ? std::optional(store->fileURL()) : std::nullopt;
 }
 
@@ -207,7 +200,12 @@ void ScanModel::scan()
 
 void ScanModel::clearHistory()
 {
-    m_internals->clearHistory();
+    m_internals->keeper().clear();
+}
+
+void ScanModel::finishHistory() const
+{
+    m_internals->keeper().finish();
 }
 
 } // namespace Loadwick

@@ -21,8 +21,9 @@ namespace Loadwick {
 
 /// Drives one scan at a time from a chosen folder to a recorded report, and owns the history.
 /// Belongs to the interface thread; only the blocking work of its collaborators runs elsewhere, and
-/// outcomes that arrive after the model is destroyed are dropped. Observers of its values may call
-/// it but must not destroy it.
+/// outcomes that arrive after the model is destroyed are dropped. The history is read, written and
+/// cleared in the background, in the order in which that was asked for. Observers of its values may
+/// call it but must not destroy it.
 class ScanModel
 {
 public:
@@ -33,7 +34,7 @@ public:
     {
         std::shared_ptr<ProbeRunning> probeRunner;
         std::shared_ptr<InstructionFileScanning> instructionScanner;
-        std::unique_ptr<ScanHistoryStore> historyStore = {}; ///< null: nothing is recorded
+        std::shared_ptr<ScanHistoryStore> historyStore = {}; ///< null: nothing is recorded
         std::shared_ptr<TaskDispatcher> dispatcher = {};
         /// The clock that dates recorded scans.
         std::function<std::chrono::sys_seconds()> now = [] {
@@ -41,7 +42,7 @@ public:
         };
     };
 
-    /// Loads the history. All collaborators but the store are required.
+    /// Begins to load the history. All collaborators but the store are required.
     explicit ScanModel(Collaborators collaborators);
     ~ScanModel();
 
@@ -50,12 +51,16 @@ public:
 
     [[nodiscard]] Published<ScanState> &state() noexcept;
     [[nodiscard]] Published<std::optional<RepoSelection>> &selection() noexcept;
-    [[nodiscard]] Published<std::vector<RecordedScan>> &history() noexcept; ///< oldest first
+    /// Oldest first; empty until it has been read.
+    [[nodiscard]] Published<std::vector<RecordedScan>> &history() noexcept;
+
+    /// Whether `history` says what is recorded: it has been read, and no change of it is underway.
+    [[nodiscard]] bool isHistoryComplete() const noexcept;
 
     /// A folder is chosen and no scan runs.
     [[nodiscard]] bool canScan() const noexcept;
 
-    /// There is a store, and it holds scans.
+    /// There is a store, and it is known to hold scans.
     [[nodiscard]] bool canClearHistory() const noexcept;
 
     /// The file of the history; nothing without a store.
@@ -70,6 +75,9 @@ public:
 
     /// Forgets every recorded scan, even when the file cannot be deleted.
     void clearHistory();
+
+    /// Returns when every scan that has ended is recorded and every deletion done. Blocking.
+    void finishHistory() const;
 
 private:
     class Internals;

@@ -22,10 +22,12 @@ ScanHistoryFile historyOf(FuzzInput input)
                       .total = input.takeInteger(FuzzInput::largestLimit),
                       .categories = {}};
     scan.date += std::chrono::seconds(input.takeInteger(200'000'000'000));
-    while (!input.isAtEnd() && scan.categories.size() < 8) {
+    RecordedCategories::List categories;
+    while (!input.isAtEnd() && categories.size() < 8) {
         const std::int64_t tokens = input.takeInteger(FuzzInput::largestLimit);
-        scan.categories.push_back({.name = std::string(input.takeLine()), .tokens = tokens});
+        categories.push_back({.name = std::string(input.takeLine()), .tokens = tokens});
     }
+    scan.categories = std::move(categories);
     return {.version = scan.total, .scans = {scan}};
 }
 
@@ -36,8 +38,10 @@ ScanHistoryFile storable(ScanHistoryFile file)
         scan.repositoryName = repairedUtf8(scan.repositoryName);
         scan.repositoryPath = repairedUtf8(scan.repositoryPath);
         scan.date = *IsoDate::fromText(IsoDate::text(scan.date));
-        for (RecordedCategory &category : scan.categories)
+        RecordedCategories::List categories(scan.categories.begin(), scan.categories.end());
+        for (RecordedCategory &category : categories)
             category.name = repairedUtf8(category.name);
+        scan.categories = std::move(categories);
     }
     return file;
 }
@@ -48,7 +52,7 @@ void checkLimit(const ScanHistoryFile &file, std::size_t limit)
     ScanHistoryFile expected = file;
     for (RecordedScan &scan : expected.scans)
         if (ScanHistoryFile{file.version, {scan}}.encoded().size() > limit)
-            scan.categories.clear();
+            scan.categories = {};
     const bool isTooLong = file.encoded().size() > limit;
     while (isTooLong && !expected.scans.empty() && expected.encoded().size() > limit)
         expected.scans.erase(expected.scans.begin());

@@ -247,10 +247,9 @@ TEST(ScanHistoryFileTest, leavesOutTheCategoriesOfAScanThatIsTooLongByItself)
 {
     ScanHistoryFile file = fiveScans();
     const std::size_t limit = file.encoded().size() + 100;
-    for (int category = 0; category < 1'000; ++category)
-        file.scans[3].categories.push_back({.name = "Category", .tokens = category});
+    file.scans[3].categories = RecordedCategories::List(1'000, {.name = "Category", .tokens = 1});
     ScanHistoryFile expected = file;
-    expected.scans[3].categories.clear();
+    expected.scans[3].categories = {};
     EXPECT_EQ(file.encodedWithin(limit), expected.encoded());
     EXPECT_EQ(file, expected);
 }

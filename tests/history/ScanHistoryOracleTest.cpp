@@ -49,8 +49,10 @@ public:
         Scans immense = scans();
         for (RecordedScan &scan : immense) {
             scan.total = figure();
-            for (RecordedCategory &category : scan.categories)
+            RecordedCategories::List categories(scan.categories.begin(), scan.categories.end());
+            for (RecordedCategory &category : categories)
                 category.tokens = figure() / (1 + below(9));
+            scan.categories = std::move(categories);
         }
         return immense;
     }

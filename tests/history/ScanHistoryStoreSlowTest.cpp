@@ -52,7 +52,7 @@ TEST(ScanHistoryStoreSlowTest, keepsTheTotalOfAScanThatIsTooLongForTheFile)
     const PeakMemory memory;
     const std::vector<RecordedScan> after = store.append(large);
     EXPECT_LT(memory.growthInBytes(), 400 * mebibyte);
-    large.categories.clear();
+    large.categories = {};
     EXPECT_EQ(after, (std::vector<RecordedScan>{before, large}));
     EXPECT_EQ(store.load(), after);
 }

@@ -308,6 +308,18 @@ TEST_F(ScanHistoryStoreTest, recordsNothingDuringALastingShortage)
     EXPECT_EQ(store.load(), known);
 }
 
+TEST_F(ScanHistoryStoreTest, sharesTheCategoriesOfWhatIsKnown)
+{
+    RecordedScan recorded = scanAt(1);
+    recorded.categories = {{.name = "System prompt", .tokens = 1}};
+    const Scans known = store.append(recorded);
+    RecordedScan changed = known.front();
+    changed.categories = {{.name = "System prompt", .tokens = 2}};
+    EXPECT_EQ(store.append(scanAt(2), known).front().categories.begin(),
+              known.front().categories.begin());
+    EXPECT_EQ(store.append(scanAt(3), {scanAt(1), changed}).front(), recorded);
+}
+
 TEST_F(ScanHistoryStoreTest, prefersTheFileToWhatIsKnown)
 {
     static_cast<void>(store.append(scanAt(1)));

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <fstream>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -32,14 +33,14 @@ TEST_F(ScanModelHistoryTest, loadsTheHistoryOldestFirst)
     const RecordedScan early = RecordedScanBuilder().at(1).build();
     static_cast<void>(store.append(late));
     static_cast<void>(store.append(early));
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     EXPECT_EQ(model.history().get(), (History{early, late}));
     EXPECT_TRUE(model.canClearHistory());
 }
 
 TEST_F(ScanModelHistoryTest, recordsASuccessfulScan)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     ASSERT_EQ(model.history().get().size(), 1U);
     const RecordedScan &recorded = model.history().get().front();
@@ -51,7 +52,7 @@ TEST_F(ScanModelHistoryTest, recordsASuccessfulScan)
 
 TEST_F(ScanModelHistoryTest, givesEveryRecordItsOwnIdentifier)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     harness.scanOnce(model);
     ASSERT_EQ(model.history().get().size(), 2U);
@@ -83,7 +84,7 @@ TEST_F(ScanModelHistoryTest, publishesTwoHundredScansWhenTwoHundredWereRecorded)
         file.scans.push_back(RecordedScanBuilder().at(second).build());
     std::filesystem::create_directories(harness.historyFolder());
     std::ofstream(harness.historyFolder() / ScanHistoryStore::fileName) << file.encoded();
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     const History before = model.history().get();
     ASSERT_EQ(before.size(), 200U);
     harness.scanOnce(model);
@@ -99,14 +100,14 @@ TEST_F(ScanModelHistoryTest, publishesTheNewListEvenWhenWritingFails)
     folder.write("scan-history.json/in the way", "");
     ScanModel::Collaborators collaborators = harness.collaborators();
     collaborators.historyStore = std::make_unique<ScanHistoryStore>(folder.path());
-    ScanModel model(std::move(collaborators));
+    LoadedScanModel model(harness, std::move(collaborators));
     harness.scanOnce(model);
     EXPECT_EQ(model.history().get().size(), 1U);
 }
 
 TEST_F(ScanModelHistoryTest, publishesWhatIsKnownWhileTheFileCannotBeRead)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     const History before = model.history().get();
     harness.beginScan(model, Harness::reporting);
@@ -121,9 +122,10 @@ TEST_F(ScanModelHistoryTest, publishesWhatIsKnownWhileTheFileCannotBeRead)
 
 TEST_F(ScanModelHistoryTest, clearsTheHistory)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     model.clearHistory();
+    harness.dispatcher->runAll();
     EXPECT_TRUE(model.history().get().empty());
     EXPECT_FALSE(model.canClearHistory());
     EXPECT_TRUE(harness.recorded().empty());
@@ -132,19 +134,20 @@ TEST_F(ScanModelHistoryTest, clearsTheHistory)
 
 TEST_F(ScanModelHistoryTest, clearsTheHistoryEvenIfTheFileCannotBeDeleted)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     const std::filesystem::path file = harness.historyFolder() / ScanHistoryStore::fileName;
     std::filesystem::remove(file);
     std::filesystem::create_directory(file); // a folder is never removed
     model.clearHistory();
+    harness.dispatcher->runAll();
     EXPECT_TRUE(model.history().get().empty());
     EXPECT_TRUE(std::filesystem::exists(file));
 }
 
 TEST_F(ScanModelHistoryTest, recordsAScanAfterAClearWhileItRan)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     harness.beginScan(model, Harness::probing);
     model.clearHistory();
@@ -153,12 +156,112 @@ TEST_F(ScanModelHistoryTest, recordsAScanAfterAClearWhileItRan)
     EXPECT_EQ(harness.recorded().size(), 1U);
 }
 
+TEST_F(ScanModelHistoryTest, readsInTheBackground)
+{
+    harness.scanOnce(*std::make_unique<LoadedScanModel>(harness));
+    int changes = 0;
+    ScanModel model(harness.collaborators());
+    model.history().observe({.didChange = [&] { ++changes; }});
+    EXPECT_FALSE(model.isHistoryComplete());
+    EXPECT_FALSE(model.canClearHistory());
+    ScanHistoryStore(harness.historyFolder()).clear(); // nobody has read it so far
+    harness.dispatcher->runAll();
+    EXPECT_EQ(changes, 1);
+    EXPECT_TRUE(model.isHistoryComplete());
+    EXPECT_TRUE(model.history().get().empty());
+}
+
+TEST_F(ScanModelHistoryTest, recordsInTheBackground)
+{
+    LoadedScanModel model(harness);
+    harness.beginScan(model, Harness::reporting);
+    harness.dispatcher->step();
+    EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
+    EXPECT_FALSE(model.isHistoryComplete());
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_TRUE(harness.recorded().empty());
+    harness.dispatcher->step();
+    EXPECT_TRUE(model.isHistoryComplete());
+    EXPECT_EQ(model.history().get().size(), 1U);
+    EXPECT_EQ(harness.recorded().size(), 1U);
+}
+
+TEST_F(ScanModelHistoryTest, clearsInTheBackground)
+{
+    LoadedScanModel model(harness);
+    harness.scanOnce(model);
+    model.clearHistory();
+    EXPECT_FALSE(model.isHistoryComplete());
+    EXPECT_EQ(model.history().get().size(), 1U);
+    EXPECT_EQ(harness.recorded().size(), 1U);
+    harness.dispatcher->runBackground();
+    EXPECT_TRUE(harness.recorded().empty());
+    harness.dispatcher->runPosted();
+    EXPECT_TRUE(model.isHistoryComplete());
+    EXPECT_TRUE(model.history().get().empty());
+}
+
+TEST_F(ScanModelHistoryTest, recordsAScanThatEndedBeforeTheHistoryWasRead)
+{
+    harness.scanOnce(*std::make_unique<LoadedScanModel>(harness));
+    std::vector<std::size_t> sizes;
+    ScanModel model(harness.collaborators());
+    model.history().observe({.didChange = [&] { sizes.push_back(model.history().get().size()); }});
+    model.select(harness.repository());
+    model.scan();
+    for (int stage = 0; stage < 3; ++stage)
+        harness.dispatcher->stepNewest();
+    EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
+    EXPECT_EQ(sizes, std::vector<std::size_t>());
+    harness.dispatcher->runAll();
+    EXPECT_EQ(sizes, (std::vector<std::size_t>{1, 2}));
+    EXPECT_EQ(harness.recorded(), model.history().get());
+}
+
+TEST_F(ScanModelHistoryTest, clearsWhatWasAskedForBefore)
+{
+    harness.scanOnce(*std::make_unique<LoadedScanModel>(harness));
+    std::vector<std::size_t> sizes;
+    ScanModel model(harness.collaborators());
+    model.history().observe({.didChange = [&] { sizes.push_back(model.history().get().size()); }});
+    model.clearHistory();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(sizes, (std::vector<std::size_t>{1, 0}));
+    EXPECT_TRUE(harness.recorded().empty());
+}
+
+TEST_F(ScanModelHistoryTest, recordsEvenWhenNoThreadCanBeStarted)
+{
+    LoadedScanModel model(harness);
+    harness.beginScan(model, Harness::reporting);
+    harness.dispatcher->refuseBackground();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.history().get().size(), 1U);
+    EXPECT_EQ(harness.recorded().size(), 1U);
+}
+
+TEST_F(ScanModelHistoryTest, finishesWhatIsToBeWrittenAndAwaitsNoReading)
+{
+    ScanModel model(harness.collaborators());
+    model.finishHistory();
+    EXPECT_FALSE(model.isHistoryComplete());
+    harness.dispatcher->runAll();
+    harness.beginScan(model, Harness::reporting);
+    harness.dispatcher->step();
+    std::thread disk([this] { harness.dispatcher->runBackground(); });
+    model.finishHistory();
+    EXPECT_EQ(harness.recorded().size(), 1U);
+    disk.join();
+    harness.dispatcher->runAll();
+    EXPECT_TRUE(model.isHistoryComplete());
+}
+
 TEST_F(ScanModelHistoryTest, keepsBothScansWhenTheClockWasSetBackBetweenThem)
 {
     ScanModel::Collaborators collaborators = harness.collaborators();
     std::chrono::sys_seconds clock = Harness::now;
     collaborators.now = [&clock] { return clock; };
-    ScanModel model(std::move(collaborators));
+    LoadedScanModel model(harness, std::move(collaborators));
     harness.scanOnce(model);
     clock -= std::chrono::hours(1);
     harness.scanOnce(model);

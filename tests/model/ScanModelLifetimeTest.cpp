@@ -21,7 +21,7 @@ TEST(ScanModelLifetimeTest, dropsAnOutcomeAfterTheModelIsDestroyed)
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness harness;
-        std::optional<ScanModel> model(std::in_place, harness.collaborators());
+        std::optional<LoadedScanModel> model(std::in_place, harness);
         harness.beginScan(*model, stage);
         model.reset();
         harness.dispatcher->runAll();
@@ -35,7 +35,7 @@ TEST(ScanModelLifetimeTest, dropsAnOutcomeThatWasPostedBeforeTheModelWasDestroye
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness harness;
-        std::optional<ScanModel> model(std::in_place, harness.collaborators());
+        std::optional<LoadedScanModel> model(std::in_place, harness);
         harness.beginScan(*model, stage);
         harness.dispatcher->runBackground();
         model.reset();
@@ -49,7 +49,7 @@ TEST(ScanModelLifetimeTest, dropsAFailureToo)
 {
     const Harness harness;
     harness.probe->answer = []() -> ProbeResult { throw ProbeError::timedOut(); };
-    std::optional<ScanModel> model(std::in_place, harness.collaborators());
+    std::optional<LoadedScanModel> model(std::in_place, harness);
     harness.beginScan(*model, Harness::probing);
     harness.dispatcher->runBackground();
     model.reset();
@@ -64,7 +64,7 @@ TEST(ScanModelLifetimeTest, keepsItsCollaboratorsAliveForARunningStage)
     const std::weak_ptr<FakeProbe> witness = probe;
     ScanModel::Collaborators collaborators = harness.collaborators();
     collaborators.probeRunner = std::move(probe);
-    std::optional<ScanModel> model(std::in_place, std::move(collaborators));
+    std::optional<LoadedScanModel> model(std::in_place, harness, std::move(collaborators));
     harness.beginScan(*model, Harness::probing);
     model.reset();
     EXPECT_FALSE(witness.expired());
@@ -75,7 +75,7 @@ TEST(ScanModelLifetimeTest, keepsItsCollaboratorsAliveForARunningStage)
 TEST(ScanModelLifetimeTest, letsASecondModelScanWhileAStageOfTheFirstIsStillRunning)
 {
     const Harness harness;
-    std::optional<ScanModel> first(std::in_place, harness.collaborators());
+    std::optional<LoadedScanModel> first(std::in_place, harness);
     harness.beginScan(*first, Harness::probing);
     first.reset();
     ScanModel second(harness.collaborators());

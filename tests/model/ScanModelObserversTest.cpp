@@ -35,7 +35,7 @@ class ScanModelObserversTest : public testing::Test
 {
 protected:
     Harness harness;
-    ScanModel model{harness.collaborators()};
+    LoadedScanModel model{harness};
     Log log;
 };
 

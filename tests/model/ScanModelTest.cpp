@@ -34,7 +34,7 @@ TEST_F(ScanModelTest, statesWhatAScanCosts)
 
 TEST_F(ScanModelTest, beginsIdleWithoutAFolder)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     EXPECT_EQ(model.state().get(), ScanState::idle());
     EXPECT_FALSE(model.selection().get());
     EXPECT_TRUE(model.history().get().empty());
@@ -45,7 +45,7 @@ TEST_F(ScanModelTest, beginsIdleWithoutAFolder)
 
 TEST_F(ScanModelTest, doesNothingWithoutASelection)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     model.scan();
     EXPECT_EQ(model.state().get(), ScanState::idle());
     EXPECT_EQ(harness.dispatcher->backgroundCount(), 0U);
@@ -54,7 +54,7 @@ TEST_F(ScanModelTest, doesNothingWithoutASelection)
 
 TEST_F(ScanModelTest, scansTheChosenFolder)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     model.select(harness.repository());
     EXPECT_TRUE(model.canScan());
     model.scan();
@@ -69,7 +69,7 @@ TEST_F(ScanModelTest, scansTheChosenFolder)
 
 TEST_F(ScanModelTest, keepsTheChosenNameAndTheFilesInTheReport)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     InstructionFileSet files;
     files.repositoryFiles = {InstructionFileEstimate::fromPath("/a/CLAUDE.md", 400)};
     files.unreadablePaths = {"/a/AGENTS.md"};
@@ -87,7 +87,7 @@ TEST_F(ScanModelTest, keepsTheChosenNameAndTheFilesInTheReport)
 
 TEST_F(ScanModelTest, runsTheProbeOnceForTwoScansStartedBackToBack)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     model.select(harness.repository());
     model.scan();
     model.scan();
@@ -130,7 +130,7 @@ TEST_F(ScanModelTest, ignoresAChoiceInEveryStageOfAScan)
 
 TEST_F(ScanModelTest, returnsToIdleWhenAFolderIsChosenAfterAResultOrAFailure)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     model.select(harness.repository());
     EXPECT_EQ(model.state().get(), ScanState::idle());
@@ -144,7 +144,7 @@ TEST_F(ScanModelTest, returnsToIdleWhenAFolderIsChosenAfterAResultOrAFailure)
 
 TEST_F(ScanModelTest, neverReachesTheProbeWhenTheFolderCannotBeListed)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     const std::filesystem::path missing = harness.historyFolder() / "missing";
     model.select(RepoSelection::fromUrl(missing));
     model.scan();
@@ -162,7 +162,7 @@ TEST_F(ScanModelTest, showsAProbeErrorUnchanged)
     for (const ProbeError &error :
          {ProbeError::cliNotFound({"/a", "/b"}), ProbeError::notAuthenticated(),
           ProbeError::sessionFailed("limit"), ProbeError::multiTurnUsageOnly(3)}) {
-        ScanModel model(harness.collaborators());
+        LoadedScanModel model(harness);
         harness.probe->answer = [error]() -> ProbeResult { throw ProbeError(error); };
         harness.beginScan(model, Harness::reporting);
         EXPECT_EQ(model.state().get(), ScanState::failed(error));
@@ -174,7 +174,7 @@ TEST_F(ScanModelTest, showsAProbeErrorUnchanged)
 
 TEST_F(ScanModelTest, showsAnyOtherProbeErrorAsUnreadableOutput)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.probe->answer = []() -> ProbeResult { throw std::runtime_error("the pipe broke"); };
     harness.beginScan(model, Harness::reporting);
     EXPECT_EQ(model.state().get(),
@@ -188,7 +188,7 @@ TEST_F(ScanModelTest, showsAnyOtherProbeErrorAsUnreadableOutput)
 
 TEST_F(ScanModelTest, failsWhenTheFileScanRunsOutOfMemory)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanner->answer = []() -> InstructionFileSet { throw std::bad_alloc(); };
     harness.scanOnce(model);
     EXPECT_EQ(model.state().get(),
@@ -201,7 +201,7 @@ TEST_F(ScanModelTest, failsWhenAStageCannotBeStarted)
 {
     for (const Harness::Stage stage : everyRunningStage) {
         const Harness fresh;
-        ScanModel model(fresh.collaborators());
+        LoadedScanModel model(fresh);
         if (stage == Harness::folderCheck)
             fresh.dispatcher->refuseBackground();
         fresh.beginScan(model, Harness::folderCheck);
@@ -221,7 +221,7 @@ TEST_F(ScanModelTest, failsWhenAStageCannotBeStarted)
 
 TEST_F(ScanModelTest, scansAgainFromAResultAndFromAFailure)
 {
-    ScanModel model(harness.collaborators());
+    LoadedScanModel model(harness);
     harness.scanOnce(model);
     harness.probe->answer = []() -> ProbeResult { throw ProbeError::timedOut(); };
     model.scan();
@@ -242,7 +242,7 @@ TEST_F(ScanModelTest, requiresEachOfItsCollaborators)
     const auto without = [this](auto leaveOut) {
         ScanModel::Collaborators all = harness.collaboratorsWithoutStore();
         leaveOut(all);
-        ScanModel model(std::move(all));
+        LoadedScanModel model(harness, std::move(all));
     };
     EXPECT_DEATH(without([](auto &all) { all.probeRunner = nullptr; }), "lacks a collaborator");
     EXPECT_DEATH(without([](auto &all) { all.instructionScanner = nullptr; }),

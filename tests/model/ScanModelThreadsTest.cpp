@@ -77,7 +77,7 @@ TEST(ScanModelThreadsTest, runsItsStagesOnBackgroundThreads)
     ScanModel model(std::move(collaborators));
     model.select(harness.repository());
     model.scan();
-    while (model.state().get().isScanning())
+    while (model.state().get().isScanning() || !model.isHistoryComplete())
         dispatcher->runNextPosted();
     EXPECT_EQ(model.history().get().size(), 1U);
 }
@@ -86,7 +86,7 @@ TEST(ScanModelThreadsTest, mayBeDestroyedWhileAStageRuns)
 {
     const ScanModelHarness harness;
     const auto dispatcher = std::make_shared<ThreadDispatcher>();
-    for (int posted = 0; posted < 3; ++posted) {
+    for (int posted = 0; posted < 4; ++posted) {
         ScanModel::Collaborators collaborators = harness.collaborators();
         collaborators.dispatcher = dispatcher;
         std::optional<ScanModel> model(std::in_place, std::move(collaborators));

@@ -39,13 +39,15 @@ RecordedScanBuilder &RecordedScanBuilder::ofTotal(std::int64_t tokens)
 
 RecordedScanBuilder &RecordedScanBuilder::withCategory(std::string name, std::int64_t tokens)
 {
-    m_scan.categories.push_back({.name = std::move(name), .tokens = tokens});
+    m_categories.push_back({.name = std::move(name), .tokens = tokens});
     return *this;
 }
 
 RecordedScan RecordedScanBuilder::build() const
 {
-    return m_scan;
+    RecordedScan scan = m_scan;
+    scan.categories = m_categories;
+    return scan;
 }
 
 } // namespace Loadwick

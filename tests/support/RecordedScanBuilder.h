@@ -24,6 +24,7 @@ public:
 
 private:
     RecordedScan m_scan;
+    RecordedCategories::List m_categories;
 };
 
 } // namespace Loadwick

@@ -1,5 +1,7 @@
 #include "support/ScanModelHarness.h"
 
+#include <utility>
+
 #include "report/ScanReport.h"
 #include "samples/SampleReport.h"
 
@@ -69,6 +71,16 @@ void ScanModelHarness::scanOnce(ScanModel &model) const
 {
     beginScan(model, folderCheck);
     dispatcher->runAll();
+}
+
+LoadedScanModel::LoadedScanModel(const ScanModelHarness &harness)
+    : LoadedScanModel(harness, harness.collaborators())
+{}
+
+LoadedScanModel::LoadedScanModel(const ScanModelHarness &harness, Collaborators collaborators)
+    : ScanModel(std::move(collaborators))
+{
+    harness.dispatcher->runAll();
 }
 
 } // namespace Loadwick

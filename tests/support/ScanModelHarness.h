@@ -68,4 +68,12 @@ private:
     TemporaryFolder m_folder;
 };
 
+/// A model of the harness that has read its history.
+class LoadedScanModel : public ScanModel
+{
+public:
+    explicit LoadedScanModel(const ScanModelHarness &harness);
+    LoadedScanModel(const ScanModelHarness &harness, Collaborators collaborators);
+};
+
 } // namespace Loadwick

@@ -102,6 +102,7 @@ void ScanModelWalk::start()
                                        : m_harness.collaboratorsWithoutStore();
     all.now = [this] { return m_now; };
     m_model.emplace(std::move(all));
+    m_harness.dispatcher->runAll();
     m_model->selection().observe({.didChange = [this] { m_changes += 's'; }});
     m_model->state().observe({.didChange = [this] { m_changes += 't'; }});
     m_model->history().observe({.didChange = [this] { m_changes += 'h'; }});
@@ -131,9 +132,16 @@ void ScanModelWalk::scan()
         refuse();
 }
 
+/// An outcome that was posted arrives before that of the deletion.
 void ScanModelWalk::clear()
 {
+    if (m_harness.dispatcher->postedCount() > 0)
+        return continueScan();
     m_model->clearHistory();
+    if (m_harness.dispatcher->postedCount() > 0)
+        m_harness.dispatcher->runPosted(); // no thread could be started
+    else if (m_recording == Recording::withStore)
+        m_harness.dispatcher->stepNewest();
     m_table.clear();
 }
 
@@ -165,11 +173,17 @@ void ScanModelWalk::receive()
     if (m_error)
         m_table.fail(*m_error);
     else if (m_stage == 2)
-        m_table.succeed(m_now);
+        succeed();
     else if (m_refusesThreads)
         refuse();
     ++m_stage;
     m_endedScans += m_table.phase() == Phase::scanning ? 0 : 1;
+}
+
+void ScanModelWalk::succeed()
+{
+    m_harness.dispatcher->runAll();
+    m_table.succeed(m_now);
 }
 
 void ScanModelWalk::refuse()

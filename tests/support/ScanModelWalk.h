@@ -57,6 +57,7 @@ private:
     void quit();
     void continueScan();
     void receive();
+    void succeed();
     void refuse();
     void changeCollaborators();
     void moveClock();

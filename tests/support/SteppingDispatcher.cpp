@@ -1,5 +1,6 @@
 #include "support/SteppingDispatcher.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -46,6 +47,13 @@ void SteppingDispatcher::step()
 {
     runBackground();
     runPosted();
+}
+
+void SteppingDispatcher::stepNewest()
+{
+    if (!m_background.empty())
+        std::rotate(m_background.begin(), m_background.end() - 1, m_background.end());
+    step();
 }
 
 void SteppingDispatcher::runAll()

@@ -31,6 +31,9 @@ public:
     /// Runs one background task and the outcome that it posts.
     void step();
 
+    /// The same for the task that came last: threads may end in any order.
+    void stepNewest();
+
     /// Steps until nothing is left.
     void runAll();
 

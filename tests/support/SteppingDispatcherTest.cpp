@@ -41,6 +41,20 @@ TEST(SteppingDispatcherTest, runsTasksInOrder)
     EXPECT_EQ(log, "01234");
 }
 
+TEST(SteppingDispatcherTest, stepsTheNewestTaskFirstIfAsked)
+{
+    SteppingDispatcher dispatcher;
+    std::string log;
+    for (const char letter : {'a', 'b', 'c'})
+        dispatcher.runInBackground([&, letter] {
+            log += letter;
+            dispatcher.postToInterface([&] { log += '.'; });
+        });
+    dispatcher.stepNewest();
+    dispatcher.runAll();
+    EXPECT_EQ(log, "c.a.b.");
+}
+
 TEST(SteppingDispatcherTest, destroysATaskThatHasRun)
 {
     SteppingDispatcher dispatcher;

@@ -95,6 +95,7 @@ bool Scene::isNamedBy(const std::vector<std::string> &words) const
 
 Stage::Stage() : m_loadwick(withHistory(m_folder.path()))
 {
+    waitUntil("the history", [this] { return m_loadwick.model().isHistoryComplete(); });
     m_loadwick.overview().weekly()->show(sampleWeek());
     window().show();
 }

@@ -209,6 +209,7 @@ private Q_SLOTS:
     {
         scan("one");
         m_window->loadwick().model().clearHistory();
+        m_window->finishClearing();
         QVERIFY(!m_window->shows(list));
     }
 

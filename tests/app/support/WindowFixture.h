@@ -48,6 +48,7 @@ public:
     /// Ctrl+O with `folder` as the answer.
     void choose(const std::filesystem::path &folder);
     void finishScan() { m_dispatcher->runAll(); }
+    void finishClearing() { m_dispatcher->runAll(); }
     /// One whole scan of the folder, by the keys.
     void scan(const std::filesystem::path &folder);
     /// Presses the button of that name as assistive technology does.

@@ -25,8 +25,10 @@ private Q_SLOTS:
             .probeRunner = std::make_shared<FakeProbe>(),
             .instructionScanner = std::make_shared<FakeInstructionScanner>(),
             .historyStore = std::make_unique<ScanHistoryStore>(m_folder->path()),
-            .dispatcher = std::make_shared<SteppingDispatcher>(),
+            .dispatcher = m_dispatcher,
         });
+        QCOMPARE(RecordedDataPresenter(*m_model, TextLocale()).storageNote(), QString());
+        m_dispatcher->runAll();
         m_data = std::make_unique<RecordedDataPresenter>(*m_model, TextLocale());
     }
 
@@ -102,6 +104,7 @@ private Q_SLOTS:
         m_model->history().set(store.append(RecordedScanBuilder().build()));
         QVERIFY(std::filesystem::exists(store.fileURL()));
         m_data->clear();
+        m_dispatcher->runAll();
         QVERIFY(m_model->history().get().empty());
         QVERIFY(!std::filesystem::exists(store.fileURL()));
         QVERIFY(!m_data->canClear());
@@ -227,6 +230,7 @@ private:
     }
 
     std::unique_ptr<TemporaryFolder> m_folder;
+    std::shared_ptr<SteppingDispatcher> m_dispatcher = std::make_shared<SteppingDispatcher>();
     std::unique_ptr<ScanModel> m_model;
     std::unique_ptr<RecordedDataPresenter> m_data;
 };

@@ -199,9 +199,9 @@ void ScanChangesPresenterTest::saysWhyThereAreOnlyTotals()
     QFETCH(const QString, start);
     std::vector<RecordedScan> scans = scansOf(2);
     if (!hasBefore)
-        scans[0].categories.clear();
+        scans[0].categories = {};
     if (!hasAfter)
-        scans[1].categories.clear();
+        scans[1].categories = {};
     record(std::move(scans));
     QCOMPARE(m_changes->rows()->count(), 1);
     QCOMPARE(m_changes->unchanged(), QString());
@@ -374,10 +374,13 @@ void ScanChangesPresenterTest::comparesTheLargestScans()
     std::vector<RecordedScan> scans(200, scanOf(1).build());
     for (int index = 0; index < 200; ++index)
         scans[std::size_t(index)] = scanOf(index, index).build();
-    for (RecordedScan &scan : std::span(scans).last(2))
+    for (RecordedScan &scan : std::span(scans).last(2)) {
+        RecordedCategories::List categories;
         for (std::int64_t index = 0; index < categoryCount; ++index)
-            scan.categories.push_back(
+            categories.push_back(
                 {"category " + std::to_string(index), index + scan.total % 2 * (index + 1)});
+        scan.categories = std::move(categories);
+    }
     record(std::move(scans));
     QCOMPARE(m_changes->rows()->count(), 1 + categoryCount);
     QCOMPARE(m_changes->earlierScans()->count(), 199);

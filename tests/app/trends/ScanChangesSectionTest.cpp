@@ -26,14 +26,13 @@ std::vector<RecordedScan> scansOf(int count, int categoryCount)
 {
     std::vector<RecordedScan> scans;
     for (std::int64_t scan = 0; scan < count; ++scan) {
-        scans.push_back(RecordedScanBuilder()
-                            .in(sampleReport().repositoryPath)
-                            .at(firstScan + scan * day)
-                            .ofTotal(sampleReport().total - count + 1 + scan)
-                            .build());
+        RecordedScanBuilder builder;
+        builder.in(sampleReport().repositoryPath).at(firstScan + scan * day);
+        builder.ofTotal(sampleReport().total - count + 1 + scan);
         for (std::int64_t index = 0; index < categoryCount; ++index)
-            scans.back().categories.push_back(
-                {"category " + std::to_string(index), scan * (categoryCount - index)});
+            builder.withCategory("category " + std::to_string(index),
+                                 scan * (categoryCount - index));
+        scans.push_back(builder.build());
     }
     return scans;
 }

@@ -120,6 +120,7 @@ private Q_SLOTS:
         press("Clear Recorded Data…");
         QTRY_VERIFY(shows("Delete 2 Recorded Scans"));
         press("Delete 2 Recorded Scans");
+        m_window->finishClearing();
         QTRY_VERIFY(shows("Clear Recorded Data…"));
         QVERIFY(!m_window->isPressable(QStringLiteral("Clear Recorded Data…")));
         QVERIFY(!std::filesystem::exists(historyFile()));

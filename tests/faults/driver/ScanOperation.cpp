@@ -55,7 +55,8 @@ public:
     void perform() override
     {
         m_model->scan();
-        m_hasEnded = m_dispatcher->runUntil([this] { return m_model->canScan(); }, 25.0);
+        m_hasEnded = m_dispatcher->runUntil(
+            [this] { return m_model->canScan() && m_model->isHistoryComplete(); }, 25.0);
     }
 
     std::optional<std::string> problem(Ending ending,

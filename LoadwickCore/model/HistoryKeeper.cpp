@@ -1,0 +1,82 @@
+#include "model/HistoryKeeper.h"
+
+#include <new>
+#include <utility>
+
+namespace Loadwick {
+
+HistoryKeeper::HistoryKeeper(std::shared_ptr<ScanHistoryStore> store,
+                             std::shared_ptr<TaskDispatcher> dispatcher)
+    : m_records(std::make_shared<Records>(Records{.store = std::move(store)})),
+      m_dispatcher(std::move(dispatcher)),
+      m_tasks(m_dispatcher)
+{}
+
+void HistoryKeeper::load()
+{
+    if (store() == nullptr)
+        return;
+    m_isLoaded = false;
+    run([](Records &records) { records.last = records.store->load(); },
+        [](HistoryKeeper &self) { self.m_isLoaded = true; });
+}
+
+void HistoryKeeper::record(const RecordedScan &scan)
+{
+    if (store() == nullptr)
+        return;
+    change([scan](Records &records) { records.last = records.store->append(scan, records.last); });
+}
+
+void HistoryKeeper::clear()
+{
+    if (store() == nullptr)
+        return m_history.set({});
+    change([](Records &records) {
+        records.store->clear();
+        records.last.clear();
+    });
+}
+
+void HistoryKeeper::finish() const
+{
+    if (m_unwritten > 0)
+        m_tasks.finish();
+}
+
+template<typename Work>
+void HistoryKeeper::change(Work work)
+{
+    run(std::move(work), [](HistoryKeeper &self) { --self.m_unwritten; });
+    ++m_unwritten;
+}
+
+/// Allocates what delivering the outcome needs: memory may have run out after the work.
+template<typename Work, typename Arrive>
+void HistoryKeeper::run(Work work, Arrive arrive)
+{
+    const auto outcome = std::make_shared<std::optional<History>>();
+    TaskDispatcher::Task arrival = [weak = weak_from_this(), arrive, outcome] {
+        if (const std::shared_ptr<HistoryKeeper> self = weak.lock()) {
+            arrive(*self);
+            self->publish(*outcome);
+        }
+    };
+    m_tasks.run([records = m_records, work = std::move(work), outcome, dispatcher = m_dispatcher,
+                 arrival = std::move(arrival)]() mutable {
+        try {
+            work(*records);
+            *outcome = records->last;
+        } catch (const std::bad_alloc &) {
+            // What was recorded remains, on disk and on the pages.
+        }
+        dispatcher->postToInterface(std::move(arrival));
+    });
+}
+
+void HistoryKeeper::publish(std::optional<History> &outcome)
+{
+    m_history.set(outcome ? std::move(*outcome) : History(m_history.get()));
+}
+
+} // namespace Loadwick

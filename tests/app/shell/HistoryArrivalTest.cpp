@@ -1,0 +1,113 @@
+#include <memory>
+
+#include <QTest>
+
+#include "compare/ComparePresenter.h"
+#include "overview/LatestChangePresenter.h"
+#include "samples/SampleReport.h"
+#include "samples/TemporaryFolder.h"
+#include "support/RecordedScanBuilder.h"
+#include "support/ScanFakes.h"
+#include "support/SteppingDispatcher.h"
+#include "support/TestRegistry.h"
+#include "trends/TrendsPresenter.h"
+
+namespace Loadwick {
+
+/// What the pages say while the history is on its way from the disk or to it.
+class HistoryArrivalTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<TemporaryFolder>();
+        m_dispatcher = std::make_shared<SteppingDispatcher>();
+    }
+
+    void cleanup()
+    {
+        m_model.reset();
+        m_dispatcher->runAll();
+    }
+
+    void thePagesSayThatTheScansAreBeingRead()
+    {
+        start();
+        TrendsPresenter trends(*m_model, TextLocale());
+        ComparePresenter compare(*m_model, TextLocale());
+        const QString reading = QStringLiteral("Reading the recorded scans…");
+        QCOMPARE(trends.chart()->emptyText(), reading);
+        QCOMPARE(trends.recordedData()->storageNote(), QString());
+        QVERIFY(!trends.recordedData()->canClear());
+        QCOMPARE(compare.emptyTitle(), reading);
+        QCOMPARE(compare.emptyText(), QString());
+        m_dispatcher->runAll();
+        QVERIFY(trends.chart()->emptyText().startsWith(QStringLiteral("Scans are recorded ")));
+        QVERIFY(trends.recordedData()->storageNote().startsWith(QStringLiteral("0 scans")));
+        QCOMPARE(compare.emptyTitle(), QStringLiteral("No recorded scans yet"));
+    }
+
+    void thePagesShowTheScansOnceTheyAreRead()
+    {
+        record(RecordedScanBuilder().in("/a").at(1).build());
+        record(RecordedScanBuilder().in("/b").at(2).build());
+        start();
+        TrendsPresenter trends(*m_model, TextLocale());
+        ComparePresenter compare(*m_model, TextLocale());
+        m_dispatcher->runAll();
+        QCOMPARE(trends.chart()->emptyTitle(), QStringLiteral("One scan recorded"));
+        QVERIFY(trends.recordedData()->canClear());
+        QCOMPARE(compare.emptyTitle(), QString());
+        QCOMPARE(compare.columnCount(), 2);
+    }
+
+    // The two scans before have the same total as the one that is being recorded.
+    void theChangeIsShownOnceTheScanIsRecorded()
+    {
+        const std::string path = sampleReport().repositoryPath;
+        const std::int64_t total = sampleReport().total;
+        record(RecordedScanBuilder().in(path).at(1).ofTotal(total - 5).build());
+        record(RecordedScanBuilder().in(path).at(2).ofTotal(total).build());
+        start();
+        LatestChangePresenter change(*m_model, TextLocale());
+        change.show(sampleReport());
+        QVERIFY(!change.isKnown());
+        m_dispatcher->runAll();
+        QVERIFY(change.isKnown());
+        m_model->clearHistory();
+        change.show(sampleReport());
+        QVERIFY(!change.isKnown());
+        m_dispatcher->runAll();
+        QVERIFY(!change.isKnown());
+    }
+
+private:
+    void record(const RecordedScan &scan)
+    {
+        static_cast<void>(ScanHistoryStore(m_folder->path()).append(scan));
+    }
+
+    void start()
+    {
+        m_model = std::make_unique<ScanModel>(ScanModel::Collaborators{
+            .probeRunner = std::make_shared<FakeProbe>(),
+            .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+            .historyStore = std::make_shared<ScanHistoryStore>(m_folder->path()),
+            .dispatcher = m_dispatcher});
+    }
+
+    std::unique_ptr<TemporaryFolder> m_folder;
+    std::shared_ptr<SteppingDispatcher> m_dispatcher;
+    std::unique_ptr<ScanModel> m_model;
+};
+
+namespace {
+
+const RegisteredTest<HistoryArrivalTest> registered("HistoryArrival");
+
+} // namespace
+} // namespace Loadwick
+
+#include "HistoryArrivalTest.moc"
