@@ -83,7 +83,7 @@ class ChangesTest(EndToEndCase):
     def test_a_date_is_chosen_from_the_list(self) -> None:
         program = self.scan_twice()
         self.scan(program)
-        self.press_beginning(program, "±0 tokens since ")
+        self.press_beginning(program, "+0 tokens since ")
         program.window.wait_for(ROWS[0].replace("42,318", "36,204").replace("-6,114", "+0"))
         self.press_beginning(program, "After: ")
         until("the dates", lambda: len(self.names_of(program, "menu item")) == 2)
