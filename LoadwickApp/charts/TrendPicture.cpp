@@ -21,6 +21,8 @@ constexpr double lineWidth = 2;
 constexpr double pointRadius = 4;
 constexpr double densePointRadius = 2.5;
 constexpr std::size_t denseFrom = 80; // from this many points, large ones merge into a band
+constexpr double haloRadius = 8.5;    // around the current point, and around a mark placed on it
+constexpr double haloWidth = 1.5;
 constexpr double nameGap = 8;
 constexpr double readoutRadius = 6;
 constexpr double readoutGap = 8; // between its date and its total
@@ -200,9 +202,13 @@ void TrendPicture::paintScans(QPainter &painter) const
 
 void TrendPicture::paintMarkedPoint(QPainter &painter, std::size_t mark) const
 {
-    painter.setPen(QPen(m_style.line, lineWidth));
+    const QPointF centre = pixel(m_line.geometry().points()[mark]);
+    painter.setPen(QPen(m_style.secondaryText, haloWidth));
     painter.setBrush(m_style.ground);
-    painter.drawEllipse(pixel(m_line.geometry().points()[mark]), pointRadius + 1, pointRadius + 1);
+    painter.drawEllipse(centre, haloRadius, haloRadius);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_style.line);
+    painter.drawEllipse(centre, pointRadius, pointRadius);
 }
 
 void TrendPicture::paintMark(QPainter &painter, std::size_t mark) const

@@ -116,6 +116,14 @@ ReportSurface {
         wrapMode: Text.Wrap
         visible: !card.isEmpty
     }
+    PlainLabel {
+        Layout.fillWidth: true
+        text: qsTr("A click on a scan, or Enter, makes it the later one in \"What changed\" below.")
+        font: AppTheme.captionFont
+        secondary: true
+        wrapMode: Text.Wrap
+        visible: card.changes !== null && card.changes.laterPoint >= 0
+    }
     ExportBar {
         Layout.fillWidth: true
         exporter: card.exporter

@@ -170,6 +170,21 @@ private Q_SLOTS:
         QCOMPARE(at.afterMoveTo(1, 1), QString());
     }
 
+    // A ring would look like the mark of a compared scan.
+    void aHaloMarksTheCurrentScan()
+    {
+        ChartWindow at;
+        at.show({10'000, 20'000, 30'000});
+        at.activate();
+        const QImage before = at.picture();
+        (void)at.afterKey(Qt::Key_Right);
+        (void)at.afterKey(Qt::Key_Right);
+        const QPoint centre = at.chart.centreOf(1).toPoint();
+        const QPoint halo = centre + QPoint(6, 6);
+        QCOMPARE(at.picture().pixelColor(centre), lineColor);
+        QVERIFY(at.picture().pixelColor(halo) != before.pixelColor(halo));
+    }
+
     void everyScanIsUnderTheCentreOfItsPoint()
     {
         ChartWindow at;
