@@ -15,7 +15,7 @@ class Sight : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Attached to items.")
-    QML_ATTACHED(Sight)
+    QML_ATTACHED(Loadwick::Sight)
     Q_PROPERTY(bool isSeen READ isSeen NOTIFY isSeenChanged)
 
 public:
