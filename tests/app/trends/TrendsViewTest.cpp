@@ -166,7 +166,7 @@ private Q_SLOTS:
         history.push_back(RecordedScanBuilder().at(1'800'000'000).ofTotal(42).build());
         m_window->loadwick().model().history().set(std::move(history));
         QTRY_VERIFY(shows("42"));
-        QTest::qWait(50);
+        QVERIFY(settles(m_window->loadwick().window()));
         QCOMPARE(flickable->property("contentY").toDouble(), 300.0);
     }
 
