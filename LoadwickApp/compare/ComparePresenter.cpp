@@ -1,7 +1,9 @@
 #include "compare/ComparePresenter.h"
 
+#include <exception>
 #include <utility>
 
+#include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
 #include "components/TrendMark.h"
 #include "history/ScanTables.h"
@@ -12,6 +14,17 @@ namespace {
 
 // About two windows' worth.
 constexpr std::size_t manyBars = 120;
+
+// Comparing as many may take longer than a frame.
+constexpr std::size_t manyCategories = 20'000;
+
+std::size_t categoriesOf(std::span<const RecordedScan> scans)
+{
+    std::size_t count = 0;
+    for (const RecordedScan &scan : scans)
+        count += scan.categories.size();
+    return count;
+}
 
 QString scanCountText(std::int64_t count)
 {
@@ -63,9 +76,11 @@ std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale)
     };
 }
 
-ComparePresenter::ComparePresenter(ScanModel &model, TextLocale locale)
+ComparePresenter::ComparePresenter(ScanModel &model, TextLocale locale,
+                                   std::shared_ptr<TaskDispatcher> dispatcher)
     : m_model(model),
       m_locale(std::move(locale)),
+      m_dispatcher(std::move(dispatcher)),
       m_leaderboard(leaderboardRoles(m_locale)),
       m_combined(combinedRoles(m_locale))
 {
@@ -107,7 +122,22 @@ std::function<QByteArray()> ComparePresenter::table() const
 
 void ComparePresenter::showHistory()
 {
-    m_comparison = std::make_shared<const Comparison>(Comparison::of(m_model.history().get()));
+    ++m_changes;
+    const auto compare = [history = m_model.history().get()] {
+        return std::make_shared<const Comparison>(Comparison::of(history));
+    };
+    const auto showUnlessOld = [this, change = m_changes](const auto &comparison) {
+        if (change == m_changes)
+            show(comparison);
+    };
+    const bool isSlow = m_dispatcher && categoriesOf(m_model.history().get()) > manyCategories;
+    if (!isSlow || !inBackground(this, m_dispatcher, compare, showUnlessOld))
+        show(compare());
+}
+
+void ComparePresenter::show(std::shared_ptr<const Comparison> comparison)
+{
+    std::shared_ptr<const Comparison> before = std::exchange(m_comparison, std::move(comparison));
     m_emptyTitle.clear();
     m_emptyText.clear();
     if (m_comparison->columns.size() < 2) {
@@ -117,6 +147,20 @@ void ComparePresenter::showHistory()
     m_leaderboard.setRows(ranked(m_comparison->leaderboard));
     m_combined.setRows(CombinedLines(m_comparison));
     Q_EMIT changed();
+    if (before)
+        release(std::move(before));
+}
+
+/// Freeing the names of a large one takes longer than a frame.
+void ComparePresenter::release(std::shared_ptr<const Comparison> comparison) const
+{
+    if (!m_dispatcher || comparison->bars.rowCount() <= manyCategories)
+        return;
+    try {
+        m_dispatcher->runInBackground([comparison = std::move(comparison)] {});
+    } catch (const std::exception &) {
+        // No thread can be started: freed here.
+    }
 }
 
 void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)

@@ -14,6 +14,7 @@
 #include "compare/CombinedChart.h"
 #include "compare/Comparison.h"
 #include "model/ScanModel.h"
+#include "model/TaskDispatcher.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
@@ -52,7 +53,10 @@ class ComparePresenter final : public QObject
     Q_PROPERTY(QString scaleEnd READ scaleEnd NOTIFY changed)
 
 public:
-    ComparePresenter(ScanModel &model, TextLocale locale);
+    /// A large history is compared in the background, where there is a dispatcher; the page keeps
+    /// what it shows until then.
+    ComparePresenter(ScanModel &model, TextLocale locale,
+                     std::shared_ptr<TaskDispatcher> dispatcher = {});
 
     /// Why there is nothing to compare yet; both are empty with two or more repositories.
     [[nodiscard]] QString emptyTitle() const { return m_emptyTitle; }
@@ -88,10 +92,14 @@ Q_SIGNALS:
 
 private:
     void showHistory();
+    void show(std::shared_ptr<const Comparison> comparison);
+    void release(std::shared_ptr<const Comparison> comparison) const;
     void showWhyEmpty(std::span<const RecordedScan> columns);
 
     ScanModel &m_model;
     TextLocale m_locale;
+    std::shared_ptr<TaskDispatcher> m_dispatcher;
+    int m_changes = 0; ///< of the history
     QString m_emptyTitle;
     QString m_emptyText;
     std::shared_ptr<const Comparison> m_comparison;

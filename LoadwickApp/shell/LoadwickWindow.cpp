@@ -96,7 +96,7 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
         given.appearance(dispatcher).release()->setParent(&m_engine);
     m_model = std::make_unique<ScanModel>(std::move(given.scan));
     m_fileOpener = std::make_unique<FileOpener>(dispatcher, std::move(given.desktop));
-    makePresenters(given.locale, given.home);
+    makePresenters(dispatcher, given.locale, given.home);
     makeCommands(dispatcher, given.locale);
     makeWindow();
     if (!given.title.isEmpty())
@@ -125,7 +125,8 @@ QSize LoadwickWindow::firstSize(QSize wanted, QSize least, QSize room)
     return wanted.boundedTo(room).expandedTo(least);
 }
 
-void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesystem::path &home)
+void LoadwickWindow::makePresenters(const std::shared_ptr<TaskDispatcher> &dispatcher,
+                                    const TextLocale &locale, const std::filesystem::path &home)
 {
     m_content = std::make_unique<ContentPresenter>(*m_model, *m_chooser);
     m_overview = std::make_unique<OverviewPresenter>(*m_model, locale,
@@ -133,7 +134,7 @@ void LoadwickWindow::makePresenters(const TextLocale &locale, const std::filesys
     m_overview->files()->openWith(*m_fileOpener);
     m_trends = std::make_unique<TrendsPresenter>(*m_model, locale);
     m_trends->recordedData()->openWith(*m_fileOpener);
-    m_compare = std::make_unique<ComparePresenter>(*m_model, locale);
+    m_compare = std::make_unique<ComparePresenter>(*m_model, locale, dispatcher);
 }
 
 void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher,

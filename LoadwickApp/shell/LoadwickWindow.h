@@ -83,7 +83,8 @@ public:
     [[nodiscard]] QQuickWindow &window() noexcept { return *m_window; }
 
 private:
-    void makePresenters(const TextLocale &locale, const std::filesystem::path &home);
+    void makePresenters(const std::shared_ptr<TaskDispatcher> &dispatcher, const TextLocale &locale,
+                        const std::filesystem::path &home);
     void makeWindow();
     void makeCommands(const std::shared_ptr<TaskDispatcher> &dispatcher, const TextLocale &locale);
     void putNoticesOn(std::unique_ptr<NoticeBoard> board);

@@ -1,4 +1,6 @@
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <QTest>
 
@@ -63,6 +65,45 @@ private Q_SLOTS:
         QCOMPARE(compare.columnCount(), 2);
     }
 
+    void aLargeHistoryIsComparedInTheBackground()
+    {
+        start();
+        ComparePresenter compare(*m_model, TextLocale(), m_dispatcher);
+        m_dispatcher->runAll();
+        m_model->history().set(largeHistory(2));
+        QCOMPARE(compare.emptyTitle(), QStringLiteral("No recorded scans yet"));
+        m_dispatcher->runAll();
+        QCOMPARE(compare.columnCount(), 2);
+        QCOMPARE(compare.emptyTitle(), QString());
+    }
+
+    void anOlderComparisonDoesNotReplaceANewerOne()
+    {
+        start();
+        ComparePresenter compare(*m_model, TextLocale(), m_dispatcher);
+        m_dispatcher->runAll();
+        m_model->history().set(largeHistory(2));
+        m_model->history().set(largeHistory(3));
+        m_dispatcher->stepNewest();
+        QCOMPARE(compare.columnCount(), 3);
+        m_dispatcher->step();
+        QCOMPARE(compare.columnCount(), 3);
+        m_model->history().set(largeHistory(2));
+        m_model->history().set({});
+        m_dispatcher->runAll();
+        QCOMPARE(compare.emptyTitle(), QStringLiteral("No recorded scans yet"));
+    }
+
+    void aLargeHistoryIsComparedAtOnceIfNoThreadCanBeStarted()
+    {
+        start();
+        ComparePresenter compare(*m_model, TextLocale(), m_dispatcher);
+        m_dispatcher->runAll();
+        m_dispatcher->refuseBackground();
+        m_model->history().set(largeHistory(2));
+        QCOMPARE(compare.columnCount(), 2);
+    }
+
     // The two scans before have the same total as the one that is being recorded.
     void theChangeIsShownOnceTheScanIsRecorded()
     {
@@ -84,6 +125,17 @@ private Q_SLOTS:
     }
 
 private:
+    static std::vector<RecordedScan> largeHistory(int repositories)
+    {
+        std::vector<RecordedScan> scans;
+        for (int number = 0; number < repositories; ++number) {
+            scans.push_back(RecordedScanBuilder().in("/" + std::to_string(number)).build());
+            scans.back().categories =
+                RecordedCategories::List(15'000, {.name = "System prompt", .tokens = 1});
+        }
+        return scans;
+    }
+
     void record(const RecordedScan &scan)
     {
         static_cast<void>(ScanHistoryStore(m_folder->path()).append(scan));
