@@ -11,8 +11,8 @@ Item {
     // The right column with its toolbar, and the page that it shows.
     required property Item detail
     required property Item page
-    // The last focused item in the detail.
-    property Item lastStop: null
+    // By page, the last item in the detail that had the focus while the page was shown.
+    readonly property var lastStops: new Map()
 
     function holds(holder, item) {
         let above = item;
@@ -23,8 +23,9 @@ Item {
 
     // The last focused item in the page, else the page's first tab stop, else the toolbar's.
     function detailStop() {
-        if (keys.lastStop && keys.lastStop.visible && keys.lastStop.enabled)
-            return keys.lastStop;
+        const last = keys.lastStops.get(keys.page);
+        if (last && last.visible && last.enabled)
+            return last;
         const first = keys.page.nextItemInFocusChain(true);
         return keys.holds(keys.page, first) ? first : keys.detail.nextItemInFocusChain(true);
     }
@@ -52,7 +53,7 @@ Item {
     function noteStop() {
         const item = keys.Window.activeFocusItem;
         if (keys.holds(keys.detail, item))
-            keys.lastStop = item;
+            keys.lastStops.set(keys.page, item);
     }
 
     visible: false

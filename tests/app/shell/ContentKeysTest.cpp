@@ -63,6 +63,24 @@ private Q_SLOTS:
         QCOMPARE(focused(), there);
     }
 
+    void f6GoesToTheFirstStopOfAnOpenedPageAndBackToTheLastUsed()
+    {
+        scan();
+        m_window->press(Qt::Key_F6);
+        QQuickItem *const onOverview = focused();
+        m_window->press(Qt::Key_2, Qt::ControlModifier);
+        m_window->press(Qt::Key_F6);
+        QVERIFY(focusedName().contains(QStringLiteral("27,654 tokens, Lean"))); // a previous run
+        m_window->press(Qt::Key_Tab);
+        QQuickItem *const onTrends = focused();
+        m_window->press(Qt::Key_1, Qt::ControlModifier);
+        m_window->press(Qt::Key_F6);
+        QCOMPARE(focused(), onOverview);
+        m_window->press(Qt::Key_2, Qt::ControlModifier);
+        m_window->press(Qt::Key_F6);
+        QCOMPARE(focused(), onTrends);
+    }
+
     void f6GoesToTheToolbarWhereAPageHasNoStop()
     {
         m_window->press(Qt::Key_Tab);
