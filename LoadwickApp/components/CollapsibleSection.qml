@@ -18,18 +18,20 @@ ColumnLayout {
     AbstractButton {
         id: head
 
+        readonly property string openness: section.isExpanded ? qsTr("Expanded") : qsTr("Collapsed")
+
         Layout.fillWidth: true
         implicitHeight: Math.max(implicitContentHeight, AppTheme.controlHeight)
         focusPolicy: Qt.StrongFocus
         hoverEnabled: true
         Accessible.role: Accessible.Button
         Accessible.name: section.title
-        Accessible.description: section.isExpanded ? qsTr("Expanded") : qsTr("Collapsed")
+        Accessible.description: section.detail.length > 0 ? head.openness + ". " + section.detail : head.openness
         Keys.onReturnPressed: head.clicked()
         Keys.onEnterPressed: head.clicked()
         onClicked: {
             section.isExpanded = !section.isExpanded;
-            Announcer.announce(head.Accessible.description);
+            Announcer.announce(head.openness);
         }
 
         contentItem: RowLayout {

@@ -23,9 +23,11 @@ Popup {
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutsideParent
 
     onAboutToShow: (menu.contentItem as RecentChooser).begin()
+    onOpened: Announcer.announce(menu.recent.matchWords)
 
     Connections {
         target: menu.recent
+        enabled: menu.opened
 
         function onFilterChanged() { Announcer.announce(menu.recent.matchWords); }
     }

@@ -75,9 +75,9 @@ QString RecentRepositories::grouped(std::int64_t number) const
 
 QString RecentRepositories::matchWords() const
 {
-    return m_filter.isEmpty()
-               ? QString()
-               : tr("%1 of %2 repositories").arg(grouped(m_rows.count()), grouped(count()));
+    if (!m_filter.isEmpty())
+        return tr("%1 of %2 repositories").arg(grouped(m_rows.count()), grouped(count()));
+    return (count() == 1 ? tr("%1 repository") : tr("%1 repositories")).arg(grouped(count()));
 }
 
 void RecentRepositories::setFilter(const QString &filter)

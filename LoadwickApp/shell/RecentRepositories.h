@@ -55,7 +55,7 @@ public:
     /// Part of a name or a path, in any case; white space around it does not count.
     [[nodiscard]] QString filter() const { return m_filter; }
     void setFilter(const QString &filter);
-    /// How many match the filter, for a screen reader; empty without a filter.
+    /// How many match the filter, or how many there are without one, for a screen reader.
     [[nodiscard]] QString matchWords() const;
 
     /// Checks in the background which of the folders exist.

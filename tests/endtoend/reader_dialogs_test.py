@@ -44,7 +44,7 @@ class ReaderDialogsTest(ReaderCase):
         self.press(program, "F6", "/wiki")
         self.press(program, "shift+Tab", "Scan Again")
         self.press(program, "shift+Tab", "Scanned repositories")
-        program.window.key("space")
+        self.press(program, "space", "2 repositories")
         program.window.wait_for("webshop, 42,318 tokens, Heavy", "menu item")
         self.press(program, "Down", "wiki", "tmp")
         self.press(program, "Down", "webshop", "tmp")

@@ -30,7 +30,7 @@ class ReaderPagesTest(ReaderCase):
         self.press(program, "Tab", "Copy Summary")
         self.press(program, "space", "Copied")
         self.press(program, "Tab", "Session details", "Collapsed")
-        self.press(program, "Tab", "Full report")
+        self.press(program, "Tab", "Full report", "Collapsed", "factual, copyable summary")
 
     def test_trends_is_heard(self) -> None:
         program = self.open()

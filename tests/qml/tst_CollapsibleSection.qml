@@ -43,6 +43,13 @@ Item {
             verify(!section.isExpanded);
         }
 
+        function test_aReaderHearsTheDetailToo() {
+            compare(section.children[0].Accessible.description, "Collapsed");
+            section.detail = "A line.";
+            compare(section.children[0].Accessible.description, "Collapsed. A line.");
+            section.detail = "";
+        }
+
         function test_contentIsSixteenBelowTheHeader() {
             section.isExpanded = true;
             waitForRendering(section);

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void aFailureIsAnnouncedByItsHeadline();
     void aPageIsAnnouncedUnlessItsRowHasTheFocus();
     void aSectionSaysWhetherItIsOpen();
+    void theListOfRepositoriesSaysHowManyThereAre();
     void copyingIsAnnounced();
     void aSavedFileIsAnnounced();
     void theStepsOfTheWalkThroughAreAnnounced();
@@ -120,6 +121,18 @@ void AnnouncementsTest::aSectionSaysWhetherItIsOpen()
     QCOMPARE(heard(), QStringList{QStringLiteral("Expanded")});
     m_window->pressButton(QStringLiteral("Why these bands?"));
     QCOMPARE(heard(), QStringList{QStringLiteral("Collapsed")});
+}
+
+void AnnouncementsTest::theListOfRepositoriesSaysHowManyThereAre()
+{
+    chooseAndScan();
+    for (int time = 0; time < 2; ++time) {
+        m_window->pressButton(QStringLiteral("Scanned repositories"));
+        QCOMPARE(heard(), QStringList{QStringLiteral("1 repository")});
+        m_window->press(Qt::Key_0);
+        QCOMPARE(heard(), QStringList{QStringLiteral("0 of 1 repositories")});
+        m_window->press(Qt::Key_Escape);
+    }
 }
 
 void AnnouncementsTest::copyingIsAnnounced()
