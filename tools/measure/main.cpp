@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "history/ScanComparison.h"
@@ -143,15 +144,15 @@ std::int64_t leaderboard(Words words)
 /// Two scans with as many categories in common, in opposite orders.
 std::vector<RecordedScan> scansOfCategories(std::int64_t count)
 {
+    RecordedCategories::List ascending;
+    for (std::int64_t index = 0; index < count; ++index)
+        ascending.push_back({"A category by the name of " + std::to_string(index), index});
+    RecordedCategories::List descending(ascending.rbegin(), ascending.rend());
+    for (RecordedCategory &category : descending)
+        category.tokens = 1;
     std::vector<RecordedScan> scans = GeneratedFiles::scans(2);
-    for (RecordedScan &scan : scans)
-        scan.categories.clear();
-    for (std::int64_t index = 0; index < count; ++index) {
-        const std::int64_t other = count - 1 - index;
-        scans[0].categories.push_back({"A category by the name of " + std::to_string(index), 1});
-        scans[1].categories.push_back(
-            {"A category by the name of " + std::to_string(other), other});
-    }
+    scans[0].categories = std::move(ascending);
+    scans[1].categories = std::move(descending);
     return scans;
 }
 
