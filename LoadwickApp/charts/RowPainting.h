@@ -23,6 +23,9 @@ void write(QPainter &painter, const QRectF &box, Qt::Alignment side, const QStri
 /// Fills a bar whose corners are as round as its width allows.
 void fillBar(QPainter &painter, const QRectF &bar, const QColor &color);
 
+/// Repaints a row, unless it has no picture.
+void repaint(QQuickPaintedItem &row);
+
 /// Makes a row follow another style, null for none: the row is repainted whenever the style has
 /// changed. False if the row has that style already.
 template<typename Style>
@@ -34,8 +37,8 @@ bool follow(QQuickPaintedItem &row, QPointer<Style> &followed, Style *style)
         followed->disconnect(&row);
     followed = style;
     if (style)
-        QObject::connect(style, &Style::changed, &row, [&row] { row.update(); });
-    row.update();
+        QObject::connect(style, &Style::changed, &row, [&row] { repaint(row); });
+    repaint(row);
     return true;
 }
 

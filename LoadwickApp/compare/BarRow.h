@@ -68,7 +68,8 @@ struct BarRowLayout
 
 /// One row of a bar chart, painted: a name, a figure and a bar on the track of its scale. One item
 /// rather than five, because a page of bars has hundreds that come and go as it scrolls. A name
-/// that does not fit is elided in the middle, a figure never.
+/// that does not fit is elided in the middle, a figure never. A hidden row has no picture: the rows
+/// of the page that is not shown, and those that are kept for reuse, would hold twenty megabytes.
 class BarRow : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -117,6 +118,9 @@ public:
 Q_SIGNALS:
     void changed();
     void styleChanged();
+
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
     [[nodiscard]] BarRowLayout unmirroredLayout() const;

@@ -4,10 +4,12 @@
 
 #include <QDir>
 #include <QScreen>
+#include <QTimer>
 #include <QUrl>
 
 #include "base/QmlObject.h"
 #include "base/QtTaskDispatcher.h"
+#include "base/SpareMemory.h"
 #include "compare/ComparePresenter.h"
 #include "desktop/DesktopNoticeBoard.h"
 #include "export/PageExport.h"
@@ -32,7 +34,8 @@
 namespace Loadwick {
 namespace {
 
-constexpr int titleBarHeight = 40; // unknown before the window is shown
+constexpr int titleBarHeight = 40;          // unknown before the window is shown
+constexpr std::chrono::seconds pageRest(1); // a page that is shown has arrived by then
 
 QUrl homeUrl()
 {
@@ -101,6 +104,9 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     makeWindow();
     if (!given.title.isEmpty())
         m_window->setTitle(given.title);
+    // The page that was left has freed its pictures.
+    QObject::connect(m_content.get(), &ContentPresenter::pageIndexChanged, m_window.get(),
+                     [] { QTimer::singleShot(pageRest, &SpareMemory::giveBack); });
     m_chooser->attach(*m_window);
     m_saver->attach(*m_window);
     if (given.notices)

@@ -1,10 +1,14 @@
 #include "compare/BarRow.h"
 
+#include <malloc.h>
+
 #include <QImage>
 #include <QPainter>
+#include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
 
+#include "support/Sanitizers.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
@@ -22,6 +26,13 @@ QImage painted(BarRow &row)
     QPainter painter(&image);
     row.paint(&painter);
     return image;
+}
+
+/// What the window's pictures and everything else take on the heap once it is drawn, in bytes.
+std::size_t heapInUse(QQuickWindow &window)
+{
+    (void)window.grabWindow();
+    return mallinfo2().uordblks;
 }
 
 /// How many pixels of a rectangle are painted.
@@ -42,6 +53,40 @@ class BarRowTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void hiddenRowsHoldNoPictures()
+    {
+        if (isSanitized)
+            QSKIP("a sanitizer has an allocator of its own");
+        constexpr int count = 100;
+        QQuickWindow window;
+        for (int number = 0; number < count; ++number) {
+            auto *row = new BarRow(window.contentItem());
+            row->setSize(stackedRow);
+            row->setStyle(m_style.get());
+        }
+        const std::size_t before = heapInUse(window);
+        window.contentItem()->setVisible(false);
+        const auto pixels = static_cast<std::size_t>(stackedRow.width() * stackedRow.height());
+        QVERIFY(heapInUse(window) + count * pixels * sizeof(QRgb) < before);
+    }
+
+    void aRowThatIsShownAgainIsPainted()
+    {
+        QQuickWindow window;
+        window.resize(300, 36);
+        m_row->setParentItem(window.contentItem());
+        const QImage before = window.grabWindow();
+        m_row->setVisible(false);
+        QVERIFY(window.grabWindow() != before);
+        say("value", QStringLiteral("5,678"));
+        m_row->setVisible(true);
+        const QImage after = window.grabWindow();
+        say("value", QStringLiteral("1,234"));
+        QVERIFY(after != before);
+        QCOMPARE(window.grabWindow(), before);
+        m_row->setParentItem(nullptr);
+    }
+
     void init()
     {
         m_style = std::make_unique<BarStyle>();
