@@ -63,7 +63,7 @@ void addFigure(HtmlPage &page, const QString &figure)
 
 void addDot(HtmlPage &page, const QString &color)
 {
-    page.element("span", markup("●"),
+    page.element("span", QStringLiteral("●"),
                  {{"class", markup("dot ") + color}, {"aria-hidden", markup("true")}});
 }
 
@@ -139,7 +139,7 @@ void ReportDocument::addBand(HtmlPage &page) const
         for (const OpinionBand each : OpinionBand::all) {
             const HtmlPage::Element item = page.open("li");
             addDot(page, classed("band-", each));
-            page.text(qtText(each.title()) + markup(" · ") + qtText(each.range(locale)));
+            page.text(qtText(each.title()) + QStringLiteral(" · ") + qtText(each.range(locale)));
         }
     }
     for (const std::string_view note :

@@ -81,6 +81,13 @@ class ReportDocumentTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void signsThatAreNotAsciiStayWhole()
+    {
+        const QString html = htmlOf(sampleReport());
+        QVERIFY(html.contains(QStringLiteral(">●</span>Lean · under 30,000</li>")));
+        QVERIFY(!html.contains(QChar(0xC2)) && !html.contains(QChar(0xE2)));
+    }
+
     void saysWhatThePageSays()
     {
         ScanReport report = reportOfFiles(2);
