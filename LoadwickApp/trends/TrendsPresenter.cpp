@@ -43,16 +43,7 @@ std::optional<std::string> TrendsPresenter::shownRepository() const
 std::vector<RecordedScan> TrendsPresenter::shownScans() const
 {
     const auto path = shownRepository();
-    std::vector<RecordedScan> scans;
-    for (const RecordedScan &scan : m_model.history().get())
-        if (scan.repositoryPath == path)
-            scans.push_back({.id = scan.id,
-                             .repositoryName = scan.repositoryName,
-                             .repositoryPath = scan.repositoryPath,
-                             .date = scan.date,
-                             .total = scan.total,
-                             .categories = {}});
-    return scans;
+    return path ? ScanHistory::scans(m_model.history().get(), *path) : std::vector<RecordedScan>();
 }
 
 std::function<QByteArray()> TrendsPresenter::table() const

@@ -60,7 +60,6 @@ Q_SIGNALS:
 private:
     /// The path of the repository that the page is about.
     [[nodiscard]] std::optional<std::string> shownRepository() const;
-    /// Without their categories, which can be many and are not shown.
     [[nodiscard]] std::vector<RecordedScan> shownScans() const;
     void showRepository();
     void showChart(std::span<const RecordedScan> scans);

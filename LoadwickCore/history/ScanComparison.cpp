@@ -7,7 +7,6 @@
 #include <string_view>
 #include <utility>
 
-#include "history/RecordedScan.h"
 #include "report/SlabAttributor.h"
 #include "text/Fatal.h"
 
@@ -17,13 +16,6 @@ namespace {
 using Side = CategoryChange::Side;
 
 constexpr std::string_view suffix = SlabAttributor::beyondLocalEstimateSuffix;
-
-/// A change that gets its name last: most of a large comparison would be copying names.
-struct Named
-{
-    std::string_view name; ///< in one of the scans
-    CategoryChange change;
-};
 
 /// The categories of two scans, each name once. Views into the scans. A hash table without nodes,
 /// since those of a standard one would make most of a large comparison a wait for memory.
@@ -38,12 +30,12 @@ public:
             add(changeOf(category.name).before, category.tokens);
         for (const RecordedCategory &category : after.categories)
             add(changeOf(category.name).after, category.tokens);
-        for (Named &excess : m_changes)
+        for (CategoryChange &excess : m_changes)
             joinWithWhole(excess);
     }
 
     /// One that was joined with another is left without tokens.
-    [[nodiscard]] std::vector<Named> &changes() noexcept { return m_changes; }
+    [[nodiscard]] std::span<const CategoryChange> changes() const noexcept { return m_changes; }
 
 private:
     static void add(std::optional<std::int64_t> &tokens, std::int64_t more)
@@ -66,21 +58,22 @@ private:
     {
         std::uint32_t &slot = slotOf(name);
         if (slot == 0) {
-            m_changes.push_back({.name = name, .change = {}});
+            m_changes.push_back(
+                {.name = name, .before = {}, .after = {}, .beyondLocalEstimate = {}});
             slot = static_cast<std::uint32_t>(m_changes.size());
         }
-        return m_changes[slot - 1].change;
+        return m_changes[slot - 1];
     }
 
     /// Makes one change of a category that one scan has whole and the other beyond its estimate.
-    void joinWithWhole(Named &excess)
+    void joinWithWhole(CategoryChange &excess)
     {
         if (!excess.name.ends_with(suffix))
             return;
         const std::uint32_t whole =
             slotOf(excess.name.substr(0, excess.name.size() - suffix.size()));
         if (whole != 0)
-            join(m_changes[whole - 1].change, excess.change);
+            join(m_changes[whole - 1], excess);
     }
 
     static void join(CategoryChange &whole, CategoryChange &excess)
@@ -95,7 +88,7 @@ private:
     }
 
     std::vector<std::uint32_t> m_slots; ///< positions of changes, counted from 1; 0 is empty
-    std::vector<Named> m_changes;
+    std::vector<CategoryChange> m_changes;
 };
 
 /// Any 64-bit number has one.
@@ -105,24 +98,21 @@ std::uint64_t magnitude(std::int64_t number)
     return number < 0 ? 0 - bits : bits;
 }
 
-/// Takes the changes out of the list.
-std::vector<CategoryChange> largestFirst(std::span<Named *const> changes)
+std::vector<CategoryChange> largestFirst(std::span<const CategoryChange *const> changes)
 {
     // Sorts small keys, since a change is large to move.
-    std::vector<std::pair<std::uint64_t, Named *>> order;
+    std::vector<std::pair<std::uint64_t, const CategoryChange *>> order;
     order.reserve(changes.size());
-    for (Named *change : changes)
-        order.emplace_back(magnitude(change->change.difference()), change);
+    for (const CategoryChange *change : changes)
+        order.emplace_back(magnitude(change->difference()), change);
     std::sort(order.begin(), order.end(), [](const auto &left, const auto &right) {
         return left.first != right.first ? left.first > right.first
                                          : left.second->name < right.second->name;
     });
     std::vector<CategoryChange> sorted;
     sorted.reserve(order.size());
-    for (const auto &[size, change] : order) {
-        sorted.push_back(std::move(change->change));
-        sorted.back().name = change->name;
-    }
+    for (const auto &[size, change] : order)
+        sorted.push_back(*change);
     return sorted;
 }
 
@@ -146,19 +136,20 @@ ScanComparison ScanComparison::between(const RecordedScan &before, const Recorde
                                   !before.categories.empty() && !after.categories.empty(),
                               .changes = {},
                               .unchangedCount = 0,
-                              .unchangedTokens = 0};
+                              .unchangedTokens = 0,
+                              .categoriesBefore = before.categories,
+                              .categoriesAfter = after.categories};
     if (!comparison.hasCategories)
         return comparison;
-    Union categories(before, after);
-    std::vector<Named *> changed;
+    const Union categories(before, after);
+    std::vector<const CategoryChange *> changed;
     changed.reserve(categories.changes().size());
-    for (Named &category : categories.changes()) {
-        const CategoryChange &change = category.change;
+    for (const CategoryChange &change : categories.changes()) {
         if (change.isUnchanged()) {
             ++comparison.unchangedCount;
             comparison.unchangedTokens = checkedSum(comparison.unchangedTokens, *change.after);
         } else if (change.before || change.after) {
-            changed.push_back(&category);
+            changed.push_back(&change);
         }
     }
     comparison.changes = largestFirst(changed);

@@ -3,12 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
+#include <string_view>
 #include <vector>
 
-namespace Loadwick {
+#include "history/RecordedScan.h"
 
-struct RecordedScan;
+namespace Loadwick {
 
 /// One category of two scans; at least one of them has it.
 struct CategoryChange
@@ -19,7 +19,7 @@ struct CategoryChange
         after
     };
 
-    std::string name;
+    std::string_view name;              ///< lives as long as the comparison
     std::optional<std::int64_t> before; ///< tokens; nothing where the earlier scan lacks it
     std::optional<std::int64_t> after;  ///< tokens; nothing where the later scan lacks it
     /// The scan that has only what is beyond the local estimate, where the other has it all.
@@ -50,6 +50,8 @@ struct ScanComparison
     std::vector<CategoryChange> changes; ///< the largest difference first, then by name
     std::size_t unchangedCount;          ///< categories
     std::int64_t unchangedTokens;
+    RecordedCategories categoriesBefore; ///< own the names of the changes
+    RecordedCategories categoriesAfter;
 
     /// Categories of one scan that share a name are summed. Overflow of a sum ends the program, but
     /// no two scans of what `ScanHistory::summable` returns overflow.

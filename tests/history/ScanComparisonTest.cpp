@@ -22,7 +22,7 @@ std::vector<std::string> namesOf(const ScanComparison &comparison)
 {
     std::vector<std::string> names;
     for (const CategoryChange &change : comparison.changes)
-        names.push_back(change.name);
+        names.emplace_back(change.name);
     return names;
 }
 
