@@ -19,7 +19,7 @@ set_tests_properties(house/sizes-finds-long-ones PROPERTIES PASS_REGULAR_EXPRESS
 # The configuration names all that it lacks, also what a module needs in turn.
 add_test(NAME house/names-what-is-missing
          COMMAND ${CMAKE_COMMAND} -S "${CMAKE_CURRENT_SOURCE_DIR}/fixtures/needs"
-                 -B "${CMAKE_CURRENT_BINARY_DIR}/needs" --fresh)
+                 -B "${CMAKE_CURRENT_BINARY_DIR}/needs" -G "${CMAKE_GENERATOR}" --fresh)
 string(JOIN "[ \n]*" missing
     "Found:" "Present" "QML module QtQuick" "Missing:" "Absent 2.1 COMPONENTS one two"
     "Qt6QuickPrivate with private/qquickitem_p.h" "QML module QtQuick.Absent"

@@ -48,22 +48,22 @@ PageAppear {
     // The page scrolls while the sidebar or the toolbar has the focus, too.
     Shortcut {
         sequences: ["PgUp"]
-        enabled: page.Window.active && page.visible && !scroller.activeFocus
+        enabled: Boolean(page.Window.activeFocusItem) && page.visible && !scroller.activeFocus
         onActivated: scroll.press(Qt.Key_PageUp)
     }
     Shortcut {
         sequences: ["PgDown"]
-        enabled: page.Window.active && page.visible && !scroller.activeFocus
+        enabled: Boolean(page.Window.activeFocusItem) && page.visible && !scroller.activeFocus
         onActivated: scroll.press(Qt.Key_PageDown)
     }
     Shortcut {
         sequences: ["Home"]
-        enabled: page.Window.active && page.visible && !scroller.activeFocus
+        enabled: Boolean(page.Window.activeFocusItem) && page.visible && !scroller.activeFocus
         onActivated: scroll.press(Qt.Key_Home)
     }
     Shortcut {
         sequences: ["End"]
-        enabled: page.Window.active && page.visible && !scroller.activeFocus
+        enabled: Boolean(page.Window.activeFocusItem) && page.visible && !scroller.activeFocus
         onActivated: scroll.press(Qt.Key_End)
     }
 }

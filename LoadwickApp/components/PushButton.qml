@@ -64,7 +64,7 @@ AbstractButton {
     Shortcut {
         sequence: control.shortcut
         autoRepeat: false
-        enabled: control.Window.active && control.enabled
+        enabled: Boolean(control.Window.activeFocusItem) && control.enabled
         onActivated: control.clicked()
     }
 

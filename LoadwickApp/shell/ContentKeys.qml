@@ -65,7 +65,7 @@ Item {
 
     Shortcut {
         sequences: ["F6", "Shift+F6"]
-        enabled: keys.Window.active
+        enabled: Boolean(keys.Window.activeFocusItem)
         onActivated: keys.switchSides()
     }
     // Active while a modal sheet is open, too.

@@ -96,8 +96,8 @@ ListView {
         Shortcut {
             sequence: row.shortcut
             autoRepeat: false
-            // Qt 6.8 passes the keys of a dialog on to the window behind it.
-            enabled: row.Window.active
+            // Qt 6.8 passes the keys of a dialog on to the window behind it, which stays "active".
+            enabled: Boolean(row.Window.activeFocusItem)
             onActivated: row.clicked()
         }
         HoverTip {

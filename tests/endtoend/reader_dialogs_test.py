@@ -30,6 +30,7 @@ class ReaderDialogsTest(ReaderCase):
         self.press(program, "space", "Save the chart", "File name")
         self.press(program, "Escape", "Save Chart…")
         self.tab_to(program, "Previous runs")
+        self.hears("webshop", "42,318 tokens, Heavy")
         self.tab_to(program, "Clear Recorded Data…")
         self.press(program, "space", "Delete every recorded scan?", "This cannot be undone.", "Cancel")
         self.press(program, "Tab", "Delete 2 Recorded Scans")
