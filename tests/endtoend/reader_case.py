@@ -39,13 +39,15 @@ class ReaderCase(EndToEndCase):
             self.fail(f"{failure}; the reader said:\n{self.reader.transcript()}")
 
     def press(self, program: Program, key: str, *parts: str) -> None:
-        """Presses a key and waits for what the reader says to it."""
+        """Presses a key once the reader is at rest, and waits for what it says to it."""
+        self.reader.rests()
         program.window.key(key)
         self.hears(*parts)
 
     def tab_to(self, program: Program, part: str) -> None:
         """Presses Tab until the reader says that part first."""
         for _ in range(MOST_STOPS):
+            self.reader.rests()
             said = self.reader.answer_to("tab", lambda: program.window.key("Tab"))
             if part in said:
                 self.hears(part)

@@ -6,14 +6,16 @@ import os
 import shutil
 import subprocess
 import tempfile
+import time
 from pathlib import Path
 from typing import Callable, Optional
 
-from processes import end_with_parent
+from processes import end_with_parent, wakes_of
 from speech_server import INTERRUPTED, SpeechServer
 from waiting import LIMIT_SECONDS, WaitFailed, until
 
 READY = "Screen reader on."
+REST_SECONDS = 0.2
 
 
 def is_installed() -> bool:
@@ -69,6 +71,16 @@ class ScreenReader:
     def transcript(self) -> str:
         """All that was said so far, a message a line."""
         return "\n".join(self._speech.transcript)
+
+    def rests(self) -> None:
+        """Waits until it has nothing more to say: it drops what a key finds unsaid."""
+
+        def is_at_rest() -> bool:
+            before = wakes_of(self._process.pid)
+            time.sleep(REST_SECONDS)
+            return wakes_of(self._process.pid) == before
+
+        until("the reader to rest", is_at_rest)
 
     def answer_to(self, key: str, press: Callable[[], None]) -> str:
         """The first words after a press of the key of that name, which may be spoken too."""
