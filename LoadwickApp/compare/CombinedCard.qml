@@ -40,7 +40,7 @@ ReportSurface {
         name: row.title
         style: row.bars ? row.bars.style : null
         fill: AppTheme.chartColors[Math.max(0, row.column) % AppTheme.chartColors.length]
-        Accessible.role: row.isCategory ? Accessible.Heading : Accessible.ListItem
+        Accessible.role: Accessible.ListItem
         Accessible.name: row.spoken
         Accessible.description: row.path
         // Hidden while pooled.
