@@ -102,7 +102,7 @@ private:
     int m_changes = 0; ///< of the history
     QString m_emptyTitle;
     QString m_emptyText;
-    std::shared_ptr<const Comparison> m_comparison;
+    std::shared_ptr<const Comparison> m_comparison = std::make_shared<const Comparison>();
     LeaderboardRows m_leaderboard;
     CombinedRows m_combined;
 };

@@ -155,9 +155,11 @@ std::function<QByteArray()> OverviewPresenter::document() const
     return [document] { return document.html(); };
 }
 
-/// The report itself has no date, and is not recorded where the history was cleared.
+/// The report itself has no date. It is not recorded at once, nor where the history was cleared.
 std::optional<std::chrono::sys_seconds> OverviewPresenter::recordedDate() const
 {
+    if (!m_model.isHistoryComplete())
+        return std::nullopt;
     const auto &history = m_model.history().get();
     const auto recorded = std::find_if(history.rbegin(), history.rend(), [this](const auto &scan) {
         return scan.repositoryPath == m_report->repositoryPath && scan.total == m_report->total;

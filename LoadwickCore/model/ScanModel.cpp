@@ -99,12 +99,13 @@ void ScanModel::Internals::makeReport(const RepoSelection &chosen, const ProbeRe
 
 void ScanModel::Internals::succeed(const ScanReport &report)
 {
-    end(ScanState::result(report));
     try {
+        // First: who hears of the result must not take an earlier scan's record for its own.
         m_keeper->record(RecordedScan::fromReport(report, m_with.now(), Uuid::random()));
     } catch (const std::bad_alloc &) {
         // Not recorded: the earlier scans remain, on disk and on the pages.
     }
+    end(ScanState::result(report));
 }
 
 void ScanModel::Internals::end(ScanState outcome)

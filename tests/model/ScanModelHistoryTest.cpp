@@ -175,8 +175,11 @@ TEST_F(ScanModelHistoryTest, recordsInTheBackground)
 {
     LoadedScanModel model(harness);
     harness.beginScan(model, Harness::reporting);
+    bool wasComplete = true;
+    model.state().observe({.didChange = [&] { wasComplete = model.isHistoryComplete(); }});
     harness.dispatcher->step();
     EXPECT_EQ(model.state().get(), ScanState::result(harness.expectedReport()));
+    EXPECT_FALSE(wasComplete);
     EXPECT_FALSE(model.isHistoryComplete());
     EXPECT_TRUE(model.history().get().empty());
     EXPECT_TRUE(harness.recorded().empty());

@@ -6,6 +6,7 @@
 
 #include "compare/ComparePresenter.h"
 #include "overview/LatestChangePresenter.h"
+#include "overview/OverviewPresenter.h"
 #include "samples/SampleReport.h"
 #include "samples/TemporaryFolder.h"
 #include "support/RecordedScanBuilder.h"
@@ -124,7 +125,36 @@ private Q_SLOTS:
         QVERIFY(!change.isKnown());
     }
 
+    // An earlier scan of the repository has the same total.
+    void aReportHasNoDateUntilItsScanIsRecorded()
+    {
+        start();
+        OverviewPresenter overview(*m_model, TextLocale());
+        const LatestChangePresenter *change = overview.latestChange();
+        m_dispatcher->runAll();
+        scan();
+        m_dispatcher->runAll();
+        const QByteArray dated = overview.table()();
+        QVERIFY(!change->isKnown());
+        scan();
+        const QByteArray undated = overview.table()();
+        QVERIFY2(undated.size() < dated.size(), undated.constData());
+        QVERIFY(!change->isKnown());
+        m_dispatcher->runAll();
+        QCOMPARE(overview.table()().size(), dated.size());
+        QVERIFY(change->isKnown());
+    }
+
 private:
+    /// Performs a scan up to its result.
+    void scan()
+    {
+        m_model->select(RepoSelection::fromUrl(m_folder->path()));
+        m_model->scan();
+        while (m_model->state().get().isScanning())
+            m_dispatcher->step();
+    }
+
     static std::vector<RecordedScan> largeHistory(int repositories)
     {
         std::vector<RecordedScan> scans;
