@@ -83,8 +83,12 @@ void Shutdown::stopChildren(std::chrono::duration<double> grace)
 void Shutdown::signalGroups(int number)
 {
     for (const pid_t group : m_groups)
-        if (group > 1)
-            kill(-group, number);
+        signalGroup(group, number);
+}
+
+bool Shutdown::signalGroup(pid_t group, int number) noexcept
+{
+    return group > 1 && kill(-group, number) == 0;
 }
 
 ShutdownEntry::ShutdownEntry(std::shared_ptr<Shutdown> shutdown)

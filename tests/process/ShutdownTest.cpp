@@ -117,24 +117,27 @@ TEST(ShutdownTest, killsAChildThatIgnoresTheRequest)
     EXPECT_EQ(child.reap(), (ChildProcess::Ending{SIGKILL, true}));
 }
 
-TEST(ShutdownTest, doesNotSignalARemovedGroup)
+TEST(ShutdownTest, signalsAllGroupsButTheRemoved)
 {
     const auto shutdown = std::make_shared<Shutdown>();
-    const ChildProcess child = startSilentChild(nullptr);
-    ASSERT_TRUE(shutdown->add(child.processID()));
-    shutdown->remove(child.processID());
+    const ChildProcess first = startSilentChild(nullptr);
+    const ChildProcess second = startSilentChild(nullptr);
+    ASSERT_TRUE(shutdown->add(first.processID()));
+    ASSERT_TRUE(shutdown->add(second.processID()));
+    shutdown->remove(first.processID());
     shutdown->stopChildren(0s);
-    EXPECT_FALSE(child.waitUntil(deadlineAfter(0.05)));
+    EXPECT_TRUE(second.waitUntil(deadlineAfter(60)));
+    EXPECT_FALSE(first.waitUntil(deadlineAfter(0.05)));
 }
 
 TEST(ShutdownTest, neverSignalsItsOwnGroupOrEveryProcess)
 {
-    // The numbers 0 and 1 mean these to kill().
-    Shutdown shutdown;
-    EXPECT_TRUE(shutdown.add(0));
-    EXPECT_TRUE(shutdown.add(1));
-    shutdown.stopChildren(0ms);
-    EXPECT_TRUE(shutdown.isRequested());
+    // The numbers 0 and 1 mean these to kill(). The signal 0 only asks whether it could be sent.
+    EXPECT_FALSE(Shutdown::signalGroup(0, 0));
+    EXPECT_FALSE(Shutdown::signalGroup(1, 0));
+    EXPECT_FALSE(Shutdown::signalGroup(-2, 0));
+    const ChildProcess child = startSilentChild(nullptr);
+    EXPECT_TRUE(Shutdown::signalGroup(child.processID(), 0));
 }
 
 TEST(ShutdownTest, listsAChildUntilItsEntryLeaves)

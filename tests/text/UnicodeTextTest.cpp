@@ -63,6 +63,14 @@ TEST(UnicodeTextTest, lowercasesEveryScript)
     EXPECT_EQ(lowercased(""), "");
 }
 
+TEST(UnicodeTextTest, lowercasesTheWholeLatinAlphabet)
+{
+    EXPECT_EQ(lowercased("@ABCDEFGHIJKLMNOPQRSTUVWXYZ["), "@abcdefghijklmnopqrstuvwxyz[");
+    std::string key;
+    setSearchKey(key, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    EXPECT_EQ(key, "abcdefghijklmnopqrstuvwxyz");
+}
+
 TEST(UnicodeTextTest, keepsLettersAndNumbers)
 {
     EXPECT_EQ(lettersAndNumbers("Memory_files, 2: [x]!"), "Memoryfiles2x");
