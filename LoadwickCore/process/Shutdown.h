@@ -49,8 +49,8 @@ public:
     /// SIGKILL. Returns as soon as no group is listed or announced, at the latest after `grace`.
     void stopChildren(std::chrono::duration<double> grace);
 
-    /// Sends a signal to all processes of a group; false if there is no such group. What `kill` takes
-    /// for its caller's own group or for every process is none.
+    /// Sends a signal to all processes of a group; false if there is no such group. What `kill`
+    /// takes for its caller's own group or for every process is none.
     static bool signalGroup(pid_t group, int number) noexcept;
 
 private:

@@ -163,7 +163,8 @@ TEST(JsonReaderTest, rejectsNumbersOutsideTheGrammar)
 {
     for (const char *number : {"0", "-0", "10", "1.5", "1e5", "1E+5", "-1.25e-7", "1e999"})
         EXPECT_TRUE(isObject(R"({"a":)"s + number + "}")) << number;
-    for (const char *number : {"01", "+1", ".5", "1.", "1e", "1e+", "-", "--1", "0x10", "1_000", "q", "1q"})
+    for (const char *number :
+         {"01", "+1", ".5", "1.", "1e", "1e+", "-", "--1", "0x10", "1_000", "q", "1q"})
         EXPECT_FALSE(isObject(R"({"a":)"s + number + "}")) << number;
 }
 
