@@ -3,6 +3,11 @@
 #include <csignal>
 #include <system_error>
 
+#ifdef __linux__
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#endif
+
 #include <gtest/gtest.h>
 
 #include "samples/TemporaryFolder.h"
@@ -248,5 +253,22 @@ TEST(ChildProcessTest, leavesBehindAGroupThatIsSwept)
     EXPECT_EQ(child.reap(), (Ending{0, false}));
     EXPECT_TRUE(eventually([&] { return kill(-group, 0) != 0; }));
 }
+
+#ifdef __linux__
+TEST(ChildProcessTest, asksTheRestOfItsGroupToEndFirst)
+{
+    prctl(PR_SET_CHILD_SUBREAPER, 1); // its orphan becomes ours
+    ChildProcess child = startHostileChild({"grandchild", "20000"});
+    ASSERT_TRUE(child.waitUntil(deadlineAfter(10)));
+    const pid_t group = child.processID();
+    ProcessTermination::sweepGroup(child);
+    EXPECT_EQ(child.reap(), (Ending{0, false}));
+    int status = 0;
+    EXPECT_GT(waitpid(-group, &status, 0), 0);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(WTERMSIG(status), SIGTERM);
+    prctl(PR_SET_CHILD_SUBREAPER, 0);
+}
+#endif
 
 } // namespace Loadwick
