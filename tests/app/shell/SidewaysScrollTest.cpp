@@ -1,7 +1,9 @@
 // A window that a compositor makes narrower than its minimum: everything in it can be reached.
+
+#include <algorithm>
+
 #include <QGuiApplication>
 #include <QTest>
-#include <algorithm>
 
 #include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
