@@ -19,6 +19,12 @@ namespace Loadwick {
 
 namespace {
 
+#ifdef __SANITIZE_THREAD__
+constexpr long sanitizersWakes = 12; ///< a second: its own thread wakes ten times
+#else
+constexpr long sanitizersWakes = 0;
+#endif
+
 ChildSupervision::Request hostileRequest(std::vector<std::string> arguments)
 {
     return {.command = {hostileChildPath(), std::move(arguments), {}, std::nullopt},
@@ -121,7 +127,7 @@ TEST(ChildSupervisionTest, sleepsWhileItsChildRuns)
     std::this_thread::sleep_for(std::chrono::milliseconds(300)); // they come to rest
     const long wakes = wakeCount();
     std::this_thread::sleep_for(std::chrono::seconds(1));
-    EXPECT_LE(wakeCount() - wakes, 20); // ten are the thread sanitizer's own
+    EXPECT_LE(wakeCount() - wakes, 3 + sanitizersWakes);
     request.shutdown->stopChildren(std::chrono::seconds(20));
     supervising.join();
 }

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QTest>
+#include <QVersionNumber>
 
 #include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
@@ -114,6 +116,7 @@ void SidewaysScrollTest::theWheelScrolls()
     turnWheel(-angle, modifiers);
     QTRY_COMPARE(int(position()), 0);
     QVERIFY(!page().property("moving").toBool());
+    QCOMPARE(page().property("contentY").toDouble(), 0.0);
 }
 
 void SidewaysScrollTest::aVerticalWheelScrollsThePage()
@@ -124,6 +127,8 @@ void SidewaysScrollTest::aVerticalWheelScrollsThePage()
     turnWheel({0, -1'200}, Qt::NoModifier);
     // Off screen, Qt 6.8 begins to move it and gets no farther.
     QVERIFY(page().property("moving").toBool());
+    if (QLibraryInfo::version() < QVersionNumber(6, 5))
+        QTRY_VERIFY(page().property("contentY").toDouble() > 0);
     QCOMPARE(position(), 0.0);
 }
 
