@@ -31,4 +31,25 @@ TEST(TracedWorkTest, doesNotKillFinishedWork)
     EXPECT_FALSE(isKilledAt(1'000, [] {}));
 }
 
+TEST(TracedWorkTest, reportsWhatWasSynced)
+{
+    const Loadwick::TemporaryFolder folder;
+    const int descriptor = open(folder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    long calls = 0;
+    std::vector<int> synced;
+    const auto work = [descriptor] {
+        static_cast<void>(fsync(descriptor));
+        static_cast<void>(fsync(-1));
+        static_cast<void>(lseek(descriptor, 0, SEEK_SET));
+    };
+    traceCalls(work, [&](const ReturnedCall &call) {
+        ++calls;
+        if (call.synced)
+            synced.push_back(*call.synced);
+    });
+    close(descriptor);
+    EXPECT_EQ(synced, std::vector<int>{descriptor});
+    EXPECT_GE(calls, 3);
+}
+
 } // namespace Faults
