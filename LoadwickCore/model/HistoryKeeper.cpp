@@ -1,9 +1,24 @@
 #include "model/HistoryKeeper.h"
 
+#include <functional>
 #include <new>
+#include <numeric>
 #include <utility>
 
 namespace Loadwick {
+
+namespace {
+
+/// Freeing as many may take longer than a frame.
+constexpr std::size_t manyCategories = 20'000;
+
+std::size_t categoriesOf(const HistoryKeeper::History &history)
+{
+    return std::transform_reduce(history.begin(), history.end(), std::size_t{0}, std::plus<>(),
+                                 [](const RecordedScan &scan) { return scan.categories.size(); });
+}
+
+} // namespace
 
 HistoryKeeper::HistoryKeeper(std::shared_ptr<ScanHistoryStore> store,
                              std::shared_ptr<TaskDispatcher> dispatcher)
@@ -76,7 +91,10 @@ void HistoryKeeper::run(Work work, Arrive arrive)
 
 void HistoryKeeper::publish(std::optional<History> &outcome)
 {
-    m_history.set(outcome ? std::move(*outcome) : History(m_history.get()));
+    History before = m_history.get();
+    m_history.set(outcome ? std::move(*outcome) : before);
+    if (categoriesOf(before) >= manyCategories)
+        m_tasks.run([before = std::move(before)] {}); // freed in the background
 }
 
 } // namespace Loadwick

@@ -2,13 +2,19 @@
 
 #include <chrono>
 #include <fstream>
+#include <string>
 #include <thread>
+
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
 
 #include <gtest/gtest.h>
 
 #include "history/ScanHistoryFile.h"
 #include "support/DescriptorShortage.h"
 #include "support/RecordedScanBuilder.h"
+#include "support/Sanitizers.h"
 #include "support/ScanModelHarness.h"
 
 namespace Loadwick {
@@ -203,6 +209,29 @@ TEST_F(ScanModelHistoryTest, clearsInTheBackground)
     EXPECT_TRUE(model.isHistoryComplete());
     EXPECT_TRUE(model.history().get().empty());
 }
+
+#if defined(__GLIBC__)
+TEST_F(ScanModelHistoryTest, freesInTheBackgroundWhatItForgets)
+{
+    if (isSanitized)
+        GTEST_SKIP() << "a sanitizer has an allocator of its own";
+    constexpr std::size_t names = 20'000;
+    RecordedScanBuilder builder;
+    for (std::size_t number = 0; number < names; ++number)
+        builder.withCategory("a category of this name: " + std::to_string(number), 1);
+    static_cast<void>(ScanHistoryStore(harness.historyFolder()).append(builder.build()));
+    builder = {};
+    LoadedScanModel model(harness);
+    ASSERT_EQ(model.history().get().size(), 1U);
+    model.clearHistory();
+    const std::size_t before = mallinfo2().uordblks;
+    harness.dispatcher->step();
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_LT(before, mallinfo2().uordblks + names * sizeof(RecordedCategory));
+    harness.dispatcher->runAll();
+    EXPECT_GE(before, mallinfo2().uordblks + names * sizeof(RecordedCategory));
+}
+#endif
 
 TEST_F(ScanModelHistoryTest, recordsAScanThatEndedBeforeTheHistoryWasRead)
 {
