@@ -1,10 +1,28 @@
 #pragma once
 
-namespace Loadwick::SpareMemory {
+#include <memory>
 
-/// Returns the memory that was freed to the system, as far as the C library can. It keeps small
-/// blocks for later otherwise: those of a page's pictures add up to tens of megabytes. Takes
-/// milliseconds.
-void giveBack() noexcept;
+#include <QTimer>
 
-} // namespace Loadwick::SpareMemory
+#include "model/TaskDispatcher.h"
+
+namespace Loadwick {
+
+/// The memory that was freed but that the C library keeps for later: small blocks, which of a
+/// page's pictures add up to tens of megabytes. Belongs to one thread.
+class SpareMemory
+{
+public:
+    explicit SpareMemory(std::shared_ptr<TaskDispatcher> dispatcher);
+
+    /// Gives it back in the background, once a page that has just been asked for is at rest.
+    void giveBackSoon() { m_rest.start(); }
+
+    /// Returns it to the system, as far as the C library can, which takes milliseconds.
+    static void giveBack() noexcept;
+
+private:
+    QTimer m_rest;
+};
+
+} // namespace Loadwick

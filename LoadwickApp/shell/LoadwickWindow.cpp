@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QScreen>
-#include <QTimer>
 #include <QUrl>
 
 #include "base/QmlObject.h"
@@ -34,8 +33,7 @@
 namespace Loadwick {
 namespace {
 
-constexpr int titleBarHeight = 40;          // unknown before the window is shown
-constexpr std::chrono::seconds pageRest(1); // a page that is shown has arrived by then
+constexpr int titleBarHeight = 40; // unknown before the window is shown
 
 QUrl homeUrl()
 {
@@ -105,8 +103,9 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     if (!given.title.isEmpty())
         m_window->setTitle(given.title);
     // The page that was left has freed its pictures.
+    m_spareMemory = std::make_unique<SpareMemory>(std::make_shared<QtTaskDispatcher>(m_interface));
     QObject::connect(m_content.get(), &ContentPresenter::pageIndexChanged, m_window.get(),
-                     [] { QTimer::singleShot(pageRest, &SpareMemory::giveBack); });
+                     [this] { m_spareMemory->giveBackSoon(); });
     m_chooser->attach(*m_window);
     m_saver->attach(*m_window);
     if (given.notices)

@@ -28,6 +28,7 @@ class OverviewPresenter;
 class PageExport;
 class RecentRepositories;
 class ScanNotices;
+class SpareMemory;
 class TrendsPresenter;
 
 /// The program's one window with the model behind it. Make it after the application object, on its
@@ -106,6 +107,7 @@ private:
     std::unique_ptr<PageExport> m_compareExport;
     QQmlEngine m_engine;
     std::unique_ptr<QQuickWindow> m_window;
+    std::unique_ptr<SpareMemory> m_spareMemory;
     std::unique_ptr<FolderChooser> m_chooser;
     std::unique_ptr<FileSaver> m_saver;
     std::unique_ptr<NoticeBoard> m_noticeBoard;

@@ -1,6 +1,7 @@
 #include "base/SpareMemory.h"
 
 #include "support/Sanitizers.h"
+#include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 
 #include <cstddef>
@@ -47,6 +48,32 @@ private Q_SLOTS:
         pictures.clear();
         SpareMemory::giveBack();
         QVERIFY(residentBytes() + count * size / 2 < before);
+    }
+
+    void waitsInTheBackgroundForTheLastOfManyPages()
+    {
+        const auto dispatcher = std::make_shared<SteppingDispatcher>();
+        SpareMemory memory(dispatcher);
+        for (int page = 0; page < 8; ++page) {
+            memory.giveBackSoon();
+            QTest::qWait(200);
+        }
+        QCOMPARE(dispatcher->backgroundCount(), std::size_t{0});
+        QTRY_COMPARE(dispatcher->backgroundCount(), std::size_t{1});
+        dispatcher->runAll();
+    }
+
+    void isNotGivenBackWithoutAThread()
+    {
+        const auto dispatcher = std::make_shared<SteppingDispatcher>();
+        dispatcher->refuseBackground();
+        SpareMemory memory(dispatcher);
+        memory.giveBackSoon();
+        QTest::qWait(1'200);
+        dispatcher->allowBackground();
+        memory.giveBackSoon();
+        QTRY_COMPARE(dispatcher->backgroundCount(), std::size_t{1});
+        dispatcher->runAll();
     }
 };
 
