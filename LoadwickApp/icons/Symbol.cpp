@@ -1,6 +1,7 @@
 #include "icons/Symbol.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QCache>
 #include <QDebug>
@@ -17,6 +18,8 @@ constexpr qreal naturalSize = 16;
 
 // More than a page shows in all sizes and colours; at 16 to 64 pixels they take a megabyte.
 constexpr int greatestPictureCount = 200;
+
+constexpr qreal keptAngle = 18; // degrees: divides a step of the spinner and a quarter
 
 } // namespace
 
@@ -82,9 +85,12 @@ void Symbol::paint(QPainter *painter)
     painter->drawImage(square, picture(pixels));
 }
 
-// A drawing that turns does so by a few steps, whose pictures are shown again at every turn.
+// The steps of what turns and the quarters of what opens are shown again; what is between two of
+// them, while it moves, is not.
 QImage Symbol::picture(int side)
 {
+    if (std::fmod(m_angle, keptAngle) != 0)
+        return drawn(side);
     const QString key =
         QStringLiteral("%1 %2 %3 %4").arg(m_file).arg(side).arg(m_angle).arg(m_tint.rgba(), 0, 16);
     return SymbolPictures::find(key, [this, side] { return drawn(side); });

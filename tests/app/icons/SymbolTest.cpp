@@ -161,6 +161,21 @@ private Q_SLOTS:
         QCOMPARE(m_madeCount, 1'002);
     }
 
+    void keepsNoPictureOfAMovement()
+    {
+        Symbol symbol;
+        symbol.setSize({8, 8});
+        symbol.setName(QStringLiteral("chevron.right"));
+        m_madeCount = 0;
+        (void)picture("test:kept");
+        for (int count = 0; count < 1'000; ++count) {
+            symbol.setAngle(0.0899 * (count + 1));
+            (void)painted(symbol);
+        }
+        (void)picture("test:kept");
+        QCOMPARE(m_madeCount, 1);
+    }
+
 private:
     /// A different colour each time it is rendered.
     QImage picture(const char *key)
