@@ -29,7 +29,7 @@ private:
 /// Runs `work` on a background thread and passes its value to `whenDone` on the interface thread,
 /// unless `object` has been destroyed by then. `work` must therefore own everything it touches;
 /// `whenDone` may use the object. Call it on the interface thread. False if no thread could be
-/// started: neither function then runs.
+/// started: neither function then runs. `work` must not throw.
 template<typename Work, typename WhenDone>
 bool inBackground(const QObject *object, const std::shared_ptr<TaskDispatcher> &dispatcher,
                   Work work, WhenDone whenDone)

@@ -1,6 +1,7 @@
 #include "compare/ComparePresenter.h"
 
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "base/QtTaskDispatcher.h"
@@ -24,6 +25,16 @@ std::size_t categoriesOf(std::span<const RecordedScan> scans)
     for (const RecordedScan &scan : scans)
         count += scan.categories.size();
     return count;
+}
+
+/// Null when there is no memory for it.
+std::shared_ptr<const Comparison> comparisonOf(std::span<const RecordedScan> history)
+{
+    try {
+        return std::make_shared<const Comparison>(Comparison::of(history));
+    } catch (const std::bad_alloc &) {
+        return nullptr;
+    }
 }
 
 QString scanCountText(std::int64_t count)
@@ -123,9 +134,7 @@ std::function<QByteArray()> ComparePresenter::table() const
 void ComparePresenter::showHistory()
 {
     ++m_changes;
-    const auto compare = [history = m_model.history().get()] {
-        return std::make_shared<const Comparison>(Comparison::of(history));
-    };
+    const auto compare = [history = m_model.history().get()] { return comparisonOf(history); };
     const auto showUnlessOld = [this, change = m_changes](const auto &comparison) {
         if (change == m_changes)
             show(comparison);
@@ -140,8 +149,8 @@ void ComparePresenter::show(std::shared_ptr<const Comparison> comparison)
     std::shared_ptr<const Comparison> before = std::exchange(m_comparison, std::move(comparison));
     m_emptyTitle.clear();
     m_emptyText.clear();
-    if (m_comparison->columns.size() < 2) {
-        showWhyEmpty(m_comparison->columns);
+    if (!m_comparison || m_comparison->columns.size() < 2) {
+        showWhyEmpty(m_comparison.get());
         m_comparison = std::make_shared<const Comparison>();
     }
     m_leaderboard.setRows(ranked(m_comparison->leaderboard));
@@ -163,19 +172,25 @@ void ComparePresenter::release(std::shared_ptr<const Comparison> comparison) con
     }
 }
 
-void ComparePresenter::showWhyEmpty(std::span<const RecordedScan> columns)
+void ComparePresenter::showWhyEmpty(const Comparison *comparison)
 {
+    if (comparison == nullptr) {
+        m_emptyTitle = tr("The recorded scans could not be compared");
+        m_emptyText =
+            tr("There is not enough memory. Close other programs and start Loadwick again.");
+        return;
+    }
     if (!m_model.isHistoryComplete()) {
         m_emptyTitle = tr("Reading the recorded scans…");
         return;
     }
-    if (columns.empty()) {
+    if (comparison->columns.empty()) {
         m_emptyTitle = tr("No recorded scans yet");
         m_emptyText =
             tr("Scan two repositories and their latest results appear here side by side.");
         return;
     }
-    const RecordedScan &latest = columns.front();
+    const RecordedScan &latest = comparison->columns.front();
     m_emptyTitle = tr("Only one repository recorded");
     m_emptyText =
         tr("%1 measured %2 tokens. Choose a second repository and scan it to compare the two.")

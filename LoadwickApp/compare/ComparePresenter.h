@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include <QByteArray>
@@ -94,7 +93,7 @@ private:
     void showHistory();
     void show(std::shared_ptr<const Comparison> comparison);
     void release(std::shared_ptr<const Comparison> comparison) const;
-    void showWhyEmpty(std::span<const RecordedScan> columns);
+    void showWhyEmpty(const Comparison *comparison);
 
     ScanModel &m_model;
     TextLocale m_locale;

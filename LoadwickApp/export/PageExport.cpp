@@ -1,5 +1,6 @@
 #include "export/PageExport.h"
 
+#include <new>
 #include <utility>
 
 #include <QPointer>
@@ -15,6 +16,15 @@ namespace {
 bool isDrawing(const std::filesystem::path &file)
 {
     return qtText(pathText(file)).endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+}
+
+std::error_code written(const FileSaver::Target &target, const PictureFrame::Bytes &bytes)
+{
+    try {
+        return SavedFile::write(target, bytes());
+    } catch (const std::bad_alloc &) {
+        return std::make_error_code(std::errc::not_enough_memory);
+    }
 }
 
 } // namespace
@@ -66,7 +76,7 @@ void PageExport::save(const QString &title, const QString &ending, const QString
 void PageExport::write(const FileSaver::Target &target, const PictureFrame::Bytes &bytes)
 {
     const bool isStarted = inBackground(
-        this, m_dispatcher, [target, bytes] { return SavedFile::write(target, bytes()); },
+        this, m_dispatcher, [target, bytes] { return written(target, bytes); },
         [this, target](const std::error_code &failure) { tell(target, failure); });
     if (!isStarted)
         tell(target, std::make_error_code(std::errc::resource_unavailable_try_again));

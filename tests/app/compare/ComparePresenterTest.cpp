@@ -6,7 +6,9 @@
 #include "compare/ColumnPresenter.h"
 #include "components/TrendMark.h"
 #include "samples/SampleHistories.h"
+#include "support/ProcessMemory.h"
 #include "support/RecordedScanBuilder.h"
+#include "support/Sanitizers.h"
 #include "support/ScanningModel.h"
 #include "support/TestRegistry.h"
 
@@ -169,6 +171,24 @@ private Q_SLOTS:
         record({RecordedScanBuilder().build()});
         record({});
         QCOMPARE(m_compare->emptyTitle(), QStringLiteral("No recorded scans yet"));
+    }
+
+    void saysThatMemoryRanOut()
+    {
+        if (isSanitized)
+            QSKIP("a sanitizer has an allocator of its own");
+        const ComparePresenter compare(m_scanning->model, TextLocale(), m_scanning->dispatcher);
+        record(SampleHistories::ofSize(2, 2, 200'000));
+        {
+            const MemoryShortage shortage(0);
+            m_scanning->dispatcher->runBackground();
+        }
+        m_scanning->dispatcher->runPosted();
+        QCOMPARE(compare.emptyTitle(), QStringLiteral("The recorded scans could not be compared"));
+        QCOMPARE(compare.columnCount(), 0);
+        record(twoRepositories());
+        QCOMPARE(compare.emptyTitle(), QString());
+        QCOMPARE(compare.columnCount(), 2);
     }
 
     void theLeaderboardListsTheHeaviestFirst()

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <new>
 #include <thread>
 
 #include <QAccessible>
@@ -12,6 +13,7 @@
 #include "base/QtTaskDispatcher.h"
 #include "shell/ContentPresenter.h"
 #include "support/FakeFileSaver.h"
+#include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
 #include "support/WindowFixture.h"
 #include "text/DateText.h"
@@ -105,6 +107,22 @@ private Q_SLOTS:
         QTRY_COMPARE(saved.count(), 1);
         QCOMPARE(content(file), QByteArray("a,b\r\n"));
         QVERIFY(maker != std::thread::id() && maker != std::this_thread::get_id());
+    }
+
+    void saysThatMemoryRanOut()
+    {
+        const auto file = m_window->folder().path() / "data.csv";
+        FakeFileSaver saver;
+        saver.answer = {.file = file, .mayReplace = true};
+        const auto dispatcher = std::make_shared<SteppingDispatcher>();
+        PageExport page({.name = [] { return QStringLiteral("data"); },
+                         .table = [] { return []() -> QByteArray { throw std::bad_alloc(); }; }},
+                        saver, dispatcher);
+        page.saveTable();
+        dispatcher->runAll();
+        QVERIFY(page.failed());
+        QVERIFY(page.outcome().contains(QStringLiteral("Cannot allocate memory")));
+        QVERIFY(!std::filesystem::exists(file));
     }
 
     void savesTheTrendAsCsv()
