@@ -36,11 +36,17 @@ void RecordedDataPresenter::showHistory()
     newest.erase(newest.begin() + static_cast<std::ptrdiff_t>(std::min(newest.size(), mostRuns)),
                  newest.end());
     m_runs.setRows(std::move(newest));
-    m_runsDetail = history.size() <= mostRuns
-                       ? tr("Every recorded scan, newest first, across every repository.")
-                       : tr("The newest 30 of %1 recorded scans, across every repository.")
-                             .arg(history.size());
     Q_EMIT changed();
+}
+
+QString RecordedDataPresenter::runsDetail() const
+{
+    const std::size_t scans = m_model.history().get().size();
+    if (scans == 0 && !m_model.isHistoryComplete())
+        return {};
+    return scans <= mostRuns
+               ? tr("Every recorded scan, newest first, across every repository.")
+               : tr("The newest 30 of %1 recorded scans, across every repository.").arg(scans);
 }
 
 std::vector<ListOf<RecordedScan>::Role> RecordedDataPresenter::runRoles() const
@@ -105,6 +111,11 @@ QString RecordedDataPresenter::historyFile() const
 {
     const auto file = m_model.historyFile();
     return file ? qtText(pathText(*file)) : QString();
+}
+
+bool RecordedDataPresenter::canClear() const
+{
+    return m_model.isHistoryComplete() && m_model.canClearHistory();
 }
 
 QString RecordedDataPresenter::deleteTitle() const

@@ -40,8 +40,8 @@ public:
     /// "value" (tokens), "valueCaption", "band" (its number), "path", the repository's path where
     /// its name is ambiguous, else empty, and "sentence", all words of the row with its band.
     [[nodiscard]] RowList *runs() { return &m_runs; }
-    /// Describes which scans these are.
-    [[nodiscard]] QString runsDetail() const { return m_runsDetail; }
+    /// Describes which scans these are; empty until the history has been read.
+    [[nodiscard]] QString runsDetail() const;
 
     /// Empty while the history changes. Composed on demand: its figures load the locale's data,
     /// which start-up does not need.
@@ -57,7 +57,8 @@ public:
 
     /// The title of the button that deletes that many scans permanently.
     [[nodiscard]] QString deleteTitle() const;
-    [[nodiscard]] bool canClear() const { return m_model.canClearHistory(); }
+    /// False while the history changes: the title would tell a wrong number.
+    [[nodiscard]] bool canClear() const;
 
     /// Deletes every recorded scan.
     Q_INVOKABLE void clear();
@@ -73,7 +74,6 @@ private:
     FileOpener *m_opener = nullptr;
     TextLocale m_locale;
     ListOf<RecordedScan> m_runs;
-    QString m_runsDetail;
 };
 
 } // namespace Loadwick

@@ -98,6 +98,29 @@ private Q_SLOTS:
         QVERIFY(m_data->canClear());
     }
 
+    void saysNothingAboutScansThatAreBeingRead()
+    {
+        ScanModel reading({.probeRunner = std::make_shared<FakeProbe>(),
+                           .instructionScanner = std::make_shared<FakeInstructionScanner>(),
+                           .historyStore = std::make_unique<ScanHistoryStore>(m_folder->path()),
+                           .dispatcher = m_dispatcher});
+        RecordedDataPresenter data(reading, TextLocale());
+        data.showHistory();
+        QCOMPARE(data.runsDetail(), QString());
+        m_dispatcher->runAll();
+        QVERIFY(data.runsDetail().startsWith(QStringLiteral("Every recorded scan")));
+    }
+
+    void canBeClearedOnceItsNumberIsKnown()
+    {
+        record(1, 1);
+        m_model->clearHistory();
+        QVERIFY(!m_data->canClear());
+        m_dispatcher->runAll();
+        record(1, 1);
+        QVERIFY(m_data->canClear());
+    }
+
     void clearsTheHistoryAndItsFile()
     {
         ScanHistoryStore store(m_folder->path());
