@@ -16,6 +16,10 @@ set_tests_properties(house/layers-finds-upward-uses house/sizes-finds-long-ones
 set_tests_properties(house/sizes-finds-long-ones PROPERTIES PASS_REGULAR_EXPRESSION
     "Long.cpp:6: longest has 41 lines[^\n]*\n50% [^\n]*\n90% [^\n]*\nLoadwickApp/page/Long.qml has 201 lines")
 
+# So must what plants faults: it names the test that notices one, and tells of one that none notices.
+add_test(NAME house/mutants COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/mutants/run_test.py")
+set_tests_properties(house/mutants PROPERTIES LABELS house TIMEOUT 300)
+
 # The configuration names all that it lacks, also what a module needs in turn.
 add_test(NAME house/names-what-is-missing
          COMMAND ${CMAKE_COMMAND} -S "${CMAKE_CURRENT_SOURCE_DIR}/fixtures/needs"
