@@ -6,11 +6,15 @@ import Loadwick
 Item {
     id: keys
 
+    // Has the focus while no tab stop has it, and shows nothing of that.
+    required property Item start
     // The item that takes the focus in the sidebar.
     required property Item sidebar
     // The right column with its toolbar, and the page that it shows.
     required property Item detail
     required property Item page
+    // False while another window has the keyboard, such as a dialog.
+    readonly property bool hasKeyboard: Boolean(keys.Window.activeFocusItem)
     // By page, the last item in the detail that had the focus while the page was shown.
     readonly property var lastStops: new Map()
 
@@ -43,6 +47,15 @@ Item {
             keys.detailStop().forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
+    // From a window in which nothing has the focus, Orca 48 does not speak the first stop that a key
+    // reaches.
+    function rest() {
+        if (!keys.hasKeyboard)
+            keys.start.focus = false;
+        else if (keys.holds(keys.Window.activeFocusItem, keys.start))
+            keys.start.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     // Keys would be lost on a page that is hidden.
     function leaveHiddenPage() {
         const item = keys.Window.activeFocusItem;
@@ -57,15 +70,23 @@ Item {
     }
 
     visible: false
+    onHasKeyboardChanged: afterwards.restart()
     // A page can also be hidden while a dialog has the keyboard.
     Window.onActiveFocusItemChanged: {
         keys.leaveHiddenPage();
         keys.noteStop();
     }
 
+    // Once the window is active: Orca 43 does not speak its name if something has the focus before.
+    Timer {
+        id: afterwards
+
+        interval: 0
+        onTriggered: keys.rest()
+    }
     Shortcut {
         sequences: ["F6", "Shift+F6"]
-        enabled: Boolean(keys.Window.activeFocusItem)
+        enabled: keys.hasKeyboard
         onActivated: keys.switchSides()
     }
     // Active while a modal sheet is open, too.

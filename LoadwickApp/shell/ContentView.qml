@@ -106,9 +106,11 @@ SplitView {
         ContentKeys {
             id: keys
 
+            start: sidebar.name
             sidebar: sidebar.pages
             detail: detail
-            page: pages.children[pages.currentIndex] as Item
+            // Not by the layout's index: Qt 6.8 does not notify of the first one.
+            page: pages.children[view.content.pageIndex] as Item
         }
     }
 }

@@ -8,6 +8,7 @@ Rectangle {
 
     required property ContentPresenter content
     readonly property alias pages: pages
+    readonly property alias name: name
     readonly property color statusTint: {
         switch (sidebar.content.status) {
         case ContentPresenter.Scanning: return AppTheme.accent;

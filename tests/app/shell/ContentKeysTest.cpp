@@ -1,3 +1,5 @@
+#include <functional>
+
 #include <QAccessible>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -107,16 +109,23 @@ private Q_SLOTS:
     {
         scan();
         m_window->press(Qt::Key_F6);
-        QQuickWindow &window = m_window->loadwick().window();
-        QQuickWindow dialog;
-        dialog.show();
-        dialog.requestActivate();
-        QTRY_VERIFY(window.activeFocusItem() == nullptr);
-        m_window->loadwick().content().setPageIndex(1);
-        dialog.close();
-        window.requestActivate();
-        QTRY_VERIFY(focused() != nullptr);
+        openAndCloseADialog([this] { m_window->loadwick().content().setPageIndex(1); });
         QCOMPARE(focusedName(), currentPage());
+    }
+
+    void aWindowWithoutAFocusedStopFocusesTheNameOfTheRepository()
+    {
+        QTRY_COMPARE(focusedName(), QStringLiteral("No repository selected"));
+        openAndCloseADialog();
+        QTRY_COMPARE(focusedName(), QStringLiteral("No repository selected"));
+    }
+
+    void aStopKeepsTheFocusBehindADialog()
+    {
+        m_window->press(Qt::Key_F6);
+        openAndCloseADialog();
+        QCoreApplication::processEvents();
+        QCOMPARE(focusedName(), QStringLiteral("Choose Repository…"));
     }
 
     // Elsewhere the page takes these keys.
@@ -236,6 +245,18 @@ private:
             if (child->inherits("QQuickToolTip") && child->property("visible").toBool())
                 return child->property("words").toString();
         return {};
+    }
+
+    void openAndCloseADialog(const std::function<void()> &meanwhile = [] {})
+    {
+        QQuickWindow dialog;
+        dialog.show();
+        dialog.requestActivate();
+        QTRY_VERIFY(focused() == nullptr);
+        meanwhile();
+        dialog.close();
+        m_window->loadwick().window().requestActivate();
+        QTRY_VERIFY(focused() != nullptr);
     }
 
     void scan()
