@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <memory>
 #include <string>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #if defined(__linux__)
@@ -14,15 +12,11 @@
 #include <sys/statfs.h>
 #endif
 
+#include "posix/FolderListing.h"
+
 namespace Loadwick {
 
 namespace {
-
-struct ListingCloser
-{
-    void operator()(DIR *listing) const noexcept { ::closedir(listing); }
-};
-using Listing = std::unique_ptr<DIR, ListingCloser>;
 
 /// Whether the disk that holds `folder` gives each folder one link for its name, one for its ".",
 /// and one for the ".." of each folder in it. Others always give one (btrfs), always two (some
@@ -53,10 +47,7 @@ unsigned char examinedType(int folder, const char *name, int flags) noexcept
 
 void PosixFileSystem::list(const std::filesystem::path &folder, const Visitor &visit) const
 {
-    // The system would truncate the path at a NUL and list another folder.
-    if (folder.native().find('\0') != std::string::npos)
-        return;
-    const Listing listing(::opendir(folder.c_str()));
+    const FolderListing listing = openListing(folder);
     if (!listing)
         return;
     std::string name; // reused: a string per entry took half of the time

@@ -1,11 +1,8 @@
 #include "probe/FolderAccess.h"
 
 #include <cerrno>
-#include <memory>
-#include <string>
 
-#include <dirent.h>
-
+#include "posix/FolderListing.h"
 #include "process/BoundedCall.h"
 #include "text/PathText.h"
 
@@ -15,10 +12,7 @@ namespace {
 
 bool canBeListed(const std::filesystem::path &repository)
 {
-    if (repository.native().find('\0') != std::string::npos)
-        return false;
-    const auto close = [](DIR *open) { closedir(open); };
-    const std::unique_ptr<DIR, decltype(close)> entries(opendir(repository.c_str()), close);
+    const FolderListing entries = openListing(repository);
     if (!entries)
         return false;
     errno = 0;

@@ -56,4 +56,15 @@ TEST(FaultTest, distinguishesTransientErrors)
         EXPECT_FALSE(Fault{.errorNumber = number}.isTransient());
 }
 
+TEST(FaultTest, excusesNothingAfterOneInterruption)
+{
+    for (const Call call : {Call::fsync, Call::write, Call::mkostemp, Call::read, Call::poll,
+                            Call::waitid, Call::open, Call::opendir}) {
+        EXPECT_TRUE((Fault{.call = call, .errorNumber = EINTR}.isToBeRepeated()));
+        EXPECT_FALSE((Fault{.call = call, .errorNumber = EIO}.isToBeRepeated()));
+        EXPECT_FALSE(
+            (Fault{.call = call, .errorNumber = EINTR, .mode = Mode::burst}).isToBeRepeated());
+    }
+}
+
 } // namespace Faults

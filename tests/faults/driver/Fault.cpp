@@ -16,7 +16,7 @@ constexpr long burstLength = 100;
 
 constexpr std::array opening{EIO, EACCES, EMFILE, ENFILE, EINTR, ENOMEM, EROFS};
 constexpr std::array creating{EIO, ENOSPC, EDQUOT, EACCES, EMFILE, ENFILE, EINTR, ENOMEM, EROFS};
-constexpr std::array reading{EIO, EINTR, ENOMEM};
+constexpr std::array reading{EIO, EACCES, EINTR, ENOMEM};
 constexpr std::array writing{EIO, ENOSPC, EDQUOT, EINTR};
 constexpr std::array seeking{EIO};
 constexpr std::array closing{EIO, EINTR, ENOSPC, EDQUOT};
@@ -147,6 +147,13 @@ bool Fault::isTransient() const
 {
     constexpr std::array passing{EINTR, EAGAIN, EMFILE, ENFILE, ENOMEM};
     return std::find(passing.begin(), passing.end(), errorNumber) != passing.end();
+}
+
+bool Fault::isToBeRepeated() const
+{
+    // Linux interrupts neither on its own disks and for our uses, so they are not repeated.
+    const bool isElsewhere = call == Call::stat || call == Call::fcntl;
+    return errorNumber == EINTR && mode == Mode::once && !isElsewhere;
 }
 
 bool Fault::isShortageOfMemoryOrThreads() const

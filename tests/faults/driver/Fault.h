@@ -33,6 +33,9 @@ struct Fault
     /// A transient shortage (memory, descriptors), or an interruption.
     [[nodiscard]] bool isTransient() const;
 
+    /// One interruption of a call that is to be repeated: it excuses nothing.
+    [[nodiscard]] bool isToBeRepeated() const;
+
     /// Memory or threads have run out.
     [[nodiscard]] bool isShortageOfMemoryOrThreads() const;
 

@@ -101,6 +101,11 @@ void Matrix::runSample(const OperationKind &kind, const Tally &counted, const Ex
             for (; fault.nth <= countOf(counted, refusals.call); ++fault.nth)
                 faults.push_back(fault);
         std::shuffle(faults.begin(), faults.end(), random);
+        const auto interruption =
+            std::find_if(faults.begin(), faults.end(),
+                         [](const Fault &fault) { return fault.isToBeRepeated(); });
+        if (interruption != faults.end())
+            std::iter_swap(faults.begin(), interruption);
         // Memory fails in one way only, but at hundreds of call sites: sample more of them.
         const std::size_t size = extent.sampleSize * (refusals.call == Call::malloc ? 6 : 1);
         faults.resize(std::min(faults.size(), size));

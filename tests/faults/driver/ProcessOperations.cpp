@@ -58,6 +58,8 @@ public:
             return "the child was not started, for no stated reason";
         if (m_execution.exitCode != 3 || m_execution.timedOut)
             return "not the child's exit status";
+        if (!fault && m_execution.readersTimedOut)
+            return "a reader did not see the end of its stream";
         if (!isFirstPart(m_execution.standardOutput, "said", fault) ||
             !isFirstPart(m_execution.standardError, "warned", fault))
             return "not the child's output";

@@ -104,8 +104,12 @@ Report performed(const Trial &trial, const fs::path &home, Progress &progress)
     progress.begin("checking the result");
     if (trial.after)
         trial.after();
-    const auto remains = remainsBeyond(census);
-    const auto problem = remains ? remains : operation->problem(endingOf(thrown), trial.fault);
+    auto problem = remainsBeyond(census);
+    if (!problem && report.tally.inherited > 0)
+        problem = "descriptors were open to children: " + std::to_string(report.tally.inherited);
+    const auto excuse = trial.fault && trial.fault->isToBeRepeated() ? std::nullopt : trial.fault;
+    if (!problem)
+        problem = operation->problem(endingOf(thrown), excuse);
     std::snprintf(report.problem.data(), report.problem.size(), "%s", problem.value_or("").c_str());
     return report;
 }

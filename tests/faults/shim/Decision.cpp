@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include <fcntl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -17,6 +18,7 @@ Plan thePlan;
 std::atomic<bool> isArmed = false;
 std::array<std::atomic<long>, callKinds> matched;
 std::atomic<long> failed = 0;
+std::atomic<long> inherited = 0;
 
 bool isSpared() noexcept
 {
@@ -67,6 +69,15 @@ bool fails(Call call, int descriptor) noexcept
     return length > 0 && isOfInterest(path.data()) && decide(call);
 }
 
+int opened(int descriptor) noexcept
+{
+    // The system's own call: ours would count.
+    if (isArmed.load() && descriptor >= 0 &&
+        (syscall(SYS_fcntl, descriptor, F_GETFD) & FD_CLOEXEC) == 0)
+        ++inherited;
+    return descriptor;
+}
+
 } // namespace Faults
 
 void loadwickArmFaults(const Faults::Plan *plan)
@@ -76,6 +87,7 @@ void loadwickArmFaults(const Faults::Plan *plan)
     for (auto &count : Faults::matched)
         count = 0;
     Faults::failed = 0;
+    Faults::inherited = 0;
     Faults::isArmed = true;
 }
 
@@ -85,4 +97,5 @@ void loadwickDisarmFaults(Faults::Tally *tally)
     for (std::size_t kind = 0; kind < Faults::callKinds; ++kind)
         tally->matched[kind] = Faults::matched[kind];
     tally->failed = Faults::failed;
+    tally->inherited = Faults::inherited;
 }

@@ -14,13 +14,19 @@
 using Faults::behind;
 using Faults::Call;
 using Faults::fails;
+using Faults::opened;
 
 extern "C" {
 
 ssize_t read(int descriptor, void *buffer, size_t size)
 {
     static auto *const next = behind(read, "read");
-    return fails(Call::read, descriptor) ? -1 : next(descriptor, buffer, size);
+    if (fails(Call::read, descriptor))
+        return -1;
+    const ssize_t count = next(descriptor, buffer, size);
+    if (count >= 0)
+        errno = EINTR; // a call that succeeds may leave any
+    return count;
 }
 
 ssize_t write(int descriptor, const void *buffer, size_t size)
@@ -81,7 +87,7 @@ int fchmod(int descriptor, mode_t mode) noexcept
 int dup(int descriptor) noexcept
 {
     static auto *const next = behind(dup, "dup");
-    return fails(Call::dup, descriptor) ? -1 : next(descriptor);
+    return fails(Call::dup, descriptor) ? -1 : opened(next(descriptor));
 }
 
 int dup2(int descriptor, int target) noexcept
@@ -97,7 +103,10 @@ int fcntl(int descriptor, int command, ...)
     va_start(rest, command);
     void *const argument = va_arg(rest, void *);
     va_end(rest);
-    return fails(Call::fcntl, descriptor) ? -1 : next(descriptor, command, argument);
+    if (fails(Call::fcntl, descriptor))
+        return -1;
+    const int outcome = next(descriptor, command, argument);
+    return command == F_DUPFD || command == F_DUPFD_CLOEXEC ? opened(outcome) : outcome;
 }
 
 int fcntl64(int descriptor, int command, ...)
@@ -118,7 +127,11 @@ int pipe(int *ends) noexcept
 int pipe2(int *ends, int flags) noexcept
 {
     static auto *const next = behind(pipe2, "pipe2");
-    return fails(Call::pipe) ? -1 : next(ends, flags);
+    if (fails(Call::pipe) || next(ends, flags) != 0)
+        return -1;
+    opened(ends[0]);
+    opened(ends[1]);
+    return 0;
 }
 
 int poll(pollfd *descriptors, nfds_t count, int milliseconds)

@@ -61,6 +61,7 @@ struct Tally
 {
     std::array<long, callKinds> matched{}; ///< calls of each kind on the plan's path
     long failed = 0;
+    long inherited = 0; ///< new descriptors that a child would inherit
 };
 
 } // namespace Faults

@@ -14,6 +14,7 @@
 using Faults::behind;
 using Faults::Call;
 using Faults::fails;
+using Faults::opened;
 
 namespace {
 
@@ -34,7 +35,7 @@ int open(const char *path, int flags, ...)
     va_start(rest, flags);
     const mode_t mode = va_arg(rest, mode_t);
     va_end(rest);
-    return fails(Call::open, path) ? -1 : next(path, flags, mode);
+    return fails(Call::open, path) ? -1 : opened(next(path, flags, mode));
 }
 
 int open64(const char *path, int flags, ...)
@@ -53,7 +54,7 @@ int openat(int folder, const char *path, int flags, ...)
     va_start(rest, flags);
     const mode_t mode = va_arg(rest, mode_t);
     va_end(rest);
-    return failsAt(Call::open, folder, path) ? -1 : next(folder, path, flags, mode);
+    return failsAt(Call::open, folder, path) ? -1 : opened(next(folder, path, flags, mode));
 }
 
 FILE *fopen(const char *path, const char *mode)
@@ -70,7 +71,7 @@ FILE *fopen64(const char *path, const char *mode)
 int mkostemp(char *pattern, int flags)
 {
     static auto *const next = behind(mkostemp, "mkostemp");
-    return fails(Call::mkostemp, pattern) ? -1 : next(pattern, flags);
+    return fails(Call::mkostemp, pattern) ? -1 : opened(next(pattern, flags));
 }
 
 int stat(const char *path, struct stat *status) noexcept
