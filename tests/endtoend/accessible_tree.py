@@ -172,6 +172,11 @@ class AccessibleTree:
         until("the display's active window", has_active_window)
         xdotool("getactivewindow", "windowsize", "--sync", str(width), str(height))
 
+    def height(self) -> int:
+        """That of the program's window without its title bar, in units that the scale does not change."""
+        [frame] = [item for item in self.items() if role_of(item) == "frame"]
+        return int(Atspi.Component.get_extents(frame, Atspi.CoordType.SCREEN).height)
+
     def wait_until_inactive(self) -> None:
         """Returns once the program knows that its window has lost the focus."""
         self._until("the window to become inactive", lambda: not self._is_active())

@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import os
+import re
 import subprocess
 import unittest
 from pathlib import Path
@@ -77,14 +78,32 @@ class DesktopCase(EndToEndCase):
 
     def brightness(self) -> float:
         """That of the middle of the screen, where the window is: 0 is black, 1 is white."""
-        picture = self.home.path / "picture.png"
-        self.desktop.compositor.picture(picture)
-        command = ["convert", os.fspath(picture), "-gravity", "center", "-crop", "400x300+0+0"]
-        command += ["-colorspace", "Gray", "-format", "%[fx:mean]", "info:"]
+        crop = ["-gravity", "center", "-crop", "400x300+0+0", "-colorspace", "Gray"]
+        return float(self.measure("%[fx:mean]", os.fspath(self.picture("now")), *crop))
+
+    def picture(self, name: str) -> Path:
+        """Takes a picture of the screen; returns its file, which has this name."""
+        file = self.home.path / f"{name}.png"
+        self.desktop.compositor.picture(file)
+        return file
+
+    def changed_rows(self, before: Path) -> int:
+        """How many rows there are from the first to the last whose brightness is another than in this
+        picture, to the left of the middle of the screen, where the window is."""
+        difference = [os.fspath(before), os.fspath(self.picture("now"))]
+        difference += ["-compose", "difference", "-composite", "-colorspace", "Gray"]
+        column = ["-crop", "8x0+320+0", "+repage", "-threshold", "25%"]
+        edge = ["-bordercolor", "black", "-border", "1"]
+        _, rows, *_ = re.split("[x+-]", self.measure("%@", *difference, *column, *edge))
+        return int(rows)
+
+    def measure(self, what: str, *picture: str) -> str:
+        """What ImageMagick says of a picture."""
+        command = ["convert", *picture, "-format", what, "info:"]
         answer = subprocess.run(
             command, check=True, capture_output=True, text=True, timeout=LIMIT_SECONDS
         )
-        return float(answer.stdout)
+        return answer.stdout
 
     def wait_until_raised(self) -> None:
         """Returns once the program's window has the focus; skips the test if the compositor refuses

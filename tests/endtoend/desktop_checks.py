@@ -13,6 +13,7 @@ from waiting import LIMIT_SECONDS, until
 FOLDER_TITLE = "Choose a local repository to scan."
 FILE_DIALOGS = "org.freedesktop.impl.portal.desktop.gtk"
 END_SECONDS = 1.0
+LEAST_TITLE_BAR = 20
 
 
 class DesktopChecks(DesktopCase):
@@ -24,10 +25,15 @@ class DesktopChecks(DesktopCase):
         until("the window", lambda: compositor.identities() == [IDENTITY])
 
     def test_the_colour_scheme_is_followed(self) -> None:
-        self.open_here()
+        program = self.open_here()
         for is_dark in (True, False):
+            self.wait_until_brightness(not is_dark)
+            before = self.picture("before")
             self.desktop.set_dark(is_dark)
             self.wait_until_brightness(is_dark)
+            if self.compositor_type.leaves_title_bars:
+                least = program.window.height() + LEAST_TITLE_BAR
+                until("the title bar's colour", lambda: self.changed_rows(before) >= least)
 
     def test_an_unseen_end_of_a_scan_is_announced_until_the_window_is_seen(self) -> None:
         self.finish_unseen_scan(self.open_here())

@@ -21,6 +21,7 @@ class Compositor:
 
     executable = ""
     desktop = ""  # what XDG_CURRENT_DESKTOP is beside it
+    leaves_title_bars = False  # to the programs
     scale = 1.0  # how many of the screen's pixels are one of a window's
 
     def __init__(self, home: Path) -> None:

@@ -41,6 +41,7 @@ class GnomeShell(Compositor):
 
     executable = "gnome-shell"
     desktop = "GNOME"
+    leaves_title_bars = True
     _step = 1  # of the pointer, to and fro
 
     def command(self) -> list[str]:

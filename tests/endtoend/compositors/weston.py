@@ -21,6 +21,7 @@ class Weston(Compositor):
 
     executable = "weston"
     desktop = "weston"
+    leaves_title_bars = True
 
     def command(self) -> list[str]:
         if self.scale != round(self.scale):
