@@ -28,14 +28,14 @@ Item {
 
     // The grid is in a column that scrolls.
     readonly property real pageTop: grid.y + (grid.parent ? grid.parent.y : 0)
-    readonly property real screenHeight: Math.max(Screen.height, grid.viewport.height)
+    // The viewport is as high as its content while the page is laid out for the first time.
+    readonly property real screenHeight: Math.max(Screen.height, grid.Window.height)
     readonly property int middleLine: Math.floor((grid.viewport.contentY + 0.5 * grid.viewport.height - grid.pageTop) / grid.lineStep)
     readonly property int neededLines: grid.cardHeight > 0 ? Math.ceil(grid.screenHeight / grid.lineStep) + 2 : 1
     readonly property int keptLines: grid.isLarge ? Math.min(grid.neededLines, grid.lineCount) : grid.lineCount
     readonly property int firstLine: grid.isLaidOut ? Math.max(0, Math.min(grid.lineCount - grid.keptLines, grid.middleLine - Math.floor(0.5 * grid.keptLines))) : 0
     // Independent of the width: a different number would make all cards again.
     readonly property int mostCells: (Math.ceil(grid.screenHeight / grid.leastHeight) + 2) * grid.fitting(AppTheme.contentWidth)
-    // While the page is laid out for the first time, its viewport is as high as its content.
     readonly property int cellCount: grid.isLarge ? Math.min(grid.count, grid.mostCells) : grid.count
 
     // Before the first frame nothing has its position or height. After it a large grid makes one

@@ -1,7 +1,7 @@
 import QtQuick
 
 // The rows of a LongList that exist: as many as the page has ever shown at once, or all of a short
-// list. A row that has left the page is pooled and reused, at a fraction of the cost of a new one.
+// list, of which those below the page follow its first frame, a few in each. A row that has left the page is pooled and reused, at a fraction of the cost of a new one.
 // The view keeps its size and position while the page scrolls, since Qt drops all pooled rows when
 // either changes.
 ListView {
@@ -22,11 +22,14 @@ ListView {
     property bool isFilled: false
     // 0 while rows have no height yet.
     readonly property int pageRows: rows.rowHeight > 0 ? Math.ceil(rows.page.height / rows.rowHeight) + 1 : 0
-    readonly property int seenRows: rows.isFilled
-        ? rows.pageRows
-        : rows.rowAt(rows.page.contentY + rows.page.height + rows.rowHeight) - rows.rowAt(rows.page.contentY)
+    readonly property int endRow: rows.rowAt(rows.page.contentY + rows.page.height + rows.rowHeight)
+    readonly property int seenRows: rows.isFilled ? rows.pageRows : rows.endRow - rows.rowAt(rows.page.contentY)
     property int mostSeenRows: 0
-    readonly property int shownRows: rows.isShort ? rows.count : Math.min(rows.count, rows.pageRows, Math.max(rows.seenRows, rows.mostSeenRows))
+    // Of a short list.
+    property int madeRows: 0
+    readonly property int shownRows: rows.isShort
+        ? Math.min(rows.count, Math.max(rows.endRow, rows.madeRows))
+        : Math.min(rows.count, rows.pageRows, Math.max(rows.seenRows, rows.mostSeenRows))
     readonly property int firstRow: rows.isShort ? 0 : Math.min(rows.count - rows.shownRows, rows.rowAt(rows.page.contentY))
 
     function rowAt(pageY) {
@@ -67,6 +70,7 @@ ListView {
     cacheBuffer: 0
     reuseItems: true
 
+    onModelChanged: rows.madeRows = 0
     onSeenRowsChanged: rows.mostSeenRows = Math.max(rows.mostSeenRows, rows.seenRows)
     onRowHeightChanged: rows.placeRows()
     onFirstRowChanged: {
@@ -76,4 +80,9 @@ ListView {
     onShownRowsChanged: rows.takeFocusFromLeaving()
     // A view returns to its top when its model changes.
     onContentYChanged: rows.placeRows()
+
+    FrameAnimation {
+        running: rows.isShort && rows.madeRows < rows.count
+        onTriggered: rows.madeRows += 2
+    }
 }

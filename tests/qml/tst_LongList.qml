@@ -102,7 +102,8 @@ LongListScene {
 
         function test_aShortListExistsAsAWhole() {
             show(60);
-            compare(scene.rowCount, 60);
+            verify(scene.rowCount <= 14, "rows below the page delay no frame");
+            tryCompare(scene, "rowCount", 60);
             page.contentY = 700;
             compare(scene.rowCount, 60);
             compare(shownRows(), expectedRows());

@@ -108,8 +108,10 @@ void CompareScrollingTest::aViewportAsHighAsThePageNeedsNoMoreCells()
 {
     m_page->record(SampleHistories::ofSize(200, 200, 2));
     const QQuickItem *grid = m_page->items("cell").constFirst()->parentItem();
+    const int cells = grid->property("cellCount").toInt();
+    QVERIFY2(cells < 40, qPrintable(QString::number(cells)));
     m_page->viewport()->setHeight(50'000);
-    QCOMPARE(grid->property("cellCount").toInt(), 200);
+    QCOMPARE(grid->property("cellCount").toInt(), cells);
 }
 
 void CompareScrollingTest::scrollingCreatesNoCards()

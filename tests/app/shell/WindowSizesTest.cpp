@@ -204,8 +204,8 @@ void WindowSizesTest::everyPageFits()
         dragSidebar(sidebar);
         endScan();
         visitPages();
-        QVERIFY(visibleItems(window().contentItem(), QStringLiteral("tokens")).size() >
-                qsizetype(busyReport().rows.size()));
+        QTRY_VERIFY(visibleItems(window().contentItem(), QStringLiteral("tokens")).size() >
+                    qsizetype(busyReport().rows.size()));
     }
     expandSections(*window().contentItem());
     verify("Overview with open sections");

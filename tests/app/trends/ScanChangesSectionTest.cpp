@@ -164,7 +164,7 @@ void ScanChangesSectionTest::everyRowCanBeReadAndCopied()
     scans[0].categories = {{"mcp tools", 8'240}, {"same", 5}};
     scans[1].categories = {{"skills", 1'935}, {"same", 5}};
     showTrends(std::move(scans));
-    QCOMPARE(sentences().size(), 3);
+    QTRY_COMPARE(sentences().size(), 3);
     QVERIFY(m_window->shows(QStringLiteral("1 category unchanged, 5 tokens")));
     focus("changes");
     QVERIFY(focusName().startsWith(QStringLiteral("Total, before 27,653, after 27,654, ")));
