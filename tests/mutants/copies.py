@@ -86,7 +86,7 @@ class Copy:
             if self.stopped or self._passes(test) or self.stopped or self._passes(test):
                 return None
             failure = test
-            self.log = (self.folder / f"tmp.{test.replace('/', '-')}").read_text()
+            self.log = (self.folder / f"tmp.{test.replace('/', '-')}").read_text(errors="replace")
         except subprocess.TimeoutExpired:
             failure = f"{test} (time)"
         self.stopped = True

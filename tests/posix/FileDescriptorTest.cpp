@@ -1,6 +1,8 @@
 #include "posix/FileDescriptor.h"
 
+#include <array>
 #include <cerrno>
+#include <fstream>
 #include <system_error>
 #include <utility>
 
@@ -21,6 +23,23 @@ int openNumber()
 bool isOpenNumber(int number)
 {
     return fcntl(number, F_GETFD) != -1;
+}
+
+/// What `make` returns while all three standard streams are closed.
+template<typename Make>
+auto withoutStandardStreams(Make make)
+{
+    constexpr std::array streams{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO};
+    std::array<FileDescriptor, streams.size()> kept;
+    for (std::size_t index = 0; index < streams.size(); ++index) {
+        kept[index] = FileDescriptor(fcntl(streams[index], F_DUPFD_CLOEXEC, 10));
+        close(streams[index]);
+    }
+    auto made = make();
+    for (std::size_t index = 0; index < streams.size(); ++index)
+        if (kept[index].isOpen())
+            dup2(kept[index].number(), streams[index]);
+    return made;
 }
 
 } // namespace
@@ -80,6 +99,13 @@ TEST(FileDescriptorTest, duplicatesClosedOnExecAndAboveTheStandardStreams)
     EXPECT_EQ(fcntl(duplicate.number(), F_GETFD), FD_CLOEXEC);
 }
 
+TEST(FileDescriptorTest, duplicatesNothingOntoClosedStandardStreams)
+{
+    const FileDescriptor descriptor(openNumber());
+    const FileDescriptor duplicate = withoutStandardStreams([&] { return descriptor.duplicate(); });
+    EXPECT_GT(duplicate.number(), STDERR_FILENO);
+}
+
 TEST(FileDescriptorTest, duplicatesNothingAsNothing)
 {
     EXPECT_FALSE(FileDescriptor().duplicate().isOpen());
@@ -113,22 +139,25 @@ TEST(FileDescriptorTest, opensPipesClosedOnExecAndAboveTheStandardStreams)
     }
 }
 
-TEST(FileDescriptorTest, opensNoPipeOnAClosedStandardStream)
+TEST(FileDescriptorTest, opensNoPipeOnClosedStandardStreams)
 {
-    const FileDescriptor keptInput(fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 10));
-    close(STDIN_FILENO);
-    const Pipe pipe = Pipe::open();
+    const Pipe pipe = withoutStandardStreams([] { return Pipe::open(); });
     EXPECT_GT(pipe.readEnd.number(), STDERR_FILENO);
-    EXPECT_LT(fcntl(STDIN_FILENO, F_GETFD), 0);
-    if (keptInput.isOpen())
-        dup2(keptInput.number(), STDIN_FILENO);
+    EXPECT_GT(pipe.writeEnd.number(), STDERR_FILENO);
 }
 
-// An unprivileged user may already have reached the limit on all pipes together.
-TEST(FileDescriptorTest, opensPipesOfAtLeastTheUsualSize)
+TEST(FileDescriptorTest, opensPipesAsLargeAsTheSystemPermits)
 {
 #if defined(__linux__)
-    EXPECT_GE(fcntl(Pipe::open().readEnd.number(), F_GETPIPE_SZ), 64 * 1024);
+    int largest = 0;
+    std::ifstream("/proc/sys/fs/pipe-max-size") >> largest;
+    const Pipe pipe = Pipe::open();
+    // An unprivileged user may have reached the limit on all pipes together: then one that is
+    // opened now cannot be enlarged either.
+    const Pipe plain = Pipe::forSignal();
+    const int size = fcntl(pipe.readEnd.number(), F_GETPIPE_SZ);
+    const int enlarged = fcntl(plain.readEnd.number(), F_SETPIPE_SZ, largest);
+    EXPECT_GE(size, enlarged > 0 ? largest : fcntl(plain.readEnd.number(), F_GETPIPE_SZ));
 #else
     GTEST_SKIP() << "this system does not report the size";
 #endif

@@ -285,6 +285,9 @@ TEST(ProbeRunnerTest, worksWithoutAShutdown)
     setting.settings.shutdown = nullptr;
     setting.commandRuns("exit 1\n");
     EXPECT_THROW((void)ProbeRunner(setting.settings).run(setting.folder.path()), ProbeError);
+    setting.settings.transcriptRetries = 2; // between attempts it waits for the program's end
+    setting.settings.transcriptRetryDelay = 0;
+    EXPECT_FALSE(ProbeRunner(setting.settings).transcriptUsage("nobody"));
 }
 
 TEST(ProbeRunnerTest, namesTheSourcesOfATotal)

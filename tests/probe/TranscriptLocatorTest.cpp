@@ -151,6 +151,14 @@ TEST(TranscriptLocatorTest, rejectsAnIdentifierThatIsNotAPlainFileName)
         EXPECT_FALSE(found(sessionID, folder.path())) << sessionID;
 }
 
+TEST(TranscriptLocatorTest, looksNowhereForAnIdentifierThatIsNotAPlainFileName)
+{
+    InMemoryFileSystem fileSystem;
+    fileSystem.add("/r/a", EntryKind::folder);
+    EXPECT_FALSE(TranscriptLocator::find("../s", "/r", fileSystem));
+    EXPECT_TRUE(fileSystem.listed().empty());
+}
+
 TEST(TranscriptLocatorTest, followsALinkToAFileButNotToAFolder)
 {
     const TemporaryFolder folder;

@@ -1,6 +1,7 @@
 #include "process/ChildProcess.h"
 
 #include <csignal>
+#include <ctime>
 #include <system_error>
 
 #ifdef __linux__
@@ -78,6 +79,16 @@ TEST(ChildProcessTest, waitsUntilADeadline)
     const Stopwatch watch;
     EXPECT_FALSE(child.waitUntil(deadlineAfter(0.03)));
     EXPECT_GE(watch.seconds(), 0.03);
+}
+
+TEST(ChildProcessTest, waitsWithoutWorking)
+{
+    const ChildProcess child = startHostile({"close-output"});
+    const std::clock_t before = std::clock();
+    EXPECT_FALSE(child.waitUntil(deadlineAfter(0.5)));
+    const double processorSeconds =
+        static_cast<double>(std::clock() - before) / static_cast<double>(CLOCKS_PER_SEC);
+    EXPECT_LT(processorSeconds, 0.05);
 }
 
 TEST(ChildProcessTest, countsAsRunningWhileStopped)

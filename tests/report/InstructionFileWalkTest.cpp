@@ -1,9 +1,15 @@
 #include "report/InstructionFileWalk.h"
 
+#include <array>
 #include <map>
 #include <random>
 #include <set>
 #include <thread>
+
+#if defined(__linux__)
+#include <sys/prctl.h>
+#include <unistd.h>
+#endif
 
 #include <gtest/gtest.h>
 
@@ -83,6 +89,33 @@ TEST(InstructionFileWalkTest, findsEveryFileWithinReachOfTheDepthOnce)
         ASSERT_EQ(found, expected) << "round " << round;
     }
 }
+
+// Along every way it would take hours.
+TEST(InstructionFileWalkTest, followsTheImportsOfAFileAgainOnlyOnAShorterWay)
+{
+    Graph complete;
+    for (int number = 0; number < fileCount; ++number)
+        for (int target = 0; target < fileCount; ++target)
+            complete[number].push_back(target);
+    const TemporaryFolder folder;
+    write(complete, folder);
+    EXPECT_EQ(walked(folder, 12).repositoryFiles.size(), fileCount);
+}
+
+#if defined(__linux__)
+TEST(InstructionFileWalkTest, readsAFileThatClaimsToBeEmpty)
+{
+    const TemporaryFolder folder;
+    folder.write("repository/a.md", "x");
+    std::array<char, 16> name{};
+    prctl(PR_GET_NAME, name.data());
+    prctl(PR_SET_NAME, "@a.md");
+    std::filesystem::create_symlink("/proc/" + std::to_string(getpid()) + "/comm",
+                                    folder.path() / "repository/CLAUDE.md");
+    EXPECT_EQ(walked(folder, 1).repositoryFiles.size(), 2U);
+    prctl(PR_SET_NAME, name.data());
+}
+#endif
 
 TEST(InstructionFileWalkTest, findsNothingOnceItIsStopped)
 {
