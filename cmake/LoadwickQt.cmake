@@ -6,6 +6,12 @@ if(LOADWICK_BUILD_TESTS)
     loadwick_needs_qt(6.4 Test QuickTest)
     loadwick_needs_modules_of("${PROJECT_SOURCE_DIR}/tests/qml")
 endif()
+# Optional, as an animation in a covered window of X11 costs only power. The library is loaded by Qt.
+find_path(LOADWICK_XCB_HEADERS xcb/xcb.h)
+find_library(LOADWICK_XCB_LIBRARY xcb)
+if(NOT LOADWICK_XCB_HEADERS OR NOT LOADWICK_XCB_LIBRARY)
+    message(STATUS "Without libxcb, what turns goes on turning in a covered window of X11")
+endif()
 set(QT_QML_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml")
 
 set(LOADWICK_QT_HEADERS

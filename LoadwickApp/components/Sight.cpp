@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "components/WindowCover.h"
+
 namespace Loadwick {
 
 Sight::Sight(QQuickItem *item) : QObject(item), m_item(item)
@@ -35,9 +37,16 @@ void Sight::followWindow()
     look();
 }
 
+bool Sight::isCovered()
+{
+    const WindowCover &cover = WindowCover::of(*m_window);
+    connect(&cover, &WindowCover::changed, this, &Sight::look, Qt::UniqueConnection);
+    return cover.isWhole();
+}
+
 void Sight::look()
 {
-    const bool isSeen = m_window && m_window->isExposed() && m_item->isVisible();
+    const bool isSeen = m_window && m_window->isExposed() && m_item->isVisible() && !isCovered();
     if (std::exchange(m_isSeen, isSeen) != isSeen)
         Q_EMIT isSeenChanged();
 }

@@ -9,7 +9,7 @@
 namespace Loadwick {
 
 /// Whether an item can be seen, so that nothing moves that nobody sees: it is visible, and its
-/// window is exposed. A minimised window is not; whether a covered one is, the platform decides.
+/// window is exposed, which a minimised one is not, and not covered, where the platform tells.
 class Sight : public QObject
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ Q_SIGNALS:
 
 private:
     void followWindow();
+    [[nodiscard]] bool isCovered();
     void look();
 
     QQuickItem *m_item;

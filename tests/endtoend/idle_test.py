@@ -13,6 +13,7 @@ from waiting import until
 
 IDLE_SECONDS = 10.0
 MOST_WAKES = 2
+SCREEN = (1280, 900)
 REST_SECONDS = 2.0  # between two checks whether a window is at rest
 FRAME = b"rendered with"  # in the line that the toolkit logs for a frame
 TURNS = 110  # at most: the symbols turn by ten steps a second
@@ -118,6 +119,20 @@ class IdleTest(EndToEndCase):
         minimised.window.wait_until_inactive()
         trends.window.press("Trends")
         self.assert_paces({overview: TURNS + TICKS, trends: TURNS, minimised: 0})
+
+    def test_a_running_scan_moves_nothing_in_a_covered_window(self) -> None:
+        self.home.hold()
+        self.addCleanup(self.home.release)
+        self.repository = self.home.make_repository("webshop")
+        covered = self.open_scanned("covered", "transcript", "Scanning")
+        covering = self.open_watched("covering")
+        covered.window.wait_until_inactive()
+        covering.window.resize(*SCREEN)
+        xdotool("getactivewindow", "windowmove", "0", "0")
+        self.assert_paces({covered: 0})
+        covering.kill()
+        frames = covered.frames()
+        until("the symbols to turn again", lambda: covered.frames() > frames + TICKS)
 
     def assert_paces(self, most_frames: dict[WatchedProgram, int]) -> None:
         """Watches the windows for ten seconds: a frame for each step of the symbols and each second of
