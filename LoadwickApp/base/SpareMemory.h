@@ -9,7 +9,8 @@
 namespace Loadwick {
 
 /// The memory that was freed but that the C library keeps for later: small blocks, which of a
-/// page's pictures add up to tens of megabytes. Belongs to one thread.
+/// page's pictures add up to tens of megabytes, of a history's text to hundreds. Belongs to one
+/// thread.
 class SpareMemory
 {
 public:

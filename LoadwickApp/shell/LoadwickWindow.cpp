@@ -102,10 +102,11 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     makeWindow();
     if (!given.title.isEmpty())
         m_window->setTitle(given.title);
-    // The page that was left has freed its pictures.
+    // The page that was left has freed its pictures, the reader of the history its text.
     m_spareMemory = std::make_unique<SpareMemory>(std::make_shared<QtTaskDispatcher>(m_interface));
     QObject::connect(m_content.get(), &ContentPresenter::pageIndexChanged, m_window.get(),
                      [this] { m_spareMemory->giveBackSoon(); });
+    m_model->history().observe({.didChange = [this] { m_spareMemory->giveBackSoon(); }});
     m_chooser->attach(*m_window);
     m_saver->attach(*m_window);
     if (given.notices)

@@ -3,6 +3,7 @@
 #include "support/Sanitizers.h"
 #include "support/SteppingDispatcher.h"
 #include "support/TestRegistry.h"
+#include "support/WindowFixture.h"
 
 #include <cstddef>
 #include <cstring>
@@ -24,6 +25,29 @@ std::size_t residentBytes()
     return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
+/// Blocks whose memory the C library keeps when they are freed: there are others between them.
+class ScatteredBlocks
+{
+public:
+    ScatteredBlocks()
+    {
+        for (std::size_t number = 0; number < count; ++number) {
+            m_blocks.push_back(std::make_unique<char[]>(size));
+            std::memset(m_blocks.back().get(), 1, size);
+            m_between.push_back(std::make_unique<char[]>(100));
+        }
+    }
+
+    [[nodiscard]] static std::size_t bytes() { return count * size; }
+    void free() { m_blocks.clear(); }
+
+private:
+    static constexpr std::size_t count = 400;
+    static constexpr std::size_t size = 50'000;
+    std::vector<std::unique_ptr<char[]>> m_blocks;
+    std::vector<std::unique_ptr<char[]>> m_between;
+};
+
 } // namespace
 
 class SpareMemoryTest : public QObject
@@ -35,19 +59,24 @@ private Q_SLOTS:
     {
         if (isSanitized)
             QSKIP("a sanitizer has an allocator of its own");
-        constexpr std::size_t count = 400;
-        constexpr std::size_t size = 50'000;
-        std::vector<std::unique_ptr<char[]>> pictures;
-        std::vector<std::unique_ptr<char[]>> kept;
-        for (std::size_t number = 0; number < count; ++number) {
-            pictures.push_back(std::make_unique<char[]>(size));
-            std::memset(pictures.back().get(), 1, size);
-            kept.push_back(std::make_unique<char[]>(100));
-        }
+        ScatteredBlocks blocks;
         const std::size_t before = residentBytes();
-        pictures.clear();
+        blocks.free();
         SpareMemory::giveBack();
-        QVERIFY(residentBytes() + count * size / 2 < before);
+        QVERIFY(residentBytes() + blocks.bytes() / 2 < before);
+    }
+
+    // Reading one takes several times the memory of the scans in it.
+    void isGivenBackOnceAHistoryHasArrived()
+    {
+        if (isSanitized)
+            QSKIP("a sanitizer has an allocator of its own");
+        WindowFixture window;
+        ScatteredBlocks blocks;
+        const std::size_t before = residentBytes();
+        blocks.free();
+        window.loadwick().model().history().set({});
+        QTRY_VERIFY(residentBytes() + blocks.bytes() / 2 < before);
     }
 
     void waitsInTheBackgroundForTheLastOfManyPages()
