@@ -9,6 +9,8 @@
 #include <QTextLayout>
 #include <QTextOption>
 
+#include "base/XmlText.h"
+
 namespace Loadwick {
 namespace {
 
@@ -56,6 +58,18 @@ void write(QPainter &painter, const QString &words, const QFont &font, double wi
     painter.translate(0, height + lineGap);
 }
 
+const QString placeholder = QStringLiteral("title");
+
+/// A drawing with this title in place of the placeholder. Qt 6.4 does not escape a title, and no
+/// version leaves out of a text what XML cannot express.
+QByteArray wellFormed(const QByteArray &drawing, const QString &title)
+{
+    const QString element = QStringLiteral("<title>%1</title>");
+    QString document = QString::fromUtf8(drawing);
+    document.replace(element.arg(placeholder), element.arg(title.toHtmlEscaped()));
+    return expressibleInXml(document).toUtf8();
+}
+
 } // namespace
 
 PictureFrame::Bytes PictureFrame::png(QQuickPaintedItem &chart) const
@@ -78,13 +92,13 @@ PictureFrame::Bytes PictureFrame::svg(QQuickPaintedItem &chart) const
     QBuffer file;
     QSvgGenerator generator;
     generator.setOutputDevice(&file);
-    generator.setTitle(m_title);
+    generator.setTitle(placeholder);
     generator.setSize(sizeWith(chart));
     generator.setViewBox(QRect(QPoint(0, 0), sizeWith(chart)));
     QPainter painter(&generator);
     paintWith(chart, painter);
     painter.end();
-    return [bytes = file.data()] { return bytes; };
+    return [bytes = wellFormed(file.data(), m_title)] { return bytes; };
 }
 
 QSize PictureFrame::sizeWith(const QQuickPaintedItem &chart) const

@@ -1,28 +1,14 @@
 #include "overview/HtmlPage.h"
 
-#include <algorithm>
+#include "base/XmlText.h"
 
 namespace Loadwick {
 namespace {
 
-bool isExpressible(QChar letter)
-{
-    const bool isControl = letter < u' ' || (letter >= QChar(0x7F) && letter < QChar(0xA0));
-    return isControl ? letter == u'\n' || letter == u'\t' : letter < QChar(0xFFFE);
-}
-
-QString expressible(QString text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](QChar letter) { return !isExpressible(letter); },
-        QChar(QChar::ReplacementCharacter));
-    return text;
-}
-
 void add(QXmlStreamWriter &writer, HtmlPage::Attributes attributes)
 {
     for (const auto &[name, value] : attributes)
-        writer.writeAttribute(markup(name), expressible(value));
+        writer.writeAttribute(markup(name), expressibleInXml(value));
 }
 
 } // namespace
@@ -54,7 +40,7 @@ void HtmlPage::emptyElement(const char *name, Attributes attributes)
 // Even an empty text keeps the writer from ending the element as XML alone allows it.
 void HtmlPage::text(const QString &text)
 {
-    m_writer.writeCharacters(expressible(text));
+    m_writer.writeCharacters(expressibleInXml(text));
 }
 
 void HtmlPage::foreign(const QString &text)

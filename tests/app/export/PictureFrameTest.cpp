@@ -3,7 +3,9 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QTest>
+#include <QXmlStreamReader>
 
+#include "charts/DonutChart.h"
 #include "support/TestRegistry.h"
 
 namespace Loadwick {
@@ -95,6 +97,21 @@ private Q_SLOTS:
         QVERIFY(inkedColumns(picture(*frame(words(), {}))).first < 60);
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
         QVERIFY(inkedColumns(picture(*frame(words(), {}))).first > 60);
+    }
+
+    void aDrawingOfAnyNameIsWellFormed()
+    {
+        const QString name = QStringLiteral("R&D <1> \"a\" ") + QChar(0x1B) + QChar(0xFFFE);
+        DonutChart donut;
+        donut.setSize(chart);
+        QXmlStreamReader reader(frame(name, {name})->svg(donut)());
+        QString title;
+        while (!reader.atEnd())
+            if (reader.readNext() == QXmlStreamReader::StartElement &&
+                reader.name() == QLatin1String("title"))
+                title = reader.readElementText();
+        QCOMPARE(reader.errorString(), QString());
+        QCOMPARE(title, QStringLiteral("R&D <1> \"a\" \uFFFD\uFFFD"));
     }
 
 private:
