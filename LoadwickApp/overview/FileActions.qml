@@ -14,6 +14,8 @@ Item {
     required property int currentRow
     // The lower left corner of the file `row`.
     required property point corner
+    // The lower left corner of the note on what was done.
+    property point noteCorner: actions.corner
     property point point: Qt.point(-1, -1)
     property int row: -1
     property int request: -1
@@ -95,8 +97,8 @@ Item {
         }
     }
     Rectangle {
-        x: actions.corner.x
-        y: actions.corner.y - height
+        x: actions.noteCorner.x
+        y: actions.noteCorner.y - height
         width: note.width + 2 * AppTheme.smallSpace
         height: note.height + 2 * AppTheme.tightSpace
         radius: AppTheme.controlRadius

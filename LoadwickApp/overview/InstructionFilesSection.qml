@@ -57,6 +57,8 @@ ReportSurface {
                 rowAtPoint: Math.floor(actions.point.y / list.rowHeight)
                 currentRow: list.currentIndex
                 corner: Qt.point(0, (actions.row + 1) * list.rowHeight)
+                // Between the words and the figures.
+                noteCorner: Qt.point(actions.width / 2, actions.corner.y)
             }
         }
         PlainLabel {

@@ -13,6 +13,17 @@ namespace Loadwick {
 namespace {
 
 const auto showMenu = QAccessibleActionInterface::showMenuAction();
+QRectF sceneRect(const QQuickItem &item)
+{
+    return item.mapRectToScene(item.boundingRect());
+}
+
+/// The words of a label that begin at its left edge.
+QRectF wordsRect(const QQuickItem &label)
+{
+    return label.mapRectToScene(QRectF(QPointF(), QSizeF(label.implicitWidth(), label.height())));
+}
+
 const auto inRepository = QStringLiteral("Copy Path in Repository");
 
 } // namespace
@@ -157,9 +168,11 @@ private Q_SLOTS:
         const auto notes =
             visibleItems(m_shown->loadwick().window().contentItem(), QStringLiteral("fileNote"));
         QCOMPARE(notes.size(), 1);
-        const QQuickItem &row = rowOf(0);
-        QVERIFY(row.mapRectToScene(row.boundingRect())
-                    .contains(notes[0]->mapRectToScene(notes[0]->boundingRect())));
+        QQuickItem &row = rowOf(0);
+        const QRectF note = sceneRect(*notes[0]->parentItem());
+        QVERIFY(sceneRect(row).contains(note));
+        QVERIFY(!wordsRect(*visibleItems(&row, QStringLiteral("size")).at(0)).intersects(note));
+        QVERIFY(!sceneRect(*visibleItems(&row, QStringLiteral("share")).at(0)).intersects(note));
         QCOMPARE(m_shown->desktop().opened.size(), 0);
     }
 
@@ -205,7 +218,7 @@ private:
     }
 
     /// The first row of that list.
-    [[nodiscard]] const QQuickItem &rowOf(int place)
+    [[nodiscard]] QQuickItem &rowOf(int place)
     {
         goTo(place);
         return *m_shown->loadwick().window().activeFocusItem();
