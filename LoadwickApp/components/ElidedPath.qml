@@ -12,8 +12,8 @@ Item {
     property color color: secondary ? AppTheme.secondaryText : AppTheme.text
     // False in a list, which is a single tab stop.
     property bool tabStop: true
-    // Its folders read from left to right, whatever their script; for display only.
-    readonly property string shownText: "\u200E" + control.text.split("/").join("/\u200E")
+    // Its folders read from left to right, whatever their script, on one line; for display only.
+    readonly property string shownText: "\u200E" + control.text.replace(/[\n\r\u2028\u2029]/g, " ").split("/").join("/\u200E")
     readonly property alias truncated: label.truncated
     readonly property alias selecting: edit.activeFocus
     readonly property alias selectedText: edit.selectedText

@@ -14,6 +14,7 @@ Item {
     ElidedPath { id: listed; y: 80; width: 200; text: scene.longPath; tabStop: false }
     ElidedPath { id: last; y: 120; width: 200; text: "/last" }
 
+    ElidedPath { id: broken; y: 240; width: 200; text: "/srv/line\nfeed\u2028" + scene.longPath }
     ElidedPath { id: hebrew; y: 160; width: 400; text: "/\u05D0\u05D1/\u05D2\u05D3/app" }
     // Measures the position of each letter of a text.
     TextInput { id: ruler; y: 200; width: 400 }
@@ -40,6 +41,13 @@ Item {
             compare(label(deep).elide, Text.ElideMiddle);
             compare(label(deep).lineCount, 1);
             verify(!brief.truncated);
+        }
+
+        function test_aLineBreakInAPathIsASpace() {
+            compare(label(broken).lineCount, 1);
+            verify(label(broken).contentWidth <= broken.width);
+            verify(broken.shownText.startsWith("\u200E/\u200Esrv/\u200Eline feed /"));
+            compare(edit(broken).text, broken.text);
         }
 
         function test_showsMarkupVerbatim() {
