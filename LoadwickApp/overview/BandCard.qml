@@ -41,8 +41,10 @@ ReportSurface {
             }
             PlainLabel {
                 Layout.fillWidth: true
-                text: card.band.sentence
+                // A line does not end inside the band's range.
+                text: card.band.sentence.replace("–", "\u2060–\u2060")
                 wrapMode: Text.Wrap
+                Accessible.name: card.band.sentence
             }
             PlainLabel {
                 Layout.fillWidth: true
