@@ -6,7 +6,7 @@
 
 namespace Loadwick {
 
-QString SavedFile::suggestedName(const QString &kind, const QString &repositoryName)
+QString SavedFile::suggestedName(const QString &kind, const QString &repositoryName, QDate day)
 {
     constexpr qsizetype longest = 60;
     constexpr QChar dash = u'-';
@@ -14,7 +14,9 @@ QString SavedFile::suggestedName(const QString &kind, const QString &repositoryN
     for (QChar &letter : name)
         if (!letter.isLetterOrNumber() && letter != u'.' && letter != u'_')
             letter = dash;
-    return name.isEmpty() ? kind : kind + dash + name;
+    QStringList parts = {kind, name, day.toString(Qt::ISODate)};
+    parts.removeAll(QString());
+    return parts.join(dash);
 }
 
 std::error_code SavedFile::write(const FileSaver::Target &target, const QByteArray &bytes)

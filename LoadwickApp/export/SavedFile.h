@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QDate>
 #include <QString>
 
 #include "dialogs/FileSaver.h"
@@ -13,10 +14,12 @@ namespace Loadwick {
 /// A file that the user saves.
 struct SavedFile
 {
-    /// A name to suggest, without its ending: `kind`, a dash and the repository's name. Letters,
-    /// digits, dots and underscores of that name are kept, everything else becomes a dash, and it
-    /// is cut after 60 characters.
-    [[nodiscard]] static QString suggestedName(const QString &kind, const QString &repositoryName);
+    /// A name to suggest, without its ending: `kind`, the repository's name and, if valid, the day
+    /// as 2026-03-04, with a dash before each. Letters, digits, dots and underscores of the
+    /// repository's name are kept, everything else becomes a dash, and it is cut after 60
+    /// characters.
+    [[nodiscard]] static QString suggestedName(const QString &kind, const QString &repositoryName,
+                                               QDate day = {});
 
     /// Writes the file; empty on success. Fails with `std::errc::file_exists` and leaves the file
     /// alone if it exists and may not be replaced. No bytes mean that memory ran out for them.

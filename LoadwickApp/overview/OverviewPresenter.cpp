@@ -5,6 +5,7 @@
 #include <variant>
 
 #include <QClipboard>
+#include <QDateTime>
 #include <QGuiApplication>
 
 #include "base/QtText.h"
@@ -130,6 +131,13 @@ void OverviewPresenter::copySummary() const
 QString OverviewPresenter::repositoryName() const
 {
     return m_report ? qtText(m_report->repositoryName) : QString();
+}
+
+QDate OverviewPresenter::day() const
+{
+    const auto scanned = m_report ? recordedDate() : std::nullopt;
+    return scanned ? QDateTime::fromSecsSinceEpoch(scanned->time_since_epoch().count()).date()
+                   : QDate();
 }
 
 std::function<QByteArray()> OverviewPresenter::table() const

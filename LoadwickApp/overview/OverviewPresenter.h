@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include <QDate>
 #include <QObject>
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
@@ -112,6 +113,8 @@ public:
 
     /// The name of the last report's repository; empty before the first.
     [[nodiscard]] QString repositoryName() const;
+    /// The day of the last report's scan, where the user is; invalid if it is not recorded.
+    [[nodiscard]] QDate day() const;
     /// Writes the last report for other programs, as `ReportTable` does, on any thread.
     [[nodiscard]] std::function<QByteArray()> table() const;
     /// Makes the last report's HTML file, on any thread.

@@ -150,7 +150,7 @@ void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatc
     m_recent = std::make_unique<RecentRepositories>(*m_model, *m_content, dispatcher, locale);
     const auto reportName = [this] {
         return SavedFile::suggestedName(QStringLiteral("loadwick-report"),
-                                        m_overview->repositoryName());
+                                        m_overview->repositoryName(), m_overview->day());
     };
     m_overviewExport = std::make_unique<PageExport>(
         PageExport::Contents{.name = reportName,

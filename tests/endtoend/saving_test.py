@@ -58,7 +58,8 @@ class SavingTest(EndToEndCase):
         program.window.resize(1180, self.display_height - 100)
         self.ask(program.window, "Save Data…")
         program.window.press("Save")
-        file = self.home.path / "loadwick-report-webshop--old.csv"
+        day = self.home.scans()[0]["date"][:10]  # the program's time zone is UTC
+        file = self.home.path / f"loadwick-report-webshop--old-{day}.csv"
         program.window.wait_for(f"Saved as {file}.")
         rows = list(csv.DictReader(file.read_text().splitlines()))
         self.assertEqual({row["Repository"] for row in rows}, {"webshop, old"})

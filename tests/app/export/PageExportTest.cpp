@@ -6,6 +6,7 @@
 #include <thread>
 
 #include <QAccessible>
+#include <QDateTime>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTest>
@@ -45,7 +46,7 @@ private Q_SLOTS:
     void savesTheLastScanAsCsv()
     {
         const QByteArray table = content(save("Save Data…", "scan.csv"));
-        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-report-two.csv"));
+        QCOMPARE(m_window->saver().asked->name, reportName() + QStringLiteral(".csv"));
         const RecordedScan scan = m_window->loadwick().model().history().get().back();
         const auto row = QByteArray::fromStdString("\r\ntwo," + scan.repositoryPath + ',' +
                                                    IsoDate::text(scan.date) + ',');
@@ -58,7 +59,7 @@ private Q_SLOTS:
     void savesTheLastScanAsAReport()
     {
         const auto file = save("Save Report…", "scan.html");
-        QCOMPARE(m_window->saver().asked->name, QStringLiteral("loadwick-report-two.html"));
+        QCOMPARE(m_window->saver().asked->name, reportName() + QStringLiteral(".html"));
         const QByteArray page = content(file);
         const auto moment = m_window->loadwick().model().history().get().back().date;
         QVERIFY(page.startsWith("<!DOCTYPE html>"));
@@ -263,6 +264,14 @@ private:
     static QString savedAs(const std::filesystem::path &file)
     {
         return QStringLiteral("Saved as %1.").arg(QString::fromStdString(file.string()));
+    }
+
+    /// The name suggested for the last scan, without its ending.
+    [[nodiscard]] QString reportName() const
+    {
+        const auto moment = m_window->loadwick().model().history().get().back().date;
+        return QDateTime::fromSecsSinceEpoch(moment.time_since_epoch().count())
+            .toString(QStringLiteral("'loadwick-report-two-'yyyy-MM-dd"));
     }
 
     void scan(const std::string &name)

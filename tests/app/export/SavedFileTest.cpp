@@ -19,6 +19,17 @@ private Q_SLOTS:
                  QStringLiteral("trend-Käse日"));
     }
 
+    void aSuggestedNameEndsWithTheDay()
+    {
+        const auto kind = QStringLiteral("report");
+        QCOMPARE(SavedFile::suggestedName(kind, QStringLiteral("web"), QDate(2026, 3, 4)),
+                 QStringLiteral("report-web-2026-03-04"));
+        QCOMPARE(SavedFile::suggestedName(kind, QString(), QDate(2026, 3, 4)),
+                 QStringLiteral("report-2026-03-04"));
+        QCOMPARE(SavedFile::suggestedName(kind, QStringLiteral("web"), QDate(10'000, 1, 1)),
+                 QStringLiteral("report-web"));
+    }
+
     void aSuggestedNameIsTheKindAloneWithoutARepository()
     {
         QCOMPARE(SavedFile::suggestedName(QStringLiteral("trend"), QString()),
