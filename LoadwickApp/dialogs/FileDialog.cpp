@@ -1,6 +1,7 @@
 #include "dialogs/FileDialog.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QChildEvent>
 #include <QFileInfo>
@@ -68,6 +69,8 @@ QString FileDialog::missingEnding(const QString &name) const
 
 void FileDialog::accept()
 {
+    if (m_isDone)
+        return;
     QLineEdit *field = nameField(*this);
     if (field != nullptr && takesAddress(field->text()))
         return done(Accepted);
@@ -76,6 +79,13 @@ void FileDialog::accept()
         if (const QString file = selectedFiles().value(0); !QFileInfo(file).isDir())
             field->setText(field->text() + missingEnding(file));
     QFileDialog::accept();
+}
+
+/// The dialog is deleted later: until then a held key reaches it again.
+void FileDialog::done(int result)
+{
+    if (!std::exchange(m_isDone, true))
+        QFileDialog::done(result);
 }
 
 /// A typed path can name a folder that is not UTF-8, which Qt's dialog does not list. Asks the disk

@@ -29,6 +29,7 @@ public:
 
 protected:
     void accept() override;
+    void done(int result) override;
     void childEvent(QChildEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
@@ -36,6 +37,7 @@ private:
     [[nodiscard]] bool takesAddress(const QString &text);
 
     std::optional<std::filesystem::path> m_addressed; ///< by the typed address
+    bool m_isDone = false;
 };
 
 /// Opens the dialogs of one purpose, one at a time.

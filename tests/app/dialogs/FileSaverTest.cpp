@@ -23,6 +23,8 @@ private Q_SLOTS:
     void selectsTheSuggestedName();
     void enterSaves_data();
     void enterSaves();
+    void savesOnceWhileTheKeyIsHeld_data();
+    void savesOnceWhileTheKeyIsHeld();
     void savesAtATypedPath_data();
     void savesAtATypedPath();
     void addsAMissingEnding_data();
@@ -114,6 +116,26 @@ void FileSaverTest::enterSaves()
     QVERIFY(m_target);
     QCOMPARE(m_target->file, root() / "trend.png");
     QVERIFY(DialogFixture::dialog() == nullptr);
+}
+
+void FileSaverTest::savesOnceWhileTheKeyIsHeld_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("return") << Qt::Key_Return;
+    QTest::newRow("escape") << Qt::Key_Escape;
+}
+
+// The dialog is deleted only when the program returns to its event loop.
+void FileSaverTest::savesOnceWhileTheKeyIsHeld()
+{
+    QFETCH(const Qt::Key, key);
+    open();
+    QLineEdit &field = DialogFixture::nameField();
+    QTest::keyClick(&field, Qt::Key_Return);
+    QVERIFY(m_target);
+    m_target.reset();
+    QTest::keyClick(&field, key);
+    QVERIFY(!m_target);
 }
 
 void FileSaverTest::savesAtATypedPath_data()
