@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import subprocess
+from random import Random
 from typing import Any, Callable, Iterator, Optional, TypeVar
 
 import gi
@@ -14,6 +15,8 @@ from processes import is_running  # noqa: E402
 from waiting import LIMIT_SECONDS, WaitFailed, until  # noqa: E402
 
 Found = TypeVar("Found")
+
+STOPS_ABOVE = 0.05  # how often an object at random is one that holds others
 
 
 def xdotool(*arguments: str) -> str:
@@ -82,11 +85,12 @@ class AccessibleTree:
             if child is not None:
                 yield from self._below(child)
 
-    def items(self) -> Iterator[Any]:
-        """All visible accessible objects, in tree order, as they are now."""
+    def items(self, out_of_sight: bool = False) -> Iterator[Any]:
+        """All visible accessible objects, in tree order, as they are now. On request also those that
+        are not, as the toolkit does not tell what is hidden from what is scrolled out of sight."""
         self._root.clear_cache()
         for item in self._below(self._root):
-            if unless_gone(lambda: is_showing(item), False):
+            if out_of_sight or unless_gone(lambda: is_showing(item), False):
                 yield item
 
     def find(self, name: str, role: str = "") -> Optional[Any]:
@@ -96,6 +100,19 @@ class AccessibleTree:
                 if not role or role_of(item) == role:
                     return item
         return None
+
+    def anything(self, chance: Random) -> Any:
+        """An object at random, visible or not, reached from the program by children at random."""
+        self._root.clear_cache()
+        item = self._root
+        while chance.random() > STOPS_ABOVE:
+            count = unless_gone(item.get_child_count, 0)
+            index = chance.randrange(count) if count > 0 else -1
+            child = unless_gone(lambda: item.get_child_at_index(index), None) if count > 0 else None
+            if child is None:
+                break
+            item = child
+        return item
 
     def wait_for(self, name: str, role: str = "") -> Any:
         """The object of this name, once it is visible."""
@@ -139,14 +156,16 @@ class AccessibleTree:
         """Returns once these words are announced."""
         self._until(f"the announcement {words!r}", lambda: words in self.announcements())
 
-    def press(self, name: str) -> None:
+    def press(self, name: str, out_of_sight: bool = False) -> None:
         """Presses the button or the row of this name, once it can be pressed."""
-        button = self._until(f"an enabled button {name!r}", lambda: self._pressable(name))
+        button = self._until(
+            f"an enabled button {name!r}", lambda: self._pressable(name, out_of_sight)
+        )
         if not Atspi.Action.do_action(button, press_index(button)):
             raise AssertionError(f"pressing the button {name!r} failed")
 
-    def _pressable(self, name: str) -> Optional[Any]:
-        for item in self.items():
+    def _pressable(self, name: str, out_of_sight: bool) -> Optional[Any]:
+        for item in self.items(out_of_sight):
             if unless_gone(item.get_name, "") == name and press_index(item) >= 0:
                 return item if is_enabled(item) else None
         return None
