@@ -22,17 +22,19 @@ def can_work():
 
 
 class Copy:
-    def __init__(self, tree, folder, with_app, patience):
-        """A mutant's test may take so many seconds beyond three times what it took on the sound tree."""
-        self.patience = patience
+    def __init__(self, arguments, folder, with_app):
+        self.patience = arguments.patience
         self.folder = folder
         self.took = {}
-        shutil.copytree(tree, folder, symlinks=True, ignore=shutil.ignore_patterns("build", ".git"))
+        shutil.copytree(arguments.tree, folder, symlinks=True, ignore=shutil.ignore_patterns("build", ".git"))
         self.build = folder / "build"
         self.temporary = folder / "tmp"
         # These let the compiler cache reuse one copy's objects for the next.
         self.environment = os.environ | {"CCACHE_BASEDIR": str(folder), "CCACHE_NOHASHDIR": "1"}
         options = ["CMAKE_BUILD_TYPE=Debug", "CMAKE_CXX_FLAGS_DEBUG=-O1", "LOADWICK_COMPILE_QML=OFF"]
+        options.append(f"LOADWICK_SANITIZE={arguments.sanitize}")
+        # The sanitizers themselves reserve terabytes of addresses.
+        self.limits = LIMITS[:2] if arguments.sanitize else LIMITS
         options.append(f"LOADWICK_BUILD_APP={'ON' if with_app else 'OFF'}")
         self._run(["cmake", "-S", folder, "-B", self.build, "-G", "Ninja", *(f"-D{o}" for o in options)])
         listing = ["ctest", "--test-dir", self.build, "--show-only=json-v1"]
@@ -64,7 +66,7 @@ class Copy:
         begin = time.monotonic()
         log = self.temporary.with_suffix(f".{test.replace('/', '-')}")
         process = subprocess.Popen(
-            [*ALONE, *REAPING, *LIMITS, "ctest", "--test-dir", self.build, "--output-on-failure", "-R", f"^{test}$"],
+            [*ALONE, *REAPING, *self.limits, "ctest", "--test-dir", self.build, "--output-on-failure", "-R", f"^{test}$"],
             env=self.environment | {"TMPDIR": str(self.temporary)},
             stdin=subprocess.DEVNULL,
             stdout=log.open("w"),

@@ -41,9 +41,9 @@ def mutants_of(path, text):
     return [mutant for _, mutant in sorted(found.values(), key=lambda pair: pair[0])]
 
 
-def read_list(path):
-    """The entries of a list as {key: reason}. The survivors that a run reports have the same form:
-    a line "file: operator", the line before and after, and the reason, up to an empty line."""
+def read_list(path, must_have_reasons=True):
+    """The entries of a list as {key: reason}. The survivors that a run reports have the same form, without
+    a reason: a line "file: operator", the line before and after, and the reason, up to an empty line."""
     entries = {}
     if not path.exists():
         return entries
@@ -53,7 +53,7 @@ def read_list(path):
             continue
         head, before, after, *reason = lines
         file, operator = head.split(": ")
-        if not reason or before[:2] != "- " or after[:2] != "+ ":
+        if (must_have_reasons and not reason) or before[:2] != "- " or after[:2] != "+ ":
             raise SystemExit(f"{path}: not an entry with a reason:\n{entry}")
         entries[file, operator, before[2:], after[2:]] = " ".join(reason)
     return entries

@@ -81,6 +81,8 @@ TEST(SlabParserTest, requiresAKeywordBeforeTheCount)
     EXPECT_FALSE(SlabParser::parseLine("SLAB memory files 12"));
     EXPECT_FALSE(SlabParser::parseLine("SLAB memory files TOKEN 12"));
     EXPECT_FALSE(SlabParser::parseLine("SLABS memory TOKENS 12"));
+    EXPECT_FALSE(SlabParser::parseLine("NOTE memory TOKENS 12"));
+    EXPECT_FALSE(SlabParser::parseLine("SLAB memory NUMBER 12"));
 }
 
 TEST(SlabParserTest, requiresACountAfterTheKeyword)

@@ -117,6 +117,13 @@ TEST(InstructionFileWalkTest, readsAFileThatClaimsToBeEmpty)
 }
 #endif
 
+TEST(InstructionFileWalkTest, findsThePersonalFileWhereNoImportIsFollowed)
+{
+    const TemporaryFolder folder;
+    folder.write("home/.claude/CLAUDE.md", "");
+    EXPECT_EQ(walked(folder, 0).personalFiles.size(), 1U);
+}
+
 TEST(InstructionFileWalkTest, findsNothingOnceItIsStopped)
 {
     const TemporaryFolder folder;

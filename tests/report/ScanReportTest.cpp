@@ -117,6 +117,7 @@ TEST(ScanReportTest, clampsTheShareOfARow)
 {
     EXPECT_DOUBLE_EQ(shareOf(250, 1'000), 0.25);
     EXPECT_EQ(shareOf(1'000, 1'000), 1.0);
+    EXPECT_EQ(shareOf(1, 1), 1.0);
     EXPECT_EQ(shareOf(1'001, 1'000), 1.0);
     EXPECT_EQ(shareOf(0, 1'000), 0.0);
     EXPECT_EQ(shareOf(-5, 1'000), 0.0);

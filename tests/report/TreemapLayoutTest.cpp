@@ -249,6 +249,17 @@ TEST(TreemapLayoutTest, tilesTheSquareForThousandsOfFiles)
     expectSoundMap(random.ofFiles(2'000));
 }
 
+TEST(TreemapLayoutTest, endsItsFirstColumnExactlyAtTheEdge)
+{
+    for (std::size_t count = 2; count <= 200; ++count) {
+        double end = 0.0;
+        for (const TreemapRect &rect : TreemapLayout::layout(Weights(count, 1.0)))
+            if (rect.x == 0.0)
+                end = std::max(end, rect.y + rect.height);
+        EXPECT_EQ(end, 1.0) << count;
+    }
+}
+
 TEST(TreemapLayoutTest, aRectangleHasTheAreaOfItsSides)
 {
     constexpr TreemapRect rect{.x = 0.5, .y = 0.25, .width = 0.5, .height = 0.25};
