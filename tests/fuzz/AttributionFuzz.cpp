@@ -53,9 +53,11 @@ Input inputOf(FuzzInput bytes)
     return input;
 }
 
-std::vector<UChar32> codePointsOf(const std::string &text)
+using Key = std::vector<UChar32>; // of code points
+
+Key codePointsOf(const std::string &text)
 {
-    std::vector<UChar32> points;
+    Key points;
     for (std::size_t index = 0; index < text.size();) {
         UChar32 point = 0;
         U8_NEXT(reinterpret_cast<const std::uint8_t *>(text.data()), index, text.size(), point);
@@ -65,13 +67,13 @@ std::vector<UChar32> codePointsOf(const std::string &text)
 }
 
 /// Letters, numbers and what marks them, each judged by looking back at what it marks.
-std::vector<UChar32> keyOf(const std::string &name)
+Key keyOf(const std::string &name)
 {
-    const std::vector<UChar32> points = codePointsOf(lowercased(name));
+    const Key points = codePointsOf(lowercased(name));
     const auto isOf = [&](std::size_t index, std::uint32_t categories) {
         return points[index] >= 0 && (U_GET_GC_MASK(points[index]) & categories) != 0;
     };
-    std::vector<UChar32> key;
+    Key key;
     for (std::size_t index = 0; index < points.size(); ++index) {
         std::size_t base = index;
         while (base > 0 && isOf(base, U_GC_M_MASK))
@@ -84,18 +86,13 @@ std::vector<UChar32> keyOf(const std::string &name)
     return key;
 }
 
-bool isSame(const std::string &left, const std::string &right)
+/// The keys of an estimate's name and terms.
+std::vector<Key> keysOf(const LocalCategoryEstimate &estimate)
 {
-    return keyOf(left) == keyOf(right);
-}
-
-bool matches(const LocalCategoryEstimate &estimate, const std::string &name)
-{
-    if (estimate.tokens < 1)
-        return false;
-    return isSame(estimate.name, name) ||
-           std::any_of(estimate.matchTerms.begin(), estimate.matchTerms.end(),
-                       [&](const std::string &term) { return isSame(term, name); });
+    std::vector<Key> keys{keyOf(estimate.name)};
+    for (const std::string &term : estimate.matchTerms)
+        keys.push_back(keyOf(term));
+    return keys;
 }
 
 /// Moves single tokens one at a time, like counters on a table.
@@ -104,8 +101,12 @@ class Table
 public:
     explicit Table(const Input &input) : m_input(input)
     {
-        for (const LocalCategoryEstimate &estimate : input.estimates)
+        for (const LocalCategoryEstimate &estimate : input.estimates) {
             m_left.push_back(std::max<std::int64_t>(estimate.tokens, 0));
+            m_estimateKeys.push_back(keysOf(estimate));
+        }
+        for (const SelfReportedSlab &slab : input.slabs)
+            m_slabKeys.push_back(keyOf(slab.name));
     }
 
     std::vector<SlabAttribution> rows()
@@ -115,7 +116,7 @@ public:
                 std::max<std::int64_t>(m_input.total, 0), Provenance::claudeReported);
         for (std::size_t index = 0; index < m_input.slabs.size(); ++index)
             if (isFirstOfItsName(index))
-                addCategory(m_input.slabs[index].name);
+                addCategory(m_input.slabs[index].name, m_slabKeys[index]);
         for (const LocalCategoryEstimate &estimate : m_input.estimates)
             if (!m_input.slabs.empty() && estimate.tokens > 0)
                 add(estimate.name, estimate.tokens, Provenance::localEstimate);
@@ -130,19 +131,18 @@ public:
 private:
     bool isFirstOfItsName(std::size_t index) const
     {
-        return std::none_of(
-            m_input.slabs.begin(), m_input.slabs.begin() + static_cast<std::ptrdiff_t>(index),
-            [&](const auto &slab) { return isSame(slab.name, m_input.slabs[index].name); });
+        const auto end = m_slabKeys.begin() + static_cast<std::ptrdiff_t>(index);
+        return std::find(m_slabKeys.begin(), end, m_slabKeys[index]) == end;
     }
 
-    void addCategory(const std::string &name)
+    void addCategory(const std::string &name, const Key &key)
     {
         std::int64_t reported = 0;
-        for (const SelfReportedSlab &slab : m_input.slabs)
-            reported += isSame(slab.name, name) ? slab.tokens : 0;
+        for (std::size_t index = 0; index < m_slabKeys.size(); ++index)
+            reported += m_slabKeys[index] == key ? m_input.slabs[index].tokens : 0;
         std::vector<std::size_t> matching;
         for (std::size_t index = 0; index < m_left.size(); ++index)
-            if (matches(m_input.estimates[index], name))
+            if (matches(index, key))
                 matching.push_back(index);
         if (matching.empty())
             return add(name, reported, Provenance::selfReported);
@@ -151,6 +151,13 @@ private:
             beyond += takeOne(matching) ? 0 : 1;
         if (beyond > 0)
             add(name + " (beyond local estimate)", beyond, Provenance::selfReported);
+    }
+
+    bool matches(std::size_t index, const Key &key) const
+    {
+        const std::vector<Key> &keys = m_estimateKeys[index];
+        return m_input.estimates[index].tokens > 0 &&
+               std::find(keys.begin(), keys.end(), key) != keys.end();
     }
 
     bool takeOne(const std::vector<std::size_t> &matching)
@@ -170,6 +177,8 @@ private:
     }
 
     const Input &m_input;
+    std::vector<Key> m_slabKeys;
+    std::vector<std::vector<Key>> m_estimateKeys;
     std::vector<std::int64_t> m_left;
     std::vector<SlabAttribution> m_rows;
 };
