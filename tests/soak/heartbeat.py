@@ -13,24 +13,34 @@ from bus import ask
 from processes import is_running
 
 INTERVAL_SECONDS = 0.1
-GIVEN_UP_SECONDS = 30
+GIVEN_UP_SECONDS = 30  # on any machine
 ROOT = "/org/a11y/atspi/accessible/root"
 DAEMON = "org.freedesktop.DBus"
 
 
-def kept_waiting(process: int, thread: int) -> float:
-    """The seconds for which a thread was ready, but the processors were busy with others."""
+def seconds_run(process: int) -> float:
+    """The processor time of the thread that draws."""
     try:
-        times = Path(f"/proc/{process}/task/{thread}/schedstat").read_text(encoding="ascii")
+        times = Path(f"/proc/{process}/task/{process}/schedstat").read_text(encoding="ascii")
     except (FileNotFoundError, ProcessLookupError):
         return 0.0
-    return int(times.split()[1]) / 1e9
+    return int(times.split()[0]) / 1e9
+
+
+def seconds_of_pressure() -> float:
+    """For how long something on this machine has waited for a processor or a disk."""
+    found = [
+        line.rpartition("=")[2]
+        for file in Path("/proc/pressure").glob("[ci]*")
+        for line in file.read_text(encoding="ascii").splitlines()
+        if line.startswith("some")
+    ]
+    return sum(map(int, found)) / 1e6
 
 
 class Heartbeat:
     """Asks the root of the accessible tree for the number of its children: the thread that draws must
-    answer. The time in which the machine let the program, the bus or this thread wait for a
-    processor does not count."""
+    answer. Where the machine is busy, only that thread's own processor time counts."""
 
     def __init__(self, process: int) -> None:
         self.slowest = 0.0
@@ -40,7 +50,6 @@ class Heartbeat:
         client = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
         bus = Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
         self._bus = Gio.DBusConnection.new_for_address_sync(address, client | bus, None, None)
-        self._daemon = self._call(DAEMON, "/", f"{DAEMON}.GetConnectionUnixProcessID", "(s)", DAEMON)
         self._name = self._find_name()
         self._thread = threading.Thread(target=self._ask_on, daemon=True)
         self._thread.start()
@@ -79,16 +88,12 @@ class Heartbeat:
             self.slowest = max(self.slowest, seconds)
 
     def _seconds_of_answer(self) -> Optional[float]:
-        start, waited = time.monotonic(), self._waited()
+        start, ran, pressure = time.monotonic(), seconds_run(self._process), seconds_of_pressure()
         get = "org.freedesktop.DBus.Properties.Get"
         try:
             self._call(self._name, ROOT, get, "(ss)", "org.a11y.atspi.Accessible", "ChildCount")
         except GLib.Error:
-            if not is_running(self._process) or time.monotonic() - start < GIVEN_UP_SECONDS:
-                return None  # it is ending
-        return time.monotonic() - start - (self._waited() - waited)
-
-    def _waited(self) -> float:
-        threads = [(self._process, self._process), (self._daemon, self._daemon)]
-        threads.append((threading.main_thread().native_id or 0, threading.get_native_id()))
-        return sum(kept_waiting(*thread) for thread in threads)
+            is_late = time.monotonic() - start >= GIVEN_UP_SECONDS
+            return GIVEN_UP_SECONDS if is_late and is_running(self._process) else None  # it is ending
+        ran, pressure = seconds_run(self._process) - ran, seconds_of_pressure() - pressure
+        return max(ran, time.monotonic() - start - pressure)
