@@ -3,27 +3,29 @@
 from __future__ import annotations
 
 import argparse
-import json
 import os
 import platform
 import re
 import subprocess
 from pathlib import Path
 
-from rounds import (Row, benchmark, figures, in_process_row, instructions, pair_times, ratios)
+from acting import action_rows
+from rounds import (GOALS, Row, benchmark, figures, in_process_row, instructions, pair_times,
+                    ratios)
 from scanning import scanning_rows
 from window import frame_rows, idle_rows, scan_rows, startup_rows
 
 ROOT = Path(__file__).resolve().parents[1]
-GOALS = json.loads((ROOT / "benchmarks/goals.json").read_text(encoding="utf-8"))
 DOCUMENT = ROOT / "docs/performance.md"
 MARKS = "<!-- table -->", "<!-- end of the table -->"
 SESSION = "6f1c2b0a-8e55-4c2d-9a61-000999999999"
+HISTORY = ".local/share/Loadwick"
 DATA = [("projects", "projects", 100_000), ("record", "record-100mb", 100_000_000),
         ("record", "record-1gb", 1_000_000_000), ("transcript", "head-100mb.jsonl", 100_000_000),
         ("transcript", "head-1mb.jsonl", 1_000_000), ("transcript", "head-1gb.jsonl", 10**9),
         ("long-line", "line-64mb.jsonl", 64_000_000), ("history", "history-200", 200),
-        ("history", "history-10000", 10_000)]
+        ("history", "history-10000", 10_000), ("compared-history", "home-ordinary/" + HISTORY, 30),
+        ("compared-history", "home-full/" + HISTORY, 4_400)]
 
 
 class Bench:
@@ -100,7 +102,12 @@ class Bench:
 
     def startup(self) -> list[Row]:
         """The window's first frame and its memory. Starts are short and vary: three a round."""
-        return startup_rows(self.programs, 3 * self.count)
+        return startup_rows(self.programs, self.data, 3 * self.count)
+
+    def actions(self) -> list[Row]:
+        """Pages, scans and a deletion over an ordinary history and the longest. A round takes a
+        minute and a half."""
+        return action_rows(self.programs, self.data, min(self.count, 3))
 
     def scan(self) -> list[Row]:
         """A scan through the window."""
@@ -122,7 +129,7 @@ class Bench:
                  "growth": self.growth}
         if not is_core:
             parts |= {"startup": self.startup, "scan": self.scan, "running": self.scanning,
-                      "pages": self.pages}
+                      "actions": self.actions, "pages": self.pages}
         self.make_data()
         return [row for name, part in parts.items() if only in name for row in part()]
 

@@ -15,6 +15,9 @@ from pathlib import Path
 from typing import Any, Optional
 
 
+GOALS = json.loads((Path(__file__).parent / "goals.json").read_text(encoding="utf-8"))
+
+
 @dataclass
 class Row:
     """One line of the table."""
@@ -46,6 +49,13 @@ class Row:
             goal = f"{self.goal:g}" + (f" ({self.bracket:g})" if self.bracket != self.goal else "")
         spread = f"{min(self.values):.2f} to {max(self.values):.2f}"
         return [self.what, self.against, f"{self.median:.2f}{self.unit}", spread, goal, self.verdict()]
+
+
+def window_row(name: str, values: list[float], prefix: str = "") -> Row:
+    """The row of a goal of the window."""
+    goal = GOALS["window"][name]
+    return Row(prefix + goal["what"], goal["against"], values, goal["goal"], goal["bracket"],
+               goal.get("unit", ""))
 
 
 def ratios(ours: list[float], floor: list[float], part: float = 1.0) -> list[float]:

@@ -9,19 +9,16 @@ import sys
 import tempfile
 import time
 from pathlib import Path
-from typing import Iterable
 
 ROOT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "tests/endtoend"))
 
 from processes import wakes_of  # noqa: E402
-from rounds import Row, output_of, ratios  # noqa: E402
+from rounds import Row, output_of, window_row  # noqa: E402
 
 OFF_SCREEN = {"QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software"}
-BARE = "a bare Controls window, same renderer"
-FRAME_MILLISECONDS = 16.7  # at 60 frames a second
 FRAME = re.compile(r" +(\w+) +(\d+) frames +50th +([\d.]+) +99th +([\d.]+)")
-LONG = "overview-of-size"  # the scene with the lists of 10,000
+MANY = "compare-200x50"  # the scene of 200 repositories of 50 categories
 ALL = "all"  # the frames of all scenes of a call together
 START_SECONDS = 3.0  # until a window is at rest
 IDLE_SECONDS = 10.0
@@ -41,17 +38,28 @@ def start(program: Path, home: str) -> list[float]:
     return lines_of([str(program)], {"HOME": home, "STARTUP_BEGAN": str(time.time_ns())})[0]
 
 
-def startup_rows(programs: Path, count: int) -> list[Row]:
-    """First frame and memory. The windows start alternately; the first round is a warm-up."""
+def startup_rows(programs: Path, data: Path, count: int) -> list[Row]:
+    """First frame and memory, by what is recorded. The windows start alternately; the first round
+    is a warm-up."""
+    ours = programs / "startup_loadwick"
     with tempfile.TemporaryDirectory() as home:
-        turns = [[start(programs / f"startup_{window}", home) for window in ("bare", "loadwick")]
+        windows = {"bare": (programs / "startup_bare", home), "none": (ours, home),
+                   "ordinary": (ours, str(data / "home-ordinary")),
+                   "full": (ours, str(data / "home-full"))}
+        turns = [{name: start(*window) for name, window in windows.items()}
                  for _ in range(count + 1)][1:]
-    bare, ours = ([turn[window] for turn in turns] for window in (0, 1))
-    return [Row("exec to the first frame of the empty state", BARE,
-                ratios([line[0] for line in ours], [line[0] for line in bare]), 1.5, 2),
-            Row("resident memory of the empty state", BARE,
-                [(mine[1] - other[1]) / 1024 for mine, other in zip(ours, bare)],
-                8, 16, " MB more")]
+
+    def frames(name: str, other: str) -> list[float]:
+        return [turn[name][0] / turn[other][0] for turn in turns]
+
+    def memory(name: str) -> list[float]:
+        return [(turn[name][1] - turn["bare"][1]) / 1024 for turn in turns]
+
+    return [window_row("first-frame-none", frames("none", "bare")),
+            window_row("first-frame-ordinary", frames("ordinary", "bare")),
+            window_row("first-frame-full", frames("full", "none")),
+            window_row("memory-none", memory("none")),
+            window_row("memory-ordinary", memory("ordinary"))]
 
 
 def scan_rows(programs: Path, count: int) -> list[Row]:
@@ -59,7 +67,8 @@ def scan_rows(programs: Path, count: int) -> list[Row]:
     lines = lines_of([str(programs / "loadwick-stage"), "scans", str(count)], {})
     return [Row("a scan with an instant stand-in, Ctrl+R to the first frame of the result",
                 "the stand-in alone and one frame",
-                [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more")]
+                [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more"),
+            window_row("result", [total - alone for total, alone, _ in lines])]
 
 
 def costs_of(text: str) -> Costs:
@@ -75,33 +84,33 @@ def costs_of(text: str) -> Costs:
     return costs
 
 
-def one_round(programs: Path) -> Costs:
-    """All scenes once."""
+def one_round(programs: Path, *options: str, scale: int = 1) -> Costs:
+    """All scenes once, in a window of a size and a scale."""
+    environment = OFF_SCREEN | {"QT_SCALE_FACTOR": str(scale)}
     costs: Costs = {}
     for names in [["overview"], ["trends", "compare"]]:
-        found = costs_of(output_of([str(programs / "loadwick-stage"), "frames", "1", *names]))
-        found[f"{ALL} {names[0]}"] = found.pop(ALL)
-        costs |= found
+        command = [str(programs / "loadwick-stage"), "frames", *options, "1", *names]
+        costs |= costs_of(output_of(command, environment))
+    del costs[ALL]
     return costs
 
 
+def worst(costs: Costs, action: str) -> float:
+    """Of all scenes."""
+    return max(scene[action] for scene in costs.values() if action in scene)
+
+
 def frame_rows(programs: Path, count: int) -> list[Row]:
-    """The 99th percentile of a frame's cost on the interface thread, in the worst scene. A page
-    arrives in some two dozen frames, too few for a percentile: arrivals count all pages together."""
-    costs = [one_round(programs) for _ in range(count)]
-
-    def row(what: str, action: str, names: Iterable[str]) -> Row:
-        values = [max(each[name][action] for name in names if action in each[name])
-                  for each in costs]
-        return Row(f"frame time, 99th percentile: {what}", "one frame at 60 a second", values,
-                   FRAME_MILLISECONDS, FRAME_MILLISECONDS, " ms")
-
-    together = {name for name in costs[0] if name.startswith(ALL)}
-    every = set(costs[0]) - together
-    return [row("while pages enter", "arriving", together),
-            row("while charts are hovered", "hovering", every),
-            row("while lists of 10,000 scroll", "scrolling", {LONG}),
-            row("while all other pages scroll", "scrolling", every - {LONG})]
+    """The 99th percentile of a frame's cost on the interface thread, each scene for itself. A page
+    arrives in some dozens of frames: that percentile is its worst frame."""
+    usual = [one_round(programs) for _ in range(count)]
+    many = [{MANY: each.pop(MANY)} for each in usual]
+    kinds = {"frames": usual, "frames-many": many,
+             "frames-large": [one_round(programs, "--size", "2560x1440") for _ in range(count)],
+             "frames-fine": [one_round(programs, scale=2) for _ in range(count)]}
+    actions = {"arriving": "entering", "hovering": "hovering", "scrolling": "scrolling"}
+    return [window_row(name, [worst(each, action) for each in rounds], f"{what}: ")
+            for name, rounds in kinds.items() for action, what in actions.items()]
 
 
 def idle(programs: Path, home: Path) -> tuple[int, int]:

@@ -51,4 +51,8 @@ void record(const std::filesystem::path &file, std::int64_t byteCount);
 /// The same as a history file in `folder`.
 void history(const std::filesystem::path &folder, std::int64_t scanCount);
 
+/// A history file in `folder`: 200 scans of fifty repositories with that many categories in each
+/// scan, as many of the scans as the store allows.
+void comparedHistory(const std::filesystem::path &folder, std::int64_t categoryCount);
+
 } // namespace Loadwick::GeneratedFiles

@@ -179,7 +179,8 @@ std::int64_t make(Words words)
          [](auto &path, auto count) { instructions(path, count, Imports::crossed); }},
         {"answer", answer},
         {"record", record},
-        {"history", history}};
+        {"history", history},
+        {"compared-history", comparedHistory}};
     const auto maker = makers.find(words[0]);
     if (maker == makers.end())
         return 0;
@@ -214,8 +215,8 @@ const std::vector<Operation> operations{
     {"comparison", "COUNT", 1, comparison},
     {"category-table", "COUNT", 1, categoryTable},
     {"make",
-     "projects|transcript|long-line|instructions|crossed-instructions|answer|record|history "
-     "PATH COUNT|BYTES",
+     "projects|transcript|long-line|instructions|crossed-instructions|answer|record|history|"
+     "compared-history PATH COUNT|BYTES",
      3, make}};
 
 int printUsage()

@@ -14,14 +14,29 @@ namespace {
 struct MeasuringOptions
 {
     bool isCheck = false;
+    QSize size; ///< of the window; the program's own when empty
     int rounds = 10;
     std::vector<std::string> names;
 };
+
+/// Takes `--size WIDTHxHEIGHT` out of the words.
+QSize takenSize(std::vector<std::string> &words)
+{
+    QSize size;
+    const auto option = std::ranges::find(words, "--size");
+    if (option == words.end() || option + 1 == words.end())
+        return size;
+    if (std::sscanf((option + 1)->c_str(), "%dx%d", &size.rwidth(), &size.rheight()) != 2)
+        return {};
+    words.erase(option, option + 2);
+    return size;
+}
 
 MeasuringOptions measuringOptions(std::vector<std::string> words)
 {
     MeasuringOptions options;
     options.isCheck = std::erase(words, "--check") > 0;
+    options.size = takenSize(words);
     if (words.empty())
         return options;
     options.rounds = std::max(1, std::atoi(words.front().c_str()));
@@ -50,6 +65,8 @@ std::vector<Scene> measuredScenes()
 int measure(const MeasuringOptions &options)
 {
     Stage stage;
+    if (!options.size.isEmpty())
+        stage.window().resize(options.size);
     WindowControl::appearanceOf(stage.window()).setMotion(Appearance::Full);
     bool areLow = true;
     PageCosts all;

@@ -40,14 +40,20 @@ int pictures(const Invocation &invocation);
 /// left. The scale is that of QT_SCALE_FACTOR.
 int looks(const Invocation &invocation);
 
-/// Prints what the frames of each page cost; see PageCosts. `[--check] [ROUNDS [NAME...]]`: a name
-/// selects all pages whose names begin with it. With --check the program fails when a page is slow.
+/// Prints what the frames of each page cost; see PageCosts. `[--check] [--size WIDTHxHEIGHT]
+/// [ROUNDS [NAME...]]`: a name selects all pages whose names begin with it; the scale is that of
+/// QT_SCALE_FACTOR. With --check the program fails when a page is slow.
 int frames(const Invocation &invocation);
 
 /// Scans with an instant stand-in and prints one line for each of `[ROUNDS]`, three times in
 /// milliseconds: from Ctrl+R to the first frame of the result; the same session alone; and from the
 /// result's state to the frame that shows it.
 int scans(const Invocation &invocation);
+
+/// Acts in a window over the history of `GeneratedFiles::comparedHistory` with `[CATEGORIES]`
+/// (default 30) and prints a line for each action: its name, milliseconds to its first frame, the
+/// longest time for which the interface thread looked at no event, and resident KiB at rest.
+int actions(const Invocation &invocation);
 
 /// Runs `work` with an application object that draws off screen and in software.
 int runOffScreen(const Invocation &invocation, const std::function<int()> &work);

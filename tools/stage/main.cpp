@@ -30,8 +30,9 @@ constexpr std::array subcommands{
     Subcommand{"gallery", "[FOLDER]", gallery},
     Subcommand{"pictures", "FOLDER [NAME...]", pictures},
     Subcommand{"looks", "FOLDER", looks},
-    Subcommand{"frames", "[--check] [ROUNDS [NAME...]]", frames},
+    Subcommand{"frames", "[--check] [--size WIDTHxHEIGHT] [ROUNDS [NAME...]]", frames},
     Subcommand{"scans", "[ROUNDS]", scans},
+    Subcommand{"actions", "[CATEGORIES]", actions},
 #endif
 };
 
