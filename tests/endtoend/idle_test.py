@@ -45,6 +45,12 @@ class WatchedProgram(Program):
         """Whether nothing is announced."""
         return not self.window.announcements()
 
+    def is_still(self) -> bool:
+        """Whether nothing is drawn for a while."""
+        frames = self.frames()
+        time.sleep(REST_SECONDS)
+        return frames == self.frames()
+
     def is_at_rest(self) -> bool:
         """Whether nothing happens for a while."""
         frames, wakes = self.frames(), self.wakes()
@@ -129,6 +135,7 @@ class IdleTest(EndToEndCase):
         covered.window.wait_until_inactive()
         covering.window.resize(*SCREEN)
         xdotool("getactivewindow", "windowmove", "0", "0")
+        until("the covered window to be still", covered.is_still)
         self.assert_paces({covered: 0})
         covering.kill()
         frames = covered.frames()
