@@ -49,6 +49,7 @@ TEST(JsonTokensTest, readsCodeUnits)
 {
     EXPECT_EQ(textOf(R"(\u0041\u00e9\u20AC)"), "Aé€");
     EXPECT_EQ(textOf(R"(\u0000)"), "\0"s);
+    EXPECT_EQ(textOf(R"(\ud7ff\ue000)"), "\uD7FF\uE000");
     EXPECT_EQ(textOf(R"(\u007f\u0080\u07ff\u0800\uffff)"), "\u007f\u0080\u07ff\u0800\uffff");
 }
 
