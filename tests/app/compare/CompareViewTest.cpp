@@ -80,7 +80,7 @@ void CompareViewTest::twoRepositoriesShowALeaderboardCardsAndOneChart()
     QCOMPARE(m_page->items("leaderboard").size(), 1);
     QCOMPARE(m_page->items("bars").size(), 2);
     QCOMPARE(m_page->items("combined").size(), 1);
-    QTRY_COMPARE(m_page->items("bar").size(), 2 * 6 + 2 * 6);
+    QCOMPARE(m_page->items("bar").size(), 2 * 6 + 2 * 6);
 }
 
 void CompareViewTest::theChartAppearsWithTheSecondRepository()
@@ -186,9 +186,8 @@ void CompareViewTest::longNamesPushNoFigureOut()
         QVERIFY(!value->property("truncated").toBool());
         QVERIFY(value->width() >= value->implicitWidth());
     }
-    QList<BarRow *> bars;
-    QTRY_COMPARE((bars = ComparePage::barsBelow(m_page->view().rootObject())).size(),
-                 2 * 2 + 2 * 2);
+    const QList<BarRow *> bars = ComparePage::barsBelow(m_page->view().rootObject());
+    QCOMPARE(bars.size(), 2 * 2 + 2 * 2);
     for (const BarRow *bar : bars) {
         const QFontMetricsF metrics(bar->style()->valueFont);
         const QRectF value = bar->layout().value;

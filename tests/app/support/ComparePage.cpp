@@ -1,5 +1,6 @@
 #include "support/ComparePage.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QQmlEngine>
@@ -38,6 +39,19 @@ void ComparePage::record(std::vector<RecordedScan> scans)
 {
     m_scanning.model.history().set(std::move(scans));
     QTest::qWait(20);
+    if (!QTest::qWaitFor([this] { return hasAllRows(); }))
+        qFatal("The rows below the page do not follow.");
+}
+
+bool ComparePage::hasAllRows() const
+{
+    return std::ranges::all_of(items("rows"), [](QQuickItem *rows) {
+        const int count = rows->property("count").toInt();
+        QQuickItem *last = nullptr;
+        QMetaObject::invokeMethod(rows, "itemAtIndex", Q_RETURN_ARG(QQuickItem *, last),
+                                  Q_ARG(int, count - 1));
+        return !rows->property("isShort").toBool() || count == 0 || last != nullptr;
+    });
 }
 
 QList<QQuickItem *> ComparePage::items(const char *name) const

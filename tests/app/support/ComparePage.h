@@ -28,7 +28,7 @@ public:
     /// A new presenter of the repository at that index, to compare with a card.
     [[nodiscard]] std::unique_ptr<ColumnPresenter> columnAt(int index);
 
-    /// Replaces the recorded history; the page follows.
+    /// Replaces the recorded history; the page follows, with all rows of its short lists.
     void record(std::vector<RecordedScan> scans);
 
     /// The visible items of that object name, in the order of the page.
@@ -41,6 +41,8 @@ public:
     [[nodiscard]] QQuickItem *viewport() const;
 
 private:
+    [[nodiscard]] bool hasAllRows() const;
+
     ScanningModel m_scanning;
     ComparePresenter m_compare;
     FakeFileSaver m_saver;
