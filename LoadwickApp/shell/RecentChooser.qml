@@ -63,7 +63,7 @@ ColumnLayout {
     }
     PlainLabel {
         Layout.fillWidth: true
-        Layout.margins: AppTheme.smallSpace
+        Layout.margins: AppTheme.mediumSpace
         text: qsTr("No repository matches.")
         secondary: true
         visible: list.count === 0

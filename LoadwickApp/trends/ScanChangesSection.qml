@@ -41,6 +41,7 @@ ColumnLayout {
         ProvenancePill {
             Layout.alignment: Qt.AlignTop
             label: qsTr("Categories: local estimates")
+            visible: section.changes.whyOnlyTotals.length === 0
         }
     }
     SideBySide {

@@ -166,6 +166,7 @@ void ScanChangesSectionTest::everyRowCanBeReadAndCopied()
     showTrends(std::move(scans));
     QTRY_COMPARE(sentences().size(), 3);
     QVERIFY(m_window->shows(QStringLiteral("1 category unchanged, 5 tokens")));
+    QVERIFY(m_window->shows(QStringLiteral("Categories: local estimates")));
     focus("changes");
     QVERIFY(focusName().startsWith(QStringLiteral("Total, before 27,653, after 27,654, ")));
     m_window->press(Qt::Key_Down);
