@@ -6,6 +6,7 @@
 
 #include "base/QtTaskDispatcher.h"
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "components/TrendMark.h"
 #include "history/ScanTables.h"
 #include "text/NumberText.h"
@@ -68,9 +69,9 @@ std::vector<LeaderboardRows::Role> leaderboardRoles(const TextLocale &locale)
         return TrendMark::of(row.entry.trend(), row.entry.delta(), locale);
     };
     const auto sentence = [=](const Row &row) {
-        return ComparePresenter::tr("%1. %2, %3, %4 tokens, %5, %6")
-            .arg(QString::number(row.rank), title(row), detail(row), value(row), bandTitle(row),
-                 mark(row).title);
+        return ComparePresenter::tr("%1. %2, %3, %4, %5, %6")
+            .arg(QString::number(row.rank), title(row), detail(row),
+                 TokenText::count(row.entry.latest.total, locale), bandTitle(row), mark(row).title);
     };
     return {
         {"rank", &Row::rank},

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "history/ScanHistory.h"
 #include "text/NumberText.h"
 
@@ -26,8 +27,8 @@ QString BarText::value(std::optional<std::int64_t> tokens, const TextLocale &loc
 QString BarText::spoken(const QString &name, std::optional<std::int64_t> tokens,
                         const TextLocale &locale)
 {
-    return tokens ? QCoreApplication::translate("BarText", "%1: %2 tokens")
-                        .arg(name, value(tokens, locale))
+    return tokens ? QCoreApplication::translate("BarText", "%1: %2")
+                        .arg(name, TokenText::count(*tokens, locale))
                   : QCoreApplication::translate("BarText", "%1: not recorded").arg(name);
 }
 

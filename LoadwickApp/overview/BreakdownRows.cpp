@@ -3,16 +3,18 @@
 #include <QCoreApplication>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "overview/ShareText.h"
 #include "text/NumberText.h"
 
 namespace Loadwick {
 namespace {
 
-QString sentenceOf(const SlabAttribution &row, const QString &tokens, const QString &share)
+QString sentenceOf(const SlabAttribution &row, const QString &share, const TextLocale &locale)
 {
-    return QCoreApplication::translate("BreakdownRows", "%1, %2 tokens, %3, %4")
-        .arg(qtText(row.name), tokens, share, qtText(row.provenance.sourceLabel()));
+    return QCoreApplication::translate("BreakdownRows", "%1, %2, %3, %4")
+        .arg(qtText(row.name), TokenText::count(row.tokens, locale), share,
+             qtText(row.provenance.sourceLabel()));
 }
 
 std::vector<ListOf<SlabAttribution>::Role> breakdownRoles(const TextLocale &locale,
@@ -32,7 +34,7 @@ std::vector<ListOf<SlabAttribution>::Role> breakdownRoles(const TextLocale &loca
         {"provenance",
          [](const SlabAttribution &row) { return qtText(row.provenance.rawValue()); }},
         {"sentence",
-         [=](const SlabAttribution &row) { return sentenceOf(row, tokens(row), share(row)); }},
+         [=](const SlabAttribution &row) { return sentenceOf(row, share(row), locale); }},
     };
 }
 

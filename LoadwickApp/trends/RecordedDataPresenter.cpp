@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/QtText.h"
+#include "base/TokenText.h"
 #include "history/ScanHistory.h"
 #include "text/DateText.h"
 #include "text/NumberText.h"
@@ -61,10 +62,11 @@ std::vector<ListOf<RecordedScan>::Role> RecordedDataPresenter::runRoles() const
     const auto valueCaption = [](const Scan &scan) {
         return scan.categories.empty() ? tr("No category estimates") : QString();
     };
-    const auto sentence = [=](const Scan &scan) {
-        const QString words = tr("%1, %2, %3 tokens, %4")
-                                  .arg(qtText(scan.repositoryName), detail(scan), value(scan),
-                                       qtText(scan.band().title()));
+    const auto sentence = [=, this](const Scan &scan) {
+        const QString words =
+            tr("%1, %2, %3, %4")
+                .arg(qtText(scan.repositoryName), detail(scan),
+                     TokenText::count(scan.total, m_locale), qtText(scan.band().title()));
         return scan.categories.empty() ? words + QStringLiteral(", ") + valueCaption(scan) : words;
     };
     return {

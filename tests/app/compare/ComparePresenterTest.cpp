@@ -248,6 +248,14 @@ private Q_SLOTS:
         QCOMPARE(ranked(1, "path").toString(), QStringLiteral("/b/app"));
     }
 
+    void aSingleTokenIsNotInThePlural()
+    {
+        record({RecordedScanBuilder().named("a").in("/1").ofTotal(1).build(),
+                RecordedScanBuilder().named("b").in("/2").ofTotal(0).build()});
+        QCOMPARE(ranked(0, "sentence").toString(),
+                 QStringLiteral("1. a, 1 scan, 1 token, Lean, First scan"));
+    }
+
     void equalTotalsKeepTheOrderOfTheirNames()
     {
         record({RecordedScanBuilder().named("b").in("/1").ofTotal(5).build(),

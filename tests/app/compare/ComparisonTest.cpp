@@ -59,6 +59,7 @@ private Q_SLOTS:
         QCOMPARE(BarText::value(16'851, {}), QStringLiteral("16,851"));
         QCOMPARE(BarText::spoken(QStringLiteral("Tools"), 16'851, {}),
                  QStringLiteral("Tools: 16,851 tokens"));
+        QCOMPARE(BarText::spoken(QStringLiteral("Tools"), 1, {}), QStringLiteral("Tools: 1 token"));
     }
 
     void distinguishesZeroFromMissing()

@@ -153,6 +153,13 @@ private Q_SLOTS:
                                 "(estimate)"));
     }
 
+    void aSingleTokenIsNotInThePlural()
+    {
+        BreakdownRows rows{TextLocale()};
+        rows.show(reportOf(10, {rowOf(1)}));
+        QVERIFY(text(rows, 0, "sentence").startsWith(QStringLiteral("Messages, 1 token, 10.0%, ")));
+    }
+
     void keepsNamesVerbatim()
     {
         ScanReport report = reportOf(10, {rowOf(5)});

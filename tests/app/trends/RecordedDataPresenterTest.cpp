@@ -167,6 +167,14 @@ private Q_SLOTS:
                  QStringLiteral("Every recorded scan, newest first, across every repository."));
     }
 
+    void aRunOfASingleTokenIsNotInThePlural()
+    {
+        show(*m_data, {RecordedScanBuilder().ofTotal(1).withCategory("a", 1).build()});
+        QVERIFY(m_data->runs()
+                    ->text(0, QStringLiteral("sentence"))
+                    .endsWith(QStringLiteral(", 1 token, Lean")));
+    }
+
     void aRunIsOneScan()
     {
         const TimeZone utc("UTC");
