@@ -194,11 +194,11 @@ void history(const fs::path &folder, std::int64_t scanCount)
 void comparedHistory(const fs::path &folder, std::int64_t categoryCount)
 {
     make(folder / ScanHistoryStore::fileName, [categoryCount](std::ostream &stream) {
-        constexpr std::int64_t scanCount = 200;
-        constexpr std::int64_t repositoryCount = 50;
+        constexpr std::int64_t comparedScans = 200;
+        constexpr std::int64_t comparedRepositories = 50;
         ScanHistoryFile file{
             .version = 1,
-            .scans = SampleHistories::ofSize(scanCount, repositoryCount, categoryCount)};
+            .scans = SampleHistories::ofSize(comparedScans, comparedRepositories, categoryCount)};
         stream << file.encodedWithin(ScanHistoryStore::maximumBytes);
     });
 }

@@ -1,9 +1,9 @@
 import QtQuick
 
 // The rows of a LongList that exist: as many as the page has ever shown at once, or all of a short
-// list, of which those below the page follow its first frame, a few in each. A row that has left the page is pooled and reused, at a fraction of the cost of a new one.
-// The view keeps its size and position while the page scrolls, since Qt drops all pooled rows when
-// either changes.
+// list, of which those below the page follow its first frame, a few in each. A row that has left the
+// page is pooled and reused, at a fraction of the cost of a new one. The view keeps its size and
+// position while the page scrolls, since Qt drops all pooled rows when either changes.
 ListView {
     id: rows
 

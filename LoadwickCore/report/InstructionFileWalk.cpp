@@ -136,7 +136,6 @@ void InstructionFileWalk::admit(const std::string &path, const Route &route)
         if (auto file = InstructionFolders::opened(path, m_folders.entryAt(path), ignored))
             read(*file, depth, *seen);
     }
-    // unreachable: only a network disk denies reading an open file
     if (seen->isReadDenied)
         m_findings->addUnreadable(repairedUtf8(path));
     if (depth == m_maxImportDepth)

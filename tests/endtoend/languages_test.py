@@ -12,8 +12,8 @@ NOTHING_CHOSEN = "No repository selected"
 
 
 def extents_of(item: Any) -> Any:
-    """Where the object is on the screen."""
-    return Atspi.Component.get_extents(item, Atspi.CoordType.SCREEN)
+    """Where the object is in its window, which the window manager may still be moving."""
+    return Atspi.Component.get_extents(item, Atspi.CoordType.WINDOW)
 
 
 class LanguagesTest(EndToEndCase):
