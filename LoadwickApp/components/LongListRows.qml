@@ -83,6 +83,7 @@ ListView {
 
     FrameAnimation {
         running: rows.isShort && rows.madeRows < rows.count
-        onTriggered: rows.madeRows += 2
+        // In one step where nothing may be seen to grow.
+        onTriggered: rows.madeRows += AppTheme.reduceMotion ? rows.count : 2
     }
 }
