@@ -12,7 +12,12 @@ from concurrent.futures import ThreadPoolExecutor
 ALONE = ["unshare", "--pid", "--fork", "--kill-child", "--mount-proc"]
 if os.getuid() != 0:
     ALONE[1:1] = ["--user", "--map-current-user"]
-REAPING = ["sh", "-c", '"$@"; exit $?', "sh"]  # the first process there waits for orphans
+REAPING = '"$@"; exit $?'  # the first process there waits for orphans
+if os.getuid() == 0:  # whose mutants may remove any file, devices too: only the copy can be written to there
+    REAPING = f'''copy=$(dirname "$TMPDIR")
+        mount --bind "$copy" "$copy" && mount -o remount,bind,ro / && mount -o remount,bind,ro /dev || exit 1
+        {REAPING}'''
+REAPING = ["sh", "-c", REAPING, "sh"]
 LIMITS = ["prlimit", "--core=0", f"--as={4 << 30}"]
 AT_ONCE = 4  # tests, most of which wait
 
