@@ -58,7 +58,6 @@ void JsonValue::dismantle() noexcept
         } else if (above.lastChild() != nullptr) {
             m_content.swap(above.m_content);
             above.m_content.swap(lastChild()->m_content);
-            dropLastChild();
         } else {
             return;
         }

@@ -1,5 +1,7 @@
 #include "json/JsonTokens.h"
 
+#include "support/GuardedText.h"
+
 #include <gtest/gtest.h>
 
 namespace Loadwick {
@@ -38,6 +40,20 @@ TEST(JsonTokensTest, rejectsAStringWithoutItsQuotationMarks)
 {
     for (const char *text : {"", "abc\"", "\"", "\"abc", "\"abc\\", "\"abc\\\""})
         EXPECT_FALSE(hasString(text)) << text;
+}
+
+TEST(JsonTokensTest, readsNothingBehindTheText)
+{
+    for (const char *text : {"\"", "\"abc", "\"abc\\", "\"abc\\u", "\"abc\\u12", "\"abc\\ud83d\\"})
+        EXPECT_FALSE(hasString(GuardedText(text).view())) << text;
+}
+
+TEST(JsonTokensTest, takesAWholeWordOrNothing)
+{
+    JsonTokens tokens("true");
+    EXPECT_FALSE(tokens.takeWord("tree"));
+    EXPECT_FALSE(tokens.takeWord("trueness"));
+    EXPECT_TRUE(tokens.takeWord("true"));
 }
 
 TEST(JsonTokensTest, readsEveryShortEscape)

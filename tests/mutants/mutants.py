@@ -12,9 +12,10 @@ class Mutant:
         self.line = text.count("\n", 0, start) + 1
         self.mutated = text[:start] + replacement + text[end:]
         first = text.rfind("\n", 0, start) + 1
-        if operator in {"early return", "loop exit"}:  # many look alike but for the line before
-            first = text.rfind("\n", 0, first - 1) + 1
         last = text.find("\n", end)
+        looks_alike = operator in {"early return", "loop exit"} or text.count(text[first - 1 : last + 1]) > 1
+        if looks_alike:  # but for the line before
+            first = text.rfind("\n", 0, first - 1) + 1
         self.before = " ".join(text[first:last].split())
         self.after = " ".join((text[first:start] + replacement + text[end:last]).split())
 
