@@ -23,9 +23,11 @@ TEST(FatalTest, addsUpToTheLargestInteger)
 
 TEST(FatalTest, endsTheProgramOnOverflow)
 {
-    EXPECT_DEATH((void)checkedSum(largest, 1), "does not fit 64 bits");
-    EXPECT_DEATH((void)checkedSum(smallest, -1), "does not fit 64 bits");
-    EXPECT_DEATH((void)checkedDifference(smallest, 1), "does not fit 64 bits");
+    const char *const ofSum = "^loadwick: a token sum does not fit 64 bits\n$";
+    const char *const ofDifference = "^loadwick: a token difference does not fit 64 bits\n$";
+    EXPECT_DEATH((void)checkedSum(largest, 1), ofSum);
+    EXPECT_DEATH((void)checkedSum(smallest, -1), ofSum);
+    EXPECT_DEATH((void)checkedDifference(smallest, 1), ofDifference);
 }
 
 } // namespace Loadwick

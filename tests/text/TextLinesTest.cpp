@@ -1,5 +1,7 @@
 #include "text/TextLines.h"
 
+#include "support/GuardedText.h"
+
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -69,11 +71,21 @@ TEST(TextLinesTest, findsABreakAtEveryIndexAndNoLookalike)
 {
     for (std::size_t length = 0; length < 40; ++length)
         for (const std::string_view other : {"", "\t", "\x1F", "\x7F", "\u00A0", "\xFF", "\x8A"})
-            for (const std::string_view lineBreak : {"\n", "\r\n", "\v", "\u0085", "\u2029"}) {
-                const std::string line = std::string(length, ' ') + std::string(other) + "~";
-                const std::string text = line + std::string(lineBreak) + line;
-                EXPECT_EQ(linesOf(text), (Lines{line, line})) << text;
-            }
+            for (const std::string_view lineBreak : {"\n", "\r\n", "\v", "\u0085", "\u2029"})
+                for (const char last : {'~', '!'}) {
+                    const std::string line = std::string(length, ' ') + std::string(other) + last;
+                    const std::string text = line + std::string(lineBreak) + line;
+                    EXPECT_EQ(linesOf(text), (Lines{line, line})) << text;
+                }
+}
+
+TEST(TextLinesTest, readsNothingBehindTheText)
+{
+    for (std::size_t length = 1; length < 40; ++length)
+        for (const std::string_view end : {"a", "\n", "\r", "\xC2", "\xE2", "\xE2\x80"}) {
+            const GuardedText guarded(std::string(length, 'a') + std::string(end));
+            EXPECT_EQ(linesOf(guarded.view()).size(), 1U) << length << ' ' << end;
+        }
 }
 
 TEST(TextLinesTest, returnsTheSameLinesFromTheEnd)

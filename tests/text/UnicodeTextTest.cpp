@@ -23,6 +23,7 @@ TEST(UnicodeTextTest, rejectsIllFormedBytesAfterAsciiOfAnyLength)
     for (std::size_t length = 0; length < 40; ++length) {
         const std::string ascii(length, 'a');
         EXPECT_TRUE(isUtf8(ascii + "\xC3\xA9" + ascii)) << length;
+        EXPECT_FALSE(isUtf8(ascii + "\x80" + ascii)) << length;
         EXPECT_FALSE(isUtf8(ascii + "\xA9" + ascii)) << length;
         EXPECT_FALSE(isUtf8(ascii + "\xC3")) << length;
     }

@@ -1,5 +1,6 @@
 #include "text/Uuid.h"
 
+#include <array>
 #include <set>
 #include <string>
 
@@ -57,11 +58,31 @@ TEST(UuidTest, makesDistinctRandomIdentifiers)
 
 TEST(UuidTest, marksRandomIdentifiersAsVersionFour)
 {
-    const std::string text = Uuid::random().text();
-    ASSERT_EQ(text.size(), 36U);
-    EXPECT_EQ(text[14], '4');
-    EXPECT_NE(std::string("89AB").find(text[19]), std::string::npos);
-    EXPECT_EQ(Uuid::fromText(text)->text(), text);
+    for (int count = 0; count < 1'000; ++count) {
+        const std::string text = Uuid::random().text();
+        ASSERT_EQ(text.size(), 36U);
+        EXPECT_EQ(text[14], '4');
+        EXPECT_NE(std::string("89AB").find(text[19]), std::string::npos);
+        EXPECT_EQ(Uuid::fromText(text)->text(), text);
+    }
+}
+
+TEST(UuidTest, takesEveryOtherDigitAtRandom)
+{
+    std::array<std::set<char>, 36> digits;
+    std::set<int> differences; // between two digits that a slip could take from the same byte
+    for (int count = 0; count < 2'000; ++count) {
+        const std::string text = Uuid::random().text();
+        for (std::size_t index = 0; index < digits.size(); ++index)
+            digits[index].insert(text[index]);
+        differences.insert(text[20] - text[22]);
+    }
+    for (std::size_t index = 0; index < digits.size(); ++index) {
+        const bool isFixed = std::set<std::size_t>{8, 13, 14, 18, 23}.contains(index);
+        const std::size_t expected = isFixed ? 1 : index == 19 ? 4 : 16;
+        EXPECT_EQ(digits[index].size(), expected) << index;
+    }
+    EXPECT_GT(differences.size(), 1U);
 }
 
 } // namespace Loadwick
