@@ -13,9 +13,10 @@ ALONE = ["unshare", "--pid", "--fork", "--kill-child", "--mount-proc"]
 if os.getuid() != 0:
     ALONE[1:1] = ["--user", "--map-current-user"]
 REAPING = '"$@"; exit $?'  # the first process there waits for orphans
-if os.getuid() == 0:  # whose mutants may remove any file, devices too: only the copy can be written to there
+if os.getuid() == 0:  # whose mutants may remove any file, devices too: most are read only to them
     REAPING = f'''copy=$(dirname "$TMPDIR")
-        mount --bind "$copy" "$copy" && mount -o remount,bind,ro / && mount -o remount,bind,ro /dev || exit 1
+        mount --bind "$copy" "$copy" && mount --bind /tmp /tmp && # where GoogleTest keeps what tests print
+            mount -o remount,bind,ro / && mount -o remount,bind,ro /dev || exit 1
         {REAPING}'''
 REAPING = ["sh", "-c", REAPING, "sh"]
 LIMITS = ["prlimit", "--core=0", f"--as={4 << 30}"]

@@ -1,13 +1,14 @@
 """C++ as the operators need it: tokens, what brackets enclose, and where statements begin and end.
 
 Blanks around an operator tell a relation from a template's bracket and a product from a pointer,
-because clang-format lays out the whole tree.
+because clang-format lays out the whole tree. Code for other systems than Linux is left out.
 """
 
 import re
 
 TOKEN = re.compile(
-    r"""(?P<skipped>\s+ | //[^\n]* | /\*.*?\*/ | ^[ \t]*\#(?:[^\n\\]|\\.|\\\n)*)
+    r"""(?P<skipped>\s+ | //[^\n]* | /\*.*?\*/
+          | ^\#if[^\n]*__APPLE__.*?^\#(?:else|endif) | ^\#else.*?^\#endif | ^[ \t]*\#(?:[^\n\\]|\\.|\\\n)*)
       | (?P<text>(?:u8)?R"(?P<fence>[^(]*)\(.*?\)(?P=fence)" | (?:u8)?"(?:[^"\\\n]|\\.)*")
       | (?P<character>'(?:[^'\\\n]|\\.)+')
       | (?P<number>\d(?:[\w.]|'(?=\w)|(?<=[eE])[+-])*)
