@@ -268,9 +268,12 @@ TEST_F(ScanHistoryStoreTest, removesATemporaryFileThatACrashLeft)
 
 TEST_F(ScanHistoryStoreTest, treatsAFileBeyondItsLimitAsEmpty)
 {
-    write(store, {.version = 1, .scans = {scanAt(1)}});
+    std::string text = ScanHistoryFile{.version = 1, .scans = {scanAt(1)}}.encoded();
+    text.insert(1, ScanHistoryStore::maximumBytes - text.size(), ' ');
+    writeFile(store.fileURL(), text);
     EXPECT_EQ(store.load().size(), 1U);
-    fs::resize_file(store.fileURL(), ScanHistoryStore::maximumBytes + 1); // sparse
+    text.insert(1, " ");
+    writeFile(store.fileURL(), text);
     EXPECT_TRUE(store.load().empty());
 }
 
@@ -312,12 +315,16 @@ TEST_F(ScanHistoryStoreTest, sharesTheCategoriesOfWhatIsKnown)
 {
     RecordedScan recorded = scanAt(1);
     recorded.categories = {{.name = "System prompt", .tokens = 1}};
-    const Scans known = store.append(recorded);
+    RecordedScan later = scanAt(2);
+    later.categories = {{.name = "Skills", .tokens = 1}};
+    const Scans known = store.append(later, store.append(recorded));
     RecordedScan changed = known.front();
     changed.categories = {{.name = "System prompt", .tokens = 2}};
-    EXPECT_EQ(store.append(scanAt(2), known).front().categories.begin(),
-              known.front().categories.begin());
-    EXPECT_EQ(store.append(scanAt(3), {scanAt(1), changed}).front(), recorded);
+    const Scans appended = store.append(scanAt(3), known);
+    ASSERT_EQ(appended.size(), 3U);
+    for (std::size_t index = 0; index < known.size(); ++index)
+        EXPECT_EQ(appended[index].categories.begin(), known[index].categories.begin()) << index;
+    EXPECT_EQ(store.append(scanAt(4), {scanAt(1), changed}).front(), recorded);
 }
 
 TEST_F(ScanHistoryStoreTest, prefersTheFileToWhatIsKnown)

@@ -275,6 +275,14 @@ TEST_F(WeeklyKPIReaderTest, ignoresIllFormedUtf8BeforeItsWindow)
 TEST_F(WeeklyKPIReaderTest, returnsNothingForALongFileWithoutALineFeed)
 {
     EXPECT_EQ(medianAt(write(std::string(200, ' ')), 100), std::nullopt);
+    EXPECT_EQ(medianAt(write("  " + lineOf(1)), lineOf(1).size()), std::nullopt);
+}
+
+TEST_F(WeeklyKPIReaderTest, namesTheSourceOfItsTargets)
+{
+    EXPECT_EQ(
+        WeeklyKPIReader::targetsSource,
+        "halden-machine-config docs/data/token-kpi-baseline-2026-08-09.json (locked baseline)");
 }
 
 TEST_F(WeeklyKPIReaderTest, aDeltaIsTheDifferenceFromTheTarget)

@@ -37,7 +37,7 @@ class Copy:
         self.temporary = folder / "tmp"
         # These let the compiler cache reuse one copy's objects for the next.
         self.environment = os.environ | {"CCACHE_BASEDIR": str(folder), "CCACHE_NOHASHDIR": "1"}
-        options = ["CMAKE_BUILD_TYPE=Debug", "CMAKE_CXX_FLAGS_DEBUG=-O1", "LOADWICK_COMPILE_QML=OFF"]
+        options = ["CMAKE_BUILD_TYPE=Debug", "CMAKE_CXX_FLAGS_DEBUG=-O1 -D_GLIBCXX_ASSERTIONS", "LOADWICK_COMPILE_QML=OFF"]
         options.append(f"LOADWICK_SANITIZE={arguments.sanitize}")
         # The sanitizers themselves reserve terabytes of addresses.
         self.limits = LIMITS[:2] if arguments.sanitize else LIMITS

@@ -63,6 +63,17 @@ TEST(FileDescriptorTest, closesOnDestruction)
     EXPECT_FALSE(isOpenNumber(number));
 }
 
+TEST(FileDescriptorTest, closesTheLowestNumberToo)
+{
+    const bool wasClosed = withoutStandardStreams([] {
+        FileDescriptor lowest(openNumber());
+        const int number = lowest.number();
+        lowest.reset();
+        return number == STDIN_FILENO && !isOpenNumber(STDIN_FILENO);
+    });
+    EXPECT_TRUE(wasClosed);
+}
+
 TEST(FileDescriptorTest, transfersOwnershipOnMove)
 {
     const int number = openNumber();
