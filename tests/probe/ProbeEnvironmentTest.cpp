@@ -51,6 +51,12 @@ TEST(ProbeEnvironmentTest, leavesOutABlankConfigurationFolder)
             << blank;
 }
 
+TEST(ProbeEnvironmentTest, namesWhatReachesTheChild)
+{
+    EXPECT_EQ(ProbeEnvironment::preservedKeys,
+              (std::array<std::string_view, 2>{"CLAUDE_CONFIG_DIR", "CLAUDE_CODE_OAUTH_TOKEN"}));
+}
+
 TEST(ProbeEnvironmentTest, addsNoConfigurationFolder)
 {
     EXPECT_EQ(childEnvironment({}, "/work"), Environment{});
