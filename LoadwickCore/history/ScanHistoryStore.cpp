@@ -11,6 +11,8 @@
 #include <tuple>
 #include <utility>
 
+#include <sys/stat.h>
+
 #include "history/ScanHistory.h"
 #include "history/ScanHistoryFile.h"
 #include "posix/AtomicFile.h"
@@ -95,6 +97,17 @@ void keepNewest(std::vector<RecordedScan> &scans)
                     scans.end() - static_cast<std::ptrdiff_t>(ScanHistoryStore::maximumScans));
 }
 
+/// Creates what is missing of a path; without it, writing the file fails. The standard library
+/// looks at each folder first, and gives up where a signal interrupts that.
+void createFolders(const fs::path &path)
+{
+    fs::path folder;
+    for (const fs::path &part : path) {
+        folder /= part;
+        ::mkdir(folder.c_str(), 0777); // a folder that exists stays as it is
+    }
+}
+
 } // namespace
 
 ScanHistoryStore::ScanHistoryStore(fs::path directory)
@@ -150,8 +163,7 @@ std::optional<std::vector<RecordedScan>> ScanHistoryStore::recordedScans() const
 void ScanHistoryStore::write(ScanHistoryFile &file) const
 {
     try {
-        std::error_code ignored; // without the folder, writing the file fails
-        fs::create_directories(m_directory, ignored);
+        createFolders(m_directory);
         static_cast<void>(AtomicFile::replace(m_fileURL, file.encodedWithin(maximumBytes)));
     } catch (const std::exception &) {
         // no memory for it: like every failed write, it leaves the old file

@@ -14,6 +14,7 @@
 
 #include "posix/FileDescriptor.h"
 #include "posix/FileSystem.h"
+#include "posix/Uninterrupted.h"
 
 namespace Loadwick::AtomicFile {
 
@@ -163,19 +164,18 @@ void removeAbandoned(const fs::path &target)
 
 constexpr int linkLimit = 40; // as many as Linux itself follows
 
-fs::file_type typeOf(const fs::path &path)
+fs::file_type typeOf(const fs::path &path, std::error_code &failure)
 {
-    std::error_code unknown;
-    return fs::symlink_status(path, unknown).type();
+    return uninterrupted(failure, [&] { return fs::symlink_status(path, failure); }).type();
 }
 
 /// Where a chain of links ends, dangling or not. Nothing for a chain that is endless or unreadable.
 std::optional<fs::path> linkTarget(fs::path path)
 {
     for (int count = 0; count < linkLimit; ++count) {
-        if (typeOf(path) != fs::file_type::symlink)
-            return path;
         std::error_code failure;
+        if (typeOf(path, failure) != fs::file_type::symlink)
+            return path;
         const fs::path next = fs::read_symlink(path, failure);
         // unreachable: the link would have to vanish between the two calls
         if (failure)
@@ -190,7 +190,7 @@ std::optional<fs::path> linkTarget(fs::path path)
 std::error_code checkReplaceable(const fs::path &path)
 {
     std::error_code unknown;
-    switch (fs::symlink_status(path, unknown).type()) {
+    switch (typeOf(path, unknown)) {
     case fs::file_type::regular:
     case fs::file_type::not_found:
         return {};
@@ -233,7 +233,8 @@ void remove(const fs::path &path)
     if (!target)
         return;
     const bool isBehindLink = *target != path;
-    const fs::file_type type = typeOf(*target);
+    std::error_code unknown;
+    const fs::file_type type = typeOf(*target, unknown);
     if (type == fs::file_type::regular ||
         (!isBehindLink && type != fs::file_type::directory && type != fs::file_type::not_found))
         unlink(target->c_str());

@@ -59,7 +59,7 @@ TEST(FaultTest, distinguishesTransientErrors)
 TEST(FaultTest, excusesNothingAfterOneInterruption)
 {
     for (const Call call : {Call::fsync, Call::write, Call::mkostemp, Call::read, Call::poll,
-                            Call::waitid, Call::open, Call::opendir}) {
+                            Call::waitid, Call::open, Call::opendir, Call::stat}) {
         EXPECT_TRUE((Fault{.call = call, .errorNumber = EINTR}.isToBeRepeated()));
         EXPECT_FALSE((Fault{.call = call, .errorNumber = EIO}.isToBeRepeated()));
         EXPECT_FALSE(

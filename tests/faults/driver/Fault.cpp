@@ -151,9 +151,8 @@ bool Fault::isTransient() const
 
 bool Fault::isToBeRepeated() const
 {
-    // Linux interrupts neither on its own disks and for our uses, so they are not repeated.
-    const bool isElsewhere = call == Call::stat || call == Call::fcntl;
-    return errorNumber == EINTR && mode == Mode::once && !isElsewhere;
+    // Linux does not interrupt fcntl for our uses, so it is not repeated.
+    return errorNumber == EINTR && mode == Mode::once && call != Call::fcntl;
 }
 
 bool Fault::isShortageOfMemoryOrThreads() const

@@ -52,6 +52,13 @@ HistoryFixture::HistoryFixture(const std::filesystem::path &home, Start start)
     m_scans = {sampleScan(1), sampleScan(2), sampleScan(3)};
     m_oldBytes = ScanHistoryFile{.version = 1, .scans = m_scans}.encoded();
     writeFile(m_path, *m_oldBytes);
+    if (start == Start::threeScansAndRemains)
+        writeFile(remains(), "{");
+}
+
+std::filesystem::path HistoryFixture::remains() const
+{
+    return folder() / ("." + m_path.filename().string() + ".a1B2c3");
 }
 
 std::optional<std::string> HistoryFixture::bytes() const
@@ -66,7 +73,7 @@ std::optional<std::string> HistoryFixture::leftovers() const
 {
     std::error_code ignored;
     for (const auto &entry : std::filesystem::directory_iterator(folder(), ignored))
-        if (entry.path() != m_path)
+        if (entry.path() != m_path && entry.path() != remains())
             return "left behind: " + entry.path().filename().string();
     return std::nullopt;
 }

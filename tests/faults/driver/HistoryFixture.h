@@ -17,7 +17,8 @@ public:
     enum class Start
     {
         threeScans,
-        nothing ///< not even the folder
+        threeScansAndRemains, ///< the temporary file of a writer that crashed, too
+        nothing               ///< not even the folder
     };
 
     static constexpr std::string_view relativePath = ".local/share/Loadwick/scan-history.json";
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] std::optional<std::string>
     problemAfterClear(const std::optional<Fault> &fault) const;
 
-    /// Anything beside the file in its folder.
+    /// Anything beside the file and the remains in its folder.
     [[nodiscard]] std::optional<std::string> leftovers() const;
 
     /// What is wrong with a changed file of these bytes: it must hold the old scans and a new one.
@@ -48,6 +49,8 @@ public:
                                                        const std::optional<Fault> &fault) const;
 
 private:
+    [[nodiscard]] std::filesystem::path remains() const;
+
     std::filesystem::path m_path;
     std::vector<Loadwick::RecordedScan> m_scans;
     std::optional<std::string> m_oldBytes;

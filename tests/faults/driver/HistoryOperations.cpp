@@ -99,12 +99,14 @@ std::unique_ptr<Operation> makeAppend(const fs::path &home)
 }
 
 constexpr auto *appendToThree = makeAppend<HistoryFixture::Start::threeScans>;
+constexpr auto *appendBesideRemains = makeAppend<HistoryFixture::Start::threeScansAndRemains>;
 constexpr auto *appendFirst = makeAppend<HistoryFixture::Start::nothing>;
 
 constexpr std::array kinds{
     OperationKind{"history-load", make<Load>},
     OperationKind{"history-append", appendToThree},
     OperationKind{"history-append-file", appendToThree, HistoryFixture::relativePath},
+    OperationKind{"history-append-remains", appendBesideRemains},
     OperationKind{"history-append-first", appendFirst},
     OperationKind{"history-clear", make<Clear>},
 };
