@@ -93,8 +93,8 @@ TEST(SlabParserTest, requiresACountAfterTheKeyword)
 
 TEST(SlabParserTest, rejectsCountsWithOtherCharactersThanDigits)
 {
-    for (const char *count : {"-5", "+5", "1.5k", "1.5", "5k", "five", "0x5", "~5", "\u00BD",
-                              "\u0663\u0664", "\uFF15", "5\u00B2"})
+    for (const char *count : {"-5", "+5", "1.5k", "1.5", "5k", "five", "0x5", "~5", "5:", "5/",
+                              "\u00BD", "\u0663\u0664", "\uFF15", "5\u00B2"})
         EXPECT_FALSE(SlabParser::parseLine(std::string("SLAB a TOKENS ") + count)) << count;
 }
 
