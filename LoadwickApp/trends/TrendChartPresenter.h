@@ -33,32 +33,43 @@ public:
     /// The scans of the repository shown, in the order of the history.
     void show(std::span<const RecordedScan> scans);
 
+    // The words are composed on demand: days and figures load the locale's data, megabytes that a
+    // window without this page does without.
+
     /// Why there is no trend yet; both are empty if there are enough scans. The title alone may be
     /// empty.
-    [[nodiscard]] QString emptyTitle() const { return m_emptyTitle; }
-    [[nodiscard]] QString emptyText() const { return m_emptyText; }
+    [[nodiscard]] QString emptyTitle() const;
+    [[nodiscard]] QString emptyText() const;
 
-    /// The chart in words.
-    [[nodiscard]] QString summary() const { return m_summary; }
-    /// The days of the scans, since an axis of hours names none. Empty without a line.
-    [[nodiscard]] QString period() const { return m_period; }
+    /// The chart in words. Empty without a line, as the period is.
+    [[nodiscard]] QString summary() const;
+    /// The days of the scans, since an axis of hours names none.
+    [[nodiscard]] QString period() const;
     [[nodiscard]] TrendLine *line() { return &m_line; }
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void setWords(const QString &emptyTitle, const QString &emptyText, const QString &summary,
-                  const QString &period);
-    [[nodiscard]] QString oneScanText(const RecordedScan &scan) const;
-    [[nodiscard]] QString summaryOf(const std::string &repositoryName) const;
-    [[nodiscard]] QString periodOf(const std::vector<LineSample> &samples) const;
+    enum class Shown
+    {
+        noHistory,
+        reading,
+        scans
+    };
+
+    void show(Shown shown, std::span<const RecordedScan> scans);
+    [[nodiscard]] QString day(const LineSample &sample) const;
+    [[nodiscard]] QString figure(std::int64_t tokens) const;
+    [[nodiscard]] QString nameText() const;
+    [[nodiscard]] const std::vector<LineSample> &samples() const
+    {
+        return m_line.geometry().samples();
+    }
 
     TextLocale m_locale;
-    QString m_emptyTitle;
-    QString m_emptyText;
-    QString m_summary;
-    QString m_period;
+    Shown m_shown = Shown::noHistory;
+    QString m_repositoryName;
     TrendLine m_line;
 };
 

@@ -1,7 +1,6 @@
 #include "trends/TrendSummaryPresenter.h"
 
 #include "base/QtText.h"
-#include "report/OpinionBand.h"
 #include "text/Fatal.h"
 #include "text/NumberText.h"
 
@@ -9,24 +8,37 @@ namespace Loadwick {
 
 void TrendSummaryPresenter::show(std::span<const LineSample> samples)
 {
-    m_hasScans = !samples.empty();
-    // The first figure loads the locale's data, which start-up does not need.
-    if (m_hasScans)
-        word(samples);
+    m_count = samples.size();
+    if (m_count > 0) {
+        m_latest = samples.back().total;
+        m_drift = checkedDifference(m_latest, samples.front().total);
+    }
     Q_EMIT changed();
 }
 
-void TrendSummaryPresenter::word(std::span<const LineSample> samples)
+QString TrendSummaryPresenter::latest() const
 {
-    const std::int64_t latest = samples.back().total;
-    const OpinionBand band = OpinionBand::band(latest);
-    m_latest = qtText(NumberText::grouped(latest, m_locale));
-    m_range = qtText(band.range(m_locale));
-    m_band = band;
-    m_bandTitle = qtText(band.title());
-    m_drift = qtText(
-        NumberText::groupedChange(checkedDifference(latest, samples.front().total), m_locale));
-    m_driftCaption = tr("%1 recorded scans").arg(samples.size());
+    return qtText(NumberText::grouped(m_latest, m_locale));
+}
+
+QString TrendSummaryPresenter::range() const
+{
+    return qtText(OpinionBand::band(m_latest).range(m_locale));
+}
+
+QString TrendSummaryPresenter::bandTitle() const
+{
+    return qtText(OpinionBand::band(m_latest).title());
+}
+
+QString TrendSummaryPresenter::drift() const
+{
+    return qtText(NumberText::groupedChange(m_drift, m_locale));
+}
+
+QString TrendSummaryPresenter::driftCaption() const
+{
+    return tr("%1 recorded scans").arg(m_count);
 }
 
 } // namespace Loadwick

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <span>
 
 #include <QObject>
@@ -7,6 +9,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "charts/TrendLine.h"
+#include "report/OpinionBand.h"
 #include "text/TextLocale.h"
 
 namespace Loadwick {
@@ -32,31 +35,27 @@ public:
     void show(std::span<const LineSample> samples);
 
     /// Whether there is anything to say; otherwise the words below are meaningless.
-    [[nodiscard]] bool hasScans() const noexcept { return m_hasScans; }
+    [[nodiscard]] bool hasScans() const noexcept { return m_count > 0; }
 
-    [[nodiscard]] QString latest() const { return m_latest; } ///< tokens
-    [[nodiscard]] QString range() const { return m_range; }   ///< of the latest total's band
-    [[nodiscard]] int band() const noexcept { return m_band; }
-    [[nodiscard]] QString bandTitle() const { return m_bandTitle; }
+    // Composed on demand: a figure loads the locale's data, megabytes that a window without this
+    // page does without.
+    [[nodiscard]] QString latest() const; ///< tokens
+    [[nodiscard]] QString range() const;  ///< of the latest total's band
+    [[nodiscard]] int band() const noexcept { return OpinionBand::band(m_latest); }
+    [[nodiscard]] QString bandTitle() const;
 
     /// From the earliest to the latest total.
-    [[nodiscard]] QString drift() const { return m_drift; }
-    [[nodiscard]] QString driftCaption() const { return m_driftCaption; }
+    [[nodiscard]] QString drift() const;
+    [[nodiscard]] QString driftCaption() const;
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void word(std::span<const LineSample> samples);
-
     TextLocale m_locale;
-    bool m_hasScans = false;
-    QString m_latest;
-    QString m_range;
-    int m_band = 0;
-    QString m_bandTitle;
-    QString m_drift;
-    QString m_driftCaption;
+    std::size_t m_count = 0;
+    std::int64_t m_latest = 0;
+    std::int64_t m_drift = 0;
 };
 
 } // namespace Loadwick

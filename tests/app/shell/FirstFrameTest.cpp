@@ -6,6 +6,7 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include "samples/GeneratedFiles.h"
 #include "shell/AppPage.h"
 #include "shell/ContentPresenter.h"
 #include "support/TestRegistry.h"
@@ -15,6 +16,7 @@ namespace Loadwick {
 namespace {
 
 constexpr qsizetype mostObjects = 175;
+constexpr long mostLocaleData = 512; // KiB; the first figure alone takes three times as many
 
 /// Whether the process has loaded a library of that name.
 bool isLoaded(const std::string &library)
@@ -25,6 +27,23 @@ bool isLoaded(const std::string &library)
             return true;
     }
     return false;
+}
+
+/// KiB of the library's file that are in memory.
+long residentKibibytes(const std::string &library)
+{
+    std::ifstream maps("/proc/self/smaps");
+    long sum = 0;
+    bool isOurs = false;
+    for (std::string line; std::getline(maps, line);) {
+        if (line.rfind("VmFlags:", 0) == 0)
+            isOurs = false;
+        else if (line.find(library) != std::string::npos)
+            isOurs = true;
+        else if (isOurs && line.rfind("Rss:", 0) == 0)
+            sum += std::stol(line.substr(sizeof "Rss:"));
+    }
+    return sum;
 }
 
 } // namespace
@@ -40,6 +59,16 @@ private Q_SLOTS:
         QVERIFY(!window().grabWindow().isNull());
     }
     void cleanup() { m_window.reset(); }
+
+    // The first test: figures and dates of any other load the data for good.
+    void aHistoryThatNoPageShowsLoadsNoLocaleData()
+    {
+        QVERIFY(isLoaded("libicudata"));
+        m_window->loadwick().model().history().set(GeneratedFiles::scans(200));
+        QVERIFY(m_window->loadwick().model().history().get().size() == 200);
+        const long resident = residentKibibytes("libicudata");
+        QVERIFY2(resident <= mostLocaleData, qPrintable(QString::number(resident)));
+    }
 
     void createsOnlyVisibleItems_data()
     {
