@@ -1,4 +1,5 @@
 // The list of repositories under the keys, in the real window.
+#include <QAccessible>
 #include <QQuickItem>
 #include <QTest>
 
@@ -80,6 +81,25 @@ private Q_SLOTS:
         m_window->press(Qt::Key_Down);
         m_window->press(Qt::Key_Return);
         QCOMPARE(m_window->loadwick().content().status(), ContentPresenter::Status::Complete);
+    }
+
+    void aFolderDeletedWhileTheListShowsIsSelectedAndThenGone()
+    {
+        for (const char *name : {"one", "two"})
+            scan(name);
+        openList();
+        std::filesystem::remove_all(m_window->folder().path() / "one");
+        type(QStringLiteral("one"));
+        m_window->press(Qt::Key_Return);
+        ContentPresenter &content = m_window->loadwick().content();
+        QCOMPARE(content.repositoryName(), QStringLiteral("one"));
+        QCOMPARE(content.status(), ContentPresenter::Status::Idle);
+        openList();
+        const QAccessibleInterface *row =
+            m_window->find(QStringLiteral("one, 27,654 tokens, Lean"));
+        QVERIFY(
+            row->text(QAccessible::Description).startsWith(QStringLiteral("Folder not found: ")));
+        QVERIFY(row->state().disabled);
     }
 
     void saysTotalsAndMatchesInTheLocale_data()
