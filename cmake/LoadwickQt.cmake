@@ -1,7 +1,10 @@
 # Qt for all folders that build with it, found once, so that each of them sees the same targets.
-loadwick_needs_qt(6.4 DBus Gui Qml Quick QuickControls2 Svg Widgets)
+loadwick_needs_qt(6.4 DBus Gui Qml Quick QuickTemplates2 Svg Widgets)
 loadwick_needs_private_qt(Quick qaccessiblequickitem_p.h)
 loadwick_needs_modules_of("${PROJECT_SOURCE_DIR}/LoadwickApp")
+if(LOADWICK_BUILD_BENCHMARKS)
+    loadwick_needs_qt(6.4 QuickControls2) # what the window is compared with
+endif()
 if(LOADWICK_BUILD_TESTS)
     loadwick_needs_qt(6.4 Test QuickTest)
     loadwick_needs_modules_of("${PROJECT_SOURCE_DIR}/tests/qml")

@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import QtQuick.Layouts
 import Loadwick
 
@@ -21,6 +21,7 @@ ColumnLayout {
         readonly property string openness: section.isExpanded ? qsTr("Expanded") : qsTr("Collapsed")
 
         Layout.fillWidth: true
+        implicitWidth: implicitContentWidth
         implicitHeight: Math.max(implicitContentHeight, AppTheme.controlHeight)
         focusPolicy: Qt.StrongFocus
         hoverEnabled: true

@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // Asks before something is destroyed. Cancel is the easiest to press: it has the focus, and Escape
@@ -16,12 +16,11 @@ Dialog {
     parent: Overlay.overlay
     anchors.centerIn: parent
     width: parent ? Math.min(AppTheme.stateWidth, parent.width - 2 * AppTheme.pageMargin) : AppTheme.stateWidth
+    implicitHeight: contentHeight + topPadding + bottomPadding
     modal: true
     focus: true
     closePolicy: Popup.CloseOnEscape
     padding: AppTheme.pageMargin
-    // The title names the dialog for assistive technology; it is shown in the content.
-    header: null
     onAboutToShow: (dialog.contentItem as Confirmation).focusCancel()
     onAccepted: dialog.confirmed()
 

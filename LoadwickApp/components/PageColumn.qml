@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Loadwick
 
@@ -15,7 +14,7 @@ PageAppear {
     readonly property real room: scroller.availableWidth < AppTheme.detailMinimumWidth
         ? AppTheme.contentWidth : scroller.availableWidth
 
-    ScrollView {
+    ThinScrollView {
         id: scroller
 
         anchors.fill: parent
@@ -23,12 +22,6 @@ PageAppear {
         contentHeight: column.implicitHeight + 2 * AppTheme.pageMargin
         // Its default steps would be a tenth of the page, however long that is.
         Keys.onPressed: event => { event.accepted = scroll.press(event.key); }
-        ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
-        ScrollBar.vertical: ThinScrollBar {
-            parent: scroller
-            x: scroller.mirrored ? 0 : scroller.width - width
-            height: scroller.height
-        }
 
         ColumnLayout {
             id: column

@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as Templates
+import QtQuick.Templates
 import Loadwick
 
-// The only label of the window. It shows its text literally, never as markup. It derives from the
-// template, since a style's label creates a palette, which costs more than the label.
-Templates.Label {
+// The only label of the window. It shows its text literally, never as markup.
+Label {
     property bool secondary: false
 
     textFormat: Text.PlainText

@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // A menu of plain items on a floating card. Home, End, Page Up and Page Down go to its first and
@@ -21,6 +21,9 @@ Menu {
     function isLast(key) { return key === Qt.Key_End || key === Qt.Key_PageDown; }
     function isOwnKey(key) { return menu.isFirst(key) || menu.isLast(key); }
 
+    implicitWidth: contentWidth + leftPadding + rightPadding
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    margins: 0
     padding: AppTheme.tightSpace
 
     background: Rectangle {
@@ -36,7 +39,7 @@ Menu {
         interactive: Window.window !== null && contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height
         clip: true
         focus: true
-        ScrollIndicator.vertical: ScrollIndicator {}
+        ScrollBar.vertical: ThinScrollBar { }
 
         Keys.onShortcutOverride: event => { event.accepted = menu.isOwnKey(event.key); }
         Keys.onPressed: event => {

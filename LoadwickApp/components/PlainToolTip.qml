@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // A tool tip in plain text: `words`, because the control's own text accepts markup.
@@ -11,6 +11,10 @@ ToolTip {
     delay: 600
     // Without it, the tool tip of the focused item would cover the page for good.
     timeout: 10000
+    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutsideParent | Popup.CloseOnReleaseOutsideParent
+    x: parent ? (parent.width - implicitWidth) / 2 : 0
+    y: -implicitHeight - 3
+    margins: 6
     padding: AppTheme.smallSpace
     contentItem: PlainLabel {
         text: control.words
@@ -21,6 +25,7 @@ ToolTip {
     }
     // Never wider than a comfortable line.
     implicitWidth: Math.min(implicitContentWidth + leftPadding + rightPadding, AppTheme.scaled(320))
+    implicitHeight: contentHeight + topPadding + bottomPadding
     background: Rectangle {
         color: AppTheme.surface
         radius: AppTheme.controlRadius

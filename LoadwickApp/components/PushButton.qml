@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // The only button of the window: a symbol and words. The words are `title`, because the control's

@@ -1,11 +1,14 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // A quiet scroll bar, visible whenever the content overflows.
 ScrollBar {
     id: bar
 
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    visible: policy !== ScrollBar.AlwaysOff
     policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
     minimumSize: 0.08
     padding: 2

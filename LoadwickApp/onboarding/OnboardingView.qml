@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // The sheet of the first launch. Nothing behind it can be reached while it is open.
@@ -35,13 +35,12 @@ Dialog {
 
     // Invisible; it names the sheet to a screen reader.
     title: sheet.onboarding.currentStep.title
-    header: null
-    footer: null
     parent: Overlay.overlay
     // Centred, on whole pixels.
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
     width: parent ? Math.min(AppTheme.sheetWidth, parent.width - 2 * AppTheme.pageMargin) : AppTheme.sheetWidth
+    implicitHeight: contentHeight + topPadding + bottomPadding
     height: parent ? Math.min(implicitHeight, parent.height - 2 * AppTheme.smallSpace) : implicitHeight
     padding: AppTheme.pageMargin
     modal: true

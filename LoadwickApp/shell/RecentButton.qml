@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // Beside the command that chooses a folder: the repositories chosen and scanned before.

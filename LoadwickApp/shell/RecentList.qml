@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // The rows of the RecentMenu. The keys skip a repository whose folder is gone; the current row has

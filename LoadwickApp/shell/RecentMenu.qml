@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // The repositories that can be chosen again, the one scanned last first. Typing narrows them down,
@@ -16,6 +16,7 @@ Popup {
     x: button.width - menu.width
     y: button.height + AppTheme.tightSpace
     implicitWidth: AppTheme.scaled(380)
+    implicitHeight: contentHeight + topPadding + bottomPadding
     height: Math.min(menu.implicitHeight, menu.room)
     padding: AppTheme.tightSpace
     focus: true

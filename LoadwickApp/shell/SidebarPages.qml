@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
+import QtQuick.Templates
 import Loadwick
 
 // One row per page. The arrow keys move the selection, Home and End go to the ends.
@@ -45,7 +45,7 @@ ListView {
     }
 
     // To assistive technology a plain button stays a button, whatever role it has.
-    delegate: T.ItemDelegate {
+    delegate: ItemDelegate {
         id: row
 
         required property int index

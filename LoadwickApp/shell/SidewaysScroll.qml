@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // Keeps its content at its least width, and scrolls sideways where the window is narrower, as a

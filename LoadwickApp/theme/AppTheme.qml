@@ -69,22 +69,23 @@ QtObject {
     readonly property real currentTileOpacity: dark ? 0.5 : 0.65
     readonly property real tileDimming: 0.5
 
-    // The application's own family; its figures are of equal width, so it serves for numbers too.
-    // It has no medium weight, so medium text is semibold.
-    readonly property font heroMetricFont: Qt.font({ pixelSize: scaled(46), weight: Font.DemiBold, letterSpacing: -0.5 })
-    readonly property font largeTitleFont: Qt.font({ pixelSize: scaled(28), weight: Font.DemiBold, letterSpacing: -0.3 })
-    readonly property font gaugeFont: Qt.font({ pixelSize: scaled(24), weight: Font.DemiBold })
-    readonly property font title2Font: Qt.font({ pixelSize: scaled(20), weight: Font.DemiBold })
-    readonly property font title3Font: Qt.font({ pixelSize: scaled(17) })
-    readonly property font title3StrongFont: Qt.font({ pixelSize: scaled(17), weight: Font.DemiBold })
-    readonly property font headlineFont: Qt.font({ pixelSize: scaled(17), weight: Font.DemiBold })
-    readonly property font emphasisFont: Qt.font({ pixelSize: scaled(15), weight: Font.DemiBold })
-    readonly property font bodyFont: Qt.font({ pixelSize: scaled(13) })
-    readonly property font bodyStrongFont: Qt.font({ pixelSize: scaled(13), weight: Font.DemiBold })
-    readonly property font subheadlineFont: Qt.font({ pixelSize: scaled(13) })
-    readonly property font subheadlineStrongFont: Qt.font({ pixelSize: scaled(13), weight: Font.DemiBold })
-    readonly property font captionFont: Qt.font({ pixelSize: scaled(12) })
-    readonly property font captionStrongFont: Qt.font({ pixelSize: scaled(12), weight: Font.DemiBold })
+    // The application's own; its figures are of equal width, so it serves for numbers too. It has no
+    // medium weight, so medium text is semibold.
+    readonly property string family: Application.font.family
+    readonly property font heroMetricFont: Qt.font({ family: family, pixelSize: scaled(46), weight: Font.DemiBold, letterSpacing: -0.5 })
+    readonly property font largeTitleFont: Qt.font({ family: family, pixelSize: scaled(28), weight: Font.DemiBold, letterSpacing: -0.3 })
+    readonly property font gaugeFont: Qt.font({ family: family, pixelSize: scaled(24), weight: Font.DemiBold })
+    readonly property font title2Font: Qt.font({ family: family, pixelSize: scaled(20), weight: Font.DemiBold })
+    readonly property font title3Font: Qt.font({ family: family, pixelSize: scaled(17) })
+    readonly property font title3StrongFont: Qt.font({ family: family, pixelSize: scaled(17), weight: Font.DemiBold })
+    readonly property font headlineFont: Qt.font({ family: family, pixelSize: scaled(17), weight: Font.DemiBold })
+    readonly property font emphasisFont: Qt.font({ family: family, pixelSize: scaled(15), weight: Font.DemiBold })
+    readonly property font bodyFont: Qt.font({ family: family, pixelSize: scaled(13) })
+    readonly property font bodyStrongFont: Qt.font({ family: family, pixelSize: scaled(13), weight: Font.DemiBold })
+    readonly property font subheadlineFont: Qt.font({ family: family, pixelSize: scaled(13) })
+    readonly property font subheadlineStrongFont: Qt.font({ family: family, pixelSize: scaled(13), weight: Font.DemiBold })
+    readonly property font captionFont: Qt.font({ family: family, pixelSize: scaled(12) })
+    readonly property font captionStrongFont: Qt.font({ family: family, pixelSize: scaled(12), weight: Font.DemiBold })
 
     readonly property int hairline: 1
     readonly property int tightSpace: 4

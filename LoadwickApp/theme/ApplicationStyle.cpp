@@ -5,7 +5,6 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QQmlEngine>
-#include <QQuickStyle>
 #include <QQuickWindow>
 
 #include "base/SourcePages.h"
@@ -34,7 +33,6 @@ QString installedFamily(const QStringList &preferred)
 
 void prepare()
 {
-    QQuickStyle::setStyle(QStringLiteral("Basic"));
     // The default renderer has coloured fringes and heavier stems than the software renderer.
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
     // Emulated GL takes twice the time and memory of the software renderer for the same result.

@@ -4,10 +4,10 @@ class QGuiApplication;
 class QQmlEngine;
 
 /// The set-up of every program that shows this module's QML: the window, the gallery, the tests and
-/// the picture tools. Without it a program would run with another style and font.
+/// the picture tools. Without it a program would run with another font.
 namespace Loadwick::ApplicationStyle {
 
-/// Chooses the control style, the text renderer and, on machines without a graphics device, the
+/// Chooses the text renderer and, on machines without a graphics device, the
 /// software renderer. Call it before the first window.
 void prepare();
 

@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // The scans that can be chosen for one side of the comparison, the newest first. Only the rows that

@@ -10,7 +10,7 @@
 
 int main(int argc, char **argv)
 {
-    QQuickStyle::setStyle(QStringLiteral("Basic")); // as in the program
+    QQuickStyle::setStyle(QStringLiteral("Basic")); // the least of the styles
     QGuiApplication application(argc, argv);
     QQmlEngine engine;
     QQmlComponent component(&engine);

@@ -76,7 +76,7 @@ private:
     std::unique_ptr<QObject> make(const QByteArray &qml)
     {
         QQmlComponent component(&m_engine);
-        component.setData("import QtQuick.Controls\n" + qml, QUrl());
+        component.setData("import QtQuick.Templates\n" + qml, QUrl());
         std::unique_ptr<QObject> made(component.create());
         if (!made)
             qFatal("%s", qPrintable(component.errorString()));

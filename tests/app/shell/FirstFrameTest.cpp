@@ -87,6 +87,13 @@ private Q_SLOTS:
         QVERIFY(!isMade(type));
     }
 
+    // The program draws all controls itself.
+    void theToolkitsOwnControlsAreNotLoaded()
+    {
+        QVERIFY(isLoaded("libQt6QuickTemplates2"));
+        QVERIFY(!isLoaded("Controls2"));
+    }
+
     void theDialogsAreNotLoaded()
     {
         QVERIFY(isLoaded("libQt6QuickTemplates2"));

@@ -114,7 +114,7 @@ private:
     void show(const QByteArray &content)
     {
         QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport QtQuick.Controls\n"
+        component.setData("import QtQuick\nimport QtQuick.Templates\n"
                           "ApplicationWindow { width: 300; height: 200; visible: true\n" +
                               content + "\n}",
                           QUrl());

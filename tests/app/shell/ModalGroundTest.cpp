@@ -22,7 +22,7 @@ private Q_SLOTS:
         QQmlComponent component(&m_engine);
         component.setData(R"(
             import QtQuick
-            import QtQuick.Controls
+            import QtQuick.Templates
             import Loadwick
             ApplicationWindow {
                 property alias modal: modal

@@ -15,7 +15,7 @@ namespace {
 
 constexpr char page[] = R"(
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 ApplicationWindow {

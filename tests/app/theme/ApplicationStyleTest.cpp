@@ -6,7 +6,6 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QQmlEngine>
-#include <QQuickStyle>
 #include <QTest>
 
 namespace Loadwick {
@@ -16,8 +15,6 @@ class ApplicationStyleTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void usesTheBasicControls() { QCOMPARE(QQuickStyle::name(), QStringLiteral("Basic")); }
-
     void figuresOfTheFontAreEquallyWide_data()
     {
         QTest::addColumn<int>("pixelSize");

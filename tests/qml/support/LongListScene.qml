@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates
 import Loadwick
 
 // A page that scrolls, with a long list between a head and a foot, and a tab stop before and after it.
