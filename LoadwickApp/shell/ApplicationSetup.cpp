@@ -1,7 +1,6 @@
 #include "shell/ApplicationSetup.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <QLocale>
 
 #include "shell/AccessibleEvents.h"
@@ -19,14 +18,11 @@ void prepare()
     ApplicationStyle::prepare();
 }
 
-void apply(QGuiApplication &application)
+void apply()
 {
     // Qt would use the language of its own translations, of which there are none.
     if (QLocale(QLocale().uiLanguages().value(0)).textDirection() == Qt::RightToLeft)
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    ApplicationStyle::applyFont(application);
-    // For desktops that do not take the icon from the desktop entry.
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Loadwick/application.png")));
     AccessibleEvents::install();
     AccessiblePress::install();
     ModalGround::install();

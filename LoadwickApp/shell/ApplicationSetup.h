@@ -1,14 +1,12 @@
 #pragma once
 
-class QGuiApplication;
-
 /// The set-up before the window opens, shared by the program, its tests and the picture tools.
 namespace Loadwick::ApplicationSetup {
 
 /// Call it before the application object is created.
 void prepare();
 
-/// Call it before the window is created.
-void apply(QGuiApplication &application);
+/// Call it once the application object exists, before the window is created.
+void apply();
 
 } // namespace Loadwick::ApplicationSetup

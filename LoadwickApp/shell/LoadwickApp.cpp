@@ -2,17 +2,20 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 #include <optional>
 #include <utility>
 
 #include <QApplication>
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include "desktop/SingleInstance.h"
 #include "desktop/WindowActivation.h"
 #include "shell/ApplicationSetup.h"
 #include "shell/ProgramEnd.h"
+#include "theme/ApplicationStyle.h"
 
 namespace Loadwick::LoadwickApp {
 namespace {
@@ -64,7 +67,8 @@ int runWindow(int argc, char **argv, const MakeCollaborators &make,
     std::optional<DisplayFailure> displayFailure(std::in_place);
     QApplication application(argc, argv);
     displayFailure.reset();
-    ApplicationSetup::apply(application);
+    const std::future<QStringList> fonts = ApplicationStyle::readFonts();
+    ApplicationSetup::apply();
     LoadwickWindow::Collaborators collaborators = make(shutdown);
     const SingleInstance instance(collaborators.dataFolder, launchToken);
     if (instance.isAnswered()) {

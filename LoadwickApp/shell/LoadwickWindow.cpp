@@ -3,6 +3,9 @@
 #include <utility>
 
 #include <QDir>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQmlComponent>
 #include <QScreen>
 #include <QUrl>
 
@@ -173,10 +176,13 @@ void LoadwickWindow::makeCommands(const std::shared_ptr<TaskDispatcher> &dispatc
 void LoadwickWindow::makeWindow()
 {
     ApplicationStyle::addModulePath(m_engine);
+    const QUrl page(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml"));
+    const QQmlComponent types(&m_engine, page); // before any text: the fonts are still being read
+    ApplicationStyle::applyFont(*qGuiApp);
     ApplicationLook::follow(m_engine);
     QString failure;
     std::unique_ptr<QObject> made =
-        qmlObject(m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Loadwick/Main.qml")),
+        qmlObject(m_engine, page,
                   {{QStringLiteral("content"), QVariant::fromValue(m_content.get())},
                    {QStringLiteral("overview"), QVariant::fromValue(m_overview.get())},
                    {QStringLiteral("trends"), QVariant::fromValue(m_trends.get())},
@@ -193,6 +199,14 @@ void LoadwickWindow::makeWindow()
     m_window.reset(qobject_cast<QQuickWindow *>(made.release()));
     if (!m_window)
         fatalError("Main.qml makes no window.");
+    // For desktops that do not take it from the desktop entry. No frame waits for it.
+    QObject::connect(
+        m_window.get(), &QQuickWindow::frameSwapped, qGuiApp,
+        [] {
+            const QIcon icon(QStringLiteral(":/qt/qml/Loadwick/application.png"));
+            QGuiApplication::setWindowIcon(icon);
+        },
+        Qt::SingleShotConnection);
 }
 
 void LoadwickWindow::putNoticesOn(std::unique_ptr<NoticeBoard> board)

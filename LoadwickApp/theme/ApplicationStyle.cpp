@@ -40,6 +40,11 @@ void prepare()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
+std::future<QStringList> readFonts()
+{
+    return std::async([] { return QFontDatabase::families(); });
+}
+
 void applyFont(QGuiApplication &application)
 {
     // Open Sans comes first: the only one packaged with a true semibold.

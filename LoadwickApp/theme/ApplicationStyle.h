@@ -1,5 +1,9 @@
 #pragma once
 
+#include <future>
+
+#include <QStringList>
+
 class QGuiApplication;
 class QQmlEngine;
 
@@ -11,8 +15,12 @@ namespace Loadwick::ApplicationStyle {
 /// software renderer. Call it before the first window.
 void prepare();
 
+/// Reads the list of installed fonts in the background, which takes a tenth of a start. Call it
+/// once the application object exists, which must outlive the future.
+[[nodiscard]] std::future<QStringList> readFonts();
+
 /// Sets the application's font: the first installed family of the preferred ones, which all have
-/// figures of one width.
+/// figures of one width. Waits for the list of installed fonts.
 void applyFont(QGuiApplication &application);
 
 /// Lets the engine find the module that is compiled into the program.

@@ -87,7 +87,8 @@ int openWindows(const Invocation &invocation)
 {
     ApplicationSetup::prepare();
     QApplication application(invocation.argc, invocation.argv);
-    ApplicationSetup::apply(application);
+    ApplicationSetup::apply();
+    ApplicationStyle::applyFont(application);
     GalleryView light(Appearance::Light);
     GalleryView dark(Appearance::Dark);
     light.showAt(20);

@@ -8,6 +8,7 @@
 
 #include "shell/ApplicationSetup.h"
 #include "stage/Subcommand.h"
+#include "theme/ApplicationStyle.h"
 
 namespace Loadwick {
 
@@ -51,7 +52,8 @@ int runOffScreen(const Invocation &invocation, const std::function<int()> &work)
     qputenv("QT_QUICK_BACKEND", "software");
     ApplicationSetup::prepare();
     QApplication application(invocation.argc, invocation.argv);
-    ApplicationSetup::apply(application);
+    ApplicationSetup::apply();
+    ApplicationStyle::applyFont(application);
     return work();
 }
 

@@ -3,6 +3,7 @@
 #include "shell/ApplicationSetup.h"
 #include "support/StandInProgram.h"
 #include "support/TestRegistry.h"
+#include "theme/ApplicationStyle.h"
 
 #include <QApplication>
 #include <QTest>
@@ -18,7 +19,8 @@ int main(int argc, char *argv[])
         return program(argc, argv);
     ApplicationSetup::prepare();
     QApplication application(argc, argv);
-    ApplicationSetup::apply(application);
+    ApplicationSetup::apply();
+    ApplicationStyle::applyFont(application);
     QStringList arguments = QApplication::arguments();
     const QString type = arguments.size() > 1 ? arguments.takeAt(1) : QString();
     const auto test = TestRegistry::make(type);
