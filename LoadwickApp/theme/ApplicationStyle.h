@@ -11,8 +11,8 @@ class QQmlEngine;
 /// the picture tools. Without it a program would run with another font.
 namespace Loadwick::ApplicationStyle {
 
-/// Chooses the text renderer and, on machines without a graphics device, the
-/// software renderer. Call it before the first window.
+/// Chooses the text renderer and, on machines without a graphics device, the software renderer.
+/// Call it before the first window.
 void prepare();
 
 /// Reads the list of installed fonts in the background, which takes a tenth of a start. Call it
