@@ -1,6 +1,7 @@
 #include "dialogs/FileDialog.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include <QChildEvent>
@@ -9,6 +10,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSplitter>
+#include <QThread>
+#include <QTimer>
 #include <QTreeView>
 
 #include "base/FolderUrl.h"
@@ -17,6 +20,7 @@ namespace Loadwick {
 namespace {
 
 constexpr QSize firstSize(760, 480);
+constexpr std::chrono::milliseconds loopEnd(50); // by then a closed menu has left its event loop
 
 /// ".png" for "PNG picture (*.png)".
 QString endingOf(const QString &kind)
@@ -41,12 +45,11 @@ QLineEdit *nameField(const FileDialog &dialog)
 
 } // namespace
 
-FileDialog::FileDialog(QWindow &window)
+FileDialog::FileDialog(QWindow &window) : m_loopLevel(QThread::currentThread()->loopLevel())
 {
     // The desktop's dialogs, too, are transient to this one's window.
     (void)winId();
     windowHandle()->setTransientParent(&window);
-    setAttribute(Qt::WA_DeleteOnClose);
     setOption(DontResolveSymlinks);
     resize(firstSize);
     move(window.geometry().center() - rect().center());
@@ -84,8 +87,23 @@ void FileDialog::accept()
 /// The dialog is deleted later: until then a held key reaches it again.
 void FileDialog::done(int result)
 {
-    if (!std::exchange(m_isDone, true))
-        QFileDialog::done(result);
+    if (std::exchange(m_isDone, true))
+        return;
+    QFileDialog::done(result);
+    for (QWidget *child : findChildren<QWidget *>())
+        if (child->isWindow() && child->isVisible())
+            child->close();
+    deleteAfterItsLoops();
+}
+
+/// Its menus and questions are on the stack, and its children. They wait in event loops of their
+/// own, in which a screen reader can still press the dialog's buttons.
+void FileDialog::deleteAfterItsLoops()
+{
+    if (QThread::currentThread()->loopLevel() <= m_loopLevel)
+        deleteLater();
+    else
+        QTimer::singleShot(loopEnd, this, &FileDialog::deleteAfterItsLoops);
 }
 
 /// A typed path can name a folder that is not UTF-8, which Qt's dialog does not list. Asks the disk
@@ -118,14 +136,12 @@ void FileDialog::showEvent(QShowEvent *event)
 
 FileDialog *FileDialogOpener::newDialog()
 {
-    if (!m_window || m_dialog)
+    if (!m_window || (m_dialog && !m_dialog->isDone()))
         return nullptr;
     m_dialog = new FileDialog(*m_window);
     m_dialog->setDirectoryUrl(m_folder);
-    QObject::connect(m_dialog, &QDialog::finished, m_dialog, [this] {
-        m_folder = m_dialog->directoryUrl();
-        m_dialog = nullptr; // it deletes itself
-    });
+    QObject::connect(m_dialog, &QDialog::finished, m_dialog,
+                     [this] { m_folder = m_dialog->directoryUrl(); });
     return m_dialog;
 }
 

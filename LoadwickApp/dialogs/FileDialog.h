@@ -27,6 +27,8 @@ public:
     /// "notes v1.2" does not name a kind.
     [[nodiscard]] QString missingEnding(const QString &name) const;
 
+    [[nodiscard]] bool isDone() const noexcept { return m_isDone; }
+
 protected:
     void accept() override;
     void done(int result) override;
@@ -35,7 +37,9 @@ protected:
 
 private:
     [[nodiscard]] bool takesAddress(const QString &text);
+    void deleteAfterItsLoops();
 
+    const int m_loopLevel;                            ///< of the event loop that opened it
     std::optional<std::filesystem::path> m_addressed; ///< by the typed address
     bool m_isDone = false;
 };

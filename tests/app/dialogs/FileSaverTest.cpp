@@ -3,7 +3,10 @@
 #include <memory>
 #include <optional>
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QPointer>
 #include <QTest>
 
 #include "support/DialogFixture.h"
@@ -37,6 +40,8 @@ private Q_SLOTS:
     void replacesAFileOnlyWhenTheUserAgrees();
     void asksInPlainText();
     void choosesNothingWhenTheUserCancels();
+    void endsWhileAMenuIsOpen();
+    void endsWhileAQuestionIsOpen();
     void asksOnceAtATime();
     void opensInTheFolderItShowedLast();
     void isANoOpWithoutAWindow();
@@ -260,6 +265,30 @@ void FileSaverTest::choosesNothingWhenTheUserCancels()
     DialogFixture::press(Qt::Key_Escape);
     QVERIFY(DialogFixture::dialog() == nullptr);
     QVERIFY(!m_target);
+}
+
+// A screen reader presses buttons beside a menu or behind a question.
+void FileSaverTest::endsWhileAMenuIsOpen()
+{
+    open();
+    const QPointer<QFileDialog> dialog = DialogFixture::dialog();
+    const auto cancel = DialogFixture::cancelOnce(&QApplication::activePopupWidget);
+    auto *list = dialog->findChild<QAbstractItemView *>(QStringLiteral("treeView"));
+    Q_EMIT list->customContextMenuRequested({});
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QTRY_VERIFY(dialog == nullptr);
+}
+
+void FileSaverTest::endsWhileAQuestionIsOpen()
+{
+    m_fixture->folder().write("trend.png", "precious");
+    open();
+    const QPointer<QFileDialog> dialog = DialogFixture::dialog();
+    const auto cancel = DialogFixture::cancelOnce(&QApplication::activeModalWidget);
+    DialogFixture::press(Qt::Key_Return);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QVERIFY(!m_target);
+    QTRY_VERIFY(dialog == nullptr);
 }
 
 void FileSaverTest::asksOnceAtATime()

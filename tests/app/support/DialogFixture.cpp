@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTest>
-#include <QTimer>
 #include <QTreeView>
 
 namespace Loadwick {
@@ -81,6 +80,19 @@ DialogFixture::Question DialogFixture::pressEnterAndAnswer(QDialogButtonBox::Sta
     poll.start(10);
     press(Qt::Key_Return); // returns when the question is answered
     return question;
+}
+
+std::unique_ptr<QTimer> DialogFixture::cancelOnce(QWidget *(*other)())
+{
+    auto poll = std::make_unique<QTimer>();
+    QObject::connect(poll.get(), &QTimer::timeout, poll.get(), [other, poll = poll.get()] {
+        if (QWidget *found = other(); found != nullptr && found != dialog()) {
+            poll->stop();
+            button(QDialogButtonBox::Cancel).click();
+        }
+    });
+    poll->start(10);
+    return poll;
 }
 
 } // namespace Loadwick

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QQuickWindow>
+#include <QTimer>
 #include <QUrl>
 
 #include "samples/TemporaryFolder.h"
@@ -47,6 +48,8 @@ public:
         bool isPlain = false;
     };
     [[nodiscard]] static Question pressEnterAndAnswer(QDialogButtonBox::StandardButton answer);
+    /// Presses "Cancel" as soon as there is a widget of another window, in whatever event loop.
+    [[nodiscard]] static std::unique_ptr<QTimer> cancelOnce(QWidget *(*other)());
 
 private:
     QByteArray m_home = qgetenv("HOME");
