@@ -11,7 +11,9 @@ HoverHandler {
     // The item the tip points at, if one item handles the pointer for many.
     property Item about: tip.parent
     property bool wanted: tip.hovered
-    readonly property bool isDue: tip.wanted && tip.words.length > 0
+    // A row that a list keeps for later has no window to open the tip in.
+    readonly property bool isDue: tip.wanted && tip.words.length > 0 && tip.about !== null
+                                  && tip.about.Window.window !== null
     property PlainToolTip shown: null
 
     function showOrHide() {

@@ -28,6 +28,7 @@ Item {
     }
 
     Item {
+        id: asker
         x: 120; width: 100; height: 40
         HoverTip { id: asked; words: "asked"; wanted: false }
     }
@@ -91,6 +92,15 @@ Item {
             compare(toolTipOf(asked).words, "asked");
             asked.wanted = false;
             compare(toolTipOf(asked), null);
+        }
+
+        function test_hidesWhereItsSubjectLeavesTheWindow() {
+            asked.wanted = true;
+            verify(toolTipOf(asked) !== null);
+            asker.parent = null;
+            compare(toolTipOf(asked), null);
+            asker.parent = scene;
+            asked.wanted = false;
         }
 
         function test_showsMarkupVerbatim() {
