@@ -27,19 +27,26 @@ ColumnLayout {
     spacing: AppTheme.mediumSpace
 
     Hairline { Layout.fillWidth: true }
-    RowLayout {
+    // Anchored: a row laid out first at the width of its words may keep that width.
+    Item {
         Layout.fillWidth: true
         Layout.topMargin: AppTheme.tightSpace
-        spacing: AppTheme.cardSpace
+        implicitHeight: heading.implicitHeight
 
         SectionHeader {
-            Layout.fillWidth: true
+            id: heading
+
+            anchors.left: parent.left
+            anchors.right: pill.visible ? pill.left : parent.right
+            anchors.rightMargin: pill.visible ? AppTheme.cardSpace : 0
             title: qsTr("What changed")
             titleFont: AppTheme.emphasisFont
             detail: qsTr("Choose two scans here, or the later one in the chart above.")
         }
         ProvenancePill {
-            Layout.alignment: Qt.AlignTop
+            id: pill
+
+            anchors.right: parent.right
             label: qsTr("Categories: local estimates")
             visible: section.changes.whyOnlyTotals.length === 0
         }
