@@ -15,9 +15,8 @@ int sixteenths(double degrees)
 
 } // namespace
 
-GaugeArc::GaugeArc(QQuickItem *parent) : QQuickPaintedItem(parent)
+GaugeArc::GaugeArc(QQuickItem *parent) : PainterItem(parent)
 {
-    setAntialiasing(true);
     connect(this, &GaugeArc::looksChanged, this, [this] { update(); });
 }
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 
 #include <QColor>
-#include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
+
+#include "base/PainterItem.h"
 
 namespace Loadwick {
 
@@ -25,7 +26,7 @@ inline constexpr double fullSpan = -270;
 
 /// The ring of a gauge that fills clockwise from its lower left to its lower right end. It fills
 /// the item and has no text.
-class GaugeArc : public QQuickPaintedItem
+class GaugeArc : public Loadwick::PainterItem
 {
     Q_OBJECT
     QML_ELEMENT

@@ -32,11 +32,10 @@ std::optional<int> markAfterKey(int key, int chosen, int count)
 
 } // namespace
 
-MarkedChart::MarkedChart(QQuickItem *parent) : QQuickPaintedItem(parent)
+MarkedChart::MarkedChart(QQuickItem *parent) : PainterItem(parent)
 {
     setAcceptHoverEvents(true);
     setActiveFocusOnTab(true);
-    setAntialiasing(true);
     connect(this, &MarkedChart::currentMarkChanged, this, [this] { update(); });
 }
 
@@ -88,7 +87,7 @@ void MarkedChart::keyPressEvent(QKeyEvent *event)
 void MarkedChart::focusOutEvent(QFocusEvent *event)
 {
     setMarks(m_pointed, -1);
-    QQuickPaintedItem::focusOutEvent(event);
+    PainterItem::focusOutEvent(event);
 }
 
 void MarkedChart::setMarks(int pointed, int chosen)

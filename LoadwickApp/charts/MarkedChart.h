@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
+
+#include "base/PainterItem.h"
 
 namespace Loadwick {
 
@@ -11,7 +12,7 @@ namespace Loadwick {
 ///
 /// Arrow keys move to the next or previous mark and stop at the ends, Home and End jump there, and
 /// Escape clears it. The first key chooses the first mark, or the last if it points backwards.
-class MarkedChart : public QQuickPaintedItem
+class MarkedChart : public Loadwick::PainterItem
 {
     Q_OBJECT
     QML_ANONYMOUS

@@ -24,10 +24,4 @@ void fillBar(QPainter &painter, const QRectF &bar, const QColor &color)
     painter.drawRoundedRect(bar, radius, radius);
 }
 
-void repaint(QQuickPaintedItem &row)
-{
-    if (row.flags().testFlag(QQuickItem::ItemHasContents))
-        row.update();
-}
-
 } // namespace Loadwick::RowPainting

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QPointer>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 #include <QRectF>
 #include <QString>
 
@@ -23,13 +23,10 @@ void write(QPainter &painter, const QRectF &box, Qt::Alignment side, const QStri
 /// Fills a bar whose corners are as round as its width allows.
 void fillBar(QPainter &painter, const QRectF &bar, const QColor &color);
 
-/// Repaints a row, unless it has no picture.
-void repaint(QQuickPaintedItem &row);
-
 /// Makes a row follow another style, null for none: the row is repainted whenever the style has
 /// changed. False if the row has that style already.
 template<typename Style>
-bool follow(QQuickPaintedItem &row, QPointer<Style> &followed, Style *style)
+bool follow(QQuickItem &row, QPointer<Style> &followed, Style *style)
 {
     if (followed == style)
         return false;
@@ -37,8 +34,8 @@ bool follow(QQuickPaintedItem &row, QPointer<Style> &followed, Style *style)
         followed->disconnect(&row);
     followed = style;
     if (style)
-        QObject::connect(style, &Style::changed, &row, [&row] { repaint(row); });
-    repaint(row);
+        QObject::connect(style, &Style::changed, &row, [&row] { row.update(); });
+    row.update();
     return true;
 }
 

@@ -69,27 +69,15 @@ BarRowLayout BarRowLayout::mirrored(qreal rowWidth) const
             .bar = mirroredIn(rowWidth, bar)};
 }
 
-BarRow::BarRow(QQuickItem *parent) : QQuickPaintedItem(parent)
+BarRow::BarRow(QQuickItem *parent) : PainterItem(parent)
 {
-    setAntialiasing(true);
-    connect(this, &BarRow::changed, this, [this] { repaint(*this); });
+    connect(this, &BarRow::changed, this, [this] { update(); });
 }
 
 void BarRow::setStyle(BarStyle *style)
 {
     if (follow(*this, m_style, style))
         Q_EMIT styleChanged();
-}
-
-// The scene deletes the picture of an item that must be painted and has no contents.
-void BarRow::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    QQuickPaintedItem::itemChange(change, data);
-    if (change != ItemVisibleHasChanged)
-        return;
-    setFlag(ItemHasContents);
-    update();
-    setFlag(ItemHasContents, data.boolValue);
 }
 
 QString BarRow::tip() const

@@ -3,9 +3,10 @@
 #include <QColor>
 #include <QFont>
 #include <QPointer>
-#include <QQuickPaintedItem>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
+
+#include "base/PainterItem.h"
 
 namespace Loadwick {
 
@@ -68,9 +69,8 @@ struct BarRowLayout
 
 /// One row of a bar chart, painted: a name, a figure and a bar on the track of its scale. One item
 /// rather than five, because a page of bars has hundreds that come and go as it scrolls. A name
-/// that does not fit is elided in the middle, a figure never. A hidden row has no picture: the rows
-/// of the page that is not shown, and those that are kept for reuse, would hold twenty megabytes.
-class BarRow : public QQuickPaintedItem
+/// that does not fit is elided in the middle, a figure never.
+class BarRow : public Loadwick::PainterItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -118,9 +118,6 @@ public:
 Q_SIGNALS:
     void changed();
     void styleChanged();
-
-protected:
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
     [[nodiscard]] BarRowLayout unmirroredLayout() const;

@@ -61,13 +61,6 @@ std::vector<CombinedRows::Role> combinedRoles(const TextLocale &locale)
     };
 }
 
-// Never in the scene: a window paints hidden items too, and with many repositories this would be an
-// image of a gigabyte.
-CombinedPicture::CombinedPicture(QQuickItem *parent) : QQuickPaintedItem(parent)
-{
-    setFlag(ItemHasContents, false);
-}
-
 void CombinedPicture::setRows(RowList *rows)
 {
     if (m_rows == rows)

@@ -10,10 +10,10 @@
 #include <QColor>
 #include <QList>
 #include <QPointer>
-#include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
 #include "base/ListOf.h"
+#include "base/PainterItem.h"
 #include "compare/BarRow.h"
 #include "compare/Comparison.h"
 
@@ -55,7 +55,7 @@ using CombinedRows = ListOf<CombinedLine, CombinedLines>;
 
 /// The whole chart, for a file: the page itself creates only the lines that it shows. Its height
 /// follows from its lines.
-class CombinedPicture : public QQuickPaintedItem
+class CombinedPicture : public Loadwick::PainterItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -66,7 +66,7 @@ class CombinedPicture : public QQuickPaintedItem
 public:
     static constexpr int rowHeight = 24;
 
-    explicit CombinedPicture(QQuickItem *parent = nullptr);
+    using PainterItem::PainterItem;
 
     [[nodiscard]] RowList *rows() const { return m_rows; }
     /// Rows with the roles of `combinedRoles`.

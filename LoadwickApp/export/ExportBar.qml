@@ -7,7 +7,7 @@ RowLayout {
     id: bar
 
     required property PageExport exporter
-    required property PaintedItem chart
+    required property PainterItem chart
     // The words above the chart in its picture.
     required property string title
     required property list<string> lines

@@ -40,10 +40,10 @@ void PageExport::saveTable()
          m_contents.table());
 }
 
-void PageExport::saveChart(QQuickPaintedItem *chart, PictureFrame *frame)
+void PageExport::saveChart(PainterItem *chart, PictureFrame *frame)
 {
     const QPointer<PageExport> page(this);
-    const QPointer<QQuickPaintedItem> shown(chart);
+    const QPointer<PainterItem> shown(chart);
     const QPointer<PictureFrame> around(frame);
     const FileSaver::Request request = {
         .title = tr("Save the chart"),

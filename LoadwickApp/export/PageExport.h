@@ -5,10 +5,10 @@
 #include <system_error>
 
 #include <QObject>
-#include <QQuickPaintedItem>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/PainterItem.h"
 #include "dialogs/FileSaver.h"
 #include "export/PictureFrame.h"
 #include "model/TaskDispatcher.h"
@@ -44,7 +44,7 @@ public:
     Q_INVOKABLE void saveTable();
 
     /// As a drawing if the file's name ends in ".svg", else as a picture.
-    Q_INVOKABLE void saveChart(QQuickPaintedItem *chart, Loadwick::PictureFrame *frame);
+    Q_INVOKABLE void saveChart(Loadwick::PainterItem *chart, Loadwick::PictureFrame *frame);
 
     /// The report as it is at that moment.
     Q_INVOKABLE void saveReport();

@@ -72,7 +72,7 @@ QByteArray wellFormed(const QByteArray &drawing, const QString &title)
 
 } // namespace
 
-PictureFrame::Bytes PictureFrame::png(QQuickPaintedItem &chart) const
+PictureFrame::Bytes PictureFrame::png(PainterItem &chart) const
 {
     QImage image(sizeWith(chart) * pixelsPerPoint, QImage::Format_RGB32);
     QPainter painter(&image);
@@ -87,7 +87,7 @@ PictureFrame::Bytes PictureFrame::png(QQuickPaintedItem &chart) const
     };
 }
 
-PictureFrame::Bytes PictureFrame::svg(QQuickPaintedItem &chart) const
+PictureFrame::Bytes PictureFrame::svg(PainterItem &chart) const
 {
     QBuffer file;
     QSvgGenerator generator;
@@ -101,12 +101,12 @@ PictureFrame::Bytes PictureFrame::svg(QQuickPaintedItem &chart) const
     return [bytes = wellFormed(file.data(), m_title)] { return bytes; };
 }
 
-QSize PictureFrame::sizeWith(const QQuickPaintedItem &chart) const
+QSize PictureFrame::sizeWith(const PainterItem &chart) const
 {
     return sizeAround(chart.size()).boundedTo(QSize(tallestImage, tallestImage) / pixelsPerPoint);
 }
 
-void PictureFrame::paintWith(QQuickPaintedItem &chart, QPainter &painter) const
+void PictureFrame::paintWith(PainterItem &chart, QPainter &painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     paint(painter, sizeWith(chart));

@@ -8,10 +8,11 @@
 #include <QList>
 #include <QObject>
 #include <QPainter>
-#include <QQuickPaintedItem>
 #include <QSize>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
+
+#include "base/PainterItem.h"
 
 namespace Loadwick {
 
@@ -37,10 +38,10 @@ public:
     using Bytes = std::function<QByteArray()>;
 
     /// The chart as it is now, at twice its size.
-    [[nodiscard]] Bytes png(QQuickPaintedItem &chart) const;
+    [[nodiscard]] Bytes png(PainterItem &chart) const;
 
     /// The chart as it is now, in vector graphics.
-    [[nodiscard]] Bytes svg(QQuickPaintedItem &chart) const;
+    [[nodiscard]] Bytes svg(PainterItem &chart) const;
 
     /// The size of a picture with a chart of that size.
     [[nodiscard]] QSize sizeAround(const QSizeF &chart) const;
@@ -50,8 +51,8 @@ public:
     void paint(QPainter &painter, const QSize &size) const;
 
 private:
-    [[nodiscard]] QSize sizeWith(const QQuickPaintedItem &chart) const;
-    void paintWith(QQuickPaintedItem &chart, QPainter &painter) const;
+    [[nodiscard]] QSize sizeWith(const PainterItem &chart) const;
+    void paintWith(PainterItem &chart, QPainter &painter) const;
     [[nodiscard]] double headingHeight(double width) const;
 
     QString m_title;

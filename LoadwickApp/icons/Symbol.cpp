@@ -36,10 +36,9 @@ QImage SymbolPictures::find(const QString &key, const std::function<QImage()> &m
     return made;
 }
 
-Symbol::Symbol(QQuickItem *parent) : QQuickPaintedItem(parent)
+Symbol::Symbol(QQuickItem *parent) : PainterItem(parent)
 {
     setImplicitSize(naturalSize, naturalSize);
-    setAntialiasing(true);
 }
 
 Symbol::~Symbol() = default;

@@ -5,7 +5,8 @@
 
 #include <QColor>
 #include <QImage>
-#include <QQuickPaintedItem>
+
+#include "base/PainterItem.h"
 
 class QSvgRenderer;
 
@@ -23,7 +24,7 @@ namespace SymbolPictures {
 
 /// One drawing of the window's own set in one colour, crisp at any size and scale. It keeps its
 /// proportions and is centred in the item. A name without a drawing paints nothing and warns.
-class Symbol : public QQuickPaintedItem
+class Symbol : public Loadwick::PainterItem
 {
     Q_OBJECT
     QML_ELEMENT

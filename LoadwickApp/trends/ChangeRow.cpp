@@ -76,9 +76,8 @@ QRectF ChangeRowLayout::bar(double length, bool isMirrored) const
     return {pointsRight ? zero : zero - width, track.top(), width, track.height()};
 }
 
-ChangeRow::ChangeRow(QQuickItem *parent) : QQuickPaintedItem(parent)
+ChangeRow::ChangeRow(QQuickItem *parent) : PainterItem(parent)
 {
-    setAntialiasing(true);
     connect(this, &ChangeRow::changed, this, [this] { update(); });
 }
 

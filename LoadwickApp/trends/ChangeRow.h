@@ -3,10 +3,10 @@
 #include <QColor>
 #include <QFont>
 #include <QPointer>
-#include <QQuickPaintedItem>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include "base/PainterItem.h"
 #include "components/TrendMark.h"
 
 namespace Loadwick {
@@ -84,7 +84,7 @@ struct ChangeRowLayout
 /// One row of a table of changes, painted: a name and its note, two figures, their difference, and
 /// a bar from a common zero. One item rather than ten, because another choice replaces all rows at
 /// once. A name that does not fit is elided in the middle, a figure never.
-class ChangeRow : public QQuickPaintedItem
+class ChangeRow : public Loadwick::PainterItem
 {
     Q_OBJECT
     QML_ELEMENT
