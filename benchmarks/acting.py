@@ -6,7 +6,7 @@ from __future__ import annotations
 from pathlib import Path
 
 from rounds import Row, window_row
-from window import OFF_SCREEN, output_of, start
+from window import OFF_SCREEN, Display, output_of, start
 
 ORDINARY = 30  # categories in each scan
 FULL = 4_400  # two hundred such scans are as long as the store allows
@@ -23,11 +23,12 @@ def costs(programs: Path, categories: int) -> Costs:
 
 
 def action_rows(programs: Path, data: Path, count: int) -> list[Row]:
-    """The window that acts has no connection to a desktop: the memory is what the program's own has
-    after its start, and what the actions add in the other."""
-    bare = [start(programs / "startup_bare", "/nonexistent")[1] for _ in range(count)]
-    own = [start(programs / "startup_loadwick", str(data / "home-ordinary"))[1]
-           for _ in range(count)]
+    """The window that acts is off screen: the memory is what the program's own has after its start,
+    and what the actions add in the other."""
+    with Display():
+        bare = [start(programs / "startup_bare", "/nonexistent")[1] for _ in range(count)]
+        own = [start(programs / "startup_loadwick", str(data / "home-ordinary"))[1]
+               for _ in range(count)]
     ordinary = [costs(programs, ORDINARY) for _ in range(count)]
     full = [costs(programs, FULL) for _ in range(count)]
 

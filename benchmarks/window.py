@@ -15,7 +15,9 @@ sys.path.insert(0, str(ROOT / "tests/endtoend"))
 
 from processes import wakes_of  # noqa: E402
 from rounds import Row, output_of, window_row  # noqa: E402
+from session import Display  # noqa: E402
 
+ON_DISPLAY = {"QT_QPA_PLATFORM": "xcb", "QT_QUICK_BACKEND": "software"}
 OFF_SCREEN = {"QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software"}
 FRAME = re.compile(r" +(\w+) +(\d+) frames +50th +([\d.]+) +99th +([\d.]+)")
 MANY = "compare-200x50"  # the scene of 200 repositories of 50 categories
@@ -29,20 +31,22 @@ Costs = dict[str, dict[str, float]]  # by scene and what it does: milliseconds
 
 def lines_of(command: list[str], environment: dict[str, str]) -> list[list[float]]:
     """The numbers that a window program prints, line by line."""
-    lines = output_of(command, OFF_SCREEN | environment).splitlines()
+    lines = output_of(command, environment).splitlines()
     return [[float(word) for word in line.split()] for line in lines]
 
 
 def start(program: Path, home: str) -> list[float]:
-    """Milliseconds from exec to the first frame, and resident KiB two seconds later."""
-    return lines_of([str(program)], {"HOME": home, "STARTUP_BEGAN": str(time.time_ns())})[0]
+    """Milliseconds from exec to the first frame, and resident KiB two seconds later. The caller has
+    a display."""
+    began = {"HOME": home, "STARTUP_BEGAN": str(time.time_ns())}
+    return lines_of([str(program)], ON_DISPLAY | began)[0]
 
 
 def startup_rows(programs: Path, data: Path, count: int) -> list[Row]:
-    """First frame and memory, by what is recorded. The windows start alternately; the first round
-    is a warm-up."""
+    """First frame and memory, by what is recorded. The windows start alternately on a display, as a
+    user's do; the first round is a warm-up."""
     ours = programs / "startup_loadwick"
-    with tempfile.TemporaryDirectory() as home:
+    with Display(), tempfile.TemporaryDirectory() as home:
         windows = {"bare": (programs / "startup_bare", home), "none": (ours, home),
                    "ordinary": (ours, str(data / "home-ordinary")),
                    "full": (ours, str(data / "home-full"))}
@@ -64,7 +68,7 @@ def startup_rows(programs: Path, data: Path, count: int) -> list[Row]:
 
 def scan_rows(programs: Path, count: int) -> list[Row]:
     """From the key to the first frame of the result."""
-    lines = lines_of([str(programs / "loadwick-stage"), "scans", str(count)], {})
+    lines = lines_of([str(programs / "loadwick-stage"), "scans", str(count)], OFF_SCREEN)
     return [Row("a scan with an instant stand-in, Ctrl+R to the first frame of the result",
                 "the stand-in alone and one frame",
                 [total - alone - frame for total, alone, frame in lines], 60, 60, " ms more"),
