@@ -1,5 +1,6 @@
 #include "shell/LoadwickWindow.h"
 
+#include <chrono>
 #include <utility>
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QIcon>
 #include <QQmlComponent>
 #include <QScreen>
+#include <QTimer>
 #include <QUrl>
 
 #include "base/QmlObject.h"
@@ -37,6 +39,8 @@ namespace Loadwick {
 namespace {
 
 constexpr int titleBarHeight = 40; // unknown before the window is shown
+
+constexpr std::chrono::seconds longestWait(1); // a minimised window has no first frame
 
 QUrl homeUrl()
 {
@@ -98,6 +102,7 @@ LoadwickWindow::LoadwickWindow(Collaborators given)
     // Started first: its answers arrive while everything else is created.
     if (given.appearance)
         given.appearance(dispatcher).release()->setParent(&m_engine);
+    given.scan.loadsHistoryAtOnce = false;
     m_model = std::make_unique<ScanModel>(std::move(given.scan));
     m_fileOpener = std::make_unique<FileOpener>(dispatcher, std::move(given.desktop));
     makePresenters(dispatcher, given.locale, given.home);
@@ -199,10 +204,14 @@ void LoadwickWindow::makeWindow()
     m_window.reset(qobject_cast<QQuickWindow *>(made.release()));
     if (!m_window)
         fatalError("Main.qml makes no window.");
-    // For desktops that do not take it from the desktop entry. No frame waits for it.
+    // A long history would take the second processor from the first frame.
+    const auto loadHistory = [this] { m_model->loadHistory(); };
+    QTimer::singleShot(longestWait, m_content.get(), loadHistory);
     QObject::connect(
-        m_window.get(), &QQuickWindow::frameSwapped, qGuiApp,
-        [] {
+        m_window.get(), &QQuickWindow::frameSwapped, m_content.get(),
+        [loadHistory] {
+            loadHistory();
+            // For desktops that do not take it from the desktop entry.
             const QIcon icon(QStringLiteral(":/qt/qml/Loadwick/application.png"));
             QGuiApplication::setWindowIcon(icon);
         },

@@ -24,16 +24,17 @@ HistoryKeeper::HistoryKeeper(std::shared_ptr<ScanHistoryStore> store,
                              std::shared_ptr<TaskDispatcher> dispatcher)
     : m_records(std::make_shared<Records>(Records{.store = std::move(store)})),
       m_dispatcher(std::move(dispatcher)),
-      m_tasks(m_dispatcher)
+      m_tasks(m_dispatcher),
+      m_isLoaded(m_records->store == nullptr)
 {}
 
 void HistoryKeeper::load()
 {
-    if (store() == nullptr)
+    if (store() == nullptr || m_isAsked)
         return;
-    m_isLoaded = false;
     run([](Records &records) { records.last = records.store->load(); },
         [](HistoryKeeper &self) { self.m_isLoaded = true; });
+    m_isAsked = true;
 }
 
 void HistoryKeeper::record(const RecordedScan &scan)
@@ -62,6 +63,7 @@ void HistoryKeeper::finish() const
 template<typename Work>
 void HistoryKeeper::change(Work work)
 {
+    load(); // what is recorded stays
     run(std::move(work), [](HistoryKeeper &self) { --self.m_unwritten; });
     ++m_unwritten;
 }

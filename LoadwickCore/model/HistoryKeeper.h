@@ -29,7 +29,7 @@ public:
     [[nodiscard]] Published<History> &history() noexcept { return m_history; }
     [[nodiscard]] bool isComplete() const noexcept { return m_isLoaded && m_unwritten == 0; }
 
-    /// Publishes what is recorded. Call it once, first.
+    /// Publishes what is recorded, once. The first change begins it too.
     void load();
     /// Throws `std::bad_alloc`, and records nothing, when there is no memory.
     void record(const RecordedScan &scan);
@@ -56,7 +56,8 @@ private:
     std::shared_ptr<Records> m_records;
     std::shared_ptr<TaskDispatcher> m_dispatcher;
     SerialTasks m_tasks;
-    bool m_isLoaded = true;
+    bool m_isAsked = false; ///< to load
+    bool m_isLoaded;
     int m_unwritten = 0; ///< changes that are underway
 };
 

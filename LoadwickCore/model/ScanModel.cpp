@@ -54,7 +54,8 @@ ScanModel::Internals::Internals(Collaborators collaborators)
 {
     if (!m_with.probeRunner || !m_with.instructionScanner || !m_with.dispatcher || !m_with.now)
         fatalError("a scan model lacks a collaborator");
-    m_keeper->load();
+    if (m_with.loadsHistoryAtOnce)
+        m_keeper->load();
 }
 
 bool ScanModel::Internals::isScanning() const noexcept
@@ -166,6 +167,11 @@ Published<std::vector<RecordedScan>> &ScanModel::history() noexcept
 bool ScanModel::canScan() const noexcept
 {
     return m_internals->selection.get().has_value() && !m_internals->isScanning();
+}
+
+void ScanModel::loadHistory()
+{
+    m_internals->keeper().load();
 }
 
 bool ScanModel::isHistoryComplete() const noexcept

@@ -40,9 +40,10 @@ public:
         std::function<std::chrono::sys_seconds()> now = [] {
             return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
         };
+        bool loadsHistoryAtOnce = true; ///< else with `loadHistory`
     };
 
-    /// Begins to load the history. All collaborators but the store are required.
+    /// All collaborators but the store are required.
     explicit ScanModel(Collaborators collaborators);
     ~ScanModel();
 
@@ -53,6 +54,9 @@ public:
     [[nodiscard]] Published<std::optional<RepoSelection>> &selection() noexcept;
     /// Oldest first; empty until it has been read.
     [[nodiscard]] Published<std::vector<RecordedScan>> &history() noexcept;
+
+    /// Begins to load the history, once. A scan that ends and a deletion begin it too.
+    void loadHistory();
 
     /// Whether `history` says what is recorded: it has been read, and no change of it is underway.
     [[nodiscard]] bool isHistoryComplete() const noexcept;

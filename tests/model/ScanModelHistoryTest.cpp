@@ -44,6 +44,42 @@ TEST_F(ScanModelHistoryTest, loadsTheHistoryOldestFirst)
     EXPECT_TRUE(model.canClearHistory());
 }
 
+TEST_F(ScanModelHistoryTest, loadsTheHistoryOnceWhenAsked)
+{
+    ScanHistoryStore store(harness.historyFolder());
+    const RecordedScan scan = RecordedScanBuilder().at(1).build();
+    static_cast<void>(store.append(scan));
+    ScanModel::Collaborators collaborators = harness.collaborators();
+    collaborators.loadsHistoryAtOnce = false;
+    ScanModel model(std::move(collaborators));
+    harness.dispatcher->runAll();
+    EXPECT_TRUE(model.history().get().empty());
+    EXPECT_FALSE(model.isHistoryComplete());
+    model.loadHistory();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.history().get(), History{scan});
+    EXPECT_TRUE(model.isHistoryComplete());
+    store.clear();
+    model.loadHistory();
+    harness.dispatcher->runAll();
+    EXPECT_EQ(model.history().get(), History{scan});
+}
+
+TEST_F(ScanModelHistoryTest, aScanThatEndsBeforeTheHistoryIsAskedForKeepsIt)
+{
+    ScanHistoryStore store(harness.historyFolder());
+    const RecordedScan scan = RecordedScanBuilder().at(1).build();
+    static_cast<void>(store.append(scan));
+    ScanModel::Collaborators collaborators = harness.collaborators();
+    collaborators.loadsHistoryAtOnce = false;
+    ScanModel model(std::move(collaborators));
+    harness.scanOnce(model);
+    ASSERT_EQ(model.history().get().size(), 2U);
+    EXPECT_EQ(model.history().get().front(), scan);
+    EXPECT_EQ(harness.recorded(), model.history().get());
+    EXPECT_TRUE(model.isHistoryComplete());
+}
+
 TEST_F(ScanModelHistoryTest, recordsASuccessfulScan)
 {
     LoadedScanModel model(harness);

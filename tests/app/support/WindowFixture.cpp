@@ -53,8 +53,8 @@ WindowFixture::WindowFixture(std::shared_ptr<OnboardingCompletionStore> completi
         .locale = locale,
         .weeklyLog = m_folder.path() / "weekly.jsonl",
     });
-    while (!m_loadwick->model().isHistoryComplete())
-        m_dispatcher->step();
+    m_loadwick->model().loadHistory();
+    m_dispatcher->stepNewest();
     m_loadwick->window().show();
     m_loadwick->window().requestActivate();
     if (!QTest::qWaitForWindowActive(&m_loadwick->window()))
