@@ -3,8 +3,13 @@
 from __future__ import annotations
 
 import os
+import time
 from dataclasses import dataclass
 from pathlib import Path
+
+from waiting import until
+
+STEADY_SECONDS = 1.5  # the program gives memory back a second after its history has changed
 
 
 def resident_megabytes(process: int) -> float:
@@ -13,6 +18,21 @@ def resident_megabytes(process: int) -> float:
         if line.startswith("VmRSS:"):
             return int(line.split()[1]) / 1024
     raise AssertionError(f"process {process} has no memory")
+
+
+def resting_megabytes(process: int) -> float:
+    """The resident memory once it has not changed for a while."""
+    found, since = resident_megabytes(process), time.monotonic()
+
+    def is_steady() -> bool:
+        nonlocal found, since
+        now = resident_megabytes(process)
+        if now != found:
+            found, since = now, time.monotonic()
+        return time.monotonic() - since > STEADY_SECONDS
+
+    until("the memory to rest", is_steady)
+    return found
 
 
 def children_of(process: int) -> list[int]:
