@@ -47,7 +47,8 @@ endfunction()
 function(loadwick_fuzz_window_programs)
     set(app "${PROJECT_SOURCE_DIR}/LoadwickApp")
     file(GLOB overview CONFIGURE_DEPENDS "${app}/overview/*.cpp")
-    set(sources "${app}/base/ListOf.cpp" "${app}/base/QtTaskDispatcher.cpp" "${app}/base/TokenText.cpp"
+    set(sources "${app}/base/ListOf.cpp" "${app}/base/PainterItem.cpp"
+                "${app}/base/QtTaskDispatcher.cpp" "${app}/base/TokenText.cpp"
                 "${app}/base/XmlText.cpp" "${app}/charts/BandMeterGeometry.cpp"
                 "${app}/charts/DonutChart.cpp" "${app}/charts/MarkedChart.cpp"
                 "${app}/components/TrendMark.cpp" "${app}/desktop/FileOpener.cpp"
