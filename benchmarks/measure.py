@@ -101,8 +101,8 @@ class Bench:
                     [scan(10_000) / scan(200)], 1.5, 1.5)]
 
     def startup(self) -> list[Row]:
-        """The window's first frame and its memory. Starts are short and vary: three a round."""
-        return startup_rows(self.programs, self.data, 3 * self.count)
+        """The window's first frame and its memory. Starts are short and vary: eight a round."""
+        return startup_rows(self.programs, self.data, 8 * self.count)
 
     def actions(self) -> list[Row]:
         """Pages, scans and a deletion over an ordinary history and the longest. A round takes a
