@@ -39,7 +39,8 @@ private Q_SLOTS:
         m_window = std::make_unique<QQuickWindow>();
         m_window->setColor(Qt::white);
         m_window->resize(100, 60);
-        m_item = new BlueItem(m_window->contentItem());
+        m_page = new QQuickItem(m_window->contentItem());
+        m_item = new BlueItem(m_page);
         m_item->setPosition({10, 20});
         m_item->setSize({30, 20});
         m_window->show();
@@ -85,12 +86,12 @@ private Q_SLOTS:
     }
 
     // Its picture was given back.
-    void paintsAgainWhenShownAgain()
+    void paintsAgainWhenItsPageIsShownAgain()
     {
         draw();
-        m_window->contentItem()->setVisible(false);
-        draw();
-        m_window->contentItem()->setVisible(true);
+        m_page->setVisible(false);
+        QCOMPARE(draw().pixelColor(20, 30), QColor(Qt::white));
+        m_page->setVisible(true);
         QCOMPARE(draw().pixelColor(20, 30), QColor(Qt::blue));
         QCOMPARE(m_item->paintCount, 2);
     }
@@ -107,6 +108,7 @@ private:
     QImage draw() { return m_window->grabWindow(); }
 
     std::unique_ptr<QQuickWindow> m_window;
+    QQuickItem *m_page = nullptr;
     BlueItem *m_item = nullptr;
 };
 

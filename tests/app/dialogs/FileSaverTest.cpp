@@ -275,8 +275,8 @@ void FileSaverTest::endsWhileAMenuIsOpen()
     const auto cancel = DialogFixture::cancelOnce(&QApplication::activePopupWidget);
     auto *list = dialog->findChild<QAbstractItemView *>(QStringLiteral("treeView"));
     Q_EMIT list->customContextMenuRequested({});
+    QTRY_VERIFY(dialog == nullptr); // Qt 6.8 does not wait for the menu's end
     QVERIFY(QApplication::activePopupWidget() == nullptr);
-    QTRY_VERIFY(dialog == nullptr);
 }
 
 void FileSaverTest::endsWhileAQuestionIsOpen()
